@@ -1,0 +1,166 @@
+#include "catalogue/PageCreation.h"
+
+#include "catalogue/TextNumbers.h"
+#include "catalogue/ZoneSlots.h"
+#include "editing/ZelkEdit.h"
+#include "editing/ZelkEditors.h"
+#include "frame/ZelkGUI.h"
+
+#include <wx/grid.h>
+#include <wx/notebook.h>
+#include <wx/panel.h>
+#include <wx/sizer.h>
+#include <wx/wxcrt.h>
+
+using namespace RadioCatalogue;
+
+void SetPageParameters(OrvZELFrame* frame, int page, int radio, int bandIndex) {
+    PageParameterRecord& parameters = PageParameters[page];
+    parameters.Radio = radio;
+    parameters.BandIndex = bandIndex;
+    parameters.Band = RadioBands[radio][bandIndex];
+    parameters.Rows = RadioRows[radio][bandIndex];
+    parameters.Type = GetRadioType(radio, parameters.Band);
+    parameters.Cols = ColumnCount[parameters.Type];
+
+    PageStrings[page] = {"", "", RadioName[radio], BandName[parameters.Band], RadioTypeName[parameters.Type]};
+    OpModes[page] = 0x30;
+    // Meant: these are the flags of the page that is selected now, also while another is made.
+    CurrentParameters().Flags = 0;
+    if (IsP25Type(parameters.Type))
+        ClearZoneSlots(page);
+    SetGuardRows(frame, page, parameters.Rows);
+}
+
+void SetGridColumns(wxGrid* grid, int type) {
+    for (int col = 0; col < ColumnTotal; ++col) {
+        // The minimal width goes first: a column never becomes narrower than its minimum. The
+        // same width as a minimum keeps a hidden column from being dragged open.
+        grid->SetColMinimalWidth(col, ColumnWidth[type][col]);
+        grid->SetColSize(col, ColumnWidth[type][col]);
+        grid->SetColLabelValue(col, ColumnHeading[type][col]);
+    }
+}
+
+void SetGridRowLabels(wxGrid* grid, int last) {
+    for (int row = 0; row <= last; ++row)
+        grid->SetRowLabelValue(row, NumberText(row));
+}
+
+namespace {
+
+void SetUpGrid(OrvZELFrame* frame, wxGrid* grid, int page) {
+    const int rows = PageParameters[page].Rows;
+    grid->CreateGrid(rows + 1, ColumnTotal);
+    grid->EnableEditing(true);
+    grid->EnableGridLines(true);
+    grid->EnableDragGridSize(false);
+    grid->SetMargins(0, 0);
+    grid->EnableDragColMove(false);
+    grid->EnableDragColSize(true);
+    grid->SetColLabelAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
+    SetGridColumns(grid, PageParameters[page].Type);
+
+    grid->SetDefaultRowSize(23, true);
+    grid->EnableDragRowSize(false);
+    // Scrolling by whole rows keeps the first row whole, on which the row menu counts.
+    grid->SetScrollLineY(grid->GetDefaultRowSize());
+    grid->SetRowLabelSize(wxGRID_AUTOSIZE);
+    grid->SetRowLabelAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
+    // Meant: one label more than there are rows.
+    SetGridRowLabels(grid, rows + 1);
+    grid->SetRowLabelSize(wxGRID_AUTOSIZE);
+    grid->SetColLabelSize(grid->GetRowSize(1));
+    grid->SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_TOP);
+    // The event names the grid's inner window that was clicked, so no id can be asked for here.
+    grid->Bind(wxEVT_CONTEXT_MENU, &OrvZELFrame::OnGridContextMenu, frame);
+}
+
+} // namespace
+
+void CreateNewPage(OrvZELFrame* frame, int page) {
+    auto* panel = new wxPanel(frame->m_notebook, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                              wxTAB_TRAVERSAL | wxBORDER_NONE);
+    frame->m_pagePanels[page] = frame->m_lastPanel = panel;
+    auto* sizer = new wxBoxSizer(wxVERTICAL);
+    auto* grid = new wxGrid(panel, wxID_ANY);
+    PageGrid[page] = grid;
+    SetUpGrid(frame, grid, page);
+    sizer->Add(grid, 1, wxEXPAND | wxALL, 5);
+    panel->SetSizer(sizer);
+    // For every page but the first this raises the page-changed event before it returns, so
+    // that the new page is the current one from here on.
+    frame->m_notebook->AddPage(panel, PageStrings[page].RadioName, true);
+    {
+        wxGridUpdateLocker quiet(grid);
+        SetPageEditors(page);
+        SetPageDefaults(frame, page);
+    }
+    grid->Bind(wxEVT_GRID_CELL_CHANGING, &OrvZELFrame::OnGridCellChanging, frame);
+    CurrentPage = page;
+    ++PageCount;
+}
+
+void SetPageDefaults(OrvZELFrame*, int page) {
+    const PageParameterRecord& parameters = PageParameters[page];
+    wxGrid* grid = PageGrid[page];
+    int defaultRow = parameters.Band;
+    if (parameters.Radio == 7)
+        defaultRow = 9;
+    else if (parameters.Radio == 8)
+        defaultRow = 10;
+    for (int col = 0; col < ColumnTotal; ++col)
+        grid->SetCellValue(0, col, PageDefault[defaultRow][col]);
+
+    if (IsP25Type(parameters.Type)) {
+        // Meant: these rows get their zones by the list that stands until now.
+        FillRowsFromDefault({1, GD1, GD2});
+        ZoneList = CurrentParameters().Type == NP25 ? ListOf(ZoneNames32) : ListOf(ZoneNames16);
+    }
+    grid->SetReadOnly(0, MNUM, true);
+    grid->ForceRefresh();
+}
+
+void FillRowsFromDefault(std::initializer_list<int> rows) {
+    wxGrid* grid = CurrentGrid();
+    grid->ClearSelection();
+    for (int row : rows)
+        grid->SelectRow(row, true);
+    CopyValuesToSelection(CurrentPage, GetRowValues(CurrentPage, 0), true, true);
+}
+
+bool NumberedDescription(const wxString& text, int width, wxString& base) {
+    size_t length = text.length();
+    while (length > 0 && text[length - 1] >= '0' && text[length - 1] <= '9')
+        --length;
+    if (length == text.length())
+        return false;
+    base = text.Left(std::min<size_t>(length, static_cast<size_t>(width - 3)));
+    return true;
+}
+
+void CopyValuesToSelection(int page, const wxArrayString& values, bool renumber, bool allColumns) {
+    wxGrid* grid = PageGrid[page];
+    const bool p25 = IsP25Type(PageParameters[page].Type);
+    const int limit = allColumns ? TFLG : SHD6;
+    wxString baseText;
+    const bool numbered = NumberedDescription(values[DESC], p25 ? 8 : 9, baseText);
+
+    wxGridUpdateLocker quiet(grid);
+    for (int row = 1; row <= PageParameters[page].Rows; ++row) {
+        if (!grid->IsInSelection(row, 0))
+            continue;
+        for (int col = 0; col <= limit; ++col)
+            grid->SetCellValue(row, col, values[col]);
+        if (numbered)
+            grid->SetCellValue(row, DESC, baseText + NumberText(row));
+        if (renumber) {
+            grid->SetCellValue(row, MNUM, NumberText(row));
+            if (p25)
+                grid->SetCellValue(row, PRIM, NumberText(row));
+        }
+        if (p25)
+            CheckZone(grid, row, "");
+    }
+    grid->ClearSelection();
+}

@@ -1,0 +1,117 @@
+// The pages of the window: their targets, texts and shared state, and the operations on rows.
+#pragma once
+
+#include "catalogue/RadioCatalogue.h"
+
+#include <wx/arrstr.h>
+#include <wx/colour.h>
+#include <wx/string.h>
+
+#include <array>
+#include <cstdint>
+
+class OrvZELFrame;
+class ZelkFrame;
+class wxGrid;
+
+/// The notebook holds at most this many pages.
+constexpr int PageLimit = 6;
+
+/// What a page is for. One record a page, by page number (0-based).
+struct PageParameterRecord {
+    int32_t Radio = 0;     ///< radio index
+    int32_t BandIndex = 0; ///< band slot of the radio
+    int32_t Band = 0;      ///< band id
+    int32_t Rows = 0;      ///< highest grid row number
+    int32_t Cols = 0;      ///< ColumnCount of the type
+    int32_t Type = 0;      ///< radio type
+    int32_t Flags = 0;     ///< page flags, below
+};
+
+/// Flags: the page's content came from a file.
+constexpr int32_t PageFromFile = 0x02;
+/// Flags: a file or import brought primaries or shadows.
+constexpr int32_t PageHasShadows = 0x08;
+/// Flags: rows are marked for column edits.
+constexpr int32_t PageHasMarks = 0x10;
+
+/// Texts of a page. One record a page.
+struct PageStringRecord {
+    wxString FileName; ///< the last file, without extension and directory
+    wxString FileDir;  ///< its directory, with a separator at the end
+    wxString RadioName;
+    wxString BandName;
+    wxString TypeName;
+};
+
+/// The one main window, from start-up on.
+extern ZelkFrame* MainFrame;
+/// Pages that exist, 1 to 6 once started.
+extern int32_t PageCount;
+/// 0-based index of the selected page.
+extern int32_t CurrentPage;
+/// Grids by page. The notebook owns them; entries shift down when a page is deleted.
+extern std::array<wxGrid*, PageLimit> PageGrid;
+extern std::array<PageParameterRecord, PageLimit> PageParameters;
+extern std::array<PageStringRecord, PageLimit> PageStrings;
+/// Operating modes that the connected radio accepts, by page: 0x40 "w", 0x20 "n", 0x10 "D".
+extern std::array<uint32_t, PageLimit> OpModes;
+/// Guard rows of the current page, -1 when it has none.
+extern int32_t GD1, GD2;
+/// Row on which the row context menu was last opened.
+extern int32_t ContextRow;
+/// The 32 cells kept by the row copy command, or empty.
+extern wxArrayString RowCopyBuffer;
+/// Background of a repaired cell.
+extern const wxColour FailColour;
+/// Background of a marked row.
+extern const wxColour MarkColour;
+
+/// The parameters of the current page.
+PageParameterRecord& CurrentParameters();
+
+/// The grid of the current page.
+wxGrid* CurrentGrid();
+
+/// True when the current page is of a P25 type.
+bool CurrentPageIsP25();
+
+/// The 32 cell texts of a row of the page.
+wxArrayString GetRowValues(int page, int row);
+
+/// On the current page: true as soon as one of the 32 cells has text.
+bool RowHasData(int row);
+
+/// On the current page: true when every column that the page's type shows has text. Cells that
+/// checks empty by design don't count: the zone of a shadow row and the tones of FXAM; nor does
+/// the blank filler column of O12.
+bool RowIsComplete(int row);
+
+/// Rows of the page that have data, from row 0 to Rows - 1: row 0 counts, the last row doesn't.
+int CountRowsWithData(int page);
+
+/// True when the row count of the page ends in the digit 2: its last two rows are guard rows.
+bool HasGuardRows(int page);
+
+/// True when the current page has guards and row is GD1 or later.
+bool IsGuardRow(int row);
+
+/// Sets GD1 and GD2 for a page of that many rows: -1 without guard rows.
+void SetGuardRows(OrvZELFrame* frame, int page, int rows);
+
+/// Empties a row of the current page and makes its read-only cells writable, SHAD excepted.
+/// With releaseZone the zone of the row that MNUM names is given back; a row without a number
+/// in 1 to Rows gives nothing back.
+void ClearRowData(int row, bool releaseZone);
+
+/// Keeps the cells of both guard rows of the current page.
+void SaveGuardRows(OrvZELFrame* frame);
+
+/// Writes the kept cells back into GD1 and GD2; with renumber MNUM becomes the row number.
+void RestoreGuardRows(OrvZELFrame* frame, bool renumber);
+
+/// RadioCatalogue::GetCodeIndex for the type of the current page.
+int GetCodeIndex(const wxString& text);
+
+/// RadioCatalogue::GetCodeText for the type of the current page.
+wxString GetCodeText(int i);

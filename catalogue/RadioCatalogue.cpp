@@ -1,0 +1,177 @@
+#include "catalogue/RadioCatalogue.h"
+
+namespace RadioCatalogue {
+
+wxArrayString ToneList;
+wxArrayString CtcssList;
+wxArrayString CodeList;
+wxArrayString ZoneList;
+
+namespace {
+
+template <size_t count>
+int FindText(const char* const (&texts)[count], const wxString& text) {
+    for (size_t i = 0; i < count; ++i)
+        if (text == texts[i])
+            return static_cast<int>(i);
+    return -1;
+}
+
+wxString EntryOf(const wxArrayString& list, int i) {
+    if (i < 0 || i >= static_cast<int>(list.size()))
+        return {};
+    return list[static_cast<size_t>(i)];
+}
+
+/// Choice texts of BandDialog by band id; bands that no choice offers have none.
+constexpr const char* BandChoiceText[BandTotal] = {
+    "FM: 30-50 MHz",   "FM: 66-88 MHz",   "",           "AM: 118-138 MHz", "", "FM: 138-174 MHz",
+    "AM: 225-400 MHz", "FM: 403-512 MHz", "K6: 3-BAND",
+};
+
+} // namespace
+
+void FillChoiceLists() {
+    ZoneList = ListOf(ZoneNames32);
+    ToneList = ListOf(ToneTexts);
+    CtcssList = ListOf(CtcssTexts);
+    CodeList = ListOf(CodeTexts);
+}
+
+int GetRadioType(int radio, int band) {
+    int type = ANFM;
+    switch (radio) {
+    case 2:
+        type = O12;
+        break;
+    case 6:
+        type = RP25;
+        break;
+    case 7:
+        type = NP25;
+        break;
+    case 8:
+        type = KDAR;
+        break;
+    case 17:
+        if (band == 8 || band == 9)
+            type = MDLX;
+        break;
+    default:
+        break;
+    }
+    const bool amBand = band == 2 || band == 3 || band == 6;
+    return amBand && type == ANFM ? ANAM : type;
+}
+
+int GetChannelStep(int radio, int band) {
+    switch (radio) {
+    case 2:
+    case 8:
+        return 8333;
+    case 7:
+        return 1250;
+    case 16:
+    case 17:
+        return band == 2 || band == 3 ? 8333 : 2500;
+    default:
+        return 2500;
+    }
+}
+
+int FindRadio(const wxString& name) {
+    return FindText(RadioName, name);
+}
+
+int FindRadioType(const wxString& tag) {
+    return FindText(RadioTypeName, tag);
+}
+
+int FindBand(const wxString& name) {
+    return FindText(BandName, name);
+}
+
+int FindBandIndex(int radio, int band) {
+    if (radio < 0 || radio >= RadioTotal)
+        return -1;
+    for (int slot = 0; slot < BandSlotTotal && RadioBands[radio][slot] != -1; ++slot)
+        if (RadioBands[radio][slot] == band)
+            return slot;
+    return -1;
+}
+
+void MakeBandList(int radio, wxArrayString& list) {
+    const auto append = [&list](std::initializer_list<int> bands) {
+        for (int band : bands)
+            list.push_back(BandChoiceText[band]);
+    };
+    // A fixed list a radio, in the order of its band slots: the position chosen is the slot.
+    switch (radio) {
+    case 9:
+        return append({5, 7});
+    case 10:
+        return append({5, 6});
+    case 11:
+    case 12:
+        return append({0, 5});
+    case 13:
+        return append({0, 5, 7});
+    case 14:
+        return append({1, 5, 7});
+    case 15:
+        return append({1, 5});
+    case 16:
+        return append({0, 3, 5, 6, 7});
+    case 17:
+        return append({0, 3, 5, 6, 7, 8});
+    default:
+        list.push_back("Error Bad Band Config");
+    }
+}
+
+int GetToneIndex(const wxString& text) {
+    return ToneList.Index(text);
+}
+
+int GetCtcssIndex(const wxString& text) {
+    return CtcssList.Index(text);
+}
+
+wxString GetToneText(int i) {
+    return EntryOf(ToneList, i);
+}
+
+wxString GetCtcssText(int i) {
+    return EntryOf(CtcssList, i);
+}
+
+int GetCodeIndex(const wxString& text, int type) {
+    const int i = CodeList.Index(text);
+    if (i == wxNOT_FOUND)
+        return -1;
+    return IsP25Type(type) ? i - 1 : i;
+}
+
+wxString GetCodeText(int i, int type) {
+    if (i < 0)
+        return {};
+    return EntryOf(CodeList, IsP25Type(type) ? i + 1 : i);
+}
+
+int GetModeIndex(const wxString& text) {
+    if (text == "w" || text == "W")
+        return 0;
+    if (text == "n" || text == "N")
+        return 1;
+    return text == "D" ? 2 : -1;
+}
+
+bool IsAnalogSquelch(const wxString& text, int column) {
+    return column == RSQL ? FindText(RxAnalogSquelch, text) >= 0 : FindText(TxAnalogSquelch, text) >= 0;
+}
+
+bool IsDigitalSquelch(const wxString& text, int column) {
+    return column == RSQL ? FindText(RxDigitalSquelch, text) >= 0 : FindText(TxDigitalSquelch, text) >= 0;
+}
+
+} // namespace RadioCatalogue

@@ -1,0 +1,23 @@
+// Numbers that live in cells as text.
+#pragma once
+
+#include <wx/string.h>
+
+#include <optional>
+
+/// The number that text begins with, in the given base (10 or 16). Leading blanks and a sign
+/// are taken, what follows the digits is not looked at. More than 32 bits saturate, so that
+/// such a number is out of every range. Without a digit there is no number.
+std::optional<int> ReadNumber(const wxString& text, int base = 10);
+
+/// ReadNumber in base 10, and 0 where there is no number.
+int ReadDecimal(const wxString& text);
+
+/// ReadNumber in base 16, and 0 where there is no number.
+int ReadHex(const wxString& text);
+
+/// A memory or row number as cells hold it: at least three decimal digits.
+wxString NumberText(int number);
+
+/// Flags as cells hold them: at least two upper-case hexadecimal digits.
+wxString FlagText(int flags);

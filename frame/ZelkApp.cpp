@@ -1,0 +1,17 @@
+#include "frame/ZelkApp.h"
+
+#include "frame/ZelkMain.h"
+
+#include <wx/image.h>
+#include <wx/stdpaths.h>
+
+bool ZelkApp::OnInit() {
+    // In the classic layout the toolkit's configuration file and the user data directory are one
+    // and the same path.
+    wxStandardPaths::Get().SetFileLayout(wxStandardPaths::FileLayout_XDG);
+    SetAppName("zelk");
+    wxInitAllImageHandlers();
+    MainFrame = new ZelkFrame(nullptr);
+    MainFrame->Show();
+    return true;
+}

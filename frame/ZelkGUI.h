@@ -1,0 +1,107 @@
+// The window layer: every control, and every command as a virtual operation.
+#pragma once
+
+#include "catalogue/PageModel.h"
+
+#include <wx/bookctrl.h>
+#include <wx/event.h>
+#include <wx/frame.h>
+#include <wx/grid.h>
+
+#include <array>
+#include <memory>
+
+class wxAsyncSerial;
+class wxMenu;
+class wxMenuBar;
+class wxMenuItem;
+class wxNotebook;
+class wxPanel;
+class wxStatusBar;
+class wxToolBar;
+class wxToolBarToolBase;
+
+/// The one main window without its commands' work. The operations below do nothing but skip
+/// their event; ZelkFrame overrides them. There is one window in a run.
+class OrvZELFrame : public wxFrame {
+public:
+    explicit OrvZELFrame(wxWindow* parent);
+    ~OrvZELFrame() override;
+
+    virtual void OnClose(wxCloseEvent& event) { event.Skip(); }
+    virtual void OnOpen(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnSave(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnSaveAs(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnImport(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnExport(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnPrint(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnPrintPreview(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnPageSetup(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnQuit(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnUpload(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnDownload(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnValidatePage(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnSelectAll(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnDeSelectAll(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnClearHighlight(wxCommandEvent& event) { event.Skip(); }
+    /// Connected to no command: a diagnostic that stands ready.
+    virtual void OnDebug(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnSetPort(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnSetTarget(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnHelp(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnAbout(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnPageChanged(wxBookCtrlEvent& event) { event.Skip(); }
+    virtual void OnPageChanging(wxBookCtrlEvent& event) { event.Skip(); }
+    virtual void OnPageAdd(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnPageDelete(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnGridCellChanging(wxGridEvent& event) { event.Skip(); }
+    virtual void OnDefaultRow(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnCreateShadow(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnCopyRow(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnPasteRow(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnInsertRow(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnClearRow(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnDeleteRow(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnMarkRow(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnDefaultCol(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnDefaultMarked(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnRenumberToRowNum(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnRenumberSequencial(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnDefaultFile(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnSaveDefault(wxCommandEvent& event) { event.Skip(); }
+    virtual void OnLoadDefault(wxCommandEvent& event) { event.Skip(); }
+    /// Connected to nothing and empty in both classes: a place kept free.
+    virtual void OnSpare(wxCommandEvent& event) { event.Skip(); }
+
+    /// Builds the context menu for the place of the click and shows it.
+    void OnGridContextMenu(wxContextMenuEvent& event);
+
+    wxMenuBar* m_menuBar = nullptr;
+    wxMenu* m_helpMenu = nullptr;
+    std::unique_ptr<wxMenu> m_contextMenu;
+    /// Entries of the context menu, made once; those that a click shows are in the menu.
+    std::array<wxMenuItem*, 15> m_contextItems{};
+    wxToolBar* m_toolBar = nullptr;
+    std::array<wxToolBarToolBase*, 11> m_tools{};
+    wxNotebook* m_notebook = nullptr;
+    /// The panel of the page that was built last.
+    wxPanel* m_lastPanel = nullptr;
+    std::array<wxPanel*, PageLimit> m_pagePanels{};
+    wxStatusBar* m_statusBar = nullptr;
+    /// Made at start-up; transfers make ports of their own.
+    std::unique_ptr<wxAsyncSerial> m_serialPort;
+
+private:
+    void BuildMenus();
+    void BuildContextMenu();
+    void BuildToolBar();
+    void BuildFirstPage();
+    void ConnectEvents(bool connect);
+    void AppendContextItem(int id);
+    void ShowContextMenu(wxGrid* grid, const wxPoint& position);
+    void OfferRowCommands(wxGrid* grid, int row);
+    void OfferColumnCommands(wxGrid* grid, int col);
+};
+
+/// Brings status bar, tab text, title, GD1 and GD2 up to date for the page (0-based).
+void UpdateStatus(OrvZELFrame* frame, int page);

@@ -1,0 +1,43 @@
+// The main window with its commands.
+#pragma once
+
+#include "frame/ZelkGUI.h"
+
+/// The main window. Each command's handler is defined beside the subsystem that it serves.
+class ZelkFrame : public OrvZELFrame {
+public:
+    explicit ZelkFrame(wxWindow* parent);
+
+    void OnClose(wxCloseEvent& event) override;
+    void OnQuit(wxCommandEvent& event) override;
+
+    // files/
+    void OnOpen(wxCommandEvent& event) override;
+    void OnSave(wxCommandEvent& event) override;
+    void OnSaveAs(wxCommandEvent& event) override;
+
+    // transfer/
+    void OnUpload(wxCommandEvent& event) override;
+    void OnDownload(wxCommandEvent& event) override;
+
+    // frame/
+    void OnSetPort(wxCommandEvent& event) override;
+    void OnSetTarget(wxCommandEvent& event) override;
+    void OnHelp(wxCommandEvent& event) override;
+    void OnAbout(wxCommandEvent& event) override;
+    void OnPageChanged(wxBookCtrlEvent& event) override;
+    void OnPageChanging(wxBookCtrlEvent&) override {}
+    void OnPageAdd(wxCommandEvent& event) override;
+    void OnPageDelete(wxCommandEvent& event) override;
+    void OnGridCellChanging(wxGridEvent& event) override;
+
+    // editing/
+    void OnSelectAll(wxCommandEvent& event) override;
+    void OnDeSelectAll(wxCommandEvent& event) override;
+
+    void OnSpare(wxCommandEvent&) override {}
+};
+
+/// Takes the text of an open cell editor of the current page into its cell and closes the
+/// editor, so that a command works on what the user sees.
+void CommitOpenEditor();

@@ -153,7 +153,7 @@ int GetCodeIndex(const wxString& text, int type) {
 }
 
 wxString GetCodeText(int i, int type) {
-    if (i < 0)
+    if (i < 0 || i >= static_cast<int>(CodeList.size()))
         return {};
     return EntryOf(CodeList, IsP25Type(type) ? i + 1 : i);
 }

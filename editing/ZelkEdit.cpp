@@ -45,17 +45,16 @@ void CheckZone(wxGrid* grid, int row, wxString text) {
     grid->SetCellValue(row, ZONE, text);
 }
 
-void CheckBand(wxGrid* grid, int row, wxString text) {
+void CheckBand(wxGrid* grid, int row, const wxString& text) {
     const PageParameterRecord& page = CurrentParameters();
     if (page.Type != MDLX) {
         grid->SetCellValue(row, BAND, "");
         return;
     }
     const int band = FindBand(text);
-    const bool known = band >= 0 && (page.Band == 9 || band == 0 || band == 2 || band == 6);
-    if (!known) {
-        text = grid->GetCellValue(0, BAND);
-        grid->SetCellBackgroundColour(row, BAND, FailColour);
-    }
-    grid->SetCellValue(row, BAND, text);
+    // Meant: a band that can stand is not written, the cell keeps what it holds.
+    if (band >= 0 && (page.Band == 9 || band == 0 || band == 2 || band == 6))
+        return;
+    grid->SetCellValue(row, BAND, grid->GetCellValue(0, BAND));
+    grid->SetCellBackgroundColour(row, BAND, FailColour);
 }

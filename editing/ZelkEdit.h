@@ -11,6 +11,7 @@ class wxGrid;
 /// slot. On other pages ZONE becomes empty.
 void CheckZone(wxGrid* grid, int row, wxString text);
 
-/// Writes BAND on an MDLX page of the current page's grid: a band that the module has, else the
-/// default row's in FailColour. On other pages BAND becomes empty.
-void CheckBand(wxGrid* grid, int row, wxString text);
+/// Checks text as the BAND of a row of the current page's grid. On an MDLX page a band that the
+/// module has leaves the cell as it is (a caller that wants another text in it writes it); any
+/// other text puts the default row's there, in FailColour. On other pages BAND becomes empty.
+void CheckBand(wxGrid* grid, int row, const wxString& text);

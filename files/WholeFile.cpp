@@ -1,0 +1,91 @@
+#include "files/WholeFile.h"
+
+#include <wx/file.h>
+#include <wx/filename.h>
+#include <wx/log.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int MostLinks = 40;
+constexpr int MostNames = 100;
+
+wxString TextOf(const std::error_code& error) {
+    return wxString::FromUTF8(error.message());
+}
+
+wxString LastProblem() {
+    return TextOf({errno, std::generic_category()});
+}
+
+/// The file that a chain of links names, whether it exists or not.
+fs::path FollowLinks(fs::path path) {
+    std::error_code error;
+    for (int links = 0; links < MostLinks && fs::is_symlink(fs::symlink_status(path, error)); ++links)
+        path = path.parent_path() / fs::read_symlink(path, error);
+    return path;
+}
+
+/// Why a file must not be replaced; empty when it may, or doesn't exist.
+wxString WhyNotReplaceable(const fs::path& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (!fs::exists(status))
+        return {};
+    if (!fs::is_regular_file(status))
+        return TextOf(std::make_error_code(fs::is_directory(status) ? std::errc::is_a_directory
+                                                                    : std::errc::operation_not_supported));
+    if (!wxFileName::IsFileWritable(path.c_str()))
+        return LastProblem();
+    return {};
+}
+
+/// A file that did not exist, beside path.
+fs::path CreateBeside(const fs::path& path, wxFile& file) {
+    fs::path name;
+    for (int n = 0; n < MostNames; ++n) {
+        name = path;
+        name += ".new" + std::to_string(n);
+        if (file.Create(name.c_str(), false) || errno != EEXIST)
+            break;
+    }
+    return name;
+}
+
+} // namespace
+
+wxString WriteWholeFile(const wxString& path, std::string_view bytes) {
+    const wxLogNull quiet;
+    const fs::path target = FollowLinks(path.fn_str().data());
+    const wxString refusal = WhyNotReplaceable(target);
+    if (!refusal.empty())
+        return refusal;
+
+    wxFile file;
+    const fs::path fresh = CreateBeside(target, file);
+    if (!file.IsOpened())
+        return LastProblem();
+    const bool written =
+        file.Write(bytes.data(), bytes.size()) == bytes.size() && file.Flush() && file.Close();
+    std::error_code error;
+    if (!written)
+        error.assign(errno, std::generic_category());
+    else {
+        std::error_code ignored;
+        // A file system without permissions has none to keep.
+        if (fs::exists(target, ignored))
+            fs::permissions(fresh, fs::status(target, ignored).permissions(), ignored);
+        fs::rename(fresh, target, error);
+    }
+    if (!error)
+        return {};
+    file.Close();
+    std::error_code ignored;
+    fs::remove(fresh, ignored);
+    return TextOf(error);
+}

@@ -1,0 +1,24 @@
+// The channel file: one page of memories as an XML document.
+#pragma once
+
+class wxXmlDocument;
+
+/// Reads a parsed channel file into page, which must be the current one: its radio, band and type
+/// become those of the file. 0, or the code of what is missing (101 to 109). Nothing of the
+/// header is stored unless type, radio and band are all known. Whatever the answer, row 0 holds a
+/// default row and the cells have the editors of the page.
+int OpenZelkFile(const wxXmlDocument& document, int page);
+
+/// Writes the complete rows of page to its file; asks for a name when the page has none or
+/// saveAs is true. The former file stays whole until the new one is. The status bar tells how many
+/// rows with data were left out, and why a file could not be written.
+void SaveZelkFile(int page, bool saveAs);
+
+/// Empties page (0-based, the current one): cells, flags, read-only marks and paint of former
+/// rows; writes its defaults and gives all zone slots back.
+void ResetPage(int page);
+
+/// Empties the memories of page (0-based, the current one) that SetPageDefaults or ResetPage has
+/// filled on a P25 page, and gives their zone slots back. To be called while the page holds no
+/// others; does nothing on other pages.
+void EmptyDefaultMemories(int page);

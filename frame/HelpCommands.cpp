@@ -1,0 +1,43 @@
+#include "frame/HelpCommands.h"
+
+#include "frame/ZelkMain.h"
+
+#include <wx/filefn.h>
+#include <wx/filename.h>
+#include <wx/msgdlg.h>
+#include <wx/stdpaths.h>
+#include <wx/utils.h>
+
+namespace {
+
+constexpr const char* VersionTexts[] = {"1", "0", "0"};
+constexpr const char* BuildDate = "10 JUN 2026 \n\n";
+constexpr const char* ToolkitText = "wxWidgets 3.2.5-Windows-Unicode build";
+
+} // namespace
+
+wxString UserGuidePath() {
+    const wxFileName program(wxStandardPaths::Get().GetExecutablePath());
+    return program.GetPathWithSep() + "ZelkUserGuide.pdf";
+}
+
+wxAboutDialogInfo MakeAboutInfo() {
+    wxAboutDialogInfo info;
+    info.SetName("Orv Zelk");
+    info.SetVersion(wxString() << VersionTexts[0] << "." << VersionTexts[1] << "." << VersionTexts[2]);
+    info.SetDescription(wxString("Channel loading software for Orv Radios. \n") << BuildDate << ToolkitText);
+    info.SetCopyright("Copyright 2026 the Zelk developers");
+    return info;
+}
+
+void ZelkFrame::OnHelp(wxCommandEvent&) {
+    const wxString guide = UserGuidePath();
+    if (wxFileExists(guide) && wxLaunchDefaultApplication(guide))
+        return;
+    wxMessageBox("Unable to open User Guide.\nLook in the install directory for ZelkUserGuide.pdf",
+                 "User Guide", wxOK | wxCENTRE);
+}
+
+void ZelkFrame::OnAbout(wxCommandEvent&) {
+    wxAboutBox(MakeAboutInfo());
+}

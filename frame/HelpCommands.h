@@ -1,0 +1,11 @@
+// The Help menu.
+#pragma once
+
+#include <wx/aboutdlg.h>
+#include <wx/string.h>
+
+/// Full path of the user guide, which stands beside the executable whatever link started it.
+wxString UserGuidePath();
+
+/// What the About box shows.
+wxAboutDialogInfo MakeAboutInfo();

@@ -1,0 +1,126 @@
+#include "frame/PageLifecycle.h"
+
+#include "catalogue/PageCreation.h"
+#include "catalogue/ZoneSlots.h"
+#include "editing/ZelkEditors.h"
+#include "frame/Messages.h"
+#include "frame/TargetSelection.h"
+#include "frame/ZelkMain.h"
+
+#include <algorithm>
+
+#include <wx/grid.h>
+#include <wx/msgdlg.h>
+#include <wx/notebook.h>
+
+void AdjustEditGrid(OrvZELFrame*, int oldRadio, int oldBandIndex) {
+    const int oldRows = RadioCatalogue::RadioRows[oldRadio][oldBandIndex];
+    const int newRows = CurrentParameters().Rows;
+    wxGrid* grid = CurrentGrid();
+    wxGridUpdateLocker quiet(grid);
+    if (newRows > oldRows) {
+        grid->AppendRows(newRows - oldRows);
+        SetGridRowLabels(grid, newRows);
+    } else if (newRows < oldRows) {
+        // Meant: the former last row stays, as the new last one.
+        grid->DeleteRows(newRows, oldRows - newRows);
+    }
+    SetGridColumns(grid, CurrentParameters().Type);
+    SetPageEditors(CurrentPage);
+    grid->ForceRefresh();
+}
+
+void UpdatePage(OrvZELFrame* frame, int page, int oldRadio, int oldBandIndex) {
+    if (PageParameters[page].Radio != oldRadio || PageParameters[page].BandIndex != oldBandIndex)
+        AdjustEditGrid(frame, oldRadio, oldBandIndex);
+    UpdateStatus(frame, page);
+}
+
+void ZelkFrame::OnPageAdd(wxCommandEvent&) {
+    CommitOpenEditor();
+    if (PageCount >= PageLimit) {
+        wxMessageBox("Cannot add further pages to notebook", "MAX Page Reached", wxOK | wxCENTRE);
+        return;
+    }
+    const int result = UserSelectRadioAndBand(this, PageCount);
+    if (result == ResultCancelled)
+        return;
+    if (result != 0) {
+        DisplayError(result, 0);
+        return;
+    }
+    CreateNewPage(this, PageCount);
+    UpdateStatus(this, CurrentPage);
+}
+
+namespace {
+
+/// Moves everything kept for the page after page one number down; zone counters by the reach
+/// that they are cleared with.
+void TakeNextPagesPlace(OrvZELFrame* frame, int page) {
+    const int next = page + 1;
+    PageGrid[page] = PageGrid[next];
+    frame->m_pagePanels[page] = frame->m_pagePanels[next];
+    PageParameters[page] = PageParameters[next];
+    PageStrings[page] = PageStrings[next];
+    std::copy_n(ZoneSlotsOf(next), ZoneReach, ZoneSlotsOf(page));
+}
+
+void ForgetPage(OrvZELFrame* frame, int page) {
+    PageGrid[page] = nullptr;
+    frame->m_pagePanels[page] = nullptr;
+    PageParameters[page] = {};
+    PageStrings[page] = {};
+    ClearZoneSlots(page);
+}
+
+} // namespace
+
+void ZelkFrame::OnPageDelete(wxCommandEvent&) {
+    CommitOpenEditor();
+    const int pages = static_cast<int>(m_notebook->GetPageCount());
+    if (pages == 1) {
+        wxMessageBox("There must always be at least one Page", "Delete Page Error", wxOK | wxCENTRE);
+        return;
+    }
+    wxMessageDialog question(this, "This will delete ALL data on this page! Continue?", "Delete Page?",
+                             wxOK | wxCANCEL);
+    if (question.ShowModal() != wxID_OK)
+        return;
+
+    int page = CurrentPage;
+    if (m_lastPanel == m_pagePanels[page])
+        m_lastPanel = nullptr;
+    m_notebook->DeletePage(static_cast<size_t>(page));
+    CurrentPage = m_notebook->GetSelection();
+    // OpModes stays where it is, and that is meant.
+    for (; page + 1 < pages; ++page) {
+        TakeNextPagesPlace(this, page);
+        UpdateStatus(this, page);
+    }
+    ForgetPage(this, page);
+    UpdateStatus(this, CurrentPage);
+    // Meant: only now, so that the title keeps the former count until its next update.
+    --PageCount;
+}
+
+void ZelkFrame::OnPageChanged(wxBookCtrlEvent&) {
+    const int selection = m_notebook->GetSelection();
+    if (selection == wxNOT_FOUND)
+        return;
+    // What is being typed belongs to the page that was left.
+    CommitOpenEditor();
+    CurrentPage = selection;
+    UpdateStatus(this, CurrentPage);
+}
+
+void ZelkFrame::OnGridCellChanging(wxGridEvent& event) {
+    wxGrid* grid = CurrentGrid();
+    const int row = event.GetRow();
+    if (!grid->GetCellValue(row, TFLG).empty())
+        return;
+    // The typed value comes into its cell after this event, over the default.
+    wxGridUpdateLocker quiet(grid);
+    FillRowsFromDefault({row});
+    grid->SelectRow(row, false);
+}

@@ -1,0 +1,72 @@
+// The three small dialogs that ask for port, radio and band.
+#pragma once
+
+#include <wx/choice.h>
+#include <wx/dialog.h>
+
+class wxArrayString;
+class wxUpdateUIEvent;
+
+/// The choices of the dialogs. A pointer stays set when its dialog is gone: it is good only while
+/// the dialog lives.
+extern wxChoice* PortChoice;
+extern wxChoice* RadioChoice;
+extern wxChoice* BandChoice;
+
+/// A label with a choice, and OK and Cancel under it. OK can be pressed only while something is
+/// chosen.
+class SelectionDialog : public wxDialog {
+public:
+    /// The text chosen, empty until there is one.
+    const wxString& GetValue() const { return m_value; }
+
+protected:
+    SelectionDialog(wxWindow* parent, const wxString& title, const wxString& label,
+                    const wxArrayString& choices);
+
+    /// Takes the chosen text, if any, as the value. False when nothing is chosen.
+    bool TakeChoice();
+
+    wxChoice* m_choice = nullptr;
+
+private:
+    void OnUpdateOk(wxUpdateUIEvent& event);
+
+    wxString m_value;
+};
+
+/// Offers the serial ports that can be opened now. Its constructor fills PortList.
+class PortDialog : public SelectionDialog {
+public:
+    PortDialog(wxWindow* parent, const wxString& title);
+
+    /// Chooses PortName, if it is offered.
+    bool TransferDataToWindow() override;
+    /// Copies the choice, if there is one, to PortName.
+    bool TransferDataFromWindow() override;
+};
+
+/// Offers the 18 radios, in the order of their indices.
+class RadioDialog : public SelectionDialog {
+public:
+    /// page (0-based) need not exist yet.
+    RadioDialog(wxWindow* parent, const wxString& title, int page);
+
+    /// Chooses the page's radio, where its label is also its name.
+    bool TransferDataToWindow() override;
+
+private:
+    int m_page;
+};
+
+/// Offers the bands in BandList. The RadioDialog that was answered before must still live.
+class BandDialog : public SelectionDialog {
+public:
+    BandDialog(wxWindow* parent, const wxString& title, int page);
+
+    /// Chooses the band at the position that the page's former radio has among the radios.
+    bool TransferDataToWindow() override;
+
+private:
+    int m_page;
+};

@@ -1,0 +1,37 @@
+#include "simulator/BaudClock.h"
+
+#include <algorithm>
+
+namespace Simulator {
+
+namespace {
+
+constexpr std::size_t BytesAWakeUp = 4;
+
+std::chrono::nanoseconds ByteTime(int baud) {
+    return std::chrono::nanoseconds(10'000'000'000LL / baud + 1);
+}
+
+} // namespace
+
+std::size_t BaudClock::Take(TimePoint now, int baud, std::size_t waiting) {
+    if (baud <= 0)
+        return waiting;
+    if (m_idle) {
+        m_idle = false;
+        m_free = now;
+    }
+    const auto through =
+        static_cast<std::size_t>(std::max(now - m_free, Clock::duration::zero()) / ByteTime(baud));
+    const std::size_t taken = std::min(through, waiting);
+    m_free += static_cast<long>(taken) * ByteTime(baud);
+    return taken;
+}
+
+TimePoint BaudClock::NextDue(int baud, std::size_t waiting) const {
+    if (baud <= 0)
+        return m_free;
+    return m_free + static_cast<long>(std::min(waiting, BytesAWakeUp)) * ByteTime(baud);
+}
+
+} // namespace Simulator

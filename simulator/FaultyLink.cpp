@@ -1,0 +1,106 @@
+#include "simulator/FaultyLink.h"
+
+#include <iterator>
+
+namespace Simulator {
+
+namespace {
+
+// Neither an acknowledgement (05) nor a line end (0D) is among them: noise must not pass for an answer.
+constexpr unsigned char Garbage[] = {0x00, 0xFF, 0x80, 0x1B, 0xFE, 0x7F, 0x00, 0xF5};
+constexpr std::size_t Pieces = 4;
+constexpr std::chrono::milliseconds PieceGap{150};
+
+std::string Played(const Fault& fault) {
+    return "! " + FaultText(fault);
+}
+
+/// What the log shows of a message: its text without the line end.
+std::string Sent(std::string_view bytes) {
+    if (bytes.ends_with('\r'))
+        bytes.remove_suffix(1);
+    return "> " + std::string(bytes);
+}
+
+} // namespace
+
+FaultyLink::FaultyLink(FaultPlan plan, std::chrono::milliseconds late, Outlet& outlet, Journal& journal)
+    : m_plan(std::move(plan)), m_late(late), m_outlet(outlet), m_journal(journal) {}
+
+void FaultyLink::BeginTransfer() {
+    ++m_transfer;
+    m_answer = 0;
+    DieIfNext();
+}
+
+void FaultyLink::DieIfNext() {
+    if (const Fault* fault = m_plan.Find(FaultKind::Silence, m_transfer, m_answer + 1)) {
+        m_dead = true;
+        m_journal.Note(Played(*fault));
+    }
+}
+
+void FaultyLink::Answer(std::string_view bytes, AnswerKind kind) {
+    if (m_dead)
+        return;
+    ++m_answer;
+    if (const Fault* fault = Due(FaultKind::Unplug)) {
+        m_outlet.Vanish(Played(*fault));
+        m_dead = true;
+        return;
+    }
+    if (const Fault* fault = Due(FaultKind::Noise))
+        m_outlet.Say(std::string(std::begin(Garbage), std::end(Garbage)), Played(*fault));
+    if (kind == AnswerKind::Line)
+        AnswerLine(bytes);
+    else
+        AnswerAcknowledgement(bytes);
+    DieIfNext();
+}
+
+void FaultyLink::AnswerLine(std::string_view bytes) {
+    std::string line(bytes);
+    if (const Fault* fault = Due(FaultKind::Cut)) {
+        line = line.substr(0, line.size() / 2) + '\r';
+        m_journal.Note(Played(*fault));
+    }
+    const Fault* torn = Due(FaultKind::Torn);
+    if (!torn) {
+        m_outlet.Say(line, Sent(line));
+        return;
+    }
+    const std::size_t piece = line.size() / Pieces + 1;
+    for (std::size_t at = 0; at < line.size(); at += piece) {
+        if (at > 0)
+            m_outlet.Pause(PieceGap, at == piece ? Played(*torn) : "");
+        const bool last = at + piece >= line.size();
+        m_outlet.Say(line.substr(at, piece), last ? Sent(line) : "");
+    }
+}
+
+void FaultyLink::AnswerAcknowledgement(std::string_view bytes) {
+    if (const Fault* fault = Due(FaultKind::NoAck)) {
+        m_journal.Note(Played(*fault));
+        return;
+    }
+    if (const Fault* fault = Due(FaultKind::LateAck))
+        m_outlet.Pause(m_late, Played(*fault));
+    m_outlet.Say(std::string(bytes), Sent(bytes));
+}
+
+void FaultyLink::Print(std::string_view bytes) {
+    if (!m_dead)
+        m_outlet.Say(std::string(bytes), Sent(bytes));
+}
+
+void FaultyLink::WaitForKey(std::chrono::milliseconds patience) {
+    if (!m_dead)
+        m_outlet.AwaitKey(patience);
+}
+
+void FaultyLink::EndTransfer() {
+    if (!m_dead)
+        m_outlet.Complete();
+}
+
+} // namespace Simulator

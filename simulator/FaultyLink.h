@@ -1,0 +1,46 @@
+// The cable of a simulated radio, with the faults that were asked for.
+#pragma once
+
+#include "simulator/FaultPlan.h"
+#include "simulator/Journal.h"
+#include "simulator/Outlet.h"
+#include "simulator/Radio.h"
+
+namespace Simulator {
+
+/// Puts what the radio says into the outlet and plays the faults of the plan on the way.
+class FaultyLink : public RadioLink {
+public:
+    /// `outlet` and `journal` must outlive the link. `late` is the delay of a late acknowledgement.
+    FaultyLink(FaultPlan plan, std::chrono::milliseconds late, Outlet& outlet, Journal& journal);
+
+    void BeginTransfer() override;
+    void Answer(std::string_view bytes, AnswerKind kind) override;
+    void Print(std::string_view bytes) override;
+    void WaitForKey(std::chrono::milliseconds patience) override;
+    void EndTransfer() override;
+    bool IsSending() const override { return !m_outlet.IsEmpty(); }
+    void Note(std::string_view text) override { m_journal.Note(text); }
+    void Complain(std::string_view text) override { m_journal.Complain(text); }
+
+    /// True when the radio plays dead: it neither hears nor speaks.
+    bool IsDead() const { return m_dead; }
+    /// The other side has gone: a dead radio is switched on again.
+    void PortClosed() { m_dead = false; }
+
+private:
+    void AnswerLine(std::string_view bytes);
+    void AnswerAcknowledgement(std::string_view bytes);
+    const Fault* Due(FaultKind kind) const { return m_plan.Find(kind, m_transfer, m_answer); }
+    void DieIfNext();
+
+    FaultPlan m_plan;
+    std::chrono::milliseconds m_late;
+    Outlet& m_outlet;
+    Journal& m_journal;
+    int m_transfer = 0;
+    int m_answer = 0; // the answer at hand, from 1
+    bool m_dead = false;
+};
+
+} // namespace Simulator

@@ -1,0 +1,46 @@
+#include "simulator/Journal.h"
+
+#include <cerrno>
+#include <cstring>
+
+namespace Simulator {
+
+namespace {
+
+std::string Printable(std::string_view text) {
+    std::string shown;
+    for (unsigned char c : text) {
+        if (c >= ' ' && c <= '~') {
+            shown += static_cast<char>(c);
+            continue;
+        }
+        char escaped[8];
+        std::snprintf(escaped, sizeof escaped, "\\x%02X", c);
+        shown += escaped;
+    }
+    return shown;
+}
+
+} // namespace
+
+bool Journal::Open(const std::string& path, std::string& trouble) {
+    m_file.reset(std::fopen(path.c_str(), "w"));
+    if (!m_file)
+        trouble = path + ": " + std::strerror(errno);
+    return m_file != nullptr;
+}
+
+void Journal::Note(std::string_view text) {
+    if (!m_file)
+        return;
+    const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_start);
+    std::fprintf(m_file.get(), "%8lld %s\n", static_cast<long long>(passed.count()), Printable(text).c_str());
+    std::fflush(m_file.get());
+}
+
+void Journal::Complain(std::string_view text) {
+    Note("? " + std::string(text));
+    std::fprintf(stderr, "zelk-radio: %s\n", Printable(text).c_str());
+}
+
+} // namespace Simulator

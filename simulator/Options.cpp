@@ -1,0 +1,220 @@
+#include "simulator/Options.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <functional>
+
+namespace Simulator {
+
+namespace {
+
+using Taker = std::function<bool(Options&, const std::string& value, std::string& trouble)>;
+
+enum class Value { None, Needed, Optional };
+
+struct Option {
+    std::string_view name;
+    Value value;
+    std::string_view valueName;
+    std::string_view help;
+    Taker take;
+};
+
+bool TakeMilliseconds(const std::string& text, std::chrono::milliseconds& out, std::string& trouble) {
+    int value = -1;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size() || value < 0) {
+        trouble = "\"" + text + "\" is no number of milliseconds";
+        return false;
+    }
+    out = std::chrono::milliseconds(value);
+    return true;
+}
+
+bool TakeModel(Options& options, const std::string& value, std::string& trouble) {
+    const std::size_t colon = value.find(':');
+    const std::string band = colon == std::string::npos ? "" : value.substr(colon + 1);
+    options.model = FindAnalogModel(value.substr(0, colon), band, trouble);
+    return options.model != nullptr;
+}
+
+bool TakeName(Options& options, const std::string& value, std::string& trouble) {
+    if (value.empty() || value[0] == '.' || value.find('/') != std::string::npos) {
+        trouble = "\"" + value + "\" can't be the name of a link";
+        return false;
+    }
+    options.name = value;
+    return true;
+}
+
+bool TakeParity(Options& options, const std::string& value, std::string& trouble) {
+    if (value.empty() || value == "text")
+        options.habits.parity = Parity::Text;
+    else if (value == "all")
+        options.habits.parity = Parity::All;
+    else {
+        trouble = "--parity is \"text\" or \"all\", not \"" + value + "\"";
+        return false;
+    }
+    return true;
+}
+
+bool TakeFault(Options& options, const std::string& value, std::string& trouble) {
+    const auto fault = ParseFault(value, trouble);
+    if (fault)
+        options.faults.push_back(*fault);
+    return fault.has_value();
+}
+
+/// An option that sets one member to true.
+template <typename Member>
+Taker Switch(Member member) {
+    return [member](Options& options, const std::string&, std::string&) {
+        member(options) = true;
+        return true;
+    };
+}
+
+/// An option that keeps its text.
+template <typename Member>
+Taker Text(Member member) {
+    return [member](Options& options, const std::string& value, std::string&) {
+        member(options) = value;
+        return true;
+    };
+}
+
+Taker Task(Options::Task task) {
+    return [task](Options& options, const std::string&, std::string&) {
+        options.task = task;
+        return true;
+    };
+}
+
+const std::vector<Option>& Table() {
+    static const std::vector<Option> table = {
+        {"model", Value::Needed, "NAME[:BAND]", "the radio to play; a radio of several bands needs a band",
+         TakeModel},
+        {"list", Value::None, "", "list the radios and their bands, and end", Task(Options::Task::List)},
+        {"memories", Value::Needed, "FILE", "load the memories from this file, and keep them in it",
+         Text([](Options & o) -> auto& { return o.habits.memoryFile; })},
+        {"ports-dir", Value::Needed, "DIR", "put the link there instead of into the program's folder",
+         Text([](Options & o) -> auto& { return o.portsFolder; })},
+        {"name", Value::Needed, "NAME", "name of the link; the model's name without it", TakeName},
+        {"pace", Value::None, "", "no faster than the speed that is set on the port",
+         Switch([](Options & o) -> auto& { return o.pace; })},
+        {"banner", Value::Needed, "TEXT", "print this before the first memory (empty: nothing)",
+         Text([](Options & o) -> auto& { return o.habits.banner; })},
+        {"short", Value::None, "", "send the short line form",
+         Switch([](Options & o) -> auto& { return o.habits.shortForm; })},
+        {"guard-names", Value::None, "", "send the guards as GD1 and GD2",
+         Switch([](Options & o) -> auto& { return o.habits.guardNames; })},
+        {"all", Value::None, "", "send every memory, those without data too",
+         Switch([](Options & o) -> auto& { return o.habits.allRows; })},
+        {"no-end", Value::None, "", "stop behind the last memory without an end line",
+         [](Options& o, const std::string&, std::string&) {
+             o.habits.endLine = false;
+             return true;
+         }},
+        {"parity", Value::Optional, "text|all", "set bit 7 on what is sent (text: not in the number field)",
+         TakeParity},
+        {"key-delay", Value::Needed, "MS", "press the radio's key after this time (500)",
+         [](Options& o, const std::string& v, std::string& t) {
+             return TakeMilliseconds(v, o.habits.keyDelay, t);
+         }},
+        {"fault", Value::Needed, "KIND@N[/T]", "play a fault at line N (of transfer T only); repeatable",
+         TakeFault},
+        {"late", Value::Needed, "MS", "delay of a late-ack fault (5500)",
+         [](Options& o, const std::string& v, std::string& t) { return TakeMilliseconds(v, o.late, t); }},
+        {"log", Value::Needed, "FILE", "write every line and its time into this file",
+         Text([](Options & o) -> auto& { return o.logFile; })},
+        {"once", Value::None, "", "end when the port is closed after a completed transfer",
+         Switch([](Options & o) -> auto& { return o.once; })},
+        {"help", Value::None, "", "show this, and end", Task(Options::Task::Help)},
+    };
+    return table;
+}
+
+const Option* FindOption(std::string_view name) {
+    for (const Option& option : Table())
+        if (option.name == name)
+            return &option;
+    return nullptr;
+}
+
+} // namespace
+
+bool ParseOptions(const std::vector<std::string>& arguments, Options& options, std::string& trouble) {
+    for (std::size_t k = 0; k < arguments.size(); ++k) {
+        const std::string& argument = arguments[k];
+        const std::size_t equals = argument.find('=');
+        const Option* option = argument.starts_with("--")
+                                   ? FindOption(std::string_view(argument).substr(2, equals - 2))
+                                   : nullptr;
+        if (!option) {
+            trouble = "unknown argument \"" + argument + "\" (--help tells more)";
+            return false;
+        }
+        std::string value;
+        if (equals != std::string::npos) {
+            if (option->value == Value::None) {
+                trouble = "--" + std::string(option->name) + " takes no value";
+                return false;
+            }
+            value = argument.substr(equals + 1);
+        } else if (option->value == Value::Needed) {
+            if (++k == arguments.size()) {
+                trouble = argument + " needs a value";
+                return false;
+            }
+            value = arguments[k];
+        }
+        if (!option->take(options, value, trouble))
+            return false;
+    }
+    if (options.task != Options::Task::Play)
+        return true;
+    if (!options.model) {
+        trouble = "say which radio to play with --model (--list names them all)";
+        return false;
+    }
+    if (options.name.empty())
+        options.name = options.model->name;
+    return true;
+}
+
+std::string HelpText() {
+    std::string text = "Usage: zelk-radio --model NAME[:BAND] [option...]\n"
+                       "Plays an analog radio on a simulated serial port.\n\n";
+    for (const Option& option : Table()) {
+        std::string left = "  --" + std::string(option.name);
+        if (option.value == Value::Optional)
+            left += "[=" + std::string(option.valueName) + "]";
+        else if (option.value == Value::Needed)
+            left += " " + std::string(option.valueName);
+        left.resize(std::max<std::size_t>(left.size() + 1, 24), ' ');
+        text += left + std::string(option.help) + "\n";
+    }
+    return text + "\nFaults: silence, late-ack, no-ack, noise, torn, cut, unplug.\n"
+                  "Signals: USR1 presses the radio's key; TERM, INT and HUP end it.\n";
+}
+
+std::string ListText() {
+    std::string text;
+    for (const AnalogModel& model : AnalogModels()) {
+        char line[160];
+        std::snprintf(line, sizeof line, "%-12s %-11s %3d memories%s%s%s%s\n",
+                      std::string(model.name).c_str(), std::string(model.band).c_str(), model.rows,
+                      HasGuards(model) ? ", 2 of them guards" : "",
+                      model.openingNumber ? (", rt " + std::to_string(model.openingNumber)).c_str() : "",
+                      model.key == StartKey::Enter  ? ", ENTER starts reading"
+                      : model.key == StartKey::Home ? ", HOME starts reading"
+                                                    : "",
+                      model.writable ? "" : ", read only");
+        text += line;
+    }
+    return text;
+}
+
+} // namespace Simulator

@@ -1,0 +1,131 @@
+#include "simulator/Player.h"
+
+#include <algorithm>
+#include <csignal>
+#include <poll.h>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+namespace Simulator {
+
+namespace {
+
+constexpr std::size_t ReadSize = 512;
+
+} // namespace
+
+Player::Player(PseudoTerminal& port, PortLink& name, Radio& radio, FaultyLink& link, Outlet& outlet,
+               Journal& journal, bool pace, bool once)
+    : m_port(port), m_name(name), m_radio(radio), m_link(link), m_outlet(outlet), m_journal(journal),
+      m_pace(pace), m_once(once) {}
+
+void Player::Run(int signals) {
+    while (!m_stop) {
+        Wait(signals);
+        TakeSignals(signals);
+        // Visits are handled first, but a user who has gone is heard out before he is forgotten.
+        HandleVisits();
+        if (m_stop)
+            return;
+        TakeInput();
+        Deliver();
+    }
+}
+
+void Player::Wait(int signals) {
+    std::optional<TimePoint> due;
+    if (m_port.IsOpen() && m_pending.empty())
+        due = m_outlet.NextDue();
+    if (!m_heard.empty()) {
+        const TimePoint heard = m_hearing.NextDue(Baud(), m_heard.size());
+        due = due ? std::min(*due, heard) : heard;
+    }
+    int timeout = -1;
+    if (due) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(*due - Clock::now()).count();
+        timeout = static_cast<int>(std::clamp<long long>(left, 0, 60'000));
+    }
+    short wanted = 0;
+    if (m_heard.empty())
+        wanted |= POLLIN;
+    if (!m_pending.empty())
+        wanted |= POLLOUT;
+    // With nobody there the port reports a hang-up all the time: the watch tells when somebody comes.
+    pollfd watched[] = {
+        {m_port.IsOpen() ? m_port.Descriptor() : -1, wanted, 0},
+        {m_port.WatchDescriptor(), POLLIN, 0},
+        {signals, POLLIN, 0},
+    };
+    poll(watched, std::size(watched), timeout);
+}
+
+void Player::TakeSignals(int signals) {
+    signalfd_siginfo info;
+    while (read(signals, &info, sizeof info) == sizeof info) {
+        if (info.ssi_signo == SIGUSR1) {
+            m_journal.Note("- key pressed");
+            m_outlet.PressKey();
+        } else {
+            m_stop = true;
+        }
+    }
+}
+
+void Player::HandleVisits() {
+    const PseudoTerminal::Visit visit = m_port.TakeVisits();
+    if (visit.closed)
+        Leave();
+    if (visit.opened && m_port.IsOpen())
+        m_journal.Note("- port opened");
+}
+
+void Player::Leave() {
+    for (std::string last = m_port.Read(ReadSize); !last.empty(); last = m_port.Read(ReadSize))
+        m_heard += last;
+    FeedRadio(m_heard.size());
+    m_hearing.Rest();
+    m_outlet.Clear();
+    m_pending.clear();
+    m_radio.PortClosed();
+    m_link.PortClosed();
+    m_port.Flush();
+    m_journal.Note("- port closed");
+    if (m_once && m_outlet.Completed() > 0)
+        m_stop = true;
+}
+
+void Player::TakeInput() {
+    if (m_heard.empty() && m_port.IsOpen()) {
+        m_heard = m_port.Read(ReadSize);
+        m_hearing.Rest();
+    }
+    if (!m_heard.empty())
+        FeedRadio(m_hearing.Take(Clock::now(), Baud(), m_heard.size()));
+}
+
+void Player::FeedRadio(std::size_t count) {
+    for (std::size_t k = 0; k < count && !m_link.IsDead(); ++k)
+        m_radio.Hear(static_cast<std::uint8_t>(m_heard[k]));
+    m_heard.erase(0, count);
+}
+
+void Player::Deliver() {
+    while (m_port.IsOpen()) {
+        m_pending.erase(0, m_port.Write(m_pending));
+        if (!m_pending.empty())
+            return;
+        Outlet::Delivery delivery = m_outlet.Take(Clock::now(), Baud());
+        for (const std::string& note : delivery.notes)
+            m_journal.Note(note);
+        if (delivery.vanish) {
+            m_name.Remove();
+            m_stop = true;
+            return;
+        }
+        if (delivery.bytes.empty())
+            return;
+        m_pending = std::move(delivery.bytes);
+    }
+}
+
+} // namespace Simulator

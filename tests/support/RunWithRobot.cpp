@@ -1,0 +1,17 @@
+#include "tests/support/RunWithRobot.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/Modals.h"
+#include "tests/support/robot/RunScript.h"
+
+namespace testbench {
+
+void RunWithRobot(const std::function<void(Robot&)>& script, const std::function<void()>& guiAction) {
+    const ShowDialogs shown;
+    for (const std::string& problem : RunScript(script, guiAction)) {
+        ADD_FAILURE() << problem;
+    }
+}
+
+} // namespace testbench

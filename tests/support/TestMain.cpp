@@ -1,0 +1,133 @@
+// The main program of window tests: they run inside the toolkit's running main loop.
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include <wx/app.h>
+#include <wx/init.h>
+#include <wx/log.h>
+#include <wx/stdpaths.h>
+
+#include "tests/support/AssertsOff.h"
+#include "tests/support/Modals.h"
+#include "tests/support/Watchdog.h"
+#include "tests/support/robot/Files.h"
+#include "tests/support/robot/Process.h"
+#include "tests/support/robot/TempFolder.h"
+
+// GTK and fontconfig never free what they keep for the program's life: with their leaks reported no
+// window test could pass. An address sanitizer reads this; without one nobody calls it.
+extern "C" const char* __asan_default_options() {
+    return "detect_leaks=0";
+}
+
+namespace testbench {
+
+namespace {
+
+/// A failing toolkit call is told in a line, not in a dialog.
+class ErrorLog : public wxLogStderr {
+protected:
+    void DoLogRecord(wxLogLevel level, const wxString& text, const wxLogRecordInfo& info) override {
+        if (level <= wxLOG_Warning) {
+            wxLogStderr::DoLogRecord(level, text, info);
+        }
+    }
+};
+
+class TestApp : public wxApp {
+public:
+    TestApp() {
+        SetAppName("zelk-test");
+        // The classic layout gives the configuration file and the data folder the same name.
+        wxStandardPaths::Get().SetFileLayout(wxStandardPaths::FileLayout_XDG);
+    }
+
+    bool OnInit() override {
+        delete wxLog::SetActiveTarget(new ErrorLog);
+        RecordAssertions();
+        GuardDialogs();
+        // A test may open and close as many frames as it likes.
+        SetExitOnFrameDelete(false);
+        Bind(wxEVT_IDLE, &TestApp::OnFirstIdle, this);
+        return true;
+    }
+
+    int OnRun() override {
+        wxApp::OnRun();
+        return m_result;
+    }
+
+    bool OnExceptionInMainLoop() override {
+        try {
+            throw;
+        } catch (const std::exception& thrown) {
+            ADD_FAILURE() << "exception in an event handler: " << thrown.what();
+        } catch (...) {
+            ADD_FAILURE() << "exception of unknown type in an event handler";
+        }
+        return true;
+    }
+
+private:
+    void OnFirstIdle(wxIdleEvent&) {
+        Unbind(wxEVT_IDLE, &TestApp::OnFirstIdle, this);
+        m_result = RUN_ALL_TESTS();
+        ExitMainLoop();
+    }
+
+    int m_result = EXIT_FAILURE;
+};
+
+/// Keeps the user's files out of the tests, and the tests the same on every machine.
+void SetEnvironment(const std::filesystem::path& home) {
+    const auto set = [](const char* name, const std::string& value) { setenv(name, value.c_str(), 1); };
+    set("HOME", home);
+    set("XDG_CONFIG_HOME", home / "config");
+    set("XDG_DATA_HOME", home / "data");
+    set("XDG_CACHE_HOME", home / "cache");
+    set("GSETTINGS_BACKEND", "memory");
+    set("GDK_BACKEND", "x11");
+    set("NO_AT_BRIDGE", "1");
+    set("LC_ALL", "C.UTF-8");
+    for (const char* folder : {"config/gtk-3.0", "data", "cache"}) {
+        std::filesystem::create_directories(home / folder);
+    }
+    // With any other print backend a print job without a dialog waits for ever.
+    WriteFile(home / "config/gtk-3.0/settings.ini", "[Settings]\n"
+                                                    "gtk-print-backends=file\n"
+                                                    "gtk-enable-animations=0\n"
+                                                    "gtk-cursor-blink=0\n");
+}
+
+std::chrono::seconds TimeLimit() {
+    const char* const seconds = std::getenv("ZELK_TEST_SECONDS");
+    return std::chrono::seconds(seconds != nullptr ? std::atoi(seconds) : 100);
+}
+
+int RunInMainLoop(int argc, char** argv) {
+    if (std::getenv("DISPLAY") == nullptr) {
+        std::fputs("Window tests need an X display: run them under tests/support/with-display.\n", stderr);
+        return EXIT_FAILURE;
+    }
+    TempFolder home("zelk-home");
+    SetEnvironment(home.Path());
+    // The framework owns its listeners.
+    testing::UnitTest::GetInstance()->listeners().Append(new Watchdog(TimeLimit(), [&home] {
+        Process::KillAll();
+        home.Remove();
+    }));
+    wxApp::SetInstance(new TestApp);
+    return wxEntry(argc, argv);
+}
+
+} // namespace
+
+} // namespace testbench
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    return testing::GTEST_FLAG(list_tests) ? RUN_ALL_TESTS() : testbench::RunInMainLoop(argc, argv);
+}

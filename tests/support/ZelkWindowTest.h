@@ -1,0 +1,66 @@
+// A test with the program's main window, made afresh for each test.
+#pragma once
+
+#include "catalogue/PageCreation.h"
+#include "catalogue/ZoneSlots.h"
+#include "editing/ZelkEditors.h"
+#include "frame/TargetSelection.h"
+#include "frame/ZelkMain.h"
+
+#include <gtest/gtest.h>
+
+#include <wx/app.h>
+#include <wx/grid.h>
+
+/// Shows the window with its first page (KRV-47) before each test and destroys it after it.
+class ZelkWindowTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ForgetState();
+        MainFrame = new ZelkFrame(nullptr);
+        MainFrame->Show();
+        MainFrame->Raise();
+        wxYield();
+    }
+
+    void TearDown() override {
+        MainFrame->Destroy();
+        wxTheApp->ProcessPendingEvents();
+        wxTheApp->DeletePendingObjects();
+        MainFrame = nullptr;
+        wxYield();
+    }
+
+    /// The first page becomes a page for the radio and band slot, as if it had been made so.
+    static void Retarget(int radio, int bandIndex) {
+        SetPageParameters(MainFrame, CurrentPage, radio, bandIndex);
+        wxGrid* grid = CurrentGrid();
+        grid->ClearGrid();
+        if (grid->GetNumberRows() > CurrentParameters().Rows + 1)
+            grid->DeleteRows(1, grid->GetNumberRows() - CurrentParameters().Rows - 1);
+        else if (grid->GetNumberRows() < CurrentParameters().Rows + 1)
+            grid->AppendRows(CurrentParameters().Rows + 1 - grid->GetNumberRows());
+        SetGridColumns(grid, CurrentParameters().Type);
+        SetGridRowLabels(grid, CurrentParameters().Rows);
+        SetPageEditors(CurrentPage);
+        SetPageDefaults(MainFrame, CurrentPage);
+        UpdateStatus(MainFrame, CurrentPage);
+    }
+
+    static wxString Cell(int row, int col) { return CurrentGrid()->GetCellValue(row, col); }
+    static void SetCell(int row, int col, const wxString& text) {
+        CurrentGrid()->SetCellValue(row, col, text);
+    }
+
+private:
+    /// What outlives a window within one process.
+    static void ForgetState() {
+        PortName = "none";
+        RowCopyBuffer.clear();
+        ContextRow = 0;
+        ZoneSlots.fill(0);
+        PageGrid.fill(nullptr);
+        PageParameters.fill({});
+        PageStrings.fill({});
+    }
+};

@@ -1,0 +1,15 @@
+// Whole files as byte strings.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace testbench {
+
+/// All bytes of the file, unchanged. Throws std::runtime_error naming the file if it can't be read.
+std::string ReadFile(const std::filesystem::path& file);
+
+/// Makes or replaces the file with these bytes. Throws std::runtime_error naming the file on failure.
+void WriteFile(const std::filesystem::path& file, const std::string& bytes);
+
+} // namespace testbench

@@ -1,0 +1,100 @@
+#include "tests/support/robot/Robot.h"
+
+#include <chrono>
+#include <regex>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+#include <wx/app.h>
+#include <wx/imagpng.h>
+#include <wx/wfstream.h>
+
+#include "tests/support/robot/OpenDialogs.h"
+
+namespace testbench {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+void Sleep(int ms) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(ms));
+}
+
+} // namespace
+
+Robot::Robot(int paceMs) : Hands(paceMs) {
+    if (wxTheApp != nullptr) {
+        RunInGui(WatchDialogs);
+    }
+}
+
+bool Robot::Poll(const std::function<bool()>& condition, int ms) const {
+    const auto deadline = Clock::now() + std::chrono::milliseconds(ms);
+    while (!condition()) {
+        if (Clock::now() >= deadline) {
+            return false;
+        }
+        Sleep(10);
+    }
+    return true;
+}
+
+bool Robot::WaitFor(const std::function<bool()>& condition, int ms) {
+    return Poll([&] { return AskGui(condition); }, ms);
+}
+
+wxDialog* Robot::WaitForDialog(const std::string& caption, int ms) {
+    const std::regex wanted(caption);
+    wxDialog* found = nullptr;
+    Poll(
+        [&] {
+            const std::vector<DialogFacts> open = OpenDialogs();
+            if (open.empty() || !std::regex_match(open.back().caption, wanted)) {
+                return false;
+            }
+            // The toolkit gives some dialogs no title of their own: then any dialog must do.
+            const std::string title = Desk().FocusedTitle();
+            if (title == open.back().caption || (title.empty() && Desk().FocusIsDialog())) {
+                found = open.back().dialog;
+            }
+            return found != nullptr;
+        },
+        ms);
+    return found;
+}
+
+bool Robot::WaitForNoDialog(int ms) {
+    return Poll([] { return OpenDialogs().empty(); }, ms);
+}
+
+bool Robot::WaitForWindow(const std::string& title, int ms) {
+    const std::regex wanted(title);
+    return Poll(
+        [&] {
+            const std::string focused = Desk().FocusedTitle();
+            return !focused.empty() && std::regex_match(focused, wanted);
+        },
+        ms);
+}
+
+void Robot::Settle(int ms) {
+    // Jobs for the window thread wait until its event queue is empty; the second one is queued behind
+    // what the events of the first round have set off.
+    for (int round = 0; round < 2; round++) {
+        Sleep(10);
+        RunInGui([] {}, ms);
+    }
+}
+
+void Robot::Screenshot(const std::filesystem::path& file, const wxRect& part) const {
+    wxImage picture = Desk().Picture(part);
+    wxFFileOutputStream out(wxString::FromUTF8(file.string()));
+    wxPNGHandler handler;
+    if (!out.IsOk() || !handler.SaveFile(&picture, out, false) || !out.Close()) {
+        throw std::runtime_error("can't write " + file.string());
+    }
+}
+
+} // namespace testbench

@@ -1,0 +1,204 @@
+#include "tests/support/robot/XDesk.h"
+
+#include <algorithm>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <stdexcept>
+#include <vector>
+
+// Last: these define macros with everyday names.
+#include <X11/XKBlib.h>
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
+
+namespace testbench {
+
+namespace {
+
+std::mutex ownMutex;
+std::set<Display*>& OwnDisplays() {
+    static std::set<Display*> displays;
+    return displays;
+}
+
+int (*nextHandler)(Display*, XErrorEvent*) = nullptr;
+
+/// Windows go away while we look at them: errors on our connections are no harm, all others are
+/// somebody else's.
+int IgnoreOwnErrors(Display* display, XErrorEvent* error) {
+    {
+        std::lock_guard lock(ownMutex);
+        if (OwnDisplays().contains(display)) {
+            return 0;
+        }
+    }
+    return nextHandler != nullptr ? nextHandler(display, error) : 0;
+}
+
+struct FreeX {
+    void operator()(void* data) const { XFree(data); }
+};
+template <class T>
+using XData = std::unique_ptr<T, FreeX>;
+
+/// Where in a byte a colour mask begins.
+int ShiftOf(unsigned long mask) {
+    int shift = 0;
+    while (mask != 0 && (mask & 1) == 0) {
+        mask >>= 1;
+        shift++;
+    }
+    return shift;
+}
+
+} // namespace
+
+XDesk::XDesk() : m_display(nullptr) {
+    static std::once_flag once;
+    std::call_once(once, [] {
+        XInitThreads();
+        nextHandler = XSetErrorHandler(IgnoreOwnErrors);
+    });
+    m_display = XOpenDisplay(nullptr);
+    if (m_display == nullptr) {
+        throw std::runtime_error("no X display: DISPLAY names none that answers");
+    }
+    int dummy = 0;
+    if (XTestQueryExtension(m_display, &dummy, &dummy, &dummy, &dummy) == False) {
+        XCloseDisplay(m_display);
+        throw std::runtime_error("the X display lacks the XTest extension");
+    }
+    std::lock_guard lock(ownMutex);
+    OwnDisplays().insert(m_display);
+}
+
+XDesk::~XDesk() {
+    XCloseDisplay(m_display);
+    std::lock_guard lock(ownMutex);
+    OwnDisplays().erase(m_display);
+}
+
+void XDesk::Key(unsigned code, bool down) {
+    XTestFakeKeyEvent(m_display, code, down ? True : False, CurrentTime);
+    XSync(m_display, False);
+}
+
+void XDesk::Button(unsigned button, bool down) {
+    XTestFakeButtonEvent(m_display, button, down ? True : False, CurrentTime);
+    XSync(m_display, False);
+}
+
+void XDesk::Pointer(const wxPoint& screen) {
+    XTestFakeMotionEvent(m_display, -1, screen.x, screen.y, CurrentTime);
+    XSync(m_display, False);
+}
+
+XDesk::KeySpot XDesk::FindKey(unsigned long symbol) const {
+    const KeyCode code = XKeysymToKeycode(m_display, symbol);
+    if (code == 0) {
+        return {};
+    }
+    for (const int level : {0, 1}) {
+        if (XkbKeycodeToKeysym(m_display, code, 0, level) == symbol) {
+            return {code, level == 1};
+        }
+    }
+    return {};
+}
+
+XDesk::KeySpot XDesk::FindKey(const std::string& name) const {
+    const KeySym symbol = XStringToKeysym(name.c_str());
+    return symbol == NoSymbol ? KeySpot{} : FindKey(symbol);
+}
+
+std::string XDesk::Property(unsigned long window, const char* name) const {
+    Atom type = None;
+    int format = 0;
+    unsigned long count = 0, left = 0;
+    unsigned char* data = nullptr;
+    if (XGetWindowProperty(m_display, window, XInternAtom(m_display, name, False), 0, 4096, False,
+                           AnyPropertyType, &type, &format, &count, &left, &data) != Success ||
+        data == nullptr) {
+        return {};
+    }
+    const XData<unsigned char> owner(data);
+    // Items of 32 bits come as C longs.
+    const size_t itemSize = format == 32 ? sizeof(long) : static_cast<size_t>(format) / 8;
+    return {reinterpret_cast<const char*>(data), count * itemSize};
+}
+
+unsigned long XDesk::FocusedTop() const {
+    Window window = None;
+    int revert = 0;
+    XGetInputFocus(m_display, &window, &revert);
+    // The focus may lie in a helper window; the one that the window manager cares for has a state.
+    while (window != None && window != PointerRoot) {
+        if (!Property(window, "WM_STATE").empty()) {
+            return window;
+        }
+        Window root = None, parent = None;
+        Window* children = nullptr;
+        unsigned count = 0;
+        if (XQueryTree(m_display, window, &root, &parent, &children, &count) == 0) {
+            return None;
+        }
+        const XData<Window> owner(children);
+        window = parent == root ? None : parent;
+    }
+    return None;
+}
+
+std::string XDesk::FocusedTitle() const {
+    const Window top = FocusedTop();
+    return top == None ? std::string() : Property(top, "_NET_WM_NAME");
+}
+
+bool XDesk::FocusIsDialog() const {
+    const Window top = FocusedTop();
+    if (top == None) {
+        return false;
+    }
+    const std::string types = Property(top, "_NET_WM_WINDOW_TYPE");
+    const Atom dialog = XInternAtom(m_display, "_NET_WM_WINDOW_TYPE_DIALOG", False);
+    const std::string wanted(reinterpret_cast<const char*>(&dialog), sizeof dialog);
+    return types.find(wanted) != std::string::npos;
+}
+
+wxImage XDesk::Picture(const wxRect& part) const {
+    const int screen = DefaultScreen(m_display);
+    wxRect rect(0, 0, DisplayWidth(m_display, screen), DisplayHeight(m_display, screen));
+    if (!part.IsEmpty()) {
+        rect.Intersect(part);
+    }
+    const auto free = [](XImage* image) {
+        if (image != nullptr) {
+            XDestroyImage(image);
+        }
+    };
+    const std::unique_ptr<XImage, decltype(free)> image(
+        rect.IsEmpty() ? nullptr
+                       : XGetImage(m_display, DefaultRootWindow(m_display), rect.x, rect.y,
+                                   static_cast<unsigned>(rect.width), static_cast<unsigned>(rect.height),
+                                   AllPlanes, ZPixmap),
+        free);
+    if (!image) {
+        throw std::runtime_error("the screen gave no picture");
+    }
+    wxImage picture(rect.width, rect.height, false);
+    unsigned char* to = picture.GetData();
+    const unsigned long masks[] = {image->red_mask, image->green_mask, image->blue_mask};
+    for (int y = 0; y < rect.height; y++) {
+        for (int x = 0; x < rect.width; x++) {
+            const unsigned long pixel = XGetPixel(image.get(), x, y);
+            for (const unsigned long mask : masks) {
+                *to++ = static_cast<unsigned char>((pixel & mask) >> ShiftOf(mask));
+            }
+        }
+    }
+    return picture;
+}
+
+} // namespace testbench

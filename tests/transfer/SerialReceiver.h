@@ -1,0 +1,42 @@
+// Collects what a port's read callback is given.
+#pragma once
+
+#include "tests/transfer/SerialWaiting.h"
+#include "transfer/AsyncSerial.h"
+
+#include <algorithm>
+#include <mutex>
+#include <string>
+#include <vector>
+
+/// Must outlive the callback that Callback() makes.
+class SerialReceiver {
+public:
+    AsyncSerial::ReadCallback Callback() {
+        return [this](const char* data, std::size_t size) {
+            const std::lock_guard lock(m_mutex);
+            m_text.append(data, size);
+            m_sizes.push_back(size);
+        };
+    }
+
+    std::string Text() const {
+        const std::lock_guard lock(m_mutex);
+        return m_text;
+    }
+
+    /// How many bytes each call brought.
+    std::vector<std::size_t> Sizes() const {
+        const std::lock_guard lock(m_mutex);
+        return m_sizes;
+    }
+
+    bool WaitForSize(std::size_t size) const {
+        return Eventually([&] { return Text().size() >= size; });
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::string m_text;
+    std::vector<std::size_t> m_sizes;
+};

@@ -1,0 +1,17 @@
+// Waiting for what the port's thread does.
+#pragma once
+
+#include <chrono>
+#include <thread>
+
+/// Polls a condition for up to ten seconds; true as soon as it holds.
+template <typename Condition>
+bool Eventually(Condition condition) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline)
+            return false;
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return true;
+}

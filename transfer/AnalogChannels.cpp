@@ -1,0 +1,131 @@
+// Channel lines from and to analog radios.
+#include "catalogue/MemoryRow.h"
+#include "catalogue/PageModel.h"
+#include "editing/ZelkEdit.h"
+#include "transfer/AnalogDriver.h"
+#include "transfer/AnalogExchanges.h"
+#include "transfer/AnalogRecord.h"
+#include "transfer/ProgressFrame.h"
+#include "transfer/TransferContext.h"
+#include "transfer/TransferLog.h"
+#include "transfer/TransferStatus.h"
+#include "transfer/TransferWaits.h"
+
+#include <algorithm>
+#include <wx/gauge.h>
+#include <wx/grid.h>
+#include <wx/msgdlg.h>
+
+namespace {
+
+constexpr wxChar Acknowledgement = 0x05;
+constexpr int EndLineBlanks = 74;
+/// Up to this count of rows a radio knows the short commands and the end line with a number.
+constexpr int ShortCommandRows = 202;
+/// Up to this count of rows "300" in a received line is no channel but the end.
+constexpr int NumberedEndRows = 200;
+/// Radios whose sending the user starts with a key of the radio.
+constexpr int FirstKeyRadio = 9, LastKeyRadio = 16, HomeKeyRadio = 16;
+
+/// Takes what stands before and with the acknowledgement out of the buffer.
+void DropAcknowledgement(TransferContext& context) {
+    context.RxBuffer = context.RxBuffer.Mid(static_cast<std::size_t>(context.FoundAt) + 1);
+}
+
+int WriteChannel(TransferContext& context, wxGrid* grid, int row) {
+    if (const int errors = encodeAnalogRecord(context, grid, row, context.TxLine)) {
+        WriteTransferLog(context.LogFile,
+                         wxString::Format("  Error: %04X on Row %d, Not Sent !", errors, row));
+        return TransferOk;
+    }
+    WriteTransferLog(context.LogFile, "Send>" + context.TxLine);
+    SendPaced(context, context.TxLine, false);
+    SetMainGauge(context, row);
+    context.RxBuffer.clear();
+    const int status = WaitForLine(context, 5000, Acknowledgement, true);
+    if (status == TransferOk)
+        DropAcknowledgement(context);
+    return status;
+}
+
+void AskForKey(TransferContext& context, int radio) {
+    if (radio < FirstKeyRadio || radio > LastKeyRadio)
+        return;
+    wxMessageBox(radio == HomeKeyRadio ? "Close this dialog, then press HOME on radio to start"
+                                       : "Close this dialog, then press ENTER on radio to start",
+                 "Read channel data from radio", wxOK | wxCENTRE, context.Progress);
+}
+
+/// Radios print headings before their list; it begins with channel 1. False for a line without it.
+bool CutToFirstChannel(wxString& line) {
+    const int start = line.Find("001");
+    if (start == wxNOT_FOUND)
+        return false;
+    line = line.Mid(static_cast<std::size_t>(start));
+    return true;
+}
+
+bool IsEndLine(const TransferContext& context, const wxString& line) {
+    const wxString start = line.Left(3);
+    return start.Contains("END") || (context.RowCapacity <= NumberedEndRows && start.Contains("300"));
+}
+
+void TakeChannel(TransferContext& context, wxGrid* grid, const wxString& line) {
+    if (decodeAnalogRecord(context, grid, line) == 0)
+        return;
+    context.Index = context.Work1;
+    SetMainGauge(context, context.Index);
+    WriteTransferLog(context.LogFile, "<" + line);
+    CheckBand(grid, context.Index, grid->GetCellValue(context.Index, BAND));
+}
+
+} // namespace
+
+void SetMainGauge(TransferContext& context, int value) {
+    wxGauge* const gauge = context.Progress->MainGauge();
+    if (value >= 0 && value <= gauge->GetRange())
+        gauge->SetValue(value);
+}
+
+void TakeReceivedLine(TransferContext& context) {
+    const std::size_t end = static_cast<std::size_t>(context.FoundAt);
+    context.RxLine = context.RxBuffer.Left(end).Trim(false);
+    context.RxBuffer = context.RxBuffer.Mid(end + 1).Trim(false);
+}
+
+int WriteChannels(TransferContext& context, wxGrid* grid) {
+    // Some radios confirm the opening command, others don't: only Cancel counts here.
+    if (WaitForLine(context, 50, Acknowledgement, true) == TransferCancelled)
+        return TransferCancelled;
+    const int lastRow = std::min(static_cast<int>(context.RowCapacity), grid->GetNumberRows() - 1);
+    for (int row = 1; row <= lastRow; ++row) {
+        if (!grid->IsInSelection(row, 1))
+            continue;
+        if (const int status = WriteChannel(context, grid, row))
+            return status;
+    }
+    SendPaced(context,
+              (context.RowCapacity > ShortCommandRows ? "END" : "300") + wxString(' ', EndLineBlanks), false);
+    return TransferComplete;
+}
+
+int ReadChannels(TransferContext& context, wxGrid* grid) {
+    AskForKey(context, CurrentParameters().Radio);
+    bool started = false;
+    context.Index = 0;
+    while (true) {
+        const int status = WaitForLine(context, 5000, '\r', true);
+        if (status == TransferCancelled)
+            return status;
+        if (status == TransferTimeout)
+            break;
+        TakeReceivedLine(context);
+        if (!started && !CutToFirstChannel(context.RxLine))
+            continue;
+        started = true;
+        if (IsEndLine(context, context.RxLine))
+            return TransferComplete;
+        TakeChannel(context, grid, context.RxLine);
+    }
+    return context.Index < static_cast<int>(context.RowCapacity) - 1 ? TransferTimeout : TransferComplete;
+}

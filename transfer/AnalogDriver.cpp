@@ -1,0 +1,208 @@
+#include "transfer/AnalogDriver.h"
+
+#include "catalogue/PageModel.h"
+#include "frame/ZelkMain.h"
+#include "transfer/AnalogExchanges.h"
+#include "transfer/AnalogInformation.h"
+#include "transfer/ProgressFrame.h"
+#include "transfer/RadioIdentity.h"
+#include "transfer/TransferContext.h"
+#include "transfer/TransferLog.h"
+#include "transfer/TransferMode.h"
+#include "transfer/TransferStatus.h"
+#include "transfer/TransferWaits.h"
+#include "transfer/wxAsyncSerial.h"
+
+#include <wx/gauge.h>
+#include <wx/grid.h>
+#include <wx/msgdlg.h>
+#include <wx/stdpaths.h>
+
+namespace {
+
+constexpr unsigned LineSpeed = 9600; // baud
+constexpr int SlowPause = 350;       // ms
+constexpr int FastPause = 2;         // ms
+/// Above this count the opening command names the count.
+constexpr std::uint32_t ShortCommandRows = 202;
+
+void MakeProgressFrame(TransferContext& context, wxGrid* grid, const wxString& title) {
+    context.Progress = new ProgressFrame(grid->GetGridWindow(), -1, title, wxDefaultPosition,
+                                         wxSize(200, 150), wxCAPTION | wxRESIZE_BORDER);
+    context.Progress->MainGauge()->SetRange(grid->GetNumberRows());
+    context.Progress->MainGauge()->SetValue(0);
+    context.Progress->Show();
+}
+
+void TakeDown(TransferContext& context) {
+    CloseTransferLog(context.LogFile);
+    context.Port->close();
+    delete context.Port;
+    context.Port = nullptr;
+    context.Progress->Hide();
+    // At once, not when the program is next idle: the other windows are disabled as long as it lives.
+    delete context.Progress;
+    context.Progress = nullptr;
+}
+
+void ShowError(TransferContext& context, const wxString& text) {
+    wxMessageBox(text, "Error", wxOK | wxICON_ERROR, context.Progress);
+}
+
+/// Tells the user and the log how the transfer ended.
+void Report(TransferContext& context, int mode) {
+    switch (context.Status) {
+    case TransferComplete:
+        context.Progress->SetStatus("Transfer Complete.");
+        WriteTransferLog(context.LogFile, "Transfer Complete.");
+        if (mode != ReadInformationMode)
+            Delay(context, 1000, true);
+        return;
+    case TransferPortError:
+        return ShowError(context, "Invalid COM Port (or Port in use)");
+    case TransferTimeout:
+        ShowError(context, "Timeout Error\nVerify Radio is in PC Download mode\n"
+                           "and correct COM port is selected");
+        return WriteTransferLog(context.LogFile, "<Timeout>");
+    case TransferCommunicationError:
+        return ShowError(context, wxString::Format("Radio rejected item: %d", context.Index - 1));
+    case TransferNoDataSelected:
+        return ShowError(context, "No data selected for transfer to Radio");
+    case TransferUnsupported:
+        // The spelling is meant.
+        return ShowError(context, "The requested function is not supported\nby the firware in the Radio");
+    case TransferCancelled:
+        return WriteTransferLog(context.LogFile, "Transfer cancelled by user.");
+    default:
+        return ShowError(context, wxString::Format("Download Failure %d %d", context.Status, context.Index));
+    }
+}
+
+void ShowStatus(TransferContext& context) {
+    context.Progress->SetStatus(context.StatusText);
+    WriteTransferLog(context.LogFile, context.StatusText);
+}
+
+/// Asks the radio for its information block. TransferOk also when it doesn't answer: it is unknown then.
+int AskForInformation(TransferContext& context, wxString& block) {
+    SendPaced(context, "SV", false);
+    context.RxLine.clear();
+    context.RxBuffer.clear();
+    const int status = WaitForLine(context, 200, '\r', true);
+    if (status == TransferCancelled)
+        return status;
+    if (status == TransferOk) {
+        TakeReceivedLine(context);
+        block = context.RxLine.Trim(true);
+    }
+    return TransferOk;
+}
+
+void KeepInformation(TransferContext& context, const AnalogInformation& information) {
+    context.InfoLines = information.fields;
+    context.InfoField4 = information.field4;
+    context.InfoField5 = information.field5;
+    context.ProductCode = information.productCode;
+    context.RowCapacity = static_cast<std::uint32_t>(information.rowCount);
+    context.ConfigCount = static_cast<std::uint32_t>(information.configCount);
+    context.RadioSerial = information.serial;
+    RadioVersion = information.version;
+    RadioSerial = information.serial;
+}
+
+wxString ChannelCommand(std::uint32_t rows, const char* shortForm, const char* longForm) {
+    if (rows > ShortCommandRows)
+        return wxString::Format("%s%3u\r", longForm, rows);
+    return wxString(shortForm) + "\r";
+}
+
+/// Sets TxLine and StatusText for the mode. TransferOk, or the status with which there is nothing to open.
+int ChooseCommand(TransferContext& context, int mode) {
+    switch (mode) {
+    case WriteChannelsMode:
+        context.StatusText = "Sending Memory Data....";
+        context.TxLine = ChannelCommand(context.RowCapacity, "dl", "DL");
+        return TransferOk;
+    case ReadChannelsMode:
+        context.StatusText = "Receiving Memory Data....";
+        context.TxLine = ChannelCommand(context.RowCapacity, "ul", "UL");
+        return TransferOk;
+    case ReadConfigMode:
+        if (static_cast<std::int32_t>(context.ConfigCount) < 1)
+            return TransferUnsupported;
+        context.StatusText = "Reading Config Data....";
+        context.TxLine = "UC\r";
+        return TransferOk;
+    case WriteConfigMode:
+        if (context.ConfigLines.empty())
+            return TransferNoDataSelected;
+        context.StatusText = "Writing Config Data....";
+        context.TxLine = "DC\r";
+        return TransferOk;
+    case ReadInformationMode:
+        return TransferComplete;
+    default:
+        return TransferUnsupported;
+    }
+}
+
+int RunExchange(TransferContext& context, wxGrid* grid, int mode) {
+    switch (mode) {
+    case WriteChannelsMode:
+        return WriteChannels(context, grid);
+    case ReadChannelsMode:
+        return ReadChannels(context, grid);
+    case ReadConfigMode:
+        return ReadConfig(context);
+    default:
+        return WriteConfig(context);
+    }
+}
+
+} // namespace
+
+int TransferData(TransferContext& context, wxGrid* grid, int mode, const wxString& portName,
+                 const wxString& title) {
+    MakeProgressFrame(context, grid, title);
+    OpenTransferLog(context.LogFile, wxStandardPaths::Get().GetUserDataDir());
+    context.Port = new wxAsyncSerial(MainFrame, portName, LineSpeed);
+    context.Status = context.Port->isOpen() ? DoTransferData(context, grid, mode) : TransferPortError;
+    Report(context, mode);
+    TakeDown(context);
+    return context.Status;
+}
+
+int DoTransferData(TransferContext& context, wxGrid* grid, int mode) {
+    const PageParameterRecord& page = CurrentParameters();
+    const int pibNumber = GetPibNumber(page.Radio);
+    context.StatusText = "Initializing....";
+    ShowStatus(context);
+    context.Status = TransferOk;
+
+    wxString block = UnknownInformation;
+    if (pibNumber == AskingPibNumber && AskForInformation(context, block) == TransferCancelled)
+        return TransferCancelled;
+    KeepInformation(context, ParseInformation(block));
+    if (pibNumber != 0)
+        context.RowCapacity = static_cast<std::uint32_t>(page.Rows);
+
+    if (const int status = ChooseCommand(context, mode))
+        return status;
+    if (pibNumber != 0) {
+        SendPaced(context, wxString::Format("rt\r%d\r", pibNumber), true);
+        // Radios that need the opening begin to send with the character behind the command.
+        if (mode == ReadChannelsMode)
+            context.TxLine += " ";
+    }
+    ShowStatus(context);
+    SendPaced(context, context.TxLine, true);
+    return RunExchange(context, grid, mode);
+}
+
+void SendPaced(TransferContext& context, const wxString& text, bool slow) {
+    const int pause = slow ? SlowPause : FastPause;
+    for (wxUniChar character : slow ? text : text + "\r") {
+        context.Port->write(wxString(character));
+        Delay(context, pause, false);
+    }
+}

@@ -1,0 +1,29 @@
+// What an analog driver exchanges with the radio once the opening command is out.
+#pragma once
+
+class wxGrid;
+struct TransferContext;
+
+// All answer a TransferStatus and take the open port and the progress window from the context.
+
+/// Sends the selected rows from 1 to context.RowCapacity, each to be acknowledged, and the end line.
+int WriteChannels(TransferContext& context, wxGrid* grid);
+
+/// Asks the user to start the radio where it needs that, and takes channel lines until the end line. A
+/// radio that falls silent has ended well if its last row was reached.
+int ReadChannels(TransferContext& context, wxGrid* grid);
+
+/// Takes configuration lines into context.ConfigLines until the radio ends them. A line with a wrong
+/// checksum is dropped.
+int ReadConfig(TransferContext& context);
+
+/// Sends context.ConfigLines, each to be answered, and the end line. TransferCommunicationError, with Index
+/// behind the line that was refused.
+int WriteConfig(TransferContext& context);
+
+/// Moves the main gauge if the value is in its range.
+void SetMainGauge(TransferContext& context, int value);
+
+/// Takes what stands before the terminator that WaitForLine found out of the buffer, and the terminator.
+/// What follows stays, without the blanks and line feeds that it begins with.
+void TakeReceivedLine(TransferContext& context);

@@ -1,0 +1,101 @@
+#include "transfer/AnalogRecord.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "editing/FrequencyRules.h"
+#include "transfer/TransferContext.h"
+
+#include <wx/grid.h>
+
+using namespace RadioCatalogue;
+
+namespace {
+
+/// The number of a row to be sent, 0 when it has none.
+int NumberToSend(wxGrid* grid, int row) {
+    wxString text = grid->GetCellValue(row, MNUM);
+    if (text == "GD1")
+        text = NumberText(GD1);
+    else if (text == "GD2")
+        text = NumberText(GD2);
+    const int number = ReadDecimal(text);
+    return number >= 1 && number <= CurrentParameters().Rows ? number : 0;
+}
+
+AnalogTexts TextsOfRow(wxGrid* grid, int row) {
+    AnalogTexts texts;
+    texts[DescriptionPart] = DescriptionToText(grid->GetCellValue(row, DESC));
+    texts[RxFrequencyPart] = PadFrequency(grid->GetCellValue(row, RFRQ).Trim(true).Trim(false));
+    texts[TxFrequencyPart] = PadFrequency(grid->GetCellValue(row, TFRQ).Trim(true).Trim(false));
+    texts[RxTonePart] = ToneToCode(grid, row, RTON);
+    texts[TxTonePart] = ToneToCode(grid, row, TTON);
+    texts[RxCodePart] = CodeToText(grid->GetCellValue(row, RCOD));
+    texts[TxCodePart] = CodeToText(grid->GetCellValue(row, TCOD));
+    texts[ScanPart] = ScanMaskToText(grid->GetCellValue(row, SCAN));
+    texts[ModePart] = ModeToText(grid->GetCellValue(row, MODE));
+    return texts;
+}
+
+/// The text of MNUM for the number field of a line.
+wxString NumberFieldToCell(wxGrid* grid, const wxString& field) {
+    if (field == "GD1")
+        return wxString::Format("%d", grid->GetNumberRows() - 2);
+    if (field == "GD2")
+        return wxString::Format("%d", grid->GetNumberRows() - 1);
+    return field;
+}
+
+/// Rows of a module carry a band each, which the line tells by its receive frequency only.
+void WriteBand(wxGrid* grid, int row, const wxString& rxFrequency) {
+    const int band = GetFreqBand(rxFrequency, MDLX);
+    if (band >= 0) {
+        grid->SetCellValue(row, BAND, BandName[band]);
+        return;
+    }
+    grid->SetCellValue(row, BAND, grid->GetCellValue(0, BAND));
+    grid->SetCellBackgroundColour(row, BAND, FailColour);
+}
+
+void WriteCells(wxGrid* grid, int row, const AnalogCells& cells) {
+    grid->SetCellValue(row, DESC, cells.description);
+    grid->SetCellValue(row, RFRQ, cells.rxFrequency);
+    grid->SetCellValue(row, TFRQ, cells.txFrequency);
+    grid->SetCellValue(row, RTON, cells.rxTone);
+    grid->SetCellValue(row, RCOD, cells.rxCode);
+    grid->SetCellValue(row, TTON, cells.txTone);
+    grid->SetCellValue(row, TCOD, cells.txCode);
+    grid->SetCellValue(row, SCAN, cells.scan);
+    grid->SetCellValue(row, MODE, cells.mode);
+    grid->SetCellValue(row, TFLG, TflgRead);
+}
+
+} // namespace
+
+int encodeAnalogRecord(TransferContext&, wxGrid* grid, int row, wxString& out) {
+    int errors = 0;
+    if (const int number = NumberToSend(grid, row))
+        out = NumberText(number) + " ";
+    else
+        ++errors; // meant: the line goes on behind whatever out held
+    AppendAnalogFields(TextsOfRow(grid, row), out);
+    return errors;
+}
+
+int decodeAnalogRecord(TransferContext& context, wxGrid* grid, const wxString& line) {
+    const wxString plain = StripParity(line);
+    const wxString number = NumberFieldToCell(grid, plain.Left(3));
+    const int row = ReadDecimal(number);
+    if (row < 1 || row >= grid->GetNumberRows())
+        return 0;
+    const int type = CurrentParameters().Type;
+    grid->SetCellValue(row, MNUM, number);
+    WriteCells(grid, row, ReadAnalogLine(plain, type));
+    if (type == MDLX)
+        WriteBand(grid, row, SplitAnalogLine(plain)[RxFrequencyPart]);
+    context.Work1 = row;
+    return 1;
+}
+
+wxString ToneToCode(wxGrid* grid, int row, int column) {
+    return ToneToText(grid->GetCellValue(row, column));
+}

@@ -1,0 +1,23 @@
+// Exclusive use of an open serial device.
+#include "transfer/PortLock.h"
+
+#ifndef _WIN32
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/ioctl.h>
+
+int LockPort(int descriptor) {
+    // The lock holds against every program that asks for it, the superuser's too; the terminal's own mark
+    // keeps out programs that don't ask.
+    if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 || ioctl(descriptor, TIOCEXCL) != 0)
+        return errno;
+    fcntl(descriptor, F_SETFD, FD_CLOEXEC);
+    return 0;
+}
+
+void UnlockPort(int descriptor) {
+    ioctl(descriptor, TIOCNXCL);
+    flock(descriptor, LOCK_UN);
+}
+#endif

@@ -1,0 +1,94 @@
+// The window that shows a transfer and carries its Cancel.
+#include "transfer/ProgressFrame.h"
+
+#include <wx/button.h>
+#include <wx/gauge.h>
+#include <wx/persist/toplevel.h>
+#include <wx/sizer.h>
+#include <wx/statline.h>
+#include <wx/stattext.h>
+
+namespace {
+
+constexpr int kBorder = 5;
+constexpr int kGaugeRange = 100;
+constexpr int kGaugeStart = 10;
+
+wxGauge* MakeGauge(wxWindow* parent) {
+    auto* gauge =
+        new wxGauge(parent, wxID_ANY, kGaugeRange, wxDefaultPosition, wxDefaultSize, wxGA_HORIZONTAL);
+    gauge->SetValue(kGaugeStart);
+    return gauge;
+}
+
+} // namespace
+
+ProgressFrame::ProgressFrame(wxWindow* parent, wxWindowID id, const wxString& title, const wxPoint& pos,
+                             const wxSize& size, long style)
+    : wxFrame(parent, id, title, pos, size, style) {
+    CreateControls();
+
+    SetName("ProgressFrame");
+    SetSize(ConvertDialogToPixels(wxSize(200, 150)));
+    GetSizer()->Fit(this);
+    if (GetParent())
+        CentreOnParent();
+    else
+        CentreOnScreen();
+
+    auto& persistence = wxPersistenceManager::Get();
+    if (persistence.Find(this))
+        persistence.Restore(this);
+    else
+        persistence.RegisterAndRestore(this);
+
+    m_cancelButton->Bind(wxEVT_BUTTON, &ProgressFrame::OnCancel, this);
+    Bind(wxEVT_CLOSE_WINDOW, &ProgressFrame::OnCloseRequest, this);
+    m_disabler = std::make_unique<wxWindowDisabler>(this);
+}
+
+ProgressFrame::~ProgressFrame() {
+    Unbind(wxEVT_CLOSE_WINDOW, &ProgressFrame::OnCloseRequest, this);
+    m_cancelButton->Unbind(wxEVT_BUTTON, &ProgressFrame::OnCancel, this);
+    m_disabler.reset();
+}
+
+void ProgressFrame::CreateControls() {
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    m_label = new wxStaticText(this, wxID_ANY, wxString());
+    column->Add(m_label, 0, wxEXPAND | wxALL, kBorder);
+    m_mainGauge = MakeGauge(this);
+    column->Add(m_mainGauge, 0, wxEXPAND | wxALL, kBorder);
+    m_line = new wxStaticLine(this);
+    column->Add(m_line, 0, wxEXPAND | wxALL, kBorder);
+
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    column->Add(row, 1, wxEXPAND | wxALL, kBorder);
+    m_pulseGauge = MakeGauge(this);
+    row->Add(m_pulseGauge, 1, wxEXPAND | wxALL, kBorder);
+    m_cancelButton = new wxButton(this, wxID_ANY, "Cancel");
+    row->Add(m_cancelButton, 0, wxALL, kBorder);
+    SetSizer(column);
+}
+
+void ProgressFrame::SetStatus(const wxString& text) {
+    m_status = text;
+    m_label->SetLabelText(m_status);
+}
+
+void ProgressFrame::AppendStatus(const wxString& text) {
+    m_status += text;
+    m_label->SetLabelText(m_status);
+}
+
+void ProgressFrame::OnCancel(wxCommandEvent& event) {
+    Cancelled = true;
+    event.Skip();
+}
+
+void ProgressFrame::OnCloseRequest(wxCloseEvent& event) {
+    // The transfer still works with this window; it ends it when it sees the flag.
+    Cancelled = true;
+    if (event.CanVeto())
+        event.Veto();
+}

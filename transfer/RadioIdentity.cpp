@@ -1,0 +1,4 @@
+#include "transfer/RadioIdentity.h"
+
+wxString RadioVersion;
+wxString RadioSerial;

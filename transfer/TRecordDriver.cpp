@@ -1,0 +1,7 @@
+#include "transfer/TRecordDriver.h"
+
+#include "transfer/TransferStatus.h"
+
+int TransferData(TRecordContext&, wxGrid*, int, const wxString&, const wxString&) {
+    return TransferUnsupported;
+}

@@ -1,0 +1,52 @@
+// What a transfer driver works on.
+#pragma once
+
+#include <cstdint>
+#include <wx/arrstr.h>
+#include <wx/datetime.h>
+#include <wx/ffile.h>
+#include <wx/string.h>
+
+class ProgressFrame;
+class wxAsyncSerial;
+
+/// State of one transfer. Made anew for each by the handler of the command; the driver fills it.
+struct TransferContext {
+    wxString InfoField4, InfoField5;    ///< fields of the radio's information block
+    wxArrayString InfoLines;            ///< fields of the information block, or hardware text lines
+    wxArrayString ConfigLines;          ///< configuration lines read, or to be written
+    std::uint32_t ProductCode = 0;      ///< first digit of the information block
+    std::uint32_t RowCapacity = 0;      ///< rows that the radio holds
+    std::uint32_t ConfigCount = 0;      ///< configuration lines that the radio holds
+    wxAsyncSerial* Port = nullptr;      ///< made and destroyed by the driver
+    ProgressFrame* Progress = nullptr;  ///< made and destroyed by the driver
+    wxDateTime WaitStart, WaitNow;      ///< begin and present of the last WaitForLine or Delay
+    std::int64_t Elapsed = 0;           ///< milliseconds of that wait so far
+    std::int64_t LastPulse = 0;         ///< Elapsed when the pulse gauge last moved
+    wxString TxLine;                    ///< line to send
+    wxString RxLine;                    ///< line received
+    wxString RxBuffer;                  ///< received text not yet split into lines
+    wxString Scratch;                   ///< text of the moment: file names, message texts
+    wxString StatusText;                ///< text for the progress label
+    wxString RadioSerial;               ///< serial number of the radio
+    wxFFile LogFile;                    ///< log of the transfer, open only if the user asked for one
+    wxFFile DebugLogFile, HardwareFile; ///< texts read from the radio, T-record transfers only
+    std::int32_t Index = 0;             ///< state or row
+    std::int32_t Work1 = 0, Work2 = 0, Work3 = 0; ///< numbers of the moment
+    std::uint32_t Phase = 0;                      ///< state of the exchange of one line
+    std::int32_t FoundAt = -1;                    ///< position of the terminator in RxBuffer, -1 for none
+    std::int32_t Status = 0;                      ///< a TransferStatus
+    std::uint32_t XferFlags = 0;                  ///< what the rows to be sent need of the radio
+};
+
+/// State of a T-record transfer.
+struct TRecordContext : TransferContext {
+    wxString DebugRxText, DebugTxText; ///< lines of the radio's debug log that are being put together
+    std::uint32_t RecordVersion = 0;   ///< 1 or 2
+    std::uint32_t RadioModes = 0;      ///< operating modes that the radio has
+    std::uint32_t InvalidModes = 0;    ///< operating modes that the rows use and the radio lacks
+    std::uint32_t RetryCount = 0;      ///< times that a line was refused
+    std::uint32_t RecordType = 0;      ///< digit of the last record
+    std::uint32_t LogDataStart = 0;    ///< byte of a debug log record at which its data begin
+    std::uint32_t Protocol = 0;        ///< number of the protocol agreed on
+};

@@ -1,0 +1,12 @@
+// What a transfer is to do.
+#pragma once
+
+/// Kinds of transfer, as plain integers in the calls of the drivers. The commands of the window start the
+/// first two; the others are for direct calls.
+enum TransferMode : int {
+    WriteChannelsMode = 0,
+    ReadChannelsMode = 1,
+    ReadConfigMode = 2,
+    WriteConfigMode = 3,
+    ReadInformationMode = 4,
+};

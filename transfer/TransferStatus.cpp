@@ -1,0 +1,35 @@
+// How a transfer ended.
+#include "transfer/TransferStatus.h"
+
+wxArrayString StatusList;
+
+namespace {
+
+constexpr const char* kStatusTexts[] = {
+    "Ok",
+    "Complete",
+    "Port Error",
+    "Communication Failure",
+    "Timeout",
+    "Communication Error",
+    "Checksum Error",
+    "No Data Selected",
+    "Invalid Transmit Data",
+    "Protocol is Unsupported",
+    "Cancelled by User",
+    "K7 Data Transfer is currently UnSupported",
+};
+
+} // namespace
+
+void FillStatusList() {
+    StatusList.clear();
+    for (const char* text : kStatusTexts)
+        StatusList.Add(text);
+}
+
+wxString GetStatusText(int status) {
+    if (status < 0 || static_cast<std::size_t>(status) >= StatusList.size())
+        return "Bad Index";
+    return StatusList[static_cast<std::size_t>(status)];
+}

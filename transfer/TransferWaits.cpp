@@ -1,0 +1,64 @@
+// The waits of the transfer drivers.
+#include "transfer/TransferWaits.h"
+
+#include "transfer/ProgressFrame.h"
+#include "transfer/TransferContext.h"
+#include "transfer/TransferStatus.h"
+#include "transfer/wxAsyncSerial.h"
+
+#include <wx/evtloop.h>
+#include <wx/gauge.h>
+
+namespace {
+
+constexpr std::int64_t kPulseInterval = 50; // milliseconds
+
+void StartClock(TransferContext& context) {
+    context.WaitStart = wxDateTime::UNow();
+}
+
+void ReadClock(TransferContext& context) {
+    context.WaitNow = wxDateTime::UNow();
+    context.Elapsed = (context.WaitNow - context.WaitStart).GetMilliseconds().GetValue();
+}
+
+// Only what paints the window and what the user does; nothing that could start another transfer.
+void PumpUserEvents() {
+    if (auto* loop = wxEventLoopBase::GetActive())
+        loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
+}
+
+} // namespace
+
+int WaitForLine(TransferContext& context, int timeoutMs, wxChar terminator, bool /*pulse*/) {
+    auto* gauge = context.Progress->PulseGauge();
+    gauge->Pulse();
+    context.LastPulse = 0;
+    StartClock(context);
+    // Spins without a sleep on purpose: the time from a radio's answer to the next line stays short.
+    while (true) {
+        PumpUserEvents();
+        context.RxBuffer += wxAsyncSerial::GetData();
+        context.FoundAt = context.RxBuffer.Find(terminator);
+        ReadClock(context);
+        if (context.Elapsed >= context.LastPulse + kPulseInterval) {
+            gauge->Pulse();
+            context.LastPulse = context.Elapsed;
+        }
+        if (context.Progress->Cancelled)
+            return TransferCancelled;
+        if (context.Elapsed >= timeoutMs)
+            return TransferTimeout;
+        if (context.FoundAt != wxNOT_FOUND)
+            return TransferOk;
+    }
+}
+
+void Delay(TransferContext& context, int ms, bool cancelTest) {
+    if (ms == 0)
+        return;
+    StartClock(context);
+    do {
+        ReadClock(context);
+    } while (context.Elapsed < ms && !(cancelTest && context.Progress->Cancelled));
+}

@@ -1,0 +1,121 @@
+#include "transfer/ZelkTransfer.h"
+
+#include "catalogue/PageModel.h"
+#include "editing/ZelkEditors.h"
+#include "files/ZelkFile_OpenSave.h"
+#include "frame/TargetSelection.h"
+#include "frame/ZelkMain.h"
+#include "transfer/AnalogDriver.h"
+#include "transfer/DriverChoice.h"
+#include "transfer/TRecordDriver.h"
+#include "transfer/TransferContext.h"
+#include "transfer/TransferMode.h"
+#include "transfer/TransferStatus.h"
+
+#include <wx/grid.h>
+#include <wx/msgdlg.h>
+
+using namespace RadioCatalogue;
+
+namespace {
+
+constexpr int NoRadio = -1;
+constexpr int LastSingleChannelRadio = 5;
+constexpr int SmallestRadio = 3; // KRV-214, of 100 channels; its sisters have 120
+
+void Refuse(const wxString& text) {
+    wxMessageBox(text, "Error!", wxOK | wxCENTRE);
+}
+
+bool PortIsChosen() {
+    if (PortName != "none")
+        return true;
+    Refuse("No Port selected!");
+    return false;
+}
+
+void ShowResult(int status, const wxString& caption) {
+    wxMessageBox(GetStatusText(status), caption, wxOK | wxCENTRE);
+}
+
+bool GuardIsSelected(int row) {
+    return row < CurrentGrid()->GetNumberRows() && RowHasData(row) && CurrentGrid()->IsInSelection(row, 0);
+}
+
+/// A P25 page that was reset has memories already; what was read must not stand among them.
+void EmptyStartingRows() {
+    if (!CurrentPageIsP25())
+        return;
+    for (const int row : {1, GD1, GD2})
+        if (row > 0)
+            ClearRowData(row, true);
+}
+
+int RunDriver(TransferDriver driver, int mode, const wxString& title) {
+    TransferContext analog;
+    TRecordContext digital;
+    switch (driver) {
+    case TransferDriver::Analog:
+        return TransferData(analog, CurrentGrid(), mode, PortName, title);
+    case TransferDriver::TRecord:
+        return TransferData(digital, CurrentGrid(), mode, PortName, title);
+    case TransferDriver::None:
+        break;
+    }
+    return TransferUnsupported;
+}
+
+bool UserAgreesToOverwrite() {
+    wxMessageDialog question(nullptr, "This will overwrite any data on this page! Continue?",
+                             "Read Channel Data from Radio?", wxOK | wxCANCEL);
+    return question.ShowModal() == wxID_OK;
+}
+
+} // namespace
+
+bool MainAndGuardsAreSelected() {
+    const PageParameterRecord& page = CurrentParameters();
+    // Meant: the default row stands for the main channels.
+    if (page.Rows > 0 && !RowHasData(0))
+        return false;
+    const int firstGuard = page.Radio == SmallestRadio ? 101 : 121;
+    return GuardIsSelected(firstGuard) && GuardIsSelected(firstGuard + 1);
+}
+
+void ZelkFrame::OnDownload(wxCommandEvent&) {
+    CommitOpenEditor();
+    const PageParameterRecord& page = CurrentParameters();
+    if (!UserAgreesToOverwrite())
+        return;
+    if (page.Radio == NoRadio)
+        return Refuse("No target radio selected!");
+    if (!PortIsChosen())
+        return;
+    const DriverChoice choice = ChooseDriver(page.Type, page.Band, TransferDirection::Read);
+    int status = TransferUnsupported;
+    if (choice.driver != TransferDriver::None) {
+        ResetPage(CurrentPage);
+        EmptyStartingRows();
+        status = RunDriver(choice.driver, ReadChannelsMode,
+                           wxString("Read ") + RadioTypeName[page.Type] + " Memory Data Progress");
+        SetPageEditors(CurrentPage);
+    }
+    ShowResult(status, "Read from Radio Status");
+}
+
+void ZelkFrame::OnUpload(wxCommandEvent&) {
+    CommitOpenEditor();
+    const PageParameterRecord& page = CurrentParameters();
+    if (!PortIsChosen())
+        return;
+    if (CurrentGrid()->GetSelectedRows().empty())
+        return Refuse("No data selected!");
+    const DriverChoice choice = ChooseDriver(page.Type, page.Band, TransferDirection::Write);
+    if (choice.driver == TransferDriver::Analog && page.Radio <= LastSingleChannelRadio &&
+        !MainAndGuardsAreSelected())
+        return Refuse("For single channel analog radios\n(KRV-21, 47, 214, 214B 305):\n\n"
+                      "At least one Main channel and\n both Guards must be selected!");
+    if (page.Type == O12)
+        Refuse("ORV-12 is not currently supported!");
+    ShowResult(RunDriver(choice.driver, WriteChannelsMode, choice.title), "Write to Radio Status");
+}

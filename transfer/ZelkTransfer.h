@@ -1,0 +1,6 @@
+// The commands that read from and send to the radio: ZelkFrame::OnDownload and ZelkFrame::OnUpload.
+#pragma once
+
+/// Whether the current page, of a single channel radio (index 0 to 5), may be sent: its default row and both
+/// guard memories have data, and the guard memories are selected.
+bool MainAndGuardsAreSelected();

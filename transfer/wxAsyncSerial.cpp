@@ -1,0 +1,94 @@
+// The serial port as the transfer code holds it: text out, text in by polling.
+#include "transfer/wxAsyncSerial.h"
+
+#include "transfer/AsyncSerial.h"
+
+#include <boost/system/system_error.hpp>
+#include <string>
+#include <wx/strconv.h>
+
+wxString SerialRxBuffer;
+wxMutex SerialRxMutex;
+
+struct wxAsyncSerialImpl {
+    CallbackAsyncSerial port;
+    wxString text; // emptied by close, not used otherwise
+};
+
+namespace {
+
+std::string LibcBytes(const wxString& text) {
+    const wxCharBuffer bytes = text.mb_str(wxConvLibc);
+    return bytes.data() ? std::string(bytes.data(), bytes.length()) : std::string();
+}
+
+} // namespace
+
+wxAsyncSerial::wxAsyncSerial(wxWindow* parent)
+    : m_impl(std::make_shared<wxAsyncSerialImpl>()), m_parent(parent) {}
+
+wxAsyncSerial::wxAsyncSerial(wxWindow* parent, const wxString& deviceName, unsigned int baudRate)
+    : wxAsyncSerial(parent) {
+    open(deviceName, baudRate);
+}
+
+wxAsyncSerial::~wxAsyncSerial() {
+    try {
+        close();
+    } catch (...) {
+        // Nobody is left who could be told.
+    }
+}
+
+void wxAsyncSerial::open(const wxString& deviceName, unsigned int baudRate) {
+    try {
+        m_impl->port.open(LibcBytes(deviceName), baudRate);
+    } catch (const boost::system::system_error&) {
+        // isOpen() tells.
+    }
+    m_impl->port.setCallback([this](const char* data, std::size_t length) { readCallback(data, length); });
+    const wxMutexLocker lock(SerialRxMutex);
+    SerialRxBuffer.clear();
+}
+
+void wxAsyncSerial::setBaudRate(unsigned int baudRate) {
+    try {
+        m_impl->port.setBaudRate(baudRate);
+    } catch (const boost::system::system_error&) {
+        // A device that went away in mid-transfer shows as a radio that doesn't answer.
+    }
+}
+
+bool wxAsyncSerial::isOpen() const {
+    return m_impl->port.isOpen();
+}
+
+bool wxAsyncSerial::errorStatus() const {
+    return m_impl->port.errorStatus();
+}
+
+void wxAsyncSerial::write(const wxString& text) {
+    m_impl->port.writeString(LibcBytes(text));
+}
+
+void wxAsyncSerial::close() {
+    m_impl->port.clearCallback();
+    try {
+        m_impl->port.close();
+    } catch (const boost::system::system_error&) {
+        // The port is closed all the same.
+    }
+    m_impl->text.clear();
+}
+
+wxString wxAsyncSerial::GetData() {
+    const wxMutexLocker lock(SerialRxMutex);
+    const wxString data = SerialRxBuffer;
+    SerialRxBuffer.clear();
+    return data;
+}
+
+void wxAsyncSerial::readCallback(const char* data, std::size_t length) {
+    const wxMutexLocker lock(SerialRxMutex);
+    SerialRxBuffer.append(wxString(data, wxConvISO8859_1, length));
+}

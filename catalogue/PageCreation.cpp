@@ -72,6 +72,10 @@ void SetUpGrid(OrvZELFrame* frame, wxGrid* grid, int page) {
     grid->SetRowLabelSize(wxGRID_AUTOSIZE);
     grid->SetColLabelSize(grid->GetRowSize(1));
     grid->SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_TOP);
+    // A page is often selected as a whole while it is read: dark text on a light colour, also
+    // where the window has no focus and the toolkit takes a grey.
+    grid->SetSelectionForeground(*wxBLACK);
+    grid->SetSelectionBackground(wxColour(178, 208, 240));
     // The event names the grid's inner window that was clicked, so no id can be asked for here.
     grid->Bind(wxEVT_CONTEXT_MENU, &OrvZELFrame::OnGridContextMenu, frame);
 }

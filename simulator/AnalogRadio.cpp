@@ -153,7 +153,7 @@ void AnalogRadio::SendMemories() {
     }
     if (m_habits.endLine)
         m_link.Print(OnTheWire(m_counted ? "END" : "300", 3));
-    m_link.EndTransfer();
+    m_link.EndTransferWhenSent();
 }
 
 /// The line with its parity bits and its end; `plain` characters at its start carry a bit only in
@@ -170,6 +170,11 @@ std::string AnalogRadio::NumberText(int number) const {
     if (m_habits.guardNames && HasGuards(m_model) && number > m_model.rows - 2)
         return number == m_model.rows ? "GD2" : "GD1";
     return NumberField(number);
+}
+
+bool AnalogRadio::IsAtRest() const {
+    const bool between = m_state == State::Command || m_state == State::Sending;
+    return between && !m_link.IsSending() && m_text.empty() && !m_opened;
 }
 
 void AnalogRadio::PortClosed() {

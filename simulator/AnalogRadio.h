@@ -36,6 +36,7 @@ public:
     AnalogRadio(const AnalogModel& model, AnalogHabits habits, MemoryList memories, RadioLink& link);
 
     void Hear(std::uint8_t byte) override;
+    bool IsAtRest() const override;
     void PortClosed() override;
     bool Store(std::string& trouble) override;
 

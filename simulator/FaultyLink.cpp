@@ -100,6 +100,11 @@ void FaultyLink::WaitForKey(std::chrono::milliseconds patience) {
 
 void FaultyLink::EndTransfer() {
     if (!m_dead)
+        m_outlet.CountCompleted();
+}
+
+void FaultyLink::EndTransferWhenSent() {
+    if (!m_dead)
         m_outlet.Complete();
 }
 

@@ -19,6 +19,7 @@ public:
     void Print(std::string_view bytes) override;
     void WaitForKey(std::chrono::milliseconds patience) override;
     void EndTransfer() override;
+    void EndTransferWhenSent() override;
     bool IsSending() const override { return !m_outlet.IsEmpty(); }
     void Note(std::string_view text) override { m_journal.Note(text); }
     void Complain(std::string_view text) override { m_journal.Complain(text); }

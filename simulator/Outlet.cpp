@@ -28,7 +28,7 @@ void Outlet::Vanish(std::string note) {
 
 void Outlet::Complete() {
     if (m_actions.empty())
-        ++m_completed;
+        CountCompleted();
     else
         Push({Kind::Complete, {}, {}, {}});
 }
@@ -95,7 +95,7 @@ Outlet::Delivery Outlet::Take(TimePoint now, int baud) {
             Clear();
             return delivery;
         case Kind::Complete:
-            ++m_completed;
+            CountCompleted();
             break;
         }
         m_actions.pop_front();

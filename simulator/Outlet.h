@@ -30,6 +30,8 @@ public:
     void Vanish(std::string note);
     /// Counts a completed transfer when it is reached.
     void Complete();
+    /// Counts a completed transfer now.
+    void CountCompleted() { ++m_completed; }
 
     /// Ends the wait for the key, if that is what is going on.
     void PressKey();

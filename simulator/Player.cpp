@@ -14,10 +14,10 @@ constexpr std::size_t ReadSize = 512;
 
 } // namespace
 
-Player::Player(PseudoTerminal& port, PortLink& name, Radio& radio, FaultyLink& link, Outlet& outlet,
-               Journal& journal, bool pace, bool once)
-    : m_port(port), m_name(name), m_radio(radio), m_link(link), m_outlet(outlet), m_journal(journal),
-      m_pace(pace), m_once(once) {}
+Player::Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, Outlet& outlet, Journal& journal,
+               bool pace, bool once)
+    : m_port(port), m_radio(radio), m_link(link), m_outlet(outlet), m_journal(journal), m_pace(pace),
+      m_once(once) {}
 
 void Player::Run(int signals) {
     while (!m_stop) {
@@ -82,7 +82,14 @@ void Player::HandleVisits() {
 void Player::Leave() {
     for (std::string last = m_port.Read(ReadSize); !last.empty(); last = m_port.Read(ReadSize))
         m_heard += last;
-    FeedRadio(m_heard.size());
+    if (m_port.IsOpen()) {
+        // Somebody else has come at once, and nothing tells his first bytes from the last ones of the
+        // user who has gone. A dialogue that had come to its end is where the new one begins.
+        while (!m_heard.empty() && !(m_radio.IsAtRest() && !m_link.IsDead()))
+            FeedRadio(1);
+    } else {
+        FeedRadio(m_heard.size());
+    }
     m_hearing.Rest();
     m_outlet.Clear();
     m_pending.clear();
@@ -118,7 +125,6 @@ void Player::Deliver() {
         for (const std::string& note : delivery.notes)
             m_journal.Note(note);
         if (delivery.vanish) {
-            m_name.Remove();
             m_stop = true;
             return;
         }

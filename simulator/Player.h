@@ -4,7 +4,6 @@
 #include "simulator/FaultyLink.h"
 #include "simulator/Journal.h"
 #include "simulator/Outlet.h"
-#include "simulator/PortLink.h"
 #include "simulator/PseudoTerminal.h"
 #include "simulator/Radio.h"
 
@@ -17,8 +16,8 @@ class Player {
 public:
     /// Everything must outlive the player. With `pace`, neither direction is faster than the speed that
     /// the other side has set. With `once`, it ends when the port is closed after a completed transfer.
-    Player(PseudoTerminal& port, PortLink& name, Radio& radio, FaultyLink& link, Outlet& outlet,
-           Journal& journal, bool pace, bool once);
+    Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, Outlet& outlet, Journal& journal, bool pace,
+           bool once);
 
     /// Plays until SIGTERM, SIGINT, SIGHUP, the unplug fault or `once` ends it. `signals` is a signalfd
     /// of these and of SIGUSR1, which presses the radio's key.
@@ -35,7 +34,6 @@ private:
     int Baud() const { return m_pace ? m_port.Speed() : 0; }
 
     PseudoTerminal& m_port;
-    PortLink& m_name;
     Radio& m_radio;
     FaultyLink& m_link;
     Outlet& m_outlet;

@@ -49,7 +49,8 @@ PortLink::PortLink(const std::string& folder, const std::string& name, const std
 }
 
 PortLink::~PortLink() {
-    Remove();
+    if (PointsToDevice())
+        unlink(m_path.c_str());
     unlink(m_lockPath.c_str());
     close(m_lock);
 }
@@ -94,11 +95,6 @@ void PortLink::MakeLink() {
 bool PortLink::PointsToDevice() const {
     std::error_code error;
     return fs::read_symlink(m_path, error).string() == m_device && !error;
-}
-
-void PortLink::Remove() {
-    if (PointsToDevice())
-        unlink(m_path.c_str());
 }
 
 std::string DefaultPortsFolder() {

@@ -19,8 +19,6 @@ public:
     PortLink& operator=(const PortLink&) = delete;
 
     const std::string& Path() const { return m_path; }
-    /// Removes the link now.
-    void Remove();
 
 private:
     void Lock();

@@ -24,8 +24,10 @@ public:
     virtual void Print(std::string_view bytes) = 0;
     /// What is said after this waits until the radio's key is pressed; `patience` presses it.
     virtual void WaitForKey(std::chrono::milliseconds patience) = 0;
-    /// The exchange is complete as soon as all before it has gone out.
+    /// The exchange is complete.
     virtual void EndTransfer() = 0;
+    /// The exchange is complete as soon as all that was said before has gone out.
+    virtual void EndTransferWhenSent() = 0;
     /// True while something is still to go out.
     virtual bool IsSending() const = 0;
     /// A line for the log.
@@ -41,6 +43,8 @@ public:
 
     /// Takes one byte from the wire.
     virtual void Hear(std::uint8_t byte) = 0;
+    /// True between two dialogues: nothing has been heard of the next one yet.
+    virtual bool IsAtRest() const = 0;
     /// The other side has gone: a dialogue in progress is forgotten, memories stay.
     virtual void PortClosed() = 0;
     /// Writes the memories to their file if there is one. Answers false with a reason on failure.

@@ -1,6 +1,7 @@
 // zelk-radio: plays an analog radio on a simulated serial port.
 #include "simulator/Options.h"
 #include "simulator/Player.h"
+#include "simulator/PortLink.h"
 
 #include <csignal>
 #include <cstdio>
@@ -47,13 +48,14 @@ int Play(const Options& options) {
     FaultyLink link(FaultPlan(options.faults), options.late, outlet, journal);
     AnalogRadio radio(*options.model, options.habits, std::move(memories), link);
     {
+        // The link goes before the port does: nobody finds a name without a device behind it.
         PseudoTerminal port;
         PortLink name(options.portsFolder.empty() ? DefaultPortsFolder() : options.portsFolder, options.name,
                       port.DeviceName());
         std::printf("zelk-radio: %s %s is ready at %s\n", std::string(options.model->name).c_str(),
                     std::string(options.model->band).c_str(), name.Path().c_str());
         std::fflush(stdout);
-        Player(port, name, radio, link, outlet, journal, options.pace, options.once).Run(signals);
+        Player(port, radio, link, outlet, journal, options.pace, options.once).Run(signals);
     }
     close(signals);
     return radio.Store(trouble) ? 0 : Complain(trouble, Trouble);

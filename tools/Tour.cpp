@@ -103,7 +103,8 @@ private:
     }
 
     /// Clicks a choice's entry by walking to it with the keyboard, then OK.
-    void Choose(const std::string& caption, wxChoice*& choice, const std::string& text) {
+    void Choose(const std::string& what, const std::string& caption, wxChoice*& choice,
+                const std::string& text) {
         wxDialog* dialog = m_robot.WaitForDialog(caption);
         Need(dialog != nullptr, "no dialog " + caption);
         m_robot.Settle();
@@ -122,7 +123,7 @@ private:
             m_robot.Press("Return");
         }
         Need(m_robot.WaitFor(chosen), "can't choose " + text);
-        Done("choosing " + text, "offered and chosen");
+        Done(what, text);
         const wxPoint ok = m_robot.Ask([&] { return MiddleOf(*dialog->FindWindow(wxID_OK)); });
         m_robot.Click(ok);
         Need(m_robot.WaitForNoDialog(), caption + " stays open");
@@ -147,13 +148,16 @@ private:
         m_wanted = Tour::ChannelsOfFile((options.examples / Example).string());
         const Tour::ChannelList shown = m_robot.Ask([] { return Tour::ChannelsOfGrid(*CurrentGrid()); });
         Compare(shown, "the page");
+        m_robot.Settle();
+        m_robot.Screenshot(options.pictures / "window.png",
+                           m_robot.Ask([] { return MainFrame->GetScreenRect(); }));
         Done("open " + std::string(Example), std::to_string(shown.size()) + " channels on the page");
     }
 
     void PickPort() {
         ClickTool(ToolImage::Port);
         const wxString port = PortText();
-        Choose("<-- Select Serial Port -->", PortChoice, port.utf8_string());
+        Choose("choose port", "<-- Select Serial Port -->", PortChoice, port.utf8_string());
         Need(m_robot.Ask([&] { return PortName == port; }), "the port was not taken");
     }
 
@@ -235,7 +239,7 @@ private:
         m_robot.Press("Return");
         if (!m_robot.WaitForDialog("<-- Select Target Radio -->", 1500))
             m_robot.Press("Return");
-        Choose("<-- Select Target Radio -->", RadioChoice, Model);
+        Choose("choose radio", "<-- Select Target Radio -->", RadioChoice, Model);
         Need(m_robot.WaitFor([] { return PageCount == 2 && CurrentPage == 1; }), "no second page");
         Done("empty page", m_robot.Ask([] { return MainFrame->GetTitle().utf8_string(); }));
     }
@@ -298,6 +302,8 @@ int main(int argc, char** argv) {
     const TempFolder home("zelk-tour-home");
     for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
         setenv(name, home.Path().c_str(), 1);
+    // Without a session bus the toolkit's settings service only complains.
+    setenv("GSETTINGS_BACKEND", "memory", 1);
     int noArguments = 1;
     wxEntry(noArguments, argv);
     return exitCode;

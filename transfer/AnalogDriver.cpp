@@ -110,10 +110,8 @@ void KeepInformation(TransferContext& context, const AnalogInformation& informat
     RadioSerial = information.serial;
 }
 
-wxString ChannelCommand(std::uint32_t rows, const char* shortForm, const char* longForm) {
-    if (rows > ShortCommandRows)
-        return wxString::Format("%s%3u\r", longForm, rows);
-    return wxString(shortForm) + "\r";
+wxString ChannelCommand(std::uint32_t rows, const wxString& shortForm, const wxString& longForm) {
+    return rows > ShortCommandRows ? CountedCommand(longForm, rows) : shortForm + "\r";
 }
 
 /// Sets TxLine and StatusText for the mode. TransferOk, or the status with which there is nothing to open.
@@ -197,6 +195,10 @@ int DoTransferData(TransferContext& context, wxGrid* grid, int mode) {
     ShowStatus(context);
     SendPaced(context, context.TxLine, true);
     return RunExchange(context, grid, mode);
+}
+
+wxString CountedCommand(const wxString& word, std::uint32_t count) {
+    return word + wxString::Format("%3u\r", count);
 }
 
 void SendPaced(TransferContext& context, const wxString& text, bool slow) {

@@ -1,6 +1,9 @@
 // What an analog driver exchanges with the radio once the opening command is out.
 #pragma once
 
+#include <cstdint>
+#include <wx/string.h>
+
 class wxGrid;
 struct TransferContext;
 
@@ -20,6 +23,9 @@ int ReadConfig(TransferContext& context);
 /// Sends context.ConfigLines, each to be answered, and the end line. TransferCommunicationError, with Index
 /// behind the line that was refused.
 int WriteConfig(TransferContext& context);
+
+/// An opening command that names a count, in three characters at least, with its carriage return.
+wxString CountedCommand(const wxString& word, std::uint32_t count);
 
 /// Moves the main gauge if the value is in its range.
 void SetMainGauge(TransferContext& context, int value);

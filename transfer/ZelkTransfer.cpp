@@ -42,15 +42,6 @@ bool GuardIsSelected(int row) {
     return row < CurrentGrid()->GetNumberRows() && RowHasData(row) && CurrentGrid()->IsInSelection(row, 0);
 }
 
-/// A P25 page that was reset has memories already; what was read must not stand among them.
-void EmptyStartingRows() {
-    if (!CurrentPageIsP25())
-        return;
-    for (const int row : {1, GD1, GD2})
-        if (row > 0)
-            ClearRowData(row, true);
-}
-
 int RunDriver(TransferDriver driver, int mode, const wxString& title) {
     TransferContext analog;
     TRecordContext digital;
@@ -95,7 +86,8 @@ void ZelkFrame::OnDownload(wxCommandEvent&) {
     int status = TransferUnsupported;
     if (choice.driver != TransferDriver::None) {
         ResetPage(CurrentPage);
-        EmptyStartingRows();
+        // What was read must not stand among the memories that such a page begins with.
+        EmptyDefaultMemories(CurrentPage);
         status = RunDriver(choice.driver, ReadChannelsMode,
                            wxString("Read ") + RadioTypeName[page.Type] + " Memory Data Progress");
         SetPageEditors(CurrentPage);

@@ -45,14 +45,22 @@ TEST(LongLine, OfEveryFieldIsTakenApart) {
 
 TEST(LongLine, IsTakenWithEveryGoodValueOfAField) {
     const Change good[] = {
-        {"last number", 0, "102"},        {"empty description", 4, "         "},
-        {"full description", 4, "NINE-CHAR"}, {"low edge", 14, "138.0000"},
-        {"high edge", 14, "174.0000"},    {"first tone", 43, "01"},
-        {"last tone", 43, "63"},          {"no tone", 48, "64"},
-        {"first code", 58, "023"},        {"last code", 64, "754"},
-        {"no code", 64, "000"},           {"locked out", 70, "LOCK "},
-        {"all lists", 70, "12345"},       {"last list", 70, "____5"},
-        {"narrow", 75, "N"},              {"wide", 75, "W"},
+        {"last number", 0, "102"},
+        {"empty description", 4, "         "},
+        {"full description", 4, "NINE-CHAR"},
+        {"low edge", 14, "138.0000"},
+        {"high edge", 14, "174.0000"},
+        {"first tone", 43, "01"},
+        {"last tone", 43, "63"},
+        {"no tone", 48, "64"},
+        {"first code", 58, "023"},
+        {"last code", 64, "754"},
+        {"no code", 64, "000"},
+        {"locked out", 70, "LOCK "},
+        {"all lists", 70, "12345"},
+        {"last list", 70, "____5"},
+        {"narrow", 75, "N"},
+        {"wide", 75, "W"},
     };
     for (const Change& change : good) {
         std::string trouble;
@@ -133,7 +141,9 @@ TEST(LongLine, KnowsEverySquelchCode) {
     int known = 0;
     for (int code = 1; code <= 999; ++code) {
         std::string trouble;
-        known += ParseLongLine(Changed({"", 58, NumberField(code).c_str()}), Model("KRV-214"), 102, trouble) ? 1 : 0;
+        known += ParseLongLine(Changed({"", 58, NumberField(code).c_str()}), Model("KRV-214"), 102, trouble)
+                     ? 1
+                     : 0;
     }
     EXPECT_EQ(known, 83);
     for (const char* code : codes) {
@@ -149,9 +159,9 @@ TEST(LongLine, OfTheModuleKeepsBothFrequenciesInOneRange) {
         const char* tx;
         bool good;
     } pairs[] = {
-        {"030.0000", "050.0000", true},  {"108.0000", "138.0000", true}, {"225.0000", "400.0000", true},
+        {"030.0000", "050.0000", true},  {"108.0000", "138.0000", true},  {"225.0000", "400.0000", true},
         {"030.0000", "225.0000", false}, {"150.0000", "150.0000", false}, {"900.0000", "900.0000", false},
-        {"113.5000", "000.0000", true},  {"117.9999", "000.0000", true}, {"118.0000", "000.0000", false},
+        {"113.5000", "000.0000", true},  {"117.9999", "000.0000", true},  {"118.0000", "000.0000", false},
         {"030.0000", "000.0000", false},
     };
     for (const auto& pair : pairs) {

@@ -15,10 +15,31 @@ Options Parsed(const std::vector<std::string>& arguments) {
 }
 
 TEST(CommandLine, SetsEveryOption) {
-    const Options options =
-        Parsed({"--model", "KRV-650:FM 30-50", "--memories", "m.txt", "--ports-dir=/p", "--name", "left", "--pace",
-                "--banner", "", "--short", "--guard-names", "--all", "--no-end", "--parity=all", "--key-delay", "7",
-                "--fault", "torn@3", "--fault=cut@4/2", "--late", "80", "--log", "l.txt", "--once"});
+    const Options options = Parsed({"--model",
+                                    "KRV-650:FM 30-50",
+                                    "--memories",
+                                    "m.txt",
+                                    "--ports-dir=/p",
+                                    "--name",
+                                    "left",
+                                    "--pace",
+                                    "--banner",
+                                    "",
+                                    "--short",
+                                    "--guard-names",
+                                    "--all",
+                                    "--no-end",
+                                    "--parity=all",
+                                    "--key-delay",
+                                    "7",
+                                    "--fault",
+                                    "torn@3",
+                                    "--fault=cut@4/2",
+                                    "--late",
+                                    "80",
+                                    "--log",
+                                    "l.txt",
+                                    "--once"});
     ASSERT_NE(options.model, nullptr);
     EXPECT_EQ(options.model->name, "KRV-650");
     EXPECT_EQ(options.model->band, "FM 30-50");

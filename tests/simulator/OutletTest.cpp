@@ -75,6 +75,17 @@ TEST(Outlet, HoldsWhatStandsBehindAPause) {
     EXPECT_EQ(outlet.Take(Start + 200ms, 0).bytes, "x");
 }
 
+TEST(Outlet, NeedsTheFullTimeForBytesBehindAPause) {
+    Outlet outlet;
+    outlet.Say("a", "");
+    outlet.Pause(200ms, "");
+    outlet.Say("bc", "");
+    outlet.Take(Start, 9600);
+    EXPECT_EQ(outlet.Take(Start + 2ms, 9600).bytes, "a");
+    EXPECT_EQ(outlet.Take(Start + 202ms, 9600).bytes, "");
+    EXPECT_EQ(outlet.Take(Start + 203200us, 9600).bytes, "b");
+}
+
 TEST(Outlet, GoesOnAsSoonAsTheKeyIsPressed) {
     Outlet outlet;
     outlet.AwaitKey(1h);

@@ -133,7 +133,9 @@ PortClient::PortClient(const std::string& port, int baud) {
     tcsetattr(m_port, TCSANOW, &line);
 }
 
-PortClient::~PortClient() { Close(); }
+PortClient::~PortClient() {
+    Close();
+}
 
 void PortClient::Close() {
     if (m_port >= 0)
@@ -216,7 +218,8 @@ bool WaitForFileText(const std::string& path, std::string_view text) {
 
 int CountOf(std::string_view text, std::string_view part) {
     int count = 0;
-    for (std::size_t at = text.find(part); at != std::string_view::npos; at = text.find(part, at + part.size()))
+    for (std::size_t at = text.find(part); at != std::string_view::npos;
+         at = text.find(part, at + part.size()))
         ++count;
     return count;
 }
@@ -225,4 +228,6 @@ std::string VhfLine(const std::string& number, const std::string& description) {
     return number + " " + description + " 150.0000RX 151.2500TX CTCSS: 64RX 12TX DPL: 000RX 023TX 1_3__N";
 }
 
-std::string EndLine(const std::string& word) { return word + std::string(74, ' ') + "\r"; }
+std::string EndLine(const std::string& word) {
+    return word + std::string(74, ' ') + "\r";
+}

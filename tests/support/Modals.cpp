@@ -1,13 +1,12 @@
 #include "tests/support/Modals.h"
 
-#include <regex>
-
 #include <gtest/gtest.h>
 
 #include <wx/filedlg.h>
 #include <wx/modalhook.h>
 #include <wx/timer.h>
 
+#include "tests/support/robot/Pattern.h"
 #include "tests/support/robot/Pump.h"
 
 namespace testbench {
@@ -102,7 +101,7 @@ bool TextRule::Accepts(const std::string& text) const {
     case Kind::Exact:
         return text == m_text;
     case Kind::Expression:
-        return std::regex_match(text, std::regex(m_text));
+        return MatchesWhole(m_text, text);
     case Kind::Any:
         break;
     }

@@ -35,7 +35,7 @@ private:
     std::string m_text;
 };
 
-/// The rule that a whole text matches an ECMAScript regular expression.
+/// The rule that a whole text matches a Perl-like regular expression.
 inline TextRule Matching(const std::string& expression) {
     return TextRule::Matching(expression);
 }

@@ -1,12 +1,9 @@
 // Child processes, the display script and the watchdog.
 #include "tests/support/robot/Process.h"
 
-#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <regex>
-#include <thread>
 
 #include <gtest/gtest.h>
 

@@ -26,7 +26,7 @@ protected:
     void TearDown() override {
         MainFrame->Destroy();
         wxTheApp->ProcessPendingEvents();
-        wxTheApp->DeletePendingObjects();
+        wxTheApp->ProcessIdle(); // really deletes the window
         MainFrame = nullptr;
         wxYield();
     }

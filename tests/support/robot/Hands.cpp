@@ -63,10 +63,17 @@ void Hands::DoubleClick(const wxPoint& screen, int button) {
 void Hands::Drag(const wxPoint& from, const wxPoint& to, int button) {
     Move(from);
     m_desk.Button(static_cast<unsigned>(button), true);
-    Rest();
-    constexpr int steps = 8;
+    // A window that is slower than the mouse would see one leap, which makes no drag: the hand moves
+    // slowly and trembles at the end.
+    constexpr int steps = 8, slowMs = 30;
+    Sleep(3 * slowMs);
     for (int step = 1; step <= steps; step++) {
         Move({from.x + (to.x - from.x) * step / steps, from.y + (to.y - from.y) * step / steps});
+        Sleep(slowMs);
+    }
+    for (const int tremble : {1, 0, 1, 0}) {
+        Move({to.x + tremble, to.y});
+        Sleep(slowMs);
     }
     m_desk.Button(static_cast<unsigned>(button), false);
     Rest();

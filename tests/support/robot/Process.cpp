@@ -6,12 +6,13 @@
 #include <cstring>
 #include <fcntl.h>
 #include <poll.h>
-#include <regex>
 #include <set>
 #include <stdexcept>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include "tests/support/robot/Pattern.h"
 
 namespace testbench {
 
@@ -150,7 +151,6 @@ void Process::Read(int fd) {
 }
 
 std::optional<std::string> Process::WaitForLine(const std::string& expression, int ms) {
-    const std::regex wanted(expression);
     const auto deadline = Clock::now() + std::chrono::milliseconds(ms);
     std::unique_lock lock(m_mutex);
     size_t next = m_seen;
@@ -160,7 +160,7 @@ std::optional<std::string> Process::WaitForLine(const std::string& expression, i
             if (!line.empty() && line.back() == '\r') {
                 line.pop_back();
             }
-            if (std::regex_search(line, wanted)) {
+            if (Finds(expression, line)) {
                 m_seen = end + 1;
                 return line;
             }
@@ -211,6 +211,11 @@ std::optional<int> Process::WaitForExit(int ms) {
     const auto deadline = Clock::now() + std::chrono::milliseconds(ms);
     while (!Reap() && Clock::now() < deadline) {
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    if (m_exit) {
+        // What it wrote last may still be on its way; a grandchild may keep the pipe open for ever.
+        std::unique_lock lock(m_mutex);
+        m_arrived.wait_for(lock, std::chrono::milliseconds(500), [&] { return m_outputEnded; });
     }
     return m_exit;
 }

@@ -41,6 +41,7 @@ public:
     void CloseInput();
 
     /// The exit code, 128 + signal number if a signal ended it; nothing if it still runs after `ms`.
+    /// After an end Output() is complete.
     std::optional<int> WaitForExit(int ms = 10000);
 
     /// Sends SIGTERM, two seconds later SIGKILL, and gives the exit code as WaitForExit does.

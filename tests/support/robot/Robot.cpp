@@ -1,7 +1,6 @@
 #include "tests/support/robot/Robot.h"
 
 #include <chrono>
-#include <regex>
 #include <stdexcept>
 #include <thread>
 #include <vector>
@@ -11,6 +10,7 @@
 #include <wx/wfstream.h>
 
 #include "tests/support/robot/OpenDialogs.h"
+#include "tests/support/robot/Pattern.h"
 
 namespace testbench {
 
@@ -46,17 +46,16 @@ bool Robot::WaitFor(const std::function<bool()>& condition, int ms) {
 }
 
 wxDialog* Robot::WaitForDialog(const std::string& caption, int ms) {
-    const std::regex wanted(caption);
     wxDialog* found = nullptr;
     Poll(
         [&] {
             const std::vector<DialogFacts> open = OpenDialogs();
-            if (open.empty() || !std::regex_match(open.back().caption, wanted)) {
+            if (open.empty() || !MatchesWhole(caption, open.back().caption)) {
                 return false;
             }
             // The toolkit gives some dialogs no title of their own: then any dialog must do.
-            const std::string title = Desk().FocusedTitle();
-            if (title == open.back().caption || (title.empty() && Desk().FocusIsDialog())) {
+            const std::string focused = Desk().FocusedTitle();
+            if (focused == open.back().caption || (focused.empty() && Desk().FocusIsDialog())) {
                 found = open.back().dialog;
             }
             return found != nullptr;
@@ -70,11 +69,10 @@ bool Robot::WaitForNoDialog(int ms) {
 }
 
 bool Robot::WaitForWindow(const std::string& title, int ms) {
-    const std::regex wanted(title);
     return Poll(
         [&] {
             const std::string focused = Desk().FocusedTitle();
-            return !focused.empty() && std::regex_match(focused, wanted);
+            return !focused.empty() && MatchesWhole(title, focused);
         },
         ms);
 }

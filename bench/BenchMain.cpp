@@ -1,0 +1,57 @@
+// Speed as ratios in one run: the program against what the toolkit and the wire need by themselves.
+#include "bench/Benches.h"
+#include "bench/RatioReport.h"
+#include "frame/ZelkApp.h"
+
+#include <benchmark/benchmark.h>
+
+#include <wx/app.h>
+#include <wx/init.h>
+#include <wx/window.h>
+
+#include "frame/ZelkMain.h"
+
+#include <cstring>
+#include <filesystem>
+
+namespace {
+
+RatioReport report;
+bool aimsMet = false;
+
+class BenchApp : public ZelkApp {
+public:
+    bool OnInit() override {
+        if (!ZelkApp::OnInit())
+            return false;
+        CallAfter([] {
+            benchmark::RunSpecifiedBenchmarks(&report);
+            aimsMet = report.Print();
+            MainFrame->Destroy();
+        });
+        return true;
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc > 1 && (!std::strcmp(argv[1], "--start-bare") || !std::strcmp(argv[1], "--start-program"))) {
+        int noArguments = 1;
+        return RunStartChild(!std::strcmp(argv[1], "--start-bare"), noArguments, argv);
+    }
+    benchmark::Initialize(&argc, argv);
+    RegisterStart(std::filesystem::read_symlink("/proc/self/exe").string());
+    RegisterPages();
+    RegisterChannelFiles();
+    RegisterAnalogTransfer();
+    report.SetAim("start", 1.2);
+    report.SetAim("page", 1.5);
+    report.SetAim("file", 1.5);
+    report.SetAim("transfer", 1.03);
+    wxDISABLE_DEBUG_SUPPORT();
+    wxApp::SetInstance(new BenchApp);
+    int noArguments = 1;
+    wxEntry(noArguments, argv);
+    return aimsMet ? 0 : 1;
+}

@@ -1,0 +1,22 @@
+// The groups of benchmarks; each registers its pairs of "/program" and "/floor".
+#pragma once
+
+#include <string>
+
+/// From the start of a process to a window that answers: the program against a bare toolkit frame with
+/// one equal grid. self is this program's own path.
+void RegisterStart(const std::string& self);
+
+/// Making a page for each radio type.
+void RegisterPages();
+
+/// Opening a full channel file of each radio type.
+void RegisterChannelFiles();
+
+/// Sending to and reading from a radio that keeps the line's pace, against the pauses and wire time
+/// that the protocol prescribes.
+void RegisterAnalogTransfer();
+
+/// The child processes of RegisterStart: run the program's window or the bare one until it answers,
+/// say so on standard output, and end.
+int RunStartChild(bool bare, int argc, char** argv);

@@ -1,0 +1,112 @@
+// Opening a full channel file, for each radio type.
+#include "bench/Benches.h"
+#include "bench/FullPage.h"
+#include "catalogue/PageModel.h"
+#include "files/XmlFile.h"
+#include "files/ZelkFile_OpenSave.h"
+#include "frame/ZelkMain.h"
+
+#include <benchmark/benchmark.h>
+
+#include <wx/filename.h>
+#include <wx/grid.h>
+#include <wx/textfile.h>
+#include <wx/xml/xml.h>
+
+#include <map>
+#include <vector>
+
+namespace {
+
+/// Saves the current page, full, into the system's temporary folder. Its path.
+wxString SaveFullPage(const PageCase& page) {
+    FillPage();
+    PageStrings[CurrentPage].FileDir = wxFileName::GetTempDir() + "/";
+    PageStrings[CurrentPage].FileName = wxString("zelk-bench-") + page.type;
+    SaveZelkFile(CurrentPage, false);
+    const wxString path = PageStrings[CurrentPage].FileDir + PageStrings[CurrentPage].FileName + ".zelk";
+    if (page.forcedType >= 0) {
+        // A file names this type only by hand: a save leaves the name out.
+        wxTextFile file(path);
+        file.Open();
+        for (size_t line = 0; line < 10; ++line)
+            if (file[line].Contains("<FType>"))
+                file[line] = wxString("  <FType>") + page.type + "</FType>";
+        file.Write();
+    }
+    return path;
+}
+
+void OpenInProgram(benchmark::State& state, const wxString& path) {
+    for ([[maybe_unused]] auto _ : state) {
+        wxXmlDocument document;
+        if (!LoadXmlFile(path, document))
+            return state.SkipWithError("the file is refused");
+        ResetPage(CurrentPage);
+        if (const int result = OpenZelkFile(document, CurrentPage))
+            return state.SkipWithError(("open answered " + std::to_string(result)).c_str());
+    }
+}
+
+/// What an open leaves in the grid's cells, by position, and the marks.
+struct Written {
+    std::vector<wxString> texts;
+    std::vector<std::pair<int, int>> readOnly;
+};
+
+Written WrittenBy(wxGrid* grid) {
+    Written written;
+    for (int row = 0; row < grid->GetNumberRows(); ++row)
+        for (int col = 0; col < ColumnTotal; ++col) {
+            written.texts.push_back(grid->GetCellValue(row, col));
+            if (grid->IsReadOnly(row, col))
+                written.readOnly.push_back({row, col});
+        }
+    return written;
+}
+
+/// The toolkit alone: load the document, look at each element, empty the grid, write each cell that
+/// the open writes, set the marks.
+void OpenBare(benchmark::State& state, const wxString& path) {
+    wxGrid* grid = CurrentGrid();
+    const Written written = WrittenBy(grid);
+    for ([[maybe_unused]] auto _ : state) {
+        wxXmlDocument document;
+        if (!document.Load(path))
+            return state.SkipWithError("the file is refused");
+        size_t length = 0;
+        for (wxXmlNode* row = document.GetRoot()->GetChildren(); row; row = row->GetNext())
+            for (wxXmlNode* cell = row->GetChildren(); cell; cell = cell->GetNext())
+                length += cell->GetNodeContent().length();
+        benchmark::DoNotOptimize(length);
+        wxGridUpdateLocker quiet(grid);
+        grid->ClearGrid();
+        size_t cell = 0;
+        for (int row = 0; row < grid->GetNumberRows(); ++row)
+            for (int col = 0; col < ColumnTotal; ++col, ++cell)
+                if (!written.texts[cell].empty())
+                    grid->SetCellValue(row, col, written.texts[cell]);
+        for (const auto& [row, col] : written.readOnly)
+            grid->SetReadOnly(row, col, true);
+    }
+}
+
+} // namespace
+
+void RegisterChannelFiles() {
+    for (const PageCase& page : PageCases)
+        for (const bool floor : {false, true})
+            benchmark::RegisterBenchmark(
+                (std::string("file/") + page.type + (floor ? "/floor" : "/program")).c_str(),
+                [floor, &page](benchmark::State& state) {
+                    MakePage(page);
+                    const wxString path = SaveFullPage(page);
+                    floor ? OpenBare(state, path) : OpenInProgram(state, path);
+                    DropPage();
+                    wxRemoveFile(path);
+                })
+                ->Unit(benchmark::kMillisecond)
+                ->Iterations(5)
+                ->Repetitions(8)
+                ->UseRealTime();
+}

@@ -1,0 +1,27 @@
+#include "bench/FullPage.h"
+
+#include "catalogue/PageCreation.h"
+#include "frame/ZelkMain.h"
+
+#include <wx/grid.h>
+#include <wx/notebook.h>
+
+void MakePage(const PageCase& page) {
+    SetPageParameters(MainFrame, 1, page.radio, page.bandIndex);
+    if (page.forcedType >= 0) {
+        PageParameters[1].Type = page.forcedType;
+        PageStrings[1].TypeName = RadioCatalogue::RadioTypeName[page.forcedType];
+    }
+    CreateNewPage(MainFrame, 1);
+}
+
+void DropPage() {
+    MainFrame->m_notebook->DeletePage(MainFrame->m_notebook->GetPageCount() - 1);
+    CurrentPage = 0;
+    PageCount = 1;
+}
+
+void FillPage() {
+    CurrentGrid()->SelectAll();
+    CopyValuesToSelection(CurrentPage, GetRowValues(CurrentPage, 0), true, true);
+}

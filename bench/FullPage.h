@@ -1,0 +1,22 @@
+// A page that is full to its last row.
+#pragma once
+
+/// The radio of a page to be measured.
+struct PageCase {
+    const char* type;
+    int radio, bandIndex;
+    int forcedType = -1; ///< for the type that no radio has by itself
+};
+
+/// One page a radio type.
+inline constexpr PageCase PageCases[] = {
+    {"ANFM", 9, 0}, {"RP25", 6, 0}, {"NP25", 7, 0},  {"MDLX", 17, 5},
+    {"O12", 2, 0},  {"KDAR", 8, 0}, {"ANAM", 16, 1}, {"FXAM", 16, 1, 7},
+};
+
+/// Makes page 1 (the window's second) for the case; DropPage ends it.
+void MakePage(const PageCase& page);
+void DropPage();
+
+/// Fills every memory row of the current page from its default row.
+void FillPage();

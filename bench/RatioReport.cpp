@@ -1,0 +1,42 @@
+#include "bench/RatioReport.h"
+
+#include <cstdio>
+
+void RatioReport::ReportRuns(const std::vector<Run>& runs) {
+    for (const Run& run : runs) {
+        if (run.run_type != Run::RT_Iteration)
+            continue;
+        if (run.error_occurred) {
+            std::printf("%s: %s\n", run.benchmark_name().c_str(), run.error_message.c_str());
+            m_failed = true;
+            continue;
+        }
+        // "group/case/side" and then what the library appends.
+        const std::string& name = run.run_name.function_name;
+        const size_t slash = name.rfind('/');
+        const std::string pairName = name.substr(0, slash);
+        if (!m_pairs.contains(pairName))
+            m_order.push_back(pairName);
+        Pair& pair = m_pairs[pairName];
+        double& side = name.substr(slash + 1) == "floor" ? pair.floor : pair.program;
+        const double milliseconds = 1000 * run.real_accumulated_time / static_cast<double>(run.iterations);
+        if (side == 0 || milliseconds < side)
+            side = milliseconds;
+    }
+}
+
+bool RatioReport::Print() const {
+    bool good = !m_failed;
+    std::printf("%-28s %12s %12s %7s %6s\n", "", "program ms", "floor ms", "ratio", "aim");
+    for (const std::string& name : m_order) {
+        const Pair& pair = m_pairs.at(name);
+        const std::string group = name.substr(0, name.find('/'));
+        const double aim = m_aims.contains(group) ? m_aims.at(group) : 0;
+        const double ratio = pair.floor > 0 ? pair.program / pair.floor : 0;
+        const bool met = pair.program > 0 && pair.floor > 0 && ratio <= aim;
+        good = good && met;
+        std::printf("%-28s %12.2f %12.2f %7.3f %6.2f%s\n", name.c_str(), pair.program, pair.floor, ratio, aim,
+                    met ? "" : "  above");
+    }
+    return good;
+}

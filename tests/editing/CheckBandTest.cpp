@@ -1,0 +1,83 @@
+#include "editing/ZelkEdit.h"
+
+#include "tests/catalogue/PageTest.h"
+
+namespace {
+
+class CheckBandTest : public PageTest {
+protected:
+    static bool IsPainted(int row) {
+        return CurrentGrid()->GetCellBackgroundColour(row, BAND) == wxColour(235, 125, 50);
+    }
+
+    static void Check(int row, const char* text) { CheckBand(CurrentGrid(), row, text); }
+};
+
+} // namespace
+
+TEST_F(CheckBandTest, EmptiesTheBandWithoutPaintOnPagesWithoutABandColumn) {
+    for (const auto& [radio, slot] :
+         std::initializer_list<std::pair<int, int>>{{0, 0}, {2, 0}, {6, 0}, {7, 0}, {8, 0}, {17, 1}}) {
+        Retarget(radio, slot);
+        SetCell(3, BAND, "FM 30-50");
+        Check(3, "FM 30-50");
+        EXPECT_EQ("", Cell(3, BAND)) << "radio " << radio;
+        EXPECT_FALSE(IsPainted(3)) << "radio " << radio;
+    }
+}
+
+TEST_F(CheckBandTest, LeavesTheBandsOfTheFirstModuleAsTheyAre) {
+    Retarget(17, 5);
+    for (const char* text : {"FM 30-50", "AM 108-138", "AM 225-400"}) {
+        SetCell(3, BAND, text);
+        Check(3, text);
+        EXPECT_EQ(text, Cell(3, BAND).utf8_string());
+        EXPECT_FALSE(IsPainted(3)) << text;
+    }
+}
+
+TEST_F(CheckBandTest, DoesNotWriteABandThatCanStand) {
+    Retarget(17, 5);
+    SetCell(3, BAND, "before");
+    Check(3, "AM 225-400");
+    EXPECT_EQ("before", Cell(3, BAND));
+    EXPECT_FALSE(IsPainted(3));
+}
+
+TEST_F(CheckBandTest, PutsTheDefaultRowsBandInPlaceOfAnyOther) {
+    Retarget(17, 5);
+    int row = 1;
+    for (const char* text : {"FM 66-88", "AM 118-138", "FM 136-174", "FM 138-174", "FM 403-512", "K6 3-BAND",
+                             "FM_403-512", "FM 7xx-8xx", "FM 896-960", "", "fm 30-50", "FM 30-50 "}) {
+        SetCell(row, BAND, text);
+        Check(row, text);
+        EXPECT_EQ("FM 30-50", Cell(row, BAND)) << '"' << text << '"';
+        EXPECT_TRUE(IsPainted(row)) << '"' << text << '"';
+        ++row;
+    }
+}
+
+TEST_F(CheckBandTest, RepairsByWhatTheDefaultRowHoldsNow) {
+    Retarget(17, 5);
+    SetCell(0, BAND, "AM 225-400");
+    Check(3, "nonsense");
+    EXPECT_EQ("AM 225-400", Cell(3, BAND));
+}
+
+TEST_F(CheckBandTest, LeavesEveryKnownBandOnAPageOfTheSecondModule) {
+    Retarget(17, 5);
+    CurrentParameters().Band = 9;
+    for (const char* text : {"FM 30-50", "FM 66-88", "AM 108-138", "AM 118-138", "FM 136-174", "FM 138-174",
+                             "AM 225-400", "FM 403-512", "K6 3-BAND"}) {
+        SetCell(3, BAND, text);
+        Check(3, text);
+        EXPECT_EQ(text, Cell(3, BAND).utf8_string());
+        EXPECT_FALSE(IsPainted(3)) << text;
+    }
+    for (const char* text : {"FM_403-512", "FM 7xx-8xx", "FM 896-960", ""}) {
+        SetCell(4, BAND, text);
+        Check(4, text);
+        EXPECT_EQ("FM 30-50", Cell(4, BAND)) << '"' << text << '"';
+        EXPECT_TRUE(IsPainted(4)) << '"' << text << '"';
+    }
+}

@@ -1,0 +1,147 @@
+// What tests of the channel file have in common.
+#pragma once
+
+#include "catalogue/TextNumbers.h"
+#include "files/XmlFile.h"
+#include "files/ZelkFile_OpenSave.h"
+#include "tests/support/Modals.h"
+#include "tests/support/ZelkWindowTest.h"
+#include "tests/support/robot/Files.h"
+#include "tests/support/robot/TempFolder.h"
+
+#include <wx/mstream.h>
+#include <wx/statusbr.h>
+#include <wx/xml/xml.h>
+
+#include <ctime>
+#include <regex>
+#include <string>
+#include <vector>
+
+/// A radio of each type, by radio index and band slot.
+struct TypedTarget {
+    const char* type;
+    const char* radio;
+    const char* band;
+    int radioIndex;
+    int bandSlot;
+    int rows;
+};
+
+inline constexpr TypedTarget Targets[] = {
+    {"ANFM", "KRV-214", "FM 138-174", 3, 0, 102},   {"RP25", "KDRV-716", "FM 136-174", 6, 0, 232},
+    {"NP25", "KDRV-716B", "FM 136-174", 7, 0, 502}, {"MDLX", "KDRV-4xxx", "K6 3-BAND", 17, 5, 500},
+    {"O12", "ORV-12", "AM 118-138", 2, 0, 6},       {"KDAR", "KDAR-2000", "AM 118-138", 8, 0, 100},
+    {"ANAM", "KRV-620", "AM 225-400", 10, 1, 200},  {"FXAM", "KRV-620", "AM 225-400", 10, 1, 200},
+};
+
+inline const TypedTarget& TargetOf(const std::string& type) {
+    for (const TypedTarget& target : Targets)
+        if (type == target.type)
+            return target;
+    throw std::runtime_error("no target of type " + type);
+}
+
+inline std::string Header(const std::string& type, const std::string& radio, const std::string& band) {
+    return "<Version>1.0.0</Version><Date>14-Nov-2026</Date><Time>10:50:00</Time><FType>" + type +
+           "</FType><FRadio>" + radio + "</FRadio><FBand>" + band + "</FBand>";
+}
+
+inline std::string HeaderOf(const std::string& type) {
+    return Header(type, TargetOf(type).radio, TargetOf(type).band);
+}
+
+inline std::string Document(const std::string& content) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ZelkMem>" + content + "</ZelkMem>\n";
+}
+
+/// A document of the type with these memories.
+inline std::string FileOf(const std::string& type, const std::string& memories) {
+    return Document(HeaderOf(type) + memories);
+}
+
+inline std::string Memory(int row, const std::string& children) {
+    return "<MEMORY row=\"" + std::to_string(row) + "\">" + children + "</MEMORY>";
+}
+
+/// Processor seconds of this program.
+inline double ProcessorSeconds() {
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+class ChannelFileTest : public ZelkWindowTest {
+protected:
+    static constexpr int NotLoaded = -1;
+
+    /// Loads the bytes from a file and opens them as the command does. NotLoaded when they can't be
+    /// loaded: the page is then as it was.
+    int Open(const std::string& bytes) {
+        testbench::WriteFile(m_folder / "open.zelk", bytes);
+        wxXmlDocument document;
+        if (!LoadXmlFile((m_folder / "open.zelk").string(), document))
+            return NotLoaded;
+        ResetPage(CurrentPage);
+        return OpenZelkFile(document, CurrentPage);
+    }
+
+    /// Saves the page under a name that it is given here, and gives the file's bytes.
+    std::string Save(const std::string& name = "saved") {
+        PageStrings[CurrentPage].FileDir = m_folder.Path().string() + "/";
+        PageStrings[CurrentPage].FileName = name;
+        SaveZelkFile(CurrentPage, false);
+        return testbench::ReadFile(m_folder / (name + ".zelk"));
+    }
+
+    /// The page becomes one of the type.
+    static void RetargetTo(const std::string& type) {
+        const TypedTarget& target = TargetOf(type);
+        Retarget(target.radioIndex, target.bandSlot);
+        // No radio of the catalogue gives this type: only a file does.
+        if (type == "FXAM") {
+            CurrentParameters().Type = RadioCatalogue::FXAM;
+            CurrentParameters().Cols = 7;
+            SetGridColumns(CurrentGrid(), RadioCatalogue::FXAM);
+        }
+    }
+
+    static void FillRow(int row, const std::vector<std::pair<int, const char*>>& cells) {
+        for (const auto& [col, text] : cells)
+            SetCell(row, col, text);
+    }
+
+    static void EmptyRow(int row) {
+        for (int col = 0; col < ColumnTotal; ++col)
+            SetCell(row, col, "");
+    }
+
+    static std::string Text(int row, int col) { return Cell(row, col).utf8_string(); }
+
+    /// Rows of the grid that have a text.
+    static std::vector<int> RowsWithText() {
+        std::vector<int> rows;
+        for (int row = 0; row < CurrentGrid()->GetNumberRows(); ++row)
+            if (RowHasData(row))
+                rows.push_back(row);
+        return rows;
+    }
+
+    static std::string Status(int field) {
+        return MainFrame->m_statusBar->GetStatusText(field).utf8_string();
+    }
+
+    static int TakenSlots() {
+        int taken = 0;
+        for (int zone = 0; zone < ZonesPerPage; ++zone)
+            taken += ZoneSlotsOf(CurrentPage)[zone];
+        return taken;
+    }
+
+    /// The bytes of a file with date and time, if of the right form, replaced.
+    static std::string Masked(const std::string& bytes) {
+        static const std::regex date("<Date>\\d\\d-[A-Z][a-z][a-z]-\\d{4}</Date>");
+        static const std::regex time("<Time>\\d\\d:\\d\\d:\\d\\d</Time>");
+        return std::regex_replace(std::regex_replace(bytes, date, "<Date>D</Date>"), time, "<Time>T</Time>");
+    }
+
+    testbench::TempFolder m_folder{"zelk-channel-file"};
+};

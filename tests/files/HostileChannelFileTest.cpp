@@ -1,0 +1,186 @@
+// Files that nobody's program wrote: each ends with a code or is passed over, in little time.
+#include "tests/files/ChannelFileTest.h"
+
+#include <random>
+
+namespace {
+
+class HostileChannelFile : public ChannelFileTest {
+protected:
+    /// The page can be used: its target is of the catalogue, and row 0 holds a default row.
+    static void ExpectUsablePage() {
+        const PageParameterRecord& page = CurrentParameters();
+        ASSERT_GE(page.Radio, 0);
+        ASSERT_LT(page.Radio, 18);
+        ASSERT_GE(page.BandIndex, 0);
+        ASSERT_LT(page.BandIndex, 6);
+        EXPECT_EQ(RadioCatalogue::RadioRows[page.Radio][page.BandIndex], page.Rows);
+        EXPECT_EQ(RadioCatalogue::RadioBands[page.Radio][page.BandIndex], page.Band);
+        EXPECT_EQ(page.Rows + 1, CurrentGrid()->GetNumberRows());
+        EXPECT_TRUE(RowHasData(0));
+        EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
+    }
+
+    /// A file of the type with three whole rows, as the program writes it.
+    std::string WrittenFile(const char* type) {
+        RetargetTo(type);
+        FillRowsFromDefault({1, 2});
+        return Save();
+    }
+};
+
+std::string Repeat(const std::string& text, int count) {
+    std::string all;
+    for (int i = 0; i < count; ++i)
+        all += text;
+    return all;
+}
+
+} // namespace
+
+TEST_F(HostileChannelFile, ThatIsCutOffAnywhereIsNotLoaded) {
+    const std::string whole = WrittenFile("NP25");
+    const size_t end = whole.rfind('>');
+    RetargetTo("ANFM");
+    SetCell(5, DESC, "KEPT");
+    for (size_t length = 0; length <= end; length += length < 400 ? 1 : 97)
+        EXPECT_EQ(NotLoaded, Open(whole.substr(0, length))) << length;
+    EXPECT_EQ("KEPT", Text(5, DESC)) << "a page is left alone by what is no document";
+    EXPECT_EQ(0, Open(whole.substr(0, end + 1)));
+}
+
+TEST_F(HostileChannelFile, WithBytesChangedLeavesAUsablePage) {
+    std::mt19937 random(1);
+    for (const char* type : {"NP25", "MDLX", "O12"}) {
+        const std::string whole = WrittenFile(type);
+        for (int run = 0; run < 60; ++run) {
+            std::string bytes = whole;
+            for (int change = 0; change < 3; ++change)
+                bytes[random() % bytes.size()] = static_cast<char>(' ' + random() % 95);
+            SCOPED_TRACE(type + std::to_string(run));
+            const int code = Open(bytes);
+            EXPECT_TRUE(code == NotLoaded || code == 0 || (code >= 101 && code <= 109)) << code;
+            ExpectUsablePage();
+        }
+    }
+}
+
+TEST_F(HostileChannelFile, WithElementsDroppedLeavesAUsablePage) {
+    const std::string whole = WrittenFile("RP25");
+    std::vector<std::string> lines;
+    for (size_t at = 0; at < whole.size();) {
+        const size_t end = whole.find('\n', at);
+        lines.push_back(whole.substr(at, end - at));
+        at = end + 1;
+    }
+    for (size_t left = 1; left + 1 < lines.size(); ++left) {
+        std::string bytes;
+        for (size_t i = 0; i < lines.size(); ++i)
+            if (i != left)
+                bytes += lines[i] + "\n";
+        const int code = Open(bytes);
+        EXPECT_TRUE(code == NotLoaded || code == 0 || (code >= 102 && code <= 109)) << lines[left];
+        ExpectUsablePage();
+    }
+}
+
+TEST_F(HostileChannelFile, WithCommentsAndInstructionsBetweenElementsIsRead) {
+    const std::string c = "<!-- note --><?do this?>\n stray text <![CDATA[<MN>]]>";
+    std::string children;
+    for (const char* element : {"<MN>005</MN>", "<SC type=\"ANFM\">7</SC>", "<DS>A</DS>", "<TC>023</TC>"})
+        children += c + element;
+    const std::string header = "<Version>1</Version><Date/>" + c + "<Time/>" + c + "<FType>ANFM</FType>" + c +
+                               "<FRadio>KRV-214</FRadio>" + c + "<FBand>FM 138-174</FBand>" + c;
+    ASSERT_EQ(0, Open("<?xml version=\"1.0\"?><!-- top -->" +
+                      Document(c + header + Memory(5, children + c) + c).substr(39) + "<!-- end -->"));
+    EXPECT_EQ("005", Text(5, MNUM));
+    EXPECT_EQ("7", Text(5, SCAN));
+    EXPECT_EQ("A", Text(5, DESC));
+    EXPECT_EQ("023", Text(5, TCOD));
+}
+
+TEST_F(HostileChannelFile, WithElementsInsideTextsGivesTheirFirstText) {
+    ASSERT_EQ(
+        0, Open(FileOf("ANFM", Memory(5, "<DS>A<b>B</b>C</DS><MN><b>7</b></MN><RF><![CDATA[150.0000]]></RF>"
+                                         "<TF><!-- x -->151.0000</TF>"))));
+    EXPECT_EQ("A", Text(5, DESC));
+    EXPECT_EQ("", Text(5, MNUM));
+    EXPECT_EQ("150.0000", Text(5, RFRQ));
+    EXPECT_EQ("151.0000", Text(5, TFRQ));
+}
+
+TEST_F(HostileChannelFile, WithUnknownChildrenOnlyEndsAtOnce) {
+    ASSERT_EQ(0, Open(FileOf("ANFM", Memory(5, Repeat("<MF>1</MF><XX/>", 10000)))));
+    EXPECT_EQ("", Text(5, MNUM));
+    EXPECT_EQ("", Text(5, MFLG));
+}
+
+TEST_F(HostileChannelFile, WithTenMegabytesOfRowsIsReadWithinTwoSeconds) {
+    for (const char* type : {"ANFM", "NP25"}) {
+        const int last = TargetOf(type).rows;
+        std::string memories;
+        for (int row = 0; memories.size() < 10'000'000; row = (row + 1) % (last + 1))
+            memories += Memory(row, "<MF>0</MF><MN>012</MN><SH>P-1</SH><SC type=\"ANFM\">3</SC><ZN>1</ZN>"
+                                    "<DS>VHF   138</DS><MD>W</MD><RF>150.0000</RF><RT>OFF</RT><RC>OFF</RC>"
+                                    "<TF>150.0000</TF><TT>OFF</TT><TC>OFF</TC>") +
+                        "\n";
+        const std::string file = FileOf(type, memories);
+        const double start = ProcessorSeconds();
+        EXPECT_EQ(0, Open(file));
+        EXPECT_LT(ProcessorSeconds() - start, 2.0) << type;
+        EXPECT_EQ("012", Text(last, MNUM));
+    }
+}
+
+TEST_F(HostileChannelFile, NestedDeepIsNotLoaded) {
+    for (const int depth : {1000, 100000, 1000000}) {
+        EXPECT_EQ(NotLoaded, Open(Repeat("<a>", depth) + Repeat("</a>", depth))) << depth;
+        EXPECT_EQ(NotLoaded, Open(Repeat("<a>", depth))) << depth;
+        EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, Repeat("<DS>", depth) + Repeat("</DS>", depth)))))
+            << depth;
+    }
+}
+
+TEST_F(HostileChannelFile, WithAnEntityBombIsNotLoaded) {
+    std::string bomb = "<!DOCTYPE ZelkMem [<!ENTITY a \"aaaaaaaaaa\">";
+    for (char c = 'b'; c <= 'j'; ++c) {
+        bomb += std::string("<!ENTITY ") + c + " \"";
+        for (int i = 0; i < 10; ++i)
+            bomb += std::string("&") + static_cast<char>(c - 1) + ";";
+        bomb += "\">";
+    }
+    const double start = ProcessorSeconds();
+    EXPECT_EQ(NotLoaded,
+              Open(bomb + "]><ZelkMem>" + HeaderOf("ANFM") + Memory(1, "<DS>&j;</DS>") + "</ZelkMem>"));
+    EXPECT_LT(ProcessorSeconds() - start, 2.0);
+}
+
+TEST_F(HostileChannelFile, WithHugeAttributesAndTextsIsNotLoaded) {
+    const std::string huge(10'000'000, '1');
+    const double start = ProcessorSeconds();
+    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", "<MEMORY row=\"" + huge + "\"/>")));
+    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, "<DS>" + huge + "</DS>"))));
+    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", "<!--" + huge + "-->")));
+    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, "<DS>x" + Repeat("\n", 1'000'000) + "</DS>"))));
+    EXPECT_LT(ProcessorSeconds() - start, 2.0);
+}
+
+TEST_F(HostileChannelFile, WithLongTextsInCellsIsShownInLittleTime) {
+    std::string memories;
+    for (int row = 1; row <= 100; ++row)
+        memories += Memory(row, "<MN>1</MN><DS>" + std::string(60000, 'W') + "</DS><RF>x" +
+                                    Repeat("\ny", 60) + "</RF>");
+    const double start = ProcessorSeconds();
+    ASSERT_EQ(0, Open(FileOf("ANFM", memories)));
+    CurrentGrid()->ForceRefresh();
+    MainFrame->Update();
+    wxYield();
+    EXPECT_LT(ProcessorSeconds() - start, 2.0);
+}
+
+TEST_F(HostileChannelFile, ThatIsNotUtf8IsNotLoaded) {
+    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, "<DS>\xFF\xFE</DS>"))));
+    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, "<DS>\xC0\x80</DS>"))));
+    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, "<DS>\xED\xA0\x80</DS>"))));
+    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, std::string("<DS>\0</DS>", 10)))));
+}

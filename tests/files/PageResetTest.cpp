@@ -1,0 +1,83 @@
+#include "tests/files/ChannelFileTest.h"
+
+namespace {
+
+class PageReset : public ChannelFileTest {};
+
+} // namespace
+
+TEST_F(PageReset, LeavesAnAnalogPageWithItsDefaultRowAlone) {
+    RetargetTo("ANFM");
+    SetCell(0, DESC, "OTHER");
+    SetCell(7, DESC, "OLD");
+    SetCell(102, TFLG, "A0");
+    ResetPage(0);
+    EXPECT_EQ(std::vector<int>{0}, RowsWithText());
+    EXPECT_EQ("VHF   138", Text(0, DESC));
+}
+
+TEST_F(PageReset, FillsTheStartingRowsOfAP25PageAndGivesAllSlotsBack) {
+    RetargetTo("RP25");
+    FillRowsFromDefault({5, 6, 7});
+    ResetPage(0);
+    EXPECT_EQ((std::vector<int>{0, 1, 231, 232}), RowsWithText());
+    EXPECT_EQ(0, TakenSlots());
+}
+
+TEST_F(PageReset, ZeroesTheFlagsOfThePage) {
+    CurrentParameters().Flags = PageFromFile | PageHasShadows | PageHasMarks;
+    ResetPage(0);
+    EXPECT_EQ(0, CurrentParameters().Flags);
+}
+
+TEST_F(PageReset, TakesLocksAndPaintOfFormerRowsAway) {
+    RetargetTo("MDLX");
+    wxGrid* grid = CurrentGrid();
+    for (int col : {MODE, RTON, RCOD, TTON, TCOD}) {
+        grid->SetReadOnly(40, col);
+        grid->SetCellBackgroundColour(40, col, FailColour);
+    }
+    grid->SetCellBackgroundColour(41, RFRQ, MarkColour);
+    ResetPage(0);
+    for (int col : {MODE, RTON, RCOD, TTON, TCOD}) {
+        EXPECT_FALSE(grid->IsReadOnly(40, col)) << ColumnTag[col];
+        EXPECT_EQ(grid->GetDefaultCellBackgroundColour(), grid->GetCellBackgroundColour(40, col))
+            << ColumnTag[col];
+    }
+    EXPECT_EQ(grid->GetDefaultCellBackgroundColour(), grid->GetCellBackgroundColour(41, RFRQ));
+}
+
+TEST_F(PageReset, KeepsTheLocksThatThePageNeeds) {
+    RetargetTo("ANFM");
+    ResetPage(0);
+    EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
+    for (int col : {MNUM, SCAN, RTON, RCOD})
+        EXPECT_TRUE(CurrentGrid()->IsReadOnly(102, col)) << ColumnTag[col];
+    RetargetTo("RP25");
+    CurrentGrid()->SetReadOnly(50, SHAD);
+    CurrentGrid()->SetReadOnly(50, SCAN);
+    ResetPage(0);
+    EXPECT_TRUE(CurrentGrid()->IsReadOnly(50, SHAD)) << "no one types into that column";
+    EXPECT_FALSE(CurrentGrid()->IsReadOnly(50, SCAN));
+    for (int col : {MNUM, SCAN, ZONE})
+        EXPECT_TRUE(CurrentGrid()->IsReadOnly(231, col)) << ColumnTag[col];
+}
+
+TEST_F(PageReset, LetsNoRowOfASelectionBeFilled) {
+    RetargetTo("RP25");
+    CurrentGrid()->SelectRow(50);
+    ResetPage(0);
+    EXPECT_FALSE(RowHasData(50));
+}
+
+TEST_F(PageReset, CanBeFollowedByEmptyingTheStartingRows) {
+    RetargetTo("NP25");
+    EXPECT_EQ(3, TakenSlots());
+    EmptyDefaultMemories(0);
+    EXPECT_EQ(std::vector<int>{0}, RowsWithText());
+    EXPECT_EQ(0, TakenSlots());
+    RetargetTo("ANFM");
+    SetCell(1, DESC, "KEPT");
+    EmptyDefaultMemories(0);
+    EXPECT_EQ("KEPT", Text(1, DESC)) << "only a P25 page has filled rows";
+}

@@ -1,0 +1,159 @@
+#include "files/WholeFile.h"
+
+#include "tests/support/robot/Files.h"
+#include "tests/support/robot/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <filesystem>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class WholeFile : public ::testing::Test {
+protected:
+    std::string Write(const fs::path& path, const std::string& bytes) {
+        return WriteWholeFile(path.string(), bytes).utf8_string();
+    }
+
+    std::vector<std::string> Entries() const {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(m_folder.Path()))
+            names.push_back(entry.path().filename());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    testbench::TempFolder m_folder{"zelk-whole-file"};
+};
+
+/// Lets no file of this program grow beyond a size while it lives.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) : m_signal(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_signal);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_signal)(int);
+};
+
+} // namespace
+
+TEST_F(WholeFile, IsMadeWithExactlyTheBytes) {
+    const std::string bytes("a\0b\r\n\xFF", 6);
+    EXPECT_EQ("", Write(m_folder / "a", bytes));
+    EXPECT_EQ(bytes, testbench::ReadFile(m_folder / "a"));
+    EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
+}
+
+TEST_F(WholeFile, CanBeEmpty) {
+    EXPECT_EQ("", Write(m_folder / "a", ""));
+    EXPECT_EQ(0u, fs::file_size(m_folder / "a"));
+}
+
+TEST_F(WholeFile, ReplacesAFormerOneAlsoByAShorter) {
+    testbench::WriteFile(m_folder / "a", std::string(10000, 'x'));
+    EXPECT_EQ("", Write(m_folder / "a", "short"));
+    EXPECT_EQ("short", testbench::ReadFile(m_folder / "a"));
+    EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
+}
+
+TEST_F(WholeFile, KeepsThePermissionsOfTheFormerOne) {
+    for (const mode_t mode : {0600, 0640, 0664, 0755}) {
+        testbench::WriteFile(m_folder / "a", "old");
+        ASSERT_EQ(0, chmod((m_folder / "a").c_str(), mode));
+        EXPECT_EQ("", Write(m_folder / "a", "new"));
+        EXPECT_EQ(static_cast<fs::perms>(mode), fs::status(m_folder / "a").permissions());
+    }
+}
+
+TEST_F(WholeFile, IsMadeWithTheUsersUsualPermissions) {
+    const mode_t before = umask(027);
+    EXPECT_EQ("", Write(m_folder / "a", "new"));
+    umask(before);
+    EXPECT_EQ(static_cast<fs::perms>(0640), fs::status(m_folder / "a").permissions());
+}
+
+TEST_F(WholeFile, BehindLinksIsReplacedAndTheLinksStay) {
+    fs::create_directory(m_folder / "far");
+    testbench::WriteFile(m_folder / "far/real", "old");
+    fs::create_symlink("far/real", m_folder / "near");
+    fs::create_symlink(m_folder / "near", m_folder / "link");
+    EXPECT_EQ("", Write(m_folder / "link", "new"));
+    EXPECT_EQ("new", testbench::ReadFile(m_folder / "far/real"));
+    EXPECT_TRUE(fs::is_symlink(m_folder / "link"));
+    EXPECT_TRUE(fs::is_symlink(m_folder / "near"));
+    EXPECT_EQ((std::vector<std::string>{"far", "link", "near"}), Entries());
+}
+
+TEST_F(WholeFile, IsMadeWhereALinkPointsToNothing) {
+    fs::create_symlink("real", m_folder / "link");
+    EXPECT_EQ("", Write(m_folder / "link", "new"));
+    EXPECT_EQ("new", testbench::ReadFile(m_folder / "real"));
+    EXPECT_TRUE(fs::is_symlink(m_folder / "link"));
+}
+
+TEST_F(WholeFile, BehindACircleOfLinksIsRefused) {
+    fs::create_symlink("b", m_folder / "a");
+    fs::create_symlink("a", m_folder / "b");
+    EXPECT_NE("", Write(m_folder / "a", "new"));
+    EXPECT_EQ((std::vector<std::string>{"a", "b"}), Entries());
+}
+
+TEST_F(WholeFile, StandsAsItWasWhenWritingFailsHalfWay) {
+    testbench::WriteFile(m_folder / "a", "old");
+    for (const rlim_t limit : {0u, 1u, 4096u, 99999u}) {
+        std::string problem;
+        {
+            const FileSizeLimit full(limit);
+            problem = Write(m_folder / "a", std::string(100000, 'n'));
+        }
+        EXPECT_EQ("File too large", problem) << limit;
+        EXPECT_EQ("old", testbench::ReadFile(m_folder / "a")) << limit;
+        EXPECT_EQ(std::vector<std::string>{"a"}, Entries()) << limit;
+    }
+    const FileSizeLimit enough(100000);
+    EXPECT_EQ("", Write(m_folder / "a", std::string(100000, 'n')));
+}
+
+TEST_F(WholeFile, IsNotMadeWhereAFolderStands) {
+    fs::create_directory(m_folder / "a");
+    EXPECT_EQ("Is a directory", Write(m_folder / "a", "new"));
+    EXPECT_TRUE(fs::is_directory(m_folder / "a"));
+    EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
+}
+
+TEST_F(WholeFile, IsNotMadeWhereAPipeStands) {
+    ASSERT_EQ(0, mkfifo((m_folder / "a").c_str(), 0600));
+    EXPECT_NE("", Write(m_folder / "a", "new"));
+    EXPECT_TRUE(fs::is_fifo(m_folder / "a"));
+}
+
+TEST_F(WholeFile, IsNotMadeInAFolderThatIsMissing) {
+    EXPECT_EQ("No such file or directory", Write(m_folder / "none/a", "new"));
+    EXPECT_EQ(std::vector<std::string>{}, Entries());
+}
+
+TEST_F(WholeFile, LeavesFilesWithNamesLikeItsOwnAlone) {
+    testbench::WriteFile(m_folder / "a.new0", "other");
+    testbench::WriteFile(m_folder / "a.new1", "other");
+    EXPECT_EQ("", Write(m_folder / "a", "new"));
+    EXPECT_EQ("new", testbench::ReadFile(m_folder / "a"));
+    EXPECT_EQ("other", testbench::ReadFile(m_folder / "a.new0"));
+    EXPECT_EQ("other", testbench::ReadFile(m_folder / "a.new1"));
+    EXPECT_EQ((std::vector<std::string>{"a", "a.new0", "a.new1"}), Entries());
+}

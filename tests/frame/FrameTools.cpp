@@ -1,0 +1,99 @@
+#include "tests/frame/FrameTools.h"
+
+#include "frame/CommandIds.h"
+#include "frame/SelectionDialogs.h"
+#include "frame/ZelkMain.h"
+#include "tests/support/Keys.h"
+
+#include <gtest/gtest.h>
+
+#include <wx/button.h>
+#include <wx/grid.h>
+#include <wx/menu.h>
+
+namespace testbench {
+
+void RunCommand(int id) {
+    wxMenu* menu = nullptr;
+    ASSERT_NE(MainFrame->m_menuBar->FindItem(id, &menu), nullptr) << "no menu entry " << id;
+    menu->SendEvent(id);
+    PumpUntilIdle();
+}
+
+void ClickButton(wxDialog* dialog, int id) {
+    wxWindow* button = dialog->FindWindow(id);
+    ASSERT_NE(button, nullptr) << "no button " << id;
+    const wxSize size = button->GetClientSize();
+    ClickAt(*button, wxPoint(size.x / 2, size.y / 2));
+}
+
+void ChooseAndAccept(wxDialog* dialog, wxChoice* choice, int position) {
+    choice->SetSelection(position);
+    wxWindow* ok = dialog->FindWindow(wxID_OK);
+    EXPECT_TRUE(PumpUntil([ok] { return ok->IsEnabled(); })) << "OK can't be pressed";
+    ClickButton(dialog, wxID_OK);
+}
+
+void ExpectRadio(DialogScript& dialogs, int radio) {
+    dialogs.Expect(DialogKind::Other, "<-- Select Target Radio -->").Do([radio](wxDialog* dialog) {
+        ChooseAndAccept(dialog, RadioChoice, radio);
+    });
+}
+
+void ExpectBand(DialogScript& dialogs, int slot) {
+    dialogs.Expect(DialogKind::Other, "<-- Select Frequency Band -->").Do([slot](wxDialog* dialog) {
+        ChooseAndAccept(dialog, BandChoice, slot);
+    });
+}
+
+namespace {
+
+void ExpectTarget(DialogScript& dialogs, int radio, int slot) {
+    ExpectRadio(dialogs, radio);
+    if (slot >= 0)
+        ExpectBand(dialogs, slot);
+}
+
+} // namespace
+
+void AddPage(int radio, int slot) {
+    DialogScript dialogs;
+    ExpectTarget(dialogs, radio, slot);
+    RunCommand(IdPageAdd);
+}
+
+void ChangeTarget(int radio, int slot) {
+    DialogScript dialogs;
+    dialogs.ExpectMessage("Change Target?",
+                          "If there is data on this page,\nthis may result in invalid configuration!");
+    ExpectTarget(dialogs, radio, slot);
+    RunCommand(IdSetTarget);
+}
+
+void DeletePage() {
+    DialogScript dialogs;
+    dialogs.ExpectMessage("Delete Page?", "This will delete ALL data on this page! Continue?");
+    RunCommand(IdPageDelete);
+}
+
+void FillRow(wxGrid* grid, int row, const std::string& text) {
+    for (int col = 0; col < ColumnTotal; ++col)
+        grid->SetCellValue(row, col, text);
+}
+
+std::vector<std::string> RowTexts(int row) {
+    std::vector<std::string> texts;
+    for (const wxString& text : GetRowValues(CurrentPage, row))
+        texts.push_back(text.utf8_string());
+    return texts;
+}
+
+std::vector<int> RowsWithData() {
+    std::vector<int> rows;
+    for (int row = 1; row <= CurrentParameters().Rows; ++row)
+        if (RowHasData(row))
+            rows.push_back(row);
+    return rows;
+}
+
+} // namespace testbench

@@ -1,0 +1,48 @@
+// Commands and selection dialogs of the main window, as a person uses them.
+#pragma once
+
+#include "tests/support/Modals.h"
+
+#include <string>
+#include <vector>
+
+class wxChoice;
+class wxDialog;
+class wxGrid;
+
+namespace testbench {
+
+/// Chooses an entry of the main window's menus.
+void RunCommand(int id);
+
+/// Chooses the entry at this position and clicks OK once it can be pressed.
+void ChooseAndAccept(wxDialog* dialog, wxChoice* choice, int position);
+
+/// Clicks a button of a dialog.
+void ClickButton(wxDialog* dialog, int id);
+
+/// Adds the radio dialog, in which the radio with this index is chosen.
+void ExpectRadio(DialogScript& dialogs, int radio);
+
+/// Adds the band dialog, in which the band at this position is chosen.
+void ExpectBand(DialogScript& dialogs, int slot);
+
+/// Adds a page through menu and dialogs. slot is for radios with several bands.
+void AddPage(int radio, int slot = -1);
+
+/// Changes the current page's target through menu and dialogs. slot is for radios with several bands.
+void ChangeTarget(int radio, int slot = -1);
+
+/// Deletes the current page through menu and question.
+void DeletePage();
+
+/// Writes the text into every cell of the row.
+void FillRow(wxGrid* grid, int row, const std::string& text);
+
+/// The 32 cells of a row of the current page.
+std::vector<std::string> RowTexts(int row);
+
+/// Numbers of the memory rows of the current page that have data.
+std::vector<int> RowsWithData();
+
+} // namespace testbench

@@ -1,0 +1,117 @@
+// User guide and About box.
+#include "frame/HelpCommands.h"
+
+#include "frame/CommandIds.h"
+#include "tests/frame/FrameTools.h"
+#include "tests/support/Keys.h"
+#include "tests/support/RunWithRobot.h"
+#include "tests/support/ZelkWindowTest.h"
+#include "tests/support/robot/Files.h"
+#include "tests/support/robot/TempFolder.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+using namespace testbench;
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The guide beside this program, which is put back as it was in the end.
+class HelpFile : public ZelkWindowTest {
+protected:
+    void SetUp() override {
+        ZelkWindowTest::SetUp();
+        ShowAndFocus(*MainFrame);
+        if (fs::exists(m_guide))
+            fs::rename(m_guide, m_aside);
+        m_path = std::getenv("PATH");
+    }
+
+    void TearDown() override {
+        setenv("PATH", m_path.c_str(), 1);
+        fs::remove(m_guide);
+        if (fs::exists(m_aside))
+            fs::rename(m_aside, m_guide);
+        ZelkWindowTest::TearDown();
+    }
+
+    /// The system's way to open a document only writes down which.
+    void PutOpenerIntoPlace() {
+        const fs::path opener = m_folder / "xdg-open";
+        WriteFile(opener, "#!/bin/sh\nprintf '%s' \"$*\" >'" + OpenedFile().string() + ".part'\nmv '" +
+                              OpenedFile().string() + ".part' '" + OpenedFile().string() + "'\n");
+        fs::permissions(opener, fs::perms::owner_all);
+        setenv("PATH", (m_folder.Path().string() + ":" + m_path).c_str(), 1);
+    }
+
+    fs::path OpenedFile() const { return m_folder / "opened"; }
+
+    static void ExpectComplaint(DialogScript& dialogs) {
+        dialogs
+            .ExpectMessage("User Guide",
+                           "Unable to open User Guide.\nLook in the install directory for ZelkUserGuide.pdf")
+            .Style(wxOK | wxCENTRE);
+    }
+
+    const fs::path m_program = fs::read_symlink("/proc/self/exe");
+    const fs::path m_guide = m_program.parent_path() / "ZelkUserGuide.pdf";
+    const TempFolder m_folder;
+
+private:
+    const fs::path m_aside = m_program.parent_path() / "ZelkUserGuide.aside";
+    std::string m_path;
+};
+
+} // namespace
+
+TEST_F(HelpFile, StandsBesideTheExecutable) {
+    EXPECT_EQ(UserGuidePath(), m_guide.string());
+}
+
+TEST_F(HelpFile, IsOpenedWithTheSystemsApplication) {
+    PutOpenerIntoPlace();
+    WriteFile(m_guide, "%PDF-1.4\n");
+    const DialogScript noDialog;
+    RunCommand(IdHelp);
+    ASSERT_TRUE(PumpUntil([this] { return fs::exists(OpenedFile()); }));
+    EXPECT_EQ(ReadFile(OpenedFile()), m_guide.string());
+}
+
+TEST_F(HelpFile, ThatIsMissingIsComplainedAbout) {
+    PutOpenerIntoPlace();
+    DialogScript dialogs;
+    ExpectComplaint(dialogs);
+    RunCommand(IdHelp);
+    EXPECT_FALSE(fs::exists(OpenedFile()));
+}
+
+TEST_F(HelpFile, ThatNoApplicationOpensIsComplainedAbout) {
+    WriteFile(m_guide, "%PDF-1.4\n");
+    setenv("PATH", m_folder.Path().c_str(), 1);
+    DialogScript dialogs;
+    ExpectComplaint(dialogs);
+    RunCommand(IdHelp);
+}
+
+TEST(AboutBox, HoldsTheseTexts) {
+    const wxAboutDialogInfo info = MakeAboutInfo();
+    EXPECT_EQ(info.GetName(), "Orv Zelk");
+    EXPECT_EQ(info.GetVersion(), "1.0.0");
+    EXPECT_EQ(info.GetDescription(), "Channel loading software for Orv Radios. \n"
+                                     "10 JUN 2026 \n\n"
+                                     "wxWidgets 3.2.5-Windows-Unicode build");
+    EXPECT_EQ(info.GetCopyright(), "Copyright 2026 the Zelk developers");
+    EXPECT_FALSE(info.HasWebSite());
+    EXPECT_FALSE(info.HasLicence());
+    EXPECT_FALSE(info.HasDevelopers());
+}
+
+TEST_F(HelpFile, AboutBoxComesUpAndGoes) {
+    RunWithRobot([](Robot& robot) {
+        TellGui([] { RunCommand(IdAbout); });
+        EXPECT_TRUE(robot.WaitForWindow("About Orv Zelk"));
+        robot.Press("Escape");
+        EXPECT_TRUE(robot.WaitForWindow("Orv Zelk: Page 1 of 1."));
+    });
+}

@@ -1,0 +1,35 @@
+// Message boxes of result codes.
+#include "frame/Messages.h"
+
+#include "tests/support/Modals.h"
+
+#include <gtest/gtest.h>
+
+#include <wx/defs.h>
+
+using namespace testbench;
+
+TEST(DisplayError, ShowsTheMessageOfEachCode) {
+    const struct {
+        int code, value;
+        const char* message;
+    } cases[] = {
+        {-12, 7, "Invalid Radio selection"},
+        {-13, 7, "Invalid Band selection"},
+        {-14, 7, "Number already used at row: 007"},
+        {-14, 412, "Number already used at row: 412"},
+        {-15, 3, "3 Duplicate memory number(s) found."},
+        {-15, 0, "0 Duplicate memory number(s) found."},
+        {-10, 0, "Unknown Error"},
+        {-11, 0, "Unknown Error"},
+        {-16, 0, "Unknown Error"},
+        {0, 0, "Unknown Error"},
+        {1, 0, "Unknown Error"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE("code " + std::to_string(c.code) + ", value " + std::to_string(c.value));
+        DialogScript dialogs;
+        dialogs.ExpectMessage("Error", c.message).Style(wxOK | wxCENTRE);
+        DisplayError(c.code, c.value);
+    }
+}

@@ -1,0 +1,448 @@
+// The dialogs for radio, band and port.
+#include "tests/support/ZelkWindowTest.h"
+
+#include "frame/CommandIds.h"
+#include "frame/Messages.h"
+#include "frame/SelectionDialogs.h"
+#include "frame/SerialPorts.h"
+#include "tests/frame/FrameTools.h"
+#include "tests/support/Keys.h"
+#include "tests/support/PseudoTerminal.h"
+#include "tests/support/RunWithRobot.h"
+
+#include <wx/button.h>
+#include <wx/stattext.h>
+#include <wx/statusbr.h>
+#include <wx/stdpaths.h>
+#include <wx/tooltip.h>
+
+#include <filesystem>
+#include <sys/file.h>
+
+using namespace testbench;
+
+namespace {
+
+constexpr const char* radioTitle = "<-- Select Target Radio -->";
+constexpr const char* bandTitle = "<-- Select Frequency Band -->";
+constexpr const char* portTitle = "<-- Select Serial Port -->";
+
+using Texts = std::vector<std::string>;
+
+Texts ChoicesOf(const wxChoice* choice) {
+    Texts texts;
+    for (const wxString& text : choice->GetStrings())
+        texts.push_back(text.utf8_string());
+    return texts;
+}
+
+bool OkCanBePressed(wxDialog* dialog) {
+    return dialog->FindWindow(wxID_OK)->IsEnabled();
+}
+
+/// The form that the three dialogs share.
+void ExpectForm(wxDialog* dialog, const wxString& label, const wxChoice* choice) {
+    EXPECT_EQ(dialog->GetParent(), MainFrame);
+    EXPECT_TRUE(dialog->HasFlag(wxCAPTION));
+    EXPECT_FALSE(dialog->HasFlag(wxCLOSE_BOX));
+    EXPECT_FALSE(dialog->HasFlag(wxSYSTEM_MENU));
+    EXPECT_FALSE(dialog->HasFlag(wxRESIZE_BORDER));
+    EXPECT_EQ(dialog->GetMinSize(), wxSize(190, 110));
+    EXPECT_GE(dialog->GetSize().x, 190);
+    EXPECT_GE(dialog->GetSize().y, 110);
+    wxStaticText* text = nullptr;
+    for (wxWindow* child : dialog->GetChildren())
+        if (auto* found = dynamic_cast<wxStaticText*>(child))
+            text = found;
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->GetLabel(), label);
+    EXPECT_EQ(text->GetSize().x, 50);
+    EXPECT_LT(text->GetPosition().x, choice->GetPosition().x);
+    wxWindow* ok = dialog->FindWindow(wxID_OK);
+    wxWindow* cancel = dialog->FindWindow(wxID_CANCEL);
+    ASSERT_NE(ok, nullptr);
+    ASSERT_NE(cancel, nullptr);
+    EXPECT_GT(ok->GetPosition().y, choice->GetPosition().y);
+    // Nothing is cut off.
+    const wxSize room = dialog->GetClientSize();
+    for (const wxWindow* child : {ok, cancel, static_cast<wxWindow*>(const_cast<wxChoice*>(choice))}) {
+        EXPECT_GE(child->GetRect().GetLeft(), 5);
+        EXPECT_LE(child->GetRect().GetRight(), room.x - 5);
+        EXPECT_LE(child->GetRect().GetBottom(), room.y - 5);
+        EXPECT_GE(child->GetSize().x, child->GetBestSize().x);
+    }
+}
+
+class Selecting : public ZelkWindowTest {
+protected:
+    void SetUp() override {
+        ZelkWindowTest::SetUp();
+        ShowAndFocus(*MainFrame);
+    }
+
+    /// The target of the current page, as texts.
+    static Texts Target() {
+        const PageStringRecord& texts = PageStrings[CurrentPage];
+        return {texts.RadioName.utf8_string(), texts.BandName.utf8_string(), texts.FileName.utf8_string()};
+    }
+
+    /// Makes the page one for the radio, as far as the dialogs look at it.
+    static void PretendRadio(int radio) {
+        SetPageParameters(MainFrame, CurrentPage, radio, 0);
+        PageStrings[CurrentPage].FileName = "kept";
+    }
+};
+
+} // namespace
+
+TEST_F(Selecting, ARadioOffersTheLabelsInTheirOrder) {
+    DialogScript dialogs;
+    dialogs.Expect(DialogKind::Other, radioTitle).Do([](wxDialog* dialog) {
+        ExpectForm(dialog, "Radio", RadioChoice);
+        EXPECT_EQ(ChoicesOf(RadioChoice),
+                  (Texts{"KRV-21", "KRV-47", "ORV-12", "KRV-214", "KRV-214B", "KRV-305", "KDRV-716[A|B]",
+                         "KDRV-716B-V2", "KDAR-2000", "KRV-610", "KRV-620", "KRV-630", "KRV-630QNT",
+                         "KRV-650", "KRV-656", "KRV-666", "KDRV-8400", "KDRV-4xxx"}));
+        ClickButton(dialog, wxID_CANCEL);
+    });
+    EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -10);
+}
+
+TEST_F(Selecting, ARadioBeginsWithThePagesOwnWhereItsLabelIsItsName) {
+    for (int radio = 0; radio < 18; ++radio) {
+        PretendRadio(radio);
+        DialogScript dialogs;
+        dialogs.Expect(DialogKind::Other, radioTitle).Do([radio](wxDialog* dialog) {
+            const bool found = radio != 6 && radio != 7 && radio != 12;
+            EXPECT_EQ(RadioChoice->GetSelection(), found ? radio : -1) << "radio " << radio;
+            PumpFor(100);
+            EXPECT_EQ(OkCanBePressed(dialog), found) << "radio " << radio;
+            ClickButton(dialog, wxID_CANCEL);
+        });
+        EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -10);
+    }
+}
+
+TEST_F(Selecting, ARadioForANewPageBeginsWithNone) {
+    DialogScript dialogs;
+    dialogs.Expect(DialogKind::Other, radioTitle).Do([](wxDialog* dialog) {
+        EXPECT_EQ(RadioChoice->GetSelection(), -1);
+        PumpFor(100);
+        EXPECT_FALSE(OkCanBePressed(dialog));
+        ClickButton(dialog, wxID_CANCEL);
+    });
+    RunCommand(IdPageAdd);
+}
+
+TEST_F(Selecting, WithNothingChosenOkCannotBePressed) {
+    PretendRadio(6);
+    DialogScript dialogs;
+    dialogs.Expect(DialogKind::Other, radioTitle).Do([](wxDialog* dialog) {
+        ClickButton(dialog, wxID_OK);
+        PressKey("Return");
+        EXPECT_TRUE(dialog->IsModal()) << "the dialog still stands";
+        RadioChoice->SetSelection(1);
+        EXPECT_TRUE(PumpUntil([dialog] { return OkCanBePressed(dialog); }));
+        RadioChoice->SetSelection(-1);
+        EXPECT_TRUE(PumpUntil([dialog] { return !OkCanBePressed(dialog); }));
+        ClickButton(dialog, wxID_CANCEL);
+    });
+    EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -10);
+}
+
+TEST_F(Selecting, ARadioOfOneBandShowsNoBandDialog) {
+    for (int radio = 0; radio <= 8; ++radio) {
+        DialogScript dialogs;
+        ExpectRadio(dialogs, radio);
+        EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), 0) << "radio " << radio;
+        EXPECT_EQ(PageParameters[0].Radio, radio);
+        EXPECT_EQ(PageParameters[0].BandIndex, 0);
+        EXPECT_EQ(dialogs.Shown().size(), 1u) << "radio " << radio;
+    }
+}
+
+TEST_F(Selecting, ABandOffersThoseOfTheChosenRadio) {
+    const struct {
+        int radio;
+        Texts bands;
+    } cases[] = {
+        {9, {"FM: 138-174 MHz", "FM: 403-512 MHz"}},
+        {10, {"FM: 138-174 MHz", "AM: 225-400 MHz"}},
+        {11, {"FM: 30-50 MHz", "FM: 138-174 MHz"}},
+        {12, {"FM: 30-50 MHz", "FM: 138-174 MHz"}},
+        {13, {"FM: 30-50 MHz", "FM: 138-174 MHz", "FM: 403-512 MHz"}},
+        {14, {"FM: 66-88 MHz", "FM: 138-174 MHz", "FM: 403-512 MHz"}},
+        {15, {"FM: 66-88 MHz", "FM: 138-174 MHz"}},
+        {16, {"FM: 30-50 MHz", "AM: 118-138 MHz", "FM: 138-174 MHz", "AM: 225-400 MHz", "FM: 403-512 MHz"}},
+        {17,
+         {"FM: 30-50 MHz", "AM: 118-138 MHz", "FM: 138-174 MHz", "AM: 225-400 MHz", "FM: 403-512 MHz",
+          "K6: 3-BAND"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE("radio " + std::to_string(c.radio));
+        const int last = static_cast<int>(c.bands.size()) - 1;
+        DialogScript dialogs;
+        ExpectRadio(dialogs, c.radio);
+        dialogs.Expect(DialogKind::Other, bandTitle).Do([&c, last](wxDialog* dialog) {
+            ExpectForm(dialog, "Band", BandChoice);
+            EXPECT_EQ(ChoicesOf(BandChoice), c.bands);
+            EXPECT_EQ(BandList.size(), c.bands.size());
+            ChooseAndAccept(dialog, BandChoice, last);
+        });
+        EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), 0);
+        EXPECT_EQ(PageParameters[0].Radio, c.radio);
+        EXPECT_EQ(PageParameters[0].BandIndex, last);
+        EXPECT_TRUE(BandList.empty());
+    }
+}
+
+TEST_F(Selecting, ABandBeginsAtThePositionOfThePagesFormerRadio) {
+    const struct {
+        int former, chosen, preselected;
+    } cases[] = {
+        {0, 9, 0},   {1, 9, 1},  {2, 9, -1},  {1, 13, 1},  {2, 13, 2},
+        {3, 13, -1}, {5, 17, 5}, {4, 17, 4},  {8, 17, -1}, {17, 17, -1},
+        {6, 17, -1}, {4, 16, 4}, {5, 16, -1}, {12, 9, -1}, {11, 11, -1},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE("radio " + std::to_string(c.former) + " to " + std::to_string(c.chosen));
+        PretendRadio(c.former);
+        DialogScript dialogs;
+        ExpectRadio(dialogs, c.chosen);
+        dialogs.Expect(DialogKind::Other, bandTitle).Do([&c](wxDialog* dialog) {
+            EXPECT_EQ(BandChoice->GetSelection(), c.preselected);
+            PumpFor(100);
+            EXPECT_EQ(OkCanBePressed(dialog), c.preselected >= 0);
+            ClickButton(dialog, wxID_CANCEL);
+        });
+        EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -10);
+    }
+}
+
+TEST_F(Selecting, CancelledInEitherDialogLeavesThePageUntouched) {
+    PageStrings[0].FileName = "kept";
+    CurrentParameters().Flags = 0x02;
+    DialogScript dialogs;
+    dialogs.Expect(DialogKind::Other, radioTitle).Do([](wxDialog* dialog) {
+        ClickButton(dialog, wxID_CANCEL);
+    });
+    EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -10);
+    EXPECT_EQ(Target(), (Texts{"KRV-47", "FM 66-88", "kept"}));
+
+    ExpectRadio(dialogs, 13);
+    dialogs.Expect(DialogKind::Other, bandTitle).Do([](wxDialog* dialog) {
+        PressKey("Escape");
+        (void)dialog;
+    });
+    EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -10);
+    EXPECT_EQ(Target(), (Texts{"KRV-47", "FM 66-88", "kept"}));
+    EXPECT_EQ(CurrentParameters().Flags, 0x02);
+    EXPECT_TRUE(BandList.empty());
+}
+
+TEST_F(Selecting, AnInvalidChoiceIsRefusedAndLeavesThePageUntouched) {
+    PageStrings[0].FileName = "kept";
+    DialogScript dialogs;
+    // These answers come without a choice, as no person can give them.
+    dialogs.Expect(DialogKind::Other, radioTitle).Answer(wxID_OK);
+    EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -12);
+
+    dialogs.Expect(DialogKind::Other, radioTitle).Set([](wxDialog*) { RadioChoice->SetSelection(17); });
+    dialogs.Expect(DialogKind::Other, bandTitle).Set([](wxDialog*) {
+        BandChoice->SetSelection(BandChoice->Append("seventh"));
+    });
+    EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -13);
+    EXPECT_TRUE(BandList.empty());
+
+    dialogs.Expect(DialogKind::Other, radioTitle).Set([](wxDialog*) { RadioChoice->SetSelection(9); });
+    dialogs.Expect(DialogKind::Other, bandTitle).Answer(wxID_OK);
+    EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -13);
+    EXPECT_EQ(Target(), (Texts{"KRV-47", "FM 66-88", "kept"}));
+}
+
+TEST_F(Selecting, WithTheKeyboardReachesRadioAndBand) {
+    int result = -1;
+    RunWithRobot(
+        [](Robot& robot) {
+            ASSERT_NE(robot.WaitForDialog(radioTitle), nullptr);
+            robot.Ask([] { RadioChoice->SetFocus(); });
+            robot.Settle();
+            // From the KRV-47 on.
+            robot.Press("Down", 8);
+            EXPECT_TRUE(robot.WaitFor([] { return RadioChoice->GetStringSelection() == "KRV-610"; }));
+            robot.Settle();
+            robot.Press("Tab");
+            robot.Press("Return");
+            ASSERT_NE(robot.WaitForDialog(bandTitle), nullptr);
+            robot.Ask([] { BandChoice->SetFocus(); });
+            robot.Settle();
+            robot.Press("Up");
+            EXPECT_TRUE(robot.WaitFor([] { return BandChoice->GetSelection() == 0; }));
+            robot.Settle();
+            robot.Press("Tab");
+            robot.Press("Return");
+            robot.WaitForNoDialog();
+        },
+        [&result] { result = UserSelectRadioAndBand(MainFrame, 0); });
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(Target(), (Texts{"KRV-610", "FM 138-174", ""}));
+}
+
+TEST_F(Selecting, HasNoWindowManagersWayOut) {
+    RunWithRobot(
+        [](Robot& robot) {
+            ASSERT_NE(robot.WaitForDialog(radioTitle), nullptr);
+            EXPECT_EQ(robot.Ask([] { return RadioChoice->GetParent()->GetWindowStyleFlag() & wxCLOSE_BOX; }),
+                      0);
+            robot.Press("Escape");
+            EXPECT_TRUE(robot.WaitForNoDialog());
+        },
+        [] { EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -10); });
+}
+
+namespace {
+
+/// A port list that this test alone decides on.
+class SelectingAPort : public Selecting {
+protected:
+    void SetUp() override {
+        Selecting::SetUp();
+        // Ports of this machine are held, so that they don't count as free.
+        for (const wxString& port : ListSerialPorts()) {
+            const int descriptor = ::open(port.utf8_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+            if (descriptor >= 0 && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+                m_held.push_back(descriptor);
+        }
+        ASSERT_TRUE(ListSerialPorts().empty());
+    }
+
+    void TearDown() override {
+        for (int descriptor : m_held)
+            ::close(descriptor);
+        std::filesystem::remove_all(Folder());
+        Selecting::TearDown();
+    }
+
+    static std::filesystem::path Folder() {
+        return std::filesystem::path(wxStandardPaths::Get().GetUserDataDir().utf8_string()) / "ports";
+    }
+
+    /// Puts a link to the pseudo-terminal where simulated radios put theirs; gives its full name.
+    static wxString Offer(PseudoTerminal& port, const std::string& name) {
+        port.HoldSlave();
+        std::filesystem::create_directories(Folder());
+        std::filesystem::create_symlink(port.SlaveName(), Folder() / name);
+        return wxString((Folder() / name).string());
+    }
+
+    static ExpectedDialog& ExpectPort(DialogScript& dialogs) {
+        return dialogs.Expect(DialogKind::Other, portTitle);
+    }
+
+    static wxString StatusField() { return MainFrame->m_statusBar->GetStatusText(4); }
+
+private:
+    std::vector<int> m_held;
+};
+
+} // namespace
+
+TEST_F(SelectingAPort, WithNonePresentOffersNothing) {
+    DialogScript dialogs;
+    ExpectPort(dialogs).Do([](wxDialog* dialog) {
+        ExpectForm(dialog, "Port", PortChoice);
+        EXPECT_EQ(PortChoice->GetCount(), 0u);
+        EXPECT_TRUE(PortList.empty());
+        PumpFor(100);
+        EXPECT_FALSE(OkCanBePressed(dialog));
+        ClickButton(dialog, wxID_OK);
+        PressKey("Return");
+        EXPECT_TRUE(dialog->IsModal()) << "the dialog still stands";
+        ClickButton(dialog, wxID_CANCEL);
+    });
+    RunCommand(IdSetPort);
+    EXPECT_EQ(PortName, "none");
+    EXPECT_EQ(StatusField(), "");
+}
+
+TEST_F(SelectingAPort, StoresItAndShowsItInTheStatusBar) {
+    PseudoTerminal first, second;
+    const wxString names[] = {Offer(first, "radio1"), Offer(second, "radio2")};
+    DialogScript dialogs;
+    ExpectPort(dialogs).Do([&names](wxDialog* dialog) {
+        ExpectForm(dialog, "Port", PortChoice);
+        EXPECT_EQ(ChoicesOf(PortChoice), (Texts{names[0].utf8_string(), names[1].utf8_string()}));
+        EXPECT_EQ(PortList.size(), 2u);
+        EXPECT_EQ(PortChoice->GetSelection(), -1);
+        ChooseAndAccept(dialog, PortChoice, 1);
+    });
+    RunCommand(IdSetPort);
+    EXPECT_EQ(PortName, names[1]);
+    EXPECT_EQ(StatusField(), names[1]);
+    EXPECT_TRUE(PortList.empty());
+
+    // The next time it is chosen from the start.
+    ExpectPort(dialogs).Do([](wxDialog* dialog) {
+        EXPECT_EQ(PortChoice->GetSelection(), 1);
+        ChooseAndAccept(dialog, PortChoice, 0);
+    });
+    RunCommand(IdSetPort);
+    EXPECT_EQ(PortName, names[0]);
+    EXPECT_EQ(StatusField(), names[0]);
+}
+
+TEST_F(SelectingAPort, CancelledKeepsTheFormerOne) {
+    PseudoTerminal port;
+    Offer(port, "radio1");
+    DialogScript dialogs;
+    ExpectPort(dialogs).Do([](wxDialog* dialog) {
+        PortChoice->SetSelection(0);
+        PumpUntil([dialog] { return OkCanBePressed(dialog); });
+        ClickButton(dialog, wxID_CANCEL);
+    });
+    RunCommand(IdSetPort);
+    EXPECT_EQ(PortName, "none");
+    EXPECT_EQ(StatusField(), "");
+    EXPECT_TRUE(PortList.empty());
+}
+
+TEST_F(SelectingAPort, ChosenEarlierButNotListedNowIsNotSelectedAndStaysAfterCancel) {
+    PseudoTerminal port;
+    Offer(port, "radio1");
+    PortName = "/dev/ttyUSB7";
+    DialogScript dialogs;
+    ExpectPort(dialogs).Do([](wxDialog* dialog) {
+        EXPECT_EQ(PortChoice->GetSelection(), -1);
+        PumpFor(100);
+        EXPECT_FALSE(OkCanBePressed(dialog));
+        ClickButton(dialog, wxID_CANCEL);
+    });
+    RunCommand(IdSetPort);
+    EXPECT_EQ(PortName, "/dev/ttyUSB7");
+}
+
+TEST_F(SelectingAPort, LeavesOutOneThatAnotherProgramHolds) {
+    PseudoTerminal first, second;
+    Offer(first, "radio1");
+    const wxString free = Offer(second, "radio2");
+    const int holder = ::open(first.SlaveName().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+    ASSERT_EQ(::flock(holder, LOCK_EX | LOCK_NB), 0);
+    DialogScript dialogs;
+    ExpectPort(dialogs).Do([&free](wxDialog* dialog) {
+        EXPECT_EQ(ChoicesOf(PortChoice), Texts{free.utf8_string()});
+        ClickButton(dialog, wxID_CANCEL);
+    });
+    RunCommand(IdSetPort);
+    ::close(holder);
+}
+
+TEST_F(SelectingAPort, TellsInATipWhoMayOpenPorts) {
+    ASSERT_FALSE(SerialPortGroupHint().empty());
+    DialogScript dialogs;
+    ExpectPort(dialogs).Do([](wxDialog* dialog) {
+        EXPECT_EQ(dialog->GetToolTipText(), SerialPortGroupHint());
+        EXPECT_EQ(PortChoice->GetToolTipText(), SerialPortGroupHint());
+        ClickButton(dialog, wxID_CANCEL);
+    });
+    RunCommand(IdSetPort);
+}

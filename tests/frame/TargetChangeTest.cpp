@@ -1,0 +1,254 @@
+// Another target for a page that holds data.
+#include "tests/support/ZelkWindowTest.h"
+
+#include "frame/CommandIds.h"
+#include "tests/frame/FrameTools.h"
+#include "tests/support/Keys.h"
+#include "tests/support/RunWithRobot.h"
+
+#include <wx/notebook.h>
+#include <wx/statusbr.h>
+
+using namespace testbench;
+
+namespace {
+
+constexpr int Krv47 = 1, Orv12 = 2, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8, Krv610 = 9,
+              Krv630 = 11;
+
+constexpr const char* question = "Change Target?";
+constexpr const char* warning = "If there is data on this page,\nthis may result in invalid configuration!";
+
+using Texts = std::vector<std::string>;
+
+class ChangingTheTarget : public ZelkWindowTest {
+protected:
+    void SetUp() override {
+        ZelkWindowTest::SetUp();
+        ShowAndFocus(*MainFrame);
+    }
+
+    static Texts Filled(const std::string& text) { return Texts(32, text); }
+
+    /// Everything that the page holds, cell by cell.
+    static std::vector<Texts> AllRows() {
+        std::vector<Texts> rows;
+        for (int row = 0; row < CurrentGrid()->GetNumberRows(); ++row)
+            rows.push_back(RowTexts(row));
+        return rows;
+    }
+
+    static bool IsLocked(int row, std::initializer_list<int> cols) {
+        for (int col : cols)
+            if (!CurrentGrid()->IsReadOnly(row, col))
+                return false;
+        return true;
+    }
+};
+
+} // namespace
+
+TEST_F(ChangingTheTarget, AsksFirstAndStopsOnCancel) {
+    PageStrings[0].FileName = "kept";
+    DialogScript dialogs;
+    dialogs.ExpectMessage(question, warning, wxID_CANCEL).Style(wxOK | wxCANCEL);
+    RunCommand(IdSetTarget);
+    EXPECT_EQ(dialogs.Shown().size(), 1u);
+    EXPECT_EQ(PageStrings[0].FileName, "kept");
+}
+
+TEST_F(ChangingTheTarget, CancelledInTheRadioDialogLeavesThePageUntouched) {
+    FillRow(CurrentGrid(), 3, "data");
+    FillRow(CurrentGrid(), 121, "guard");
+    PageStrings[0].FileName = "kept";
+    CurrentParameters().Flags = 0x12;
+    const auto before = AllRows();
+    DialogScript dialogs;
+    dialogs.ExpectMessage(question, warning);
+    dialogs.Expect(DialogKind::Other, "<-- Select Target Radio -->").Answer(wxID_CANCEL);
+    RunCommand(IdSetTarget);
+    EXPECT_EQ(AllRows(), before);
+    EXPECT_EQ(PageStrings[0].FileName, "kept");
+    EXPECT_EQ(PageStrings[0].RadioName, "KRV-47");
+    EXPECT_EQ(CurrentParameters().Flags, 0x12);
+}
+
+TEST_F(ChangingTheTarget, ToAnInvalidChoiceShowsTheErrorAndLeavesThePageUntouched) {
+    FillRow(CurrentGrid(), 121, "guard");
+    const auto before = AllRows();
+    DialogScript dialogs;
+    dialogs.ExpectMessage(question, warning);
+    dialogs.Expect(DialogKind::Other, "<-- Select Target Radio -->").Answer(wxID_OK);
+    dialogs.ExpectMessage("Error", "Invalid Radio selection").Style(wxOK | wxCENTRE);
+    RunCommand(IdSetTarget);
+    EXPECT_EQ(AllRows(), before);
+    EXPECT_EQ(PageStrings[0].RadioName, "KRV-47");
+}
+
+TEST_F(ChangingTheTarget, FromKrv47ToKrv305KeepsTheGuards) {
+    FillRow(CurrentGrid(), 121, "first");
+    FillRow(CurrentGrid(), 122, "second");
+    ChangeTarget(Krv305);
+    ASSERT_EQ(CurrentGrid()->GetNumberRows(), 123);
+    Texts first = Filled("first");
+    first[MNUM] = "121";
+    Texts second = Filled("second");
+    second[MNUM] = "122";
+    EXPECT_EQ(RowTexts(121), first);
+    EXPECT_EQ(RowTexts(122), second);
+    EXPECT_TRUE(IsLocked(121, {MNUM, SCAN, RTON, RCOD}));
+    EXPECT_TRUE(IsLocked(122, {MNUM, SCAN, RTON, RCOD}));
+}
+
+TEST_F(ChangingTheTarget, WithOneUsedGuardRestoresBoth) {
+    FillRow(CurrentGrid(), 122, "second");
+    ChangeTarget(Krv305);
+    Texts blankButNumbered(32);
+    blankButNumbered[MNUM] = "121";
+    EXPECT_EQ(RowTexts(121), blankButNumbered);
+    EXPECT_EQ(Cell(122, DESC), "second");
+    EXPECT_EQ(Cell(122, MNUM), "122");
+}
+
+TEST_F(ChangingTheTarget, WithBlankGuardsLeavesThemBlank) {
+    ChangeTarget(Krv305);
+    EXPECT_FALSE(RowHasData(121));
+    EXPECT_FALSE(RowHasData(122));
+}
+
+TEST_F(ChangingTheTarget, FromKdrv716ToKdar2000DropsTheGuards) {
+    Retarget(Kdrv716, 0);
+    FillRow(CurrentGrid(), 231, "31");
+    FillRow(CurrentGrid(), 232, "32");
+    FillRow(CurrentGrid(), 100, "goes");
+    FillRow(CurrentGrid(), 99, "stays");
+    ChangeTarget(Kdar2000);
+    ASSERT_EQ(CurrentGrid()->GetNumberRows(), 101);
+    EXPECT_EQ(RowTexts(99), Filled("stays"));
+    EXPECT_FALSE(RowHasData(100)) << "the former last row, a cleared guard, is the last one now";
+    EXPECT_EQ(GD1, -1);
+    EXPECT_EQ(GD2, -1);
+    EXPECT_EQ(MainFrame->m_statusBar->GetStatusText(3), "100 Rows");
+}
+
+TEST_F(ChangingTheTarget, MovesGuardsToTheirNewPlace) {
+    FillRow(CurrentGrid(), 121, "first");
+    FillRow(CurrentGrid(), 122, "second");
+    FillRow(CurrentGrid(), 120, "ordinary");
+    ChangeTarget(Krv610, 0);
+    ASSERT_EQ(CurrentGrid()->GetNumberRows(), 203);
+    EXPECT_EQ(RowsWithData(), (std::vector<int>{120, 201, 202}));
+    EXPECT_EQ(Cell(201, DESC), "first");
+    EXPECT_EQ(Cell(201, MNUM), "201");
+    EXPECT_EQ(Cell(202, DESC), "second");
+    EXPECT_EQ(Cell(202, MNUM), "202");
+    EXPECT_TRUE(IsLocked(201, {MNUM, SCAN, RTON, RCOD}));
+    for (int row : {121, 122})
+        for (int col : {MNUM, SCAN, RTON, RCOD})
+            EXPECT_FALSE(CurrentGrid()->IsReadOnly(row, col)) << row << ", " << col;
+}
+
+TEST_F(ChangingTheTarget, OfOneP25GenerationToTheOtherMovesTheGuards) {
+    Retarget(Kdrv716, 0);
+    SetCell(231, DESC, "FIRST");
+    SetCell(232, DESC, "SECOND");
+    ChangeTarget(Kdrv716B);
+    ASSERT_EQ(CurrentGrid()->GetNumberRows(), 503);
+    EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 501, 502}));
+    EXPECT_EQ(Cell(501, DESC), "FIRST");
+    EXPECT_EQ(Cell(501, MNUM), "501");
+    EXPECT_EQ(Cell(502, DESC), "SECOND");
+    EXPECT_EQ(Cell(502, MNUM), "502");
+    EXPECT_TRUE(IsLocked(501, {MNUM, SCAN, ZONE}));
+    EXPECT_EQ(RadioCatalogue::ZoneList.size(), 32u);
+}
+
+TEST_F(ChangingTheTarget, LeavesMemoryRowsAndHiddenCellsAsTheyAre) {
+    FillRow(CurrentGrid(), 1, "one");
+    FillRow(CurrentGrid(), 5, "five");
+    ChangeTarget(Orv12);
+    ASSERT_EQ(CurrentGrid()->GetNumberRows(), 7);
+    EXPECT_EQ(RowTexts(1), Filled("one"));
+    EXPECT_EQ(RowTexts(5), Filled("five"));
+    ChangeTarget(Kdar2000);
+    EXPECT_EQ(RowTexts(1), Filled("one"));
+    EXPECT_EQ(RowTexts(5), Filled("five"));
+}
+
+TEST_F(ChangingTheTarget, WritesTheDefaultRowOfTheNewTarget) {
+    SetCell(0, DESC, "MY OWN");
+    ChangeTarget(Krv305);
+    EXPECT_EQ(Cell(0, BAND), "FM 403-512");
+    EXPECT_EQ(Cell(0, DESC), "UHF   403");
+    EXPECT_EQ(Cell(0, RFRQ), "403.0000");
+    EXPECT_EQ(Cell(0, TFRQ), "512.0000");
+    EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
+}
+
+TEST_F(ChangingTheTarget, ToAP25RadioOverwritesItsStartingRows) {
+    FillRow(CurrentGrid(), 1, "one");
+    FillRow(CurrentGrid(), 2, "two");
+    ChangeTarget(Kdrv716);
+    EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 2, 231, 232}));
+    EXPECT_EQ(Cell(1, DESC), "VHF  001");
+    EXPECT_EQ(Cell(231, MNUM), "231");
+    EXPECT_EQ(Cell(232, PRIM), "232");
+    EXPECT_EQ(RowTexts(2), Filled("two"));
+}
+
+TEST_F(ChangingTheTarget, ForgetsFileAndFlags) {
+    PageStrings[0].FileName = "file";
+    PageStrings[0].FileDir = "/there/";
+    CurrentParameters().Flags = 0x1A;
+    ChangeTarget(Krv305);
+    EXPECT_EQ(PageStrings[0].FileName, "");
+    EXPECT_EQ(PageStrings[0].FileDir, "");
+    EXPECT_EQ(CurrentParameters().Flags, 0);
+}
+
+TEST_F(ChangingTheTarget, BringsTabTitleAndStatusUpToDate) {
+    ChangeTarget(Krv630, 1);
+    EXPECT_EQ(MainFrame->m_notebook->GetPageText(0), "KRV-630");
+    EXPECT_EQ(MainFrame->GetTitle(), "Orv Zelk: Page 1 of 1.");
+    EXPECT_EQ(MainFrame->m_statusBar->GetStatusText(1), "KRV-630");
+    EXPECT_EQ(MainFrame->m_statusBar->GetStatusText(2), "FM 138-174");
+    EXPECT_EQ(MainFrame->m_statusBar->GetStatusText(3), "202 Rows");
+    EXPECT_EQ(GD1, 201);
+}
+
+TEST_F(ChangingTheTarget, OfTheSecondOfThreePagesLeavesTheOthers) {
+    AddPage(Kdrv716);
+    AddPage(Kdar2000);
+    MainFrame->m_notebook->SetSelection(1);
+    PumpUntilIdle();
+    ChangeTarget(Krv305);
+    EXPECT_EQ(PageStrings[0].RadioName, "KRV-47");
+    EXPECT_EQ(PageStrings[1].RadioName, "KRV-305");
+    EXPECT_EQ(PageStrings[2].RadioName, "KDAR-2000");
+    EXPECT_EQ(PageGrid[0]->GetNumberRows(), 123);
+    EXPECT_EQ(PageGrid[1]->GetNumberRows(), 123);
+    EXPECT_EQ(PageGrid[2]->GetNumberRows(), 101);
+    EXPECT_EQ(MainFrame->GetTitle(), "Orv Zelk: Page 2 of 3.");
+}
+
+TEST_F(ChangingTheTarget, ToTheSameOneKeepsGuardsAndTheirLocks) {
+    FillRow(CurrentGrid(), 121, "first");
+    SetCell(0, DESC, "MY OWN");
+    ChangeTarget(Krv47);
+    EXPECT_EQ(Cell(121, DESC), "first");
+    EXPECT_EQ(Cell(121, MNUM), "121");
+    EXPECT_EQ(Cell(0, DESC), "LOW    66");
+    EXPECT_TRUE(IsLocked(121, {MNUM, SCAN, RTON, RCOD}));
+    EXPECT_TRUE(IsLocked(122, {MNUM, SCAN, RTON, RCOD}));
+}
+
+TEST_F(ChangingTheTarget, WhileACellIsEditedTakesItsTextFirst) {
+    CurrentGrid()->GoToCell(3, DESC);
+    CurrentGrid()->SetFocus();
+    TypeText("HALF");
+    ASSERT_TRUE(CurrentGrid()->IsCellEditControlShown());
+    ChangeTarget(Krv305);
+    EXPECT_EQ(Cell(3, DESC), "HALF");
+    EXPECT_EQ(Cell(3, RFRQ), "66.0000") << "filled before the target changed";
+    EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
+}

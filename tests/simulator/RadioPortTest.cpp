@@ -1,0 +1,375 @@
+// The program as a whole, spoken to over its port.
+#include "tests/simulator/RadioProcess.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <sys/wait.h>
+#include <termios.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+constexpr char Ack[] = "\x05";
+
+std::chrono::milliseconds Since(Clock::time_point start) {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
+}
+
+std::string FileOf(const TempFolder& folder, const std::string& lines) {
+    std::ofstream(folder.Path("radio.txt")) << lines;
+    return folder.Path("radio.txt");
+}
+
+/// Sends a line and tells whether it was acknowledged.
+bool IsTaken(PortClient& client, const std::string& line) {
+    client.Send(line + "\r");
+    return client.ReadUntil(Ack, 3s) == Ack;
+}
+
+TEST(RadioPort, WritesAndReadsBackThroughARealPort) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KRV-214", "--banner", "HELLO"});
+    ASSERT_EQ(radio.Port(), folder.Path("ports/KRV-214")) << radio.Output();
+    PortClient client(radio.Port());
+    client.Send("rt\r4\rdl\r");
+    EXPECT_TRUE(IsTaken(client, VhfLine("001")));
+    EXPECT_TRUE(IsTaken(client, VhfLine("102")));
+    client.Send(EndLine("300"));
+    client.Close();
+    PortClient reader(radio.Port());
+    reader.Send("rt\r4\rul\r ");
+    EXPECT_EQ(reader.ReadUntil("300\r"), "HELLO\r" + VhfLine("001") + "\r" + VhfLine("102") + "\r300\r");
+}
+
+TEST(RadioPort, PlaysTwoTransfersOverOneOpenPort) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--banner", ""});
+    PortClient client(radio.Port());
+    for (const char* number : {"001", "002"}) {
+        client.Send("dl\r");
+        EXPECT_TRUE(IsTaken(client, VhfLine(number)));
+        client.Send(EndLine("300"));
+    }
+    for (int k = 0; k < 2; ++k) {
+        client.Send("ul\r");
+        EXPECT_EQ(client.ReadUntil("300\r"), VhfLine("001") + "\r" + VhfLine("002") + "\r300\r");
+    }
+}
+
+TEST(RadioPort, TakesAWriteWhoseWriterClosesAtOnce) {
+    const TempFolder folder;
+    RadioProcess radio(folder,
+                       {"--model", "KDRV-4xxx:FM 138-174", "--once", "--memories", folder.Path("radio.txt")});
+    PortClient client(radio.Port());
+    client.Send("dl\r" + VhfLine("001") + "\r" + VhfLine("002") + "\r" + EndLine("300"));
+    client.Close();
+    EXPECT_EQ(radio.WaitForEnd(), 0);
+    EXPECT_EQ(FileText(folder.Path("radio.txt")),
+              "# KDRV-4xxx FM 138-174\n" + VhfLine("001") + "\n" + VhfLine("002") + "\n");
+}
+
+TEST(RadioPort, LosesNothingOfAUserWhoComesRightAfterACompletedTransfer) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KRV-214", "--banner", ""});
+    for (int k = 0; k < 20; ++k) {
+        PortClient writer(radio.Port());
+        writer.Send("rt\r4\rdl\r");
+        ASSERT_TRUE(IsTaken(writer, VhfLine("001"))) << k;
+        writer.Send(EndLine("300"));
+        writer.Close();
+        PortClient reader(radio.Port());
+        reader.Send("rt\r4\rul\r ");
+        ASSERT_EQ(reader.ReadUntil("300\r", 2s), VhfLine("001") + "\r300\r") << k;
+    }
+}
+
+TEST(RadioPort, DropsWhatWasNotReadWhenItsUserGoes) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--all", "--log", folder.Path("log")});
+    {
+        PortClient client(radio.Port());
+        client.Send("ul\r");
+        ASSERT_TRUE(WaitForFileText(folder.Path("log"), "> 002 "));
+    }
+    ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed"));
+    PortClient next(radio.Port());
+    EXPECT_EQ(next.ReadUntilQuiet(200ms), "");
+    next.Send("dl\r");
+    EXPECT_TRUE(IsTaken(next, VhfLine("001"))) << "the dialogue began anew";
+}
+
+TEST(RadioPort, ForgetsHalfACommandWhenItsUserGoes) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--log", folder.Path("log")});
+    PortClient(radio.Port()).Send("d");
+    ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed"));
+    PortClient next(radio.Port());
+    next.Send("dl\r");
+    EXPECT_TRUE(IsTaken(next, VhfLine("001")));
+}
+
+/// What is set on the port when it is opened, after which it gets the settings of a terminal at another
+/// speed.
+termios SettingsThenSpoilt(const std::string& port) {
+    const int opened = open(port.c_str(), O_RDWR | O_NOCTTY);
+    termios line{};
+    EXPECT_EQ(tcgetattr(opened, &line), 0) << port;
+    termios spoilt = line;
+    cfsetspeed(&spoilt, B115200);
+    spoilt.c_lflag |= ECHO | ICANON | ISIG;
+    spoilt.c_iflag |= ICRNL | INLCR | IXON | ISTRIP;
+    spoilt.c_oflag |= OPOST | ONLCR;
+    tcsetattr(opened, TCSANOW, &spoilt);
+    close(opened);
+    return line;
+}
+
+TEST(RadioPort, IsRawAndAt9600ForEachUserWhateverTheLastOneSet) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KRV-214", "--log", folder.Path("log")});
+    for (const char* user : {"first", "second"}) {
+        const termios line = SettingsThenSpoilt(radio.Port());
+        ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed")) << user;
+        EXPECT_EQ(cfgetospeed(&line), static_cast<speed_t>(B9600)) << user;
+        EXPECT_EQ(line.c_lflag & (ECHO | ICANON | ISIG), 0u) << user;
+        EXPECT_EQ(line.c_iflag & (ICRNL | INLCR | IXON | ISTRIP), 0u) << user;
+        EXPECT_EQ(line.c_oflag & OPOST, 0u) << user;
+        EXPECT_EQ(line.c_cflag & CSIZE, static_cast<tcflag_t>(CS8)) << user;
+    }
+}
+
+TEST(RadioPort, StaysOutOfTheWayOfSomebodyWhoOnlyLooks) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174"});
+    for (int k = 0; k < 50; ++k)
+        PortClient(radio.Port()).Close();
+    PortClient client(radio.Port());
+    client.Send("dl\r");
+    EXPECT_TRUE(IsTaken(client, VhfLine("001")));
+}
+
+TEST(RadioKey, IsPressedAfterItsDelay) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KRV-610:FM 138-174", "--key-delay", "300", "--banner", ""});
+    PortClient client(radio.Port());
+    const auto start = Clock::now();
+    client.Send("ul\r");
+    EXPECT_TRUE(client.ReadUntil("300\r").starts_with("001 "));
+    EXPECT_GE(Since(start), 300ms);
+}
+
+TEST(RadioKey, IsPressedByASignal) {
+    const TempFolder folder;
+    RadioProcess radio(
+        folder, {"--model", "KRV-610:FM 138-174", "--key-delay", "60000", "--log", folder.Path("log")});
+    PortClient client(radio.Port());
+    client.Send("ul\r");
+    EXPECT_EQ(client.ReadUntilQuiet(150ms), "");
+    radio.Signal(SIGUSR1);
+    EXPECT_TRUE(client.ReadUntil("300\r").ends_with("\r300\r"));
+    EXPECT_NE(FileText(folder.Path("log")).find("- key pressed"), std::string::npos);
+}
+
+TEST(Pacing, DeliversNoFasterThanTheSpeedOfThePort) {
+    const TempFolder folder;
+    const std::string file =
+        FileOf(folder, VhfLine("001") + "\n" + VhfLine("002") + "\n" + VhfLine("003") + "\n");
+    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--pace", "--memories", file});
+    PortClient client(radio.Port());
+    const auto start = Clock::now();
+    client.Send("ul\r");
+    const std::string text = client.ReadUntil("300\r");
+    const auto passed = std::chrono::duration<double>(Clock::now() - start).count();
+    EXPECT_GT(text.size(), 230u);
+    EXPECT_GE(passed, (text.size() + 3) * 10 / 9600.0);
+    EXPECT_LT(passed, (text.size() + 3) * 10 / 9600.0 + 0.5);
+}
+
+TEST(Pacing, AcceptsNoFasterThanTheSpeedOfThePort) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--pace"});
+    PortClient client(radio.Port());
+    const auto start = Clock::now();
+    client.Send("dl\r" + VhfLine("001") + "\r" + VhfLine("002") + "\r" + VhfLine("003") + "\r");
+    EXPECT_EQ(client.ReadUntil("\x05\x05\x05"), "\x05\x05\x05");
+    EXPECT_GE(std::chrono::duration<double>(Clock::now() - start).count(), (3 + 3 * 77 + 1) * 10 / 9600.0);
+}
+
+TEST(Pacing, FollowsAFasterSpeed) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--pace", "--all"});
+    PortClient client(radio.Port(), 115200);
+    const auto start = Clock::now();
+    client.Send("ul\r");
+    const std::string text = client.ReadUntil("\r300\r");
+    const auto passed = std::chrono::duration<double>(Clock::now() - start).count();
+    EXPECT_GT(text.size(), 200u * 77);
+    EXPECT_GE(passed, text.size() * 10 / 115200.0);
+    EXPECT_LT(passed, text.size() * 10 / 9600.0 / 4) << "far below the 16 s of 9600 baud";
+}
+
+TEST(Pacing, IsOffUnlessAskedFor) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--all"});
+    PortClient client(radio.Port());
+    const auto start = Clock::now();
+    client.Send("ul\r");
+    EXPECT_GT(client.ReadUntil("\r300\r").size(), 200u * 77);
+    EXPECT_LT(Since(start), 5s);
+}
+
+TEST(RadioProgram, UsesNoProcessorTimeWhileItWaits) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KRV-610:FM 138-174", "--key-delay", "60000"});
+    PortClient(radio.Port()).Close();
+    std::this_thread::sleep_for(300ms);
+    PortClient client(radio.Port());
+    client.Send("ul\r");
+    std::this_thread::sleep_for(300ms);
+    EXPECT_LE(radio.ProcessorTime(), 60ms);
+}
+
+TEST(RadioProgram, RemovesItsLinkWhenItIsEnded) {
+    for (int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        const TempFolder folder;
+        RadioProcess radio(folder, {"--model", "KRV-214"});
+        ASSERT_TRUE(fs::is_symlink(folder.Path("ports/KRV-214"))) << radio.Output();
+        EXPECT_EQ(radio.End(signal), 0) << signal;
+        EXPECT_TRUE(fs::is_empty(folder.Path("ports"))) << signal;
+    }
+}
+
+TEST(RadioProgram, ReplacesTheLinkOfOneThatWasKilled) {
+    const TempFolder folder;
+    RadioProcess killed(folder, {"--model", "KRV-214"});
+    killed.End(SIGKILL);
+    ASSERT_TRUE(fs::is_symlink(folder.Path("ports/KRV-214"))) << "nobody could clean up";
+    RadioProcess radio(folder, {"--model", "KRV-214", "--banner", ""});
+    ASSERT_EQ(radio.Port(), folder.Path("ports/KRV-214")) << radio.Output();
+    PortClient client(radio.Port());
+    client.Send("rt\r4\rul\r ");
+    EXPECT_TRUE(client.ReadUntil("300\r").starts_with("001 "));
+}
+
+TEST(RadioProgram, RefusesANameThatIsPlayed) {
+    const TempFolder folder;
+    RadioProcess first(folder, {"--model", "KRV-214"});
+    RadioProcess second(folder, {"--model", "KRV-214"});
+    EXPECT_EQ(second.Port(), "");
+    EXPECT_EQ(second.WaitForEnd(), 1);
+    EXPECT_NE(second.Output().find("is played by another zelk-radio"), std::string::npos) << second.Output();
+    RadioProcess third(folder, {"--model", "KRV-214", "--name", "spare"});
+    EXPECT_EQ(third.Port(), folder.Path("ports/spare"));
+    PortClient client(first.Port());
+    EXPECT_TRUE(client.IsOpen()) << "the first goes on";
+}
+
+TEST(RadioProgram, PutsItsLinkIntoTheProgramsFolderByItself) {
+    const TempFolder folder;
+    const pid_t child = fork();
+    if (child == 0) {
+        setenv("HOME", folder.Path().c_str(), 1);
+        dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
+        execl(ZELK_RADIO, ZELK_RADIO, "--model", "KRV-305", static_cast<char*>(nullptr));
+        _exit(127);
+    }
+    const auto deadline = Clock::now() + 5s;
+    while (!fs::is_symlink(folder.Path(".zelk/ports/KRV-305")) && Clock::now() < deadline)
+        std::this_thread::sleep_for(5ms);
+    EXPECT_TRUE(fs::is_symlink(folder.Path(".zelk/ports/KRV-305")));
+    kill(child, SIGTERM);
+    waitpid(child, nullptr, 0);
+}
+
+TEST(RadioProgram, KeepsItsMemoriesOverARestart) {
+    const TempFolder folder;
+    const std::vector<std::string> arguments = {"--model", "KDRV-4xxx:FM 138-174", "--banner",
+                                                "",        "--memories",           folder.Path("radio.txt")};
+    {
+        RadioProcess radio(folder, arguments);
+        PortClient client(radio.Port());
+        client.Send("dl\r");
+        EXPECT_TRUE(IsTaken(client, VhfLine("001")));
+        EXPECT_TRUE(IsTaken(client, VhfLine("044"))) << "and the transfer is never completed";
+        EXPECT_EQ(radio.End(SIGTERM), 0);
+    }
+    RadioProcess radio(folder, arguments);
+    PortClient client(radio.Port());
+    client.Send("ul\r");
+    EXPECT_EQ(client.ReadUntil("300\r"), VhfLine("001") + "\r" + VhfLine("044") + "\r300\r");
+}
+
+TEST(RadioProgram, DoesNotStartWithAMemoryFileThatItCannotHold) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KRV-214", "--memories", FileOf(folder, "nonsense\n")});
+    EXPECT_EQ(radio.WaitForEnd(), 1);
+    EXPECT_NE(radio.Output().find("radio.txt:1: length is 8"), std::string::npos) << radio.Output();
+    EXPECT_EQ(FileText(folder.Path("radio.txt")), "nonsense\n");
+}
+
+TEST(RadioProgram, EndsAfterOneCompletedTransferIfAskedTo) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KRV-214", "--once", "--log", folder.Path("log")});
+    PortClient(radio.Port()).Send("rt\r4\r");
+    ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed"));
+    EXPECT_EQ(radio.WaitForEnd(200ms), -1) << "that was no transfer";
+    {
+        PortClient client(radio.Port());
+        client.Send("rt\r4\rul\r ");
+        client.ReadUntil("300\r");
+        EXPECT_EQ(radio.WaitForEnd(200ms), -1) << "the port is still open";
+    }
+    EXPECT_EQ(radio.WaitForEnd(), 0);
+}
+
+TEST(RadioProgram, AnswersListAndHelp) {
+    const TempFolder folder;
+    RadioProcess list(folder, {"--list"});
+    EXPECT_EQ(list.WaitForEnd(), 0);
+    EXPECT_NE(list.Output().find("KRV-656      FM 66-88"), std::string::npos) << list.Output();
+    RadioProcess help(folder, {"--help"});
+    EXPECT_EQ(help.WaitForEnd(), 0);
+    EXPECT_NE(help.Output().find("--guard-names"), std::string::npos) << help.Output();
+    RadioProcess wrong(folder, {"--modle", "KRV-214"});
+    EXPECT_EQ(wrong.WaitForEnd(), 2);
+}
+
+TEST(RadioLog, HoldsBothDirectionsWithTheirTimes) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KRV-214", "--banner", "HELLO", "--log", folder.Path("log")});
+    {
+        PortClient client(radio.Port());
+        client.Send("rt\r4\rdl\r");
+        EXPECT_TRUE(IsTaken(client, VhfLine("001")));
+        client.Send("bad\x01\r" + EndLine("300") + "rt\r4\rul\r ");
+        client.ReadUntil("300\r");
+    }
+    ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed"));
+    const std::string log = FileText(folder.Path("log"));
+    for (const std::string& entry :
+         {std::string("- port opened"), std::string("< rt"), std::string("< 4"), std::string("< dl"),
+          "< " + VhfLine("001"), std::string("> \\x05"), std::string("< bad\\x01"),
+          std::string("? refused \"bad\\x01\": length is 4, not 76"), "< 300" + std::string(74, ' '),
+          std::string("> HELLO"), "> " + VhfLine("001"), std::string("> 300")})
+        EXPECT_NE(log.find(" " + entry + "\n"), std::string::npos) << entry << "\nin\n" << log;
+    long last = 0;
+    std::istringstream lines(log);
+    for (std::string line; std::getline(lines, line);) {
+        const long time = std::stol(line);
+        EXPECT_GE(time, last) << line;
+        last = time;
+    }
+    EXPECT_NE(radio.Output().find("zelk-radio: refused"), std::string::npos)
+        << "and the person watching is told";
+}
+
+} // namespace

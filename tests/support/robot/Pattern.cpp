@@ -1,0 +1,21 @@
+#include "tests/support/robot/Pattern.h"
+
+#include <stdexcept>
+
+#include <wx/regex.h>
+
+namespace testbench {
+
+bool Finds(const std::string& expression, const std::string& text) {
+    const wxRegEx pattern(wxString::FromUTF8(expression), wxRE_ADVANCED);
+    if (!pattern.IsValid()) {
+        throw std::runtime_error("no regular expression: " + expression);
+    }
+    return pattern.Matches(wxString::FromUTF8(text));
+}
+
+bool MatchesWhole(const std::string& expression, const std::string& text) {
+    return Finds("^(?:" + expression + ")$", text);
+}
+
+} // namespace testbench

@@ -1,0 +1,224 @@
+// The window that shows a transfer.
+#include "transfer/ProgressFrame.h"
+
+#include "tests/support/Keys.h"
+#include "tests/support/robot/Pump.h"
+#include "tests/support/robot/ScreenSpots.h"
+#include "tests/transfer/WindowEnd.h"
+#include "transfer/ProgressDialog.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <wx/button.h>
+#include <wx/display.h>
+#include <wx/gauge.h>
+#include <wx/memconf.h>
+#include <wx/sizer.h>
+#include <wx/statline.h>
+#include <wx/stattext.h>
+
+using namespace testbench;
+
+namespace {
+
+wxWindow* Child(const wxWindow& parent, const wxClassInfo* kind) {
+    for (wxWindow* child : parent.GetChildren()) {
+        if (child->IsKindOf(kind))
+            return child;
+    }
+    return nullptr;
+}
+
+class ProgressFrameTest : public ::testing::Test {
+protected:
+    // Nothing is known of a former window's place at first.
+    ProgressFrameTest() : m_formerConfig(wxConfigBase::Set(new wxMemoryConfig)) {}
+
+    ~ProgressFrameTest() override {
+        if (m_frame)
+            DestroyFrame();
+        delete wxConfigBase::Set(m_formerConfig);
+    }
+
+    ProgressFrame& MakeFrame(wxWindow* parent = nullptr) {
+        m_frame = new ProgressFrame(parent, wxID_ANY, "Send to RP25 Radio Progress");
+        return *m_frame;
+    }
+
+    void DestroyFrame() {
+        DestroyAndWait(m_frame);
+        m_frame = nullptr;
+    }
+
+    wxString Label() const {
+        return dynamic_cast<wxStaticText&>(*Child(*m_frame, wxCLASSINFO(wxStaticText))).GetLabelText();
+    }
+    wxButton& CancelButton() const {
+        return dynamic_cast<wxButton&>(*Child(*m_frame, wxCLASSINFO(wxButton)));
+    }
+
+    ProgressFrame* m_frame = nullptr;
+    wxConfigBase* m_formerConfig;
+};
+
+void ExpectItem(const wxSizerItem* item, int proportion, int flags, const char* name) {
+    ASSERT_NE(item, nullptr) << name;
+    EXPECT_EQ(item->GetProportion(), proportion) << name;
+    EXPECT_EQ(item->GetFlag() & (wxEXPAND | wxALL), flags) << name;
+    EXPECT_EQ(item->GetBorder(), 5) << name;
+}
+
+TEST_F(ProgressFrameTest, LaysOutLabelGaugeLineAndARowOfGaugeAndCancel) {
+    const ProgressFrame& frame = MakeFrame();
+    auto* column = dynamic_cast<wxBoxSizer*>(frame.GetSizer());
+    ASSERT_NE(column, nullptr);
+    EXPECT_EQ(column->GetOrientation(), wxVERTICAL);
+    ASSERT_EQ(column->GetItemCount(), 4u);
+    ExpectItem(column->GetItem(size_t(0)), 0, wxEXPAND | wxALL, "label");
+    ExpectItem(column->GetItem(size_t(1)), 0, wxEXPAND | wxALL, "main gauge");
+    ExpectItem(column->GetItem(size_t(2)), 0, wxEXPAND | wxALL, "line");
+    ExpectItem(column->GetItem(size_t(3)), 1, wxEXPAND | wxALL, "row");
+    EXPECT_NE(dynamic_cast<wxStaticText*>(column->GetItem(size_t(0))->GetWindow()), nullptr);
+    EXPECT_EQ(column->GetItem(size_t(1))->GetWindow(), frame.MainGauge());
+    EXPECT_NE(dynamic_cast<wxStaticLine*>(column->GetItem(size_t(2))->GetWindow()), nullptr);
+
+    auto* row = dynamic_cast<wxBoxSizer*>(column->GetItem(size_t(3))->GetSizer());
+    ASSERT_NE(row, nullptr);
+    EXPECT_EQ(row->GetOrientation(), wxHORIZONTAL);
+    ASSERT_EQ(row->GetItemCount(), 2u);
+    ExpectItem(row->GetItem(size_t(0)), 1, wxEXPAND | wxALL, "pulse gauge");
+    ExpectItem(row->GetItem(size_t(1)), 0, wxALL, "Cancel");
+    EXPECT_EQ(row->GetItem(size_t(0))->GetWindow(), frame.PulseGauge());
+    EXPECT_EQ(row->GetItem(size_t(1))->GetWindow(), &CancelButton());
+    EXPECT_EQ(CancelButton().GetLabel(), "Cancel");
+}
+
+TEST_F(ProgressFrameTest, GaugesAreHorizontalOfRange100AndBeginAt10) {
+    const ProgressFrame& frame = MakeFrame();
+    EXPECT_NE(frame.MainGauge(), frame.PulseGauge());
+    for (const wxGauge* gauge : {frame.MainGauge(), frame.PulseGauge()}) {
+        EXPECT_EQ(gauge->GetRange(), 100);
+        EXPECT_EQ(gauge->GetValue(), 10);
+        EXPECT_FALSE(gauge->IsVertical());
+    }
+}
+
+TEST_F(ProgressFrameTest, HasItsNameTitleAndAFrameWithoutACloseBox) {
+    const ProgressFrame& frame = MakeFrame();
+    EXPECT_EQ(frame.GetName(), "ProgressFrame");
+    EXPECT_EQ(frame.GetTitle(), "Send to RP25 Radio Progress");
+    EXPECT_TRUE(frame.HasFlag(wxCAPTION));
+    EXPECT_TRUE(frame.HasFlag(wxRESIZE_BORDER));
+    EXPECT_FALSE(frame.HasFlag(wxCLOSE_BOX));
+    EXPECT_FALSE(frame.Cancelled);
+}
+
+TEST_F(ProgressFrameTest, FitsItsContents) {
+    const ProgressFrame& frame = MakeFrame();
+    EXPECT_EQ(frame.GetClientSize(), frame.GetSizer()->GetMinSize());
+}
+
+TEST_F(ProgressFrameTest, ShowsTheStatusAndWhatIsAppendedToIt) {
+    ProgressFrame& frame = MakeFrame();
+    EXPECT_EQ(Label(), "");
+    frame.SetStatus("Sending Memory Data");
+    EXPECT_EQ(Label(), "Sending Memory Data");
+    frame.AppendStatus("....");
+    frame.AppendStatus(" A & B");
+    EXPECT_EQ(Label(), "Sending Memory Data.... A & B");
+    frame.SetStatus("Done");
+    EXPECT_EQ(Label(), "Done");
+    frame.AppendStatus("!");
+    EXPECT_EQ(Label(), "Done!");
+}
+
+TEST_F(ProgressFrameTest, StandsInTheMiddleOfItsParentOrElseOfTheScreen) {
+    auto* parent = new wxFrame(nullptr, wxID_ANY, "Parent", wxPoint(100, 80), wxSize(700, 500));
+    ShowAndFocus(*parent);
+    // Rounding and the window manager's decorations may move it by some pixels.
+    const auto near = [](const wxRect& inner, const wxRect& outer) {
+        const wxPoint a = inner.GetPosition() + inner.GetSize() / 2;
+        const wxPoint b = outer.GetPosition() + outer.GetSize() / 2;
+        return std::abs(a.x - b.x) <= 30 && std::abs(a.y - b.y) <= 30;
+    };
+    const wxRect overParent = MakeFrame(parent).GetRect();
+    EXPECT_TRUE(near(overParent, parent->GetRect())) << overParent.x << "," << overParent.y;
+    DestroyFrame();
+    wxConfigBase::Get()->DeleteAll();
+    DestroyAndWait(parent);
+    const wxRect alone = MakeFrame().GetRect();
+    EXPECT_TRUE(near(alone, wxDisplay(0u).GetGeometry())) << alone.x << "," << alone.y;
+}
+
+TEST_F(ProgressFrameTest, KeepsItsSizeAndPlaceForTheNextOne) {
+    ProgressFrame& first = MakeFrame();
+    first.Show();
+    PumpUntilIdle();
+    first.SetSize(150, 120, 420, 260);
+    ASSERT_TRUE(PumpUntil([&] { return first.GetClientSize().x >= 380; }));
+    PumpFor(100);
+    const wxRect kept = first.GetRect();
+    DestroyFrame();
+    ProgressFrame& second = MakeFrame();
+    second.Show();
+    EXPECT_TRUE(PumpUntil([&] { return second.GetSize() == kept.GetSize(); }))
+        << second.GetSize().x << " by " << second.GetSize().y;
+    EXPECT_TRUE(PumpUntil([&] { return second.GetPosition() == kept.GetPosition(); }))
+        << second.GetPosition().x << "," << second.GetPosition().y;
+}
+
+TEST_F(ProgressFrameTest, DisablesAllOtherWindowsWhileItLives) {
+    auto* other = new wxFrame(nullptr, wxID_ANY, "Other");
+    other->Show();
+    ProgressFrame& frame = MakeFrame(other);
+    EXPECT_FALSE(other->IsEnabled());
+    EXPECT_TRUE(frame.IsEnabled());
+    DestroyFrame();
+    EXPECT_TRUE(other->IsEnabled());
+    DestroyAndWait(other);
+}
+
+TEST_F(ProgressFrameTest, AClickOnCancelSetsTheFlagAndPassesTheEventOn) {
+    ProgressFrame& frame = MakeFrame();
+    int passedOn = 0;
+    frame.Bind(wxEVT_BUTTON, [&](wxCommandEvent&) { ++passedOn; });
+    ShowAndFocus(frame);
+    ClickAt(MiddleOf(CancelButton()));
+    EXPECT_TRUE(PumpUntil([&] { return frame.Cancelled; }));
+    EXPECT_EQ(passedOn, 1);
+}
+
+TEST_F(ProgressFrameTest, CloseByTheWindowManagerCountsAsCancelAndLeavesTheWindow) {
+    ProgressFrame& frame = MakeFrame();
+    ShowAndFocus(frame);
+    PressKey("Alt+F4");
+    EXPECT_TRUE(PumpUntil([&] { return frame.Cancelled; }));
+    PumpUntilIdle();
+    EXPECT_FALSE(frame.IsBeingDeleted());
+    EXPECT_TRUE(frame.IsShown());
+}
+
+TEST_F(ProgressFrameTest, ACloseThatCannotBeRefusedLeavesTheWindowToItsTransfer) {
+    ProgressFrame& frame = MakeFrame();
+    frame.Show();
+    frame.Close(true);
+    PumpUntilIdle();
+    EXPECT_TRUE(frame.Cancelled);
+    EXPECT_FALSE(frame.IsBeingDeleted());
+}
+
+TEST(ProgressDialogTest, HoldsOneGaugeOfRange100At0) {
+    auto* dialog = new ProgressDialog(nullptr, wxID_ANY, "Progress");
+    EXPECT_EQ(dialog->GetTitle(), "Progress");
+    const auto* gauge = dynamic_cast<wxGauge*>(Child(*dialog, wxCLASSINFO(wxGauge)));
+    ASSERT_NE(gauge, nullptr);
+    EXPECT_EQ(dialog->GetChildren().GetCount(), 1u);
+    EXPECT_EQ(gauge->GetRange(), 100);
+    EXPECT_EQ(gauge->GetValue(), 0);
+    EXPECT_FALSE(gauge->IsVertical());
+    ASSERT_EQ(dialog->GetSizer()->GetItemCount(), 1u);
+    ExpectItem(dialog->GetSizer()->GetItem(size_t(0)), 0, wxALL, "gauge");
+    DestroyAndWait(dialog);
+}
+
+} // namespace

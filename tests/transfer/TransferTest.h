@@ -1,0 +1,181 @@
+// A window test that transfers: pages with rows to send, and what is left when a transfer is over.
+#pragma once
+
+#include "tests/support/Modals.h"
+#include "tests/support/ZelkWindowTest.h"
+#include "transfer/ProgressFrame.h"
+#include "transfer/wxAsyncSerial.h"
+
+#include <filesystem>
+#include <fstream>
+#include <initializer_list>
+#include <sstream>
+#include <string>
+#include <utility>
+#include <wx/button.h>
+#include <wx/memconf.h>
+#include <wx/stdpaths.h>
+
+namespace transfertest {
+
+/// Radio indices, for the pages of the tests.
+enum Radio : int {
+    Krv21 = 0,
+    Krv47 = 1,
+    Orv12 = 2,
+    Krv214 = 3,
+    Krv214B = 4,
+    Krv305 = 5,
+    Kdrv716 = 6,
+    Kdar2000 = 8,
+    Krv610 = 9,
+    Krv650 = 13,
+    Kdrv8400 = 16,
+    Kdrv4xxx = 17,
+    AskingRadio = 18, ///< no radio of the catalogue: the one that is asked for its information block
+};
+
+constexpr const char* NoSuchPort = "/dev/no-such-port";
+
+inline std::string Text(const wxString& text) {
+    return text.utf8_string();
+}
+
+/// The progress window that is open, or null.
+inline ProgressFrame* OpenProgress() {
+    for (wxWindow* window : wxTopLevelWindows)
+        if (auto* progress = dynamic_cast<ProgressFrame*>(window))
+            return progress;
+    return nullptr;
+}
+
+/// Leaves a click on Cancel in the event queue. May be called from any thread while the transfer runs.
+inline void ClickCancel(const ProgressFrame& progress) {
+    for (wxWindow* child : progress.GetChildren())
+        if (auto* button = dynamic_cast<wxButton*>(child))
+            button->GetEventHandler()->QueueEvent(new wxCommandEvent(wxEVT_BUTTON, button->GetId()));
+}
+
+/// A ZelkWindowTest without a log, without a port, and without a former place of the progress window.
+class TransferTest : public ZelkWindowTest {
+protected:
+    TransferTest() : m_formerConfig(wxConfigBase::Set(new wxMemoryConfig)) {}
+    ~TransferTest() override { delete wxConfigBase::Set(m_formerConfig); }
+
+    void SetUp() override {
+        ZelkWindowTest::SetUp();
+        std::filesystem::remove(LogPath());
+        wxAsyncSerial::GetData();
+    }
+
+    void TearDown() override {
+        std::filesystem::remove(LogPath());
+        ZelkWindowTest::TearDown();
+    }
+
+    static std::filesystem::path LogPath() {
+        return std::filesystem::path(Text(wxStandardPaths::Get().GetUserDataDir())) / "Zelk.log";
+    }
+
+    /// Asks for a log as a user does.
+    static void AskForLog() {
+        std::filesystem::create_directories(LogPath().parent_path());
+        std::ofstream(LogPath()) << "former text\n";
+    }
+
+    static std::string LogText() {
+        std::ostringstream text;
+        text << std::ifstream(LogPath()).rdbuf();
+        return text.str();
+    }
+
+    /// A memory as a person makes it; the frequencies in MHz.
+    static void FillRow(int row, const wxString& frequency, const wxString& description = "HILL") {
+        const std::pair<int, wxString> cells[] = {
+            {MNUM, wxString::Format("%03d", row)},
+            {SCAN, "5"},
+            {DESC, description},
+            {MODE, "W"},
+            {RFRQ, frequency},
+            {RTON, "67.0"},
+            {RCOD, "023"},
+            {TFRQ, frequency},
+            {TTON, "250.3"},
+            {TCOD, "754"},
+            {TFLG, TflgMade},
+        };
+        for (const auto& [column, text] : cells)
+            SetCell(row, column, text);
+    }
+
+    static void Select(std::initializer_list<int> rows) {
+        CurrentGrid()->ClearSelection();
+        for (const int row : rows)
+            CurrentGrid()->SelectRow(row, true);
+    }
+
+    static std::string CellText(int row, int column) { return Text(Cell(row, column)); }
+
+    /// All cells of the memory rows in one text.
+    static std::string PageText() {
+        std::string all;
+        for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
+            for (const wxString& text : GetRowValues(CurrentPage, row))
+                all += Text(text) + "|";
+        return all;
+    }
+
+    /// Memory rows that hold anything.
+    static int FilledRows() {
+        int filled = 0;
+        for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
+            filled += RowHasData(row);
+        return filled;
+    }
+
+    /// What every transfer must leave: a window that can be used, and nothing of its own.
+    static void ExpectOver() {
+        EXPECT_EQ(OpenProgress(), nullptr) << "the progress window is still there";
+        EXPECT_TRUE(MainFrame->IsEnabled()) << "the main window is still disabled";
+    }
+
+    /// Whether the port could be opened again now.
+    static bool PortIsFree(const std::string& port) {
+        const wxAsyncSerial again(nullptr, port, 9600);
+        return again.isOpen();
+    }
+
+    static void Upload() {
+        wxCommandEvent event;
+        MainFrame->OnUpload(event);
+    }
+
+    static void Download() {
+        wxCommandEvent event;
+        MainFrame->OnDownload(event);
+    }
+
+    /// Expects the question before a read.
+    static testbench::ExpectedDialog& ExpectQuestion(testbench::DialogScript& script, int answer = wxID_OK) {
+        return script
+            .ExpectMessage("Read Channel Data from Radio?",
+                           "This will overwrite any data on this page! Continue?", answer)
+            .Style(wxOK | wxCANCEL);
+    }
+
+    /// Expects a box of one button; the toolkit adds the icon where none was asked for.
+    static testbench::ExpectedDialog& ExpectBox(testbench::DialogScript& script, const char* caption,
+                                                const char* message) {
+        return script.ExpectMessage(caption, message).Style(wxOK | wxCENTRE | wxICON_INFORMATION);
+    }
+
+    /// Expects the box with which a driver reports a failure.
+    static testbench::ExpectedDialog& ExpectDriverBox(testbench::DialogScript& script, const char* message) {
+        return script.ExpectMessage("Error", message).Style(wxOK | wxICON_ERROR);
+    }
+
+private:
+    wxConfigBase* m_formerConfig;
+};
+
+} // namespace transfertest

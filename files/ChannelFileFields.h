@@ -1,9 +1,7 @@
 // The elements of a channel file.
 #pragma once
 
-#include "catalogue/ColumnTables.h"
-#include "catalogue/MemoryRow.h"
-#include "catalogue/RadioTables.h"
+#include "catalogue/RadioCatalogue.h"
 
 #include <array>
 
@@ -97,16 +95,11 @@ inline constexpr std::array<CellElement, CellTotal> CellElements{{
     {{"RY", "RONL"}, RONL, Written::Kdar, Read::Kdar},
 }};
 
-/// True for a P25 radio type.
-constexpr bool IsP25(int type) {
-    return type == RadioCatalogue::RP25 || type == RadioCatalogue::NP25;
-}
-
 /// True when the cell belongs into the file of a page of the radio type (0 to 7).
 constexpr bool IsWritten(const CellElement& cell, int type) {
     switch (cell.written) {
     case Written::P25:
-        return IsP25(type);
+        return RadioCatalogue::IsP25Type(type);
     case Written::Kdar:
         return type == RadioCatalogue::KDAR;
     case Written::Shown:
@@ -119,7 +112,7 @@ constexpr bool IsWritten(const CellElement& cell, int type) {
 constexpr bool IsRead(const CellElement& cell, int type) {
     switch (cell.read) {
     case Read::P25:
-        return IsP25(type);
+        return RadioCatalogue::IsP25Type(type);
     case Read::NP25:
         return type == RadioCatalogue::NP25;
     case Read::Mdlx:

@@ -20,6 +20,9 @@ namespace {
 /// MFLG bits that tell a primary or a shadow.
 constexpr int ShadowBits = ShadowIndexMask | ShadowLinkFlag;
 
+/// No cell needs a longer text, and drawing one would take seconds.
+constexpr size_t LongestCellText = 256;
+
 /// The node itself or the first element behind it; comments and stray texts are no elements.
 const wxXmlNode* ElementFrom(const wxXmlNode* node) {
     while (node && node->GetType() != wxXML_ELEMENT_NODE)
@@ -42,14 +45,15 @@ int TypeOf(const wxString& text, int radio, int band) {
     if (text.empty())
         return native;
     const int type = RadioCatalogue::FindRadioType(text);
-    return IsP25(type) == IsP25(native) ? type : -1;
+    return RadioCatalogue::IsP25Type(type) == RadioCatalogue::IsP25Type(native) ? type : -1;
 }
 
 /// Reads memory elements into rows.
 class MemoryReader {
 public:
     explicit MemoryReader(int page)
-        : m_grid(PageGrid[page]), m_parameters(PageParameters[page]), m_p25(IsP25(m_parameters.Type)),
+        : m_grid(PageGrid[page]), m_parameters(PageParameters[page]),
+          m_p25(RadioCatalogue::IsP25Type(m_parameters.Type)),
           m_hasZone(static_cast<size_t>(m_parameters.Rows) + 1) {
         for (size_t i = 0; i < CellTotal; ++i) {
             m_names[i] = CellElements[i].names.name;
@@ -73,7 +77,7 @@ public:
             if (found == CellTotal || !IsRead(CellElements[found], m_parameters.Type))
                 continue;
             expected = found + 1;
-            TakeCell(CellElements[found].column, child->GetNodeContent());
+            TakeCell(CellElements[found].column, child->GetNodeContent().Left(LongestCellText));
         }
         // Meant: without ZoneTakenFlag, though the row's slot is counted.
         m_grid->SetCellValue(m_row, TFLG, TflgMade);

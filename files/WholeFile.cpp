@@ -23,6 +23,11 @@ wxString LastProblem() {
     return TextOf({errno, std::generic_category()});
 }
 
+/// A path as the toolkit takes it, whatever the locale.
+wxString NameOf(const fs::path& path) {
+    return {path.c_str(), *wxConvFileName};
+}
+
 /// The file that a chain of links names, whether it exists or not.
 fs::path FollowLinks(fs::path path) {
     std::error_code error;
@@ -35,12 +40,14 @@ fs::path FollowLinks(fs::path path) {
 wxString WhyNotReplaceable(const fs::path& path) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
+    if (error && status.type() != fs::file_type::not_found)
+        return TextOf(error);
     if (!fs::exists(status))
         return {};
     if (!fs::is_regular_file(status))
         return TextOf(std::make_error_code(fs::is_directory(status) ? std::errc::is_a_directory
                                                                     : std::errc::operation_not_supported));
-    if (!wxFileName::IsFileWritable(path.c_str()))
+    if (!wxFileName::IsFileWritable(NameOf(path)))
         return LastProblem();
     return {};
 }
@@ -51,7 +58,7 @@ fs::path CreateBeside(const fs::path& path, wxFile& file) {
     for (int n = 0; n < MostNames; ++n) {
         name = path;
         name += ".new" + std::to_string(n);
-        if (file.Create(name.c_str(), false) || errno != EEXIST)
+        if (file.Create(NameOf(name), false) || errno != EEXIST)
             break;
     }
     return name;
@@ -61,7 +68,7 @@ fs::path CreateBeside(const fs::path& path, wxFile& file) {
 
 wxString WriteWholeFile(const wxString& path, std::string_view bytes) {
     const wxLogNull quiet;
-    const fs::path target = FollowLinks(path.fn_str().data());
+    const fs::path target = FollowLinks(fs::path(path.fn_str().data()));
     const wxString refusal = WhyNotReplaceable(target);
     if (!refusal.empty())
         return refusal;

@@ -49,10 +49,10 @@ bool TakeName(Options& options, const std::string& value, std::string& trouble) 
 }
 
 bool TakeParity(Options& options, const std::string& value, std::string& trouble) {
-    if (value.empty() || value == "text")
-        options.habits.parity = Parity::Text;
-    else if (value == "all")
+    if (value.empty() || value == "all")
         options.habits.parity = Parity::All;
+    else if (value == "text")
+        options.habits.parity = Parity::Text;
     else {
         trouble = "--parity is \"text\" or \"all\", not \"" + value + "\"";
         return false;

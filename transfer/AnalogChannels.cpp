@@ -4,6 +4,7 @@
 #include "editing/ZelkEdit.h"
 #include "transfer/AnalogDriver.h"
 #include "transfer/AnalogExchanges.h"
+#include "transfer/AnalogLine.h"
 #include "transfer/AnalogRecord.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
@@ -120,6 +121,8 @@ int ReadChannels(TransferContext& context, wxGrid* grid) {
         if (status == TransferTimeout)
             break;
         TakeReceivedLine(context);
+        // With their parity bits left on, neither the first channel nor the end could be told.
+        context.RxLine = StripParity(context.RxLine).Trim(false);
         if (!started && !CutToFirstChannel(context.RxLine))
             continue;
         started = true;

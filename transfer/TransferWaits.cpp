@@ -6,6 +6,7 @@
 #include "transfer/TransferStatus.h"
 #include "transfer/wxAsyncSerial.h"
 
+#include <chrono>
 #include <wx/evtloop.h>
 #include <wx/gauge.h>
 
@@ -58,7 +59,9 @@ void Delay(TransferContext& context, int ms, bool cancelTest) {
     if (ms == 0)
         return;
     StartClock(context);
-    do {
-        ReadClock(context);
-    } while (context.Elapsed < ms && !(cancelTest && context.Progress->Cancelled));
+    // The toolkit's clock counts whole milliseconds: of a pause of 2 it would leave out up to one.
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
+    while (std::chrono::steady_clock::now() < end && !(cancelTest && context.Progress->Cancelled)) {
+    }
+    ReadClock(context);
 }

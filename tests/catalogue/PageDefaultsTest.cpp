@@ -117,3 +117,9 @@ TEST_F(PageDefaults, ReplaceWhatTheDefaultRowHeld) {
     EXPECT_EQ("", Cell(0, RSQL));
     EXPECT_EQ("A0", Cell(0, TFLG));
 }
+
+TEST_F(PageDefaults, LockTheNumberOfTheDefaultRow) {
+    CurrentGrid()->SetReadOnly(0, MNUM, false);
+    SetPageDefaults(MainFrame, CurrentPage);
+    EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
+}

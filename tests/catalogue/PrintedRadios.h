@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <initializer_list>
 #include <vector>
 
 namespace printed {

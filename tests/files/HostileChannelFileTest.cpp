@@ -172,6 +172,7 @@ TEST_F(HostileChannelFile, WithLongTextsInCellsIsShownInLittleTime) {
                                     Repeat("\ny", 60) + "</RF>");
     const double start = ProcessorSeconds();
     ASSERT_EQ(0, Open(FileOf("ANFM", memories)));
+    EXPECT_EQ(std::string(256, 'W'), Text(1, DESC));
     CurrentGrid()->ForceRefresh();
     MainFrame->Update();
     wxYield();

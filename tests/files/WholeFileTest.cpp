@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -49,6 +50,27 @@ public:
 private:
     rlimit m_before{};
     void (*m_signal)(int);
+};
+
+/// Has no more rights than any user while it lives, also when the tests run as root.
+class AsAnyUser {
+public:
+    AsAnyUser() {
+        if (m_root)
+            m_changed = setresuid(AnyUser, AnyUser, 0) == 0;
+    }
+    ~AsAnyUser() {
+        if (m_changed) {
+            EXPECT_EQ(0, setresuid(0, 0, 0));
+        }
+    }
+    AsAnyUser(const AsAnyUser&) = delete;
+    AsAnyUser& operator=(const AsAnyUser&) = delete;
+
+private:
+    static constexpr uid_t AnyUser = 65534;
+    bool m_root = getuid() == 0;
+    bool m_changed = false;
 };
 
 } // namespace
@@ -141,6 +163,37 @@ TEST_F(WholeFile, IsNotMadeWhereAPipeStands) {
     ASSERT_EQ(0, mkfifo((m_folder / "a").c_str(), 0600));
     EXPECT_NE("", Write(m_folder / "a", "new"));
     EXPECT_TRUE(fs::is_fifo(m_folder / "a"));
+}
+
+TEST_F(WholeFile, IsNotReplacedWhenTheUserMayNotWriteIt) {
+    testbench::WriteFile(m_folder / "a", "old");
+    ASSERT_EQ(0, chmod((m_folder / "a").c_str(), 0444));
+    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0777));
+    std::string problem;
+    {
+        const AsAnyUser user;
+        problem = Write(m_folder / "a", "new");
+    }
+    EXPECT_EQ("Permission denied", problem);
+    EXPECT_EQ("old", testbench::ReadFile(m_folder / "a"));
+    EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
+}
+
+TEST_F(WholeFile, IsNotMadeInAFolderThatTheUserMayNotWriteTo) {
+    testbench::WriteFile(m_folder / "a", "old");
+    ASSERT_EQ(0, chmod((m_folder / "a").c_str(), 0666));
+    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0555));
+    for (const char* name : {"a", "b"}) {
+        std::string problem;
+        {
+            const AsAnyUser user;
+            problem = Write(m_folder / name, "new");
+        }
+        EXPECT_EQ("Permission denied", problem) << name;
+    }
+    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0755));
+    EXPECT_EQ("old", testbench::ReadFile(m_folder / "a"));
+    EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
 }
 
 TEST_F(WholeFile, IsNotMadeInAFolderThatIsMissing) {

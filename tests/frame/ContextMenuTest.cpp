@@ -51,7 +51,10 @@ protected:
     }
 
     static Ids MenuAt(const std::function<wxPoint()>& spot) {
-        return MenuOf([&spot](Robot& robot) { robot.Click(robot.Ask(spot), 3); });
+        // Two clicks at one place would make a double click, which asks for no menu.
+        static int aside = 7;
+        aside = -aside;
+        return MenuOf([&spot](Robot& robot) { robot.Click(robot.Ask(spot) + wxPoint(aside, 0), 3); });
     }
 
     static Ids MenuOfRow(int row) {

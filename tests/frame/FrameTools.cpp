@@ -4,14 +4,35 @@
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
 #include "tests/support/Keys.h"
+#include "tests/support/robot/Robot.h"
 
 #include <gtest/gtest.h>
 
+#include <wx/app.h>
 #include <wx/button.h>
 #include <wx/grid.h>
+#include <wx/image.h>
 #include <wx/menu.h>
 
 namespace testbench {
+
+namespace {
+
+/// What the application does before it makes its window: without it the tools have no images.
+class ImageHandlers : public ::testing::Environment {
+    void SetUp() override { wxInitAllImageHandlers(); }
+};
+
+const auto* const imageHandlers = ::testing::AddGlobalTestEnvironment(new ImageHandlers);
+
+} // namespace
+
+bool IsGone(const wxWindowRef& window) {
+    return PumpUntil([&window] {
+        wxTheApp->ProcessPendingEvents();
+        return !window;
+    });
+}
 
 void RunCommand(int id) {
     wxMenu* menu = nullptr;
@@ -20,11 +41,27 @@ void RunCommand(int id) {
     PumpUntilIdle();
 }
 
+namespace {
+
+Robot& Person() {
+    static Robot robot(1);
+    return robot;
+}
+
+} // namespace
+
 void ClickButton(wxDialog* dialog, int id) {
     wxWindow* button = dialog->FindWindow(id);
     ASSERT_NE(button, nullptr) << "no button " << id;
-    const wxSize size = button->GetClientSize();
-    ClickAt(*button, wxPoint(size.x / 2, size.y / 2));
+    // A click is lost on a dialog that doesn't stand yet, or on a button that is about to wake up.
+    EXPECT_TRUE(PumpUntil([dialog] { return Person().FocusedTitle() == dialog->GetTitle().utf8_string(); }));
+    PumpUntilIdle();
+    Person().Click(MiddleOf(*button));
+}
+
+void CancelWithKey(wxDialog* dialog) {
+    EXPECT_TRUE(PumpUntil([dialog] { return Person().FocusedTitle() == dialog->GetTitle().utf8_string(); }));
+    Person().Press("Escape");
 }
 
 void ChooseAndAccept(wxDialog* dialog, wxChoice* choice, int position) {

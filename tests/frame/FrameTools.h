@@ -3,6 +3,9 @@
 
 #include "tests/support/Modals.h"
 
+#include <wx/weakref.h>
+#include <wx/window.h>
+
 #include <string>
 #include <vector>
 
@@ -18,8 +21,15 @@ void RunCommand(int id);
 /// Chooses the entry at this position and clicks OK once it can be pressed.
 void ChooseAndAccept(wxDialog* dialog, wxChoice* choice, int position);
 
-/// Clicks a button of a dialog.
+/// Clicks a button of a modal dialog. The dialog takes the click after this has returned: it can end in
+/// its own event loop only.
 void ClickButton(wxDialog* dialog, int id);
+
+/// Presses Escape in a modal dialog, which takes it as it takes a click.
+void CancelWithKey(wxDialog* dialog);
+
+/// Waits until a window that was closed has been destroyed. False if that doesn't happen.
+bool IsGone(const wxWindowRef& window);
 
 /// Adds the radio dialog, in which the radio with this index is chosen.
 void ExpectRadio(DialogScript& dialogs, int radio);

@@ -230,10 +230,7 @@ TEST_F(Selecting, CancelledInEitherDialogLeavesThePageUntouched) {
     EXPECT_EQ(Target(), (Texts{"KRV-47", "FM 66-88", "kept"}));
 
     ExpectRadio(dialogs, 13);
-    dialogs.Expect(DialogKind::Other, bandTitle).Do([](wxDialog* dialog) {
-        PressKey("Escape");
-        (void)dialog;
-    });
+    dialogs.Expect(DialogKind::Other, bandTitle).Do([](wxDialog* dialog) { CancelWithKey(dialog); });
     EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -10);
     EXPECT_EQ(Target(), (Texts{"KRV-47", "FM 66-88", "kept"}));
     EXPECT_EQ(CurrentParameters().Flags, 0x02);

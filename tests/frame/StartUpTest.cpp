@@ -156,7 +156,7 @@ protected:
     }
 
     void TearDown() override {
-        EXPECT_TRUE(PumpUntil([this] { return !m_window; })) << "the window still stands";
+        EXPECT_TRUE(IsGone(m_window)) << "the window still stands";
         MainFrame = new ZelkFrame(nullptr);
         ZelkWindowTest::TearDown();
     }

@@ -78,8 +78,8 @@ TEST(CommandLine, WithoutOptionsPlaysAQuietRadioUnderItsName) {
     EXPECT_TRUE(options.habits.endLine);
 }
 
-TEST(CommandLine, ParityWithoutAValueSparesTheNumberField) {
-    EXPECT_EQ(Parsed({"--model", "KRV-214", "--parity"}).habits.parity, Parity::Text);
+TEST(CommandLine, ParityWithoutAValueIsOnAllCharacters) {
+    EXPECT_EQ(Parsed({"--model", "KRV-214", "--parity"}).habits.parity, Parity::All);
 }
 
 TEST(CommandLine, ListAndHelpNeedNoModel) {

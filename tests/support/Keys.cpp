@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <wx/event.h>
+#include <wx/eventfilter.h>
 #include <wx/grid.h>
 #include <wx/toplevel.h>
 
@@ -16,6 +18,34 @@ Hands& TheHands() {
     return hands;
 }
 
+/// Sees the ends of clicks and key presses come in: a window manager may hold an event back until it
+/// has focused the window, so a moment without events doesn't tell that all have come.
+class Arrivals : public wxEventFilter {
+public:
+    Arrivals() { wxEvtHandler::AddFilter(this); }
+    ~Arrivals() override { wxEvtHandler::RemoveFilter(this); }
+
+    int FilterEvent(wxEvent& event) override {
+        const wxEventType type = event.GetEventType();
+        if (type == wxEVT_LEFT_UP || type == wxEVT_MIDDLE_UP || type == wxEVT_RIGHT_UP) {
+            m_count++;
+        } else if (type == wxEVT_KEY_UP) {
+            const int key = static_cast<wxKeyEvent&>(event).GetKeyCode();
+            m_count += key != WXK_SHIFT && key != WXK_RAW_CONTROL && key != WXK_ALT ? 1 : 0;
+        }
+        return Event_Skip;
+    }
+
+    /// Native menus and dialogs keep their events to themselves: then time must do.
+    void Await(size_t count) {
+        PumpUntil([&] { return m_count >= count; }, 500);
+        PumpUntilIdle();
+    }
+
+private:
+    size_t m_count = 0;
+};
+
 } // namespace
 
 void ShowAndFocus(wxTopLevelWindow& window) {
@@ -28,13 +58,15 @@ void ShowAndFocus(wxTopLevelWindow& window) {
 }
 
 void TypeText(const std::string& text) {
+    Arrivals arrivals;
     TheHands().Type(text);
-    PumpUntilIdle();
+    arrivals.Await(text.size());
 }
 
 void PressKey(const std::string& chord) {
+    Arrivals arrivals;
     TheHands().Press(chord);
-    PumpUntilIdle();
+    arrivals.Await(1);
 }
 
 void ClickAt(const wxWindow& window, const wxPoint& client, int button) {
@@ -46,13 +78,15 @@ void DoubleClickAt(const wxWindow& window, const wxPoint& client, int button) {
 }
 
 void ClickAt(const wxPoint& screen, int button) {
+    Arrivals arrivals;
     TheHands().Click(screen, button);
-    PumpUntilIdle();
+    arrivals.Await(1);
 }
 
 void DoubleClickAt(const wxPoint& screen, int button) {
+    Arrivals arrivals;
     TheHands().DoubleClick(screen, button);
-    PumpUntilIdle();
+    arrivals.Await(2);
 }
 
 void TypeIntoCell(wxGrid& grid, int row, int column, const std::string& text) {

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <vector>
+#include <wx/textentry.h>
 
 using namespace testbench;
 using namespace transfertest;
@@ -166,8 +167,12 @@ TEST_F(ReadCommand, TakesTheTextOfAnOpenEditorFirst) {
     CurrentGrid()->SetGridCursor(1, DESC);
     CurrentGrid()->EnableCellEditControl();
     ASSERT_TRUE(CurrentGrid()->IsCellEditControlShown());
+    const wxObjectDataPtr<wxGridCellEditor> editor(CurrentGrid()->GetCellEditor(1, DESC));
+    auto* typed = dynamic_cast<wxTextEntry*>(editor->GetWindow());
+    ASSERT_NE(typed, nullptr);
+    typed->ChangeValue("LAKE");
     DialogScript script;
-    ExpectQuestion(script, wxID_CANCEL);
+    ExpectQuestion(script, wxID_CANCEL).Set([](wxDialog*) { EXPECT_EQ(CellText(1, DESC), "LAKE"); });
     Download();
     EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
 }

@@ -12,7 +12,6 @@
 #include <sstream>
 #include <string>
 #include <utility>
-#include <wx/button.h>
 #include <wx/memconf.h>
 #include <wx/stdpaths.h>
 
@@ -47,13 +46,6 @@ inline ProgressFrame* OpenProgress() {
         if (auto* progress = dynamic_cast<ProgressFrame*>(window))
             return progress;
     return nullptr;
-}
-
-/// Leaves a click on Cancel in the event queue. May be called from any thread while the transfer runs.
-inline void ClickCancel(const ProgressFrame& progress) {
-    for (wxWindow* child : progress.GetChildren())
-        if (auto* button = dynamic_cast<wxButton*>(child))
-            button->GetEventHandler()->QueueEvent(new wxCommandEvent(wxEVT_BUTTON, button->GetId()));
 }
 
 /// A ZelkWindowTest without a log, without a port, and without a former place of the progress window.

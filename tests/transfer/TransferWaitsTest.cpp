@@ -194,12 +194,14 @@ TEST_F(WaitForLineTest, WithoutAnActiveEventLoopDoesNotYield) {
 
 TEST_F(WaitForLineTest, PulsesEvery50MillisecondsWhateverItsFlagSays) {
     for (const bool pulse : {true, false}) {
-        m_context.LastPulse = 999;
-        EXPECT_EQ(WaitForLine(m_context, 30, '\r', pulse), 4);
-        EXPECT_EQ(m_context.LastPulse, 0) << "flag " << pulse;
-        EXPECT_EQ(WaitForLine(m_context, 480, '\r', pulse), 4);
-        EXPECT_GE(m_context.LastPulse, 400) << "flag " << pulse;
-        EXPECT_LE(m_context.LastPulse, m_context.Elapsed) << "flag " << pulse;
+        // A busy machine may stretch any pass, so only what holds at the end of each one is asked for.
+        for (const int timeout : {0, 70, 330}) {
+            m_context.LastPulse = -999;
+            EXPECT_EQ(WaitForLine(m_context, timeout, '\r', pulse), 4);
+            EXPECT_TRUE(m_context.LastPulse == 0 || m_context.LastPulse >= 50) << m_context.LastPulse;
+            EXPECT_LE(m_context.LastPulse, m_context.Elapsed) << "flag " << pulse;
+            EXPECT_LT(m_context.Elapsed - m_context.LastPulse, 50) << "flag " << pulse;
+        }
     }
 }
 

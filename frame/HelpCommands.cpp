@@ -1,6 +1,7 @@
 #include "frame/HelpCommands.h"
 
 #include "frame/ZelkMain.h"
+#include "resources/ToolImages.h"
 
 #include <wx/filefn.h>
 #include <wx/filename.h>
@@ -39,5 +40,8 @@ void ZelkFrame::OnHelp(wxCommandEvent&) {
 }
 
 void ZelkFrame::OnAbout(wxCommandEvent&) {
-    wxAboutBox(MakeAboutInfo());
+    wxAboutDialogInfo info = MakeAboutInfo();
+    // Without one, desktops show the sign of a missing image.
+    info.SetIcon(GetZelkIcon());
+    wxAboutBox(info);
 }

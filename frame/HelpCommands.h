@@ -7,5 +7,5 @@
 /// Full path of the user guide, which stands beside the executable whatever link started it.
 wxString UserGuidePath();
 
-/// What the About box shows.
+/// The texts of the About box.
 wxAboutDialogInfo MakeAboutInfo();

@@ -46,6 +46,7 @@ int WaitForLine(TransferContext& context, int timeoutMs, wxChar terminator, bool
             gauge->Pulse();
             context.LastPulse = context.Elapsed;
         }
+        // Meant: a line that comes in the pass in which the time runs out counts as a time-out.
         if (context.Progress->Cancelled)
             return TransferCancelled;
         if (context.Elapsed >= timeoutMs)

@@ -250,6 +250,12 @@ TEST_F(ChannelFileReader, CountsOneZoneSlotForARowThatComesTwice) {
     EXPECT_EQ(1, ZoneSlotsOf(0)[4]);
 }
 
+TEST_F(ChannelFileReader, TakesTheLaterOfTwoZonesInARow) {
+    ASSERT_EQ(0, Open(FileOf("NP25", Memory(9, "<MN>009</MN><ZN>3</ZN><ZN>5</ZN>"))));
+    EXPECT_EQ("5", Text(9, ZONE));
+    EXPECT_EQ(1, TakenSlots());
+}
+
 TEST_F(ChannelFileReader, EndsEachRowWithFlagsThatDoNotShowItsZoneSlot) {
     ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(9, "0", "N", "3"))));
     EXPECT_EQ("A0", Text(9, TFLG));
@@ -348,6 +354,24 @@ TEST_F(ChannelFileReader, ClearsTheLocksOfFormerRows) {
     for (int row : {5, 101, 102, 200})
         for (int col : {MNUM, SCAN, ZONE, MODE, RTON, RCOD, RFRQ, TFRQ})
             EXPECT_FALSE(CurrentGrid()->IsReadOnly(row, col)) << row << " " << ColumnTag[col];
+}
+
+TEST_F(ChannelFileReader, EmptiesAndUnlocksEveryCellOfThePage) {
+    RetargetTo("ANFM");
+    wxGrid* grid = CurrentGrid();
+    for (int row : {1, 50, 102})
+        for (int col = 0; col < ColumnTotal; ++col) {
+            SetCell(row, col, "old");
+            grid->SetReadOnly(row, col);
+        }
+    const wxXmlDocument empty;
+    ASSERT_EQ(101, OpenZelkFile(empty, 0));
+    for (int row : {1, 50, 102})
+        for (int col = 0; col < ColumnTotal; ++col) {
+            const bool guardLock = row == 102 && (col == MNUM || col == SCAN || col == RTON || col == RCOD);
+            EXPECT_EQ("", Text(row, col)) << row << " " << ColumnTag[col];
+            EXPECT_EQ(guardLock, grid->IsReadOnly(row, col)) << row << " " << ColumnTag[col];
+        }
 }
 
 TEST_F(ChannelFileReader, DropsATextOfBlanksButKeepsThoseInsideAText) {

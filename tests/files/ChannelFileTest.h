@@ -13,7 +13,9 @@
 #include <wx/statusbr.h>
 #include <wx/xml/xml.h>
 
+#include <algorithm>
 #include <ctime>
+#include <stdexcept>
 #include <string>
 #include <vector>
 

@@ -1,6 +1,8 @@
 // What is saved comes back.
 #include "tests/files/ChannelFileTest.h"
 
+#include <map>
+
 namespace {
 
 namespace fs = std::filesystem;

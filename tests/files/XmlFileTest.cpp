@@ -100,8 +100,8 @@ TEST(HarmlessMarkup, NestsNoDeeperInUtf16Either) {
             EXPECT_TRUE(IsHarmlessMarkup(Utf16(Nested(64), littleEndian, mark)));
             EXPECT_FALSE(IsHarmlessMarkup(Utf16(Nested(65), littleEndian, mark)));
         }
-    // These characters consist of the bytes of a comment's start.
-    std::string hidden = Utf16("<a>", true, true) + "\x21\x3C\x2D\x2D";
+    // The low bytes of these characters are a comment's start.
+    std::string hidden = Utf16("<a>", true, true) + "<!!!-!-!";
     for (int i = 0; i < 65; ++i)
         hidden += Utf16("<a>", true, false);
     EXPECT_FALSE(IsHarmlessMarkup(hidden));

@@ -55,7 +55,7 @@ void ClickButton(wxDialog* dialog, int id) {
     ASSERT_NE(button, nullptr) << "no button " << id;
     // A click is lost on a dialog that doesn't stand yet, or on a button that is about to wake up.
     EXPECT_TRUE(PumpUntil([dialog] { return Person().FocusedTitle() == dialog->GetTitle().utf8_string(); }));
-    PumpUntilIdle();
+    PumpFor(30);
     Person().Click(MiddleOf(*button));
 }
 

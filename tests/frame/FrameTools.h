@@ -15,6 +15,9 @@ class wxGrid;
 
 namespace testbench {
 
+/// Style of a plain message box: OK and centred, and the icon that the toolkit adds where none is asked for.
+constexpr long plainBox = wxOK | wxCENTRE | wxICON_INFORMATION;
+
 /// Chooses an entry of the main window's menus.
 void RunCommand(int id);
 

@@ -1,11 +1,9 @@
 // Message boxes of result codes.
 #include "frame/Messages.h"
 
-#include "tests/support/Modals.h"
+#include "tests/frame/FrameTools.h"
 
 #include <gtest/gtest.h>
-
-#include <wx/defs.h>
 
 using namespace testbench;
 
@@ -29,7 +27,7 @@ TEST(DisplayError, ShowsTheMessageOfEachCode) {
     for (const auto& c : cases) {
         SCOPED_TRACE("code " + std::to_string(c.code) + ", value " + std::to_string(c.value));
         DialogScript dialogs;
-        dialogs.ExpectMessage("Error", c.message).Style(wxOK | wxCENTRE);
+        dialogs.ExpectMessage("Error", c.message).Style(plainBox);
         DisplayError(c.code, c.value);
     }
 }

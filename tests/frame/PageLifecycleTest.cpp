@@ -80,7 +80,7 @@ TEST_F(Pages, AreSixAtMost) {
     ASSERT_EQ(PageCount, 6);
     EXPECT_EQ(Title(), "Orv Zelk: Page 6 of 6.");
     DialogScript dialogs;
-    dialogs.ExpectMessage("MAX Page Reached", "Cannot add further pages to notebook").Style(wxOK | wxCENTRE);
+    dialogs.ExpectMessage("MAX Page Reached", "Cannot add further pages to notebook").Style(plainBox);
     RunCommand(IdPageAdd);
     EXPECT_EQ(dialogs.Shown().size(), 1u) << "the message alone, no dialog after it";
     EXPECT_EQ(PageCount, 6);
@@ -129,8 +129,7 @@ TEST_F(Pages, AddedWhileACellIsEditedKeepTheTypedText) {
 
 TEST_F(Pages, OnlyOneCannotBeDeleted) {
     DialogScript dialogs;
-    dialogs.ExpectMessage("Delete Page Error", "There must always be at least one Page")
-        .Style(wxOK | wxCENTRE);
+    dialogs.ExpectMessage("Delete Page Error", "There must always be at least one Page").Style(plainBox);
     RunCommand(IdPageDelete);
     EXPECT_EQ(dialogs.Shown().size(), 1u) << "nothing is asked";
     EXPECT_EQ(PageCount, 1);

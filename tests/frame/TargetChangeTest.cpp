@@ -79,7 +79,7 @@ TEST_F(ChangingTheTarget, ToAnInvalidChoiceShowsTheErrorAndLeavesThePageUntouche
     DialogScript dialogs;
     dialogs.ExpectMessage(question, warning);
     dialogs.Expect(DialogKind::Other, "<-- Select Target Radio -->").Answer(wxID_OK);
-    dialogs.ExpectMessage("Error", "Invalid Radio selection").Style(wxOK | wxCENTRE);
+    dialogs.ExpectMessage("Error", "Invalid Radio selection").Style(plainBox);
     RunCommand(IdSetTarget);
     EXPECT_EQ(AllRows(), before);
     EXPECT_EQ(PageStrings[0].RadioName, "KRV-47");

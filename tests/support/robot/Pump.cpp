@@ -29,10 +29,11 @@ void PumpFor(int ms) {
 }
 
 void PumpUntilIdle() {
-    constexpr int nothingCame = -1, quietRounds = 4, roundMs = 5;
+    // Less than the time between two frames of an animation, of which a theme may always show one.
+    constexpr int nothingCame = -1, quietRounds = 3, roundMs = 5;
     wxGUIEventLoop loop;
     wxEventLoopActivator activate(&loop);
-    const auto deadline = Clock::now() + Milliseconds(2000);
+    const auto deadline = Clock::now() + Milliseconds(500);
     // Counted, not timed: on a busy machine time passes although nobody looked for events.
     for (int quiet = 0; quiet < quietRounds && Clock::now() < deadline;) {
         const bool nothing = loop.DispatchTimeout(roundMs) == nothingCame && !loop.Pending();

@@ -12,7 +12,7 @@ bool PumpUntil(const std::function<bool()>& condition, int ms = 5000);
 /// Dispatches events for `ms` milliseconds.
 void PumpFor(int ms);
 
-/// Dispatches events until none came for 20 ms, two seconds at most.
+/// Dispatches events until none came for 15 ms, half a second at most.
 void PumpUntilIdle();
 
 } // namespace testbench

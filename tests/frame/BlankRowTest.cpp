@@ -98,7 +98,11 @@ TEST_F(TypingInto, TheDefaultRowChangesJustThatCell) {
 }
 
 TEST_F(TypingInto, ABlankRowSelectsItAlone) {
-    TypeIntoCell(*CurrentGrid(), 5, DESC, "ALPHA");
+    CurrentGrid()->GoToCell(5, DESC);
+    CurrentGrid()->SetFocus();
+    TypeText("ALPHA");
+    // Not with Return: the cursor would move and take the selection with it.
+    CommitOpenEditor();
     EXPECT_EQ(SelectedRows(), std::vector<int>{5});
 }
 
@@ -111,7 +115,8 @@ TEST_F(TypingInto, ABlankRowLeavesOtherSelectedRowsAsTheyAre_Departure) {
     CurrentGrid()->SetFocus();
     CurrentGrid()->SelectRow(2);
     CurrentGrid()->SelectRow(9, true);
-    TypeText("ALPHA\n");
+    TypeText("ALPHA");
+    CommitOpenEditor();
     EXPECT_EQ(Cell(5, DESC), "ALPHA");
     EXPECT_EQ(RowTexts(2), kept);
     EXPECT_EQ(RowsWithData(), (std::vector<int>{2, 5}));

@@ -210,6 +210,48 @@ TEST_F(ContextMenu, OfAScrolledGridBelongsToTheRowThatWasClicked) {
     }
 }
 
+TEST_F(ContextMenu, OfAGridScrolledSidewaysLooksTheColumnUpAsIfItWereNot) {
+    Retarget(Kdrv716B, 0);
+    wxGrid* grid = CurrentGrid();
+    grid->MakeCellVisible(0, TIDC);
+    const int x = grid->GetGridWindow()->ScreenToClient(ColumnLabelSpot(*grid, TIDC)).x;
+    ASSERT_LT(x, grid->CellToRect(0, TIDC).x) << "the grid is scrolled";
+    EXPECT_EQ(MenuOfColumn(TIDC), Ids{DefaultCol});
+    EXPECT_FALSE(grid->IsInSelection(1, TIDC));
+    for (int col = 0; col < 32; ++col) {
+        const wxRect cell = grid->CellToRect(1, col);
+        EXPECT_EQ(grid->IsInSelection(1, col), cell.x <= x && x < cell.x + cell.width) << "column " << col;
+    }
+}
+
+TEST_F(ContextMenu, AtTheCellsOuterEdgeIsThatOfTheCorner) {
+    const auto atEdge = [](const wxPoint& inCells) {
+        return MenuOf([inCells](Robot& robot) {
+            robot.Click(robot.Ask([inCells] { return SpotIn(*CurrentGrid()->GetGridWindow(), inCells); }), 3);
+        });
+    };
+    EXPECT_EQ(atEdge({0, 60}), Ids{DefaultFile});
+    EXPECT_EQ(atEdge({60, 0}), Ids{DefaultFile});
+    EXPECT_EQ(atEdge({1, 90}), Ids{});
+}
+
+TEST_F(ContextMenu, BesideAllRowsAndColumnsIsNone) {
+    Retarget(2, 0);
+    ContextRow = 3;
+    EXPECT_EQ(MenuAt([] {
+                  const wxSize room = CurrentGrid()->GetGridRowLabelWindow()->GetClientSize();
+                  return SpotIn(*CurrentGrid()->GetGridRowLabelWindow(), {room.x / 2, room.y - 20});
+              }),
+              Ids{});
+    EXPECT_EQ(MenuAt([] {
+                  const wxSize room = CurrentGrid()->GetGridColLabelWindow()->GetClientSize();
+                  return SpotIn(*CurrentGrid()->GetGridColLabelWindow(), {room.x - 20, room.y / 2});
+              }),
+              Ids{});
+    EXPECT_EQ(ContextRow, 3);
+    EXPECT_TRUE(CurrentGrid()->GetSelectedBlocks().begin() == CurrentGrid()->GetSelectedBlocks().end());
+}
+
 TEST_F(ContextMenu, AskedForWithTheKeyboardIsThatOfTheCursorsRow) {
     Fill(5);
     CurrentGrid()->ClearSelection();

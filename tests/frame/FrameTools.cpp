@@ -4,7 +4,7 @@
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
 #include "tests/support/Keys.h"
-#include "tests/support/robot/Robot.h"
+#include "tests/support/robot/Hands.h"
 
 #include <gtest/gtest.h>
 
@@ -29,7 +29,7 @@ const auto* const imageHandlers = ::testing::AddGlobalTestEnvironment(new ImageH
 
 bool IsGone(const wxWindowRef& window) {
     return PumpUntil([&window] {
-        wxTheApp->ProcessPendingEvents();
+        wxTheApp->ProcessIdle();
         return !window;
     });
 }
@@ -43,9 +43,9 @@ void RunCommand(int id) {
 
 namespace {
 
-Robot& Person() {
-    static Robot robot(1);
-    return robot;
+Hands& Person() {
+    static Hands hands(1);
+    return hands;
 }
 
 } // namespace

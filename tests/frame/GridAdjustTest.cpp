@@ -122,7 +122,8 @@ TEST_F(Adjusting, LeavesNoHiddenColumnThatCanBeDraggedOpen) {
     Adjust(Kdar2000, 0);
     const Texts before = ShownColumns();
     ShowAndFocus(*MainFrame);
-    RunWithRobot([](Robot& robot) {
+    int resized = 0;
+    RunWithRobot([&resized](Robot& robot) {
         // At both sides of each border between shown columns, where hidden ones lie.
         for (int col : {SCAN, DESC, RFRQ, TFRQ, RONL}) {
             for (int side : {-2, 2}) {
@@ -130,13 +131,16 @@ TEST_F(Adjusting, LeavesNoHiddenColumnThatCanBeDraggedOpen) {
                     const wxPoint middle = ColumnLabelSpot(*CurrentGrid(), col);
                     return wxPoint(middle.x - CurrentGrid()->GetColSize(col) / 2 + side, middle.y);
                 });
+                const Texts sizes = robot.Ask(ShownColumns);
                 robot.Drag(border, border + wxPoint(40, 0));
                 robot.Settle();
+                resized += robot.Ask(ShownColumns) != sizes;
                 robot.Drag(border + wxPoint(40, 0), border);
                 robot.Settle();
             }
         }
     });
+    EXPECT_EQ(resized, 10) << "each drag takes hold of a border";
     Texts hidden;
     for (int col = 0; col < 32; ++col)
         if (CurrentGrid()->GetColSize(col) > 0 && CurrentGrid()->GetColLabelValue(col).empty())

@@ -10,11 +10,11 @@ zelk_test(analog_record_tests WINDOW SOURCES AnalogRecordTest.cpp LIBS zelk_core
 zelk_test(transfer_commands_tests WINDOW SOURCES TransferCommandsTest.cpp LIBS zelk_core)
 
 # The analog driver against radios that the test plays.
-zelk_test(analog_driver_tests WINDOW
+zelk_test(analog_driver_tests WINDOW DISPLAY 1
     SOURCES AnalogConfigTest.cpp AnalogReadTest.cpp AnalogWriteTest.cpp
     LIBS zelk_core)
 
 # Whole transfers with the simulated radios.
-zelk_test(analog_radio_tests WINDOW SOURCES AnalogRadioTest.cpp LIBS zelk_core)
+zelk_test(analog_radio_tests WINDOW DISPLAY 2 SOURCES AnalogRadioTest.cpp LIBS zelk_core)
 target_compile_definitions(analog_radio_tests PRIVATE ZELK_RADIO="$<TARGET_FILE:zelk-radio>")
 add_dependencies(analog_radio_tests zelk-radio)

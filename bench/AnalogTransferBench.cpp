@@ -112,9 +112,11 @@ void Prescribed(benchmark::State& state, double seconds) {
 } // namespace
 
 void RegisterAnalogTransfer() {
-    // A read: every line with its end, and the end line, arrive at the speed of the wire.
-    constexpr int ReadBytes = Rows * (LineLength + 1) + (3 + 74 + 1);
-    constexpr double ReadFloor = ReadCommands * SlowCharacter + ReadBytes * WireByte + ClosingDelay;
+    // A read: every line with its end, and the short end line, arrive at the speed of the wire. The
+    // radio begins when it has the last character of the command, within that character's pause.
+    constexpr int ReadBytes = Rows * (LineLength + 1) + (3 + 1);
+    constexpr double ReadFloor =
+        (ReadCommands - 1) * SlowCharacter + (1 + ReadBytes) * WireByte + ClosingDelay;
     struct Side {
         const char* name;
         void (*run)(benchmark::State&);

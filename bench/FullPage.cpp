@@ -16,6 +16,7 @@ void MakePage(const PageCase& page) {
 }
 
 void DropPage() {
+    PageGrid[1] = nullptr;
     MainFrame->m_notebook->DeletePage(MainFrame->m_notebook->GetPageCount() - 1);
     CurrentPage = 0;
     PageCount = 1;

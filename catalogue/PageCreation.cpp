@@ -7,10 +7,10 @@
 #include "frame/ZelkGUI.h"
 
 #include <wx/grid.h>
+#include <wx/log.h>
 #include <wx/notebook.h>
 #include <wx/panel.h>
 #include <wx/sizer.h>
-#include <wx/wxcrt.h>
 
 using namespace RadioCatalogue;
 
@@ -103,6 +103,14 @@ void CreateNewPage(OrvZELFrame* frame, int page) {
     grid->Bind(wxEVT_GRID_CELL_CHANGING, &OrvZELFrame::OnGridCellChanging, frame);
     CurrentPage = page;
     ++PageCount;
+    ShowPageParameters(frame, page);
+}
+
+void ShowPageParameters(OrvZELFrame*, int page) {
+    const PageParameterRecord& parameters = PageParameters[page];
+    wxLogMessage(" . Page: %d; Radio: %d; Band: %d, slot %d; Rows: %d; Cols: %d; Type: %d; Flags: %02X",
+                 page + 1, parameters.Radio, parameters.Band, parameters.BandIndex, parameters.Rows,
+                 parameters.Cols, parameters.Type, static_cast<unsigned>(parameters.Flags));
 }
 
 void SetPageDefaults(OrvZELFrame*, int page) {

@@ -16,6 +16,9 @@ void CreateNewPage(OrvZELFrame* frame, int page);
 /// sets ZoneList for its generation. Works on the current page's grid where that is P25.
 void SetPageDefaults(OrvZELFrame* frame, int page);
 
+/// Tells the log, which is silent unless somebody turns it on, what page is for.
+void ShowPageParameters(OrvZELFrame* frame, int page);
+
 /// Column sizes, minimal sizes and headings of a grid for a radio type.
 void SetGridColumns(wxGrid* grid, int type);
 

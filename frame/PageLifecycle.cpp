@@ -102,6 +102,8 @@ void ZelkFrame::OnPageDelete(wxCommandEvent&) {
     UpdateStatus(this, CurrentPage);
     // Meant: only now, so that the title keeps the former count until its next update.
     --PageCount;
+    for (int remaining = 0; remaining < PageCount; ++remaining)
+        ShowPageParameters(this, remaining);
 }
 
 void ZelkFrame::OnPageChanged(wxBookCtrlEvent&) {

@@ -113,7 +113,7 @@ std::chrono::seconds TimeLimit() {
 void ChooseDisplay() {
     const char* const displays = std::getenv("ZELK_DISPLAYS");
     const char* const number = std::getenv("ZELK_DISPLAY_NUMBER");
-    if (displays == nullptr || number == nullptr) {
+    if (std::getenv("DISPLAY") == nullptr || displays == nullptr || number == nullptr) {
         return;
     }
     std::istringstream names(displays);

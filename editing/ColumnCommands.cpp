@@ -5,6 +5,7 @@
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/CommandQuestions.h"
+#include "editing/RowCommands.h"
 #include "editing/RowLooks.h"
 #include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
@@ -140,7 +141,7 @@ void ZelkFrame::OnDefaultFile(wxCommandEvent&) {
         return;
     wxGrid* grid = CurrentGrid();
     wxGridUpdateLocker quiet(grid);
-    grid->SelectRow(ContextRow, true);
+    SelectContextRow(true);
     const wxArrayString defaults = GetRowValues(CurrentPage, 0);
     grid->ClearGrid();
     CurrentParameters().Flags = 0;

@@ -15,11 +15,6 @@
 
 namespace {
 
-/// Row 0 is no memory: the menu never offers these commands on it.
-bool ContextRowIsMemory() {
-    return ContextRow >= 1 && ContextRow <= CurrentParameters().Rows;
-}
-
 /// The last row that moves when rows are inserted or deleted: guard rows stay where they are.
 int LastMovingRow() {
     return CurrentParameters().Rows - (HasGuardRows(CurrentPage) ? 2 : 0);
@@ -88,6 +83,15 @@ void DeleteMemoryRows(wxGrid* grid, const std::vector<int>& rows, int last) {
 
 } // namespace
 
+bool ContextRowIsMemory() {
+    return ContextRow >= 1 && ContextRow <= CurrentParameters().Rows;
+}
+
+void SelectContextRow(bool addToSelection) {
+    if (ContextRow == 0 || ContextRowIsMemory())
+        CurrentGrid()->SelectRow(ContextRow, addToSelection);
+}
+
 void FixCopiedRow(OrvZELFrame*) {
     if (!CurrentPageIsP25())
         return;
@@ -105,13 +109,12 @@ void FixCopiedRow(OrvZELFrame*) {
 
 void ZelkFrame::OnDefaultRow(wxCommandEvent&) {
     CommitOpenEditor();
-    if (!ContextRowIsMemory() || !UserConfirms(IdDefaultRow))
+    if (!UserConfirms(IdDefaultRow))
         return;
-    wxGrid* grid = CurrentGrid();
-    wxGridUpdateLocker quiet(grid);
-    grid->SelectRow(ContextRow, true);
+    wxGridUpdateLocker quiet(CurrentGrid());
+    SelectContextRow(true);
     // Meant: other selected rows are overwritten as they are, links and zones included.
-    if (CurrentPageIsP25() && RowHasData(ContextRow)) {
+    if (CurrentPageIsP25() && ContextRowIsMemory() && RowHasData(ContextRow)) {
         UndoShadowLinks(ContextRow);
         ClearRowData(ContextRow, true);
     }
@@ -120,9 +123,9 @@ void ZelkFrame::OnDefaultRow(wxCommandEvent&) {
 
 void ZelkFrame::OnCopyRow(wxCommandEvent&) {
     CommitOpenEditor();
-    CurrentGrid()->SelectRow(ContextRow, false);
+    SelectContextRow(false);
     RowCopyBuffer.clear();
-    if (!RowHasData(ContextRow)) {
+    if (!ContextRowIsMemory() || !RowHasData(ContextRow)) {
         wxMessageBox("Cannot copy empty row.", "Error - Empty Row!", wxOK | wxCENTRE);
         return;
     }

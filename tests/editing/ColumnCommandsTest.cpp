@@ -272,6 +272,13 @@ TEST_F(DefaultFileCommand, FillsOnlySelectedRowsAndTheContextRow) {
     EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{7, 9}));
 }
 
+TEST_F(DefaultFileCommand, WithAContextRowOfALongerPageFillsTheSelection) {
+    SelectRows({7});
+    ContextRow = 400;
+    Run(DefaultFile);
+    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{7});
+}
+
 TEST_F(DefaultFileCommand, DealsTheZonesOfAP25PageAfresh) {
     Retarget(Kdrv716, 0);
     Fill({10});

@@ -94,7 +94,7 @@ TEST_F(DefaultRowCommand, NeverTouchesTheDefaultRow) {
     const Texts before = Row(0);
     CurrentGrid()->ClearSelection();
     ContextRow = 0;
-    MainFrame->m_contextMenu->SendEvent(DefaultRow);
+    Run(DefaultRow);
     EXPECT_EQ(Row(0), before);
 }
 
@@ -127,6 +127,13 @@ TEST_F(CopyRowCommand, RefusesABlankRowAndForgetsTheFormerCopy) {
     ContextRow = 5;
     MainFrame->m_contextMenu->SendEvent(CopyRow);
     EXPECT_TRUE(RowCopyBuffer.empty());
+}
+
+TEST_F(DefaultRowCommand, WithAContextRowOfALongerPageWorksOnTheSelection) {
+    SelectRows({3});
+    ContextRow = 400;
+    Run(DefaultRow);
+    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{3});
 }
 
 TEST_F(CopyRowCommand, TakesTheLinksOutOfACopiedPrimaryOrShadowButNotTheirFlags) {

@@ -3,58 +3,113 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
+#include "editing/MemoryNumbers.h"
+#include "frame/ZelkMain.h"
+
+#include <algorithm>
 
 #include <wx/grid.h>
+#include <wx/msgdlg.h>
 
 using namespace RadioCatalogue;
 
 namespace {
 
-/// The zone index that a row is to have. The rows behind the ordinary memories, which are the
-/// guard rows, belong to the last zone of their generation.
-int WantedZone(int type, int row, const wxString& text) {
-    if (type == RP25 && row > 230)
-        return 15;
-    if (type == NP25 && row > 500)
-        return 31;
-    const int firstFree = FirstFreeZone();
-    const int named = ZoneList.Index(text);
-    return named != wxNOT_FOUND && named >= firstFree ? named : firstFree;
+/// What the check of a cell gets to know.
+struct CellToCheck {
+    wxGrid* grid;
+    int row;
+    int column;
+    wxString text;
+    /// RSQL or TSQL, whichever was met last, as its cell stood before its check.
+    wxString squelch;
+    MemoryNumberIndex* numbers;
+};
+
+using ColumnCheck = void (*)(const CellToCheck& cell);
+
+// clang-format off
+void Number(const CellToCheck& c) {
+    c.numbers ? CheckMNum(c.grid, c.row, c.text, *c.numbers) : CheckMNum(c.grid, c.row, c.text);
+}
+void Primary(const CellToCheck& c)     { CheckPrim(c.grid, c.row, c.text); }
+void Shadow(const CellToCheck& c)      { CheckShad(c.grid, c.row, c.text); }
+void Band(const CellToCheck& c)        { CheckBand(c.grid, c.row, c.text); }
+void Scan(const CellToCheck& c)        { CheckScan(c.grid, c.row, c.text); }
+void Zone(const CellToCheck& c)        { CheckZone(c.grid, c.row, c.text); }
+void Description(const CellToCheck& c) { CheckDesc(c.grid, c.row, c.text); }
+void Mode(const CellToCheck& c)        { CheckMode(c.grid, c.row, c.text); }
+void Frequency(const CellToCheck& c)   { CheckFreq(c.grid, c.row, c.column, c.text); }
+void Squelch(const CellToCheck& c)     { CheckSquelch(c.grid, c.row, c.column, c.text); }
+void SquelchValue(const CellToCheck& c){ CheckRnsv(c.grid, c.row, c.text); }
+void Tone(const CellToCheck& c)        { CheckTone(c.grid, c.row, c.column, c.text, c.squelch); }
+void Code(const CellToCheck& c)        { CheckCode(c.grid, c.row, c.column, c.text, c.squelch); }
+void TalkGroup(const CellToCheck& c)   { CheckTalkGroup(c.grid, c.row, c.column, c.text); }
+void Nac(const CellToCheck& c)         { CheckNac(c.grid, c.row, c.column, c.text); }
+void UnitId(const CellToCheck& c)      { CheckTidc(c.grid, c.row, c.text); }
+void RxOnly(const CellToCheck& c)      { CheckRonl(c.grid, c.row, c.text); }
+
+/// The check of each column; flags and shadow slots have none.
+constexpr ColumnCheck CheckOfColumn[ColumnTotal] = {
+    /* MFLG */ nullptr,     /* MNUM */ Number,       /* PRIM */ Primary,   /* SHAD */ Shadow,
+    /* BAND */ Band,        /* SCAN */ Scan,         /* ZONE */ Zone,      /* DESC */ Description,
+    /* MODE */ Mode,        /* RFRQ */ Frequency,    /* RSQL */ Squelch,   /* RNSV */ SquelchValue,
+    /* RTON */ Tone,        /* RCOD */ Code,         /* RTGP */ TalkGroup, /* RNAC */ Nac,
+    /* TFRQ */ Frequency,   /* TSQL */ Squelch,      /* TTON */ Tone,      /* TCOD */ Code,
+    /* TTGP */ TalkGroup,   /* TNAC */ Nac,          /* TIDC */ UnitId,
+    /* SHD0 to SHD6 */ nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+    /* RONL */ RxOnly,      /* TFLG */ nullptr,
+};
+// clang-format on
+
+void CheckCellsOfRow(wxGrid* grid, int row, MemoryNumberIndex* numbers) {
+    CellToCheck cell{grid, row, 0, {}, {}, numbers};
+    for (; cell.column < ColumnTotal; ++cell.column) {
+        if (!CheckOfColumn[cell.column])
+            continue;
+        cell.text = grid->GetCellValue(row, cell.column);
+        if (cell.column == RSQL || cell.column == TSQL)
+            cell.squelch = cell.text;
+        CheckOfColumn[cell.column](cell);
+    }
+}
+
+/// Makes the zone counters of the current page forget its rows, and the rows their slots.
+void ForgetZones() {
+    wxGrid* grid = CurrentGrid();
+    std::fill_n(ZoneSlotsOf(CurrentPage), ZonesPerPage, 0);
+    for (int row = 1; row <= CurrentParameters().Rows; ++row) {
+        const int flags = ReadHex(grid->GetCellValue(row, TFLG));
+        if (flags & ZoneTakenFlag)
+            grid->SetCellValue(row, TFLG, FlagText(flags & ~ZoneTakenFlag));
+    }
 }
 
 } // namespace
 
-void CheckZone(wxGrid* grid, int row, wxString text) {
-    const int type = CurrentParameters().Type;
-    if (!IsP25Type(type)) {
-        grid->SetCellValue(row, ZONE, "");
-        return;
-    }
-    if (row != 0) {
-        const int transferFlags = ReadHex(grid->GetCellValue(row, TFLG));
-        if (transferFlags & ZoneTakenFlag)
-            return;
-        const int wanted = WantedZone(type, row, text);
-        if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask)
-            text.clear();
-        else if (TakeP25ZonePosition(wanted))
-            text = GetZoneName(wanted);
-        // Meant: the flag is set also when the zone was full and the row got no slot.
-        grid->SetCellValue(row, TFLG, FlagText(transferFlags | ZoneTakenFlag));
-    }
-    grid->SetCellValue(row, ZONE, text);
+void CheckRow(wxGrid* grid, int row) {
+    if (RowHasData(row))
+        CheckCellsOfRow(grid, row, nullptr);
 }
 
-void CheckBand(wxGrid* grid, int row, const wxString& text) {
-    const PageParameterRecord& page = CurrentParameters();
-    if (page.Type != MDLX) {
-        grid->SetCellValue(row, BAND, "");
-        return;
+void CheckPage() {
+    wxGrid* grid = CurrentGrid();
+    const int rows = CurrentParameters().Rows;
+    wxGridUpdateLocker quiet(grid);
+    if (CurrentPageIsP25()) {
+        // A page of the other generation may have been set up since: by its names, zones of this
+        // one would be unknown and its rows lose them.
+        ZoneList = CurrentParameters().Type == NP25 ? ListOf(ZoneNames32) : ListOf(ZoneNames16);
+        ForgetZones();
     }
-    const int band = FindBand(text);
-    // Meant: a band that can stand is not written, the cell keeps what it holds.
-    if (band >= 0 && (page.Band == 9 || band == 0 || band == 2 || band == 6))
-        return;
-    grid->SetCellValue(row, BAND, grid->GetCellValue(0, BAND));
-    grid->SetCellBackgroundColour(row, BAND, FailColour);
+    MemoryNumberIndex numbers(rows);
+    for (int row = 1; row <= rows; ++row)
+        if (RowHasData(row))
+            CheckCellsOfRow(grid, row, &numbers);
+}
+
+void ZelkFrame::OnValidatePage(wxCommandEvent&) {
+    CommitOpenEditor();
+    wxMessageBox("Validate row data", "Validate Page", wxOK | wxCENTRE);
+    CheckPage();
 }

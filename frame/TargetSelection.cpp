@@ -1,6 +1,7 @@
 #include "frame/TargetSelection.h"
 
 #include "catalogue/PageCreation.h"
+#include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
 #include "frame/Messages.h"
 #include "frame/PageLifecycle.h"
@@ -97,4 +98,5 @@ void ZelkFrame::OnSetTarget(wxCommandEvent&) {
     if (guardsSaved && HasGuardRows(CurrentPage))
         RestoreGuardRows(this, true);
     UpdateStatus(this, CurrentPage);
+    CheckPage();
 }

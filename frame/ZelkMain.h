@@ -32,6 +32,7 @@ public:
     void OnGridCellChanging(wxGridEvent& event) override;
 
     // editing/
+    void OnValidatePage(wxCommandEvent& event) override;
     void OnSelectAll(wxCommandEvent& event) override;
     void OnDeSelectAll(wxCommandEvent& event) override;
     void OnDefaultRow(wxCommandEvent& event) override;

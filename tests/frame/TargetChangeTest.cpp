@@ -28,7 +28,11 @@ protected:
         ShowAndFocus(*MainFrame);
     }
 
-    static Texts Filled(const std::string& text) { return Texts(32, text); }
+    /// Expects text in the cells of a row that hold no value to be checked, and in its description.
+    static void ExpectKept(int row, const std::string& text) {
+        for (int col : {MFLG, DESC, SHD0, SHD1, SHD2, SHD3, SHD4, SHD5, SHD6, TFLG})
+            EXPECT_EQ(Cell(row, col), text) << "row " << row << ", " << ColumnTag[col];
+    }
 
     /// Everything that the page holds, cell by cell.
     static std::vector<Texts> AllRows() {
@@ -86,27 +90,30 @@ TEST_F(ChangingTheTarget, ToAnInvalidChoiceShowsTheErrorAndLeavesThePageUntouche
 }
 
 TEST_F(ChangingTheTarget, FromKrv47ToKrv305KeepsTheGuards) {
-    FillRow(CurrentGrid(), 121, "first");
-    FillRow(CurrentGrid(), 122, "second");
+    FillRow(CurrentGrid(), 121, "FIRST");
+    SetCell(121, TSQL, "");
+    SetCell(121, TTON, "67.0");
+    FillRow(CurrentGrid(), 122, "SECOND");
     ChangeTarget(Krv305);
     ASSERT_EQ(CurrentGrid()->GetNumberRows(), 123);
-    Texts first = Filled("first");
-    first[MNUM] = "121";
-    Texts second = Filled("second");
-    second[MNUM] = "122";
-    EXPECT_EQ(RowTexts(121), first);
-    EXPECT_EQ(RowTexts(122), second);
+    ExpectKept(121, "FIRST");
+    ExpectKept(122, "SECOND");
+    EXPECT_EQ(Cell(121, MNUM), "121");
+    EXPECT_EQ(Cell(122, MNUM), "122");
+    EXPECT_EQ(Cell(121, TTON), "67.0");
+    EXPECT_EQ(Cell(121, RFRQ), "403.0000") << "what doesn't fit is repaired";
     EXPECT_TRUE(IsLocked(121, {MNUM, SCAN, RTON, RCOD}));
     EXPECT_TRUE(IsLocked(122, {MNUM, SCAN, RTON, RCOD}));
 }
 
 TEST_F(ChangingTheTarget, WithOneUsedGuardRestoresBoth) {
-    FillRow(CurrentGrid(), 122, "second");
+    FillRow(CurrentGrid(), 122, "SECOND");
     ChangeTarget(Krv305);
-    Texts blankButNumbered(32);
-    blankButNumbered[MNUM] = "121";
-    EXPECT_EQ(RowTexts(121), blankButNumbered);
-    EXPECT_EQ(Cell(122, DESC), "second");
+    EXPECT_EQ(Cell(121, MNUM), "121");
+    EXPECT_EQ(Cell(121, DESC), "") << "it was blank";
+    EXPECT_EQ(Cell(121, TFLG), "") << "it was blank";
+    EXPECT_EQ(Cell(121, RFRQ), "403.0000") << "with a number it has data, and is checked";
+    EXPECT_EQ(Cell(122, DESC), "SECOND");
     EXPECT_EQ(Cell(122, MNUM), "122");
 }
 
@@ -124,7 +131,8 @@ TEST_F(ChangingTheTarget, FromKdrv716ToKdar2000DropsTheGuards) {
     FillRow(CurrentGrid(), 99, "stays");
     ChangeTarget(Kdar2000);
     ASSERT_EQ(CurrentGrid()->GetNumberRows(), 101);
-    EXPECT_EQ(RowTexts(99), Filled("stays"));
+    ExpectKept(99, "stays");
+    EXPECT_EQ(Cell(99, RONL), "stays");
     EXPECT_FALSE(RowHasData(100)) << "the former last row, a cleared guard, is the last one now";
     EXPECT_EQ(GD1, -1);
     EXPECT_EQ(GD2, -1);
@@ -132,15 +140,15 @@ TEST_F(ChangingTheTarget, FromKdrv716ToKdar2000DropsTheGuards) {
 }
 
 TEST_F(ChangingTheTarget, MovesGuardsToTheirNewPlace) {
-    FillRow(CurrentGrid(), 121, "first");
-    FillRow(CurrentGrid(), 122, "second");
+    FillRow(CurrentGrid(), 121, "FIRST");
+    FillRow(CurrentGrid(), 122, "SECOND");
     FillRow(CurrentGrid(), 120, "ordinary");
     ChangeTarget(Krv610, 0);
     ASSERT_EQ(CurrentGrid()->GetNumberRows(), 203);
     EXPECT_EQ(RowsWithData(), (std::vector<int>{120, 201, 202}));
-    EXPECT_EQ(Cell(201, DESC), "first");
+    EXPECT_EQ(Cell(201, DESC), "FIRST");
     EXPECT_EQ(Cell(201, MNUM), "201");
-    EXPECT_EQ(Cell(202, DESC), "second");
+    EXPECT_EQ(Cell(202, DESC), "SECOND");
     EXPECT_EQ(Cell(202, MNUM), "202");
     EXPECT_TRUE(IsLocked(201, {MNUM, SCAN, RTON, RCOD}));
     for (int row : {121, 122})
@@ -163,16 +171,29 @@ TEST_F(ChangingTheTarget, OfOneP25GenerationToTheOtherMovesTheGuards) {
     EXPECT_EQ(RadioCatalogue::ZoneList.size(), 32u);
 }
 
-TEST_F(ChangingTheTarget, LeavesMemoryRowsAndHiddenCellsAsTheyAre) {
-    FillRow(CurrentGrid(), 1, "one");
-    FillRow(CurrentGrid(), 5, "five");
+TEST_F(ChangingTheTarget, KeepsMemoryRowsAndTheirHiddenCells) {
+    FillRow(CurrentGrid(), 1, "ONE");
+    SetCell(1, MNUM, "001");
+    FillRow(CurrentGrid(), 5, "FIVE");
+    SetCell(5, MNUM, "005");
+    for (int radio : {Orv12, Kdar2000, Krv47}) {
+        ChangeTarget(radio);
+        EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 5})) << "radio " << radio;
+        ExpectKept(1, "ONE");
+        ExpectKept(5, "FIVE");
+        EXPECT_EQ(Cell(1, MNUM), "001") << "radio " << radio;
+        EXPECT_EQ(Cell(5, MNUM), "005") << "radio " << radio;
+    }
+}
+
+TEST_F(ChangingTheTarget, RepairsWhatDoesNotFitTheNewOne) {
+    FillRowsFromDefault({5});
     ChangeTarget(Orv12);
     ASSERT_EQ(CurrentGrid()->GetNumberRows(), 7);
-    EXPECT_EQ(RowTexts(1), Filled("one"));
-    EXPECT_EQ(RowTexts(5), Filled("five"));
-    ChangeTarget(Kdar2000);
-    EXPECT_EQ(RowTexts(1), Filled("one"));
-    EXPECT_EQ(RowTexts(5), Filled("five"));
+    EXPECT_EQ(Cell(5, RFRQ), "118.000");
+    EXPECT_EQ(Cell(5, RTON), "");
+    EXPECT_EQ(Cell(5, RCOD), "n/a");
+    EXPECT_EQ(CurrentGrid()->GetCellBackgroundColour(5, RFRQ), wxColour(235, 125, 50));
 }
 
 TEST_F(ChangingTheTarget, WritesTheDefaultRowOfTheNewTarget) {
@@ -188,12 +209,17 @@ TEST_F(ChangingTheTarget, WritesTheDefaultRowOfTheNewTarget) {
 TEST_F(ChangingTheTarget, ToAP25RadioOverwritesItsStartingRows) {
     FillRow(CurrentGrid(), 1, "one");
     FillRow(CurrentGrid(), 2, "two");
+    SetCell(2, TFLG, "A0");
     ChangeTarget(Kdrv716);
     EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 2, 231, 232}));
     EXPECT_EQ(Cell(1, DESC), "VHF  001");
     EXPECT_EQ(Cell(231, MNUM), "231");
     EXPECT_EQ(Cell(232, PRIM), "232");
-    EXPECT_EQ(RowTexts(2), Filled("two"));
+    EXPECT_EQ(Cell(2, DESC), "two");
+    EXPECT_EQ(Cell(2, MFLG), "two");
+    EXPECT_EQ(Cell(2, SHD6), "two");
+    EXPECT_EQ(Cell(2, ZONE), "1");
+    EXPECT_EQ(Cell(2, TFLG), "A8");
 }
 
 TEST_F(ChangingTheTarget, ForgetsFileAndFlags) {
@@ -232,10 +258,10 @@ TEST_F(ChangingTheTarget, OfTheSecondOfThreePagesLeavesTheOthers) {
 }
 
 TEST_F(ChangingTheTarget, ToTheSameOneKeepsGuardsAndTheirLocks) {
-    FillRow(CurrentGrid(), 121, "first");
+    FillRow(CurrentGrid(), 121, "FIRST");
     SetCell(0, DESC, "MY OWN");
     ChangeTarget(Krv47);
-    EXPECT_EQ(Cell(121, DESC), "first");
+    EXPECT_EQ(Cell(121, DESC), "FIRST");
     EXPECT_EQ(Cell(121, MNUM), "121");
     EXPECT_EQ(Cell(0, DESC), "LOW    66");
     EXPECT_TRUE(IsLocked(121, {MNUM, SCAN, RTON, RCOD}));
@@ -249,6 +275,7 @@ TEST_F(ChangingTheTarget, WhileACellIsEditedTakesItsTextFirst) {
     ASSERT_TRUE(CurrentGrid()->IsCellEditControlShown());
     ChangeTarget(Krv305);
     EXPECT_EQ(Cell(3, DESC), "HALF");
-    EXPECT_EQ(Cell(3, RFRQ), "66.0000") << "filled before the target changed";
+    EXPECT_EQ(Cell(3, MNUM), "003") << "filled before the target changed";
+    EXPECT_EQ(Cell(3, TFLG), "A0") << "filled before the target changed";
     EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
 }

@@ -1,0 +1,77 @@
+#include "editing/CellChecks.h"
+
+#include "catalogue/RadioCatalogue.h"
+
+#include <algorithm>
+
+using namespace RadioCatalogue;
+
+wxString ScanTextToMask(const wxString& text) {
+    const size_t lists = std::min<size_t>(text.length(), 5);
+    int mask = 0;
+    for (size_t list = 0; list < lists; ++list) {
+        if (text[list] == 'L')
+            return "0";
+        if (text[list] != '_')
+            mask |= 1 << list;
+    }
+    return wxString::Format("%d", mask);
+}
+
+bool IsDescChar(wxUniChar c, int type) {
+    const auto code = c.GetValue();
+    if (IsP25Type(type) && code >= 32 && code <= 122)
+        return true;
+    return (code >= 'A' && code <= 'Z') || (code >= 'a' && code <= 'z') || (code >= '-' && code <= ':') ||
+           code == '+' || code == ' ' || code == '?' || code == '_';
+}
+
+namespace {
+
+/// Longest description of a type. The types without one here are cut by their editor alone.
+size_t DescriptionLength(int type) {
+    if (IsP25Type(type))
+        return 8;
+    return type == ANFM || type == MDLX ? 9 : wxString::npos;
+}
+
+} // namespace
+
+wxString DescriptionText(const wxString& text, int type) {
+    wxString description = (type == ANFM ? text.Upper() : text).Left(DescriptionLength(type));
+    for (wxUniCharRef c : description)
+        if (!IsDescChar(c, type))
+            c = ' ';
+    return description;
+}
+
+std::optional<wxString> ModeText(const wxString& text, int type) {
+    switch (GetModeIndex(text)) {
+    case 0:
+        return IsP25Type(type) ? "w" : "W";
+    case 1:
+        return IsP25Type(type) ? "n" : "N";
+    case 2:
+        if (IsP25Type(type))
+            return "D";
+        break;
+    default:
+        break;
+    }
+    return std::nullopt;
+}
+
+namespace {
+
+bool IsHexDigit(wxUniChar c) {
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+}
+
+} // namespace
+
+std::optional<wxString> HexDigitsText(const wxString& text, size_t digits) {
+    const wxString number = text.Left(digits);
+    if (number.empty() || !std::all_of(number.begin(), number.end(), IsHexDigit))
+        return std::nullopt;
+    return wxString('0', digits - number.length()) + text;
+}

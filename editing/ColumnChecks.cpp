@@ -1,0 +1,297 @@
+#include "editing/ColumnChecks.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "catalogue/ZoneSlots.h"
+#include "editing/CellChecks.h"
+#include "editing/FrequencyRules.h"
+#include "editing/MemoryNumbers.h"
+#include "editing/ZelkEditors.h"
+#include "frame/Messages.h"
+
+#include <wx/grid.h>
+
+using namespace RadioCatalogue;
+
+namespace {
+
+wxString DefaultText(const wxGrid* grid, int col) {
+    return grid->GetCellValue(0, col);
+}
+
+/// Puts the default row's text into a cell, in FailColour.
+void Repair(wxGrid* grid, int row, int col) {
+    grid->SetCellValue(row, col, DefaultText(grid, col));
+    grid->SetCellBackgroundColour(row, col, FailColour);
+}
+
+void WriteOrRepair(wxGrid* grid, int row, int col, const wxString& text, bool good) {
+    if (good)
+        grid->SetCellValue(row, col, text);
+    else
+        Repair(grid, row, col);
+}
+
+bool IsWithin(const wxString& text, int low, int high) {
+    const int number = ReadDecimal(text);
+    return low <= number && number <= high;
+}
+
+/// The band id of a row: the page's, on an MDLX page the row's own or -1.
+int BandOfRow(const wxGrid* grid, int row) {
+    const PageParameterRecord& page = CurrentParameters();
+    return page.Type == MDLX ? FindBand(grid->GetCellValue(row, BAND)) : page.Band;
+}
+
+/// The squelch column that goes with a tone or code column.
+int SquelchColumn(int column) {
+    return column <= RNAC ? RSQL : TSQL;
+}
+
+} // namespace
+
+namespace {
+
+/// findDuplicate gives for a number the first other row that holds it, or one above the rows.
+template <class FindDuplicate>
+int CheckNumber(wxGrid* grid, int row, wxString& text, FindDuplicate findDuplicate) {
+    int result = CheckGood;
+    if (!text.empty()) {
+        const int rows = CurrentParameters().Rows;
+        const int number = ReadDecimal(text);
+        text = number > rows ? wxString() : NumberText(number);
+        const int other = findDuplicate(number);
+        if (other <= rows) {
+            DisplayError(ResultNumberUsed, other);
+            text.clear();
+            result = CheckBadValue;
+        }
+    }
+    grid->SetCellValue(row, MNUM, text);
+    return result;
+}
+
+} // namespace
+
+int CheckMNum(wxGrid* grid, int row, const wxString& text) {
+    wxString number = text;
+    return CheckNumber(grid, row, number,
+                       [row](int n) { return FindDuplicateMNum(1, row, CurrentParameters().Rows, n); });
+}
+
+int CheckMNum(wxGrid* grid, int row, const wxString& text, MemoryNumberIndex& numbers) {
+    wxString number = text;
+    const int result = CheckNumber(grid, row, number, [&](int n) { return numbers.FindDuplicate(row, n); });
+    numbers.Change(row, number);
+    return result;
+}
+
+void CheckPrim(wxGrid* grid, int row, const wxString&) {
+    // Meant: a shadow's link to its primary lives in SHAD alone after this.
+    grid->SetCellValue(row, PRIM, CurrentPageIsP25() ? grid->GetCellValue(row, MNUM) : wxString());
+}
+
+int CheckShad(wxGrid* grid, int row, const wxString& text) {
+    if (!CurrentPageIsP25()) {
+        grid->SetCellValue(row, SHAD, "");
+        return CheckNotApplicable;
+    }
+    const bool good = text == "N" || text.StartsWith("P-") || text.StartsWith("S-");
+    grid->SetCellValue(row, SHAD, good ? text : wxString("N"));
+    return good ? CheckGood : CheckBadValue;
+}
+
+void CheckBand(wxGrid* grid, int row, const wxString& text) {
+    const PageParameterRecord& page = CurrentParameters();
+    if (page.Type != MDLX) {
+        grid->SetCellValue(row, BAND, "");
+        return;
+    }
+    const int band = FindBand(text);
+    // Meant: a band that can stand is not written, the cell keeps what it holds.
+    if (band >= 0 && (page.Band == 9 || band == 0 || band == 2 || band == 6))
+        return;
+    Repair(grid, row, BAND);
+}
+
+void CheckScan(wxGrid* grid, int row, const wxString& text) {
+    if (IsGuardRow(row)) {
+        grid->SetCellValue(row, SCAN, DefaultText(grid, SCAN));
+        return;
+    }
+    const size_t length = text.length();
+    if (CurrentPageIsP25() || CurrentParameters().Type == KDAR)
+        grid->SetCellValue(row, SCAN, text == "1" || text == "Y" || text == "Yes" ? "Y" : "N");
+    else if (length < 3 && IsWithin(text, 0, 31))
+        SetScanCell(grid, row, SCAN, text, false);
+    else if (length == 4 || length == 5)
+        SetScanCell(grid, row, SCAN, ScanTextToMask(text), false);
+    else
+        Repair(grid, row, SCAN);
+}
+
+namespace {
+
+/// The zone index that a row is to have. The rows behind the ordinary memories, which are the
+/// guard rows, belong to the last zone of their generation.
+int WantedZone(int type, int row, const wxString& text) {
+    if (type == RP25 && row > 230)
+        return 15;
+    if (type == NP25 && row > 500)
+        return 31;
+    const int firstFree = FirstFreeZone();
+    const int named = ZoneList.Index(text);
+    return named != wxNOT_FOUND && named >= firstFree ? named : firstFree;
+}
+
+} // namespace
+
+void CheckZone(wxGrid* grid, int row, wxString text) {
+    const int type = CurrentParameters().Type;
+    if (!IsP25Type(type)) {
+        grid->SetCellValue(row, ZONE, "");
+        return;
+    }
+    if (row != 0) {
+        const int transferFlags = ReadHex(grid->GetCellValue(row, TFLG));
+        if (transferFlags & ZoneTakenFlag)
+            return;
+        const int wanted = WantedZone(type, row, text);
+        if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask)
+            text.clear();
+        else if (TakeP25ZonePosition(wanted))
+            text = GetZoneName(wanted);
+        // Meant: the flag is set also when the zone was full and the row got no slot.
+        grid->SetCellValue(row, TFLG, FlagText(transferFlags | ZoneTakenFlag));
+    }
+    grid->SetCellValue(row, ZONE, text);
+}
+
+void CheckDesc(wxGrid* grid, int row, const wxString& text) {
+    grid->SetCellValue(row, DESC, DescriptionText(text, CurrentParameters().Type));
+}
+
+void CheckMode(wxGrid* grid, int row, const wxString& text) {
+    const auto mode = ModeText(text, CurrentParameters().Type);
+    WriteOrRepair(grid, row, MODE, mode.value_or(""), mode.has_value());
+}
+
+int CheckFreq(wxGrid* grid, int row, int column, const wxString& text) {
+    const int band = BandOfRow(grid, row);
+    // Meant: a transmit frequency of an AM 108-138 row is never refused, whatever its text.
+    const bool good = (band == 2 && column == TFRQ) || CheckFreqInBand(text, band) == 0;
+    WriteOrRepair(grid, row, column, text, good);
+    return good ? CheckGood : CheckBadValue;
+}
+
+void CheckSquelch(wxGrid* grid, int row, int column, const wxString& text) {
+    if (!CurrentPageIsP25()) {
+        grid->SetCellValue(row, column, "");
+        return;
+    }
+    const bool digital = grid->GetCellValue(row, MODE) == "D";
+    WriteOrRepair(grid, row, column, text,
+                  digital ? IsDigitalSquelch(text, column) : IsAnalogSquelch(text, column));
+}
+
+void CheckRnsv(wxGrid* grid, int row, const wxString& text) {
+    if (CurrentParameters().Type == NP25)
+        WriteOrRepair(grid, row, RNSV, text, IsWithin(text, 0, 15));
+    else
+        grid->SetCellValue(row, RNSV, "");
+}
+
+namespace {
+
+/// The part that CTCSS tones and DPL codes of a P25 row share. index finds a text in the list of the
+/// column, letter is the squelch that goes with it.
+void CheckP25SquelchValue(wxGrid* grid, int row, int column, const wxString& text, const wxString& squelch,
+                          int (*index)(const wxString&), const char* letter) {
+    bool good = false;
+    if (!squelch.empty() || text != "OFF") {
+        good = index(text) >= 0;
+        if (squelch.empty())
+            grid->SetCellValue(row, SquelchColumn(column), letter);
+    }
+    WriteOrRepair(grid, row, column, text, good);
+}
+
+} // namespace
+
+void CheckTone(wxGrid* grid, int row, int column, const wxString& text, const wxString& squelch) {
+    const int type = CurrentParameters().Type;
+    if (IsP25Type(type)) {
+        CheckP25SquelchValue(grid, row, column, text, squelch, GetCtcssIndex, "t");
+        return;
+    }
+    if (type != ANFM && type != MDLX) {
+        // Meant: also on FXAM, which shows its tones: they don't outlive a check.
+        grid->SetCellValue(row, column, "");
+        return;
+    }
+    if ((column == RTON && IsGuardRow(row)) || FindBand(grid->GetCellValue(row, BAND)) == 2) {
+        grid->SetCellValue(row, column, "n/a");
+        return;
+    }
+    const wxString tone = squelch.empty() || squelch == "t" ? text : wxString("OFF");
+    WriteOrRepair(grid, row, column, tone, GetToneIndex(tone) >= 0);
+}
+
+void CheckCode(wxGrid* grid, int row, int column, const wxString& text, const wxString& squelch) {
+    const PageParameterRecord& page = CurrentParameters();
+    const int rowType = GetRadioType(page.Radio, BandOfRow(grid, row));
+    if (rowType == O12 || rowType == KDAR || rowType == ANAM) {
+        grid->SetCellValue(row, column, "n/a");
+        return;
+    }
+    const wxString code = text == "000" ? wxString("OFF") : text;
+    if (IsP25Type(page.Type)) {
+        CheckP25SquelchValue(grid, row, column, code, squelch, GetCodeIndex, "c");
+        return;
+    }
+    if (page.Type != ANFM && page.Type != MDLX) {
+        grid->SetCellValue(row, column, code);
+        return;
+    }
+    if (column == RCOD && IsGuardRow(row)) {
+        grid->SetCellValue(row, column, "n/a");
+        return;
+    }
+    const wxString wanted = squelch.empty() || squelch == "c" ? code : wxString("OFF");
+    WriteOrRepair(grid, row, column, wanted, GetCodeIndex(wanted) >= 0);
+}
+
+namespace {
+
+void CheckHexDigits(wxGrid* grid, int row, int column, const wxString& text, size_t digits) {
+    wxString value;
+    if (CurrentPageIsP25())
+        value = HexDigitsText(text, digits).value_or(DefaultText(grid, column));
+    grid->SetCellValue(row, column, value);
+}
+
+} // namespace
+
+void CheckTalkGroup(wxGrid* grid, int row, int column, const wxString& text) {
+    CheckHexDigits(grid, row, column, text, 4);
+}
+
+void CheckNac(wxGrid* grid, int row, int column, const wxString& text) {
+    CheckHexDigits(grid, row, column, text, 3);
+}
+
+void CheckTidc(wxGrid* grid, int row, const wxString& text) {
+    wxString id;
+    if (CurrentPageIsP25()) {
+        if (text.empty())
+            id = "0000001";
+        else
+            id = IsWithin(text, 0, 9999999) ? text : DefaultText(grid, TIDC);
+    }
+    grid->SetCellValue(row, TIDC, id);
+}
+
+void CheckRonl(wxGrid* grid, int row, const wxString&) {
+    if (CurrentParameters().Type != KDAR)
+        grid->SetCellValue(row, RONL, "");
+}

@@ -1,0 +1,31 @@
+// Who holds a memory number on the current page.
+#pragma once
+
+#include <wx/string.h>
+
+#include <map>
+#include <optional>
+#include <set>
+#include <vector>
+
+/// The first row from start to last of the current page, other than row, whose MNUM isn't empty and
+/// reads as number; last + 1 when there is none.
+int FindDuplicateMNum(int start, int row, int last, int number);
+
+/// The memory numbers of rows 1 to last of the current page, for checks that would search the whole
+/// page for each row. Holds as long as every change of MNUM is told.
+class MemoryNumberIndex {
+public:
+    explicit MemoryNumberIndex(int last);
+
+    /// As FindDuplicateMNum(1, row, last, number).
+    int FindDuplicate(int row, int number) const;
+
+    /// The MNUM of row (1 to last) has become text.
+    void Change(int row, const wxString& text);
+
+private:
+    int m_last;
+    std::vector<std::optional<int>> m_numberOfRow;
+    std::map<int, std::set<int>> m_rowsOfNumber;
+};

@@ -1,0 +1,270 @@
+// Checks of a whole page, from the menu and after a change of target.
+#include "editing/ZelkEdit.h"
+
+#include "frame/CommandIds.h"
+#include "tests/catalogue/PageTest.h"
+#include "tests/frame/FrameTools.h"
+#include "tests/support/Keys.h"
+
+#include <numeric>
+
+using testbench::DialogScript;
+
+namespace {
+
+constexpr int Krv47 = 1, Krv214 = 3, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8;
+
+class CheckingAPage : public PageTest {
+protected:
+    static bool IsPainted(int row, int column) {
+        return CurrentGrid()->GetCellBackgroundColour(row, column) == wxColour(235, 125, 50);
+    }
+
+    static std::vector<std::vector<std::string>> AllRows() {
+        std::vector<std::vector<std::string>> rows;
+        for (int row = 0; row < CurrentGrid()->GetNumberRows(); ++row)
+            rows.push_back(RowTexts(row));
+        return rows;
+    }
+
+    static std::vector<int> Counters(int page) {
+        return {ZoneSlotsOf(page), ZoneSlotsOf(page) + ZonesPerPage};
+    }
+
+    static int TakenInAll(int page) {
+        const auto counters = Counters(page);
+        return std::accumulate(counters.begin(), counters.end(), 0);
+    }
+
+    static void ClearMemories() {
+        for (int row = 1; row <= CurrentParameters().Rows; ++row)
+            ClearRowData(row, false);
+        ClearZoneSlots(CurrentPage);
+    }
+
+    /// A P25 memory of its row's number in a zone.
+    static void AddMemory(int row, const wxString& zone, const wxString& flags = "A0") {
+        FillRowsFromDefault({row});
+        SetCell(row, ZONE, zone);
+        SetCell(row, TFLG, flags);
+    }
+};
+
+} // namespace
+
+TEST_F(CheckingAPage, ThatIsEmptyChangesNothing) {
+    for (int radio : {Krv47, Krv214, 2, Kdar2000}) {
+        Retarget(radio, 0);
+        const auto before = AllRows();
+        CheckPage();
+        EXPECT_EQ(before, AllRows()) << "radio " << radio;
+    }
+}
+
+TEST_F(CheckingAPage, NeverChecksTheDefaultRow) {
+    for (int col = 0; col < 32; ++col)
+        SetCell(0, col, "junk");
+    const auto before = RowTexts(0);
+    CheckPage();
+    EXPECT_EQ(before, RowTexts(0));
+    EXPECT_FALSE(IsPainted(0, RFRQ));
+}
+
+TEST_F(CheckingAPage, ChecksFirstLastAndGuardRows) {
+    for (int row : {1, 60, 120, 121, 122})
+        SetCell(row, DESC, "low");
+    CheckPage();
+    for (int row : {1, 60, 120, 121, 122}) {
+        EXPECT_EQ("LOW", Cell(row, DESC)) << row;
+        EXPECT_EQ("66.0000", Cell(row, RFRQ)) << row;
+        EXPECT_TRUE(IsPainted(row, RFRQ)) << row;
+    }
+    EXPECT_EQ("n/a", Cell(121, RTON));
+    EXPECT_EQ("OFF", Cell(120, RTON));
+    EXPECT_EQ((std::vector<int>{1, 60, 120, 121, 122}), FilledRows());
+}
+
+TEST_F(CheckingAPage, ChecksARowWhoseOnlyTextIsAFlag) {
+    SetCell(4, TFLG, "A0");
+    CheckPage();
+    EXPECT_EQ("66.0000", Cell(4, RFRQ));
+}
+
+TEST_F(CheckingAPage, ShowsOneBoxForEveryRowWhoseNumberIsTaken) {
+    for (int row : {2, 5, 9}) {
+        FillRowsFromDefault({row});
+        SetCell(row, MNUM, "7");
+    }
+    DialogScript dialogs;
+    dialogs.ExpectMessage("Error", "Number already used at row: 005");
+    dialogs.ExpectMessage("Error", "Number already used at row: 009");
+    CheckPage();
+    EXPECT_EQ("", Cell(2, MNUM));
+    EXPECT_EQ("", Cell(5, MNUM));
+    EXPECT_EQ("007", Cell(9, MNUM)) << "the last of them is alone by then";
+}
+
+TEST_F(CheckingAPage, CountsTheZonesAnewFromTheRows) {
+    Retarget(Kdrv716B, 0);
+    ClearMemories();
+    AddMemory(3, "5", "A8");
+    AddMemory(4, "5", "A8");
+    AddMemory(5, "K");
+    AddMemory(501, "1");
+    std::fill_n(ZoneSlotsOf(CurrentPage), ZonesPerPage, 13); // what lost edits and deletions leave
+    CheckPage();
+    EXPECT_EQ(2, SlotsTaken(CurrentPage, 4));
+    EXPECT_EQ(1, SlotsTaken(CurrentPage, 22));
+    EXPECT_EQ(1, SlotsTaken(CurrentPage, 31));
+    EXPECT_EQ(4, TakenInAll(CurrentPage));
+    EXPECT_EQ("5", Cell(3, ZONE));
+    EXPECT_EQ("5", Cell(4, ZONE));
+    EXPECT_EQ("K", Cell(5, ZONE));
+    EXPECT_EQ("X", Cell(501, ZONE));
+    for (int row : {3, 4, 5, 501})
+        EXPECT_EQ("A8", Cell(row, TFLG)) << row;
+}
+
+TEST_F(CheckingAPage, LeavesTheFirstZoneOfTheNextPageAlone) {
+    AddPage(Kdrv716, 0);
+    AddPage(Kdrv716, 0);
+    MainFrame->m_notebook->SetSelection(1);
+    testbench::PumpUntilIdle();
+    ASSERT_EQ(1, CurrentPage);
+    ZoneSlotsOf(2)[0] = 9;
+    CheckPage();
+    EXPECT_EQ(9, SlotsTaken(2, 0));
+}
+
+TEST_F(CheckingAPage, KeepsZonesOfTheSecondGenerationAfterAPageOfTheFirstWasMade) {
+    Retarget(Kdrv716B, 0);
+    ClearMemories();
+    AddMemory(3, "W");
+    AddPage(Kdrv716, 0);
+    ASSERT_EQ(16u, RadioCatalogue::ZoneList.size());
+    MainFrame->m_notebook->SetSelection(0);
+    testbench::PumpUntilIdle();
+    ASSERT_EQ(0, CurrentPage);
+    CheckPage();
+    EXPECT_EQ("W", Cell(3, ZONE));
+    EXPECT_EQ(1, SlotsTaken(0, 30));
+}
+
+TEST_F(CheckingAPage, PutsNoMoreThan16RowsIntoAZoneAsLongAsTheFirstIsNotFull) {
+    Retarget(Kdrv716, 0);
+    ClearMemories();
+    for (int row = 1; row <= 18; ++row)
+        AddMemory(row, "1");
+    CheckPage();
+    EXPECT_EQ(16, SlotsTaken(CurrentPage, 0));
+    EXPECT_EQ(2, SlotsTaken(CurrentPage, 1));
+    EXPECT_EQ("1", Cell(16, ZONE));
+    EXPECT_EQ("2", Cell(17, ZONE));
+    EXPECT_EQ("2", Cell(18, ZONE));
+}
+
+TEST_F(CheckingAPage, GivesNoSlotToShadows) {
+    Retarget(Kdrv716, 0);
+    ClearMemories();
+    AddMemory(3, "4");
+    SetCell(3, MFLG, "10");
+    AddMemory(4, "4", "A8");
+    SetCell(4, MFLG, "01");
+    SetCell(4, SHAD, "S-003");
+    CheckPage();
+    EXPECT_EQ("4", Cell(3, ZONE));
+    EXPECT_EQ("", Cell(4, ZONE));
+    EXPECT_EQ("S-003", Cell(4, SHAD));
+    EXPECT_EQ(1, TakenInAll(CurrentPage));
+}
+
+TEST_F(CheckingAPage, TwiceChangesNothing) {
+    for (int radio : {Kdrv716, Kdrv716B, Krv47, Kdar2000}) {
+        Retarget(radio, 0);
+        const char* zones[] = {"1", "2", "", "16", "X", "junk", "3", "1", "1"};
+        const char* flags[] = {"A0", "A8", "", "C0", "E8"};
+        for (int row = 1; row <= CurrentParameters().Rows; ++row) {
+            FillRowsFromDefault({row});
+            SetCell(row, ZONE, zones[row % 9]);
+            SetCell(row, TFLG, flags[row % 5]);
+            SetCell(row, RFRQ, row % 3 ? "140.0000" : "junk");
+            SetCell(row, RSQL, row % 4 ? "x" : "");
+            if (row % 7 == 0)
+                SetCell(row, MFLG, "02");
+        }
+        CheckPage();
+        const auto once = AllRows();
+        const auto counters = Counters(CurrentPage);
+        CheckPage();
+        EXPECT_EQ(once, AllRows()) << "radio " << radio;
+        EXPECT_EQ(counters, Counters(CurrentPage)) << "radio " << radio;
+    }
+}
+
+TEST_F(CheckingAPage, FromTheMenuSaysSoFirst) {
+    SetCell(4, DESC, "low");
+    wxString whileShown;
+    {
+        DialogScript dialogs;
+        dialogs.ExpectMessage("Validate Page", "Validate row data")
+            .Style(testbench::plainBox)
+            .Set([&](wxDialog*) { whileShown = Cell(4, DESC); });
+        testbench::RunCommand(IdValidatePage);
+        EXPECT_EQ(1u, dialogs.Shown().size());
+    }
+    EXPECT_EQ("low", whileShown) << "checked only when the box is closed";
+    EXPECT_EQ("LOW", Cell(4, DESC));
+    EXPECT_TRUE(IsPainted(4, RFRQ));
+}
+
+TEST_F(CheckingAPage, FromTheMenuTakesTheTextOfAnOpenEditorFirst) {
+    testbench::ShowAndFocus(*MainFrame);
+    CurrentGrid()->GoToCell(3, DESC);
+    CurrentGrid()->SetFocus();
+    testbench::TypeText("half");
+    ASSERT_TRUE(CurrentGrid()->IsCellEditControlShown());
+    DialogScript dialogs;
+    dialogs.ExpectMessage("Validate Page", "Validate row data");
+    testbench::RunCommand(IdValidatePage);
+    EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
+    EXPECT_EQ("HALF", Cell(3, DESC));
+}
+
+TEST_F(CheckingAPage, FollowsAChangeOfTarget) {
+    FillRowsFromDefault({4});
+    SetCell(4, MNUM, "4");
+    SetCell(4, MODE, "n");
+    testbench::ChangeTarget(Krv305);
+    EXPECT_EQ("004", Cell(4, MNUM));
+    EXPECT_EQ("N", Cell(4, MODE));
+    EXPECT_EQ("403.0000", Cell(4, RFRQ));
+    EXPECT_EQ("512.0000", Cell(4, TFRQ));
+    EXPECT_TRUE(IsPainted(4, RFRQ));
+    EXPECT_TRUE(IsPainted(4, TFRQ));
+    EXPECT_FALSE(IsPainted(4, MODE));
+    EXPECT_EQ((std::vector<int>{4}), FilledRows());
+}
+
+TEST_F(CheckingAPage, AfterAChangeToAP25TargetGivesEveryKeptRowAZone) {
+    for (int row : {2, 3, 40})
+        FillRowsFromDefault({row});
+    testbench::ChangeTarget(Kdrv716);
+    EXPECT_EQ((std::vector<int>{1, 2, 3, 40, 231, 232}), FilledRows());
+    for (int row : {1, 2, 3, 40}) {
+        EXPECT_EQ("1", Cell(row, ZONE)) << row;
+        EXPECT_EQ("A8", Cell(row, TFLG)) << row;
+    }
+    EXPECT_EQ(4, SlotsTaken(CurrentPage, 0));
+    EXPECT_EQ(2, SlotsTaken(CurrentPage, 15));
+    EXPECT_EQ("002", Cell(2, PRIM));
+    EXPECT_EQ("136.0000", Cell(2, RFRQ));
+}
+
+TEST_F(CheckingAPage, AfterAChangeFromOneP25TargetToTheOtherKeepsTheZones) {
+    Retarget(Kdrv716, 0);
+    AddMemory(3, "7", "A8");
+    testbench::ChangeTarget(Kdrv716B);
+    EXPECT_EQ("7", Cell(3, ZONE));
+    EXPECT_EQ(1, SlotsTaken(CurrentPage, 6));
+    EXPECT_EQ(4, TakenInAll(CurrentPage)) << "rows 1, 3 and the guards";
+}

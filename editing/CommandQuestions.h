@@ -12,6 +12,7 @@ struct CommandQuestion {
 // clang-format off
 inline constexpr CommandQuestion CommandQuestions[] = {
     {IdDefaultRow,         "Change Selection to defaults?",                  "This will overwrite all data in selection, there is no 'undo'!"},
+    {IdPasteRow,           "Paste copied data into Selection?",              "This will overwrite all data in selection, there is no 'undo'!"},
     {IdClearRow,           "Clear rows in Selection?",                       "This will clear all data in selection, there is no 'undo'!"},
     {IdInsertRow,          "Insert row above Selected row?",                 "If last row is used, it will be lost, there is no 'undo'!"},
     {IdDeleteRow,          "Delete Selection?",                              "This will delete all data in selection, there is no 'undo'!"},

@@ -37,6 +37,7 @@ public:
     void OnDeSelectAll(wxCommandEvent& event) override;
     void OnDefaultRow(wxCommandEvent& event) override;
     void OnCopyRow(wxCommandEvent& event) override;
+    void OnPasteRow(wxCommandEvent& event) override;
     void OnClearRow(wxCommandEvent& event) override;
     void OnInsertRow(wxCommandEvent& event) override;
     void OnDeleteRow(wxCommandEvent& event) override;

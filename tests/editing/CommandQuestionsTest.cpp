@@ -7,7 +7,7 @@ class CommandQuestion : public CommandTest {};
 } // namespace
 
 TEST_F(CommandQuestion, OfEachCommandWarnsThatThereIsNoUndo) {
-    EXPECT_EQ(Questions().size(), 9u);
+    EXPECT_EQ(Questions().size(), 10u);
     for (const Question& question : Questions()) {
         SCOPED_TRACE(question.caption);
         testbench::DialogScript dialogs;

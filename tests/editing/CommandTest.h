@@ -53,6 +53,7 @@ protected:
     static const std::vector<Question>& Questions() {
         static const std::vector<Question> questions = {
             {DefaultRow, "Change Selection to defaults?", NoUndoAll},
+            {PasteRow, "Paste copied data into Selection?", NoUndoAll},
             {ClearRow, "Clear rows in Selection?",
              "This will clear all data in selection, there is no 'undo'!"},
             {InsertRow, "Insert row above Selected row?",

@@ -265,8 +265,10 @@ namespace {
 
 void CheckHexDigits(wxGrid* grid, int row, int column, const wxString& text, size_t digits) {
     wxString value;
-    if (CurrentPageIsP25())
-        value = HexDigitsText(text, digits).value_or(DefaultText(grid, column));
+    if (CurrentPageIsP25()) {
+        const auto number = HexDigitsText(text, digits);
+        value = number ? *number : DefaultText(grid, column);
+    }
     grid->SetCellValue(row, column, value);
 }
 

@@ -3,6 +3,8 @@
 #include "catalogue/RadioCatalogue.h"
 #include "catalogue/TextNumbers.h"
 
+#include <algorithm>
+
 using namespace RadioCatalogue;
 
 namespace {
@@ -47,4 +49,172 @@ int GetFreqBand(const wxString& text, int type) {
         if (IsInBand(ReadDecimal(megahertz), ReadDecimal(fraction), band))
             return band == 4 && !IsP25Type(type) ? 5 : band;
     return FreqInNoBand;
+}
+
+namespace {
+
+bool IsDigit(wxUniChar c) {
+    return c >= '0' && c <= '9';
+}
+
+int DigitAt(const wxString& text, size_t position) {
+    return static_cast<int>(text[position].GetValue()) - '0';
+}
+
+bool IsOneOf(const int (&pair)[2], int digit) {
+    return digit == pair[0] || digit == pair[1];
+}
+
+/// The digits with which a quarter of the digit before can begin.
+bool IsQuarter(int digit) {
+    return digit == 0 || digit == 2 || digit == 5 || digit == 7;
+}
+
+bool FitsStep25000(const wxString& fraction) {
+    const size_t count = fraction.length();
+    if (count > 1 && !IsQuarter(DigitAt(fraction, 1)))
+        return false;
+    if (count > 2 && DigitAt(fraction, 2) != StepNext25[DigitAt(fraction, 1)])
+        return false;
+    return fraction.Mid(3).find_first_not_of('0') == wxString::npos;
+}
+
+// Meant: the first digit of the 12.5 kHz pattern is free; 4 and 9 have no successor, which stops them.
+bool FitsStep12500(const wxString& fraction) {
+    const size_t count = fraction.length();
+    if (count > 2 && DigitAt(fraction, 2) != StepNext125[DigitAt(fraction, 1)])
+        return false;
+    if (count > 3 && DigitAt(fraction, 3) != StepNext25[DigitAt(fraction, 2)])
+        return false;
+    return count <= 4 || fraction[4] == '0';
+}
+
+bool FitsStep8333(const wxString& fraction) {
+    const size_t count = fraction.length();
+    return count <= 3 && (count <= 2 || IsOneOf(StepPairs833[DigitAt(fraction, 1)], DigitAt(fraction, 2)));
+}
+
+bool FitsStep6250(const wxString& fraction) {
+    const size_t count = fraction.length();
+    if (count > 2 && !IsOneOf(StepPairs625[DigitAt(fraction, 1)], DigitAt(fraction, 2)))
+        return false;
+    if (count > 3 && DigitAt(fraction, 3) != StepNext125[DigitAt(fraction, 2)])
+        return false;
+    return count <= 4 || DigitAt(fraction, 4) == StepNext25[DigitAt(fraction, 3)];
+}
+
+bool FitsStep2500(const wxString& fraction) {
+    const size_t count = fraction.length();
+    if (count > 2 && !IsQuarter(DigitAt(fraction, 2)))
+        return false;
+    if (count > 3 && DigitAt(fraction, 3) != StepNext25[DigitAt(fraction, 2)])
+        return false;
+    return count <= 4 || fraction[4] == '0';
+}
+
+// Meant: the first ruled digit is free here as at 12.5 kHz.
+bool FitsStep1250(const wxString& fraction) {
+    const size_t count = fraction.length();
+    if (count > 3 && DigitAt(fraction, 3) != StepNext125[DigitAt(fraction, 2)])
+        return false;
+    return count <= 4 || DigitAt(fraction, 4) == StepNext25[DigitAt(fraction, 3)];
+}
+
+bool FitsStep(int mhz, const wxString& fraction, int step) {
+    switch (step) {
+    case 1250:
+        return FitsStep1250(fraction);
+    case 2500:
+        return FitsStep2500(fraction);
+    case 6250:
+        return FitsStep6250(fraction);
+    case 8333:
+        // The narrow raster is that of the voice channels; the rest of the band keeps to 25 kHz.
+        return mhz < 118 || mhz > 138 ? FitsStep25000(fraction) : FitsStep8333(fraction);
+    case 12500:
+        return FitsStep12500(fraction);
+    case 25000:
+        return FitsStep25000(fraction);
+    default:
+        return true;
+    }
+}
+
+/// What FormatFreq completes: the digits free at the step, counted from the point on and the
+/// point with them, and the row of StepComplete for the digit behind them.
+struct Completion {
+    int freeDigits;
+    int row;
+};
+
+Completion CompletionOf(int step) {
+    switch (step) {
+    case 1250:
+        return {4, 1};
+    case 2500:
+        return {4, 0};
+    case 6250:
+        return {3, 2};
+    case 12500:
+        return {3, 1};
+    default:
+        return {3, 0};
+    }
+}
+
+} // namespace
+
+int FrequencyWidth(int band, int step) {
+    if (band == 0 || band == 1 || step == 8333)
+        return 7;
+    return step == 1250 ? 9 : 8;
+}
+
+bool IsOkFreq(const wxString& text, int band, int step) {
+    const size_t point = text.find('.');
+    if (point == wxString::npos)
+        return true;
+    const wxString megahertz = text.Left(point);
+    const wxString fraction = text.Mid(point + 1);
+    if (megahertz.empty() || megahertz.length() > 3 || fraction.length() >= 6)
+        return false;
+    if (!std::all_of(fraction.begin(), fraction.end(), IsDigit))
+        return false;
+    if (band < 0 || band >= BandTotal)
+        return false;
+    const auto [low, high] = BandLimit[band];
+    const int mhz = ReadDecimal(megahertz);
+    if (mhz < low || mhz > high)
+        return false;
+    if (mhz == high)
+        return fraction.find_first_not_of('0') == wxString::npos;
+    return FitsStep(mhz, fraction, step);
+}
+
+bool FormatFreq(wxString& text, int band, int step, int width) {
+    wxString complete = text;
+    if (complete.find('.') == wxString::npos)
+        complete += '.';
+    if (!IsOkFreq(complete, band, step))
+        return false;
+    auto [freeDigits, row] = CompletionOf(step);
+    size_t last = complete.find('.') + freeDigits;
+    for (; complete.length() > last; ++last)
+        --row;
+    const size_t wanted = static_cast<size_t>(std::max(width, 0));
+    if (complete.length() >= wanted)
+        return true;
+    complete.Pad(last - complete.length(), '0');
+    for (; row >= 0 && complete.length() < wanted; --row)
+        complete += StepComplete[row * 10 + DigitAt(complete, complete.length() - 1)];
+    if (complete.length() < wanted)
+        complete.Pad(wanted - complete.length(), '0');
+    text = complete;
+    return true;
+}
+
+bool CheckRxOnlyFreq(const wxString& text) {
+    const int mhz = ReadDecimal(text.BeforeFirst('.'));
+    // Meant: "117.900" is below 117.975, "117.9000" isn't.
+    return (mhz >= 108 && mhz <= 116) || (mhz == 117 && ReadDecimal(text.AfterFirst('.')) <= 974);
 }

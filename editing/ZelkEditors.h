@@ -1,13 +1,25 @@
-// The read-only state of cells, and the scan cell.
+// What each cell of a page is edited and shown with, and which cells are read-only.
 #pragma once
 
-#include <wx/string.h>
+#include "editing/FrequencyCell.h"
+#include "editing/ScanListCell.h"
 
-class wxGrid;
-
-/// Sets the read-only state of the cells of page (0-based), which must be the current one: MNUM
-/// of the default row, and in guard rows the cells that the radio fixes.
+/// Gives all cells of page (0-based), which must be the current one, their editors, renderers,
+/// alignment and read-only state; to be called when the page's target or its rows have changed. On
+/// P25 pages read-only marks of memories stay, as linked rows rely on them.
 void SetPageEditors(int page);
 
-/// Puts text into a scan cell.
-void SetScanCell(wxGrid* grid, int row, int col, const wxString& text, bool flag);
+/// SetPageEditors for one row of a current page that isn't P25.
+void SetRowEditors(wxGrid* grid, int row);
+
+/// SetPageEditors for one row of a P25 current page.
+void SetRowEditorsP25(wxGrid* grid, int row);
+
+/// The cells of a row that depend on its band (id 0 to 8). On MDLX pages texts that the band can't
+/// have are replaced; bandChanged says that the user has just chosen the band, so that a tone of
+/// the former band goes, too. TCOD stays read-only if a former band has made it so.
+void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged = false);
+
+/// The squelch choices of a P25 row for the text of its MODE; applyDefault also writes the mode's
+/// defaults.
+void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDefault);

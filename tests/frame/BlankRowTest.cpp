@@ -33,7 +33,7 @@ protected:
 TEST_F(TypingInto, ABlankRowFillsItFromTheDefaultRow) {
     TypeIntoCell(*CurrentGrid(), 5, RFRQ, "70.0000");
     const Texts expected = {"",    "005", "", "", "FM 66-88", "0", "",    "LOW   005", "W", "70.0000", "", "",
-                            "OFF", "OFF", "", "", "88.0000",  "",  "OFF", "OFF",       "",  "",        "", "",
+                            "OFF", "OFF", "", "", "70.0000",  "",  "OFF", "OFF",       "",  "",        "", "",
                             "",    "",    "", "", "",         "",  "",    "A0"};
     EXPECT_EQ(RowTexts(5), expected);
     EXPECT_EQ(RowsWithData(), std::vector<int>{5});
@@ -55,7 +55,7 @@ TEST_F(TypingInto, ABlankP25RowGivesItAZoneAndItsOwnPrimary) {
         const Texts expected = {
             "0",    "002",      "002",  "N",        "FM 136-174", "N",
             "1",    "VHF  002", "n",    "150.0000", "x",          radio == Kdrv716 ? "" : "10",
-            "67.0", "023",      "0001", "293",      "174.0000",   "x",
+            "67.0", "023",      "0001", "293",      "150.0000",   "x",
             "67.0", "023",      "0001", "293",      "00000001",   "0",
             "0",    "0",        "0",    "0",        "0",          "0",
             "",     "A8"};
@@ -66,7 +66,7 @@ TEST_F(TypingInto, ABlankP25RowGivesItAZoneAndItsOwnPrimary) {
 TEST_F(TypingInto, ABlankRowTakesWhatTheDefaultRowSaysNow) {
     SetCell(0, DESC, "NO DIGIT");
     SetCell(0, TFRQ, "80.0000");
-    TypeIntoCell(*CurrentGrid(), 5, RFRQ, "70.0000");
+    TypeIntoCell(*CurrentGrid(), 5, MNUM, "9");
     EXPECT_EQ(Cell(5, DESC), "NO DIGIT");
     EXPECT_EQ(Cell(5, TFRQ), "80.0000");
 }

@@ -1,0 +1,68 @@
+#include "editing/ChoiceCells.h"
+
+#include "catalogue/PageModel.h"
+#include "editing/FrequencyRules.h"
+#include "editing/ZelkEditors.h"
+
+using namespace RadioCatalogue;
+
+namespace {
+
+/// From a receive tone or code column to its transmit twin.
+constexpr int TransmitOffset = TTON - RTON;
+static_assert(TCOD - RCOD == TransmitOffset);
+
+/// Writes what was chosen; a cell that was repaired before has a good value now.
+void WriteChosen(wxGrid* grid, int row, int col, const wxString& text) {
+    grid->SetCellValue(row, col, text);
+    grid->SetCellBackgroundColour(row, col, grid->GetCellBackgroundColour(0, 0));
+}
+
+/// The columns that a choice in col turns off where a channel has either a tone or a code.
+std::initializer_list<int> ExcludedColumns(int col) {
+    static constexpr std::initializer_list<int> codes = {RCOD, TCOD}, tones = {RTON, TTON};
+    static constexpr std::initializer_list<int> transmitCode = {TCOD}, transmitTone = {TTON};
+    switch (col) {
+    case RTON:
+        return codes;
+    case RCOD:
+        return tones;
+    case TTON:
+        return transmitCode;
+    case TCOD:
+        return transmitTone;
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+void ZelkChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
+    WriteChosen(grid, row, col, m_value);
+    if (col == RTON || col == RCOD)
+        WriteChosen(grid, row, col + TransmitOffset, m_value);
+    const int type = CurrentParameters().Type;
+    if (type == ANFM || type == ANAM || type == FXAM)
+        for (int other : ExcludedColumns(col))
+            grid->SetCellValue(row, other, "OFF");
+    if (!IsP25Type(type))
+        return;
+    if (col == MODE)
+        SetSquelchChoices(grid, row, m_value, true);
+    else if (col == RSQL && (m_value == "x" || m_value == "t" || m_value == "c"))
+        grid->SetCellValue(row, TSQL, m_value);
+}
+
+void MDLXBandChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
+    grid->SetCellValue(row, col, m_value);
+    const int band = GetRowBand(grid, row);
+    if (band == GetFreqBand(grid->GetCellValue(row, RFRQ), ANFM))
+        return;
+    const int step = GetChannelStep(CurrentParameters().Radio, band);
+    for (int frequency : {RFRQ, TFRQ}) {
+        grid->SetCellValue(row, frequency, "");
+        grid->SetCellEditor(row, frequency, new FrequencyEditor(row, band, step));
+    }
+    SetBandEditors(grid, row, band, true);
+}

@@ -1,0 +1,31 @@
+#include "editing/DescriptionCell.h"
+
+#include <wx/textctrl.h>
+
+wxIMPLEMENT_DYNAMIC_CLASS(ZelkDescriptionValidator, wxValidator);
+
+wxBEGIN_EVENT_TABLE(ZelkDescriptionValidator, wxValidator) EVT_CHAR(ZelkDescriptionValidator::OnChar)
+    EVT_TEXT_PASTE(wxID_ANY, ZelkDescriptionValidator::OnPaste)
+        EVT_TEXT(wxID_ANY, ZelkDescriptionValidator::OnText) wxEND_EVENT_TABLE()
+
+            bool ZelkDescriptionValidator::IsValidChar(wxUniChar character) const {
+    const auto code = character.GetValue();
+    if (m_mode == 5 && code >= 32 && code <= 126)
+        return true;
+    if ((m_mode == 1 || m_mode == 2) && code >= 32 && code <= 122)
+        return true;
+    if ((code >= 'A' && code <= 'Z') || (code >= 'a' && code <= 'z') || (code >= 45 && code <= 58))
+        return true;
+    return code == '+' || code == ' ' || code == '?' || code == '_';
+}
+
+void ZelkDescriptionValidator::OnText(wxCommandEvent& event) {
+    if (m_mode == 0 || m_mode == 6 || m_mode == 7)
+        MakeUpperCase();
+    event.Skip(true);
+}
+
+ZelkDescriptionEditor::ZelkDescriptionEditor(int maxChars, int mode)
+    : TextCellEditor(maxChars), m_rules(nullptr, mode) {
+    SetValidator(m_rules);
+}

@@ -1,0 +1,64 @@
+#include "editing/DigitalSquelchCell.h"
+
+#include "catalogue/MemoryRow.h"
+
+#include <wx/textctrl.h>
+
+wxIMPLEMENT_DYNAMIC_CLASS(DigitalSquelchValidator, wxValidator);
+
+wxBEGIN_EVENT_TABLE(DigitalSquelchValidator, wxValidator) EVT_CHAR(DigitalSquelchValidator::OnChar)
+    EVT_TEXT_PASTE(wxID_ANY, DigitalSquelchValidator::OnPaste)
+        EVT_TEXT(wxID_ANY, DigitalSquelchValidator::OnText) wxEND_EVENT_TABLE()
+
+            bool DigitalSquelchValidator::TransferToWindow() {
+    if (!m_value)
+        return true;
+    wxTextCtrl* control = Control();
+    if (!control)
+        return false;
+    control->SetValue(*m_value);
+    return true;
+}
+
+bool DigitalSquelchValidator::TransferFromWindow() {
+    if (!m_value)
+        return true;
+    const wxTextCtrl* control = Control();
+    if (!control)
+        return false;
+    *m_value = control->GetValue();
+    return true;
+}
+
+void DigitalSquelchValidator::SetRange(int min, int max) {
+    m_min = min;
+    m_max = max;
+}
+
+bool DigitalSquelchValidator::IsValidChar(wxUniChar character) const {
+    const auto code = character.GetValue();
+    return (code >= '0' && code <= '9') || (code >= 'A' && code <= 'F') || (code >= 'a' && code <= 'f');
+}
+
+void DigitalSquelchValidator::OnText(wxCommandEvent& event) {
+    MakeUpperCase();
+    event.Skip(true);
+}
+
+DigitalSquelchEditor::DigitalSquelchEditor(int maxChars, int min, int max)
+    : FinishedTextEditor(maxChars), m_rules(&m_held, min, max) {
+    SetValidator(m_rules);
+}
+
+std::optional<wxString> DigitalSquelchEditor::Finish(const wxString& typed) const {
+    return ("0000" + typed.Upper()).Right(Width());
+}
+
+void DigitalSquelchEditor::ApplyEdit(int row, int col, wxGrid* grid) {
+    grid->SetCellValue(row, col, m_held);
+    if (col == RTGP)
+        grid->SetCellValue(row, TTGP, m_held);
+    if (col == RNAC)
+        grid->SetCellValue(row, TNAC, m_held);
+    m_held.clear();
+}

@@ -1,0 +1,56 @@
+// The cells of the P25 squelch values: talk groups and NACs, in hexadecimal digits.
+#pragma once
+
+#include "editing/TextCell.h"
+
+#include <cstdint>
+
+/// Takes only hexadecimal digits, and writes them upper case.
+class DigitalSquelchValidator : public TextCellValidator {
+public:
+    DigitalSquelchValidator() : DigitalSquelchValidator(nullptr, 0, 0) {}
+    /// The range is kept and not looked at: the width of the cell limits the value.
+    DigitalSquelchValidator(wxString* value, int min, int max)
+        : TextCellValidator(value), m_min(min), m_max(max) {}
+    DigitalSquelchValidator(const DigitalSquelchValidator& other) = default;
+
+    wxObject* Clone() const override { return new DigitalSquelchValidator(*this); }
+    bool Validate(wxWindow* parent) override { return TextCellValidator::Validate(parent); }
+    /// Both are true without a value and false without a text control.
+    bool TransferToWindow() override;
+    bool TransferFromWindow() override;
+    wxString IsValid(const wxString& text) const override { return TextCellValidator::IsValid(text); }
+    virtual void SetRange(int min, int max);
+
+    /// Hexadecimal digits of either case.
+    bool IsValidChar(wxUniChar character) const override;
+
+    int32_t GetMin() const { return m_min; }
+    int32_t GetMax() const { return m_max; }
+    const wxString* GetValuePointer() const { return m_value; }
+
+private:
+    void OnText(wxCommandEvent& event);
+
+    int32_t m_min, m_max;
+
+    wxDECLARE_DYNAMIC_CLASS(DigitalSquelchValidator);
+    wxDECLARE_EVENT_TABLE();
+};
+
+/// Completes what is typed to maxChars hexadecimal digits.
+class DigitalSquelchEditor : public FinishedTextEditor {
+public:
+    /// maxChars: 4 for a talk group, 3 for a NAC. The range isn't looked at.
+    DigitalSquelchEditor(int maxChars, int min, int max);
+
+    /// Writes the value; a receive value is carried to its transmit twin.
+    void ApplyEdit(int row, int col, wxGrid* grid) override;
+
+protected:
+    bool CanStartWith(wxUniChar character) const override { return m_rules.IsValidChar(character); }
+    std::optional<wxString> Finish(const wxString& typed) const override;
+
+private:
+    DigitalSquelchValidator m_rules;
+};

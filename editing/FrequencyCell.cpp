@@ -1,0 +1,95 @@
+#include "editing/FrequencyCell.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "editing/FrequencyRules.h"
+
+#include <wx/textctrl.h>
+
+wxIMPLEMENT_DYNAMIC_CLASS(FrequencyValidator, wxValidator);
+
+wxBEGIN_EVENT_TABLE(FrequencyValidator, wxValidator) EVT_CHAR(FrequencyValidator::OnChar)
+    EVT_TEXT_PASTE(wxID_ANY, FrequencyValidator::OnPaste) wxEND_EVENT_TABLE()
+
+        namespace {
+
+    /// Writes a cell and takes the paint of a repair off it.
+    void WriteClean(wxGrid * grid, int row, int col, const wxString& text) {
+        grid->SetCellValue(row, col, text);
+        grid->SetCellBackgroundColour(row, col, grid->GetCellBackgroundColour(0, 0));
+    }
+
+} // namespace
+
+int GetRowBand(const wxGrid* grid, int row) {
+    return std::max(RadioCatalogue::FindBand(grid->GetCellValue(row, BAND)), 0);
+}
+
+FrequencyValidator::FrequencyValidator(wxString* value, int row, int band, int step)
+    : TextCellValidator(value), m_band(band), m_step(step) {
+    if (CurrentParameters().Type == RadioCatalogue::MDLX)
+        m_band = GetRowBand(CurrentGrid(), row);
+}
+
+void FrequencyValidator::SetFreqParams(int band, int step) {
+    m_band = band;
+    m_step = step;
+}
+
+bool FrequencyValidator::IsValidChar(wxUniChar character) const {
+    return (character >= '0' && character <= '9') || character == '.';
+}
+
+bool FrequencyValidator::IsGoodKey(wxUniChar character) const {
+    if (!IsValidChar(character))
+        return false;
+    const wxTextCtrl* control = Control();
+    if (!control)
+        return true;
+    const wxString text = control->GetValue();
+    const long caret = control->GetInsertionPoint();
+    return IsOkFreq(text.Left(caret) + character + text.Mid(caret), m_band, m_step);
+}
+
+bool FrequencyValidator::IsGoodPaste(const wxString& clipboard) const {
+    const wxTextCtrl* control = Control();
+    if (!control)
+        return true;
+    const wxString text = control->GetValue();
+    const long caret = control->GetInsertionPoint();
+    // Meant: the "c" makes a paste that brings a point fail, and lets one of bare digits pass. What
+    // is selected counts although the paste would replace it, and that is meant too.
+    return IsOkFreq(text.Left(caret) + clipboard + "c" + text.Mid(caret), m_band, m_step);
+}
+
+FrequencyEditor::FrequencyEditor(int row, int band, int step)
+    : FinishedTextEditor(FrequencyWidth(band, step)), m_rules(&m_held, row, band, step) {
+    SetValidator(m_rules);
+}
+
+void FrequencyEditor::SetEditorFreqParams(int band, int step) {
+    m_rules.SetFreqParams(band, step);
+    // The toolkit types against a copy.
+    SetValidator(m_rules);
+}
+
+bool FrequencyEditor::CanStartWith(wxUniChar character) const {
+    return character != '.' && m_rules.IsValidChar(character);
+}
+
+std::optional<wxString> FrequencyEditor::Finish(const wxString& typed) const {
+    wxString text = typed;
+    if (!FormatFreq(text, m_rules.GetBand(), m_rules.GetStep(), static_cast<int>(Width())))
+        return std::nullopt;
+    return text;
+}
+
+void FrequencyEditor::ApplyEdit(int row, int col, wxGrid* grid) {
+    WriteClean(grid, row, col, m_held);
+    const bool rxOnly = CheckRxOnlyFreq(m_held);
+    if (col == RFRQ && !rxOnly)
+        WriteClean(grid, row, TFRQ, m_held);
+    if (col == TFRQ && rxOnly)
+        grid->SetCellValue(row, TFRQ, "n/a");
+    m_held.clear();
+}

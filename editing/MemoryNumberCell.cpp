@@ -1,0 +1,56 @@
+#include "editing/MemoryNumberCell.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "editing/MemoryNumbers.h"
+#include "editing/ShadowSlots.h"
+#include "frame/Messages.h"
+
+void ZelkMemoryNumberEditor::ApplyEdit(int row, int, wxGrid* grid) {
+    const int number = ReadDecimal(GetValue());
+    const int rows = CurrentParameters().Rows;
+    const int duplicate = FindDuplicateMNum(1, row, rows, number);
+    if (duplicate <= rows) {
+        DisplayError(ResultNumberUsed, duplicate);
+        return;
+    }
+    const wxString text = NumberText(number);
+    if (CurrentPageIsP25()) {
+        if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowLinkFlag)
+            for (int shadow : ShadowRowsOf(grid, row)) {
+                grid->SetCellValue(shadow, PRIM, text);
+                grid->SetCellValue(shadow, SHAD, "S-" + text);
+                grid->SetReadOnly(shadow, SHAD, true);
+            }
+        grid->SetCellValue(row, PRIM, text);
+    }
+    grid->SetCellValue(row, MNUM, text);
+}
+
+wxString MemoryNumberText(const wxString& text, int row) {
+    if (text.empty())
+        return "";
+    const int number = ReadDecimal(text);
+    if (number == 0)
+        return row == 0 ? "DEF" : "";
+    const int rows = CurrentParameters().Rows;
+    if (HasGuardRows(CurrentPage)) {
+        if (number == rows - 1)
+            return "GD1";
+        if (number == rows)
+            return "GD2";
+    }
+    return NumberText(number);
+}
+
+wxString IdcNumberText(const wxString& text) {
+    return text.empty() ? wxString() : wxString::Format("%07d", ReadDecimal(text));
+}
+
+wxString MemoryNumberRenderer::TextOf(const wxGrid& grid, int row, int col) const {
+    return MemoryNumberText(grid.GetCellValue(row, col), row);
+}
+
+wxString IDCNumberRenderer::TextOf(const wxGrid& grid, int row, int col) const {
+    return IdcNumberText(grid.GetCellValue(row, col));
+}

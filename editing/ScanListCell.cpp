@@ -1,0 +1,81 @@
+#include "editing/ScanListCell.h"
+
+#include "catalogue/MemoryRow.h"
+#include "catalogue/TextNumbers.h"
+
+#include <wx/msgdlg.h>
+
+namespace {
+
+constexpr int Boxes = 5;
+
+/// The box (0 to 4) under a mouse position of the grid's window, -1 when there is none. width is that
+/// of all boxes.
+int BoxAt(const wxPoint& position, int col, int width, const wxGrid* grid) {
+    int left = 0;
+    for (int before = 0; before < col; ++before)
+        if (grid->IsColShown(before))
+            left += grid->GetColSize(before);
+    const int within = grid->CalcUnscrolledPosition(position).x - left;
+    const int boxWidth = width / Boxes;
+    if (within < 0 || boxWidth == 0 || within / boxWidth >= Boxes)
+        return -1;
+    return within / boxWidth;
+}
+
+} // namespace
+
+void SetScanCell(wxGrid* grid, int row, int col, const wxString& text, bool flag) {
+    grid->SetCellValue(row, col, text);
+    const wxGridCellAttrPtr attr = grid->GetOrCreateCellAttrPtr(row, col);
+    attr->SetRenderer(new ScanlistRenderer);
+    attr->SetEditor(new ScanlistEditor(flag));
+    attr->SetFont(grid->GetDefaultCellFont());
+}
+
+int GetScanMask(const wxGrid* grid, int row, int col) {
+    if (grid->GetCellValue(row, MNUM).empty())
+        return -1;
+    const int mask = ReadDecimal(grid->GetCellValue(row, col));
+    return mask >= 0 && mask < 1 << Boxes ? mask : 0;
+}
+
+wxString ScanMaskText(int mask) {
+    wxString text;
+    if (mask >= 0)
+        for (int box = 0; box < Boxes; ++box)
+            text += wxUniChar(mask >> box & 1 ? 0x2612 : 0x2610);
+    return text;
+}
+
+wxGridActivationResult ScanlistEditor::TryActivate(int row, int col, wxGrid* grid,
+                                                   const wxGridActivationSource& source) {
+    const int mask = GetScanMask(grid, row, col);
+    int box = -1;
+    if (source.GetOrigin() == wxGridActivationSource::Key) {
+        const int key = source.GetKeyEvent().GetUnicodeKey();
+        if (key >= '1' && key < '1' + Boxes)
+            box = key - '1';
+    } else if (source.GetOrigin() == wxGridActivationSource::Mouse) {
+        int width = 0, height = 0;
+        const wxFont font = grid->GetCellFont(row, col);
+        grid->GetGridWindow()->GetTextExtent(ScanMaskText(mask), &width, &height, nullptr, nullptr, &font);
+        if (width == 0)
+            wxMessageBox("Chan number cannot be empty!", "ERROR", wxOK | wxCENTRE);
+        else
+            box = BoxAt(source.GetMouseEvent().GetPosition(), col, width, grid);
+    }
+    if (box < 0)
+        return wxGridActivationResult::DoNothing();
+    // Meant: without a number the mask is -1, and a key turns over a bit of that.
+    m_value.Printf("%d", mask ^ 1 << box);
+    return wxGridActivationResult::DoChange(m_value);
+}
+
+void ScanlistEditor::DoActivate(int row, int col, wxGrid* grid) {
+    grid->SetCellValue(row, col, m_value);
+}
+
+wxString ScanlistRenderer::TextOf(const wxGrid& grid, int row, int col) const {
+    return ScanMaskText(GetScanMask(&grid, row, col));
+}

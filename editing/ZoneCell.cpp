@@ -1,0 +1,76 @@
+#include "editing/ZoneCell.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/RadioCatalogue.h"
+#include "catalogue/TextNumbers.h"
+#include "catalogue/ZoneSlots.h"
+#include "editing/ShadowSlots.h"
+
+#include <wx/combobox.h>
+
+using namespace RadioCatalogue;
+
+namespace {
+
+/// The zone of second generation radios that is never scanned.
+constexpr int UnscannedZone = 31;
+
+} // namespace
+
+void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
+    // The last zone of a first generation radio belongs to its guard rows.
+    const int limit = CurrentParameters().Type == RP25 ? 14 : UnscannedZone;
+    // Meant: an edit that is given up leaves the row without its slot until the slots are counted anew.
+    m_startZone = grid->GetCellValue(row, ZONE);
+    ReleaseP25ZonePosition(ZoneList.Index(m_startZone));
+
+    const bool scanned = grid->GetCellValue(row, SCAN) == "Y";
+    const int32_t* slots = ZoneSlotsOf(CurrentPage);
+    wxString names;
+    for (int zone = 0; zone <= limit; ++zone) {
+        if (slots[zone] == ZoneCapacity || (zone == UnscannedZone && scanned))
+            continue;
+        if (!names.empty())
+            names += ',';
+        names += ZoneNames32[zone];
+    }
+    // No parameters would leave the former list.
+    m_choices.clear();
+    SetParameters(names);
+    // The list box was filled when it was made, which the parameters don't reach.
+    Combo()->Set(m_choices);
+    wxGridCellChoiceEditor::BeginEdit(row, col, grid);
+    m_givenUp = false;
+}
+
+void P25ZoneEditor::Reset() {
+    wxGridCellChoiceEditor::Reset();
+    m_givenUp = true;
+}
+
+bool P25ZoneEditor::EndEdit(int, int, const wxGrid*, const wxString&, wxString* newval) {
+    if (m_givenUp)
+        return false;
+    // Also a choice of the same zone counts: its slot was given back when the edit began.
+    m_value = Combo()->GetValue();
+    if (newval)
+        *newval = m_value;
+    return true;
+}
+
+void P25ZoneEditor::ApplyEdit(int row, int, wxGrid* grid) {
+    const wxString before = grid->GetCellValue(row, ZONE);
+    const int zone = ZoneList.Index(m_value);
+    if (!TakeP25ZonePosition(zone))
+        return;
+    // A blank row has been filled since the edit began, and given a zone.
+    if (before != m_startZone)
+        ReleaseP25ZonePosition(ZoneList.Index(before));
+    grid->SetCellValue(row, ZONE, m_value);
+    grid->SetReadOnly(row, SCAN, zone == UnscannedZone);
+    if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowLinkFlag) {
+        const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
+        for (int shadow : ShadowRowsOf(grid, number))
+            grid->SetCellValue(shadow, ZONE, grid->GetCellValue(number, ZONE));
+    }
+}

@@ -1,0 +1,113 @@
+// Cells of the page, edited as by a person, and what the grid says about them.
+#pragma once
+
+#include "tests/support/ZelkWindowTest.h"
+
+#include "tests/support/Keys.h"
+#include "tests/support/Modals.h"
+
+#include <wx/combobox.h>
+#include <wx/generic/grideditors.h>
+
+#include <string>
+#include <typeinfo>
+#include <vector>
+
+using Texts = std::vector<std::string>;
+
+/// Radio indices by kind of page.
+constexpr int Krv47 = 1, Orv12 = 2, Krv214 = 3, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8, Krv620 = 10,
+              Kdrv8400 = 16, Kdrv4 = 17;
+
+class CellTest : public ZelkWindowTest {
+protected:
+    void SetUp() override {
+        ZelkWindowTest::SetUp();
+        testbench::ShowAndFocus(*MainFrame);
+    }
+
+    void TearDown() override {
+        CommitOpenEditor();
+        ZelkWindowTest::TearDown();
+    }
+
+    static wxGrid* Grid() { return CurrentGrid(); }
+
+    /// The first page becomes one of the wide module, with a band in each row.
+    static void RetargetModule() { Retarget(Kdrv4, 5); }
+
+    /// Gives memories the texts of the default row, as if somebody had typed into them.
+    static void Fill(std::initializer_list<int> rows) { FillRowsFromDefault(rows); }
+
+    static bool IsLocked(int row, int col) { return Grid()->IsReadOnly(row, col); }
+
+    /// The cell's editor, which stays the grid's.
+    static wxGridCellEditor* EditorAt(int row, int col) {
+        wxGridCellEditor* editor = Grid()->GetCellEditor(row, col);
+        editor->DecRef();
+        return editor;
+    }
+
+    /// The cell's renderer, which stays the grid's.
+    static wxGridCellRenderer* RendererAt(int row, int col) {
+        wxGridCellRenderer* renderer = Grid()->GetCellRenderer(row, col);
+        renderer->DecRef();
+        return renderer;
+    }
+
+    static std::string EditorClass(int row, int col) { return ClassOf(*EditorAt(row, col)); }
+    static std::string RendererClass(int row, int col) { return ClassOf(*RendererAt(row, col)); }
+
+    /// Opens the editor of a choice cell by key and waits until it has the keyboard.
+    static wxComboBox* OpenChoice(int row, int col) {
+        GoTo(row, col);
+        testbench::PressKey("F2");
+        EXPECT_TRUE(Grid()->IsCellEditControlShown()) << row << ", " << col;
+        return dynamic_cast<wxComboBox*>(EditorAt(row, col)->GetControl());
+    }
+
+    /// The texts that the cell offers; the edit is given up.
+    static Texts OfferedIn(int row, int col) {
+        Texts offered;
+        if (wxComboBox* combo = OpenChoice(row, col))
+            for (const wxString& text : combo->GetStrings())
+                offered.push_back(text.utf8_string());
+        testbench::PressKey("Escape");
+        return offered;
+    }
+
+    /// Chooses a text by keys, as a person does.
+    static void Choose(int row, int col, const std::string& text) {
+        wxComboBox* combo = OpenChoice(row, col);
+        ASSERT_NE(combo, nullptr) << row << ", " << col;
+        const int wanted = combo->FindString(text, true);
+        ASSERT_NE(wanted, wxNOT_FOUND) << text << " isn't offered";
+        for (int at = combo->GetSelection(); at != wanted; at += at < wanted ? 1 : -1)
+            testbench::PressKey(at < wanted ? "Down" : "Up");
+        ASSERT_EQ(text, combo->GetValue().utf8_string()) << row << ", " << col;
+        testbench::PressKey("Return");
+        EXPECT_FALSE(Grid()->IsCellEditControlShown()) << row << ", " << col;
+    }
+
+    static void GoTo(int row, int col) {
+        Grid()->GoToCell(row, col);
+        Grid()->SetFocus();
+        testbench::PumpUntilIdle();
+    }
+
+    static std::string Text(int row, int col) { return Cell(row, col).utf8_string(); }
+
+    static Texts TextsOf(int row, std::initializer_list<int> cols) {
+        Texts texts;
+        for (int col : cols)
+            texts.push_back(Text(row, col));
+        return texts;
+    }
+
+    template <class Thing>
+    static std::string ClassOf(const Thing& thing) {
+        // The name behind its length, as this compiler writes it.
+        const std::string name = typeid(thing).name();
+        return name.substr(name.find_first_not_of("0123456789"));
+    }
+};

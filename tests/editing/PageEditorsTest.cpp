@@ -1,0 +1,266 @@
+// Which editor, renderer, alignment and read-only mark each cell of each kind of page has.
+#include "tests/editing/CellTools.h"
+
+#include <map>
+#include <set>
+
+namespace {
+
+/// What a cell is to have. Columns that a table doesn't name have the grid's defaults.
+struct Look {
+    int col;
+    const char* editor;
+    const char* renderer;
+    bool centred;
+};
+
+const char* const Plain = "wxGridCellStringRenderer";
+const char* const TextEditor = "wxGridCellTextEditor";
+
+/// Pages that aren't P25; tones and what some of them have besides are told apart below.
+const std::vector<Look> AnalogLooks = {
+    {1, "ZelkMemoryNumberEditor", "MemoryNumberRenderer", false},
+    {5, "ScanlistEditor", "ScanlistRenderer", false},
+    {7, "ZelkDescriptionEditor", Plain, false},
+    {8, "wxGridCellChoiceEditor", Plain, true},
+    {9, "FrequencyEditor", Plain, true},
+    {13, "ZelkChoiceEditor", Plain, true},
+    {16, "FrequencyEditor", Plain, true},
+    {19, "ZelkChoiceEditor", Plain, true},
+};
+
+/// Tones of pages whose band has them.
+const std::vector<Look> Tones = {{12, "ZelkChoiceEditor", Plain, true},
+                                 {18, "ZelkChoiceEditor", Plain, true}};
+/// Tones of AM pages.
+const std::vector<Look> NoTones = {{12, TextEditor, Plain, true}, {18, TextEditor, Plain, true}};
+const std::vector<Look> BandChoice = {{4, "MDLXBandChoiceEditor", Plain, true}};
+const std::vector<Look> YesNo = {{5, "wxGridCellChoiceEditor", Plain, true},
+                                 {30, "wxGridCellChoiceEditor", Plain, true}};
+
+const std::vector<Look> P25Looks = {
+    {1, "ZelkMemoryNumberEditor", "MemoryNumberRenderer", false},
+    {3, TextEditor, Plain, true},
+    {5, "wxGridCellChoiceEditor", Plain, true},
+    {6, "P25ZoneEditor", Plain, true},
+    {7, "ZelkDescriptionEditor", Plain, false},
+    {8, "ZelkChoiceEditor", Plain, true},
+    {9, "FrequencyEditor", Plain, true},
+    {10, "ZelkChoiceEditor", Plain, true},
+    {11, TextEditor, Plain, true},
+    {12, "ZelkChoiceEditor", Plain, true},
+    {13, "ZelkChoiceEditor", Plain, true},
+    {14, "DigitalSquelchEditor", Plain, true},
+    {15, "DigitalSquelchEditor", Plain, true},
+    {16, "FrequencyEditor", Plain, true},
+    {17, "ZelkChoiceEditor", Plain, true},
+    {18, "ZelkChoiceEditor", Plain, true},
+    {19, "ZelkChoiceEditor", Plain, true},
+    {20, "DigitalSquelchEditor", Plain, true},
+    {21, "DigitalSquelchEditor", Plain, true},
+    {22, "wxGridCellNumberEditor", "IDCNumberRenderer", false},
+};
+const std::vector<Look> SquelchValue = {{11, "wxGridCellNumberEditor", Plain, true}};
+
+struct Page {
+    const char* name;
+    int radio, slot;
+    std::vector<std::vector<Look>> looks;
+};
+
+const std::vector<Page>& Pages() {
+    static const std::vector<Page> pages = {
+        {"KRV-47, ANFM", Krv47, 0, {AnalogLooks, Tones}},
+        {"KRV-620 UHF, ANAM", Krv620, 1, {AnalogLooks, NoTones}},
+        {"KDRV-8400 VHF, ANAM", Kdrv8400, 1, {AnalogLooks, NoTones}},
+        {"ORV-12, O12", Orv12, 0, {AnalogLooks, NoTones}},
+        {"KDRV-4xxx, MDLX", Kdrv4, 5, {AnalogLooks, Tones, BandChoice}},
+        {"KDAR-2000, KDAR", Kdar2000, 0, {AnalogLooks, NoTones, YesNo}},
+        {"KDRV-716, RP25", Kdrv716, 0, {P25Looks}},
+        {"KDRV-716B, NP25", Kdrv716B, 0, {P25Looks, SquelchValue}},
+    };
+    return pages;
+}
+
+class PageEditors : public CellTest {
+protected:
+    static void CheckCell(int row, int col, const Look& look) {
+        EXPECT_EQ(look.editor, EditorClass(row, col)) << row << ", " << col;
+        EXPECT_EQ(look.renderer, RendererClass(row, col)) << row << ", " << col;
+        int horizontal, vertical;
+        Grid()->GetCellAlignment(row, col, &horizontal, &vertical);
+        EXPECT_EQ(look.centred ? wxALIGN_CENTRE : wxALIGN_LEFT, horizontal) << row << ", " << col;
+        EXPECT_EQ(look.centred ? wxALIGN_CENTRE : wxALIGN_TOP, vertical) << row << ", " << col;
+    }
+
+    static void CheckPage(const Page& page) {
+        SCOPED_TRACE(page.name);
+        std::map<int, Look> looks;
+        for (int col = 0; col < 32; ++col)
+            looks[col] = {col, TextEditor, Plain, false};
+        for (const std::vector<Look>& table : page.looks)
+            for (const Look& look : table)
+                looks[look.col] = look;
+        const int rows = CurrentParameters().Rows;
+        for (int row : {0, 1, rows / 2, rows - 2, rows - 1, rows})
+            for (const auto& [col, look] : looks)
+                CheckCell(row, col, look);
+    }
+
+    /// A page on which no other radio has left anything; it becomes the current one.
+    static void AddFreshPage(const Page& page) {
+        SetPageParameters(MainFrame, 1, page.radio, page.slot);
+        CreateNewPage(MainFrame, 1);
+        testbench::PumpUntilIdle();
+    }
+
+    /// Row and column of all cells that are read-only.
+    static std::set<std::pair<int, int>> Locks() {
+        std::set<std::pair<int, int>> locks;
+        for (int row = 0; row < Grid()->GetNumberRows(); ++row)
+            for (int col = 0; col < 32; ++col)
+                if (IsLocked(row, col))
+                    locks.insert({row, col});
+        return locks;
+    }
+};
+
+} // namespace
+
+TEST_F(PageEditors, GiveEachCellItsEditorRendererAndAlignment) {
+    for (const Page& page : Pages()) {
+        TearDown();
+        SetUp();
+        AddFreshPage(page);
+        CheckPage(page);
+    }
+}
+
+TEST_F(PageEditors, OfTheFirstPageAreWholeAtTheStart) {
+    CheckPage(Pages()[0]);
+    EXPECT_EQ(65u, OfferedIn(1, RTON).size());
+    EXPECT_EQ(84u, OfferedIn(1, RCOD).size());
+}
+
+TEST_F(PageEditors, LockTheDefaultNumberAndWhatTheRadioFixes) {
+    for (const Page& page : Pages()) {
+        SCOPED_TRACE(page.name);
+        TearDown();
+        SetUp();
+        AddFreshPage(page);
+        std::set<std::pair<int, int>> expected = {{0, 1}};
+        const int rows = CurrentParameters().Rows;
+        const bool p25 = page.radio == Kdrv716 || page.radio == Kdrv716B;
+        if (p25)
+            for (int row = 0; row <= rows; ++row)
+                expected.insert({row, 3});
+        if (rows % 10 == 2)
+            for (int row : {rows - 1, rows})
+                for (int col : p25 ? std::vector<int>{1, 5, 6} : std::vector<int>{1, 5, 12, 13})
+                    expected.insert({row, col});
+        EXPECT_EQ(expected, Locks());
+    }
+}
+
+TEST_F(PageEditors, KeepLocksOfP25MemoriesAndLiftThoseOfOthers) {
+    Retarget(Kdrv716B, 0);
+    for (int col : {1, 5, 6, 9, 16})
+        Grid()->SetReadOnly(9, col, true);
+    SetPageEditors(CurrentPage);
+    for (int col : {1, 3, 5, 6, 9, 16})
+        EXPECT_TRUE(IsLocked(9, col)) << col;
+    Retarget(Krv47, 0);
+    for (int col : {1, 5, 6, 9, 16, 12, 13, 8, 18, 19}) {
+        Grid()->SetReadOnly(9, col, true);
+        SetPageEditors(CurrentPage);
+        EXPECT_FALSE(IsLocked(9, col)) << col;
+    }
+}
+
+TEST_F(PageEditors, NeverShareAnEditor) {
+    for (int radio : {Krv47, Kdrv716B}) {
+        Retarget(radio, 0);
+        std::map<wxGridCellEditor*, std::pair<int, int>> seen;
+        for (int row = 0; row < Grid()->GetNumberRows(); ++row)
+            for (int col : {1, 5, 7, 8, 9, 12, 13, 16, 18, 19}) {
+                const auto [place, isNew] = seen.insert({EditorAt(row, col), {row, col}});
+                EXPECT_TRUE(isNew) << row << ", " << col << " and " << place->second.first << ", "
+                                   << place->second.second;
+            }
+    }
+}
+
+TEST_F(PageEditors, OfferTheChoicesOfTheRadio) {
+    struct Line {
+        int radio, col;
+        size_t count;
+        const char *first, *last;
+    };
+    int radio = -1;
+    for (const Line& line : std::initializer_list<Line>{{Krv47, 8, 2, "W", "N"},
+                                                        {Krv47, 12, 65, "OFF", "OFF"},
+                                                        {Krv47, 18, 65, "OFF", "OFF"},
+                                                        {Krv47, 13, 84, "OFF", "754"},
+                                                        {Krv47, 19, 84, "OFF", "754"},
+                                                        {Kdar2000, 5, 2, "Y", "N"},
+                                                        {Kdar2000, 30, 2, "Y", "N"},
+                                                        {Kdrv716, 5, 2, "Y", "N"},
+                                                        {Kdrv716, 6, 15, "1", "15"},
+                                                        {Kdrv716, 8, 3, "w", "D"},
+                                                        {Kdrv716, 10, 3, "x", "c"},
+                                                        {Kdrv716, 17, 3, "x", "c"},
+                                                        {Kdrv716, 12, 42, "67.0", "254.8"},
+                                                        {Kdrv716, 18, 42, "67.0", "254.8"},
+                                                        {Kdrv716, 13, 83, "023", "754"},
+                                                        {Kdrv716, 19, 83, "023", "754"},
+                                                        {Kdrv716B, 13, 83, "023", "754"},
+                                                        {Kdrv716B, 6, 32, "1", "X"}}) {
+        if (radio != line.radio)
+            Retarget(radio = line.radio, 0);
+        // Hidden cells can't be opened by hand.
+        Grid()->SetColMinimalWidth(line.col, 60);
+        Grid()->SetColSize(line.col, 60);
+        const Texts offered = OfferedIn(3, line.col);
+        ASSERT_EQ(line.count, offered.size()) << line.radio << ", " << line.col;
+        EXPECT_EQ(line.first, offered.front()) << line.radio << ", " << line.col;
+        EXPECT_EQ(line.last, offered.back()) << line.radio << ", " << line.col;
+    }
+}
+
+TEST_F(PageEditors, OfDigitalRowsOfferDigitalSquelches) {
+    Retarget(Kdrv716B, 0);
+    Fill({4});
+    SetCell(4, MODE, "D");
+    SetPageEditors(CurrentPage);
+    EXPECT_EQ((Texts{"m", "n", "g"}), OfferedIn(4, RSQL));
+    EXPECT_EQ((Texts{"g", "i", "-"}), OfferedIn(4, TSQL));
+    SetCell(4, MFLG, "02");
+    SetRowEditorsP25(Grid(), 4);
+    EXPECT_EQ((Texts{"g", "-"}), OfferedIn(4, TSQL));
+}
+
+TEST_F(PageEditors, KeepTheTextsOfTheCells) {
+    for (const Page& page : Pages()) {
+        SCOPED_TRACE(page.name);
+        Retarget(page.radio, page.slot);
+        Fill({1, 3});
+        if (page.radio != Kdar2000 && !CurrentPageIsP25())
+            SetCell(3, SCAN, "21");
+        const wxArrayString before[] = {GetRowValues(0, 0), GetRowValues(0, 1), GetRowValues(0, 3)};
+        SetPageEditors(CurrentPage);
+        EXPECT_EQ(before[0], GetRowValues(0, 0));
+        EXPECT_EQ(before[1], GetRowValues(0, 1));
+        EXPECT_EQ(before[2], GetRowValues(0, 3));
+    }
+}
+
+TEST_F(PageEditors, LimitNumbersToWhatTheRadioKnows) {
+    Retarget(Kdrv716B, 0);
+    Fill({4});
+    testbench::TypeIntoCell(*Grid(), 4, RNSV, "99");
+    EXPECT_EQ("15", Text(4, RNSV));
+    testbench::TypeIntoCell(*Grid(), 4, TIDC, "42");
+    EXPECT_EQ("42", Text(4, TIDC));
+    testbench::TypeIntoCell(*Grid(), 4, TIDC, "99999999");
+    EXPECT_EQ("9999999", Text(4, TIDC));
+}

@@ -1,0 +1,222 @@
+// The five boxes of a scan cell, under mouse and keys.
+#include "tests/editing/CellTools.h"
+
+#include <wx/dcmemory.h>
+
+using namespace testbench;
+
+namespace {
+
+const wxString Empty = wxString::FromUTF8("\xE2\x98\x90");
+const wxString Crossed = wxString::FromUTF8("\xE2\x98\x92");
+
+class ScanCells : public CellTest {
+protected:
+    void SetUp() override {
+        CellTest::SetUp();
+        Fill({5});
+    }
+
+    /// Width in pixels of the boxes of a cell with a number.
+    static int BoxesWidth() {
+        const wxFont font = Grid()->GetCellFont(5, SCAN);
+        int width = 0, height = 0;
+        Grid()->GetGridWindow()->GetTextExtent(ScanMaskText(0), &width, &height, nullptr, nullptr, &font);
+        return width;
+    }
+
+    /// Clicks so many pixels right of the left edge of the cell that has the cursor. A first click on
+    /// another cell just brings the cursor there, as in every cell.
+    static void ClickScan(int row, int offset) {
+        Grid()->SetGridCursor(row, SCAN);
+        PumpUntilIdle();
+        const wxRect cell = Grid()->CellToRect(row, SCAN);
+        const wxPoint spot = Grid()->CalcScrolledPosition(wxPoint(cell.x + offset, cell.y + cell.height / 2));
+        ClickAt(*Grid()->GetGridWindow(), spot);
+        // The next click is another one, not the second half of a double click.
+        PumpFor(450);
+    }
+
+    /// The cell's text after one click on a memory that says text.
+    static std::string ClickedFrom(const char* text, int offset) {
+        SetCell(5, SCAN, text);
+        ClickScan(5, offset);
+        return Text(5, SCAN);
+    }
+
+    static std::string KeyedFrom(const char* text, const std::string& key) {
+        SetCell(5, SCAN, text);
+        GoTo(5, SCAN);
+        PressKey(key);
+        return Text(5, SCAN);
+    }
+};
+
+} // namespace
+
+TEST_F(ScanCells, DrawABoxForEachList) {
+    EXPECT_EQ(Empty + Empty + Empty + Empty + Empty, ScanMaskText(0));
+    EXPECT_EQ(Crossed + Crossed + Crossed + Crossed + Crossed, ScanMaskText(31));
+    EXPECT_EQ(Crossed + Empty + Empty + Empty + Empty, ScanMaskText(1));
+    EXPECT_EQ(Empty + Empty + Empty + Empty + Crossed, ScanMaskText(16));
+    EXPECT_EQ(Crossed + Empty + Crossed + Empty + Empty, ScanMaskText(5));
+    EXPECT_EQ("", ScanMaskText(-1));
+    EXPECT_EQ("", ScanMaskText(-2));
+    for (int mask = 0; mask < 32; ++mask)
+        for (int list = 0; list < 5; ++list)
+            EXPECT_EQ(mask / (1 << list) % 2 ? Crossed : Empty, wxString(ScanMaskText(mask)[list]))
+                << mask << ", list " << list + 1;
+}
+
+TEST_F(ScanCells, HoldANumberFrom0To31) {
+    const std::pair<const char*, int> lines[] = {{"31", 31}, {"0", 0},   {"", 0},           {"17", 17},
+                                                 {"032", 0}, {"32", 0},  {"-1", 0},         {"Y", 0},
+                                                 {"N", 0},   {"007", 7}, {"99999999999", 0}};
+    for (const auto& [text, mask] : lines) {
+        SetCell(5, SCAN, text);
+        EXPECT_EQ(mask, GetScanMask(Grid(), 5, SCAN)) << text;
+    }
+}
+
+TEST_F(ScanCells, OfARowWithoutANumberHaveNoBoxes) {
+    SetCell(5, MNUM, "");
+    for (const char* text : {"0", "31", ""}) {
+        SetCell(5, SCAN, text);
+        EXPECT_EQ(-1, GetScanMask(Grid(), 5, SCAN)) << text;
+    }
+}
+
+TEST_F(ScanCells, AreDrawnByTheirRenderer) {
+    auto* renderer = dynamic_cast<ScanlistRenderer*>(RendererAt(5, SCAN));
+    ASSERT_NE(nullptr, renderer);
+    wxBitmap bitmap(10, 10);
+    wxMemoryDC dc(bitmap);
+    const wxGridCellAttrPtr attr = Grid()->GetOrCreateCellAttrPtr(5, SCAN);
+    const std::pair<const char*, int> lines[] = {{"31", 31}, {"0", 0}, {"", 0}, {"6", 6}};
+    for (const auto& [text, mask] : lines) {
+        SetCell(5, SCAN, text);
+        EXPECT_EQ(ScanMaskText(mask), renderer->TextOf(*Grid(), 5, SCAN)) << text;
+        const wxSize best = renderer->GetBestSize(*Grid(), *attr, dc, 5, SCAN);
+        EXPECT_EQ(dc.GetTextExtent(ScanMaskText(mask)), best) << text;
+    }
+    SetCell(5, MNUM, "");
+    EXPECT_EQ("", renderer->TextOf(*Grid(), 5, SCAN));
+}
+
+TEST_F(ScanCells, AreSetUpWithTheirText) {
+    const wxGridCellAttrPtr attr = Grid()->GetOrCreateCellAttrPtr(5, SCAN);
+    wxGridCellEditor* const before = EditorAt(5, SCAN);
+    before->IncRef();
+    attr->SetFont(wxFont(wxFontInfo(30)));
+    SetScanCell(Grid(), 5, SCAN, "21", false);
+    EXPECT_EQ("21", Text(5, SCAN));
+    EXPECT_NE(before, EditorAt(5, SCAN));
+    before->DecRef();
+    EXPECT_EQ("ScanlistEditor", EditorClass(5, SCAN));
+    EXPECT_EQ("ScanlistRenderer", RendererClass(5, SCAN));
+    EXPECT_EQ(Grid()->GetDefaultCellFont(), Grid()->GetCellFont(5, SCAN));
+}
+
+TEST_F(ScanCells, TurnABoxOverByKey) {
+    struct Line {
+        const char *from, *key, *to;
+    };
+    for (const Line& line : std::initializer_list<Line>{{"5", "3", "1"},
+                                                        {"0", "1", "1"},
+                                                        {"0", "2", "2"},
+                                                        {"0", "3", "4"},
+                                                        {"0", "4", "8"},
+                                                        {"0", "5", "16"},
+                                                        {"31", "1", "30"},
+                                                        {"31", "5", "15"},
+                                                        {"", "2", "2"},
+                                                        {"99", "2", "2"}})
+        EXPECT_EQ(line.to, KeyedFrom(line.from, line.key)) << line.from << ", key " << line.key;
+}
+
+TEST_F(ScanCells, IgnoreOtherKeys) {
+    for (const char* key : {"6", "0", "9", "x", "space", "F2", "plus"})
+        EXPECT_EQ("5", KeyedFrom("5", key)) << key;
+}
+
+TEST_F(ScanCells, TurnABoxOverByClick) {
+    const int box = BoxesWidth() / 5;
+    ASSERT_GT(box, 3);
+    ASSERT_GT(Grid()->GetColSize(SCAN), 5 * box + 2) << "there is room behind the boxes";
+    EXPECT_EQ("1", ClickedFrom("0", box / 2)) << "the first box";
+    EXPECT_EQ("0", ClickedFrom("1", box / 2)) << "the first box";
+    EXPECT_EQ("2", ClickedFrom("0", box + box / 2));
+    EXPECT_EQ("4", ClickedFrom("0", 2 * box + box / 2));
+    EXPECT_EQ("23", ClickedFrom("31", 3 * box + box / 2));
+    EXPECT_EQ("16", ClickedFrom("0", 4 * box + 1)) << "the last box";
+    EXPECT_EQ("15", ClickedFrom("31", 5 * box - 1)) << "the last box, at its right edge";
+}
+
+TEST_F(ScanCells, OnlyTakeTheCursorAtTheFirstClick) {
+    SetCell(5, SCAN, "5");
+    GoTo(2, DESC);
+    ClickAt(CellSpot(*Grid(), 5, SCAN));
+    EXPECT_EQ("5", Text(5, SCAN));
+    EXPECT_EQ(wxGridCellCoords(5, SCAN), Grid()->GetGridCursorCoords());
+}
+
+TEST_F(ScanCells, IgnoreAClickBehindTheBoxes) {
+    const int boxes = BoxesWidth() / 5 * 5;
+    EXPECT_EQ("5", ClickedFrom("5", boxes));
+    EXPECT_EQ("5", ClickedFrom("5", Grid()->GetColSize(SCAN) - 2));
+}
+
+TEST_F(ScanCells, AreFoundByClicksOnAScrolledPage) {
+    MainFrame->SetSize(260, 400);
+    PumpUntilIdle();
+    Grid()->Scroll(3, 0);
+    PumpUntilIdle();
+    ASSERT_GT(Grid()->CalcUnscrolledPosition(wxPoint(0, 0)).x, 0);
+    const int box = BoxesWidth() / 5;
+    EXPECT_EQ("8", ClickedFrom("0", 3 * box + box / 2));
+}
+
+TEST_F(ScanCells, OfARowWithoutANumberRefuseTheMouseWithABox) {
+    SetCell(5, MNUM, "");
+    DialogScript dialogs;
+    dialogs.ExpectMessage("ERROR", "Chan number cannot be empty!");
+    EXPECT_EQ("5", ClickedFrom("5", 5));
+    EXPECT_EQ(0u, dialogs.Missing());
+    EXPECT_EQ("", Text(5, MNUM));
+}
+
+TEST_F(ScanCells, OfARowWithoutANumberTurnOverABitOfMinusOneByKey) {
+    SetCell(5, MNUM, "");
+    EXPECT_EQ("-2", KeyedFrom("5", "1"));
+    EXPECT_EQ("-17", KeyedFrom("5", "5"));
+}
+
+TEST_F(ScanCells, TakeNoOrderFromTheProgram) {
+    SetCell(5, SCAN, "5");
+    GoTo(5, SCAN);
+    Grid()->EnableCellEditControl();
+    PumpUntilIdle();
+    EXPECT_EQ("5", Text(5, SCAN));
+    EXPECT_FALSE(Grid()->IsCellEditControlShown());
+}
+
+TEST_F(ScanCells, OfGuardRowsAreFixed) {
+    Fill({121});
+    SetCell(121, SCAN, "5");
+    Grid()->GoToCell(121, SCAN);
+    ClickScan(121, 5);
+    EXPECT_EQ("5", Text(121, SCAN));
+    PressKey("3");
+    EXPECT_EQ("5", Text(121, SCAN));
+}
+
+TEST_F(ScanCells, StandLeftAfterAPageOfYesAndNo) {
+    Retarget(Kdar2000, 0);
+    EXPECT_EQ((Texts{"Y", "N"}), OfferedIn(1, SCAN));
+    EXPECT_EQ("wxGridCellStringRenderer", RendererClass(1, SCAN));
+    Retarget(Krv47, 0);
+    Fill({5});
+    EXPECT_EQ("2", ClickedFrom("0", BoxesWidth() / 5 + 3));
+    Retarget(Kdar2000, 0);
+    EXPECT_EQ("wxGridCellStringRenderer", RendererClass(1, SCAN));
+}

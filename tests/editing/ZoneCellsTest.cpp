@@ -1,0 +1,211 @@
+// Choosing the zone of a P25 memory, and the slots that go with it.
+#include "tests/editing/CellTools.h"
+
+using namespace testbench;
+
+namespace {
+
+class ZoneCells : public CellTest {
+protected:
+    void SetUp() override {
+        CellTest::SetUp();
+        Retarget(Kdrv716B, 0);
+    }
+
+    static const Texts& AllZones() {
+        static const Texts zones = {"1",  "2",  "3",  "4",  "5",  "6", "7", "8", "9", "10", "11",
+                                    "12", "13", "14", "15", "16", "A", "C", "E", "F", "H",  "I",
+                                    "K",  "L",  "M",  "N",  "P",  "T", "U", "V", "W", "X"};
+        return zones;
+    }
+
+    static Texts ZonesBut(std::initializer_list<std::string> missing) {
+        Texts zones = AllZones();
+        for (const std::string& zone : missing)
+            std::erase(zones, zone);
+        return zones;
+    }
+
+    static int SlotsOf(int zone) { return ZoneSlotsOf(CurrentPage)[zone]; }
+
+    static int AllSlots() {
+        int sum = 0;
+        for (int zone = 0; zone < ZonesPerPage; ++zone)
+            sum += SlotsOf(zone);
+        return sum;
+    }
+};
+
+} // namespace
+
+TEST_F(ZoneCells, OfTheSecondGenerationOfferAllZones) {
+    EXPECT_EQ(AllZones(), OfferedIn(2, ZONE));
+}
+
+TEST_F(ZoneCells, OfTheFirstGenerationOfferZones1To15) {
+    Retarget(Kdrv716, 0);
+    EXPECT_EQ(Texts(AllZones().begin(), AllZones().begin() + 15), OfferedIn(2, ZONE));
+    EXPECT_EQ((Texts{"16", "16"}), (Texts{Text(231, ZONE), Text(232, ZONE)}))
+        << "zone 16 belongs to the guard rows";
+    EXPECT_TRUE(IsLocked(231, ZONE));
+    EXPECT_TRUE(IsLocked(232, ZONE));
+}
+
+TEST_F(ZoneCells, OfAScannedRowNeverOfferX) {
+    Fill({2});
+    SetCell(2, SCAN, "Y");
+    EXPECT_EQ(ZonesBut({"X"}), OfferedIn(2, ZONE));
+    SetCell(2, SCAN, "N");
+    EXPECT_EQ(AllZones(), OfferedIn(2, ZONE));
+}
+
+TEST_F(ZoneCells, TakeTheChosenZonesSlotAndGiveBackTheOld) {
+    Fill({2, 3});
+    const int before = AllSlots();
+    ASSERT_EQ(3, SlotsOf(0)) << "rows 1, 2 and 3";
+    Choose(2, ZONE, "3");
+    EXPECT_EQ("3", Text(2, ZONE));
+    EXPECT_EQ(2, SlotsOf(0));
+    EXPECT_EQ(1, SlotsOf(2));
+    EXPECT_EQ(before, AllSlots());
+}
+
+TEST_F(ZoneCells, KeepTheirSlotWhenTheSameZoneIsChosen) {
+    Fill({2});
+    const int before = AllSlots();
+    OpenChoice(2, ZONE);
+    EXPECT_EQ(before - 1, AllSlots()) << "no slot while the edit runs";
+    PressKey("Return");
+    EXPECT_EQ("1", Text(2, ZONE));
+    EXPECT_EQ(before, AllSlots());
+    EXPECT_EQ(2, SlotsOf(0));
+}
+
+TEST_F(ZoneCells, LoseTheirSlotWhenTheEditIsGivenUp) {
+    Fill({2});
+    const int before = AllSlots();
+    OpenChoice(2, ZONE);
+    PressKey("Escape");
+    EXPECT_EQ("1", Text(2, ZONE));
+    EXPECT_EQ(before - 1, AllSlots());
+}
+
+TEST_F(ZoneCells, OfABlankRowLeaveItBlankWhenTheEditIsGivenUp) {
+    const int before = AllSlots();
+    OpenChoice(20, ZONE);
+    PressKey("Down");
+    PressKey("Escape");
+    EXPECT_EQ((Texts{"", ""}), TextsOf(20, {MNUM, ZONE}));
+    EXPECT_EQ(before, AllSlots());
+    Choose(20, ZONE, "3");
+    EXPECT_EQ("3", Text(20, ZONE));
+}
+
+TEST_F(ZoneCells, FillAZoneUpTo16Memories) {
+    for (int row = 2; row <= 17; ++row)
+        Fill({row});
+    ASSERT_EQ("1", Text(16, ZONE));
+    ASSERT_EQ("2", Text(17, ZONE)) << "the seventeenth falls to the next zone";
+    ASSERT_EQ(16, SlotsOf(0));
+    EXPECT_EQ(ZonesBut({"1"}), OfferedIn(17, ZONE)) << "a full zone isn't offered";
+    SetCell(17, ZONE, "");
+    EXPECT_FALSE(TakeP25ZonePosition(0)) << "and takes no more";
+    // A row of the full zone is offered its own, and comes back into it.
+    EXPECT_EQ("1", OpenChoice(9, ZONE)->GetString(0));
+    PressKey("Return");
+    EXPECT_EQ("1", Text(9, ZONE));
+    EXPECT_EQ(16, SlotsOf(0));
+    // Room for one: the next row may come in.
+    Choose(9, ZONE, "5");
+    EXPECT_EQ(15, SlotsOf(0));
+    Choose(17, ZONE, "1");
+    EXPECT_EQ(16, SlotsOf(0));
+    EXPECT_EQ("1", Text(17, ZONE));
+    EXPECT_EQ(ZonesBut({"1"}), OfferedIn(9, ZONE));
+}
+
+TEST_F(ZoneCells, OfferEachTimeWhatHasRoomThen) {
+    Fill({2});
+    ZoneSlotsOf(0)[4] = 16;
+    EXPECT_EQ(ZonesBut({"5"}), OfferedIn(2, ZONE));
+    ZoneSlotsOf(0)[4] = 15;
+    ZoneSlotsOf(0)[31] = 16;
+    EXPECT_EQ(ZonesBut({"X"}), OfferedIn(2, ZONE));
+    ZoneSlotsOf(0)[31] = 17;
+    EXPECT_EQ(AllZones(), OfferedIn(2, ZONE)) << "only exactly 16 is full";
+}
+
+TEST_F(ZoneCells, StayWhenTheChosenZoneHasFilledMeanwhile) {
+    Fill({2});
+    OpenChoice(2, ZONE);
+    PressKey("Down");
+    ZoneSlotsOf(0)[1] = 16;
+    const int before = SlotsOf(0);
+    PressKey("Return");
+    EXPECT_EQ("1", Text(2, ZONE));
+    EXPECT_EQ(before, SlotsOf(0)) << "the slot that was given back stays so";
+    EXPECT_EQ(16, SlotsOf(1));
+}
+
+TEST_F(ZoneCells, OfferNothingWhenAllZonesAreFull) {
+    for (int zone = 0; zone < ZonesPerPage; ++zone)
+        ZoneSlotsOf(0)[zone] = 16;
+    SetCell(2, TFLG, "A0");
+    wxComboBox* combo = OpenChoice(2, ZONE);
+    ASSERT_NE(nullptr, combo);
+    EXPECT_EQ(0u, combo->GetCount());
+    PressKey("Return");
+    EXPECT_EQ("", Text(2, ZONE));
+}
+
+TEST_F(ZoneCells, XIsNotScanned) {
+    Fill({2});
+    Choose(2, ZONE, "X");
+    EXPECT_EQ("X", Text(2, ZONE));
+    EXPECT_TRUE(IsLocked(2, SCAN));
+    EXPECT_EQ(3, SlotsOf(31)) << "with the guard rows";
+    SetPageEditors(CurrentPage);
+    EXPECT_TRUE(IsLocked(2, SCAN));
+    Choose(2, ZONE, "W");
+    EXPECT_FALSE(IsLocked(2, SCAN));
+    EXPECT_EQ(2, SlotsOf(31));
+}
+
+TEST_F(ZoneCells, OfAPrimaryAreToldToItsShadows) {
+    Fill({4, 5, 8, 9});
+    SetCell(5, MFLG, "10");
+    SetCell(5, SHD0, "008");
+    SetCell(5, SHD6, "9");
+    SetCell(5, SHD3, "4");
+    SetCell(5, SHD4, "900");
+    SetCell(8, MFLG, "01");
+    SetCell(9, MFLG, "07");
+    Choose(5, ZONE, "4");
+    EXPECT_EQ("4", Text(5, ZONE));
+    EXPECT_EQ("4", Text(8, ZONE));
+    EXPECT_EQ("4", Text(9, ZONE));
+    EXPECT_EQ("1", Text(4, ZONE)) << "no shadow";
+    EXPECT_EQ(1, SlotsOf(3)) << "shadows hold no slot";
+    SetCell(5, MFLG, "00");
+    Choose(5, ZONE, "2");
+    EXPECT_EQ("4", Text(8, ZONE));
+}
+
+TEST_F(ZoneCells, OfABlankRowTakeOneSlot) {
+    const int before = AllSlots();
+    Choose(20, ZONE, "7");
+    EXPECT_EQ((Texts{"020", "7"}), TextsOf(20, {MNUM, ZONE}));
+    EXPECT_EQ(before + 1, AllSlots());
+    EXPECT_EQ(1, SlotsOf(6));
+}
+
+TEST_F(ZoneCells, OfARowWithoutAZoneGiveNothingBack) {
+    Fill({2});
+    SetCell(2, ZONE, "");
+    const int before = AllSlots();
+    OpenChoice(2, ZONE);
+    EXPECT_EQ(before, AllSlots());
+    PressKey("Return");
+    EXPECT_EQ("1", Text(2, ZONE)) << "the first zone stands in the list";
+    EXPECT_EQ(before + 1, AllSlots());
+}

@@ -24,6 +24,21 @@ void DealZoneAfresh(wxGrid* grid, int row) {
     CheckZone(grid, row, "");
 }
 
+/// Puts a row of a module page on the default row's band, if it has another one. Its frequencies
+/// can't stay then.
+void TakeDefaultBand(wxGrid* grid, int row, const wxString& value) {
+    const int band = GetRowBand(grid, 0);
+    if (GetRowBand(grid, row) == band)
+        return;
+    grid->SetCellValue(row, BAND, value);
+    const int step = RadioCatalogue::GetChannelStep(CurrentParameters().Radio, band);
+    for (int col : {RFRQ, TFRQ}) {
+        grid->SetCellValue(row, col, "");
+        grid->SetCellEditor(row, col, new FrequencyEditor(row, band, step));
+    }
+    SetBandEditors(grid, row, band, true);
+}
+
 /// On analog pages a row has a tone or a code, not both.
 void SwitchRivalsOff(wxGrid* grid, int row, int col) {
     const auto switchOff = [grid, row](int rival) { grid->SetCellValue(row, rival, "OFF"); };
@@ -99,6 +114,10 @@ void DefaultColInRow(int row, int col, const wxString& value) {
     wxGrid* grid = CurrentGrid();
     if (CurrentPageIsP25() && col == ZONE) {
         DealZoneAfresh(grid, row);
+        return;
+    }
+    if (CurrentParameters().Type == RadioCatalogue::MDLX && col == BAND) {
+        TakeDefaultBand(grid, row, value);
         return;
     }
     grid->SetCellValue(row, col, value);

@@ -2,6 +2,7 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "editing/ShadowSlots.h"
 
 #include <wx/grid.h>
 
@@ -68,12 +69,9 @@ void LockLinkedRow(int row, int kind) {
 }
 
 void HandleP25Shadows(wxGridCellEditor*, int number, const wxString&, wxGrid* grid) {
-    if (!IsMemoryRow(number))
-        return;
-    for (int shadow : ShadowNumbers(GetRowValues(CurrentPage, number)))
-        if (IsShadowRow(grid, shadow))
-            for (int col : {RFRQ, TFRQ})
-                grid->SetCellValue(shadow, col, grid->GetCellValue(number, col));
+    for (int shadow : ShadowRowsOf(grid, number))
+        for (int col : {RFRQ, TFRQ})
+            grid->SetCellValue(shadow, col, grid->GetCellValue(number, col));
 }
 
 void RemovePrimary(int row) {

@@ -36,6 +36,7 @@ public:
     void OnSelectAll(wxCommandEvent& event) override;
     void OnDeSelectAll(wxCommandEvent& event) override;
     void OnDefaultRow(wxCommandEvent& event) override;
+    void OnCreateShadow(wxCommandEvent& event) override;
     void OnCopyRow(wxCommandEvent& event) override;
     void OnPasteRow(wxCommandEvent& event) override;
     void OnClearRow(wxCommandEvent& event) override;

@@ -90,6 +90,46 @@ TEST_F(DefaultColumn, OfTheModuleSwitchesToneAndCodeOffToo) {
     EXPECT_EQ(Changed(19), "18=OFF 19=new ");
 }
 
+TEST_F(DefaultColumn, OfTheModulesBandEmptiesTheFrequenciesOfRowsThatWereOnAnother) {
+    Retarget(Kdrv4xxx, 5);
+    Fill({2, 3, 4});
+    SetCell(3, BAND, "AM 225-400");
+    SetCell(3, RFRQ, "230.0000");
+    SetCell(0, BAND, "FM 30-50");
+    SetPageEditors(CurrentPage);
+    ASSERT_TRUE(IsReadOnly(3, MODE));
+    SetCell(3, RTON, "67.0");
+    const Texts same = Row(2);
+    RunOnColumn(DefaultCol, BAND);
+    EXPECT_EQ(Row(2), same) << "the band stays";
+    EXPECT_EQ(Column(BAND, {1, 2, 3, 4}), (Texts{"", "FM 30-50", "FM 30-50", "FM 30-50"}));
+    EXPECT_EQ(Column(RFRQ, {2, 3}), (Texts{"31.0000", ""}));
+    EXPECT_EQ(Column(TFRQ, {2, 3}), (Texts{"31.0000", ""}));
+    EXPECT_FALSE(IsReadOnly(3, MODE));
+    EXPECT_FALSE(IsReadOnly(3, RCOD));
+    EXPECT_TRUE(IsReadOnly(3, TCOD)) << "it stays as the former band left it";
+    // The frequency is typed by the new band's rules.
+    testbench::ShowAndFocus(*MainFrame);
+    testbench::TypeIntoCell(*CurrentGrid(), 3, RFRQ, "240.0");
+    EXPECT_NE(Cell(3, RFRQ).Left(3), "240");
+    testbench::TypeIntoCell(*CurrentGrid(), 3, RFRQ, "40.0");
+    EXPECT_EQ(Cell(3, RFRQ), "40.0000");
+}
+
+TEST_F(DefaultColumn, OfTheModulesBandLocksTheCellsThatAnAmBandLacks) {
+    Retarget(Kdrv4xxx, 5);
+    Fill({2});
+    SetCell(0, BAND, "AM 225-400");
+    RunOnColumn(DefaultCol, BAND);
+    EXPECT_EQ(Cell(2, BAND), "AM 225-400");
+    EXPECT_EQ(Column(MODE, {2}), Texts{"n/a"});
+    EXPECT_EQ(Column(RCOD, {2}), Texts{"n/a"});
+    EXPECT_EQ(Column(TCOD, {2}), Texts{"n/a"});
+    EXPECT_EQ(Column(RTON, {2}), Texts{"OFF"});
+    for (int col : {MODE, RCOD, TCOD})
+        EXPECT_TRUE(IsReadOnly(2, col)) << col;
+}
+
 TEST_F(DefaultColumn, IsTheFirstOneSelectedInRow1) {
     Fill({5});
     for (int col = 0; col < 23; ++col)

@@ -52,13 +52,14 @@ TEST_F(TypingInto, ABlankP25RowGivesItAZoneAndItsOwnPrimary) {
         SCOPED_TRACE(radio);
         Retarget(radio, 0);
         TypeIntoCell(*CurrentGrid(), 2, RFRQ, "150.0000");
-        const Texts expected = {
-            "0",    "002",      "002",  "N",        "FM 136-174", "N",
-            "1",    "VHF  002", "n",    "150.0000", "x",          radio == Kdrv716 ? "" : "10",
-            "67.0", "023",      "0001", "293",      "150.0000",   "x",
-            "67.0", "023",      "0001", "293",      "00000001",   "0",
-            "0",    "0",        "0",    "0",        "0",          "0",
-            "",     "A8"};
+        // Second generation radios tune finer.
+        const char* const typed = radio == Kdrv716 ? "150.0000" : "150.00000";
+        const Texts expected = {"0",    "002",      "002",  "N",   "FM 136-174", "N",
+                                "1",    "VHF  002", "n",    typed, "x",          radio == Kdrv716 ? "" : "10",
+                                "67.0", "023",      "0001", "293", typed,        "x",
+                                "67.0", "023",      "0001", "293", "00000001",   "0",
+                                "0",    "0",        "0",    "0",   "0",          "0",
+                                "",     "A8"};
         EXPECT_EQ(RowTexts(2), expected);
     }
 }

@@ -7,6 +7,8 @@
 
 #include <wx/textctrl.h>
 
+#include <algorithm>
+
 wxIMPLEMENT_DYNAMIC_CLASS(FrequencyValidator, wxValidator);
 
 wxBEGIN_EVENT_TABLE(FrequencyValidator, wxValidator) EVT_CHAR(FrequencyValidator::OnChar)

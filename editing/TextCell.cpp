@@ -109,13 +109,11 @@ void TextCellEditor::StartingKey(wxKeyEvent& event) {
 void FinishedTextEditor::BeginEdit(int row, int col, wxGrid* grid) {
     m_held = grid->GetTable()->GetValue(row, col);
     wxGridCellTextEditor::BeginEdit(row, col, grid);
-    m_shown = GetValue();
 }
 
 bool FinishedTextEditor::EndEdit(int, int, const wxGrid*, const wxString&, wxString* newval) {
     const wxString typed = GetValue();
-    // A cell text wider than the control is shown cut off: that is no change either.
-    if (typed == m_held || typed == m_shown)
+    if (typed == m_held)
         return false;
     const std::optional<wxString> finished = Finish(typed);
     if (!finished)

@@ -2,9 +2,8 @@
 #pragma once
 
 #include <wx/grid.h>
-#include <wx/valtext.h>
+#include <wx/validate.h>
 
-#include <memory>
 #include <optional>
 
 class wxClipboardTextEvent;
@@ -83,7 +82,4 @@ protected:
 
     /// The text kept between the phases of an edit.
     wxString m_held;
-
-private:
-    wxString m_shown; ///< what the control showed before anything was typed
 };

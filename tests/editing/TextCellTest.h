@@ -9,6 +9,7 @@
 #include <wx/dataobj.h>
 #include <wx/textctrl.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 

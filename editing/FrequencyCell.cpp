@@ -3,6 +3,7 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/FrequencyRules.h"
+#include "editing/Shadows.h"
 
 #include <wx/textctrl.h>
 
@@ -93,5 +94,7 @@ void FrequencyEditor::ApplyEdit(int row, int col, wxGrid* grid) {
         WriteClean(grid, row, TFRQ, m_held);
     if (col == TFRQ && rxOnly)
         grid->SetCellValue(row, TFRQ, "n/a");
+    if (CurrentPageIsP25() && (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowLinkFlag))
+        HandleP25Shadows(this, ReadDecimal(grid->GetCellValue(row, MNUM)), m_held, grid);
     m_held.clear();
 }

@@ -2,6 +2,7 @@
 
 #include "catalogue/PageCreation.h"
 #include "catalogue/ZoneSlots.h"
+#include "editing/RowLooks.h"
 #include "editing/ZelkEditors.h"
 #include "files/ChannelFileReader.h"
 #include "files/ChannelFileWriter.h"
@@ -20,26 +21,6 @@
 #include <wx/xml/xml.h>
 
 namespace {
-
-/// Calls work(row, column, attributes) for each cell of the grid that has attributes of its own.
-template <class Work>
-void ForEachOwnAttribute(wxGrid* grid, Work work) {
-    for (int row = 0; row < grid->GetNumberRows(); ++row)
-        for (int col = 0; col < grid->GetNumberCols(); ++col)
-            if (wxGridCellAttrPtr own = grid->GetTable()->GetAttrPtr(row, col, wxGridCellAttr::Cell))
-                work(row, col, *own);
-}
-
-/// Takes away what former rows left on their cells, but not the marks that the page itself needs:
-/// those of the guard rows and of SHAD, into which no one types.
-void ForgetLooksOfRows(wxGrid* grid) {
-    ForEachOwnAttribute(grid, [](int row, int col, wxGridCellAttr& attributes) {
-        if (attributes.HasBackgroundColour())
-            attributes.SetBackgroundColour(wxNullColour);
-        if (col != SHAD && !IsGuardRow(row) && attributes.IsReadOnly())
-            attributes.SetReadOnly(false);
-    });
-}
 
 void MakeCellsWritable(wxGrid* grid) {
     ForEachOwnAttribute(grid, [](int, int, wxGridCellAttr& attributes) {

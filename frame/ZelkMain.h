@@ -35,6 +35,22 @@ public:
     void OnValidatePage(wxCommandEvent& event) override;
     void OnSelectAll(wxCommandEvent& event) override;
     void OnDeSelectAll(wxCommandEvent& event) override;
+    void OnDefaultRow(wxCommandEvent& event) override;
+    void OnCreateShadow(wxCommandEvent& event) override;
+    void OnCopyRow(wxCommandEvent& event) override;
+    void OnPasteRow(wxCommandEvent& event) override;
+    void OnClearRow(wxCommandEvent& event) override;
+    void OnInsertRow(wxCommandEvent& event) override;
+    void OnDeleteRow(wxCommandEvent& event) override;
+    void OnMarkRow(wxCommandEvent& event) override;
+    void OnDefaultCol(wxCommandEvent& event) override;
+    void OnDefaultMarked(wxCommandEvent& event) override;
+    void OnRenumberToRowNum(wxCommandEvent& event) override;
+    void OnRenumberSequencial(wxCommandEvent& event) override;
+    void OnDefaultFile(wxCommandEvent& event) override;
+    void OnSaveDefault(wxCommandEvent& event) override;
+    void OnLoadDefault(wxCommandEvent& event) override;
+    void OnClearHighlight(wxCommandEvent& event) override;
 
     void OnSpare(wxCommandEvent&) override {}
 };

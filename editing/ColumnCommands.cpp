@@ -1,0 +1,205 @@
+// The commands of the column and corner context menus, and of row label 000.
+#include "editing/ColumnCommands.h"
+
+#include "catalogue/PageCreation.h"
+#include "catalogue/TextNumbers.h"
+#include "catalogue/ZoneSlots.h"
+#include "editing/CommandQuestions.h"
+#include "editing/RowCommands.h"
+#include "editing/RowLooks.h"
+#include "editing/ZelkEdit.h"
+#include "editing/ZelkEditors.h"
+#include "frame/ZelkMain.h"
+
+#include <wx/msgdlg.h>
+
+namespace {
+
+/// Transmit columns of the pairs lie so far behind their receive columns; RFRQ and TFRQ one more.
+constexpr int TransmitDistance = TTON - RTON;
+
+void DealZoneAfresh(wxGrid* grid, int row) {
+    const int flags = ReadHex(grid->GetCellValue(row, TFLG)) & ~ZoneTakenFlag;
+    grid->SetCellValue(row, TFLG, FlagText(flags));
+    CheckZone(grid, row, "");
+}
+
+/// Puts a row of a module page on the default row's band, if it has another one. Its frequencies
+/// can't stay then.
+void TakeDefaultBand(wxGrid* grid, int row, const wxString& value) {
+    const int band = GetRowBand(grid, 0);
+    if (GetRowBand(grid, row) == band)
+        return;
+    grid->SetCellValue(row, BAND, value);
+    const int step = RadioCatalogue::GetChannelStep(CurrentParameters().Radio, band);
+    for (int col : {RFRQ, TFRQ}) {
+        grid->SetCellValue(row, col, "");
+        grid->SetCellEditor(row, col, new FrequencyEditor(row, band, step));
+    }
+    SetBandEditors(grid, row, band, true);
+}
+
+/// On analog pages a row has a tone or a code, not both.
+void SwitchRivalsOff(wxGrid* grid, int row, int col) {
+    const auto switchOff = [grid, row](int rival) { grid->SetCellValue(row, rival, "OFF"); };
+    switch (col) {
+    case RTON:
+        switchOff(RCOD);
+        switchOff(TCOD);
+        break;
+    case RCOD:
+        switchOff(RTON);
+        switchOff(TTON);
+        break;
+    case TTON:
+        switchOff(TCOD);
+        break;
+    case TCOD:
+        switchOff(TTON);
+        break;
+    default:
+        break;
+    }
+}
+
+/// The column that a click on its label has selected whole, as row 1 tells. TIDC when it is none
+/// of the others.
+int SelectedColumn(wxGrid* grid) {
+    int col = MFLG;
+    while (col < TIDC && !grid->IsInSelection(1, col))
+        ++col;
+    return col;
+}
+
+/// Writes the default of the selected column into the memory rows for which applies(row) holds.
+template <class Condition>
+void DefaultSelectedColumn(Condition applies) {
+    wxGrid* grid = CurrentGrid();
+    wxGridUpdateLocker quiet(grid);
+    const int col = SelectedColumn(grid);
+    const wxString value = grid->GetCellValue(0, col);
+    if (col == ZONE)
+        // Meant also where only some rows are dealt a zone afterwards.
+        ClearZoneSlots(CurrentPage);
+    for (int row = 1; row <= CurrentParameters().Rows; ++row)
+        if (applies(row))
+            DefaultColInRow(row, col, value);
+    grid->ClearSelection();
+}
+
+/// Numbers the rows with data: numberOf gives the number of a row.
+template <class Numbering>
+void Renumber(Numbering numberOf) {
+    wxGrid* grid = CurrentGrid();
+    wxGridUpdateLocker quiet(grid);
+    for (int row = 1; row <= CurrentParameters().Rows; ++row) {
+        if (!RowHasData(row))
+            continue;
+        // Meant: no leading zeros, and shadow links keep the former numbers.
+        const wxString number = wxString::Format("%d", numberOf(row));
+        grid->SetCellValue(row, MNUM, number);
+        if (CurrentPageIsP25())
+            grid->SetCellValue(row, PRIM, number);
+    }
+    grid->ClearSelection();
+}
+
+void TellUnimplemented(const wxString& caption) {
+    wxMessageBox(" ! Currently UnImplemented !", caption, wxOK | wxCENTRE);
+}
+
+} // namespace
+
+void DefaultColInRow(int row, int col, const wxString& value) {
+    wxGrid* grid = CurrentGrid();
+    if (CurrentPageIsP25() && col == ZONE) {
+        DealZoneAfresh(grid, row);
+        return;
+    }
+    if (CurrentParameters().Type == RadioCatalogue::MDLX && col == BAND) {
+        TakeDefaultBand(grid, row, value);
+        return;
+    }
+    grid->SetCellValue(row, col, value);
+    if (col == RFRQ)
+        grid->SetCellValue(row, TFRQ, value);
+    else if (col >= RTON && col <= RNAC)
+        grid->SetCellValue(row, col + TransmitDistance, value);
+    if (!CurrentPageIsP25())
+        SwitchRivalsOff(grid, row, col);
+}
+
+void ZelkFrame::OnDefaultCol(wxCommandEvent&) {
+    CommitOpenEditor();
+    if (UserConfirms(IdDefaultCol))
+        DefaultSelectedColumn(RowHasData);
+}
+
+void ZelkFrame::OnDefaultMarked(wxCommandEvent&) {
+    CommitOpenEditor();
+    if (UserConfirms(IdDefaultMarked))
+        DefaultSelectedColumn(
+            [](int row) { return CurrentGrid()->GetCellBackgroundColour(row, MNUM) == MarkColour; });
+}
+
+void ZelkFrame::OnRenumberToRowNum(wxCommandEvent&) {
+    CommitOpenEditor();
+    if (UserConfirms(IdRenumberToRowNum))
+        Renumber([](int row) { return row; });
+}
+
+void ZelkFrame::OnRenumberSequencial(wxCommandEvent&) {
+    CommitOpenEditor();
+    if (UserConfirms(IdRenumberSequencial))
+        Renumber([next = 0](int) mutable { return ++next; });
+}
+
+void ZelkFrame::OnDefaultFile(wxCommandEvent&) {
+    CommitOpenEditor();
+    if (!UserConfirms(IdDefaultFile))
+        return;
+    wxGrid* grid = CurrentGrid();
+    wxGridUpdateLocker quiet(grid);
+    SelectContextRow(true);
+    const wxArrayString defaults = GetRowValues(CurrentPage, 0);
+    grid->ClearGrid();
+    CurrentParameters().Flags = 0;
+    ClearZoneSlots(CurrentPage);
+    ForgetLooksOfRows(grid);
+    for (int col = 0; col < ColumnTotal; ++col)
+        grid->SetCellValue(0, col, defaults[static_cast<size_t>(col)]);
+    CopyValuesToSelection(CurrentPage, defaults, true, true);
+    // Editors and locks that fit former rows must not outlive them.
+    SetPageEditors(CurrentPage);
+}
+
+// Meant: neither command does more than this.
+void ZelkFrame::OnSaveDefault(wxCommandEvent&) {
+    TellUnimplemented("Save Radio Default Data?");
+}
+
+void ZelkFrame::OnLoadDefault(wxCommandEvent&) {
+    TellUnimplemented("Load Radio Default Data");
+}
+
+void ZelkFrame::OnClearHighlight(wxCommandEvent&) {
+    CommitOpenEditor();
+    wxGrid* grid = CurrentGrid();
+    wxGridUpdateLocker quiet(grid);
+    const wxColour plain = grid->GetCellBackgroundColour(0, 0);
+    // Meant: hidden columns keep their marks.
+    for (int row = 0; row <= CurrentParameters().Rows; ++row)
+        for (int col = 0; col < ColumnTotal; ++col)
+            if (RadioCatalogue::ColumnWidth[CurrentParameters().Type][col] != 0)
+                grid->SetCellBackgroundColour(row, col, plain);
+    CurrentParameters().Flags &= ~PageHasMarks;
+    grid->ForceRefresh();
+}
+
+void TellCopyIsMissing() {
+    wxMessageBox("Copy selection to clipboard.\n\nNot implemented yet.", "Copy", wxOK | wxCENTRE);
+}
+
+void TellPasteIsMissing() {
+    wxMessageBox("Paste contents of clipboard.\n\nNot implemented yet.", "Paste", wxOK | wxCENTRE);
+}

@@ -1,0 +1,11 @@
+#include "editing/CommandQuestions.h"
+
+#include <wx/msgdlg.h>
+
+bool UserConfirms(int command) {
+    for (const CommandQuestion& question : CommandQuestions)
+        if (question.id == command)
+            return wxMessageDialog(nullptr, question.message, question.caption, wxOK | wxCANCEL)
+                       .ShowModal() == wxID_OK;
+    return true;
+}

@@ -1,0 +1,92 @@
+// The command that gives a P25 memory a shadow.
+#include "catalogue/TextNumbers.h"
+#include "editing/ShadowDialog.h"
+#include "editing/Shadows.h"
+#include "editing/ZelkEditors.h"
+#include "frame/ZelkMain.h"
+
+#include <wx/msgdlg.h>
+
+namespace {
+
+/// Flags that a row keeps when it becomes a shadow: the two that only radios give, and its index.
+constexpr int KeptFlags = 0x67;
+
+void Refuse(const wxString& reason) {
+    wxMessageBox(reason, "Create Shadow - Error", wxOK | wxCENTRE);
+}
+
+void RefuseNumber() {
+    Refuse(wxString::Format("Cannot Create Shadow!\nMemory number must be from 1 to %d.",
+                            CurrentParameters().Rows));
+}
+
+/// Meant: texts are compared, so a memory whose number isn't written with three digits is not seen.
+bool IsNumberTaken(wxGrid* grid, const wxString& number) {
+    for (int row = 0; row <= CurrentParameters().Rows; ++row)
+        if (grid->GetCellValue(row, MNUM) == number)
+            return true;
+    return false;
+}
+
+void MakePrimary(wxGrid* grid, int row, int slot, int shadow) {
+    grid->SetCellValue(row, SHAD, wxString::Format("P-%d", slot + 1));
+    grid->SetCellValue(row, SHD0 + slot, NumberText(shadow));
+    grid->SetCellValue(row, MFLG, FlagText(ReadHex(grid->GetCellValue(row, MFLG)) | ShadowLinkFlag));
+    LockLinkedRow(row, PrimaryRow);
+}
+
+void MakeShadow(wxGrid* grid, int row, int slot, int primary) {
+    grid->SetCellValue(row, MNUM, NumberText(row));
+    grid->SetCellValue(row, SHAD, "S-" + NumberText(primary));
+    grid->SetCellValue(row, PRIM, NumberText(primary));
+    for (int col = ZONE; col <= TIDC; ++col)
+        grid->SetCellValue(row, col, grid->GetCellValue(primary, col));
+    for (int col = SHD0; col <= SHD6; ++col)
+        grid->SetCellValue(row, col, "0");
+    LockLinkedRow(row, ShadowRow);
+    const int kept = ReadHex(grid->GetCellValue(row, MFLG)) & KeptFlags;
+    grid->SetCellValue(row, MFLG, FlagText(kept | (slot + 1)));
+    grid->SetCellValue(row, TFLG, "A0");
+    SetRowEditorsP25(grid, row);
+}
+
+} // namespace
+
+void ZelkFrame::OnCreateShadow(wxCommandEvent&) {
+    CommitOpenEditor();
+    wxGrid* grid = CurrentGrid();
+    const int rows = CurrentParameters().Rows;
+    if (!RowIsComplete(ContextRow)) {
+        Refuse("Cannot Create Shadow!\nMemory record is empty or incomplete.");
+        return;
+    }
+    const int primary = ReadDecimal(grid->GetCellValue(ContextRow, MNUM));
+    if (primary < 1 || primary > rows) {
+        RefuseNumber();
+        return;
+    }
+    const int slot = FirstFreeShadowSlot(GetRowValues(CurrentPage, primary));
+    ShadowDialog dialog(this, wxString::Format("For Primary: %03d create Shadow: %d", primary, slot + 1));
+    if (slot == ShadowLimit) {
+        Refuse("Cannot Create Shadow!\nShadow List is full for selected primary.");
+        return;
+    }
+    if (dialog.ShowModal() != wxID_OK) {
+        grid->ClearSelection();
+        return;
+    }
+    const std::optional<int> shadow = ReadShadowNumber(dialog.EnteredText(), rows);
+    if (!shadow) {
+        RefuseNumber();
+        return;
+    }
+    if (IsNumberTaken(grid, NumberText(*shadow))) {
+        Refuse("Selected memory is already in use.");
+        return;
+    }
+    wxGridUpdateLocker quiet(grid);
+    MakePrimary(grid, primary, slot, *shadow);
+    MakeShadow(grid, *shadow, slot, primary);
+    grid->ClearSelection();
+}

@@ -1,0 +1,103 @@
+#include "editing/Shadows.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "editing/ShadowSlots.h"
+
+#include <wx/grid.h>
+
+#include <algorithm>
+
+namespace {
+
+bool IsMemoryRow(int row) {
+    return row >= 1 && row <= CurrentParameters().Rows;
+}
+
+/// True when the row can be one that a slot names. After rows have moved a slot can name a row of
+/// another memory, which must not be touched.
+bool IsShadowRow(wxGrid* grid, int row) {
+    return IsMemoryRow(row) && IsShadowFlags(grid->GetCellValue(row, MFLG));
+}
+
+} // namespace
+
+int FirstFreeShadowSlot(const wxArrayString& rowTexts) {
+    int slot = 0;
+    while (slot < ShadowLimit && ReadDecimal(rowTexts[static_cast<size_t>(SHD0 + slot)]) != 0)
+        ++slot;
+    return slot;
+}
+
+std::vector<int> ShadowNumbers(const wxArrayString& rowTexts) {
+    std::vector<int> numbers;
+    for (size_t col = SHD0; col <= SHD6; ++col)
+        if (const int number = ReadDecimal(rowTexts[col]))
+            numbers.push_back(number);
+    return numbers;
+}
+
+std::optional<int> ReadShadowNumber(const wxString& text, int rows) {
+    const auto isDigit = [](wxUniChar c) { return c >= '0' && c <= '9'; };
+    if (!std::all_of(text.begin(), text.end(), isDigit))
+        return std::nullopt;
+    const std::optional<int> number = ReadNumber(text);
+    return number && *number >= 1 && *number <= rows ? number : std::nullopt;
+}
+
+bool IsShadowFlags(const wxString& text) {
+    return (ReadHex(text) & ShadowIndexMask) != 0;
+}
+
+int GetMnumRow(int number) {
+    wxGrid* grid = CurrentGrid();
+    const int rows = CurrentParameters().Rows;
+    int row = 1;
+    while (row <= rows && ReadNumber(grid->GetCellValue(row, MNUM)) != number)
+        ++row;
+    return row;
+}
+
+void LockLinkedRow(int row, int kind) {
+    wxGrid* grid = CurrentGrid();
+    for (int col : {MNUM, SHAD, SCAN})
+        grid->SetReadOnly(row, col, true);
+    grid->SetCellValue(row, SCAN, "N");
+    if (kind == ShadowRow)
+        for (int col : {ZONE, RFRQ, TFRQ})
+            grid->SetReadOnly(row, col, true);
+}
+
+void HandleP25Shadows(wxGridCellEditor*, int number, const wxString&, wxGrid* grid) {
+    for (int shadow : ShadowRowsOf(grid, number))
+        for (int col : {RFRQ, TFRQ})
+            grid->SetCellValue(shadow, col, grid->GetCellValue(number, col));
+}
+
+void RemovePrimary(int row) {
+    for (int number : ShadowNumbers(GetRowValues(CurrentPage, row)))
+        if (const int shadow = GetMnumRow(number); IsShadowRow(CurrentGrid(), shadow))
+            ClearRowData(shadow, false);
+}
+
+void RemoveShadow(int row) {
+    wxGrid* grid = CurrentGrid();
+    const int primary = GetMnumRow(ReadDecimal(grid->GetCellValue(row, PRIM)));
+    // Meant: the primary keeps its flag, its SHAD and its locks, also when its last shadow goes. A
+    // shadow that has been checked names itself here, and its primary's slot stays taken.
+    if (IsMemoryRow(primary))
+        for (int col = SHD0; col <= SHD6; ++col)
+            if (ReadDecimal(grid->GetCellValue(primary, col)) == row)
+                grid->SetCellValue(primary, col, "0");
+    ClearRowData(row, false);
+}
+
+void UndoShadowLinks(int row) {
+    if (!CurrentPageIsP25())
+        return;
+    const int flags = ReadHex(CurrentGrid()->GetCellValue(row, MFLG));
+    if (flags & ShadowLinkFlag)
+        RemovePrimary(row);
+    else if (flags & ShadowIndexMask)
+        RemoveShadow(row);
+}

@@ -1,0 +1,163 @@
+#include "tests/editing/CommandTest.h"
+
+namespace {
+
+class PasteRowCommand : public CommandTest {
+protected:
+    /// Copies one row and pastes it into another.
+    static void CopyTo(int from, int to) {
+        RunOnRow(CopyRow, from);
+        RunOnRow(PasteRow, to);
+    }
+
+    /// Makes the number of the pasted row free, so that no check complains.
+    static void CopyToWithNumber(int from, int to) {
+        RunOnRow(CopyRow, from);
+        RowCopyBuffer[MNUM] = wxString::Format("%d", to);
+        RunOnRow(PasteRow, to);
+    }
+};
+
+} // namespace
+
+TEST_F(PasteRowCommand, WithoutACopyTellsThatThereIsNone) {
+    Fill({3});
+    const Texts before = Row(3);
+    ContextRow = 3;
+    testbench::DialogScript dialogs;
+    ExpectQuestion(dialogs, PasteRow);
+    dialogs.ExpectMessage("Error - Empty paste buffer!", "Cannot paste empty row.")
+        .Style(testbench::plainBox);
+    MainFrame->m_contextMenu->SendEvent(PasteRow);
+    EXPECT_EQ(Row(3), before);
+}
+
+TEST_F(PasteRowCommand, WritesColumns0To29AndKeepsTheTransferFlags) {
+    Fill({3, 5});
+    SetCell(3, RFRQ, "70.0000");
+    SetCell(3, TFLG, "A1");
+    SetCell(5, TFLG, "C0");
+    CopyToWithNumber(3, 5);
+    Texts expected = Row(3);
+    expected[MNUM] = "005";
+    expected[BAND] = "";
+    expected[DESC] = "ROW3";
+    expected[TFLG] = "C0";
+    EXPECT_EQ(Row(5), expected);
+}
+
+TEST_F(PasteRowCommand, LosesANumberThatIsInUse) {
+    Fill({3});
+    RunOnRow(CopyRow, 3);
+    testbench::DialogScript dialogs;
+    ExpectQuestion(dialogs, PasteRow);
+    dialogs.ExpectMessage("Error", "Number already used at row: 003");
+    ContextRow = 5;
+    MainFrame->m_contextMenu->SendEvent(PasteRow);
+    EXPECT_EQ(Cell(5, MNUM), "");
+    EXPECT_EQ(Cell(5, RFRQ), Cell(3, RFRQ));
+}
+
+TEST_F(PasteRowCommand, PastesOneRowWhateverIsSelected) {
+    Fill({3});
+    RunOnRow(CopyRow, 3);
+    RowCopyBuffer[MNUM] = "005";
+    SelectRows({5, 6, 7});
+    ContextRow = 5;
+    Run(PasteRow);
+    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{3, 5}));
+}
+
+TEST_F(PasteRowCommand, IntoABlankRowMakesItAMemory) {
+    Fill({3});
+    CopyToWithNumber(3, 5);
+    EXPECT_EQ(Cell(5, TFLG), "A0");
+    EXPECT_EQ(Cell(5, RONL), "");
+    Retarget(Kdar2000, 0);
+    Fill({3});
+    SetCell(0, RONL, "Y");
+    CopyToWithNumber(3, 5);
+    EXPECT_EQ(Cell(5, TFLG), "A0");
+    EXPECT_EQ(Cell(5, RONL), "Y");
+    SetCell(5, RONL, "N");
+    CopyToWithNumber(3, 5);
+    EXPECT_EQ(Cell(5, RONL), "N") << "a row with data keeps it";
+}
+
+TEST_F(PasteRowCommand, ChecksTheRow) {
+    Fill({3});
+    RunOnRow(CopyRow, 3);
+    RowCopyBuffer[MNUM] = "5";
+    RowCopyBuffer[RFRQ] = "999.0000";
+    RunOnRow(PasteRow, 5);
+    EXPECT_EQ(Cell(5, MNUM), "005");
+    EXPECT_EQ(Cell(5, RFRQ), "66.0000");
+    EXPECT_EQ(Paint(5, RFRQ), Orange());
+}
+
+TEST_F(PasteRowCommand, OfACopiedPrimaryKeepsItsFlagButNoLinks) {
+    Retarget(Kdrv716, 0);
+    Fill({10});
+    Link(10, {11, 12});
+    CopyToWithNumber(10, 20);
+    EXPECT_EQ(Cell(20, SHAD), "N");
+    for (int col = SHD0; col <= SHD6; ++col)
+        EXPECT_EQ(Cell(20, col), "0") << col;
+    EXPECT_EQ(Cell(20, MFLG), "10");
+    EXPECT_EQ(Cell(20, PRIM), "020");
+    EXPECT_EQ(Cell(20, ZONE), "1");
+    EXPECT_EQ(Cell(20, TFLG), "A8");
+}
+
+TEST_F(PasteRowCommand, OfACopiedShadowKeepsItsIndex) {
+    Retarget(Kdrv716, 0);
+    Fill({10});
+    Link(10, {11, 12});
+    CopyToWithNumber(12, 20);
+    EXPECT_EQ(Cell(20, MFLG), "02");
+    EXPECT_EQ(Cell(20, SHAD), "N");
+    EXPECT_EQ(Cell(20, ZONE), "");
+}
+
+TEST_F(PasteRowCommand, LeavesTheLinksOfTheFormerRow) {
+    Retarget(Kdrv716, 0);
+    Fill({10, 20});
+    Link(10, {11});
+    CopyToWithNumber(20, 10);
+    EXPECT_EQ(Cell(10, DESC), "row20");
+    EXPECT_EQ(Cell(11, SHAD), "S-010");
+}
+
+TEST_F(PasteRowCommand, WorksOnAnotherPageAndItsTypeIsChecked) {
+    Retarget(Kdrv716, 0);
+    Fill({10});
+    RunOnRow(CopyRow, 10);
+    testbench::AddPage(Krv47);
+    RunOnRow(PasteRow, 10);
+    EXPECT_EQ(Cell(10, MNUM), "010");
+    EXPECT_EQ(Cell(10, SHAD), "");
+    EXPECT_EQ(Cell(10, ZONE), "");
+    EXPECT_EQ(Cell(10, MODE), "N");
+    EXPECT_EQ(Cell(10, RFRQ), "66.0000");
+    EXPECT_EQ(Cell(10, RTGP), "");
+}
+
+TEST_F(PasteRowCommand, NeverTouchesTheDefaultRow) {
+    Fill({3});
+    RunOnRow(CopyRow, 3);
+    const Texts before = Row(0);
+    ContextRow = 0;
+    MainFrame->m_contextMenu->SendEvent(PasteRow);
+    EXPECT_EQ(Row(0), before);
+}
+
+TEST_F(PasteRowCommand, FromTheMenuPastesIntoTheRowThatWasClicked) {
+    testbench::ShowAndFocus(*MainFrame);
+    Fill({3});
+    RunOnRow(CopyRow, 3);
+    RowCopyBuffer[MNUM] = "006";
+    testbench::DialogScript dialogs;
+    ExpectQuestion(dialogs, PasteRow);
+    ClickRowCommand(6, PasteRow);
+    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{3, 6}));
+}

@@ -156,11 +156,16 @@ TEST_F(AnalogRadio, OfSixChannelsIsRead) {
 
 TEST_F(AnalogRadio, OfThreeBandsGetsAndGivesItsChannels) {
     Retarget(Kdrv4xxx, 5);
-    const std::pair<const char*, const char*> channels[] = {
-        {"31.0000", "FM 30-50"}, {"121.5000", "AM 108-138"}, {"243.0000", "AM 225-400"}};
+    // The module's airband knows neither tones nor codes, its upper AM band no codes.
+    struct ModuleChannel {
+        const char *frequency, *band, *tone, *code;
+    };
+    const ModuleChannel channels[] = {{"31.0000", "FM 30-50", "250.3", "OFF"},
+                                      {"121.5000", "AM 108-138", "n/a", "n/a"},
+                                      {"243.0000", "AM 225-400", "250.3", "n/a"}};
     RadioUnderTest radio("KDRV-4xxx:K6 3-BAND");
     int row = 1;
-    for (const auto& [frequency, band] : channels) {
+    for (const auto& [frequency, band, tone, code] : channels) {
         FillRow(row, frequency);
         SetCell(row, BAND, band);
         SetCell(row, RCOD, "OFF");
@@ -170,11 +175,11 @@ TEST_F(AnalogRadio, OfThreeBandsGetsAndGivesItsChannels) {
     Send(radio, {"Complete"});
     Read(radio, {"Complete"});
     row = 1;
-    for (const auto& [frequency, band] : channels) {
+    for (const auto& [frequency, band, tone, code] : channels) {
         EXPECT_EQ(CellText(row, RFRQ), frequency);
         EXPECT_EQ(CellText(row, BAND), band) << frequency;
-        EXPECT_EQ(CellText(row, TTON), "250.3") << frequency;
-        EXPECT_EQ(CellText(row, RCOD), "OFF") << frequency;
+        EXPECT_EQ(CellText(row, TTON), tone) << frequency;
+        EXPECT_EQ(CellText(row, RCOD), code) << frequency;
         ++row;
     }
     EXPECT_EQ(radio.Complaints(), "");

@@ -1,6 +1,7 @@
 // Opening a full channel file, for each radio type.
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
+#include "bench/ToolkitFloor.h"
 #include "catalogue/PageModel.h"
 #include "files/XmlFile.h"
 #include "files/ZelkFile_OpenSave.h"
@@ -12,9 +13,6 @@
 #include <wx/grid.h>
 #include <wx/textfile.h>
 #include <wx/xml/xml.h>
-
-#include <map>
-#include <vector>
 
 namespace {
 
@@ -48,28 +46,11 @@ void OpenInProgram(benchmark::State& state, const wxString& path) {
     }
 }
 
-/// What an open leaves in the grid's cells, by position, and the marks.
-struct Written {
-    std::vector<wxString> texts;
-    std::vector<std::pair<int, int>> readOnly;
-};
-
-Written WrittenBy(wxGrid* grid) {
-    Written written;
-    for (int row = 0; row < grid->GetNumberRows(); ++row)
-        for (int col = 0; col < ColumnTotal; ++col) {
-            written.texts.push_back(grid->GetCellValue(row, col));
-            if (grid->IsReadOnly(row, col))
-                written.readOnly.push_back({row, col});
-        }
-    return written;
-}
-
 /// The toolkit alone: load the document, look at each element, empty the grid, write each cell that
-/// the open writes, set the marks.
+/// the open writes, make its objects, set the marks.
 void OpenBare(benchmark::State& state, const wxString& path) {
     wxGrid* grid = CurrentGrid();
-    const Written written = WrittenBy(grid);
+    const GridContent content = ContentOfCurrentPage();
     for ([[maybe_unused]] auto _ : state) {
         wxXmlDocument document;
         if (!document.Load(path))
@@ -81,13 +62,7 @@ void OpenBare(benchmark::State& state, const wxString& path) {
         benchmark::DoNotOptimize(length);
         wxGridUpdateLocker quiet(grid);
         grid->ClearGrid();
-        size_t cell = 0;
-        for (int row = 0; row < grid->GetNumberRows(); ++row)
-            for (int col = 0; col < ColumnTotal; ++col, ++cell)
-                if (!written.texts[cell].empty())
-                    grid->SetCellValue(row, col, written.texts[cell]);
-        for (const auto& [row, col] : written.readOnly)
-            grid->SetReadOnly(row, col, true);
+        WriteContent(grid, content);
     }
 }
 

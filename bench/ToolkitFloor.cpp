@@ -7,7 +7,41 @@
 #include <wx/panel.h>
 #include <wx/sizer.h>
 
+#include <array>
+
 using namespace RadioCatalogue;
+
+namespace {
+
+CellObjects::Editor KindOf(wxGridCellEditor* editor) {
+    if (dynamic_cast<wxGridCellChoiceEditor*>(editor))
+        return CellObjects::Editor::Choice;
+    if (dynamic_cast<wxGridCellNumberEditor*>(editor))
+        return CellObjects::Editor::Number;
+    return CellObjects::Editor::Text;
+}
+
+CellObjects ObjectsOf(wxGrid* grid, int row, int col) {
+    CellObjects objects{row, col};
+    if (const wxGridCellAttrPtr own = grid->GetTable()->GetAttrPtr(row, col, wxGridCellAttr::Cell)) {
+        if (own->HasEditor())
+            objects.editor = KindOf(own->GetEditorPtr(grid, row, col).get());
+        objects.renderer = own->HasRenderer();
+        objects.alignment = own->HasAlignment();
+    }
+    return objects;
+}
+
+/// As many choices as the column's list has.
+wxArrayString ChoicesOf(int type, int col) {
+    if (col == RTON || col == TTON)
+        return IsP25Type(type) ? ListOf(CtcssTexts) : ListOf(ToneTexts);
+    if (col == RCOD || col == TCOD)
+        return ListOf(CodeTexts);
+    return col == ZONE ? ListOf(ZoneNames32) : ListOf(P25Modes);
+}
+
+} // namespace
 
 GridContent ContentOfCurrentPage() {
     wxGrid* grid = CurrentGrid();
@@ -17,9 +51,13 @@ GridContent ContentOfCurrentPage() {
     content.radioName = PageStrings[CurrentPage].RadioName;
     for (int row = 0; row < content.rows; ++row) {
         content.texts.push_back(GetRowValues(CurrentPage, row));
-        for (int col = 0; col < ColumnTotal; ++col)
+        for (int col = 0; col < ColumnTotal; ++col) {
             if (grid->IsReadOnly(row, col))
                 content.readOnly.push_back({row, col});
+            const CellObjects objects = ObjectsOf(grid, row, col);
+            if (objects.editor != CellObjects::Editor::None || objects.renderer || objects.alignment)
+                content.objects.push_back(objects);
+        }
     }
     return content;
 }
@@ -41,14 +79,40 @@ wxGrid* MakeBareGrid(wxWindow* parent, const GridContent& content) {
     return grid;
 }
 
+void WriteObjects(wxGrid* grid, const GridContent& content) {
+    std::array<wxArrayString, ColumnTotal> choices;
+    for (int col = 0; col < ColumnTotal; ++col)
+        choices[col] = ChoicesOf(content.type, col);
+    for (const CellObjects& cell : content.objects) {
+        switch (cell.editor) {
+        case CellObjects::Editor::Choice:
+            grid->SetCellEditor(cell.row, cell.col, new wxGridCellChoiceEditor(choices[cell.col]));
+            break;
+        case CellObjects::Editor::Number:
+            grid->SetCellEditor(cell.row, cell.col, new wxGridCellNumberEditor(0, 1000));
+            break;
+        case CellObjects::Editor::Text:
+            grid->SetCellEditor(cell.row, cell.col, new wxGridCellTextEditor(8));
+            break;
+        case CellObjects::Editor::None:
+            break;
+        }
+        if (cell.renderer)
+            grid->SetCellRenderer(cell.row, cell.col, new wxGridCellStringRenderer);
+        if (cell.alignment)
+            grid->SetCellAlignment(cell.row, cell.col, wxALIGN_CENTRE, wxALIGN_CENTRE);
+    }
+    for (const auto& [row, col] : content.readOnly)
+        grid->SetReadOnly(row, col, true);
+}
+
 void WriteContent(wxGrid* grid, const GridContent& content) {
     wxGridUpdateLocker quiet(grid);
     for (int row = 0; row < content.rows; ++row)
         for (int col = 0; col < ColumnTotal; ++col)
             if (!content.texts[row][col].empty())
                 grid->SetCellValue(row, col, content.texts[row][col]);
-    for (const auto& [row, col] : content.readOnly)
-        grid->SetReadOnly(row, col, true);
+    WriteObjects(grid, content);
 }
 
 void AddBarePage(wxNotebook* notebook, const GridContent& content) {

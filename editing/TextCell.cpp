@@ -31,7 +31,7 @@ void Refuse() {
 } // namespace
 
 wxTextCtrl* TextCellValidator::Control() const {
-    return wxDynamicCast(m_validatorWindow, wxTextCtrl);
+    return dynamic_cast<wxTextCtrl*>(m_validatorWindow);
 }
 
 bool TextCellValidator::Validate(wxWindow* parent) {

@@ -2,3 +2,4 @@
 
 wxString RadioVersion;
 wxString RadioSerial;
+wxString RadioStamp;

@@ -7,3 +7,5 @@
 extern wxString RadioVersion;
 /// Serial number, empty before the first transfer. Outlives the transfer.
 extern wxString RadioSerial;
+/// Identity stamp that the last read gave its radio, 14 digits, empty before. Outlives the transfer.
+extern wxString RadioStamp;

@@ -1,14 +1,29 @@
 // The dialogue with the digital radios.
 #pragma once
 
+#include <cstdint>
 #include <wx/string.h>
 
 class wxGrid;
 struct TRecordContext;
 
-/// The place of the driver for digital radios, which aren't spoken to yet: no port is opened and nothing is
-/// sent, read or shown.
+/// Transfers the current page. Opens the port and the progress window, runs the dialogue, tells the user and
+/// the log of the transfer how it ended, and closes both again. Returns when all that is over.
 ///
-/// @return TransferUnsupported (9), always
+/// @param grid grid of the current page; changed in place
+/// @param mode a TransferMode
+/// @return a TransferStatus
 int TransferData(TRecordContext& context, wxGrid* grid, int mode, const wxString& portName,
                  const wxString& title);
+
+/// The dialogue itself. The context must have its open Port and its Progress.
+///
+/// @return a TransferStatus
+int DoTransferData(TRecordContext& context, wxGrid* grid, int mode);
+
+/// Sends the end record; no answer is waited for.
+void SendEndRecord(TRecordContext& context);
+
+/// The operating mode that a row of the current page uses and radioModes lacks: 0x40 for "w", 0x20 for "n",
+/// 0x10 for "D", or 0.
+std::uint32_t CheckForInvalidOpModes(TRecordContext& context, int row, std::uint32_t radioModes);

@@ -42,11 +42,12 @@ struct TransferContext {
 /// State of a T-record transfer.
 struct TRecordContext : TransferContext {
     wxString DebugRxText, DebugTxText; ///< lines of the radio's debug log that are being put together
-    std::uint32_t RecordVersion = 0;   ///< 1 or 2
+    std::uint32_t RecordVersion = 1;   ///< 1 or 2
     std::uint32_t RadioModes = 0;      ///< operating modes that the radio has
     std::uint32_t InvalidModes = 0;    ///< operating modes that the rows use and the radio lacks
     std::uint32_t RetryCount = 0;      ///< times that a line was refused
     std::uint32_t RecordType = 0;      ///< digit of the last record
     std::uint32_t LogDataStart = 0;    ///< byte of a debug log record at which its data begin
     std::uint32_t Protocol = 0;        ///< number of the protocol agreed on
+    int ReplyTimeout = 30000;          ///< milliseconds that an answer is waited for
 };

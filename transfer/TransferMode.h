@@ -9,4 +9,5 @@ enum TransferMode : int {
     ReadConfigMode = 2,
     WriteConfigMode = 3,
     ReadInformationMode = 4,
+    ReadDebugLogMode = 5,
 };

@@ -1,0 +1,4 @@
+# The records of the digital radios, their driver, and the debug log.
+target_sources(zelk_core PRIVATE
+    ${CMAKE_CURRENT_SOURCE_DIR}/TRecordDriver.cpp
+)

@@ -1,6 +1,7 @@
 #include "bench/FullPage.h"
 
 #include "catalogue/PageCreation.h"
+#include "catalogue/ZoneSlots.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/grid.h>
@@ -11,6 +12,10 @@ void MakePage(const PageCase& page) {
     if (page.forcedType >= 0) {
         PageParameters[1].Type = page.forcedType;
         PageStrings[1].TypeName = RadioCatalogue::RadioTypeName[page.forcedType];
+    }
+    if (page.rows > 0) {
+        PageParameters[1].Rows = page.rows;
+        SetGuardRows(MainFrame, 1, page.rows);
     }
     CreateNewPage(MainFrame, 1);
 }
@@ -23,6 +28,7 @@ void DropPage() {
 }
 
 void FillPage() {
+    ClearZoneSlots(CurrentPage);
     CurrentGrid()->SelectAll();
     CopyValuesToSelection(CurrentPage, GetRowValues(CurrentPage, 0), true, true);
 }

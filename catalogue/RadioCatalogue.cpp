@@ -1,5 +1,7 @@
 #include "catalogue/RadioCatalogue.h"
 
+#include "catalogue/AsciiText.h"
+
 namespace RadioCatalogue {
 
 wxArrayString ToneList;
@@ -12,7 +14,7 @@ namespace {
 template <size_t count>
 int FindText(const char* const (&texts)[count], const wxString& text) {
     for (size_t i = 0; i < count; ++i)
-        if (text == texts[i])
+        if (IsText(text, texts[i]))
             return static_cast<int>(i);
     return -1;
 }
@@ -159,11 +161,11 @@ wxString GetCodeText(int i, int type) {
 }
 
 int GetModeIndex(const wxString& text) {
-    if (text == "w" || text == "W")
+    if (IsText(text, "w") || IsText(text, "W"))
         return 0;
-    if (text == "n" || text == "N")
+    if (IsText(text, "n") || IsText(text, "N"))
         return 1;
-    return text == "D" ? 2 : -1;
+    return IsText(text, "D") ? 2 : -1;
 }
 
 bool IsAnalogSquelch(const wxString& text, int column) {

@@ -48,12 +48,12 @@ wxString DescriptionText(const wxString& text, int type) {
 std::optional<wxString> ModeText(const wxString& text, int type) {
     switch (GetModeIndex(text)) {
     case 0:
-        return IsP25Type(type) ? "w" : "W";
+        return wxString(wxUniChar(IsP25Type(type) ? 'w' : 'W'));
     case 1:
-        return IsP25Type(type) ? "n" : "N";
+        return wxString(wxUniChar(IsP25Type(type) ? 'n' : 'N'));
     case 2:
         if (IsP25Type(type))
-            return "D";
+            return wxString(wxUniChar('D'));
         break;
     default:
         break;

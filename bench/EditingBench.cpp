@@ -185,6 +185,7 @@ void RunProgram(benchmark::State& state, const PageCase& page, const Operation& 
         state,
         [&] {
             FillPage();
+            SpreadTonesAndCodes();
             operation.select(CurrentGrid());
         },
         operation.program);
@@ -194,6 +195,7 @@ void RunProgram(benchmark::State& state, const PageCase& page, const Operation& 
 void RunFloor(benchmark::State& state, const PageCase& page, const Operation& operation) {
     MakePage(page);
     FillPage();
+    SpreadTonesAndCodes();
     ContextRow = MiddleRow(CurrentGrid());
     const OperationRecord record =
         RecordOperation([&] { operation.select(CurrentGrid()); }, operation.recorded);

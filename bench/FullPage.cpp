@@ -32,3 +32,19 @@ void FillPage() {
     CurrentGrid()->SelectAll();
     CopyValuesToSelection(CurrentPage, GetRowValues(CurrentPage, 0), true, true);
 }
+
+void SpreadTonesAndCodes() {
+    using namespace RadioCatalogue;
+    wxGrid* grid = CurrentGrid();
+    const wxArrayString& tones = CurrentPageIsP25() ? CtcssList : ToneList;
+    wxGridUpdateLocker quiet(grid);
+    for (int row = 1; row <= CurrentParameters().Rows; ++row) {
+        // The first code is "OFF".
+        const wxString tone = tones[static_cast<size_t>(row) % tones.size()];
+        const wxString code = CodeList[1 + static_cast<size_t>(row) % (CodeList.size() - 1)];
+        for (int col : {RTON, TTON})
+            grid->SetCellValue(row, col, tone);
+        for (int col : {RCOD, TCOD})
+            grid->SetCellValue(row, col, code);
+    }
+}

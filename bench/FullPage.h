@@ -21,3 +21,7 @@ void DropPage();
 
 /// Fills every memory row of the current page from its default row; zones are dealt afresh.
 void FillPage();
+
+/// Gives the rows of an analog or P25 page the tones and codes of the lists by turns, as channels that
+/// are in use have them.
+void SpreadTonesAndCodes();

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
+#include <iterator>
 #include <string>
 
 namespace {
@@ -22,10 +22,20 @@ int DigitOf(wchar_t c, int base) {
     return -1;
 }
 
-/// What printf makes of the number. wxString::Format takes several times as long.
-wxString Formatted(const char* format, int number) {
-    char text[16];
-    return wxString::FromAscii(text, std::snprintf(text, sizeof text, format, number));
+/// The value in the base, with its sign and zeros in front at least width characters. wxString::Format
+/// takes many times as long.
+wxString Digits(uint32_t value, bool negative, uint32_t base, int width) {
+    wchar_t text[16];
+    wchar_t* const end = std::end(text);
+    wchar_t* at = end;
+    do
+        *--at = L"0123456789ABCDEF"[value % base];
+    while (value /= base);
+    while (end - at + negative < width)
+        *--at = L'0';
+    if (negative)
+        *--at = L'-';
+    return wxString(at, static_cast<size_t>(end - at));
 }
 
 } // namespace
@@ -60,9 +70,11 @@ int ReadHex(const wxString& text) {
 }
 
 wxString NumberText(int number) {
-    return Formatted("%03d", number);
+    const bool negative = number < 0;
+    const auto value = static_cast<uint32_t>(number);
+    return Digits(negative ? 0 - value : value, negative, 10, 3);
 }
 
 wxString FlagText(int flags) {
-    return Formatted("%02X", flags);
+    return Digits(static_cast<uint32_t>(flags), false, 16, 2);
 }

@@ -29,10 +29,9 @@ protected:
     int Enter(wxDialog*) override { return wxID_OK; }
 };
 
-/// Growth can only be seen between pages of one type, but the radios of a type have their channels in
-/// one or two numbers: these three are those of the smallest analog, the first P25 and the second P25
-/// generation, and a page of either type is made with each. NP25 with 502 rows, RP25 with 232 and
-/// ANFM with 102 are pages of real radios.
+/// Growth can only be seen between pages of one type, but no type's radios come in three such sizes:
+/// besides the pages of real radios (NP25 with 502 rows, RP25 with 232, ANFM with 102) these are pages
+/// whose number of rows is set to that of the others.
 constexpr PageCase EditingPages[] = {
     {"NP25", 7, 0, -1, 102}, {"NP25", 7, 0, -1, 232}, {"NP25", 7, 0},          {"RP25", 6, 0},
     {"ANFM", 3, 0},          {"ANFM", 3, 0, -1, 232}, {"ANFM", 3, 0, -1, 502},
@@ -165,7 +164,7 @@ constexpr Operation Operations[] = {
 template <class Prepare, class Work>
 void TakeFastest(benchmark::State& state, Prepare prepare, Work work) {
     using Seconds = std::chrono::duration<double>;
-    constexpr int Rounds = 8;
+    constexpr int Rounds = 16;
     for ([[maybe_unused]] auto _ : state) {
         Seconds fastest = Seconds::max();
         for (int round = 0; round < Rounds; ++round) {

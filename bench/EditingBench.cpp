@@ -232,7 +232,7 @@ void RegisterSide(const Operation& operation, const PageCase& page, bool floor) 
 
 void RegisterEditing() {
     // Pass after pass, so that what else the machine does for a while can't spoil one case alone.
-    constexpr int Passes = 4;
+    constexpr int Passes = 6;
     for (int pass = 0; pass < Passes; ++pass)
         for (const Operation& operation : Operations)
             for (const PageCase& page : EditingPages)

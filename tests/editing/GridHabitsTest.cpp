@@ -295,6 +295,15 @@ TEST_F(GridMouse, ADraggedLabelEdgeWidensItsColumn) {
     }
 }
 
+TEST_F(GridMouse, ALabelEdgeDraggedToTheLeftLeavesTheColumnItsWidth) {
+    const auto before = Widths();
+    for (int col : {MNUM, DESC, TCOD}) {
+        const wxPoint edge = EdgeOf(col) - wxPoint(1, 0);
+        Drag(edge, edge - wxPoint(35, 0));
+        EXPECT_EQ(before, Widths()) << ColumnTag[col];
+    }
+}
+
 TEST_F(GridMouse, NoLabelEdgeOpensAHiddenColumnOnAnAnalogPage) {
     DragAllEdges(Krv47);
 }

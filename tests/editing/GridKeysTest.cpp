@@ -418,6 +418,44 @@ TEST_F(GridKeys, F2OpensTheEditorOfEveryCellThatHasOne) {
     }
 }
 
+TEST_F(GridKeys, TheNumberPadTypesFrequenciesNumbersAndScanLists) {
+    // The pad's keys go by the name that they have without the number lock.
+    struct NumberLock {
+        NumberLock() { PressKey("Num_Lock"); }
+        ~NumberLock() { PressKey("Num_Lock"); }
+    } lock;
+    constexpr const char *one = "KP_End", *two = "KP_Down", *five = "KP_Begin", *seven = "KP_Home",
+                         *nine = "KP_Prior", *point = "KP_Delete", *enter = "KP_Enter";
+    const auto type = [](int col, std::initializer_list<const char*> keys) {
+        GoTo(5, col);
+        for (const char* key : keys)
+            PressKey(key);
+        return Text(5, col);
+    };
+    Fill({5});
+    EXPECT_EQ("77.5000", type(RFRQ, {seven, seven, point, five, enter}));
+    EXPECT_EQ(Place(6, RFRQ), Cursor());
+    EXPECT_EQ("099", type(MNUM, {nine, nine, enter}));
+    EXPECT_EQ("5-2", type(DESC, {five, "KP_Subtract", two, enter}));
+    EXPECT_EQ("17", type(SCAN, {one, five}));
+    Retarget(Kdrv716B, 0);
+    Fill({5});
+    EXPECT_EQ("0012", type(RTGP, {one, two, enter}));
+}
+
+TEST_F(GridKeys, ADoubleClickOpensTheEditorAndTypingReplacesTheText) {
+    Fill({5, 6});
+    for (const auto& [col, typed, text] : {std::tuple(DESC, "quay", "QUAY"), std::tuple(MNUM, "99", "099")}) {
+        GoTo(6, RFRQ);
+        DoubleClickAt(CellSpot(*Grid(), 5, col));
+        EXPECT_TRUE(IsOpen()) << ColumnTag[col];
+        PressKey("Ctrl+A");
+        TypeText(typed);
+        PressKey("Return");
+        EXPECT_EQ(text, Text(5, col));
+    }
+}
+
 TEST_F(GridKeys, ARefusedKeyOpensNothing) {
     Retarget(Kdrv716B, 0);
     Fill({5});

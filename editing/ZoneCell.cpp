@@ -40,17 +40,11 @@ void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
         m_choices.clear();
         Combo()->Clear();
     }
-    wxGridCellChoiceEditor::BeginEdit(row, col, grid);
-    m_givenUp = false;
-}
-
-void P25ZoneEditor::Reset() {
-    wxGridCellChoiceEditor::Reset();
-    m_givenUp = true;
+    ListChoiceEditor::BeginEdit(row, col, grid);
 }
 
 bool P25ZoneEditor::EndEdit(int, int, const wxGrid*, const wxString&, wxString* newval) {
-    if (m_givenUp)
+    if (IsGivenUp())
         return false;
     // Also a choice of the same zone counts: its slot was given back when the edit began.
     m_value = Combo()->GetValue();

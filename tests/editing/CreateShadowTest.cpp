@@ -205,6 +205,29 @@ TEST_F(CreateShadowCommand, FromTheMenuTakesTheNumberThatWasTyped) {
     EXPECT_EQ(Cell(17, SHAD), "S-010");
 }
 
+TEST_F(CreateShadowCommand, FromTheMenuMakesSevenShadowsAndRefusesTheEighth) {
+    testbench::ShowAndFocus(*MainFrame);
+    for (int slot = 0; slot < 7; ++slot) {
+        SCOPED_TRACE(slot + 1);
+        testbench::DialogScript dialogs;
+        dialogs.Expect(testbench::DialogKind::Other, TitleFor(10, slot + 1)).Do([slot](wxDialog* dialog) {
+            testbench::TypeText(std::to_string(20 + slot));
+            testbench::ClickButton(dialog, wxID_OK);
+        });
+        ClickRowCommand(10, CreateShadow);
+        EXPECT_EQ(Cell(10, SHAD), wxString::Format("P-%d", slot + 1));
+        EXPECT_EQ(Cell(10, SHD0 + slot), wxString::Format("%03d", 20 + slot));
+        EXPECT_EQ(Cell(20 + slot, SHAD), "S-010");
+        EXPECT_EQ(Cell(20 + slot, MFLG), wxString::Format("%02X", slot + 1));
+    }
+    const Texts before = Row(10);
+    testbench::DialogScript dialogs;
+    ExpectRefusal(dialogs, "Cannot Create Shadow!\nShadow List is full for selected primary.");
+    ClickRowCommand(10, CreateShadow);
+    EXPECT_EQ(Row(10), before);
+    EXPECT_EQ(Row(27), Blank());
+}
+
 TEST_F(CreateShadowCommand, LetsAFrequencyEditOfThePrimaryReachItsShadows) {
     testbench::ShowAndFocus(*MainFrame);
     Create(10, 0, 17);

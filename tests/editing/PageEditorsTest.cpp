@@ -22,7 +22,7 @@ const std::vector<Look> AnalogLooks = {
     {1, "ZelkMemoryNumberEditor", "MemoryNumberRenderer", false},
     {5, "ScanlistEditor", "ScanlistRenderer", false},
     {7, "ZelkDescriptionEditor", Plain, false},
-    {8, "wxGridCellChoiceEditor", Plain, true},
+    {8, "ListChoiceEditor", Plain, true},
     {9, "FrequencyEditor", Plain, true},
     {13, "ZelkChoiceEditor", Plain, true},
     {16, "FrequencyEditor", Plain, true},
@@ -35,13 +35,13 @@ const std::vector<Look> Tones = {{12, "ZelkChoiceEditor", Plain, true},
 /// Tones of AM pages.
 const std::vector<Look> NoTones = {{12, TextEditor, Plain, true}, {18, TextEditor, Plain, true}};
 const std::vector<Look> BandChoice = {{4, "MDLXBandChoiceEditor", Plain, true}};
-const std::vector<Look> YesNo = {{5, "wxGridCellChoiceEditor", Plain, true},
-                                 {30, "wxGridCellChoiceEditor", Plain, true}};
+const std::vector<Look> YesNo = {{5, "ListChoiceEditor", Plain, true},
+                                 {30, "ListChoiceEditor", Plain, true}};
 
 const std::vector<Look> P25Looks = {
     {1, "ZelkMemoryNumberEditor", "MemoryNumberRenderer", false},
     {3, TextEditor, Plain, true},
-    {5, "wxGridCellChoiceEditor", Plain, true},
+    {5, "ListChoiceEditor", Plain, true},
     {6, "P25ZoneEditor", Plain, true},
     {7, "ZelkDescriptionEditor", Plain, false},
     {8, "ZelkChoiceEditor", Plain, true},

@@ -124,6 +124,18 @@ TEST_F(ZoneCells, FillAZoneUpTo16Memories) {
     EXPECT_EQ(ZonesBut({"1"}), OfferedIn(9, ZONE));
 }
 
+TEST_F(ZoneCells, ChosenByKeysFillUpAndAreThenNoLongerOffered) {
+    for (int row = 2; row <= 17; ++row) {
+        EXPECT_EQ(row - 2, SlotsOf(2));
+        Choose(row, ZONE, "3");
+        EXPECT_EQ("3", Text(row, ZONE)) << row;
+    }
+    EXPECT_EQ(16, SlotsOf(2));
+    EXPECT_EQ(ZonesBut({"3"}), OfferedIn(18, ZONE));
+    Choose(17, ZONE, "4");
+    EXPECT_EQ(AllZones(), OfferedIn(18, ZONE)) << "one has left it";
+}
+
 TEST_F(ZoneCells, OfferEachTimeWhatHasRoomThen) {
     Fill({2});
     ZoneSlotsOf(0)[4] = 16;

@@ -252,3 +252,13 @@ TEST_F(CreateShadowCommand, LeavesAShadowsFrequenciesToItsPrimary) {
     testbench::TypeIntoCell(*CurrentGrid(), 17, RFRQ, "150.0");
     EXPECT_EQ(Cell(17, RFRQ), "136.0000");
 }
+
+TEST_F(CreateShadowCommand, RefusesARowThatOnlyALongerPageHas) {
+    for (int row : {-1, 233, 502}) {
+        SCOPED_TRACE(row);
+        testbench::DialogScript dialogs;
+        ExpectRefusal(dialogs, "Cannot Create Shadow!\nMemory record is empty or incomplete.");
+        ContextRow = row;
+        MainFrame->m_contextMenu->SendEvent(CreateShadow);
+    }
+}

@@ -19,6 +19,9 @@ namespace {
 constexpr int GuardLocks[] = {MNUM, SCAN, RTON, RCOD};
 constexpr int GuardLocksP25[] = {MNUM, SCAN, ZONE};
 
+/// The P25 radios by index.
+constexpr int Kdrv716 = 6, Kdrv716B = 7;
+
 /// The entries of a constant list. The lists of RadioCatalogue would not do: the first page is made
 /// before they are filled.
 template <const auto& texts>
@@ -123,7 +126,8 @@ void SetPageEditors(int page) {
                  PageStrings[page].TypeName);
     wxGrid* grid = PageGrid[page];
     const int rows = parameters.Rows;
-    const bool p25 = IsP25Type(parameters.Type);
+    // By the radio, not by the type, which a file may give to a page of any radio.
+    const bool p25 = parameters.Radio == Kdrv716 || parameters.Radio == Kdrv716B;
     wxGridUpdateLocker quiet(grid);
     for (int row = 0; row <= rows; ++row) {
         if (p25) {
@@ -186,7 +190,7 @@ void SetRowEditorsP25(wxGrid* grid, int row) {
     Centre(grid, row, {RSQL, TSQL});
     SetSquelchChoices(grid, row, grid->GetCellValue(row, MODE), false);
     Centre(grid, row, {RNSV});
-    if (page.Radio == 7)
+    if (page.Radio == Kdrv716B)
         SetEditor(grid, row, RNSV, new wxGridCellNumberEditor(0, 15));
     for (int col : {RTON, TTON})
         SetCentred(grid, row, col, new ZelkChoiceEditor(std::size(CtcssTexts), Choices<CtcssTexts>()));
@@ -235,6 +239,12 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
     // Meant: TTON keeps the editor that it has.
     SetEditor(grid, row, RTON, new ZelkChoiceEditor(std::size(CtcssTexts), Choices<CtcssTexts>()));
     SetReadOnly(grid, row, {SCAN}, grid->GetCellValue(row, ZONE) == "X");
+}
+
+void ChangeRowBand(wxGrid* grid, int row, int band) {
+    SetTexts(grid, row, {RFRQ, TFRQ}, "");
+    SetFrequencyCells(grid, row, band);
+    SetBandEditors(grid, row, band, true);
 }
 
 void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDefault) {

@@ -1,6 +1,8 @@
 // The checks of what a channel is: band, scan, zone, description, mode.
 #include "tests/editing/ColumnCheckTest.h"
 
+#include "editing/ScanListCell.h"
+
 namespace {
 
 class ChannelChecks : public ColumnCheckTest {};
@@ -124,4 +126,15 @@ TEST_F(ChannelChecks, ModesGetThePagesCase) {
 TEST_F(ChannelChecks, ReceiveOnlyBelongsToKdarPages) {
     ExpectAll({KdarPage}, {{{RONL}, "Y", "before"}, {{RONL}, "", "before"}});
     ExpectAll({Anfm, Rp25, Np25, Mdlx, O12Page, Anam, Fxam}, {{{RONL}, "Y", ""}, {{RONL}, "", ""}});
+}
+
+TEST_F(ChannelChecks, AScanMaskThatStandsGetsItsBoxes) {
+    for (Page page : maskPages)
+        for (const char* text : {"7", "1_3__"}) {
+            Become(page);
+            CurrentGrid()->SetCellRenderer(row, SCAN, nullptr);
+            CheckScan(CurrentGrid(), row, text);
+            const wxGridCellRendererPtr renderer(CurrentGrid()->GetCellRenderer(row, SCAN));
+            EXPECT_TRUE(dynamic_cast<ScanlistRenderer*>(renderer.get())) << "page " << page << ", " << text;
+        }
 }

@@ -66,3 +66,19 @@ TEST_F(FrequencyChecks, FrequenciesAnswerWhetherTheyStand) {
     EXPECT_EQ(0, CheckFreq(CurrentGrid(), row, RFRQ, "70.0000"));
     EXPECT_EQ(-1, CheckFreq(CurrentGrid(), row, RFRQ, "89.0000"));
 }
+
+TEST_F(FrequencyChecks, FrequenciesOfOtherPagesDoNotDependOnTheirRowsBand) {
+    for (const char* band : {"FM 30-50", "AM 108-138", "no band"}) {
+        ExpectAll({Anfm, Fxam}, {{{RFRQ, TFRQ}, "70.0000", "70.0000", Plain, "", BAND, band},
+                                 {{RFRQ, TFRQ}, "40.0000", "dflt", Painted, "", BAND, band}});
+        ExpectAll(p25Pages, {{{RFRQ, TFRQ}, "140.0000", "140.0000", Plain, "", BAND, band},
+                             {{RFRQ, TFRQ}, "117.000", "dflt", Painted, "", BAND, band}});
+    }
+}
+
+TEST_F(FrequencyChecks, FrequenciesNeedNotLieOnTheChannelStep) {
+    ExpectAll({Anfm, Fxam}, {{{RFRQ, TFRQ}, "70.00001", "70.00001"}, {{RFRQ, TFRQ}, "70.", "70."}});
+    ExpectAll(p25Pages, {{{RFRQ, TFRQ}, "140.0013", "140.0013"}});
+    ExpectAll({O12Page, KdarPage}, {{{RFRQ, TFRQ}, "120.0001", "120.0001"}});
+    ExpectAll({Anam}, {{{RFRQ, TFRQ}, "300.00007", "300.00007"}});
+}

@@ -261,3 +261,29 @@ TEST_F(PageEditors, LimitNumbersToWhatTheRadioKnows) {
     testbench::TypeIntoCell(*Grid(), 4, TIDC, "99999999");
     EXPECT_EQ("9999999", Text(4, TIDC));
 }
+
+TEST_F(PageEditors, ShowTheScanOfYesAndNoAsTextInTheDefaultFont) {
+    for (int radio : {Kdar2000, Kdrv716, Kdrv716B}) {
+        Retarget(Krv47, 0);
+        EXPECT_EQ("ScanlistRenderer", RendererClass(3, SCAN)) << radio;
+        Grid()->SetCellFont(3, SCAN, Grid()->GetDefaultCellFont().Larger());
+        Retarget(radio, 0);
+        EXPECT_EQ(Plain, RendererClass(3, SCAN)) << radio;
+        if (radio != Kdar2000) {
+            EXPECT_EQ(Grid()->GetDefaultCellFont(), Grid()->GetCellFont(3, SCAN)) << radio;
+        }
+    }
+}
+
+TEST_F(PageEditors, MakeTheCellsOfAnAnalogPageWritableInEveryRowButTheDefault) {
+    Retarget(Krv47, 0);
+    for (int row : {0, 1, 60, 120, 121, 122})
+        for (int col : {MNUM, SCAN, ZONE, RFRQ, TFRQ})
+            Grid()->SetReadOnly(row, col, true);
+    SetPageEditors(CurrentPage);
+    for (int row : {0, 1, 60, 120, 121, 122})
+        for (int col : {MNUM, SCAN, ZONE, RFRQ, TFRQ}) {
+            const bool guard = row > 120 && (col == MNUM || col == SCAN);
+            EXPECT_EQ(guard || (row == 0 && col == MNUM), IsLocked(row, col)) << row << ", " << col;
+        }
+}

@@ -192,3 +192,8 @@ TEST_F(SquelchChecks, NacsAreThreeHexadecimalDigits) {
                          {{RNAC, TNAC}, "x", "dflt"}});
     ExpectAll(analogPages, {{{RNAC, TNAC}, "293", ""}, {{RNAC, TNAC}, "", ""}});
 }
+
+TEST_F(SquelchChecks, CodesOfOtherPagesDoNotDependOnTheirRowsBand) {
+    ExpectAll({Anfm}, {{{RCOD, TCOD}, "023", "023", Plain, "", BAND, "AM 225-400"}});
+    ExpectAll({O12Page, KdarPage, Anam}, {{{RCOD, TCOD}, "023", "n/a", Plain, "", BAND, "FM 30-50"}});
+}

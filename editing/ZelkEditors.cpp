@@ -19,9 +19,6 @@ namespace {
 constexpr int GuardLocks[] = {MNUM, SCAN, RTON, RCOD};
 constexpr int GuardLocksP25[] = {MNUM, SCAN, ZONE};
 
-/// The P25 radios by index.
-constexpr int Kdrv716 = 6, Kdrv716B = 7;
-
 /// The entries of a constant list. The lists of RadioCatalogue would not do: the first page is made
 /// before they are filled.
 template <const auto& texts>
@@ -126,8 +123,7 @@ void SetPageEditors(int page) {
                  PageStrings[page].TypeName);
     wxGrid* grid = PageGrid[page];
     const int rows = parameters.Rows;
-    // By the radio, not by the type, which a file may give to a page of any radio.
-    const bool p25 = parameters.Radio == Kdrv716 || parameters.Radio == Kdrv716B;
+    const bool p25 = IsP25Type(parameters.Type);
     wxGridUpdateLocker quiet(grid);
     for (int row = 0; row <= rows; ++row) {
         if (p25) {
@@ -190,7 +186,7 @@ void SetRowEditorsP25(wxGrid* grid, int row) {
     Centre(grid, row, {RSQL, TSQL});
     SetSquelchChoices(grid, row, grid->GetCellValue(row, MODE), false);
     Centre(grid, row, {RNSV});
-    if (page.Radio == Kdrv716B)
+    if (page.Radio == 7)
         SetEditor(grid, row, RNSV, new wxGridCellNumberEditor(0, 15));
     for (int col : {RTON, TTON})
         SetCentred(grid, row, col, new ZelkChoiceEditor(std::size(CtcssTexts), Choices<CtcssTexts>()));

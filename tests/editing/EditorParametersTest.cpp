@@ -252,21 +252,3 @@ TEST_F(EditorParameters, OfDigitalRowsAreDigitalSquelches) {
         EXPECT_EQ(Linked("x t c"), Describe(6, 17)) << radio;
     }
 }
-
-// A file may give a radio's page a type that isn't the radio's own.
-TEST_F(EditorParameters, FollowTheRadioWhereTheTypeIsAnothers) {
-    Become(6, 0, 0);
-    EXPECT_EQ("zone: 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15", Describe(3, 6));
-    EXPECT_EQ(Plain("Y N"), Describe(3, 5));
-    EXPECT_EQ(Linked("w n D"), Describe(3, 8));
-    EXPECT_TRUE(IsLocked(3, SHAD));
-    EXPECT_TRUE(IsLocked(231, ZONE));
-    TearDown();
-    SetUp();
-    Become(1, 0, 1);
-    EXPECT_EQ("boxes", Describe(3, 5));
-    EXPECT_EQ(Plain("W N"), Describe(3, 8));
-    EXPECT_EQ("text", Describe(3, 6));
-    EXPECT_FALSE(IsLocked(3, SHAD));
-    EXPECT_TRUE(IsLocked(121, RTON));
-}

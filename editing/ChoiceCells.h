@@ -3,6 +3,10 @@
 
 #include "editing/ListChoiceEditor.h"
 
+/// Writes "OFF" into the cells of a row that can't stand beside a tone or code in col: those of the
+/// other kind, on the transmit side alone where col is a transmit column. Nothing for other columns.
+void TurnRivalsOff(wxGrid* grid, int row, int col);
+
 /// Edits MODE, squelch, tone and code. A receive tone or code is carried to the transmit one; on
 /// pages of type ANFM, ANAM and FXAM tone and code turn each other off; on P25 pages a mode brings
 /// its squelches.

@@ -10,6 +10,8 @@
 #include "editing/ZelkEditors.h"
 #include "frame/Messages.h"
 
+#include <limits>
+
 #include <wx/grid.h>
 
 using namespace RadioCatalogue;
@@ -64,7 +66,9 @@ int CheckNumber(wxGrid* grid, int row, wxString& text, FindDuplicate findDuplica
     if (!text.empty()) {
         const int rows = CurrentParameters().Rows;
         const int number = ReadDecimal(text);
-        text = number > rows ? wxString() : NumberText(number);
+        // The least number stands for all below what 32 bits hold.
+        const bool outOfRange = number > rows || number == std::numeric_limits<int>::min();
+        text = outOfRange ? wxString() : NumberText(number);
         const int other = findDuplicate(number);
         if (other <= rows) {
             DisplayError(ResultNumberUsed, other);

@@ -237,6 +237,12 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
     SetReadOnly(grid, row, {SCAN}, grid->GetCellValue(row, ZONE) == "X");
 }
 
+void ChangeRowBand(wxGrid* grid, int row, int band) {
+    SetTexts(grid, row, {RFRQ, TFRQ}, "");
+    SetFrequencyCells(grid, row, band);
+    SetBandEditors(grid, row, band, true);
+}
+
 void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDefault) {
     if (mode != "D") {
         for (int col : {RSQL, TSQL})

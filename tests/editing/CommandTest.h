@@ -118,6 +118,14 @@ protected:
     }
 
     static bool IsReadOnly(int row, int col) { return CurrentGrid()->IsReadOnly(row, col); }
+    /// Columns of a row that are read-only.
+    static std::vector<int> Locked(int row) {
+        std::vector<int> columns;
+        for (int col = 0; col < 32; ++col)
+            if (IsReadOnly(row, col))
+                columns.push_back(col);
+        return columns;
+    }
     static wxColour Paint(int row, int col) { return CurrentGrid()->GetCellBackgroundColour(row, col); }
     static wxColour Plain() { return CurrentGrid()->GetDefaultCellBackgroundColour(); }
     static wxColour Orange() { return wxColour(235, 125, 50); }

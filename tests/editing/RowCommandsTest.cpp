@@ -89,6 +89,19 @@ TEST_F(DefaultRowCommand, OverwritesOtherSelectedRowsAsTheyAre) {
     EXPECT_EQ(Cell(11, SHAD), "S-010") << "only the context row's links are undone";
 }
 
+TEST_F(DefaultRowCommand, LeavesWhatTheRadioFixesInGuardRowsLocked) {
+    const struct {
+        int radio;
+        std::vector<int> locked;
+    } pages[] = {{Krv47, {MNUM, SCAN, RTON, RCOD}}, {Kdrv716, {MNUM, SHAD, SCAN, ZONE}}};
+    for (const auto& page : pages) {
+        Retarget(page.radio, 0);
+        RunOnRow(DefaultRow, GD1);
+        EXPECT_EQ(Cell(GD1, MNUM), wxString::Format("%d", GD1));
+        EXPECT_EQ(Locked(GD1), page.locked) << "radio " << page.radio;
+    }
+}
+
 TEST_F(DefaultRowCommand, NeverTouchesTheDefaultRow) {
     Retarget(Kdrv716, 0);
     const Texts before = Row(0);
@@ -221,6 +234,27 @@ TEST_F(ClearRowCommand, OnAShadowFreesItsSlotAndKeepsThePrimary) {
     EXPECT_EQ(Cell(10, SHAD), "P-2");
     EXPECT_EQ(Cell(10, MFLG), "10");
     EXPECT_TRUE(IsReadOnly(10, MNUM));
+}
+
+TEST_F(ClearRowCommand, LeavesWhatTheRadioFixesInGuardRowsLocked) {
+    const struct {
+        int radio;
+        std::vector<int> locked;
+    } pages[] = {{Krv47, {MNUM, SCAN, RTON, RCOD}},
+                 {Kdrv716, {MNUM, SHAD, SCAN, ZONE}},
+                 {Kdrv716B, {MNUM, SHAD, SCAN, ZONE}}};
+    for (const auto& page : pages) {
+        SCOPED_TRACE(page.radio);
+        Retarget(page.radio, 0);
+        Fill({5, GD1, GD2});
+        CurrentGrid()->SetReadOnly(5, DESC, true);
+        SelectRows({5, GD2});
+        Run(ClearRow);
+        EXPECT_EQ(Row(GD2), Blank());
+        EXPECT_EQ(Locked(GD2), page.locked);
+        EXPECT_EQ(Locked(GD1), page.locked);
+        EXPECT_FALSE(IsReadOnly(5, DESC));
+    }
 }
 
 TEST_F(ClearRowCommand, OnAnalogPagesKnowsNoLinks) {

@@ -201,6 +201,14 @@ TEST_F(ClearRowCommand, EmptiesTheSelectedRows) {
     EXPECT_FALSE(CurrentGrid()->IsInSelection(3, 0));
 }
 
+TEST_F(ClearRowCommand, TakesARowAsSelectedWhenItsFirstCellIs) {
+    Fill({2, 3, 4, 5});
+    CurrentGrid()->SelectBlock(2, 1, 3, 31);
+    CurrentGrid()->SelectBlock(4, 0, 5, 0, true);
+    Run(ClearRow);
+    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{2, 3}));
+}
+
 TEST_F(ClearRowCommand, GivesTheZonesOfP25RowsBack) {
     Retarget(Kdrv716, 0);
     Fill({2, 3, 4});
@@ -325,6 +333,26 @@ TEST_F(InsertRowCommand, OnAPageWithGuardsLeavesThemInPlace) {
         EXPECT_FALSE(IsReadOnly(GD1 - 1, MNUM));
         EXPECT_EQ(CurrentGrid()->GetNumberRows(), CurrentParameters().Rows + 1);
     }
+}
+
+TEST_F(InsertRowCommand, DropsWhatElseIsSelected) {
+    SelectRows({2, 8});
+    ContextRow = 5;
+    Run(InsertRow);
+    for (int row : {2, 3, 8, 9})
+        EXPECT_FALSE(CurrentGrid()->IsInSelection(row, 0)) << "row " << row;
+}
+
+TEST_F(InsertRowCommand, KeepsTheNumbersOfLinks) {
+    Retarget(Kdrv716, 0);
+    Fill({10});
+    Link(10, {12, 13});
+    RunOnRow(InsertRow, 11);
+    EXPECT_EQ(Column(MNUM, {10, 13, 14}), (Texts{"010", "13", "14"}));
+    EXPECT_EQ(Column(SHD0, {10}), Texts{"012"});
+    EXPECT_EQ(Column(PRIM, {13, 14}), (Texts{"010", "010"}));
+    EXPECT_EQ(Locked(13), (std::vector<int>{MNUM, SHAD, SCAN, ZONE, RFRQ, TFRQ})) << "locks move along";
+    EXPECT_EQ(Locked(12), std::vector<int>{SHAD});
 }
 
 TEST_F(InsertRowCommand, AtTheLastRowEmptiesIt) {

@@ -3,6 +3,7 @@
 #include "editing/ShadowDialog.h"
 #include "tests/editing/CommandTest.h"
 
+#include <wx/stattext.h>
 #include <wx/textctrl.h>
 
 namespace {
@@ -217,6 +218,12 @@ TEST_F(ShadowRows, DialogHasOkOnlyWithAText) {
     ShadowDialog dialog(MainFrame, "For Primary: 010 create Shadow: 1");
     EXPECT_GE(dialog.GetSize().x, 320);
     EXPECT_GE(dialog.GetSize().y, 130);
+    EXPECT_EQ(dialog.GetMinSize(), wxSize(320, 130));
+    const auto* label =
+        dynamic_cast<wxStaticText*>(wxWindow::FindWindowByLabel("Shadow Memory Num:", &dialog));
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->GetMinSize().x, 170);
+    EXPECT_NE(dialog.FindWindow(wxID_CANCEL), nullptr);
     dialogs.Expect(testbench::DialogKind::Other, "For Primary: 010 create Shadow: 1").Do([](wxDialog* shown) {
         wxWindow* ok = shown->FindWindow(wxID_OK);
         EXPECT_TRUE(testbench::PumpUntil([ok] { return !ok->IsEnabled(); })) << "an empty text";

@@ -38,7 +38,7 @@ std::vector<int> ShadowNumbers(const wxArrayString& rowTexts) {
 
 std::vector<int> ShadowRowsOf(wxGrid* grid, int row) {
     std::vector<int> shadows;
-    if (row == 0 || IsMemoryRow(row))
+    if (IsMemoryRow(row))
         for (int slot = SHD0; slot <= SHD6; ++slot)
             if (const int shadow = ReadDecimal(grid->GetCellValue(row, slot)); IsShadowRow(grid, shadow))
                 shadows.push_back(shadow);

@@ -23,7 +23,7 @@ std::vector<int> ShadowNumbers(const wxArrayString& rowTexts);
 
 /// The rows of the current page that the slots of a row name, in the order of the slots. A row is
 /// left out if it isn't a memory row of the page or its MFLG says that it is no shadow: a number
-/// may have gone stale after rows have moved. Empty for a row outside the page.
+/// may have gone stale after rows have moved. Empty for a row that is no memory row itself.
 std::vector<int> ShadowRowsOf(wxGrid* grid, int row);
 
 /// The number that a user typed for a shadow on a page of so many memory rows. None for a text

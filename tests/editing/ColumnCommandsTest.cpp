@@ -1,6 +1,7 @@
 #include "editing/ColumnCommands.h"
 
 #include "editing/CellTextRenderer.h"
+#include "editing/RowLooks.h"
 
 #include "tests/editing/CommandTest.h"
 
@@ -32,6 +33,7 @@ protected:
     }
 };
 class DefaultFileCommand : public CommandTest {};
+class RowLooks : public CommandTest {};
 class DefaultsCommands : public CommandTest {};
 class ClearHighlight : public CommandTest {};
 class MissingClipboard : public CommandTest {};
@@ -393,6 +395,20 @@ TEST_F(DefaultFileCommand, ForgetsLocksAndPaintOfFormerRows) {
         for (int col : {MNUM, SCAN, ZONE})
             EXPECT_TRUE(IsReadOnly(row, col)) << "guard row " << row << " column " << col;
     EXPECT_TRUE(IsReadOnly(0, MNUM));
+}
+
+TEST_F(RowLooks, ThatAreForgottenSpareWhatThePageNeeds) {
+    Retarget(Kdrv716, 0);
+    for (int row : {5, GD1}) {
+        CurrentGrid()->SetReadOnly(row, SCAN, true);
+        CurrentGrid()->SetReadOnly(row, RFRQ, row == 5);
+        CurrentGrid()->SetCellBackgroundColour(row, RFRQ, Orange());
+    }
+    ForgetLooksOfRows(CurrentGrid());
+    EXPECT_EQ(Locked(5), std::vector<int>{SHAD});
+    EXPECT_EQ(Locked(GD1), (std::vector<int>{MNUM, SHAD, SCAN, ZONE}));
+    for (int row : {5, GD1})
+        EXPECT_EQ(Paint(row, RFRQ), Plain()) << "row " << row;
 }
 
 TEST_F(DefaultFileCommand, FromTheMenuOfTheCornerReachesTheWholePage) {

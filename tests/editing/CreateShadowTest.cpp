@@ -191,8 +191,10 @@ TEST_F(CreateShadowCommand, TakesASlotOf000ForFree) {
 
 TEST_F(CreateShadowCommand, RefusesANumberInUse) {
     Complete(30);
+    SetCell(0, MNUM, "044");
     const Texts before = Row(10), used = Row(30);
-    for (const char* number : {"30", "030", "10", "231"}) {
+    for (const char* number : {"30", "030", "10", "1", "231", "232", "44"}) {
+        SCOPED_TRACE(number);
         testbench::DialogScript dialogs;
         ExpectEntry(dialogs, 10, 1, number);
         ExpectRefusal(dialogs, "Selected memory is already in use.");

@@ -115,6 +115,17 @@ TEST_F(ShadowRows, AreNotTakenForOthersAfterRowsHaveMoved) {
     EXPECT_EQ(Cell(20, DESC), "row20");
 }
 
+TEST_F(ShadowRows, AreNoneOfTheDefaultRow) {
+    Fill({10});
+    Link(10, {11});
+    SetCell(0, SHD0, "011");
+    SetCell(0, RFRQ, "150.0000");
+    HandleP25Shadows(nullptr, 0, "", CurrentGrid());
+    EXPECT_EQ(ShadowRowsOf(CurrentGrid(), 0), std::vector<int>{});
+    EXPECT_EQ(Cell(11, RFRQ), "136.0000") << "0 numbers no memory";
+    EXPECT_EQ(ShadowRowsOf(CurrentGrid(), 10), std::vector<int>{11});
+}
+
 TEST_F(ShadowRows, OfARemovedPrimaryAreEmptiedButKeepTheirLockOnShad) {
     Fill({10, 20});
     Link(10, {11, 12});

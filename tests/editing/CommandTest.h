@@ -175,6 +175,8 @@ protected:
                 size_t at = 0;
                 return MainFrame->m_contextMenu->FindChildItem(command, &at) ? static_cast<int>(at) : -1;
             });
+            if (position < 0)
+                robot.Press("Escape");
             ASSERT_GE(position, 0) << "the menu lacks " << command;
             for (int i = 0; i <= position; ++i)
                 robot.Press("Down");

@@ -2,6 +2,7 @@
 #include "editing/ZelkEdit.h"
 #include "tests/editing/CommandTest.h"
 
+#include <wx/combobox.h>
 #include <wx/dialog.h>
 #include <wx/textctrl.h>
 
@@ -51,6 +52,20 @@ protected:
         testbench::DialogScript dialogs;
         ExpectEntry(dialogs, primary, slot + 1, wxString::Format("%d", shadow));
         RunOn(primary);
+    }
+
+    /// What a choice cell offers.
+    static Texts Offered(int row, int col) {
+        CurrentGrid()->GoToCell(row, col);
+        CurrentGrid()->EnableCellEditControl();
+        testbench::PumpUntilIdle();
+        Texts offered;
+        const wxGridCellEditorPtr editor(CurrentGrid()->GetCellEditor(row, col));
+        if (const auto* combo = dynamic_cast<wxComboBox*>(editor->GetControl()))
+            for (const wxString& text : combo->GetStrings())
+                offered.push_back(text.utf8_string());
+        testbench::PressKey("Escape");
+        return offered;
     }
 
     static void ExpectRefusal(testbench::DialogScript& dialogs, const char* message) {
@@ -103,6 +118,40 @@ TEST_F(CreateShadowCommand, KeepsTheRadiosFlagsOfTheShadowsRow) {
     EXPECT_EQ(Cell(17, MFLG), "61");
 }
 
+TEST_F(CreateShadowCommand, AddsTheIndexToTheOneThatTheRowHeld) {
+    SetCell(17, MFLG, "6C");
+    Create(10, 0, 17);
+    EXPECT_EQ(Cell(17, MFLG), "65");
+}
+
+TEST_F(CreateShadowCommand, TakesTheRowsNumberForThePrimarysRow) {
+    Complete(12);
+    SetCell(10, MNUM, "12");
+    SetCell(12, RTGP, "00AB");
+    SetCell(12, SHD0, "020");
+    testbench::DialogScript dialogs;
+    ExpectEntry(dialogs, 12, 2, "17");
+    RunOn(10);
+    EXPECT_EQ(Column(SHAD, {10, 12, 17}), (Texts{"N", "P-2", "S-012"}));
+    EXPECT_EQ(Cell(12, SHD1), "017");
+    EXPECT_EQ(Cell(17, MFLG), "02");
+    EXPECT_EQ(Cell(17, RTGP), "00AB");
+    EXPECT_EQ(Locked(10), std::vector<int>{SHAD});
+    EXPECT_EQ(Locked(12), (std::vector<int>{MNUM, SHAD, SCAN}));
+}
+
+TEST_F(CreateShadowCommand, LeavesAShadowTheTransmitSquelchesOfShadows) {
+    testbench::ShowAndFocus(*MainFrame);
+    SetCell(10, MODE, "D");
+    SetCell(10, RSQL, "m");
+    SetCell(10, TSQL, "g");
+    SetRowEditorsP25(CurrentGrid(), 10);
+    Create(10, 0, 17);
+    EXPECT_EQ(Offered(10, TSQL).size(), 3u);
+    EXPECT_EQ(Offered(17, TSQL).size(), 2u);
+    EXPECT_EQ(Offered(17, RSQL), (Texts{"m", "n", "g"}));
+}
+
 TEST_F(CreateShadowCommand, RefusesARowWithAnEmptyShownCell) {
     SetCell(10, DESC, "");
     const Texts before = Row(10);
@@ -142,8 +191,10 @@ TEST_F(CreateShadowCommand, TakesASlotOf000ForFree) {
 
 TEST_F(CreateShadowCommand, RefusesANumberInUse) {
     Complete(30);
+    SetCell(0, MNUM, "044");
     const Texts before = Row(10), used = Row(30);
-    for (const char* number : {"30", "030", "10", "231"}) {
+    for (const char* number : {"30", "030", "10", "1", "231", "232", "44"}) {
+        SCOPED_TRACE(number);
         testbench::DialogScript dialogs;
         ExpectEntry(dialogs, 10, 1, number);
         ExpectRefusal(dialogs, "Selected memory is already in use.");

@@ -2,7 +2,7 @@
 #include "tests/editing/HardWork.h"
 
 #include "catalogue/TextNumbers.h"
-#include "editing/ShadowSlots.h"
+#include "editing/Shadows.h"
 #include "editing/Shadows.h"
 #include "editing/ZelkEdit.h"
 #include "tests/support/AssertsOff.h"

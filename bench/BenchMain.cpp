@@ -44,10 +44,16 @@ int main(int argc, char** argv) {
     RegisterStart(std::filesystem::read_symlink("/proc/self/exe").string());
     RegisterPages();
     RegisterChannelFiles();
+    RegisterEditing();
     RegisterAnalogTransfer();
     report.SetAim("start", 1.2);
     report.SetAim("page", 1.5);
     report.SetAim("file", 1.5);
+    for (const char* group :
+         {"SetPageEditors", "OnInsertRow", "OnDeleteRow", "OnDefaultFile", "OnDefaultCol"})
+        report.SetAim(group, 1.5);
+    report.SetAim("CheckPage", 3);
+    report.SetGrowthAim(102, 502, 6);
     report.SetAim("transfer", 1.03);
     wxDISABLE_DEBUG_SUPPORT();
     wxApp::SetInstance(new BenchApp);

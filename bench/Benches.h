@@ -13,6 +13,9 @@ void RegisterPages();
 /// Opening a full channel file of each radio type.
 void RegisterChannelFiles();
 
+/// The checks, set-ups and commands that go over a whole page, on full pages of several sizes.
+void RegisterEditing();
+
 /// Sending to and reading from a radio that keeps the line's pace, against the pauses and wire time
 /// that the protocol prescribes.
 void RegisterAnalogTransfer();

@@ -1,6 +1,7 @@
 #include "bench/FullPage.h"
 
 #include "catalogue/PageCreation.h"
+#include "catalogue/ZoneSlots.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/grid.h>
@@ -11,6 +12,10 @@ void MakePage(const PageCase& page) {
     if (page.forcedType >= 0) {
         PageParameters[1].Type = page.forcedType;
         PageStrings[1].TypeName = RadioCatalogue::RadioTypeName[page.forcedType];
+    }
+    if (page.rows > 0) {
+        PageParameters[1].Rows = page.rows;
+        SetGuardRows(MainFrame, 1, page.rows);
     }
     CreateNewPage(MainFrame, 1);
 }
@@ -23,6 +28,23 @@ void DropPage() {
 }
 
 void FillPage() {
+    ClearZoneSlots(CurrentPage);
     CurrentGrid()->SelectAll();
     CopyValuesToSelection(CurrentPage, GetRowValues(CurrentPage, 0), true, true);
+}
+
+void SpreadTonesAndCodes() {
+    using namespace RadioCatalogue;
+    wxGrid* grid = CurrentGrid();
+    const wxArrayString& tones = CurrentPageIsP25() ? CtcssList : ToneList;
+    wxGridUpdateLocker quiet(grid);
+    for (int row = 1; row <= CurrentParameters().Rows; ++row) {
+        // The first code is "OFF".
+        const wxString tone = tones[static_cast<size_t>(row) % tones.size()];
+        const wxString code = CodeList[1 + static_cast<size_t>(row) % (CodeList.size() - 1)];
+        for (int col : {RTON, TTON})
+            grid->SetCellValue(row, col, tone);
+        for (int col : {RCOD, TCOD})
+            grid->SetCellValue(row, col, code);
+    }
 }

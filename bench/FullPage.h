@@ -6,6 +6,7 @@ struct PageCase {
     const char* type;
     int radio, bandIndex;
     int forcedType = -1; ///< for the type that no radio has by itself
+    int rows = 0;        ///< for a number of rows that no radio of the type has
 };
 
 /// One page a radio type.
@@ -18,5 +19,9 @@ inline constexpr PageCase PageCases[] = {
 void MakePage(const PageCase& page);
 void DropPage();
 
-/// Fills every memory row of the current page from its default row.
+/// Fills every memory row of the current page from its default row; zones are dealt afresh.
 void FillPage();
+
+/// Gives the rows of an analog or P25 page the tones and codes of the lists by turns, as channels that
+/// are in use have them.
+void SpreadTonesAndCodes();

@@ -25,9 +25,32 @@ void RatioReport::ReportRuns(const std::vector<Run>& runs) {
     }
 }
 
+bool RatioReport::PrintGrowth() const {
+    bool good = true, headed = false;
+    for (const std::string& name : m_order) {
+        const size_t slash = name.rfind('/');
+        const std::string series = name.substr(0, slash + 1);
+        const auto large = m_pairs.find(series + std::to_string(m_growth.to));
+        if (name != series + std::to_string(m_growth.from) || large == m_pairs.end())
+            continue;
+        if (!headed)
+            std::printf("\n%-32s %12s %12s %7s %6s\n", "growth with size", "program", "floor", "", "aim");
+        headed = true;
+        const Pair& small = m_pairs.at(name);
+        const double program = small.program > 0 ? large->second.program / small.program : 0;
+        const double floor = small.floor > 0 ? large->second.floor / small.floor : 0;
+        const bool met = program > 0 && program <= m_growth.aim;
+        good = good && met;
+        std::printf("%-32s %12.2f %12.2f %7s %6.2f%s\n",
+                    (series + std::to_string(m_growth.from) + "-" + std::to_string(m_growth.to)).c_str(),
+                    program, floor, "", m_growth.aim, met ? "" : "  above");
+    }
+    return good;
+}
+
 bool RatioReport::Print() const {
     bool good = !m_failed;
-    std::printf("%-28s %12s %12s %7s %6s\n", "", "program ms", "floor ms", "ratio", "aim");
+    std::printf("%-32s %12s %12s %7s %6s\n", "", "program ms", "floor ms", "ratio", "aim");
     for (const std::string& name : m_order) {
         const Pair& pair = m_pairs.at(name);
         const std::string group = name.substr(0, name.find('/'));
@@ -35,8 +58,8 @@ bool RatioReport::Print() const {
         const double ratio = pair.floor > 0 ? pair.program / pair.floor : 0;
         const bool met = pair.program > 0 && pair.floor > 0 && ratio <= aim;
         good = good && met;
-        std::printf("%-28s %12.2f %12.2f %7.3f %6.2f%s\n", name.c_str(), pair.program, pair.floor, ratio, aim,
+        std::printf("%-32s %12.2f %12.2f %7.3f %6.2f%s\n", name.c_str(), pair.program, pair.floor, ratio, aim,
                     met ? "" : "  above");
     }
-    return good;
+    return PrintGrowth() && good;
 }

@@ -81,11 +81,11 @@ wxGrid* MakeBareGrid(wxWindow* parent, const GridContent& content) {
 
 void WriteObjects(wxGrid* grid, const GridContent& content) {
     std::array<wxArrayString, ColumnTotal> choices;
-    for (int col = 0; col < ColumnTotal; ++col)
-        choices[col] = ChoicesOf(content.type, col);
     for (const CellObjects& cell : content.objects) {
         switch (cell.editor) {
         case CellObjects::Editor::Choice:
+            if (choices[cell.col].empty())
+                choices[cell.col] = ChoicesOf(content.type, cell.col);
             grid->SetCellEditor(cell.row, cell.col, new wxGridCellChoiceEditor(choices[cell.col]));
             break;
         case CellObjects::Editor::Number:
@@ -106,16 +106,21 @@ void WriteObjects(wxGrid* grid, const GridContent& content) {
         grid->SetReadOnly(row, col, true);
 }
 
-void WriteContent(wxGrid* grid, const GridContent& content) {
+void WriteTexts(wxGrid* grid, const GridContent& content) {
     wxGridUpdateLocker quiet(grid);
     for (int row = 0; row < content.rows; ++row)
         for (int col = 0; col < ColumnTotal; ++col)
             if (!content.texts[row][col].empty())
                 grid->SetCellValue(row, col, content.texts[row][col]);
+}
+
+void WriteContent(wxGrid* grid, const GridContent& content) {
+    wxGridUpdateLocker quiet(grid);
+    WriteTexts(grid, content);
     WriteObjects(grid, content);
 }
 
-void AddBarePage(wxNotebook* notebook, const GridContent& content) {
+wxGrid* AddBarePage(wxNotebook* notebook, const GridContent& content) {
     auto* panel =
         new wxPanel(notebook, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxBORDER_NONE);
     auto* sizer = new wxBoxSizer(wxVERTICAL);
@@ -124,4 +129,5 @@ void AddBarePage(wxNotebook* notebook, const GridContent& content) {
     panel->SetSizer(sizer);
     notebook->AddPage(panel, content.radioName, true);
     WriteContent(grid, content);
+    return grid;
 }

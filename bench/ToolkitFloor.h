@@ -35,12 +35,15 @@ GridContent ContentOfCurrentPage();
 /// A grid of the same size, columns and labels, made bare.
 wxGrid* MakeBareGrid(wxWindow* parent, const GridContent& content);
 
+/// The cells that have text.
+void WriteTexts(wxGrid* grid, const GridContent& content);
+
 /// The editors, renderers and alignments of the content, with the toolkit's own plain classes, and the
 /// marks.
 void WriteObjects(wxGrid* grid, const GridContent& content);
 
-/// The cells that have text, and WriteObjects, as a toolkit user would.
+/// WriteTexts and WriteObjects, as a toolkit user would.
 void WriteContent(wxGrid* grid, const GridContent& content);
 
-/// Panel, grid, content and tab.
-void AddBarePage(wxNotebook* notebook, const GridContent& content);
+/// Panel, grid, content and tab. The grid.
+wxGrid* AddBarePage(wxNotebook* notebook, const GridContent& content);

@@ -12,6 +12,8 @@
 #include <wx/panel.h>
 #include <wx/sizer.h>
 
+#include <algorithm>
+
 using namespace RadioCatalogue;
 
 void SetPageParameters(OrvZELFrame* frame, int page, int radio, int bandIndex) {
@@ -40,6 +42,10 @@ void SetGridColumns(wxGrid* grid, int type) {
         grid->SetColSize(col, ColumnWidth[type][col]);
         grid->SetColLabelValue(col, ColumnHeading[type][col]);
     }
+    // The toolkit begins in the first column, which is always hidden, and a page of another type
+    // may have left the cursor in one that is hidden now: typing would go into a cell unseen.
+    if (const int col = grid->GetGridCursorCol(); col < 0 || !grid->IsColShown(col))
+        grid->SetGridCursor(std::max(grid->GetGridCursorRow(), 0), MNUM);
 }
 
 void SetGridRowLabels(wxGrid* grid, int last) {

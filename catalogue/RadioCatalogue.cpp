@@ -1,5 +1,10 @@
 #include "catalogue/RadioCatalogue.h"
 
+#include "catalogue/AsciiText.h"
+
+#include <string>
+#include <unordered_map>
+
 namespace RadioCatalogue {
 
 wxArrayString ToneList;
@@ -12,7 +17,7 @@ namespace {
 template <size_t count>
 int FindText(const char* const (&texts)[count], const wxString& text) {
     for (size_t i = 0; i < count; ++i)
-        if (text == texts[i])
+        if (IsText(text, texts[i]))
             return static_cast<int>(i);
     return -1;
 }
@@ -22,6 +27,29 @@ wxString EntryOf(const wxArrayString& list, int i) {
         return {};
     return list[static_cast<size_t>(i)];
 }
+
+/// The positions of a choice list's texts. A page's check looks up four texts a row, in lists of up to
+/// 84: searching the lists would take most of its time.
+class ListIndex {
+public:
+    void Fill(const wxArrayString& list) {
+        m_positions.clear();
+        // The first of equal texts stays.
+        for (size_t i = 0; i < list.size(); ++i)
+            m_positions.emplace(list[i].ToStdWstring(), static_cast<int>(i));
+    }
+
+    /// -1 when the list lacks the text.
+    int Find(const wxString& text) const {
+        const auto found = m_positions.find(text.ToStdWstring());
+        return found == m_positions.end() ? -1 : found->second;
+    }
+
+private:
+    std::unordered_map<std::wstring, int> m_positions;
+};
+
+ListIndex tonePositions, ctcssPositions, codePositions;
 
 /// Choice texts of BandDialog by band id; bands that no choice offers have none.
 constexpr const char* BandChoiceText[BandTotal] = {
@@ -36,6 +64,9 @@ void FillChoiceLists() {
     ToneList = ListOf(ToneTexts);
     CtcssList = ListOf(CtcssTexts);
     CodeList = ListOf(CodeTexts);
+    tonePositions.Fill(ToneList);
+    ctcssPositions.Fill(CtcssList);
+    codePositions.Fill(CodeList);
 }
 
 int GetRadioType(int radio, int band) {
@@ -130,11 +161,11 @@ void MakeBandList(int radio, wxArrayString& list) {
 }
 
 int GetToneIndex(const wxString& text) {
-    return ToneList.Index(text);
+    return tonePositions.Find(text);
 }
 
 int GetCtcssIndex(const wxString& text) {
-    return CtcssList.Index(text);
+    return ctcssPositions.Find(text);
 }
 
 wxString GetToneText(int i) {
@@ -146,8 +177,8 @@ wxString GetCtcssText(int i) {
 }
 
 int GetCodeIndex(const wxString& text, int type) {
-    const int i = CodeList.Index(text);
-    if (i == wxNOT_FOUND)
+    const int i = codePositions.Find(text);
+    if (i < 0)
         return -1;
     return IsP25Type(type) ? i - 1 : i;
 }
@@ -159,11 +190,11 @@ wxString GetCodeText(int i, int type) {
 }
 
 int GetModeIndex(const wxString& text) {
-    if (text == "w" || text == "W")
+    if (IsText(text, "w") || IsText(text, "W"))
         return 0;
-    if (text == "n" || text == "N")
+    if (IsText(text, "n") || IsText(text, "N"))
         return 1;
-    return text == "D" ? 2 : -1;
+    return IsText(text, "D") ? 2 : -1;
 }
 
 bool IsAnalogSquelch(const wxString& text, int column) {

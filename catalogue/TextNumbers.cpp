@@ -1,20 +1,64 @@
 #include "catalogue/TextNumbers.h"
 
+#include <algorithm>
 #include <cstdint>
-#include <cstdlib>
+#include <iterator>
 #include <string>
 
+namespace {
+
+bool IsBlank(wchar_t c) {
+    return c == L' ' || (c >= L'\t' && c <= L'\r');
+}
+
+/// The value of a digit of the base, -1 for any other character.
+int DigitOf(wchar_t c, int base) {
+    if (c >= L'0' && c <= L'9')
+        return static_cast<int>(c - L'0');
+    if (base == 16 && c >= L'A' && c <= L'F')
+        return static_cast<int>(c - L'A') + 10;
+    if (base == 16 && c >= L'a' && c <= L'f')
+        return static_cast<int>(c - L'a') + 10;
+    return -1;
+}
+
+/// The value in the base, with its sign and zeros in front at least width characters. wxString::Format
+/// takes many times as long.
+wxString Digits(uint32_t value, bool negative, uint32_t base, int width) {
+    wchar_t text[16];
+    wchar_t* const end = std::end(text);
+    wchar_t* at = end;
+    do
+        *--at = L"0123456789ABCDEF"[value % base];
+    while (value /= base);
+    while (end - at + negative < width)
+        *--at = L'0';
+    if (negative)
+        *--at = L'-';
+    return wxString(at, static_cast<size_t>(end - at));
+}
+
+} // namespace
+
+// On the characters as they are held: the check of a page reads thousands of numbers, and to convert
+// each text would cost more than all else.
 std::optional<int> ReadNumber(const wxString& text, int base) {
-    const std::string bytes = text.utf8_string();
-    char* end = nullptr;
-    const long long value = std::strtoll(bytes.c_str(), &end, base);
-    if (end == bytes.c_str())
+    const std::wstring& wide = text.ToStdWstring();
+    const auto end = wide.end();
+    auto at = std::find_if_not(wide.begin(), end, IsBlank);
+    const bool negative = at != end && *at == L'-';
+    if (negative || (at != end && *at == L'+'))
+        ++at;
+    if (base == 16 && end - at > 2 && at[0] == L'0' && (at[1] == L'x' || at[1] == L'X') &&
+        DigitOf(at[2], base) >= 0)
+        at += 2;
+    if (at == end || DigitOf(*at, base) < 0)
         return std::nullopt;
-    if (value > INT32_MAX)
-        return INT32_MAX;
-    if (value < INT32_MIN)
-        return INT32_MIN;
-    return static_cast<int>(value);
+    constexpr int64_t beyond = int64_t{INT32_MAX} + 1;
+    int64_t value = 0;
+    for (; at != end && DigitOf(*at, base) >= 0; ++at)
+        value = std::min(value * base + DigitOf(*at, base), beyond);
+    return static_cast<int>(std::clamp<int64_t>(negative ? -value : value, INT32_MIN, INT32_MAX));
 }
 
 int ReadDecimal(const wxString& text) {
@@ -26,9 +70,11 @@ int ReadHex(const wxString& text) {
 }
 
 wxString NumberText(int number) {
-    return wxString::Format("%03d", number);
+    const bool negative = number < 0;
+    const auto value = static_cast<uint32_t>(number);
+    return Digits(negative ? 0 - value : value, negative, 10, 3);
 }
 
 wxString FlagText(int flags) {
-    return wxString::Format("%02X", static_cast<unsigned>(flags));
+    return Digits(static_cast<uint32_t>(flags), false, 16, 2);
 }

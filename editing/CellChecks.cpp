@@ -48,12 +48,12 @@ wxString DescriptionText(const wxString& text, int type) {
 std::optional<wxString> ModeText(const wxString& text, int type) {
     switch (GetModeIndex(text)) {
     case 0:
-        return IsP25Type(type) ? "w" : "W";
+        return wxString(wxUniChar(IsP25Type(type) ? 'w' : 'W'));
     case 1:
-        return IsP25Type(type) ? "n" : "N";
+        return wxString(wxUniChar(IsP25Type(type) ? 'n' : 'N'));
     case 2:
         if (IsP25Type(type))
-            return "D";
+            return wxString(wxUniChar('D'));
         break;
     default:
         break;
@@ -63,15 +63,16 @@ std::optional<wxString> ModeText(const wxString& text, int type) {
 
 namespace {
 
-bool IsHexDigit(wxUniChar c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+bool IsHexDigit(wchar_t c) {
+    return (c >= L'0' && c <= L'9') || (c >= L'A' && c <= L'F') || (c >= L'a' && c <= L'f');
 }
 
 } // namespace
 
 std::optional<wxString> HexDigitsText(const wxString& text, size_t digits) {
-    const wxString number = text.Left(digits);
-    if (number.empty() || !std::all_of(number.begin(), number.end(), IsHexDigit))
+    const std::wstring& wide = text.ToStdWstring();
+    const size_t count = std::min(wide.length(), digits);
+    if (count == 0 || !std::all_of(wide.begin(), wide.begin() + static_cast<ptrdiff_t>(count), IsHexDigit))
         return std::nullopt;
-    return wxString('0', digits - number.length()) + text;
+    return count == digits ? text : wxString('0', digits - count) + text;
 }

@@ -19,7 +19,7 @@ void WriteChosen(wxGrid* grid, int row, int col, const wxString& text) {
 }
 
 /// The columns that a choice in col turns off where a channel has either a tone or a code.
-std::initializer_list<int> ExcludedColumns(int col) {
+std::initializer_list<int> RivalsOf(int col) {
     static constexpr std::initializer_list<int> codes = {RCOD, TCOD}, tones = {RTON, TTON};
     static constexpr std::initializer_list<int> transmitCode = {TCOD}, transmitTone = {TTON};
     switch (col) {
@@ -38,14 +38,18 @@ std::initializer_list<int> ExcludedColumns(int col) {
 
 } // namespace
 
+void TurnRivalsOff(wxGrid* grid, int row, int col) {
+    for (int rival : RivalsOf(col))
+        grid->SetCellValue(row, rival, "OFF");
+}
+
 void ZelkChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
     WriteChosen(grid, row, col, m_value);
     if (col == RTON || col == RCOD)
         WriteChosen(grid, row, col + TransmitOffset, m_value);
     const int type = CurrentParameters().Type;
     if (type == ANFM || type == ANAM || type == FXAM)
-        for (int other : ExcludedColumns(col))
-            grid->SetCellValue(row, other, "OFF");
+        TurnRivalsOff(grid, row, col);
     if (!IsP25Type(type))
         return;
     if (col == MODE)
@@ -57,12 +61,6 @@ void ZelkChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
 void MDLXBandChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
     grid->SetCellValue(row, col, m_value);
     const int band = GetRowBand(grid, row);
-    if (band == GetFreqBand(grid->GetCellValue(row, RFRQ), ANFM))
-        return;
-    const int step = GetChannelStep(CurrentParameters().Radio, band);
-    for (int frequency : {RFRQ, TFRQ}) {
-        grid->SetCellValue(row, frequency, "");
-        grid->SetCellEditor(row, frequency, new FrequencyEditor(row, band, step));
-    }
-    SetBandEditors(grid, row, band, true);
+    if (band != GetFreqBand(grid->GetCellValue(row, RFRQ), ANFM))
+        ChangeRowBand(grid, row, band);
 }

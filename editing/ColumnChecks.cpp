@@ -1,5 +1,6 @@
 #include "editing/ColumnChecks.h"
 
+#include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
@@ -8,6 +9,8 @@
 #include "editing/MemoryNumbers.h"
 #include "editing/ZelkEditors.h"
 #include "frame/Messages.h"
+
+#include <limits>
 
 #include <wx/grid.h>
 
@@ -37,6 +40,10 @@ bool IsWithin(const wxString& text, int low, int high) {
     return low <= number && number <= high;
 }
 
+wxString Letter(char letter) {
+    return wxString(wxUniChar(letter));
+}
+
 /// The band id of a row: the page's, on an MDLX page the row's own or -1.
 int BandOfRow(const wxGrid* grid, int row) {
     const PageParameterRecord& page = CurrentParameters();
@@ -59,7 +66,9 @@ int CheckNumber(wxGrid* grid, int row, wxString& text, FindDuplicate findDuplica
     if (!text.empty()) {
         const int rows = CurrentParameters().Rows;
         const int number = ReadDecimal(text);
-        text = number > rows ? wxString() : NumberText(number);
+        // The least number stands for all below what 32 bits hold.
+        const bool outOfRange = number > rows || number == std::numeric_limits<int>::min();
+        text = outOfRange ? wxString() : NumberText(number);
         const int other = findDuplicate(number);
         if (other <= rows) {
             DisplayError(ResultNumberUsed, other);
@@ -93,18 +102,18 @@ void CheckPrim(wxGrid* grid, int row, const wxString&) {
 
 int CheckShad(wxGrid* grid, int row, const wxString& text) {
     if (!CurrentPageIsP25()) {
-        grid->SetCellValue(row, SHAD, "");
+        grid->SetCellValue(row, SHAD, wxString());
         return CheckNotApplicable;
     }
-    const bool good = text == "N" || text.StartsWith("P-") || text.StartsWith("S-");
-    grid->SetCellValue(row, SHAD, good ? text : wxString("N"));
+    const bool good = IsText(text, "N") || BeginsWith(text, "P-") || BeginsWith(text, "S-");
+    grid->SetCellValue(row, SHAD, good ? text : Letter('N'));
     return good ? CheckGood : CheckBadValue;
 }
 
 void CheckBand(wxGrid* grid, int row, const wxString& text) {
     const PageParameterRecord& page = CurrentParameters();
     if (page.Type != MDLX) {
-        grid->SetCellValue(row, BAND, "");
+        grid->SetCellValue(row, BAND, wxString());
         return;
     }
     const int band = FindBand(text);
@@ -121,7 +130,8 @@ void CheckScan(wxGrid* grid, int row, const wxString& text) {
     }
     const size_t length = text.length();
     if (CurrentPageIsP25() || CurrentParameters().Type == KDAR)
-        grid->SetCellValue(row, SCAN, text == "1" || text == "Y" || text == "Yes" ? "Y" : "N");
+        grid->SetCellValue(row, SCAN,
+                           Letter(IsText(text, "1") || IsText(text, "Y") || IsText(text, "Yes") ? 'Y' : 'N'));
     else if (length < 3 && IsWithin(text, 0, 31))
         SetScanCell(grid, row, SCAN, text, false);
     else if (length == 4 || length == 5)
@@ -149,7 +159,7 @@ int WantedZone(int type, int row, const wxString& text) {
 void CheckZone(wxGrid* grid, int row, wxString text) {
     const int type = CurrentParameters().Type;
     if (!IsP25Type(type)) {
-        grid->SetCellValue(row, ZONE, "");
+        grid->SetCellValue(row, ZONE, wxString());
         return;
     }
     if (row != 0) {
@@ -173,7 +183,7 @@ void CheckDesc(wxGrid* grid, int row, const wxString& text) {
 
 void CheckMode(wxGrid* grid, int row, const wxString& text) {
     const auto mode = ModeText(text, CurrentParameters().Type);
-    WriteOrRepair(grid, row, MODE, mode.value_or(""), mode.has_value());
+    WriteOrRepair(grid, row, MODE, mode.value_or(wxString()), mode.has_value());
 }
 
 int CheckFreq(wxGrid* grid, int row, int column, const wxString& text) {
@@ -186,10 +196,10 @@ int CheckFreq(wxGrid* grid, int row, int column, const wxString& text) {
 
 void CheckSquelch(wxGrid* grid, int row, int column, const wxString& text) {
     if (!CurrentPageIsP25()) {
-        grid->SetCellValue(row, column, "");
+        grid->SetCellValue(row, column, wxString());
         return;
     }
-    const bool digital = grid->GetCellValue(row, MODE) == "D";
+    const bool digital = IsText(grid->GetCellValue(row, MODE), "D");
     WriteOrRepair(grid, row, column, text,
                   digital ? IsDigitalSquelch(text, column) : IsAnalogSquelch(text, column));
 }
@@ -198,7 +208,7 @@ void CheckRnsv(wxGrid* grid, int row, const wxString& text) {
     if (CurrentParameters().Type == NP25)
         WriteOrRepair(grid, row, RNSV, text, IsWithin(text, 0, 15));
     else
-        grid->SetCellValue(row, RNSV, "");
+        grid->SetCellValue(row, RNSV, wxString());
 }
 
 namespace {
@@ -208,7 +218,7 @@ namespace {
 void CheckP25SquelchValue(wxGrid* grid, int row, int column, const wxString& text, const wxString& squelch,
                           int (*index)(const wxString&), const char* letter) {
     bool good = false;
-    if (!squelch.empty() || text != "OFF") {
+    if (!squelch.empty() || !IsText(text, "OFF")) {
         good = index(text) >= 0;
         if (squelch.empty())
             grid->SetCellValue(row, SquelchColumn(column), letter);
@@ -226,14 +236,14 @@ void CheckTone(wxGrid* grid, int row, int column, const wxString& text, const wx
     }
     if (type != ANFM && type != MDLX) {
         // Meant: also on FXAM, which shows its tones: they don't outlive a check.
-        grid->SetCellValue(row, column, "");
+        grid->SetCellValue(row, column, wxString());
         return;
     }
     if ((column == RTON && IsGuardRow(row)) || FindBand(grid->GetCellValue(row, BAND)) == 2) {
         grid->SetCellValue(row, column, "n/a");
         return;
     }
-    const wxString tone = squelch.empty() || squelch == "t" ? text : wxString("OFF");
+    const wxString tone = squelch.empty() || IsText(squelch, "t") ? text : wxString("OFF");
     WriteOrRepair(grid, row, column, tone, GetToneIndex(tone) >= 0);
 }
 
@@ -244,7 +254,7 @@ void CheckCode(wxGrid* grid, int row, int column, const wxString& text, const wx
         grid->SetCellValue(row, column, "n/a");
         return;
     }
-    const wxString code = text == "000" ? wxString("OFF") : text;
+    const wxString code = IsText(text, "000") ? wxString("OFF") : text;
     if (IsP25Type(page.Type)) {
         CheckP25SquelchValue(grid, row, column, code, squelch, GetCodeIndex, "c");
         return;
@@ -257,7 +267,7 @@ void CheckCode(wxGrid* grid, int row, int column, const wxString& text, const wx
         grid->SetCellValue(row, column, "n/a");
         return;
     }
-    const wxString wanted = squelch.empty() || squelch == "c" ? code : wxString("OFF");
+    const wxString wanted = squelch.empty() || IsText(squelch, "c") ? code : wxString("OFF");
     WriteOrRepair(grid, row, column, wanted, GetCodeIndex(wanted) >= 0);
 }
 
@@ -295,5 +305,5 @@ void CheckTidc(wxGrid* grid, int row, const wxString& text) {
 
 void CheckRonl(wxGrid* grid, int row, const wxString&) {
     if (CurrentParameters().Type != KDAR)
-        grid->SetCellValue(row, RONL, "");
+        grid->SetCellValue(row, RONL, wxString());
 }

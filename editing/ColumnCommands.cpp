@@ -4,6 +4,7 @@
 #include "catalogue/PageCreation.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
+#include "editing/ChoiceCells.h"
 #include "editing/CommandQuestions.h"
 #include "editing/RowCommands.h"
 #include "editing/RowLooks.h"
@@ -24,42 +25,13 @@ void DealZoneAfresh(wxGrid* grid, int row) {
     CheckZone(grid, row, "");
 }
 
-/// Puts a row of a module page on the default row's band, if it has another one. Its frequencies
-/// can't stay then.
+/// Puts a row of a module page on the default row's band, if it has another one.
 void TakeDefaultBand(wxGrid* grid, int row, const wxString& value) {
     const int band = GetRowBand(grid, 0);
     if (GetRowBand(grid, row) == band)
         return;
     grid->SetCellValue(row, BAND, value);
-    const int step = RadioCatalogue::GetChannelStep(CurrentParameters().Radio, band);
-    for (int col : {RFRQ, TFRQ}) {
-        grid->SetCellValue(row, col, "");
-        grid->SetCellEditor(row, col, new FrequencyEditor(row, band, step));
-    }
-    SetBandEditors(grid, row, band, true);
-}
-
-/// On analog pages a row has a tone or a code, not both.
-void SwitchRivalsOff(wxGrid* grid, int row, int col) {
-    const auto switchOff = [grid, row](int rival) { grid->SetCellValue(row, rival, "OFF"); };
-    switch (col) {
-    case RTON:
-        switchOff(RCOD);
-        switchOff(TCOD);
-        break;
-    case RCOD:
-        switchOff(RTON);
-        switchOff(TTON);
-        break;
-    case TTON:
-        switchOff(TCOD);
-        break;
-    case TCOD:
-        switchOff(TTON);
-        break;
-    default:
-        break;
-    }
+    ChangeRowBand(grid, row, band);
 }
 
 /// The column that a click on its label has selected whole, as row 1 tells. TIDC when it is none
@@ -125,8 +97,9 @@ void DefaultColInRow(int row, int col, const wxString& value) {
         grid->SetCellValue(row, TFRQ, value);
     else if (col >= RTON && col <= RNAC)
         grid->SetCellValue(row, col + TransmitDistance, value);
+    // On analog pages a row has a tone or a code, not both.
     if (!CurrentPageIsP25())
-        SwitchRivalsOff(grid, row, col);
+        TurnRivalsOff(grid, row, col);
 }
 
 void ZelkFrame::OnDefaultCol(wxCommandEvent&) {

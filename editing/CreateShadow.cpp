@@ -1,5 +1,6 @@
 // The command that gives a P25 memory a shadow.
 #include "catalogue/TextNumbers.h"
+#include "editing/RowCommands.h"
 #include "editing/ShadowDialog.h"
 #include "editing/Shadows.h"
 #include "editing/ZelkEditors.h"
@@ -57,7 +58,9 @@ void ZelkFrame::OnCreateShadow(wxCommandEvent&) {
     CommitOpenEditor();
     wxGrid* grid = CurrentGrid();
     const int rows = CurrentParameters().Rows;
-    if (!RowIsComplete(ContextRow)) {
+    // The menu may have been opened last on a longer page.
+    const bool onPage = ContextRow == 0 || ContextRowIsMemory();
+    if (!onPage || !RowIsComplete(ContextRow)) {
         Refuse("Cannot Create Shadow!\nMemory record is empty or incomplete.");
         return;
     }

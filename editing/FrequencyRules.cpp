@@ -14,8 +14,8 @@ int SplitFrequency(const wxString& text, wxString& megahertz, wxString& fraction
     const size_t point = text.find('.');
     if (point == wxString::npos)
         return FreqNoPoint;
-    megahertz = text.Left(point);
-    fraction = text.Mid(point + 1);
+    megahertz.assign(text, 0, point);
+    fraction.assign(text, point + 1, wxString::npos);
     if (fraction.find('.') != wxString::npos)
         return FreqSecondPoint;
     megahertz.Trim();

@@ -3,7 +3,7 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/MemoryNumbers.h"
-#include "editing/ShadowSlots.h"
+#include "editing/Shadows.h"
 #include "frame/Messages.h"
 
 void ZelkMemoryNumberEditor::ApplyEdit(int row, int, wxGrid* grid) {

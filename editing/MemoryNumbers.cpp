@@ -30,18 +30,20 @@ MemoryNumberIndex::MemoryNumberIndex(int last) : m_last(last), m_numberOfRow(sta
 }
 
 int MemoryNumberIndex::FindDuplicate(int row, int number) const {
-    if (const auto found = m_rowsOfNumber.find(number); found != m_rowsOfNumber.end())
-        for (int other : found->second)
-            if (other != row)
-                return other;
-    return m_last + 1;
+    auto holder = m_holders.lower_bound({number, 0});
+    if (holder != m_holders.end() && *holder == std::pair(number, row))
+        ++holder;
+    return holder != m_holders.end() && holder->first == number ? holder->second : m_last + 1;
 }
 
 void MemoryNumberIndex::Change(int row, const wxString& text) {
-    std::optional<int>& number = m_numberOfRow[static_cast<size_t>(row)];
+    std::optional<int>& held = m_numberOfRow[static_cast<size_t>(row)];
+    const std::optional<int> number = NumberOf(text);
+    if (held == number)
+        return;
+    if (held)
+        m_holders.erase({*held, row});
     if (number)
-        m_rowsOfNumber[*number].erase(row);
-    number = NumberOf(text);
-    if (number)
-        m_rowsOfNumber[*number].insert(row);
+        m_holders.insert({*number, row});
+    held = number;
 }

@@ -3,9 +3,9 @@
 
 #include <wx/string.h>
 
-#include <map>
 #include <optional>
 #include <set>
+#include <utility>
 #include <vector>
 
 /// The first row from start to last of the current page, other than row, whose MNUM isn't empty and
@@ -27,5 +27,6 @@ public:
 private:
     int m_last;
     std::vector<std::optional<int>> m_numberOfRow;
-    std::map<int, std::set<int>> m_rowsOfNumber;
+    /// Numbers with their rows.
+    std::set<std::pair<int, int>> m_holders;
 };

@@ -81,6 +81,13 @@ void DeleteMemoryRows(wxGrid* grid, const std::vector<int>& rows, int last) {
     }
 }
 
+/// Cleared rows are writable throughout, but what the radio fixes in its guard rows isn't for users.
+void LockGuardRowsAgain() {
+    const wxGrid* grid = CurrentGrid();
+    if (HasGuardRows(CurrentPage) && !(grid->IsReadOnly(GD1, MNUM) && grid->IsReadOnly(GD2, MNUM)))
+        SetPageEditors(CurrentPage);
+}
+
 } // namespace
 
 bool ContextRowIsMemory() {
@@ -119,6 +126,7 @@ void ZelkFrame::OnDefaultRow(wxCommandEvent&) {
         ClearRowData(ContextRow, true);
     }
     CopyValuesToSelection(CurrentPage, GetRowValues(CurrentPage, 0), true, true);
+    LockGuardRowsAgain();
 }
 
 void ZelkFrame::OnCopyRow(wxCommandEvent&) {
@@ -143,6 +151,7 @@ void ZelkFrame::OnClearRow(wxCommandEvent&) {
         UndoShadowLinks(row);
         ClearRowData(row, CurrentPageIsP25());
     }
+    LockGuardRowsAgain();
     grid->ClearSelection();
 }
 

@@ -2,7 +2,6 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
-#include "editing/ShadowSlots.h"
 
 #include <wx/grid.h>
 
@@ -35,6 +34,15 @@ std::vector<int> ShadowNumbers(const wxArrayString& rowTexts) {
         if (const int number = ReadDecimal(rowTexts[col]))
             numbers.push_back(number);
     return numbers;
+}
+
+std::vector<int> ShadowRowsOf(wxGrid* grid, int row) {
+    std::vector<int> shadows;
+    if (IsMemoryRow(row))
+        for (int slot = SHD0; slot <= SHD6; ++slot)
+            if (const int shadow = ReadDecimal(grid->GetCellValue(row, slot)); IsShadowRow(grid, shadow))
+                shadows.push_back(shadow);
+    return shadows;
 }
 
 std::optional<int> ReadShadowNumber(const wxString& text, int rows) {

@@ -21,6 +21,11 @@ int FirstFreeShadowSlot(const wxArrayString& rowTexts);
 /// The numbers in the slots of a row's 32 texts that are taken, in the order of the slots.
 std::vector<int> ShadowNumbers(const wxArrayString& rowTexts);
 
+/// The rows of the current page that the slots of a row name, in the order of the slots. A row is
+/// left out if it isn't a memory row of the page or its MFLG says that it is no shadow: a number
+/// may have gone stale after rows have moved. Empty for a row that is no memory row itself.
+std::vector<int> ShadowRowsOf(wxGrid* grid, int row);
+
 /// The number that a user typed for a shadow on a page of so many memory rows. None for a text
 /// with anything but digits in it, and for a number outside 1 to rows.
 std::optional<int> ReadShadowNumber(const wxString& text, int rows);

@@ -58,7 +58,7 @@ void SetTexts(wxGrid* grid, int row, std::initializer_list<int> cols, const wxSt
 }
 
 void SetYesNoEditor(wxGrid* grid, int row, int col) {
-    SetCentred(grid, row, col, new wxGridCellChoiceEditor(std::size(ScanYesNo), Choices<ScanYesNo>(), false));
+    SetCentred(grid, row, col, new ListChoiceEditor(std::size(ScanYesNo), Choices<ScanYesNo>(), false));
 }
 
 /// A SCAN cell that says "Y" or "N": a page of another radio may have left it boxes.
@@ -159,8 +159,7 @@ void SetRowEditors(wxGrid* grid, int row) {
         AttrOf(grid, row, SCAN)->SetAlignment(wxALIGN_LEFT, wxALIGN_TOP);
     }
     SetEditor(grid, row, DESC, NewDescriptionEditor(page.Type));
-    SetCentred(grid, row, MODE,
-               new wxGridCellChoiceEditor(std::size(AnalogModes), Choices<AnalogModes>(), false));
+    SetCentred(grid, row, MODE, new ListChoiceEditor(std::size(AnalogModes), Choices<AnalogModes>(), false));
     SetFrequencyCells(grid, row, band);
     for (int col : {RCOD, TCOD})
         SetCentred(grid, row, col, new ZelkChoiceEditor(std::size(CodeTexts), Choices<CodeTexts>()));
@@ -236,6 +235,12 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
     // Meant: TTON keeps the editor that it has.
     SetEditor(grid, row, RTON, new ZelkChoiceEditor(std::size(CtcssTexts), Choices<CtcssTexts>()));
     SetReadOnly(grid, row, {SCAN}, grid->GetCellValue(row, ZONE) == "X");
+}
+
+void ChangeRowBand(wxGrid* grid, int row, int band) {
+    SetTexts(grid, row, {RFRQ, TFRQ}, "");
+    SetFrequencyCells(grid, row, band);
+    SetBandEditors(grid, row, band, true);
 }
 
 void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDefault) {

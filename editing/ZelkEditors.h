@@ -20,6 +20,10 @@ void SetRowEditorsP25(wxGrid* grid, int row);
 /// the former band goes, too. TCOD stays read-only if a former band has made it so.
 void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged = false);
 
+/// Puts a row of an MDLX page on another band (id 0 to 8): its frequencies can't stay and are emptied,
+/// and the cells that depend on the band become those of the new one.
+void ChangeRowBand(wxGrid* grid, int row, int band);
+
 /// The squelch choices of a P25 row for the text of its MODE; applyDefault also writes the mode's
 /// defaults.
 void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDefault);

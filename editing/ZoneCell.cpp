@@ -4,7 +4,7 @@
 #include "catalogue/RadioCatalogue.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
-#include "editing/ShadowSlots.h"
+#include "editing/Shadows.h"
 
 #include <wx/combobox.h>
 
@@ -14,6 +14,12 @@ namespace {
 
 /// The zone of second generation radios that is never scanned.
 constexpr int UnscannedZone = 31;
+
+/// True when the row is linked as primary. A copy of one has its flag, but no links.
+bool IsPrimary(wxGrid* grid, int row) {
+    return (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowLinkFlag) &&
+           grid->GetCellValue(row, SHAD).StartsWith("P-");
+}
 
 } // namespace
 
@@ -40,17 +46,11 @@ void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
         m_choices.clear();
         Combo()->Clear();
     }
-    wxGridCellChoiceEditor::BeginEdit(row, col, grid);
-    m_givenUp = false;
-}
-
-void P25ZoneEditor::Reset() {
-    wxGridCellChoiceEditor::Reset();
-    m_givenUp = true;
+    ListChoiceEditor::BeginEdit(row, col, grid);
 }
 
 bool P25ZoneEditor::EndEdit(int, int, const wxGrid*, const wxString&, wxString* newval) {
-    if (m_givenUp)
+    if (IsGivenUp())
         return false;
     // Also a choice of the same zone counts: its slot was given back when the edit began.
     m_value = Combo()->GetValue();
@@ -68,7 +68,8 @@ void P25ZoneEditor::ApplyEdit(int row, int, wxGrid* grid) {
     if (before != m_startZone)
         ReleaseP25ZonePosition(ZoneList.Index(before));
     grid->SetCellValue(row, ZONE, m_value);
-    grid->SetReadOnly(row, SCAN, zone == UnscannedZone);
+    // Like its shadows, a primary is never scanned, whatever its zone.
+    grid->SetReadOnly(row, SCAN, zone == UnscannedZone || IsPrimary(grid, row));
     if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowLinkFlag) {
         const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
         for (int shadow : ShadowRowsOf(grid, number))

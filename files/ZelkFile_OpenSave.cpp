@@ -59,7 +59,8 @@ void TakeTarget(int page, const ChannelFile::Target& target) {
     const bool differs = former.Radio != parameters.Radio || former.BandIndex != parameters.BandIndex ||
                          former.Type != parameters.Type;
     if (differs)
-        AdjustEditGrid(MainFrame, former.Radio, former.BandIndex);
+        // The reader sets the editors up behind the last row.
+        FitGridToTarget(former.Radio, former.BandIndex);
     UpdateStatus(MainFrame, page);
 }
 

@@ -13,7 +13,7 @@
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
 
-void AdjustEditGrid(OrvZELFrame*, int oldRadio, int oldBandIndex) {
+void FitGridToTarget(int oldRadio, int oldBandIndex) {
     const int oldRows = RadioCatalogue::RadioRows[oldRadio][oldBandIndex];
     const int newRows = CurrentParameters().Rows;
     wxGrid* grid = CurrentGrid();
@@ -26,8 +26,13 @@ void AdjustEditGrid(OrvZELFrame*, int oldRadio, int oldBandIndex) {
         grid->DeleteRows(newRows, oldRows - newRows);
     }
     SetGridColumns(grid, CurrentParameters().Type);
+}
+
+void AdjustEditGrid(OrvZELFrame*, int oldRadio, int oldBandIndex) {
+    wxGridUpdateLocker quiet(CurrentGrid());
+    FitGridToTarget(oldRadio, oldBandIndex);
     SetPageEditors(CurrentPage);
-    grid->ForceRefresh();
+    CurrentGrid()->ForceRefresh();
 }
 
 void UpdatePage(OrvZELFrame* frame, int page, int oldRadio, int oldBandIndex) {

@@ -10,11 +10,10 @@ TEST(TextNumbers, DecimalIsReadAsFarAsItParses) {
         std::optional<int> number;
     };
     const Line lines[] = {
-        {"0", 0},     {"000", 0},   {"001", 1},    {"042", 42},
-        {"100", 100}, {"12ab", 12}, {"12.75", 12}, {" 7", 7},
-        {"+5", 5},    {"-3", -3},   {"1 2", 1},    {"2147483647", 2147483647},
-        {"", {}},     {"abc", {}},  {" ", {}},     {"-", {}},
-        {".5", {}},   {"OFF", {}},  {"n/a", {}},   {"-2147483648", INT32_MIN},
+        {"0", 0},      {"000", 0},  {"001", 1}, {"042", 42}, {"100", 100}, {"12ab", 12},
+        {"12.75", 12}, {" 7", 7},   {"+5", 5},  {"-3", -3},  {"1 2", 1},   {"2147483647", 2147483647},
+        {"", {}},      {"abc", {}}, {" ", {}},  {"-", {}},   {"\t\n8", 8}, {"+-5", {}},
+        {"- 5", {}},   {"0x10", 0}, {".5", {}}, {"OFF", {}}, {"n/a", {}},  {"-2147483648", INT32_MIN},
     };
     for (const Line& line : lines) {
         EXPECT_EQ(line.number, ReadNumber(line.text)) << '"' << line.text << '"';
@@ -28,8 +27,9 @@ TEST(TextNumbers, HexadecimalIsReadAsFarAsItParses) {
         std::optional<int> number;
     };
     const Line lines[] = {
-        {"A0", 0xA0}, {"c0", 0xC0},  {"00", 0}, {"3FF", 0x3FF}, {"8", 8},
-        {"1G", 1},    {"A0 ", 0xA0}, {"", {}},  {"G", {}},      {"-", {}},
+        {"A0", 0xA0}, {"c0", 0xC0},   {"00", 0}, {"3FF", 0x3FF}, {"8", 8},
+        {"0x1F", 31}, {"-0X1f", -31}, {"0x", 0}, {"0xG", 0},     {" -f", -15},
+        {"1G", 1},    {"A0 ", 0xA0},  {"", {}},  {"G", {}},      {"-", {}},
     };
     for (const Line& line : lines) {
         EXPECT_EQ(line.number, ReadNumber(line.text, 16)) << '"' << line.text << '"';
@@ -57,6 +57,8 @@ TEST(TextNumbers, MemoryNumbersHaveAtLeastThreeDigits) {
     EXPECT_EQ("042", NumberText(42));
     EXPECT_EQ("502", NumberText(502));
     EXPECT_EQ("1000", NumberText(1000));
+    EXPECT_EQ("-05", NumberText(-5));
+    EXPECT_EQ("-2147483648", NumberText(INT32_MIN));
 }
 
 TEST(TextNumbers, FlagsAreUpperCaseHexadecimalOfAtLeastTwoDigits) {
@@ -65,4 +67,5 @@ TEST(TextNumbers, FlagsAreUpperCaseHexadecimalOfAtLeastTwoDigits) {
     EXPECT_EQ("A0", FlagText(0xA0));
     EXPECT_EQ("CB", FlagText(0xCB));
     EXPECT_EQ("3FF", FlagText(0x3FF));
+    EXPECT_EQ("FFFFFFFF", FlagText(-1));
 }

@@ -36,6 +36,16 @@ protected:
     /// The first page becomes one of the wide module, with a band in each row.
     static void RetargetModule() { Retarget(Kdrv4, 5); }
 
+    /// A page on which no other radio has left anything; it becomes the current one. type is given
+    /// where it isn't the radio's own.
+    static void AddFreshPage(int radio, int slot, int type = -1) {
+        SetPageParameters(MainFrame, 1, radio, slot);
+        if (type >= 0)
+            PageParameters[1].Type = type;
+        CreateNewPage(MainFrame, 1);
+        testbench::PumpUntilIdle();
+    }
+
     /// Gives memories the texts of the default row, as if somebody had typed into them.
     static void Fill(std::initializer_list<int> rows) { FillRowsFromDefault(rows); }
 

@@ -1,5 +1,8 @@
 #include "editing/ColumnCommands.h"
 
+#include "editing/CellTextRenderer.h"
+#include "editing/RowLooks.h"
+
 #include "tests/editing/CommandTest.h"
 
 namespace {
@@ -21,8 +24,16 @@ protected:
 };
 
 class DefaultMarkedRows : public CommandTest {};
-class Renumbering : public CommandTest {};
+class Renumbering : public CommandTest {
+protected:
+    static std::string Shown(int row) {
+        const wxGridCellRendererPtr renderer(CurrentGrid()->GetCellRenderer(row, MNUM));
+        const auto* number = dynamic_cast<const CellTextRenderer*>(renderer.get());
+        return number ? number->TextOf(*CurrentGrid(), row, MNUM).utf8_string() : "no number";
+    }
+};
 class DefaultFileCommand : public CommandTest {};
+class RowLooks : public CommandTest {};
 class DefaultsCommands : public CommandTest {};
 class ClearHighlight : public CommandTest {};
 class MissingClipboard : public CommandTest {};
@@ -232,6 +243,37 @@ TEST_F(DefaultMarkedRows, AreDealtAZoneFromEmptyCounters) {
     EXPECT_EQ(SlotsTaken(0), 1);
 }
 
+TEST_F(DefaultColumn, OfTheZoneAlsoEmptiesTheFirstZoneOfTheNextPage) {
+    Retarget(Kdrv716, 0);
+    const auto fillNextPage = [] { ZoneSlots[32] = ZoneSlots[33] = 5; };
+    for (int command : {DefaultCol, DefaultMarked}) {
+        fillNextPage();
+        RunOnColumn(command, ZONE);
+        EXPECT_EQ(SlotsTaken(32), 0) << command;
+        EXPECT_EQ(SlotsTaken(33), 5) << command;
+    }
+    fillNextPage();
+    CurrentGrid()->SelectAll();
+    Run(DefaultFile);
+    EXPECT_EQ(SlotsTaken(32), 0);
+    EXPECT_EQ(SlotsTaken(33), 5);
+}
+
+TEST_F(DefaultColumn, TakesLinkedCellsAlongInMarkedRowsToo) {
+    Fill({2, 3});
+    SelectRows({3});
+    Run(MarkRow);
+    SetCell(0, RTON, "67.0");
+    for (int row : {2, 3})
+        for (int col : {RCOD, TCOD})
+            SetCell(row, col, "023");
+    RunOnColumn(DefaultMarked, RTON);
+    for (int col : {RTON, TTON})
+        EXPECT_EQ(Column(col, {2, 3}), (Texts{"OFF", "67.0"})) << col;
+    for (int col : {RCOD, TCOD})
+        EXPECT_EQ(Column(col, {2, 3}), (Texts{"023", "OFF"})) << col;
+}
+
 TEST_F(DefaultMarkedRows, FromTheMenuAreThoseOfTheColumnThatWasClicked) {
     testbench::ShowAndFocus(*MainFrame);
     Fill({2, 3});
@@ -248,6 +290,7 @@ TEST_F(Renumbering, InSequenceCountsRowsWithDataOnly) {
     Fill({1, 5, 9});
     RunOnColumn(InSequence, MNUM);
     EXPECT_EQ(Column(MNUM, {1, 5, 9}), (Texts{"1", "2", "3"}));
+    EXPECT_EQ((Texts{Shown(1), Shown(5), Shown(9)}), (Texts{"001", "002", "003"}));
     EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 5, 9}));
     EXPECT_FALSE(CurrentGrid()->IsInSelection(1, MNUM));
 }
@@ -352,6 +395,20 @@ TEST_F(DefaultFileCommand, ForgetsLocksAndPaintOfFormerRows) {
         for (int col : {MNUM, SCAN, ZONE})
             EXPECT_TRUE(IsReadOnly(row, col)) << "guard row " << row << " column " << col;
     EXPECT_TRUE(IsReadOnly(0, MNUM));
+}
+
+TEST_F(RowLooks, ThatAreForgottenSpareWhatThePageNeeds) {
+    Retarget(Kdrv716, 0);
+    for (int row : {5, GD1}) {
+        CurrentGrid()->SetReadOnly(row, SCAN, true);
+        CurrentGrid()->SetReadOnly(row, RFRQ, row == 5);
+        CurrentGrid()->SetCellBackgroundColour(row, RFRQ, Orange());
+    }
+    ForgetLooksOfRows(CurrentGrid());
+    EXPECT_EQ(Locked(5), std::vector<int>{SHAD});
+    EXPECT_EQ(Locked(GD1), (std::vector<int>{MNUM, SHAD, SCAN, ZONE}));
+    for (int row : {5, GD1})
+        EXPECT_EQ(Paint(row, RFRQ), Plain()) << "row " << row;
 }
 
 TEST_F(DefaultFileCommand, FromTheMenuOfTheCornerReachesTheWholePage) {

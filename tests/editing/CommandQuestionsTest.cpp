@@ -56,6 +56,26 @@ TEST_F(CommandQuestion, IsAskedByNoOtherCommand) {
     EXPECT_TRUE(dialogs.Shown().empty());
 }
 
+TEST_F(CommandQuestion, LetsAnOpenEditorGiveItsTextFirst) {
+    testbench::ShowAndFocus(*MainFrame);
+    Fill({1, 2, 5});
+    std::vector<int> commands = {CopyRow, MarkRow};
+    for (const Question& question : Questions())
+        commands.push_back(question.command);
+    for (int command : commands) {
+        SCOPED_TRACE(command);
+        SetCell(5, DESC, "before");
+        CurrentGrid()->GoToCell(5, DESC);
+        CurrentGrid()->EnableCellEditControl();
+        testbench::PumpUntilIdle();
+        testbench::TypeText("TYPED");
+        ContextRow = 2;
+        Run(command, wxID_CANCEL);
+        EXPECT_EQ(Cell(5, DESC), "TYPED");
+        EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
+    }
+}
+
 TEST_F(CommandQuestion, ComesAfterAnOpenEditorHasGivenItsText) {
     testbench::ShowAndFocus(*MainFrame);
     Fill({1, 2});

@@ -118,6 +118,14 @@ protected:
     }
 
     static bool IsReadOnly(int row, int col) { return CurrentGrid()->IsReadOnly(row, col); }
+    /// Columns of a row that are read-only.
+    static std::vector<int> Locked(int row) {
+        std::vector<int> columns;
+        for (int col = 0; col < 32; ++col)
+            if (IsReadOnly(row, col))
+                columns.push_back(col);
+        return columns;
+    }
     static wxColour Paint(int row, int col) { return CurrentGrid()->GetCellBackgroundColour(row, col); }
     static wxColour Plain() { return CurrentGrid()->GetDefaultCellBackgroundColour(); }
     static wxColour Orange() { return wxColour(235, 125, 50); }
@@ -167,6 +175,8 @@ protected:
                 size_t at = 0;
                 return MainFrame->m_contextMenu->FindChildItem(command, &at) ? static_cast<int>(at) : -1;
             });
+            if (position < 0)
+                robot.Press("Escape");
             ASSERT_GE(position, 0) << "the menu lacks " << command;
             for (int i = 0; i <= position; ++i)
                 robot.Press("Down");

@@ -2,6 +2,7 @@
 #include "editing/ZelkEdit.h"
 #include "tests/editing/CommandTest.h"
 
+#include <wx/combobox.h>
 #include <wx/dialog.h>
 #include <wx/textctrl.h>
 
@@ -51,6 +52,20 @@ protected:
         testbench::DialogScript dialogs;
         ExpectEntry(dialogs, primary, slot + 1, wxString::Format("%d", shadow));
         RunOn(primary);
+    }
+
+    /// What a choice cell offers.
+    static Texts Offered(int row, int col) {
+        CurrentGrid()->GoToCell(row, col);
+        CurrentGrid()->EnableCellEditControl();
+        testbench::PumpUntilIdle();
+        Texts offered;
+        const wxGridCellEditorPtr editor(CurrentGrid()->GetCellEditor(row, col));
+        if (const auto* combo = dynamic_cast<wxComboBox*>(editor->GetControl()))
+            for (const wxString& text : combo->GetStrings())
+                offered.push_back(text.utf8_string());
+        testbench::PressKey("Escape");
+        return offered;
     }
 
     static void ExpectRefusal(testbench::DialogScript& dialogs, const char* message) {
@@ -103,6 +118,40 @@ TEST_F(CreateShadowCommand, KeepsTheRadiosFlagsOfTheShadowsRow) {
     EXPECT_EQ(Cell(17, MFLG), "61");
 }
 
+TEST_F(CreateShadowCommand, AddsTheIndexToTheOneThatTheRowHeld) {
+    SetCell(17, MFLG, "6C");
+    Create(10, 0, 17);
+    EXPECT_EQ(Cell(17, MFLG), "65");
+}
+
+TEST_F(CreateShadowCommand, TakesTheRowsNumberForThePrimarysRow) {
+    Complete(12);
+    SetCell(10, MNUM, "12");
+    SetCell(12, RTGP, "00AB");
+    SetCell(12, SHD0, "020");
+    testbench::DialogScript dialogs;
+    ExpectEntry(dialogs, 12, 2, "17");
+    RunOn(10);
+    EXPECT_EQ(Column(SHAD, {10, 12, 17}), (Texts{"N", "P-2", "S-012"}));
+    EXPECT_EQ(Cell(12, SHD1), "017");
+    EXPECT_EQ(Cell(17, MFLG), "02");
+    EXPECT_EQ(Cell(17, RTGP), "00AB");
+    EXPECT_EQ(Locked(10), std::vector<int>{SHAD});
+    EXPECT_EQ(Locked(12), (std::vector<int>{MNUM, SHAD, SCAN}));
+}
+
+TEST_F(CreateShadowCommand, LeavesAShadowTheTransmitSquelchesOfShadows) {
+    testbench::ShowAndFocus(*MainFrame);
+    SetCell(10, MODE, "D");
+    SetCell(10, RSQL, "m");
+    SetCell(10, TSQL, "g");
+    SetRowEditorsP25(CurrentGrid(), 10);
+    Create(10, 0, 17);
+    EXPECT_EQ(Offered(10, TSQL).size(), 3u);
+    EXPECT_EQ(Offered(17, TSQL).size(), 2u);
+    EXPECT_EQ(Offered(17, RSQL), (Texts{"m", "n", "g"}));
+}
+
 TEST_F(CreateShadowCommand, RefusesARowWithAnEmptyShownCell) {
     SetCell(10, DESC, "");
     const Texts before = Row(10);
@@ -142,8 +191,10 @@ TEST_F(CreateShadowCommand, TakesASlotOf000ForFree) {
 
 TEST_F(CreateShadowCommand, RefusesANumberInUse) {
     Complete(30);
+    SetCell(0, MNUM, "044");
     const Texts before = Row(10), used = Row(30);
-    for (const char* number : {"30", "030", "10", "231"}) {
+    for (const char* number : {"30", "030", "10", "1", "231", "232", "44"}) {
+        SCOPED_TRACE(number);
         testbench::DialogScript dialogs;
         ExpectEntry(dialogs, 10, 1, number);
         ExpectRefusal(dialogs, "Selected memory is already in use.");
@@ -205,6 +256,29 @@ TEST_F(CreateShadowCommand, FromTheMenuTakesTheNumberThatWasTyped) {
     EXPECT_EQ(Cell(17, SHAD), "S-010");
 }
 
+TEST_F(CreateShadowCommand, FromTheMenuMakesSevenShadowsAndRefusesTheEighth) {
+    testbench::ShowAndFocus(*MainFrame);
+    for (int slot = 0; slot < 7; ++slot) {
+        SCOPED_TRACE(slot + 1);
+        testbench::DialogScript dialogs;
+        dialogs.Expect(testbench::DialogKind::Other, TitleFor(10, slot + 1)).Do([slot](wxDialog* dialog) {
+            testbench::TypeText(std::to_string(20 + slot));
+            testbench::ClickButton(dialog, wxID_OK);
+        });
+        ClickRowCommand(10, CreateShadow);
+        EXPECT_EQ(Cell(10, SHAD), wxString::Format("P-%d", slot + 1));
+        EXPECT_EQ(Cell(10, SHD0 + slot), wxString::Format("%03d", 20 + slot));
+        EXPECT_EQ(Cell(20 + slot, SHAD), "S-010");
+        EXPECT_EQ(Cell(20 + slot, MFLG), wxString::Format("%02X", slot + 1));
+    }
+    const Texts before = Row(10);
+    testbench::DialogScript dialogs;
+    ExpectRefusal(dialogs, "Cannot Create Shadow!\nShadow List is full for selected primary.");
+    ClickRowCommand(10, CreateShadow);
+    EXPECT_EQ(Row(10), before);
+    EXPECT_EQ(Row(27), Blank());
+}
+
 TEST_F(CreateShadowCommand, LetsAFrequencyEditOfThePrimaryReachItsShadows) {
     testbench::ShowAndFocus(*MainFrame);
     Create(10, 0, 17);
@@ -228,4 +302,14 @@ TEST_F(CreateShadowCommand, LeavesAShadowsFrequenciesToItsPrimary) {
     Create(10, 0, 17);
     testbench::TypeIntoCell(*CurrentGrid(), 17, RFRQ, "150.0");
     EXPECT_EQ(Cell(17, RFRQ), "136.0000");
+}
+
+TEST_F(CreateShadowCommand, RefusesARowThatOnlyALongerPageHas) {
+    for (int row : {-1, 233, 502}) {
+        SCOPED_TRACE(row);
+        testbench::DialogScript dialogs;
+        ExpectRefusal(dialogs, "Cannot Create Shadow!\nMemory record is empty or incomplete.");
+        ContextRow = row;
+        MainFrame->m_contextMenu->SendEvent(CreateShadow);
+    }
 }

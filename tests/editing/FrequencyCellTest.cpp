@@ -86,6 +86,67 @@ TEST_F(FrequencyCell, DropsTheKeyThatLeavesTheStepAndCompletesTheRest) {
     }
 }
 
+TEST_F(FrequencyCell, RefusesTheKeysThatLeaveItsStepAndGoesOnWithTheNextGoodOne) {
+    struct Key {
+        char key;
+        const char* text;
+    };
+    struct Line {
+        int step, band;
+        const char* begun;
+        std::vector<Key> keys;
+        const char* cell;
+    };
+    const Line lines[] = {
+        {25000,
+         5,
+         "155.0",
+         {{'1', "155.0"},
+          {'2', "155.02"},
+          {'0', "155.02"},
+          {'5', "155.025"},
+          {'5', "155.025"},
+          {'0', "155.0250"}},
+         "155.0250"},
+        {12500,
+         5,
+         "155.01",
+         {{'3', "155.01"}, {'2', "155.012"}, {'0', "155.012"}, {'5', "155.0125"}},
+         "155.0125"},
+        {8333, 3, "121.01", {{'2', "121.01"}, {'0', "121.010"}, {'0', "121.010"}}, "121.010"},
+        {6250,
+         5,
+         "155.01",
+         {{'0', "155.01"}, {'8', "155.018"}, {'5', "155.018"}, {'7', "155.0187"}},
+         "155.0187"},
+        {2500,
+         5,
+         "155.01",
+         {{'3', "155.01"}, {'7', "155.017"}, {'0', "155.017"}, {'5', "155.0175"}},
+         "155.0175"},
+        {1250,
+         4,
+         "150.006",
+         {{'3', "150.006"}, {'2', "150.0062"}, {'0', "150.0062"}, {'5', "150.00625"}},
+         "150.00625"},
+    };
+    int row = 1;
+    for (const Line& line : lines) {
+        SCOPED_TRACE(line.step);
+        InstallBoth(++row, line.band, line.step);
+        GoTo(row, RFRQ);
+        TypeText(line.begun);
+        ASSERT_EQ(Typed(), line.begun);
+        for (const auto& [key, text] : line.keys) {
+            TypeText(std::string(1, key));
+            EXPECT_EQ(Typed(), text) << "after " << key;
+        }
+        PressKey("Return");
+        EXPECT_EQ(Text(row, RFRQ), line.cell);
+        EXPECT_EQ(Text(row, TFRQ), line.cell);
+    }
+}
+
 TEST_F(FrequencyCell, IsCompletedInBothColumns) {
     InstallBoth(5, 5, 2500);
     TypeIntoCell(*CurrentGrid(), 5, RFRQ, "155.2");

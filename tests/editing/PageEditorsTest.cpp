@@ -22,7 +22,7 @@ const std::vector<Look> AnalogLooks = {
     {1, "ZelkMemoryNumberEditor", "MemoryNumberRenderer", false},
     {5, "ScanlistEditor", "ScanlistRenderer", false},
     {7, "ZelkDescriptionEditor", Plain, false},
-    {8, "wxGridCellChoiceEditor", Plain, true},
+    {8, "ListChoiceEditor", Plain, true},
     {9, "FrequencyEditor", Plain, true},
     {13, "ZelkChoiceEditor", Plain, true},
     {16, "FrequencyEditor", Plain, true},
@@ -35,13 +35,13 @@ const std::vector<Look> Tones = {{12, "ZelkChoiceEditor", Plain, true},
 /// Tones of AM pages.
 const std::vector<Look> NoTones = {{12, TextEditor, Plain, true}, {18, TextEditor, Plain, true}};
 const std::vector<Look> BandChoice = {{4, "MDLXBandChoiceEditor", Plain, true}};
-const std::vector<Look> YesNo = {{5, "wxGridCellChoiceEditor", Plain, true},
-                                 {30, "wxGridCellChoiceEditor", Plain, true}};
+const std::vector<Look> YesNo = {{5, "ListChoiceEditor", Plain, true},
+                                 {30, "ListChoiceEditor", Plain, true}};
 
 const std::vector<Look> P25Looks = {
     {1, "ZelkMemoryNumberEditor", "MemoryNumberRenderer", false},
     {3, TextEditor, Plain, true},
-    {5, "wxGridCellChoiceEditor", Plain, true},
+    {5, "ListChoiceEditor", Plain, true},
     {6, "P25ZoneEditor", Plain, true},
     {7, "ZelkDescriptionEditor", Plain, false},
     {8, "ZelkChoiceEditor", Plain, true},
@@ -66,6 +66,7 @@ struct Page {
     const char* name;
     int radio, slot;
     std::vector<std::vector<Look>> looks;
+    int type = -1; ///< where it isn't the radio's own
 };
 
 const std::vector<Page>& Pages() {
@@ -78,6 +79,9 @@ const std::vector<Page>& Pages() {
         {"KDAR-2000, KDAR", Kdar2000, 0, {AnalogLooks, NoTones, YesNo}},
         {"KDRV-716, RP25", Kdrv716, 0, {P25Looks}},
         {"KDRV-716B, NP25", Kdrv716B, 0, {P25Looks, SquelchValue}},
+        // No radio has this type, files may.
+        {"KRV-47, FXAM", Krv47, 0, {AnalogLooks, Tones}, RadioCatalogue::FXAM},
+        {"KRV-620 UHF, FXAM", Krv620, 1, {AnalogLooks, NoTones}, RadioCatalogue::FXAM},
     };
     return pages;
 }
@@ -107,13 +111,6 @@ protected:
                 CheckCell(row, col, look);
     }
 
-    /// A page on which no other radio has left anything; it becomes the current one.
-    static void AddFreshPage(const Page& page) {
-        SetPageParameters(MainFrame, 1, page.radio, page.slot);
-        CreateNewPage(MainFrame, 1);
-        testbench::PumpUntilIdle();
-    }
-
     /// Row and column of all cells that are read-only.
     static std::set<std::pair<int, int>> Locks() {
         std::set<std::pair<int, int>> locks;
@@ -131,7 +128,7 @@ TEST_F(PageEditors, GiveEachCellItsEditorRendererAndAlignment) {
     for (const Page& page : Pages()) {
         TearDown();
         SetUp();
-        AddFreshPage(page);
+        AddFreshPage(page.radio, page.slot, page.type);
         CheckPage(page);
     }
 }
@@ -147,7 +144,7 @@ TEST_F(PageEditors, LockTheDefaultNumberAndWhatTheRadioFixes) {
         SCOPED_TRACE(page.name);
         TearDown();
         SetUp();
-        AddFreshPage(page);
+        AddFreshPage(page.radio, page.slot, page.type);
         std::set<std::pair<int, int>> expected = {{0, 1}};
         const int rows = CurrentParameters().Rows;
         const bool p25 = page.radio == Kdrv716 || page.radio == Kdrv716B;
@@ -263,4 +260,30 @@ TEST_F(PageEditors, LimitNumbersToWhatTheRadioKnows) {
     EXPECT_EQ("42", Text(4, TIDC));
     testbench::TypeIntoCell(*Grid(), 4, TIDC, "99999999");
     EXPECT_EQ("9999999", Text(4, TIDC));
+}
+
+TEST_F(PageEditors, ShowTheScanOfYesAndNoAsTextInTheDefaultFont) {
+    for (int radio : {Kdar2000, Kdrv716, Kdrv716B}) {
+        Retarget(Krv47, 0);
+        EXPECT_EQ("ScanlistRenderer", RendererClass(3, SCAN)) << radio;
+        Grid()->SetCellFont(3, SCAN, Grid()->GetDefaultCellFont().Larger());
+        Retarget(radio, 0);
+        EXPECT_EQ(Plain, RendererClass(3, SCAN)) << radio;
+        if (radio != Kdar2000) {
+            EXPECT_EQ(Grid()->GetDefaultCellFont(), Grid()->GetCellFont(3, SCAN)) << radio;
+        }
+    }
+}
+
+TEST_F(PageEditors, MakeTheCellsOfAnAnalogPageWritableInEveryRowButTheDefault) {
+    Retarget(Krv47, 0);
+    for (int row : {0, 1, 60, 120, 121, 122})
+        for (int col : {MNUM, SCAN, ZONE, RFRQ, TFRQ})
+            Grid()->SetReadOnly(row, col, true);
+    SetPageEditors(CurrentPage);
+    for (int row : {0, 1, 60, 120, 121, 122})
+        for (int col : {MNUM, SCAN, ZONE, RFRQ, TFRQ}) {
+            const bool guard = row > 120 && (col == MNUM || col == SCAN);
+            EXPECT_EQ(guard || (row == 0 && col == MNUM), IsLocked(row, col)) << row << ", " << col;
+        }
 }

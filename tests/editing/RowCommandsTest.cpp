@@ -89,6 +89,19 @@ TEST_F(DefaultRowCommand, OverwritesOtherSelectedRowsAsTheyAre) {
     EXPECT_EQ(Cell(11, SHAD), "S-010") << "only the context row's links are undone";
 }
 
+TEST_F(DefaultRowCommand, LeavesWhatTheRadioFixesInGuardRowsLocked) {
+    const struct {
+        int radio;
+        std::vector<int> locked;
+    } pages[] = {{Krv47, {MNUM, SCAN, RTON, RCOD}}, {Kdrv716, {MNUM, SHAD, SCAN, ZONE}}};
+    for (const auto& page : pages) {
+        Retarget(page.radio, 0);
+        RunOnRow(DefaultRow, GD1);
+        EXPECT_EQ(Cell(GD1, MNUM), wxString::Format("%d", GD1));
+        EXPECT_EQ(Locked(GD1), page.locked) << "radio " << page.radio;
+    }
+}
+
 TEST_F(DefaultRowCommand, NeverTouchesTheDefaultRow) {
     Retarget(Kdrv716, 0);
     const Texts before = Row(0);
@@ -188,6 +201,14 @@ TEST_F(ClearRowCommand, EmptiesTheSelectedRows) {
     EXPECT_FALSE(CurrentGrid()->IsInSelection(3, 0));
 }
 
+TEST_F(ClearRowCommand, TakesARowAsSelectedWhenItsFirstCellIs) {
+    Fill({2, 3, 4, 5});
+    CurrentGrid()->SelectBlock(2, 1, 3, 31);
+    CurrentGrid()->SelectBlock(4, 0, 5, 0, true);
+    Run(ClearRow);
+    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{2, 3}));
+}
+
 TEST_F(ClearRowCommand, GivesTheZonesOfP25RowsBack) {
     Retarget(Kdrv716, 0);
     Fill({2, 3, 4});
@@ -221,6 +242,27 @@ TEST_F(ClearRowCommand, OnAShadowFreesItsSlotAndKeepsThePrimary) {
     EXPECT_EQ(Cell(10, SHAD), "P-2");
     EXPECT_EQ(Cell(10, MFLG), "10");
     EXPECT_TRUE(IsReadOnly(10, MNUM));
+}
+
+TEST_F(ClearRowCommand, LeavesWhatTheRadioFixesInGuardRowsLocked) {
+    const struct {
+        int radio;
+        std::vector<int> locked;
+    } pages[] = {{Krv47, {MNUM, SCAN, RTON, RCOD}},
+                 {Kdrv716, {MNUM, SHAD, SCAN, ZONE}},
+                 {Kdrv716B, {MNUM, SHAD, SCAN, ZONE}}};
+    for (const auto& page : pages) {
+        SCOPED_TRACE(page.radio);
+        Retarget(page.radio, 0);
+        Fill({5, GD1, GD2});
+        CurrentGrid()->SetReadOnly(5, DESC, true);
+        SelectRows({5, GD2});
+        Run(ClearRow);
+        EXPECT_EQ(Row(GD2), Blank());
+        EXPECT_EQ(Locked(GD2), page.locked);
+        EXPECT_EQ(Locked(GD1), page.locked);
+        EXPECT_FALSE(IsReadOnly(5, DESC));
+    }
 }
 
 TEST_F(ClearRowCommand, OnAnalogPagesKnowsNoLinks) {
@@ -291,6 +333,26 @@ TEST_F(InsertRowCommand, OnAPageWithGuardsLeavesThemInPlace) {
         EXPECT_FALSE(IsReadOnly(GD1 - 1, MNUM));
         EXPECT_EQ(CurrentGrid()->GetNumberRows(), CurrentParameters().Rows + 1);
     }
+}
+
+TEST_F(InsertRowCommand, DropsWhatElseIsSelected) {
+    SelectRows({2, 8});
+    ContextRow = 5;
+    Run(InsertRow);
+    for (int row : {2, 3, 8, 9})
+        EXPECT_FALSE(CurrentGrid()->IsInSelection(row, 0)) << "row " << row;
+}
+
+TEST_F(InsertRowCommand, KeepsTheNumbersOfLinks) {
+    Retarget(Kdrv716, 0);
+    Fill({10});
+    Link(10, {12, 13});
+    RunOnRow(InsertRow, 11);
+    EXPECT_EQ(Column(MNUM, {10, 13, 14}), (Texts{"010", "13", "14"}));
+    EXPECT_EQ(Column(SHD0, {10}), Texts{"012"});
+    EXPECT_EQ(Column(PRIM, {13, 14}), (Texts{"010", "010"}));
+    EXPECT_EQ(Locked(13), (std::vector<int>{MNUM, SHAD, SCAN, ZONE, RFRQ, TFRQ})) << "locks move along";
+    EXPECT_EQ(Locked(12), std::vector<int>{SHAD});
 }
 
 TEST_F(InsertRowCommand, AtTheLastRowEmptiesIt) {

@@ -179,7 +179,8 @@ TEST_F(ScanCells, AreFoundByClicksOnAScrolledPage) {
 TEST_F(ScanCells, OfARowWithoutANumberRefuseTheMouseWithABox) {
     SetCell(5, MNUM, "");
     DialogScript dialogs;
-    dialogs.ExpectMessage("ERROR", "Chan number cannot be empty!");
+    dialogs.ExpectMessage("ERROR", "Chan number cannot be empty!")
+        .Style(wxOK | wxCENTRE | wxICON_INFORMATION);
     EXPECT_EQ("5", ClickedFrom("5", 5));
     EXPECT_EQ(0u, dialogs.Missing());
     EXPECT_EQ("", Text(5, MNUM));

@@ -3,6 +3,7 @@
 #include "editing/ShadowDialog.h"
 #include "tests/editing/CommandTest.h"
 
+#include <wx/stattext.h>
 #include <wx/textctrl.h>
 
 namespace {
@@ -114,6 +115,17 @@ TEST_F(ShadowRows, AreNotTakenForOthersAfterRowsHaveMoved) {
     EXPECT_EQ(Cell(20, DESC), "row20");
 }
 
+TEST_F(ShadowRows, AreNoneOfTheDefaultRow) {
+    Fill({10});
+    Link(10, {11});
+    SetCell(0, SHD0, "011");
+    SetCell(0, RFRQ, "150.0000");
+    HandleP25Shadows(nullptr, 0, "", CurrentGrid());
+    EXPECT_EQ(ShadowRowsOf(CurrentGrid(), 0), std::vector<int>{});
+    EXPECT_EQ(Cell(11, RFRQ), "136.0000") << "0 numbers no memory";
+    EXPECT_EQ(ShadowRowsOf(CurrentGrid(), 10), std::vector<int>{11});
+}
+
 TEST_F(ShadowRows, OfARemovedPrimaryAreEmptiedButKeepTheirLockOnShad) {
     Fill({10, 20});
     Link(10, {11, 12});
@@ -217,6 +229,12 @@ TEST_F(ShadowRows, DialogHasOkOnlyWithAText) {
     ShadowDialog dialog(MainFrame, "For Primary: 010 create Shadow: 1");
     EXPECT_GE(dialog.GetSize().x, 320);
     EXPECT_GE(dialog.GetSize().y, 130);
+    EXPECT_EQ(dialog.GetMinSize(), wxSize(320, 130));
+    const auto* label =
+        dynamic_cast<wxStaticText*>(wxWindow::FindWindowByLabel("Shadow Memory Num:", &dialog));
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->GetMinSize().x, 170);
+    EXPECT_NE(dialog.FindWindow(wxID_CANCEL), nullptr);
     dialogs.Expect(testbench::DialogKind::Other, "For Primary: 010 create Shadow: 1").Do([](wxDialog* shown) {
         wxWindow* ok = shown->FindWindow(wxID_OK);
         EXPECT_TRUE(testbench::PumpUntil([ok] { return !ok->IsEnabled(); })) << "an empty text";

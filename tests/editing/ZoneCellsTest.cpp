@@ -124,6 +124,18 @@ TEST_F(ZoneCells, FillAZoneUpTo16Memories) {
     EXPECT_EQ(ZonesBut({"1"}), OfferedIn(9, ZONE));
 }
 
+TEST_F(ZoneCells, ChosenByKeysFillUpAndAreThenNoLongerOffered) {
+    for (int row = 2; row <= 17; ++row) {
+        EXPECT_EQ(row - 2, SlotsOf(2));
+        Choose(row, ZONE, "3");
+        EXPECT_EQ("3", Text(row, ZONE)) << row;
+    }
+    EXPECT_EQ(16, SlotsOf(2));
+    EXPECT_EQ(ZonesBut({"3"}), OfferedIn(18, ZONE));
+    Choose(17, ZONE, "4");
+    EXPECT_EQ(AllZones(), OfferedIn(18, ZONE)) << "one has left it";
+}
+
 TEST_F(ZoneCells, OfferEachTimeWhatHasRoomThen) {
     Fill({2});
     ZoneSlotsOf(0)[4] = 16;
@@ -189,6 +201,36 @@ TEST_F(ZoneCells, OfAPrimaryAreToldToItsShadows) {
     SetCell(5, MFLG, "00");
     Choose(5, ZONE, "2");
     EXPECT_EQ("4", Text(8, ZONE));
+}
+
+TEST_F(ZoneCells, OfAPrimaryTellTheShadowsOfTheRowThatItsNumberNames) {
+    Fill({5, 7, 8, 9});
+    SetCell(5, MFLG, "10");
+    SetCell(5, MNUM, "7");
+    SetCell(5, SHD0, "009");
+    SetCell(7, ZONE, "12");
+    SetCell(7, SHD6, "008");
+    SetCell(8, MFLG, "01");
+    SetCell(9, MFLG, "01");
+    Choose(5, ZONE, "4");
+    EXPECT_EQ((Texts{"4", "12", "12", "1"}),
+              (Texts{Text(5, ZONE), Text(7, ZONE), Text(8, ZONE), Text(9, ZONE)}));
+}
+
+TEST_F(ZoneCells, OfAPrimaryLeaveItOutOfTheScan) {
+    Fill({5, 6});
+    for (int row : {5, 6}) {
+        SetCell(row, MFLG, "10");
+        Grid()->SetReadOnly(row, SCAN, true);
+    }
+    SetCell(5, SHAD, "P-1");
+    Choose(5, ZONE, "X");
+    EXPECT_TRUE(IsLocked(5, SCAN));
+    Choose(5, ZONE, "4");
+    EXPECT_EQ("4", Text(5, ZONE));
+    EXPECT_TRUE(IsLocked(5, SCAN)) << "a linked memory is never scanned";
+    Choose(6, ZONE, "4");
+    EXPECT_FALSE(IsLocked(6, SCAN)) << "a copy of a primary has no links";
 }
 
 TEST_F(ZoneCells, OfABlankRowTakeOneSlot) {

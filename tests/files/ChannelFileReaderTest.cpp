@@ -1,5 +1,7 @@
 #include "tests/files/ChannelFileTest.h"
 
+#include "editing/ZoneCell.h"
+
 #include <wx/notebook.h>
 
 namespace {
@@ -354,6 +356,18 @@ TEST_F(ChannelFileReader, ClearsTheLocksOfFormerRows) {
     for (int row : {5, 101, 102, 200})
         for (int col : {MNUM, SCAN, ZONE, MODE, RTON, RCOD, RFRQ, TFRQ})
             EXPECT_FALSE(CurrentGrid()->IsReadOnly(row, col)) << row << " " << ColumnTag[col];
+}
+
+TEST_F(ChannelFileReader, GivesThePageTheEditorsOfTheFilesTarget) {
+    const auto isP25ZoneCell = [](int row) {
+        const wxGridCellEditorPtr editor(CurrentGrid()->GetCellEditor(row, ZONE));
+        return dynamic_cast<P25ZoneEditor*>(editor.get()) != nullptr;
+    };
+    RetargetTo("ANFM");
+    ASSERT_FALSE(isP25ZoneCell(1));
+    ASSERT_EQ(0, Open(FileOf("NP25", "")));
+    for (int row : {0, 1, 103, 502})
+        EXPECT_TRUE(isP25ZoneCell(row)) << row;
 }
 
 TEST_F(ChannelFileReader, EmptiesAndUnlocksEveryCellOfThePage) {

@@ -1,0 +1,572 @@
+// The steps that random work on a page can take.
+#include "tests/editing/HardWork.h"
+
+#include "catalogue/TextNumbers.h"
+#include "editing/Shadows.h"
+#include "editing/Shadows.h"
+#include "editing/ZelkEdit.h"
+#include "tests/support/AssertsOff.h"
+
+#include <wx/combobox.h>
+#include <wx/dialog.h>
+#include <wx/notebook.h>
+#include <wx/spinctrl.h>
+#include <wx/textctrl.h>
+
+#include <optional>
+
+namespace {
+
+/// What a file from elsewhere, or a mistake, could bring into a cell.
+const std::vector<wxString>& HostileTexts() {
+    static const std::vector<wxString> texts = {
+        "",
+        " ",
+        "0",
+        "-1",
+        "-999999",
+        "7",
+        "007",
+        "42 ",
+        " 42",
+        "12abc",
+        "abc",
+        "99999",
+        "99999999999999999999",
+        "-99999999999999999999",
+        "2147483648",
+        "0x10",
+        "1e5",
+        "NaN",
+        "FF",
+        "FFFFFFFFFFFFFFFF",
+        "17",
+        "10",
+        "07",
+        "A8",
+        "3FF",
+        ".",
+        "...",
+        "155.",
+        ".155",
+        "155.0000",
+        "155.00.00",
+        "174.0001",
+        "999.99999",
+        "n/a",
+        "OFF",
+        "D",
+        "w",
+        "Y",
+        "Yes",
+        "X",
+        "16",
+        "None",
+        "N",
+        "P-9",
+        "S-999",
+        "P-",
+        "%s%n%d",
+        "\t",
+        "line\nbreak",
+        "<row a=\"1\">&amp;",
+        "ZZZZ",
+        "zz",
+        "0001",
+        "2e",
+        wxString::FromUTF8("\xC3\xA4\xE2\x82\xAC\xF0\x9F\x93\xBB"),
+        wxString("12\0 34", 6),
+        wxString('9', 300),
+        wxString('A', 5000),
+    };
+    return texts;
+}
+
+std::string Quoted(const wxString& text) {
+    return "\"" + text.Left(20).utf8_string() + (text.length() > 20 ? "..." : "") + "\"";
+}
+
+/// Shown columns that a person can edit, and for locked cells can't.
+constexpr struct {
+    int col;
+    const char* name;
+} EditedColumns[] = {
+    {MNUM, "MNUM"}, {SHAD, "SHAD"}, {SCAN, "SCAN"}, {ZONE, "ZONE"}, {ZONE, "ZONE"}, {DESC, "DESC"},
+    {MODE, "MODE"}, {RFRQ, "RFRQ"}, {RFRQ, "RFRQ"}, {RSQL, "RSQL"}, {RNSV, "RNSV"}, {RTON, "RTON"},
+    {RCOD, "RCOD"}, {RTGP, "RTGP"}, {RNAC, "RNAC"}, {TFRQ, "TFRQ"}, {TSQL, "TSQL"}, {TTON, "TTON"},
+    {TCOD, "TCOD"}, {TTGP, "TTGP"}, {TNAC, "TNAC"}, {TIDC, "TIDC"}, {MNUM, "MNUM"}, {MODE, "MODE"},
+};
+
+int LastMovingRow() {
+    return CurrentParameters().Rows - 2;
+}
+
+/// Number editors take it as a misuse when their cell holds no number, which a row from elsewhere can
+/// bring about. The program runs with such complaints off.
+bool UpsetsNumberEditor(int row, int col) {
+    const wxString text = CurrentGrid()->GetCellValue(row, col);
+    long number = 0;
+    return (col == MNUM || col == RNSV || col == TIDC) && !text.empty() && !text.ToLong(&number);
+}
+
+} // namespace
+
+const std::vector<HardWork::Kind>& HardWork::Kinds() {
+    static const std::vector<Kind> kinds = {
+        {"OnDefaultRow", 7, &HardWork::DefaultRows, true},
+        {"OnCopyRow", 5, &HardWork::CopyOneRow, false},
+        {"OnPasteRow", 6, &HardWork::PasteOneRow, false},
+        {"OnClearRow", 4, &HardWork::ClearRows, true},
+        {"OnInsertRow", 5, &HardWork::InsertOneRow, true},
+        {"OnDeleteRow", 5, &HardWork::DeleteRows, true},
+        {"OnMarkRow", 3, &HardWork::MarkRows, true},
+        {"OnDefaultCol", 4, &HardWork::DefaultOneCol, true},
+        {"OnDefaultMarked", 4, &HardWork::DefaultMarkedRows, true},
+        {"OnRenumberToRowNum", 2, &HardWork::RenumberByRow, true},
+        {"OnRenumberSequencial", 2, &HardWork::RenumberInSequence, true},
+        {"OnDefaultFile", 1, &HardWork::DefaultWholeFile, true},
+        {"OnSaveDefault", 1, &HardWork::SaveDefaults, true},
+        {"OnLoadDefault", 1, &HardWork::LoadDefaults, true},
+        {"OnSelectAll", 1, &HardWork::SelectEverything, true},
+        {"OnDeSelectAll", 1, &HardWork::SelectNothing, true},
+        {"OnClearHighlight", 2, &HardWork::ClearHighlights, true},
+        {"OnCreateShadow", 16, &HardWork::CreateOneShadow, false},
+        {"OnValidatePage", 2, &HardWork::ValidateByMenu, false},
+        {"CheckPage", 2, &HardWork::CheckByCall, false},
+        {"edit", 24, &HardWork::EditOneCell, false},
+        {"typed keys", 2, &HardWork::TypeIntoOneCell, false},
+        {"hostile text", 12, &HardWork::WriteHostileText, false},
+        {"page change", 3, &HardWork::ChangePage, true},
+    };
+    return kinds;
+}
+
+void HardWork::PickSelection() {
+    wxGrid* grid = CurrentGrid();
+    const int rows = CurrentParameters().Rows;
+    grid->ClearSelection();
+    switch (m_dice.Below(10)) {
+    case 0:
+        Note("nothing selected");
+        return;
+    case 1: {
+        const int col = m_dice.Below(ColumnTotal);
+        grid->SelectCol(col);
+        Note("column " + std::to_string(col));
+        return;
+    }
+    case 2:
+        if (m_dice.Chance(15)) {
+            grid->SelectAll();
+            Note("all");
+            return;
+        }
+        [[fallthrough]];
+    case 3:
+    case 4: {
+        const int first = PickRow();
+        const int last = std::min(rows, first + m_dice.Below(m_dice.Chance(30) ? 120 : 20));
+        grid->SelectBlock(first, 0, last, ColumnTotal - 1);
+        Note("rows " + std::to_string(first) + " to " + std::to_string(last));
+        return;
+    }
+    case 5: {
+        const int first = PickRow();
+        grid->SelectBlock(first, 0, std::min(rows, first + 3), m_dice.Below(ColumnTotal));
+        Note("cells of row " + std::to_string(first) + " on");
+        return;
+    }
+    default:
+        for (int count = m_dice.Between(1, 6); count > 0; --count) {
+            const int row = PickRow();
+            grid->SelectRow(row, true);
+            Note("row " + std::to_string(row));
+        }
+    }
+}
+
+void HardWork::NameRow(int row) {
+    m_namesRows = true;
+    m_namedRows.insert(row);
+}
+
+void HardWork::NameSelectedRows() {
+    m_namesRows = true;
+    for (int row = 1; row <= CurrentParameters().Rows; ++row)
+        if (CurrentGrid()->IsInSelection(row, 0))
+            m_namedRows.insert(row);
+}
+
+int HardWork::PickRow() {
+    const int rows = CurrentParameters().Rows;
+    if (m_dice.Chance(60))
+        if (const std::vector<int> used = testbench::RowsWithData(); !used.empty())
+            return m_dice.Pick(used);
+    return m_dice.Chance(5) ? m_dice.Between(rows - 1, rows) : m_dice.Between(0, rows);
+}
+
+/// A complete memory that a shadow can be made of, likely a primary; any row where there is none.
+int HardWork::PickGoodRow() {
+    std::vector<int> complete, primaries;
+    for (int row : testbench::RowsWithData()) {
+        const int flags = ReadHex(CurrentGrid()->GetCellValue(row, MFLG));
+        if (!RowIsComplete(row) || (flags & ShadowIndexMask))
+            continue;
+        complete.push_back(row);
+        if (flags & ShadowLinkFlag)
+            primaries.push_back(row);
+    }
+    if (!primaries.empty() && m_dice.Chance(70))
+        return m_dice.Chance(60) ? primaries.front() : m_dice.Pick(primaries); // some lists get full
+    return complete.empty() ? PickRow() : m_dice.Pick(complete);
+}
+
+void HardWork::PickContextRow() {
+    // A menu that was opened on a longer page leaves a row behind that this one may not have.
+    ContextRow = m_dice.Chance(8) ? m_dice.Between(-1, 600) : PickRow();
+    Note("at row " + std::to_string(ContextRow));
+}
+
+void HardWork::Ask(int command) {
+    m_cancelled = m_dice.Chance(10) && !CurrentGrid()->IsCellEditControlEnabled();
+    if (m_cancelled)
+        Note("cancelled");
+    Run(command, m_cancelled ? wxID_CANCEL : wxID_OK);
+}
+
+void HardWork::DefaultRows() {
+    PickSelection();
+    PickContextRow();
+    NameSelectedRows();
+    NameRow(ContextRow);
+    Ask(DefaultRow);
+}
+
+void HardWork::CopyOneRow() {
+    PickContextRow();
+    const bool memory = ContextRow >= 1 && ContextRow <= CurrentParameters().Rows;
+    testbench::DialogScript dialogs;
+    if (!memory || !RowHasData(ContextRow)) {
+        dialogs.ExpectMessage("Error - Empty Row!", "Cannot copy empty row.").Style(testbench::plainBox);
+        m_copiedPage = -1;
+    } else {
+        m_copiedPage = CurrentPage;
+    }
+    MainFrame->m_contextMenu->SendEvent(CopyRow);
+}
+
+void HardWork::PasteOneRow() {
+    PickSelection();
+    PickContextRow();
+    NameRow(ContextRow);
+    m_cancelled = m_dice.Chance(10);
+    const bool memory = ContextRow >= 1 && ContextRow <= CurrentParameters().Rows;
+    testbench::DialogScript dialogs;
+    if (memory) {
+        ExpectQuestion(dialogs, PasteRow, m_cancelled ? wxID_CANCEL : wxID_OK);
+        if (!m_cancelled && RowCopyBuffer.empty())
+            dialogs.ExpectMessage("Error - Empty paste buffer!", "Cannot paste empty row.")
+                .Style(testbench::plainBox);
+        else if (!m_cancelled)
+            ExpectNumberBox(dialogs, OtherRowWith(ContextRow, RowCopyBuffer[MNUM]));
+    }
+    if (memory && !m_cancelled && m_copiedPage >= 0 && m_copiedPage != CurrentPage)
+        ++m_done[CurrentPage]["OnPasteRow: from the other page"];
+    MainFrame->m_contextMenu->SendEvent(PasteRow);
+}
+
+void HardWork::ClearRows() {
+    PickSelection();
+    NameSelectedRows();
+    Ask(ClearRow);
+}
+
+void HardWork::InsertOneRow() {
+    PickSelection();
+    PickContextRow();
+    if (ContextRow >= 1 && ContextRow <= LastMovingRow()) {
+        Ask(InsertRow);
+        return;
+    }
+    testbench::DialogScript none;
+    MainFrame->m_contextMenu->SendEvent(InsertRow);
+}
+
+void HardWork::DeleteRows() {
+    PickSelection();
+    Ask(DeleteRow);
+}
+
+void HardWork::MarkRows() {
+    PickSelection();
+    Run(MarkRow);
+}
+
+/// Selects a column as a click on its label does, but at times something else.
+void HardWork::RunOnPickedColumn(int command) {
+    m_clearsSlots = true;
+    if (m_dice.Chance(20)) {
+        PickSelection();
+    } else {
+        const int col = m_dice.Chance(25) ? static_cast<int>(ZONE)
+                                          : m_dice.Between(m_dice.Chance(20) ? MNUM : DESC, TIDC);
+        CurrentGrid()->SelectCol(col);
+        Note("column " + std::to_string(col));
+    }
+    Ask(command);
+}
+
+void HardWork::DefaultOneCol() {
+    RunOnPickedColumn(DefaultCol);
+}
+
+void HardWork::DefaultMarkedRows() {
+    RunOnPickedColumn(DefaultMarked);
+}
+
+void HardWork::RenumberByRow() {
+    PickSelection();
+    Ask(ToRowNum);
+}
+
+void HardWork::RenumberInSequence() {
+    PickSelection();
+    Ask(InSequence);
+}
+
+void HardWork::DefaultWholeFile() {
+    PickSelection();
+    if (m_dice.Chance(30))
+        CurrentGrid()->SelectAll();
+    PickContextRow();
+    m_clearsSlots = true;
+    Ask(DefaultFile);
+}
+
+void HardWork::RunUnimplemented(int command, const char* caption) {
+    testbench::DialogScript dialogs;
+    dialogs.ExpectMessage(caption, " ! Currently UnImplemented !").Style(testbench::plainBox);
+    m_cancelled = !CurrentGrid()->IsCellEditControlEnabled();
+    MainFrame->m_contextMenu->SendEvent(command);
+}
+
+void HardWork::SaveDefaults() {
+    RunUnimplemented(SaveDefault, "Save Radio Default Data?");
+}
+
+void HardWork::LoadDefaults() {
+    RunUnimplemented(LoadDefault, "Load Radio Default Data");
+}
+
+void HardWork::SelectEverything() {
+    wxCommandEvent event;
+    MainFrame->OnSelectAll(event);
+}
+
+void HardWork::SelectNothing() {
+    wxCommandEvent event;
+    MainFrame->OnDeSelectAll(event);
+}
+
+void HardWork::ClearHighlights() {
+    wxCommandEvent event;
+    MainFrame->OnClearHighlight(event);
+}
+
+/// What the user enters for a shadow: mostly a number of the page, used or not, and at times none.
+std::string HardWork::ShadowText() {
+    static const char* const bad[] = {"0", "-3", "abc", "12a", "1.5", " ", "503", "9999", "99999999999"};
+    if (m_dice.Chance(12))
+        return m_dice.Pick(bad);
+    const int rows = CurrentParameters().Rows;
+    int number = m_dice.Between(1, rows);
+    if (m_dice.Chance(60))
+        for (int tries = 0; tries < rows && RowHasData(number); ++tries)
+            number = number % rows + 1;
+    return wxString::Format(m_dice.Chance(50) ? "%d" : "%03d", number).utf8_string();
+}
+
+void HardWork::CreateOneShadow() {
+    const char* const caption = "Create Shadow - Error";
+    const int rows = CurrentParameters().Rows;
+    const wxString outside =
+        wxString::Format("Cannot Create Shadow!\nMemory number must be from 1 to %d.", rows);
+    if (m_dice.Chance(20)) {
+        PickContextRow();
+    } else {
+        ContextRow = PickGoodRow();
+        Note("at row " + std::to_string(ContextRow));
+    }
+    testbench::DialogScript dialogs;
+    const auto refuse = [&](const wxString& message) {
+        dialogs.ExpectMessage(caption, message.utf8_string()).Style(testbench::plainBox);
+        m_cancelled = true;
+        ++m_done[CurrentPage]["OnCreateShadow: refused"];
+    };
+    const auto expect = [&] {
+        if (ContextRow < 0 || ContextRow > rows || !RowIsComplete(ContextRow))
+            return refuse("Cannot Create Shadow!\nMemory record is empty or incomplete.");
+        const int primary = ReadDecimal(CurrentGrid()->GetCellValue(ContextRow, MNUM));
+        if (primary < 1 || primary > rows)
+            return refuse(outside);
+        const int slot = FirstFreeShadowSlot(GetRowValues(CurrentPage, primary));
+        if (slot == ShadowLimit)
+            return refuse("Cannot Create Shadow!\nShadow List is full for selected primary.");
+        const std::string text = ShadowText();
+        const bool gives = m_dice.Chance(90);
+        Note("entering " + text + (gives ? "" : ", cancelled"));
+        dialogs
+            .Expect(testbench::DialogKind::Other,
+                    wxString::Format("For Primary: %03d create Shadow: %d", primary, slot + 1).utf8_string())
+            .Set([text](wxDialog* dialog) {
+                for (wxWindow* child : dialog->GetChildren())
+                    if (auto* control = dynamic_cast<wxTextCtrl*>(child))
+                        control->SetValue(text);
+                dialog->TransferDataFromWindow();
+            })
+            .Answer(gives ? wxID_OK : wxID_CANCEL);
+        if (!gives) {
+            m_cancelled = true;
+            return;
+        }
+        long number = 0;
+        const bool digits = text.find_first_not_of("0123456789") == std::string::npos;
+        if (!digits || !wxString(text).ToLong(&number) || number < 1 || number > rows)
+            return refuse(outside);
+        const wxString padded = wxString::Format("%03ld", number);
+        for (int row = 0; row <= rows; ++row)
+            if (CurrentGrid()->GetCellValue(row, MNUM) == padded)
+                return refuse("Selected memory is already in use.");
+        ++m_done[CurrentPage]["OnCreateShadow: made"];
+        NameRow(primary);
+        NameRow(static_cast<int>(number));
+    };
+    expect();
+    MainFrame->m_contextMenu->SendEvent(CreateShadow);
+}
+
+void HardWork::ValidateByMenu() {
+    {
+        testbench::DialogScript dialogs;
+        dialogs.ExpectMessage("Validate Page", "Validate row data").Style(testbench::plainBox);
+        ExpectBoxesOfPageCheck(dialogs);
+        wxCommandEvent event;
+        MainFrame->OnValidatePage(event);
+    }
+    ExpectCheckedPage();
+}
+
+void HardWork::CheckByCall() {
+    {
+        testbench::DialogScript dialogs;
+        ExpectBoxesOfPageCheck(dialogs);
+        CheckPage();
+    }
+    ExpectCheckedPage();
+    ExpectSecondCheckKeepsZones();
+}
+
+void HardWork::PutIntoEditor(wxGridCellEditor* editor, int row, int col) {
+    wxWindow* control = editor->GetControl();
+    if (auto* spin = dynamic_cast<wxSpinCtrl*>(control)) {
+        const int top = std::min(spin->GetMax(), m_dice.Chance(50) ? spin->GetMax() : 20);
+        spin->SetValue(m_dice.Between(spin->GetMin(), top));
+        Note(std::to_string(spin->GetValue()));
+    } else if (auto* combo = dynamic_cast<wxComboBox*>(control)) {
+        if (combo->GetCount() > 0)
+            combo->SetSelection(m_dice.Below(static_cast<int>(combo->GetCount())));
+        Note(Quoted(combo->GetValue()));
+    } else if (auto* text = dynamic_cast<wxTextCtrl*>(control)) {
+        static const char* const frequencies[] = {"155",      "155.0", "150.1234", "136.0000", "174.0000",
+                                                  "174.0001", "999",   ".",        "13",       "155.00625"};
+        static const char* const others[] = {"A", "abc", "1F", "FFFF", "0", "REPEATER", "x y z", "12345678"};
+        text->SetValue(col == RFRQ || col == TFRQ ? m_dice.Pick(frequencies) : m_dice.Pick(others));
+        Note(Quoted(text->GetValue()));
+    } else {
+        ADD_FAILURE() << "no editor control at " << row << ", " << col;
+    }
+}
+
+void HardWork::EditCell(int row, int col) {
+    wxGrid* grid = CurrentGrid();
+    grid->GoToCell(row, col);
+    if (grid->IsReadOnly(row, col)) {
+        EXPECT_FALSE(grid->CanEnableCellControl()) << row << ", " << col;
+        Note("locked");
+        ++m_done[CurrentPage]["edit: cell locked"];
+        return;
+    }
+    std::optional<testbench::AssertsOff> quiet;
+    if (UpsetsNumberEditor(row, col))
+        quiet.emplace();
+    grid->EnableCellEditControl();
+    ASSERT_TRUE(grid->IsCellEditControlShown()) << row << ", " << col;
+    const wxGridCellEditorPtr editor(grid->GetCellEditor(row, col));
+    PutIntoEditor(editor.get(), row, col);
+    testbench::DialogScript dialogs;
+    if (m_dice.Chance(10)) {
+        Note("given up");
+        editor->Reset();
+    } else if (col == MNUM) {
+        const auto* spin = dynamic_cast<wxSpinCtrl*>(editor->GetControl());
+        const wxString typed = wxString::Format("%d", spin ? spin->GetValue() : 0);
+        if (ReadDecimal(typed) != ReadDecimal(grid->GetCellValue(row, col)))
+            ExpectNumberBox(dialogs, OtherRowWith(row, typed));
+    } else if (m_dice.Chance(15) && !grid->GetCellValue(row, TFLG).empty()) {
+        Note("left open");
+        return;
+    }
+    grid->DisableCellEditControl();
+}
+
+void HardWork::EditOneCell() {
+    const auto& edited = m_dice.Pick(EditedColumns);
+    const int col =
+        edited.col == RNSV && CurrentParameters().Type != RadioCatalogue::NP25 ? RTON : edited.col;
+    const char* const name = col == edited.col ? edited.name : "RTON";
+    const int row = PickRow();
+    Note(std::string(name) + " of row " + std::to_string(row) + ":");
+    ++m_done[CurrentPage][std::string("edit ") + name];
+    NameRow(row);
+    EditCell(row, col);
+}
+
+void HardWork::TypeIntoOneCell() {
+    static const struct {
+        int col;
+        const char* keys;
+    } typed[] = {{RFRQ, "151.5"}, {TFRQ, "160"}, {DESC, "Base 7"}, {RTGP, "ab"},
+                 {RNAC, "29q3"},  {DESC, "a~b"}, {RFRQ, "5x"},     {RTON, "1"}};
+    const auto& keys = m_dice.Pick(typed);
+    const int row = PickRow();
+    Note(std::string(keys.keys) + " in row " + std::to_string(row) + ", " + std::to_string(keys.col));
+    NameRow(row);
+    testbench::DialogScript none;
+    testbench::TypeIntoCell(*CurrentGrid(), row, keys.col, keys.keys);
+    CommitOpenEditor();
+}
+
+void HardWork::WriteHostileText() {
+    const int row = PickRow();
+    NameRow(row);
+    const bool whole = m_dice.Chance(5);
+    const int count = whole ? ColumnTotal : m_dice.Between(1, 3);
+    for (int i = 0; i < count; ++i) {
+        const int col = whole ? i : m_dice.Below(ColumnTotal);
+        const wxString& text = m_dice.Pick(HostileTexts());
+        SetCell(row, col, text);
+        Note(std::to_string(row) + ", " + std::to_string(col) + ": " + Quoted(text));
+    }
+    if (row == 0)
+        return;
+    testbench::DialogScript dialogs;
+    ExpectNumberBox(dialogs, OtherRowWith(row, CurrentGrid()->GetCellValue(row, MNUM)));
+    CheckRow(CurrentGrid(), row);
+}
+
+void HardWork::ChangePage() {
+    const int page = m_dice.Chance(75) ? 0 : 1;
+    Note("to page " + std::to_string(page + 1));
+    MainFrame->m_notebook->SetSelection(static_cast<size_t>(page));
+    EXPECT_EQ(CurrentPage, page);
+}

@@ -1,0 +1,114 @@
+// The checks of numbers: memory numbers, links to primaries, squelch values, unit ids.
+#include "tests/editing/ColumnCheckTest.h"
+#include "tests/support/Modals.h"
+
+#include <map>
+
+namespace {
+
+class NumberChecks : public ColumnCheckTest {};
+
+} // namespace
+
+TEST_F(NumberChecks, NumbersGetThreeDigits) {
+    ExpectAll(allPages, {{{MNUM}, "", ""},
+                         {{MNUM}, "3", "003"},
+                         {{MNUM}, "005", "005"},
+                         {{MNUM}, "0", "000"},
+                         {{MNUM}, " 4", "004"},
+                         {{MNUM}, "4x", "004"},
+                         {{MNUM}, "abc", "000"},
+                         {{MNUM}, "-5", "-05"}});
+}
+
+TEST_F(NumberChecks, ANumberAboveThePagesRowsGoes) {
+    ExpectAll(allPages, {{{MNUM}, "9999", ""}, {{MNUM}, "503", ""}, {{MNUM}, "99999999999999999999", ""}});
+    // Nor does one below what 32 bits hold become another number.
+    ExpectAll(allPages, {{{MNUM}, "-99999999999999999999", ""}, {{MNUM}, "-3000000000", ""}});
+    for (const auto& [page, rows] :
+         std::map<Page, int>{{Anfm, 122}, {Rp25, 232}, {Mdlx, 500}, {O12Page, 6}}) {
+        Become(page);
+        SetCell(rows, MNUM, "");
+        CheckMNum(CurrentGrid(), row, wxString::Format("%d", rows));
+        EXPECT_EQ(wxString::Format("%03d", rows), Cell(row, MNUM)) << "page " << page;
+        CheckMNum(CurrentGrid(), row, wxString::Format("%d", rows + 1));
+        EXPECT_EQ("", Cell(row, MNUM)) << "page " << page;
+    }
+}
+
+TEST_F(NumberChecks, ANumberThatAnotherRowHoldsIsToldAndGoes) {
+    SetCell(12, MNUM, "7");
+    {
+        testbench::DialogScript dialogs;
+        dialogs.ExpectMessage("Error", "Number already used at row: 012")
+            .Style(wxOK | wxCENTRE | wxICON_INFORMATION);
+        EXPECT_EQ(-1, CheckMNum(CurrentGrid(), row, "007"));
+    }
+    EXPECT_EQ("", Cell(row, MNUM));
+    EXPECT_FALSE(IsPainted(MNUM));
+    EXPECT_EQ("7", Cell(12, MNUM)) << "the other row keeps its number";
+    EXPECT_EQ(0, CheckMNum(CurrentGrid(), 12, "7")) << "a row is no rival to itself";
+}
+
+TEST_F(NumberChecks, ANumberAboveTheRowsIsStillSearchedFor) {
+    SetCell(12, MNUM, "9999");
+    testbench::DialogScript dialogs;
+    dialogs.ExpectMessage("Error", "Number already used at row: 012");
+    EXPECT_EQ(-1, CheckMNum(CurrentGrid(), row, "9999"));
+    EXPECT_EQ("", Cell(row, MNUM));
+}
+
+TEST_F(NumberChecks, ThePrimaryIsTheRowsOwnNumber) {
+    for (const char* text : {"", "003", "junk"}) {
+        ExpectAll(p25Pages, {{{PRIM}, text, "042", Plain, "", MNUM, "042"}, {{PRIM}, text, ""}});
+        ExpectAll(analogPages, {{{PRIM}, text, "", Plain, "", MNUM, "042"}});
+    }
+}
+
+TEST_F(NumberChecks, ShadowTextsArePlainPrimaryOrShadow) {
+    ExpectAll(p25Pages, {{{SHAD}, "N", "N"},
+                         {{SHAD}, "P-2", "P-2"},
+                         {{SHAD}, "S-007", "S-007"},
+                         {{SHAD}, "P-", "P-"},
+                         {{SHAD}, "S-anything", "S-anything"},
+                         {{SHAD}, "", "N"},
+                         {{SHAD}, "n", "N"},
+                         {{SHAD}, "Y", "N"},
+                         {{SHAD}, "p-1", "N"},
+                         {{SHAD}, "S", "N"},
+                         {{SHAD}, " P-1", "N"},
+                         {{SHAD}, "NN", "N"}});
+    ExpectAll(analogPages, {{{SHAD}, "N", ""}, {{SHAD}, "P-2", ""}, {{SHAD}, "", ""}});
+}
+
+TEST_F(NumberChecks, ShadowTextsAnswerWhatTheyAre) {
+    Become(Rp25);
+    EXPECT_EQ(0, CheckShad(CurrentGrid(), row, "N"));
+    EXPECT_EQ(0, CheckShad(CurrentGrid(), row, "P-1"));
+    EXPECT_EQ(-1, CheckShad(CurrentGrid(), row, "Q"));
+    Become(Anfm);
+    EXPECT_EQ(-2, CheckShad(CurrentGrid(), row, "N"));
+}
+
+TEST_F(NumberChecks, SquelchValuesBelongToTheSecondGeneration) {
+    ExpectAll({Np25}, {{{RNSV}, "0", "0"},
+                       {{RNSV}, "10", "10"},
+                       {{RNSV}, "15", "15"},
+                       {{RNSV}, "16", "dflt", Painted},
+                       {{RNSV}, "-1", "dflt", Painted},
+                       {{RNSV}, "99999999999", "dflt", Painted},
+                       {{RNSV}, "", ""},
+                       {{RNSV}, "x", "x"}});
+    ExpectAll({Anfm, Rp25, Mdlx, O12Page, KdarPage, Anam, Fxam}, {{{RNSV}, "10", ""}, {{RNSV}, "", ""}});
+}
+
+TEST_F(NumberChecks, UnitIdsHaveSevenDigits) {
+    ExpectAll(p25Pages, {{{TIDC}, "", "0000001"},
+                         {{TIDC}, "0", "0"},
+                         {{TIDC}, "00000001", "00000001"},
+                         {{TIDC}, "9999999", "9999999"},
+                         {{TIDC}, "10000000", "dflt"},
+                         {{TIDC}, "-1", "dflt"},
+                         {{TIDC}, "99999999999999999999", "dflt"}});
+    ExpectAll(analogPages, {{{TIDC}, "1", ""}, {{TIDC}, "", ""}});
+}

@@ -550,7 +550,7 @@ TEST_F(TRecordV2, WithOtherCharactersThanDigitsCountsThemAsZero) {
     EXPECT_EQ(RowText(5), ExpectedText(Received, {{RTGP, "0A00"}, {TIDC, "0077160"}}, {}, PlainRow));
 }
 
-TEST_F(TRecordV2, FindsAFullZoneAnotherOne) {
+TEST_F(TRecordV2, TakesItsZoneAsTheRoomInTheZonesAllows) {
     Open(Kdrv716B);
     Blank(5);
     ZoneSlots.fill(0);

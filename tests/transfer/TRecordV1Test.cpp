@@ -81,7 +81,7 @@ const EncodeCase<V1Line> ToRadio[] = {
       .txSquelch = "63", .txGroup = "FFFE", .txTone = "00", .txCode = "00", .txNac = "0F7E",
       .unitId = "0012D687", .shadows = "00000000000000", .squelch = "0A", .reserved1 = "0000",
       .flagsHigh = "00", .reserved2 = "000000"}},
-    {"values wider than their fields", Kdrv716, 5, {{MFLG, "25A"}, {MNUM, "300"}, {PRIM, "257"},
+    {"values wider than their fields", Kdrv716, 5, {{MFLG, "E5A"}, {MNUM, "300"}, {PRIM, "257"},
       {DESC, "ABCDEFGHIJ"}, {RFRQ, "154.12345"}, {RTGP, "12345"}, {RNAC, "F293"}, {TFRQ, "159.00125"},
       {TTGP, "ABCDE"}, {TNAC, "F293"}, {TIDC, "-1"}}, {},
      {.tag = "T143", .address = "012C", .flags = "5A", .primary = "01", .number = "2C", .zone = "20",

@@ -1,0 +1,196 @@
+#include "transfer/DebugLog.h"
+
+#include "transfer/HexText.h"
+#include "transfer/ProgressFrame.h"
+#include "transfer/TransferContext.h"
+
+#include <wx/ffile.h>
+#include <wx/gauge.h>
+#include <wx/log.h>
+
+namespace {
+
+constexpr std::uint32_t SampleProtocol = 2;
+
+// Meant: these records are read at odd positions, one behind the place where other records have their
+// address and data. The first byte of the data is byte 5.
+constexpr size_t AddressPosition = 5, AddressDigits = 4;
+constexpr std::uint32_t FirstDataByte = 5, FirstDataByteOfBlock = 9;
+constexpr int BlockMask = 0x1FFF; // a block has 8192 bytes
+
+std::uint32_t LogByte(const wxString& line, size_t n) {
+    return HexNumberAt(line, 2 * (n - 1) + 1, 2);
+}
+
+void Write(wxFFile& file, const wxString& text) {
+    const wxLogNull silence;
+    if (file.IsOpened() && !text.empty())
+        file.Write(text);
+}
+
+// ---- Trace of the serial traffic ----
+
+constexpr std::uint32_t SevenBits = 0x7F, Received = 0x80, MessageBegin = 2, MessageEnd = 3;
+
+wxString PairOfLines(const TRecordContext& context) {
+    return context.DebugRxText + "\n" + context.DebugTxText + "\n";
+}
+
+void BeginLines(TRecordContext& context) {
+    const wxString prefix = ":" + context.RxLine.Mid(AddressPosition, AddressDigits) + ": ";
+    context.DebugRxText = "Rx" + prefix;
+    context.DebugTxText = "Tx" + prefix;
+}
+
+void PadTo(wxString& text, size_t length) {
+    if (text.length() < length)
+        text.Pad(length - text.length());
+}
+
+wxString TraceCharacter(std::uint32_t c) {
+    return c >= ' ' && c <= '~' ? wxString(wxUniChar(c)) : wxString::Format("<%02X>", c);
+}
+
+/// What the bytes outside messages leave behind for the next one, within a record.
+struct Traffic {
+    std::uint32_t lastCharacter = 0;
+    wxString text; ///< as it was made last
+};
+
+/// @return what is to be written
+wxString TakeMessageByte(TRecordContext& context, std::uint32_t c) {
+    if (c != MessageEnd) {
+        context.DebugRxText += wxUniChar(c);
+        return {};
+    }
+    const wxString message = context.DebugRxText + "\n";
+    context.Work2 = 0;
+    BeginLines(context);
+    return message;
+}
+
+/// Puts the text of a byte on its line: the echo of the byte before comes right under it, anything else
+/// begins where the other line ends.
+void AddToLines(TRecordContext& context, std::uint32_t byte, const Traffic& traffic) {
+    const std::uint32_t c = byte & SevenBits;
+    if (c == 0)
+        return;
+    if (byte & Received) {
+        if (c != traffic.lastCharacter)
+            PadTo(context.DebugRxText, context.DebugTxText.length());
+        context.DebugRxText += traffic.text;
+    } else {
+        PadTo(context.DebugTxText, context.DebugRxText.length());
+        context.DebugTxText += traffic.text;
+    }
+}
+
+/// @return what is to be written
+wxString TakeTrafficByte(TRecordContext& context, std::uint32_t byte, Traffic& traffic) {
+    const std::uint32_t c = byte & SevenBits;
+    wxString written;
+    if (c == MessageBegin) {
+        written = PairOfLines(context);
+        context.Work2 = 1;
+        context.DebugRxText = "Msg: ";
+        // Meant: no text is made for this byte, so that the text of the byte before it is added once more.
+    } else {
+        traffic.text = TraceCharacter(c);
+    }
+    AddToLines(context, byte, traffic);
+    traffic.lastCharacter = c;
+    return written;
+}
+
+/// The text that a record of the trace adds to the file.
+wxString TraceText(TRecordContext& context) {
+    const wxString& line = context.RxLine;
+    wxString text;
+    if (context.LogDataStart == FirstDataByteOfBlock) {
+        context.DebugRxText = "Error Code = $" + line.Mid(9, 4) + "  Insert Ptr = $" + line.Mid(13, 4);
+        text = "\n" + context.DebugRxText + "\n";
+        context.Work2 = 0;
+    }
+    if (context.Work2 == 0)
+        BeginLines(context);
+
+    Traffic traffic;
+    for (size_t n = context.LogDataStart; n < line.length() / 2; ++n) {
+        const std::uint32_t byte = LogByte(line, n);
+        text += context.Work2 == 1 ? TakeMessageByte(context, byte & SevenBits)
+                                   : TakeTrafficByte(context, byte, traffic);
+    }
+    return context.Work2 == 1 ? text : text + PairOfLines(context);
+}
+
+// ---- Temperature samples ----
+
+constexpr size_t EntryCount = 8, EntryLength = 16, UnusedMarkPosition = 15;
+constexpr std::uint32_t UnusedEntry = 255, WordsFlag = 0x08, LowSixBits = 0x3F;
+
+int SignedByte(std::uint32_t byte) {
+    return byte > 127 ? static_cast<int>(byte) - 256 : static_cast<int>(byte);
+}
+
+/// One line of the table; base is the position at which the entry's positions count from 0.
+wxString SampleText(const wxString& line, size_t base) {
+    const auto byte = [&](size_t position) { return HexNumberAt(line, base + position, 2); };
+    const auto word = [&](size_t position) { return HexNumberAt(line, base + position, 4); };
+    const wxString head = wxString::Format("%u:%u:%u,%u,%u,%u,", byte(11), byte(13) & LowSixBits,
+                                           byte(15) & LowSixBits, byte(9), byte(13) >> 6, byte(15) >> 6);
+    if (byte(9) & WordsFlag)
+        return head + wxString::Format("%u,%u\n", word(17), word(21));
+    return head + wxString::Format("%d,%d,%d,%d\n", SignedByte(byte(17)), SignedByte(byte(19)),
+                                   SignedByte(byte(21)), SignedByte(byte(23)));
+}
+
+/// The lines of a record of samples. Entries that the line doesn't hold count as unused.
+wxString SamplesText(const wxString& line) {
+    wxString text;
+    for (size_t base = 0; base < EntryCount * EntryLength; base += EntryLength)
+        if (line.length() >= base + UnusedMarkPosition + 2 &&
+            HexNumberAt(line, base + UnusedMarkPosition, 2) != UnusedEntry)
+            text += SampleText(line, base);
+    return text;
+}
+
+} // namespace
+
+void OpenDebugLog(TRecordContext& context, const wxString& serial, const wxString& now) {
+    const wxLogNull silence;
+    if (context.DebugLogFile.IsOpened() && !context.DebugLogFile.Close())
+        context.DebugLogFile.Detach();
+    if (!context.DebugLogFile.Open("KDRV-716_" + serial + "_Dbg.log", "w"))
+        return;
+    // Meant: the heading follows the date on its line.
+    Write(context.DebugLogFile, "SN," + serial + "\nDate," + now +
+                                    "Timestamp,Flags,Main_RxTx_State,Guard_RxTx_State,"
+                                    "MB_Temp,MCU_Temp,MainRF_Temp,GuardRF_Temp\n");
+}
+
+void decodeDebugLog(TRecordContext& context) {
+    constexpr int bytesPerStep = 32, lowByte = 0xFF;
+    const int address = static_cast<int>(HexNumberAt(context.RxLine, AddressPosition, AddressDigits));
+    context.LogDataStart = (address & BlockMask) == 0 ? FirstDataByteOfBlock : FirstDataByte;
+    context.Work3 = (address / bytesPerStep) & lowByte;
+    if (context.Progress && context.Work3 <= context.Progress->MainGauge()->GetRange())
+        context.Progress->MainGauge()->SetValue(context.Work3);
+    if (context.Protocol == SampleProtocol)
+        decodeDebugLog716B(context);
+    else
+        decodeDebugLog716A(context);
+    context.Phase = 0;
+}
+
+void decodeDebugLog716A(TRecordContext& context) {
+    Write(context.DebugLogFile, TraceText(context));
+}
+
+void decodeDebugLog716B(TRecordContext& context) {
+    Write(context.DebugLogFile, SamplesText(context.RxLine));
+}
+
+void EndDebugLog(TRecordContext& context) {
+    if (context.Protocol < SampleProtocol && context.Work2 == 1)
+        Write(context.DebugLogFile, context.DebugRxText + "\n");
+}

@@ -1,0 +1,126 @@
+#include "transfer/TRecordCodec.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "editing/ColumnChecks.h"
+#include "editing/Shadows.h"
+#include "transfer/HexText.h"
+#include "transfer/TRecord.h"
+#include "transfer/TRecordFields.h"
+#include "transfer/TransferContext.h"
+
+#include <wx/grid.h>
+
+namespace {
+
+constexpr std::uint32_t V1 = 1, V2 = 2;
+constexpr int ScanFlag = 0x08;
+
+wxArrayString TextsOf(wxGrid* grid, int row) {
+    wxArrayString texts;
+    for (int column = 0; column < ColumnTotal; ++column)
+        texts.push_back(grid->GetCellValue(row, column));
+    return texts;
+}
+
+wxString RecordOf(std::span<const TRecordField> layout, wxGrid* grid, int row) {
+    return MakeTRecord(layout, {.cells = TextsOf(grid, row),
+                                .defaults = TextsOf(grid, 0),
+                                .row = row,
+                                .gridRows = grid->GetNumberRows(),
+                                .type = CurrentParameters().Type});
+}
+
+void WriteCell(wxGrid* grid, int row, const TRecordCell& cell) {
+    if (cell.column == ZONE) {
+        CheckZone(grid, row, cell.text.value_or(""));
+    } else if (cell.text) {
+        grid->SetCellValue(row, cell.column, *cell.text);
+    } else {
+        grid->SetCellValue(row, cell.column, grid->GetCellValue(0, cell.column));
+        grid->SetCellBackgroundColour(row, cell.column, FailColour);
+    }
+}
+
+/// Tells the row's place among primaries and shadows. A row flagged as both is a shadow.
+void WriteLink(wxGrid* grid, const TRecordValues& values) {
+    if (values.flags & ShadowIndexMask) {
+        grid->SetCellValue(values.row, SHAD, "S-" + NumberText(values.primary));
+        LockLinkedRow(values.row, ShadowRow);
+    } else if (values.flags & ShadowLinkFlag) {
+        grid->SetCellValue(values.row, SHAD, wxString::Format("P-%d", values.shadows));
+        LockLinkedRow(values.row, PrimaryRow);
+    } else {
+        grid->SetCellValue(values.row, SHAD, "N");
+    }
+}
+
+int WriteRow(wxGrid* grid, const TRecordValues& values) {
+    if (values.row < 0 || values.row >= grid->GetNumberRows())
+        return 0;
+    // The flags come first: the zone is dealt by them.
+    grid->SetCellValue(values.row, MFLG, FlagText(values.flags));
+    grid->SetCellValue(values.row, TFLG, TflgRead);
+    grid->SetCellValue(values.row, SCAN, values.flags & ScanFlag ? "Y" : "N");
+    for (const TRecordCell& cell : values.cells)
+        WriteCell(grid, values.row, cell);
+    WriteLink(grid, values);
+    return 1;
+}
+
+} // namespace
+
+void encodeTrecord(TRecordContext& context, wxGrid* grid, int row, wxString& out) {
+    if (context.RecordVersion == V2)
+        encodeTrecordV2(grid, row, out);
+    else
+        encodeTrecordV1(grid, row, out);
+}
+
+int decodeTrecord(TRecordContext& context, wxGrid* grid, const wxString& line) {
+    return context.RecordVersion == V1 ? decodeTrecordV1(grid, line) : decodeTrecordV2(grid, line);
+}
+
+void encodeTrecordV1(wxGrid* grid, int row, wxString& out) {
+    out = FitsRecordV1(CurrentParameters().Type, row) ? RecordOf(TRecordV1, grid, row) : wxString();
+}
+
+void encodeTrecordV2(wxGrid* grid, int row, wxString& out) {
+    out = RecordOf(TRecordV2, grid, row);
+}
+
+int decodeTrecordV1(wxGrid* grid, const wxString& line) {
+    return WriteRow(grid, ReadTRecord(TRecordV1, line, CurrentParameters().Radio));
+}
+
+int decodeTrecordV2(wxGrid* grid, const wxString& line) {
+    return WriteRow(grid, ReadTRecord(TRecordV2, line, CurrentParameters().Radio));
+}
+
+void encodeEraseRecord(TRecordContext& context, int row, wxString& out) {
+    constexpr int firstRow = 2, lastRow = 500, lastV1Row = 230;
+    const int last = context.RecordVersion == V2 ? lastRow : lastV1Row;
+    out = row >= firstRow && row <= last ? "T204" + HexField(row, 4) + "10" : wxString();
+}
+
+void encodeConfigRecord(TRecordContext&, const wxString& text, wxString& out) {
+    constexpr size_t addressAndChecksum = 3;
+    out = "T1" + HexField(static_cast<std::int64_t>(text.length() + addressAndChecksum), 2) + "0000";
+    for (const wxUniChar c : text)
+        out += HexField(c.GetValue(), 2);
+}
+
+bool IsGoodConfigText(const wxString& text) {
+    constexpr size_t firstField = 2, lastField = 5;
+    const wxArrayString fields = wxSplit(text, ':', '\\');
+    if (fields.size() <= lastField)
+        return false;
+    int sum = 1;
+    for (size_t field = firstField; field <= lastField; ++field)
+        sum += HexByteSum(fields[field]);
+    return sum % 256 == 0;
+}
+
+void SetTFlag(wxGrid* grid, int row, int bits) {
+    grid->SetCellValue(row, TFLG, FlagText(ReadHex(grid->GetCellValue(row, TFLG)) | bits));
+}

@@ -7,6 +7,7 @@
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TRecordExchange.h"
 #include "transfer/TRecordMessages.h"
+#include "transfer/TRecordReport.h"
 #include "transfer/TRecordRows.h"
 #include "transfer/TRecordStates.h"
 #include "transfer/TransferLog.h"
@@ -22,52 +23,7 @@
 namespace {
 
 constexpr unsigned LineSpeed = 9600; // baud
-constexpr int ResultPause = 1000;    // ms
 constexpr int ShadowPause = 500;     // ms
-
-void ReportComplete(TRecordContext& context, int mode) {
-    if (mode == WriteChannelsMode || mode == WriteConfigMode || context.Index == VersionState)
-        SendEndRecord(context);
-    context.Progress->SetStatus("Transfer Complete.");
-    WriteTransferLog(context.LogFile, "Transfer Complete.");
-    Delay(context, ResultPause, true);
-}
-
-void ReportCancelled(TRecordContext& context) {
-    SendEndRecord(context);
-    context.Progress->SetStatus("Transfer Cancelled.");
-    WriteTransferLog(context.LogFile, "Transfer cancelled by user.");
-    Delay(context, ResultPause, true);
-}
-
-/// Tells the radio, the user and the log how the transfer ended.
-void Report(TRecordContext& context, int mode) {
-    switch (context.Status) {
-    case TransferComplete:
-        return ReportComplete(context, mode);
-    case TransferPortError:
-        return ShowError(context, "Invalid COM Port (or Port in use)");
-    case TransferCommunicationFailure:
-        return ShowError(context, wxString::Format("Communication Error at channel %d", context.Index));
-    case TransferTimeout:
-        ShowError(context, "Timeout Error\nVerify Radio is in PC Download mode (3-8)\n"
-                           "and correct COM port is selected");
-        return WriteTransferLog(context.LogFile, "<Timeout>");
-    case TransferCommunicationError:
-        SendEndRecord(context);
-        return ShowError(context, wxString::Format("Radio rejected channel %d", context.Index - 1));
-    case TransferChecksumError:
-        return ShowError(context, wxString::Format("Checksum Error on channel %d", context.Index - 1));
-    case TransferNoDataSelected:
-        return ShowError(context, "No data selected for transfer to Radio");
-    case TransferInvalidTransmitData:
-        return ShowError(context, "Selected operation requires updated software in Radio");
-    case TransferCancelled:
-        return ReportCancelled(context);
-    default:
-        return ShowError(context, wxString::Format("Download Failure %d %d", context.Status, context.Index));
-    }
-}
 
 void SetUp(TRecordContext& context) {
     context.RadioSerial = "UNKNOWN";
@@ -77,6 +33,7 @@ void SetUp(TRecordContext& context) {
     context.InvalidModes = 0;
     context.RecordVersion = 1;
     context.Protocol = 0;
+    context.Work2 = 0; // no message of a debug log is in progress
 }
 
 void BeginExchange(TRecordContext& context) {
@@ -143,7 +100,7 @@ int TransferData(TRecordContext& context, wxGrid* grid, int mode, const wxString
     context.RxLine.clear();
     context.Port = new wxAsyncSerial(MainFrame, portName, LineSpeed);
     context.Status = context.Port->isOpen() ? DoTransferData(context, grid, mode) : TransferPortError;
-    Report(context, mode);
+    ReportResult(context, mode);
     CloseTransferLog(context.DebugLogFile);
     CloseTransferLog(context.HardwareFile); // still open if the radio didn't end its records
     TakeDown(context);

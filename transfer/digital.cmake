@@ -8,6 +8,7 @@ target_sources(zelk_core PRIVATE
     ${CMAKE_CURRENT_SOURCE_DIR}/TRecordFields.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/TRecordHardware.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/TRecordReplies.cpp
+    ${CMAKE_CURRENT_SOURCE_DIR}/TRecordReport.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/TRecordRows.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/TRecordStates.cpp
 )

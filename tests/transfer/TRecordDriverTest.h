@@ -12,7 +12,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <wx/gauge.h>
+#include <wx/stattext.h>
 
 namespace transfertest {
 
@@ -20,6 +22,38 @@ constexpr const char* TimeoutText = "Timeout Error\nVerify Radio is in PC Downlo
                                     "and correct COM port is selected";
 /// The stamp that radios of the transcripts have.
 constexpr const char* KnownStamp = "20240131235959";
+
+/// Gives a context its port and its progress window for the object's life.
+class Attachment {
+public:
+    Attachment(TRecordContext& context, const std::string& portName)
+        : m_context(context), m_progress(new ProgressFrame(nullptr)), m_port(nullptr, portName, 9600) {
+        m_progress->MainGauge()->SetRange(CurrentGrid()->GetNumberRows());
+        m_progress->MainGauge()->SetValue(0);
+        context.Progress = m_progress.get();
+        context.Port = &m_port;
+    }
+    ~Attachment() {
+        m_context.Progress = nullptr;
+        m_context.Port = nullptr;
+    }
+    Attachment(const Attachment&) = delete;
+    Attachment& operator=(const Attachment&) = delete;
+
+    /// The text above the gauges.
+    std::string Label() const {
+        for (wxWindow* child : m_progress->GetChildren())
+            if (auto* label = dynamic_cast<wxStaticText*>(child))
+                return Text(label->GetLabel());
+        return {};
+    }
+    wxGauge* Gauge() const { return m_progress->MainGauge(); }
+
+private:
+    TRecordContext& m_context;
+    std::unique_ptr<ProgressFrame> m_progress;
+    wxAsyncSerial m_port;
+};
 
 /// A page of a digital radio without memories, in a working directory of its own.
 class TRecordDriverTest : public TransferTest {
@@ -39,9 +73,6 @@ protected:
         std::filesystem::current_path(m_formerDirectory);
         TransferTest::TearDown();
     }
-
-    /// The radio of the second generation: 502 rows.
-    static constexpr int Kdrv716B = 7;
 
     static void UsePage(int radio) {
         Retarget(radio, 0);
@@ -111,27 +142,19 @@ protected:
     /// The dialogue alone, without boxes, log and end record.
     int Converse(const Transcript& transcript, int mode) {
         TranscriptPeer peer(transcript, [this] { Cancel(); });
-        ProgressFrame progress(nullptr);
-        progress.MainGauge()->SetRange(CurrentGrid()->GetNumberRows());
-        progress.MainGauge()->SetValue(0);
-        wxAsyncSerial port(nullptr, peer.PortName(), 9600);
-        m_context.Progress = &progress;
-        m_context.Port = &port;
-        const int status = DoTransferData(m_context, CurrentGrid(), mode);
+        const int status = ConverseOn(peer.PortName(), mode);
         EXPECT_EQ(peer.Finish(), "");
-        port.close();
-        m_gauge = progress.MainGauge()->GetValue();
-        m_gaugeRange = progress.MainGauge()->GetRange();
-        m_context.Progress = nullptr;
-        m_context.Port = nullptr;
         return status;
+    }
+    int ConverseOn(const std::string& portName, int mode) {
+        const Attachment attachment(m_context, portName);
+        return DoTransferData(m_context, CurrentGrid(), mode);
     }
 
     /// Does what the Cancel button does, from the peer's thread.
     void Cancel() { m_context.Progress->Cancelled = true; }
 
     TRecordContext m_context;
-    int m_gauge = 0, m_gaugeRange = 0; ///< of the last Converse
 
 private:
     testbench::TempFolder m_folder{"zelk-transfer"};

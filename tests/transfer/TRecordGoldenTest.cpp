@@ -50,7 +50,7 @@ TEST_P(TRecordGeneration, IsReadFrom) {
     for (const int row : {1, 4}) {
         EXPECT_EQ(CellText(row, MNUM), IsLatest() ? std::to_string(row) : "00" + std::to_string(row));
         EXPECT_EQ(CellText(row, DESC), "HILL");
-        EXPECT_EQ(CellText(row, TFLG), "C0");
+        EXPECT_EQ(CellText(row, TFLG), "C8") << "in the radio, and with a zone";
     }
     EXPECT_NE(Text(RadioStamp), KnownStamp);
     EXPECT_EQ(RadioStamp.length(), 14u);

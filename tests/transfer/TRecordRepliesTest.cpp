@@ -165,9 +165,9 @@ TEST_F(TRecordReply, WithAVersionChoosesTheRecordsAndChecksTheFirmware) {
         std::uint32_t recordVersion;
         int status;
     } const cases[] = {
-        {"020100", 2, true, 2, 0}, {"020100", 2, false, 2, 0}, {"020100", 1, true, 1, 0},
+        {"020100", 2, true, 2, 0},  {"020100", 2, false, 2, 0}, {"020100", 1, true, 1, 0},
         {"020100", 1, false, 1, 8}, {"020100", 3, true, 1, 0},  {"020100", 3, false, 1, 0},
-        {"010100", 2, true, 1, 0}, {"010100", 2, false, 1, 8}, {"030100", 2, true, 1, 0},
+        {"010100", 2, true, 1, 0},  {"010100", 2, false, 1, 8}, {"030100", 2, true, 1, 0},
         {"030100", 2, false, 1, 0}, {"010100", 0, true, 1, 0},  {"010100", 0, false, 1, 8},
         {"", 2, false, 1, 0},
     };

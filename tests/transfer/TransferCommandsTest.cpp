@@ -228,12 +228,9 @@ TEST_F(SendCommand, NamesTheKindOfRadioInItsTitle) {
         int radio, band;
         const char* title;
     } const cases[] = {
-        {Krv650, 1, "Send to ANFM Radio Progress"},
-        {Kdrv8400, 1, "Send to ANFM Radio Progress"},
-        {Kdrv4xxx, 0, "Send to ANFM Radio Progress"},
-        {Kdrv4xxx, 5, "Send to MDLX K6 Module Progress"},
-        {Kdrv716, 0, "Send to RP25 Radio Progress"},
-        {Kdrv716B, 0, "Send to RP25 Radio Progress"},
+        {Krv650, 1, "Send to ANFM Radio Progress"},   {Kdrv8400, 1, "Send to ANFM Radio Progress"},
+        {Kdrv4xxx, 0, "Send to ANFM Radio Progress"}, {Kdrv4xxx, 5, "Send to MDLX K6 Module Progress"},
+        {Kdrv716, 0, "Send to RP25 Radio Progress"},  {Kdrv716B, 0, "Send to RP25 Radio Progress"},
     };
     for (const auto& c : cases) {
         Retarget(c.radio, c.band);

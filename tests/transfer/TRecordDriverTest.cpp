@@ -14,40 +14,40 @@ using std::chrono::milliseconds;
 
 class TRecordDriver : public TRecordDriverTest {};
 
-std::string Program(const std::string& line) {
+std::string Sends(const std::string& line) {
     return ">" + Framed(line) + "\n";
 }
-std::string Radio(const std::string& line) {
+std::string Says(const std::string& line) {
     return "<" + Framed(line) + "\n";
 }
 
-const std::string Ack = Radio("T204000000");
-const std::string Nak = Radio("T204000001");
-const std::string End = Program("T9030000");
+const std::string Ack = Says("T204000000");
+const std::string Nak = Says("T204000001");
+const std::string End = Sends("T9030000");
 
 std::string Hello(int protocol) {
-    return Program("T00700002" + std::to_string(protocol) + "030000");
+    return Sends("T00700002" + std::to_string(protocol) + "030000");
 }
 /// A protocol 0 up to the place where data begin.
 std::string Opening(const std::string& openingMessage) {
-    return Hello(0) + Ack + Program("T204000022") + Radio("T207000023010203") + ">T20B000021" + AnyStamp +
-           "\n" + Ack + Program(openingMessage) + Ack;
+    return Hello(0) + Ack + Sends("T204000022") + Says("T207000023010203") + ">T20B000021" + AnyStamp + "\n" +
+           Ack + Sends(openingMessage) + Ack;
 }
 /// A read of the hardware up to its first record.
 std::string HardwareOpening() {
-    return Hello(0) + Nak + Hello(1) + Nak + Hello(2) + Ack + Program("T2060000320480") + Ack +
-           Program("T204000033") + Radio("T20500003370") + Program("T204000031");
+    return Hello(0) + Nak + Hello(1) + Nak + Hello(2) + Ack + Sends("T2060000320480") + Ack +
+           Sends("T204000033") + Says("T20500003370") + Sends("T204000031");
 }
 std::string DataRecord(const std::string& text) {
     std::string line = Text(wxString::Format("T1%02X0000", static_cast<int>(text.size()) + 3));
     for (const char c : text)
         line += Text(wxString::Format("%02X", static_cast<int>(static_cast<unsigned char>(c))));
-    return Radio(line);
+    return Says(line);
 }
 /// A whole read of the hardware from a radio of that serial number.
 std::string HardwareOf(const std::string& serial) {
-    return HardwareOpening() + DataRecord(serial) + Program("T204000000") + DataRecord("Board 3") +
-           Program("T204000000") + Radio("T9030000");
+    return HardwareOpening() + DataRecord(serial) + Sends("T204000000") + DataRecord("Board 3") +
+           Sends("T204000000") + Says("T9030000");
 }
 
 /// A transcript up to its nth line of the program, counted from 0, or empty if it has no such line.
@@ -88,7 +88,7 @@ TEST_F(TRecordDriver, WithoutThePortTellsSo) {
 }
 
 TEST_F(TRecordDriver, WithoutALogWritesNone) {
-    EXPECT_EQ(Transfer(Transcript(Opening("T204000024") + Program("T204000000") + Radio("T9030000")),
+    EXPECT_EQ(Transfer(Transcript(Opening("T204000024") + Sends("T204000000") + Says("T9030000")),
                        ReadChannelsMode),
               TransferComplete);
     EXPECT_TRUE(std::filesystem::is_empty("."));
@@ -176,10 +176,10 @@ TEST_F(TRecordDriver, AnsweredWithGarbageTwiceAtAnyLineEndsItWithoutAnEndRecord)
 TEST_F(TRecordDriver, RefusalAndGarbageCountTogether) {
     FillP25Row(1);
     Select({1});
-    const std::string start = Hello(0) + Ack + Program("T204000022");
-    EXPECT_EQ(Converse(Transcript(start + Nak + Program("T204000022") + "<T2040000001B\n"), 0),
+    const std::string start = Hello(0) + Ack + Sends("T204000022");
+    EXPECT_EQ(Converse(Transcript(start + Nak + Sends("T204000022") + "<T2040000001B\n"), 0),
               TransferChecksumError);
-    EXPECT_EQ(Converse(Transcript(start + "<T2040000001B\n" + Program("T204000022") + Nak), 0),
+    EXPECT_EQ(Converse(Transcript(start + "<T2040000001B\n" + Sends("T204000022") + Nak), 0),
               TransferCommunicationError);
 }
 
@@ -206,8 +206,8 @@ TEST_F(TRecordDriver, RefusalIsFollowedByAPause) {
 TEST_F(TRecordDriver, HostileShortLinesAreGarbageNotACrash) {
     FillP25Row(1);
     Select({1});
-    for (const char* line : {"T", "TF", "TFF", "T2F", "TFB0", "T1\xFF\xFE",
-                             "T20400000", "T204000000", "T204000000fb0", "T9030000", "T-1-1-1", "Tzzzz"}) {
+    for (const char* line : {"T", "TF", "TFF", "T2F", "TFB0", "T1\xFF\xFE", "T20400000", "T204000000",
+                             "T204000000fb0", "T9030000", "T-1-1-1", "Tzzzz"}) {
         SCOPED_TRACE(line);
         const std::string said = std::string("<") + line + "\n";
         const int status = Converse(Transcript(Hello(0) + said + Hello(0) + said), WriteChannelsMode);
@@ -220,21 +220,21 @@ TEST_F(TRecordDriver, FramesOfNothingAreIgnored) {
         SCOPED_TRACE(line);
         FillP25Row(1);
         Select({1});
-        EXPECT_EQ(Converse(Transcript(Hello(0) + "<" + line + "\n" + Hello(0) + "@cancel\n"),
-                           WriteChannelsMode),
-                  TransferCancelled);
+        EXPECT_EQ(
+            Converse(Transcript(Hello(0) + "<" + line + "\n" + Hello(0) + "@cancel\n"), WriteChannelsMode),
+            TransferCancelled);
     }
 }
 
 TEST_F(TRecordDriver, HostileShortMessagesAreReadAsFarAsTheyGo) {
     FillP25Row(1);
     Select({1});
-    const std::string start = Hello(0) + Nak + Hello(1) + Ack + Program("T204000033");
-    EXPECT_EQ(Converse(Transcript(start + Radio("T205000033") + Program("T204000022") + Radio("T207000023") +
-                                  Program("T204000020") + Radio("T20B000021") + Program("T204000025") +
-                                  "@cancel\n"),
-                       WriteChannelsMode),
-              TransferCancelled);
+    const std::string start = Hello(0) + Nak + Hello(1) + Ack + Sends("T204000033");
+    EXPECT_EQ(
+        Converse(Transcript(start + Says("T205000033") + Sends("T204000022") + Says("T207000023") +
+                            Sends("T204000020") + Says("T20B000021") + Sends("T204000025") + "@cancel\n"),
+                 WriteChannelsMode),
+        TransferCancelled);
     EXPECT_EQ(OpModes[0], 0u);
     EXPECT_EQ(Text(RadioVersion), "");
     EXPECT_EQ(m_context.XferFlags & 0x08, 0x08u);
@@ -243,12 +243,12 @@ TEST_F(TRecordDriver, HostileShortMessagesAreReadAsFarAsTheyGo) {
 TEST_F(TRecordDriver, HostileDataRecordsDoNotStopARead) {
     const std::string before = PageText();
     std::string talk = Opening("T204000024");
-    std::string answer = Program("T204000000");
+    std::string answer = Sends("T204000000");
     for (const char* record : {"T143FFFF", "T143F", "T1430FFF00"}) {
-        talk += answer + Radio(record);
-        answer = Program("T204000001");
+        talk += answer + Says(record);
+        answer = Sends("T204000001");
     }
-    EXPECT_EQ(Converse(Transcript(talk + answer + Radio("T9030000")), ReadChannelsMode), TransferComplete);
+    EXPECT_EQ(Converse(Transcript(talk + answer + Says("T9030000")), ReadChannelsMode), TransferComplete);
     EXPECT_EQ(PageText(), before);
 }
 
@@ -302,10 +302,9 @@ TEST_F(TRecordDriver, NoiseBeginsTheWaitAnew) {
 }
 
 TEST_F(TRecordDriver, LineFeedsBehindTheLinesAreDropped) {
-    EXPECT_EQ(
-        Converse(Transcript("@crlf\n" + Opening("T204000024") + Program("T204000000") + Radio("T9030000")),
-                 ReadChannelsMode),
-        TransferComplete);
+    EXPECT_EQ(Converse(Transcript("@crlf\n" + Opening("T204000024") + Sends("T204000000") + Says("T9030000")),
+                       ReadChannelsMode),
+              TransferComplete);
 }
 
 TEST_F(TRecordDriver, LateLineFeedCostsNoRecord) {
@@ -321,8 +320,8 @@ TEST_F(TRecordDriver, LateLineFeedCostsNoRecord) {
 }
 
 TEST_F(TRecordDriver, IgnoredLineSendsTheStandingLineAgainAsItStands) {
-    const std::string stranger = Radio("T204000077");
-    const std::string version = Program("T204000022");
+    const std::string stranger = Says("T204000077");
+    const std::string version = Sends("T204000022");
     EXPECT_EQ(
         Converse(Transcript(Hello(0) + Ack + version + stranger + version + stranger + version + "@cancel\n"),
                  ReadChannelsMode),
@@ -330,7 +329,7 @@ TEST_F(TRecordDriver, IgnoredLineSendsTheStandingLineAgainAsItStands) {
 }
 
 TEST_F(TRecordDriver, IgnoredLineBehindNoiseSendsNothing) {
-    EXPECT_EQ(Converse(Transcript(Hello(0) + "<noise\n" + Radio("T204000077") + Ack + Program("T204000022") +
+    EXPECT_EQ(Converse(Transcript(Hello(0) + "<noise\n" + Says("T204000077") + Ack + Sends("T204000022") +
                                   "@cancel\n"),
                        ReadChannelsMode),
               TransferCancelled);
@@ -338,7 +337,7 @@ TEST_F(TRecordDriver, IgnoredLineBehindNoiseSendsNothing) {
 
 TEST_F(TRecordDriver, OffersFurtherProtocolsAsLongAsTheyAreRefused) {
     EXPECT_EQ(Converse(Transcript(Hello(0) + Nak + Hello(1) + Nak + Hello(2) + Nak + Hello(3) + Nak +
-                                  Hello(4) + Ack + Program("T2060000320480") + "@cancel\n"),
+                                  Hello(4) + Ack + Sends("T2060000320480") + "@cancel\n"),
                        ReadChannelsMode),
               TransferCancelled);
     EXPECT_EQ(m_context.Protocol, 4u);
@@ -354,16 +353,16 @@ TEST_F(TRecordDriver, MeasuresModesByTheRadioBefore) {
     FillP25Row(1);
     SetCell(1, MODE, "w");
     Select({1});
-    const std::string start = Hello(0) + Nak + Hello(1) + Ack + Program("T204000033");
-    const std::string rest = Program("T204000022") + "@cancel\n";
+    const std::string start = Hello(0) + Nak + Hello(1) + Ack + Sends("T204000033");
+    const std::string rest = Sends("T204000022") + "@cancel\n";
     {
         DialogScript script;
         script.ExpectMessage("Radio Operating Modes", AnyText(), wxID_YES);
-        EXPECT_EQ(Converse(Transcript(start + Radio("T20500003370") + rest), WriteChannelsMode),
+        EXPECT_EQ(Converse(Transcript(start + Says("T20500003370") + rest), WriteChannelsMode),
                   TransferCancelled);
     }
     const DialogScript noBox;
-    EXPECT_EQ(Converse(Transcript(start + Radio("T20500003330") + rest), WriteChannelsMode),
+    EXPECT_EQ(Converse(Transcript(start + Says("T20500003330") + rest), WriteChannelsMode),
               TransferCancelled);
     EXPECT_EQ(OpModes[0], 0x30u);
 }
@@ -398,8 +397,8 @@ TEST_F(TRecordDriver, HardwareFileOfAnInterruptedReadIsClosedWithWhatCame) {
     AskForWorkingLog();
     std::filesystem::create_directory("Logs");
     const DialogScript noBox;
-    EXPECT_EQ(Transfer(Transcript(HardwareOpening() + DataRecord("K7A42") + Program("T204000000") +
-                                  DataRecord("Board 3") + Program("T204000000") + "@cancel\n" + End),
+    EXPECT_EQ(Transfer(Transcript(HardwareOpening() + DataRecord("K7A42") + Sends("T204000000") +
+                                  DataRecord("Board 3") + Sends("T204000000") + "@cancel\n" + End),
                        ReadInformationMode),
               TransferCancelled);
     EXPECT_NE(FileText("Logs/K7A42.txt").find("Board 3\n"), std::string::npos);
@@ -413,7 +412,7 @@ TEST_F(TRecordDriver, SerialNumberLeadsToNoOtherFolder) {
     for (const char* serial : {"../precious", "deep/new", "../new", "..\\new", "a\nb"}) {
         SCOPED_TRACE(serial);
         EXPECT_EQ(
-            Converse(Transcript(HardwareOf(serial) + Program("T204000022") + "@cancel\n"), ReadDebugLogMode),
+            Converse(Transcript(HardwareOf(serial) + Sends("T204000022") + "@cancel\n"), ReadDebugLogMode),
             TransferCancelled);
         m_context.DebugLogFile.Close();
     }
@@ -424,14 +423,14 @@ TEST_F(TRecordDriver, SerialNumberLeadsToNoOtherFolder) {
 }
 
 TEST_F(TRecordDriver, RadioWithoutHardwareToTellIsAskedOn) {
-    EXPECT_EQ(Transfer(Transcript(HardwareOpening() + Radio("T9030000") + End), ReadInformationMode),
+    EXPECT_EQ(Transfer(Transcript(HardwareOpening() + Says("T9030000") + End), ReadInformationMode),
               TransferComplete);
     EXPECT_TRUE(m_context.InfoLines.empty());
 }
 
 TEST_F(TRecordDriver, DebugLogWithoutALogFileIsTakenAndLeft) {
-    EXPECT_EQ(Transfer(Transcript(Opening("T204000030") + Program("T204000000") +
-                                  Radio("T10700200C8E96F6B0") + Program("T204000000") + Radio("T9030000")),
+    EXPECT_EQ(Transfer(Transcript(Opening("T204000030") + Sends("T204000000") + Says("T10700200C8E96F6B0") +
+                                  Sends("T204000000") + Says("T9030000")),
                        ReadDebugLogMode),
               TransferComplete);
     EXPECT_TRUE(std::filesystem::is_empty("."));
@@ -439,8 +438,8 @@ TEST_F(TRecordDriver, DebugLogWithoutALogFileIsTakenAndLeft) {
 
 TEST_F(TRecordDriver, DebugLogThatEndsInsideAMessageKeepsIt) {
     AskForWorkingLog();
-    EXPECT_EQ(Transfer(Transcript(Opening("T204000030") + Program("T204000000") + Radio("T106002000248490") +
-                                  Program("T204000000") + Radio("T9030000")),
+    EXPECT_EQ(Transfer(Transcript(Opening("T204000030") + Sends("T204000000") + Says("T106002000248490") +
+                                  Sends("T204000000") + Says("T9030000")),
                        ReadDebugLogMode),
               TransferComplete);
     const std::string log = FileText("KDRV-716_UNKNOWN_Dbg.log");

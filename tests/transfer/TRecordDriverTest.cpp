@@ -117,15 +117,45 @@ TEST_F(TRecordDriver, CancelledAtAnyLineOfAWriteEndsIt) {
     }
 }
 
-TEST_F(TRecordDriver, CancelledAtAnyLineOfAReadEndsIt) {
+TEST_F(TRecordDriver, CancelledAtAnyLineOfAnyOtherModeEndsIt) {
+    struct {
+        const char* transcript;
+        int mode, lines;
+    } const cases[] = {
+        {"protocol2_read", ReadChannelsMode, 15},        {"protocol2_config_read", ReadConfigMode, 12},
+        {"protocol2_config_write", WriteConfigMode, 10}, {"protocol2_hardware", ReadInformationMode, 9},
+        {"protocol2_debug_log", ReadDebugLogMode, 14},
+    };
     const DialogScript noBox;
-    const Transcript whole = Transcript::FromFile("protocol2_read");
-    int lines = 0;
-    for (std::string part; !(part = UpToProgramLine(whole, lines)).empty(); ++lines) {
-        SCOPED_TRACE("line " + std::to_string(lines));
-        EXPECT_EQ(Transfer(Transcript(part + "@cancel\n" + End), ReadChannelsMode), TransferCancelled);
+    for (const auto& c : cases) {
+        const Transcript whole = Transcript::FromFile(c.transcript);
+        for (int n = 0; n < c.lines; ++n) {
+            SCOPED_TRACE(std::string(c.transcript) + ", line " + std::to_string(n));
+            m_context.ConfigLines.clear();
+            m_context.ConfigLines.push_back("CR00:x:01:02:03:F9");
+            m_context.ConfigLines.push_back("CR01:x:FF:::");
+            EXPECT_EQ(Transfer(Transcript(UpToProgramLine(whole, n) + "@cancel\n" + End), c.mode),
+                      TransferCancelled);
+        }
     }
-    EXPECT_EQ(lines, 15);
+}
+
+TEST_F(TRecordDriver, WhoseRadioIsUnpluggedTimesOut) {
+    FillP25Row(1);
+    Select({1});
+    RadioPeer peer([](RadioPeer& radio) {
+        radio.HearLine();
+        radio.Say("T204000000FB\r");
+        radio.HearLine();
+        radio.Vanish();
+    });
+    m_context.ReplyTimeout = 500;
+    DialogScript script;
+    ExpectDriverBox(script, TimeoutText);
+    EXPECT_EQ(TransferData(m_context, CurrentGrid(), WriteChannelsMode, peer.PortName(), "Test"),
+              TransferTimeout);
+    EXPECT_EQ(m_context.Port, nullptr);
+    ExpectOver();
 }
 
 TEST_F(TRecordDriver, LeftAloneAtAnyLineTimesOutAndSaysNoMore) {

@@ -3,6 +3,7 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "transfer/DebugLog.h"
+#include "transfer/HexText.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecord.h"
@@ -80,7 +81,7 @@ void TakeVersion(TRecordDialogue& dialogue) {
 
 void TakeOpModes(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
-    SetRadioModes(context, static_cast<std::uint32_t>(ReadHex(context.RxLine.Mid(MessageTextAt, 2))));
+    SetRadioModes(context, HexNumberAt(context.RxLine, MessageTextAt, 2));
     const bool writesOrConfig = dialogue.mode == WriteChannelsMode || dialogue.mode == ReadConfigMode ||
                                 dialogue.mode == WriteConfigMode;
     if (context.Protocol == 1 || writesOrConfig)
@@ -89,9 +90,8 @@ void TakeOpModes(TRecordDialogue& dialogue) {
 }
 
 void TakeConfigCount(TRecordContext& context) {
-    const int count = ReadHex(context.RxLine.Mid(MessageTextAt, 2));
-    context.ConfigCount = static_cast<std::uint32_t>(count);
-    context.Progress->MainGauge()->SetRange(count);
+    context.ConfigCount = HexNumberAt(context.RxLine, MessageTextAt, 2);
+    context.Progress->MainGauge()->SetRange(static_cast<int>(context.ConfigCount));
     context.ConfigLines.clear();
     context.Phase = LineDone;
 }

@@ -65,6 +65,7 @@ bool FitsOldLayout(const TRecordDialogue& dialogue, int row) {
 
 void EvaluateRow(TRecordDialogue& dialogue, int row, bool guard) {
     TRecordContext& context = dialogue.context;
+    // Meant: a selected row without data is marked too.
     if (dialogue.grid->IsInSelection(row, guard ? GuardSelectionColumn : MemorySelectionColumn))
         SetTFlag(dialogue.grid, row, SEL);
     const int flags = Flags(dialogue, row, TFLG);

@@ -201,6 +201,17 @@ TEST_F(TRecordReply, WithACountOfLinesBeginsThemAnew) {
     EXPECT_TRUE(m_context.ConfigLines.empty());
 }
 
+TEST_F(TRecordReply, WithAByteThatIsNoneCountsItsBadDigitsAsZero) {
+    Take("T205000034-5", 2);
+    EXPECT_EQ(m_context.ConfigCount, 5u);
+    EXPECT_EQ(m_attachment->Gauge()->GetRange(), 5);
+    Take("T205000034", 2);
+    EXPECT_EQ(m_context.ConfigCount, 0u);
+    EXPECT_EQ(m_attachment->Gauge()->GetRange(), 0);
+    Take("T205000033-1", 1);
+    EXPECT_EQ(OpModes[0], 1u);
+}
+
 TEST_F(TRecordReply, WithAConfigurationTextMovesTheGaugeToItsNumberAlsoIfTheTextIsBad) {
     m_attachment->Gauge()->SetRange(20);
     const auto record = [](const std::string& text) {

@@ -117,6 +117,7 @@ wxString FieldText(const TRecordField& field, const TRecordSource& source) {
     case TRecordKind::PaddedUnitId:
         return number(ReadDecimal(cell));
     case TRecordKind::ZoneByte:
+        // Meant: V1 has its guard memories in the last zone, whatever their ZONE.
         return number(ZoneBits(source.row > LastNP25Memory ? GuardZone : ZoneValue(cell)));
     case TRecordKind::ZoneWord:
         return number(ZoneBits(ZoneValue(cell)));
@@ -158,6 +159,7 @@ wxString HexToCharacters(const wxString& line, size_t position, size_t count) {
     return text;
 }
 
+/// Meant: cut to nine characters, so that a frequency below 100 MHz has one decimal more than others.
 wxString HertzToFrequency(std::uint32_t hertz) {
     return wxString::Format("%u.%06u", hertz / Megahertz, hertz % Megahertz).Left(HertzTextLength);
 }

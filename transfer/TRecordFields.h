@@ -53,11 +53,11 @@ struct TRecordField {
 /// Memory record V1.
 inline constexpr TRecordField TRecordV1[] = {
     {  0,  4, TRecordKind::Literal, ColumnTotal, "T143"},
-    {  4,  4, TRecordKind::GuardAddress, MNUM},
-    {  8,  2, TRecordKind::FlagsLow, MFLG},
+    {  4,  4, TRecordKind::GuardAddress, MNUM}, // meant: the memory's number goes out, a row comes in
+    {  8,  2, TRecordKind::FlagsLow, MFLG}, // meant: bit 7 isn't MFLG's, and only goes out
     { 10,  2, TRecordKind::GuardPrimary, PRIM},
-    { 12,  2, TRecordKind::GuardNumber, MNUM},
-    { 14,  2, TRecordKind::ZoneByte, ZONE},
+    { 12,  2, TRecordKind::GuardNumber, MNUM}, // meant: not read, the address tells the number
+    { 14,  2, TRecordKind::ZoneByte, ZONE}, // meant: a zone behind the 16th loses its high bit
     { 16, 16, TRecordKind::Description, DESC},
     { 32,  2, TRecordKind::Literal, ColumnTotal, "20"},
     { 34,  2, TRecordKind::Letter, MODE},
@@ -77,7 +77,7 @@ inline constexpr TRecordField TRecordV1[] = {
     { 96,  4, TRecordKind::Nac, TNAC}, // meant: unlike the receive NAC it keeps its high digit
     {100,  8, TRecordKind::UnitId, TIDC},
     {108, 14, TRecordKind::Shadows, SHD0},
-    {122,  2, TRecordKind::SquelchByte, RNSV},
+    {122,  2, TRecordKind::SquelchByte, RNSV}, // meant: read on every page, also on those without it
     {124,  4, TRecordKind::Literal, ColumnTotal, "0000"},
     {128,  2, TRecordKind::FlagsHigh, MFLG},
     {130,  6, TRecordKind::Literal, ColumnTotal, "000000"},
@@ -86,10 +86,10 @@ inline constexpr TRecordField TRecordV1[] = {
 /// Memory record V2.
 inline constexpr TRecordField TRecordV2[] = {
     {  0,  4, TRecordKind::Literal, ColumnTotal, "T143"},
-    {  4,  4, TRecordKind::RowAddress, MNUM},
-    {  8,  4, TRecordKind::Flags, MFLG},
+    {  4,  4, TRecordKind::RowAddress, MNUM}, // meant: the row, whatever its MNUM
+    {  8,  4, TRecordKind::Flags, MFLG}, // meant: no mark on the last two rows, and bit 7 is read
     { 12,  4, TRecordKind::Decimal, PRIM},
-    { 16,  4, TRecordKind::Decimal, MNUM},
+    { 16,  4, TRecordKind::Decimal, MNUM}, // meant: read without leading zeros, and so is PRIM
     { 20,  4, TRecordKind::ZoneWord, ZONE},
     { 24, 16, TRecordKind::Description, DESC},
     { 40,  2, TRecordKind::Literal, ColumnTotal, "20"},
@@ -108,7 +108,7 @@ inline constexpr TRecordField TRecordV2[] = {
     { 82,  2, TRecordKind::Code, TCOD},
     { 84,  4, TRecordKind::Nac, TNAC},
     { 88,  4, TRecordKind::TalkGroup, TTGP},
-    { 92,  8, TRecordKind::PaddedUnitId, TIDC},
+    { 92,  8, TRecordKind::PaddedUnitId, TIDC}, // meant: V1 doesn't pad it
     {100, 28, TRecordKind::Shadows, SHD0},
     {128,  4, TRecordKind::Literal, ColumnTotal, "0000"},
     {132,  4, TRecordKind::Literal, ColumnTotal, "0000"},

@@ -15,3 +15,26 @@ TEST(HexByteSumOf, ATextIsTheSumOfItsPairs) {
     for (const auto& c : cases)
         EXPECT_EQ(HexByteSum(c.text), c.sum) << c.text;
 }
+
+TEST(HexNumberAt, APositionIsTheNumberOfItsDigits) {
+    struct {
+        const char* text;
+        size_t position, digits;
+        unsigned number;
+    } const cases[] = {
+        {"0123456789ABCDEF", 0, 4, 0x0123},
+        {"0123456789ABCDEF", 8, 8, 0x89ABCDEF},
+        {"FFFFFFFF", 0, 8, 0xFFFFFFFF},
+        {"abcdef", 1, 2, 0xBC},
+        {"12", 0, 0, 0},
+        {"12", 1, 2, 0x20},
+        {"12", 2, 2, 0},
+        {"", 7, 4, 0},
+        {"1g2", 0, 3, 0x102},
+        {"-1 2", 0, 4, 0x0102},
+        {"0x12", 0, 4, 0x0012},
+        {"@G`g/:", 0, 6, 0},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(HexNumberAt(c.text, c.position, c.digits), c.number) << c.text << " at " << c.position;
+}

@@ -1,0 +1,226 @@
+// A test with a page, rows for it, and the records of those rows field by field.
+#pragma once
+
+#include "catalogue/PageModel.h"
+#include "tests/support/ZelkWindowTest.h"
+#include "transfer/TransferContext.h"
+
+#include <algorithm>
+#include <iostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace trecordtest {
+
+using Cells = std::vector<std::pair<int, wxString>>;
+
+/// Pages of the tests.
+enum Page { Kdrv716, Kdrv716B, K6, K7, Krv47, Orv12, Kdar2000, Krv620AM, Fxam };
+
+struct Target {
+    int radio, bandIndex;
+};
+inline constexpr Target TargetOf[] = {{6, 0}, {7, 0}, {17, 5}, {17, 5}, {1, 0},
+                                      {2, 0}, {8, 0}, {10, 1}, {1, 0}};
+
+// The fields of a record, in its order. What a field holds is told by the printed layout of the record; the
+// two digits of a byte stand together.
+struct V1Line {
+    std::string tag, address, flags, primary, number, zone, description, separator, mode, rxFrequency, rxTag,
+        rxSquelch, rxGroup, rxTone, rxCode, rxNac, txFrequency, txTag, txSquelch, txGroup, txTone, txCode,
+        txNac, unitId, shadows, squelch, reserved1, flagsHigh, reserved2;
+    std::string Text() const {
+        return tag + address + flags + primary + number + zone + description + separator + mode +
+               rxFrequency + rxTag + rxSquelch + rxGroup + rxTone + rxCode + rxNac + txFrequency + txTag +
+               txSquelch + txGroup + txTone + txCode + txNac + unitId + shadows + squelch + reserved1 +
+               flagsHigh + reserved2;
+    }
+};
+struct V2Line {
+    std::string tag, address, flags, primary, number, zone, description, separator, mode, rxFrequency, rxTag,
+        rxSquelch, rxTone, rxCode, rxSquelchNac, rxGroup, txFrequency, txTag, txSquelch, txTone, txCode,
+        txNac, txGroup, unitId, shadows, reserved1, reserved2;
+    std::string Text() const {
+        return tag + address + flags + primary + number + zone + description + separator + mode +
+               rxFrequency + rxTag + rxSquelch + rxTone + rxCode + rxSquelchNac + rxGroup + txFrequency +
+               txTag + txSquelch + txTone + txCode + txNac + txGroup + unitId + shadows + reserved1 +
+               reserved2;
+    }
+};
+
+/// A row with cells other than Sample's, over a default row with other cells, and its record.
+template <class Line>
+struct EncodeCase {
+    const char* name;
+    Page page;
+    int row;
+    Cells cells, defaultCells;
+    Line line;
+};
+
+enum RowKind { PlainRow, PrimaryRow, ShadowRow };
+
+/// A record and the row that it makes, with cells other than those of the usual memory, its painted cells
+/// and its locks.
+template <class Line>
+struct DecodeCase {
+    const char* name;
+    Page page;
+    Line line;
+    int row;
+    Cells cells;
+    std::vector<int> painted;
+    RowKind kind;
+};
+
+/// Row 5 as a person would fill it.
+inline const Cells Sample = {
+    {MFLG, "00"},    {MNUM, "005"},    {PRIM, "005"},  {SHAD, "N"},        {BAND, "FM 136-174"}, {SCAN, "N"},
+    {ZONE, "3"},     {DESC, "HILL 4"}, {MODE, "n"},    {RFRQ, "154.1250"}, {RSQL, "t"},          {RNSV, "3"},
+    {RTON, "100.0"}, {RCOD, "025"},    {RTGP, "0A1B"}, {RNAC, "293"},      {TFRQ, "159.0000"},   {TSQL, "c"},
+    {TTON, "67.0"},  {TCOD, "023"},    {TTGP, "FFFE"}, {TNAC, "F7E"},      {TIDC, "1234567"},    {SHD0, "0"},
+    {SHD1, "0"},     {SHD2, "0"},      {SHD3, "0"},    {SHD4, "0"},        {SHD5, "0"},          {SHD6, "0"},
+    {RONL, ""},      {TFLG, "A1"},
+};
+
+/// Nothing in any cell that goes out.
+inline const Cells EmptyCells = {
+    {MFLG, ""}, {MNUM, ""}, {PRIM, ""}, {ZONE, ""}, {DESC, ""}, {MODE, ""}, {RFRQ, ""},
+    {RSQL, ""}, {RNSV, ""}, {RTON, ""}, {RCOD, ""}, {RTGP, ""}, {RNAC, ""}, {TFRQ, ""},
+    {TSQL, ""}, {TTON, ""}, {TCOD, ""}, {TTGP, ""}, {TNAC, ""}, {TIDC, ""},
+};
+
+class TRecordPage : public ZelkWindowTest {
+protected:
+    /// The page as it is when it has been made.
+    void Open(Page page) {
+        Retarget(TargetOf[page].radio, TargetOf[page].bandIndex);
+        if (page == K7)
+            CurrentParameters().Band = 9;
+        if (page == Fxam)
+            CurrentParameters().Type = RadioCatalogue::FXAM;
+        m_page = page;
+    }
+
+    /// The same, sparing the work where the page is open and its default row untouched.
+    void OpenFor(Page page, int row) {
+        if (m_page != page || row == 0 || m_defaultsTouched)
+            Open(page);
+        m_defaultsTouched = row == 0;
+        ZoneSlots.fill(0);
+    }
+
+    void Fill(int row, const Cells& cells, const Cells& changes) {
+        for (const auto& [column, text] : cells)
+            SetCell(row, column, text);
+        for (const auto& [column, text] : changes)
+            SetCell(row, column, text);
+    }
+
+    void FillDefaults(const Cells& changes) {
+        Fill(0, changes, {});
+        m_defaultsTouched |= !changes.empty();
+    }
+
+    static void Unlock(int row) {
+        for (int column = 0; column < ColumnTotal; ++column)
+            CurrentGrid()->SetReadOnly(row, column, false);
+    }
+
+    /// A row as blank as a new page has it.
+    static void Blank(int row) {
+        for (int column = 0; column < ColumnTotal; ++column) {
+            SetCell(row, column, "");
+            CurrentGrid()->SetCellBackgroundColour(row, column,
+                                                   CurrentGrid()->GetDefaultCellBackgroundColour());
+        }
+        Unlock(row);
+    }
+
+    /// All cells of a row, one tag and text a line, with a mark for a cell that is painted or read-only.
+    static std::string RowText(int row) {
+        std::string text;
+        for (int column = 0; column < ColumnTotal; ++column) {
+            text += std::string(ColumnTag[column]) + " \"" + Cell(row, column).utf8_string() + "\"";
+            if (CurrentGrid()->GetCellBackgroundColour(row, column) == wxColour(235, 125, 50))
+                text += " painted";
+            if (CurrentGrid()->IsReadOnly(row, column))
+                text += " locked";
+            text += "\n";
+        }
+        return text;
+    }
+
+    /// RowText of a row with those cells.
+    static std::string ExpectedText(const Cells& cells, const Cells& changes, const std::vector<int>& painted,
+                                    RowKind kind) {
+        std::vector<wxString> texts(ColumnTotal);
+        for (const Cells* some : {&cells, &changes})
+            for (const auto& [column, cell] : *some)
+                texts[static_cast<size_t>(column)] = cell;
+        const auto has = [](const std::vector<int>& columns, int column) {
+            return std::find(columns.begin(), columns.end(), column) != columns.end();
+        };
+        std::vector<int> locked;
+        if (kind != PlainRow)
+            locked = {MNUM, SHAD, SCAN};
+        if (kind == ShadowRow)
+            locked.insert(locked.end(), {ZONE, RFRQ, TFRQ});
+        std::string text;
+        for (int column = 0; column < ColumnTotal; ++column)
+            text += std::string(ColumnTag[column]) + " \"" +
+                    texts[static_cast<size_t>(column)].utf8_string() + "\"" +
+                    (has(painted, column) ? " painted" : "") + (has(locked, column) ? " locked" : "") + "\n";
+        return text;
+    }
+
+    /// The texts of all cells of the page.
+    static wxArrayString AllCells() {
+        wxArrayString all;
+        for (int row = 0; row < CurrentGrid()->GetNumberRows(); ++row)
+            for (const wxString& text : GetRowValues(CurrentPage, row))
+                all.push_back(text);
+        return all;
+    }
+
+    using Encoder = void (*)(wxGrid*, int, wxString&);
+    using Decoder = int (*)(wxGrid*, const wxString&);
+
+    template <class Line, size_t count>
+    void CheckLinesToRadio(const EncodeCase<Line> (&cases)[count], Encoder encode) {
+        for (const auto& c : cases) {
+            OpenFor(c.page, c.row);
+            Fill(c.row, Sample, c.cells);
+            FillDefaults(c.defaultCells);
+            wxString out = "former";
+            encode(CurrentGrid(), c.row, out);
+            EXPECT_EQ(out.utf8_string(), c.line.Text()) << c.name;
+            EXPECT_EQ(out.length(), 136u) << c.name;
+        }
+        std::cout << "[   lines  ] " << count << " whole lines to the radio\n";
+    }
+
+    /// @param usual cells of the row of the first case
+    template <class Line, size_t count>
+    void CheckLinesFromRadio(const DecodeCase<Line> (&cases)[count], const Cells& usual, Decoder decode) {
+        for (const auto& c : cases) {
+            OpenFor(c.page, c.row);
+            if (c.row != 0)
+                Blank(c.row);
+            Unlock(c.row);
+            EXPECT_EQ(c.line.Text().length(), 136u) << c.name;
+            EXPECT_EQ(decode(CurrentGrid(), c.line.Text()), 1) << c.name;
+            EXPECT_EQ(RowText(c.row), ExpectedText(usual, c.cells, c.painted, c.kind)) << c.name;
+        }
+        std::cout << "[   lines  ] " << count << " whole lines from the radio\n";
+    }
+
+    TRecordContext m_context;
+
+private:
+    int m_page = -1;
+    bool m_defaultsTouched = false;
+};
+
+} // namespace trecordtest

@@ -9,11 +9,11 @@
 #include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
+#include "transfer/TransferSession.h"
 #include "transfer/TransferStatus.h"
 #include "transfer/TransferWaits.h"
 
 #include <algorithm>
-#include <wx/gauge.h>
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
 
@@ -81,18 +81,6 @@ void TakeChannel(TransferContext& context, wxGrid* grid, const wxString& line) {
 }
 
 } // namespace
-
-void SetMainGauge(TransferContext& context, int value) {
-    wxGauge* const gauge = context.Progress->MainGauge();
-    if (value >= 0 && value <= gauge->GetRange())
-        gauge->SetValue(value);
-}
-
-void TakeReceivedLine(TransferContext& context) {
-    const std::size_t end = static_cast<std::size_t>(context.FoundAt);
-    context.RxLine = context.RxBuffer.Left(end).Trim(false);
-    context.RxBuffer = context.RxBuffer.Mid(end + 1).Trim(false);
-}
 
 int WriteChannels(TransferContext& context, wxGrid* grid) {
     // Some radios confirm the opening command, others don't: only Cancel counts here.

@@ -6,6 +6,7 @@
 #include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
+#include "transfer/TransferSession.h"
 #include "transfer/TransferStatus.h"
 #include "transfer/TransferWaits.h"
 

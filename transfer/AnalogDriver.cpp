@@ -9,13 +9,11 @@
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
 #include "transfer/TransferMode.h"
+#include "transfer/TransferSession.h"
 #include "transfer/TransferStatus.h"
 #include "transfer/TransferWaits.h"
 #include "transfer/wxAsyncSerial.h"
 
-#include <wx/gauge.h>
-#include <wx/grid.h>
-#include <wx/msgdlg.h>
 #include <wx/stdpaths.h>
 
 namespace {
@@ -25,29 +23,6 @@ constexpr int SlowPause = 350;       // ms
 constexpr int FastPause = 2;         // ms
 /// Above this count the opening command names the count.
 constexpr std::uint32_t ShortCommandRows = 202;
-
-void MakeProgressFrame(TransferContext& context, wxGrid* grid, const wxString& title) {
-    context.Progress = new ProgressFrame(grid->GetGridWindow(), -1, title, wxDefaultPosition,
-                                         wxSize(200, 150), wxCAPTION | wxRESIZE_BORDER);
-    context.Progress->MainGauge()->SetRange(grid->GetNumberRows());
-    context.Progress->MainGauge()->SetValue(0);
-    context.Progress->Show();
-}
-
-void TakeDown(TransferContext& context) {
-    CloseTransferLog(context.LogFile);
-    context.Port->close();
-    delete context.Port;
-    context.Port = nullptr;
-    context.Progress->Hide();
-    // At once, not when the program is next idle: the other windows are disabled as long as it lives.
-    delete context.Progress;
-    context.Progress = nullptr;
-}
-
-void ShowError(TransferContext& context, const wxString& text) {
-    wxMessageBox(text, "Error", wxOK | wxICON_ERROR, context.Progress);
-}
 
 /// Tells the user and the log how the transfer ended.
 void Report(TransferContext& context, int mode) {
@@ -76,11 +51,6 @@ void Report(TransferContext& context, int mode) {
     default:
         return ShowError(context, wxString::Format("Download Failure %d %d", context.Status, context.Index));
     }
-}
-
-void ShowStatus(TransferContext& context) {
-    context.Progress->SetStatus(context.StatusText);
-    WriteTransferLog(context.LogFile, context.StatusText);
 }
 
 /// Asks the radio for its information block. TransferOk also when it doesn't answer: it is unknown then.

@@ -26,10 +26,3 @@ int WriteConfig(TransferContext& context);
 
 /// An opening command that names a count, in three characters at least, with its carriage return.
 wxString CountedCommand(const wxString& word, std::uint32_t count);
-
-/// Moves the main gauge if the value is in its range.
-void SetMainGauge(TransferContext& context, int value);
-
-/// Takes what stands before the terminator that WaitForLine found out of the buffer, and the terminator.
-/// What follows stays, without the blanks and line feeds that it begins with.
-void TakeReceivedLine(TransferContext& context);

@@ -1,7 +1,127 @@
 #include "transfer/TRecordDriver.h"
 
+#include "catalogue/PageModel.h"
+#include "frame/ZelkMain.h"
+#include "transfer/ProgressFrame.h"
+#include "transfer/TRecord.h"
+#include "transfer/TRecordDialogue.h"
+#include "transfer/TRecordExchange.h"
+#include "transfer/TRecordMessages.h"
+#include "transfer/TRecordReport.h"
+#include "transfer/TRecordRows.h"
+#include "transfer/TRecordStates.h"
+#include "transfer/TransferLog.h"
+#include "transfer/TransferMode.h"
+#include "transfer/TransferSession.h"
 #include "transfer/TransferStatus.h"
+#include "transfer/TransferWaits.h"
+#include "transfer/wxAsyncSerial.h"
 
-int TransferData(TRecordContext&, wxGrid*, int, const wxString&, const wxString&) {
-    return TransferUnsupported;
+#include <wx/gauge.h>
+#include <wx/grid.h>
+
+namespace {
+
+constexpr unsigned LineSpeed = 9600; // baud
+constexpr int ShadowPause = 500;     // ms
+
+void SetUp(TRecordContext& context) {
+    context.RadioSerial = "UNKNOWN";
+    context.Status = TransferOk;
+    context.XferFlags = PrimaryPass | FitsV1;
+    context.RadioModes = OpModes[static_cast<std::size_t>(CurrentPage)];
+    context.InvalidModes = 0;
+    context.RecordVersion = 1;
+    context.Protocol = 0;
+    context.Work2 = 0; // no message of a debug log is in progress
+}
+
+void BeginExchange(TRecordContext& context) {
+    context.StatusText = "Initializing...";
+    ShowStatus(context);
+    context.RxBuffer.clear();
+    context.TxLine.clear();
+    context.RxLine.clear();
+    context.Index = HelloState;
+    context.Status = TransferOk;
+}
+
+void BeginShadowPass(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    context.Index = 0;
+    context.XferFlags &= ~NeedsShadowPass;
+    context.StatusText = "Sending Shadow Memory Data....";
+    SetMainGauge(context, 0);
+    // Meant: the log has one point less than the window.
+    WriteTransferLog(context.LogFile, "Sending Shadow Memory Data...");
+    Delay(context, ShadowPause, true);
+}
+
+/// In a write: shows how far it is and goes from the primaries to the shadows, or to the end.
+void FinishRow(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    SetMainGauge(context, dialogue.rowsSent);
+    if (context.Index != dialogue.rowCount)
+        return;
+    context.XferFlags &= ~PrimaryPass;
+    if (dialogue.Needs(NeedsShadowPass))
+        BeginShadowPass(dialogue);
+    else
+        context.Status = TransferComplete;
+}
+
+/// Goes through the states, and the rows or lines, until the transfer is over.
+int RunStates(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    do {
+        if (const int status = ChooseLine(dialogue))
+            return status;
+        if (!context.TxLine.empty()) {
+            context.Progress->SetStatus(context.StatusText);
+            ExchangeLine(dialogue);
+            if (context.Status == TransferTimeout || context.Status == TransferCancelled)
+                return context.Status;
+        }
+        ++context.Index;
+        // A refused last row is a failure like any other, not the end of the pass.
+        if (dialogue.mode == WriteChannelsMode && context.Status == TransferOk)
+            FinishRow(dialogue);
+    } while (context.Status == TransferOk);
+    return context.Status;
+}
+
+} // namespace
+
+int TransferData(TRecordContext& context, wxGrid* grid, int mode, const wxString& portName,
+                 const wxString& title) {
+    MakeProgressFrame(context, grid, title);
+    OpenTransferLog(context.LogFile, wxString());
+    context.RxBuffer.clear();
+    context.RxLine.clear();
+    context.Port = new wxAsyncSerial(MainFrame, portName, LineSpeed);
+    context.Status = context.Port->isOpen() ? DoTransferData(context, grid, mode) : TransferPortError;
+    ReportResult(context, mode);
+    CloseTransferLog(context.DebugLogFile);
+    CloseTransferLog(context.HardwareFile); // still open if the radio didn't end its records
+    TakeDown(context);
+    return context.Status;
+}
+
+int DoTransferData(TRecordContext& context, wxGrid* grid, int mode) {
+    SetUp(context);
+    TRecordDialogue dialogue{context, grid, mode, grid->GetNumberRows()};
+    if (mode == WriteChannelsMode) {
+        EvaluateRows(dialogue);
+        context.Progress->MainGauge()->SetRange(dialogue.rowsToSend);
+        if (dialogue.rowsToSend == 0)
+            return TransferNoDataSelected;
+    }
+    if (mode == ReadConfigMode || mode == WriteConfigMode)
+        context.XferFlags &= ~FitsV1;
+    BeginExchange(context);
+    return RunStates(dialogue);
+}
+
+void SendEndRecord(TRecordContext& context) {
+    SendLine(context, WithChecksum(EndRecord));
 }

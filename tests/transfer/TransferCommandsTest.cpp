@@ -93,7 +93,8 @@ TEST_F(ReadCommand, NamesTheRadioTypeInItsTitle) {
     } const cases[] = {
         {Krv47, 0, "Read ANFM Memory Data Progress"},    {Orv12, 0, "Read O12 Memory Data Progress"},
         {Kdar2000, 0, "Read KDAR Memory Data Progress"}, {Kdrv8400, 1, "Read ANAM Memory Data Progress"},
-        {Kdrv4xxx, 5, "Read MDLX Memory Data Progress"},
+        {Kdrv4xxx, 5, "Read MDLX Memory Data Progress"}, {Kdrv716, 0, "Read RP25 Memory Data Progress"},
+        {Kdrv716B, 0, "Read NP25 Memory Data Progress"},
     };
     PortName = NoSuchPort;
     for (const auto& c : cases) {
@@ -140,7 +141,8 @@ TEST_F(ReadCommand, ThatFailsOnADigitalPageLeavesItEmptyAndGivesItsZoneSlotsBack
     ASSERT_EQ(FilledRows(), 3);
     DialogScript script;
     ExpectQuestion(script);
-    ExpectBox(script, "Read from Radio Status", "Protocol is Unsupported");
+    ExpectDriverBox(script, PortBox);
+    ExpectBox(script, "Read from Radio Status", "Port Error");
     Download();
     EXPECT_EQ(FilledRows(), 0);
     for (int zone = 0; zone < ZonesPerPage; ++zone)
@@ -226,10 +228,9 @@ TEST_F(SendCommand, NamesTheKindOfRadioInItsTitle) {
         int radio, band;
         const char* title;
     } const cases[] = {
-        {Krv650, 1, "Send to ANFM Radio Progress"},
-        {Kdrv8400, 1, "Send to ANFM Radio Progress"},
-        {Kdrv4xxx, 0, "Send to ANFM Radio Progress"},
-        {Kdrv4xxx, 5, "Send to MDLX K6 Module Progress"},
+        {Krv650, 1, "Send to ANFM Radio Progress"},   {Kdrv8400, 1, "Send to ANFM Radio Progress"},
+        {Kdrv4xxx, 0, "Send to ANFM Radio Progress"}, {Kdrv4xxx, 5, "Send to MDLX K6 Module Progress"},
+        {Kdrv716, 0, "Send to RP25 Radio Progress"},  {Kdrv716B, 0, "Send to RP25 Radio Progress"},
     };
     for (const auto& c : cases) {
         Retarget(c.radio, c.band);

@@ -26,6 +26,7 @@ enum Radio : int {
     Krv214B = 4,
     Krv305 = 5,
     Kdrv716 = 6,
+    Kdrv716B = 7,
     Kdar2000 = 8,
     Krv610 = 9,
     Krv650 = 13,

@@ -1,0 +1,164 @@
+// The digital driver against radios that the test plays.
+#pragma once
+
+#include "tests/support/robot/TempFolder.h"
+#include "tests/transfer/Transcript.h"
+#include "tests/transfer/TransferTest.h"
+#include "transfer/RadioIdentity.h"
+#include "transfer/TRecordDriver.h"
+#include "transfer/TransferContext.h"
+#include "transfer/TransferMode.h"
+#include "transfer/TransferStatus.h"
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <wx/gauge.h>
+#include <wx/stattext.h>
+
+namespace transfertest {
+
+constexpr const char* TimeoutText = "Timeout Error\nVerify Radio is in PC Download mode (3-8)\n"
+                                    "and correct COM port is selected";
+/// The stamp that radios of the transcripts have.
+constexpr const char* KnownStamp = "20240131235959";
+
+/// Gives a context its port and its progress window for the object's life.
+class Attachment {
+public:
+    Attachment(TRecordContext& context, const std::string& portName)
+        : m_context(context), m_progress(new ProgressFrame(nullptr)), m_port(nullptr, portName, 9600) {
+        m_progress->MainGauge()->SetRange(CurrentGrid()->GetNumberRows());
+        m_progress->MainGauge()->SetValue(0);
+        context.Progress = m_progress.get();
+        context.Port = &m_port;
+    }
+    ~Attachment() {
+        m_context.Progress = nullptr;
+        m_context.Port = nullptr;
+    }
+    Attachment(const Attachment&) = delete;
+    Attachment& operator=(const Attachment&) = delete;
+
+    /// The text above the gauges.
+    std::string Label() const {
+        for (wxWindow* child : m_progress->GetChildren())
+            if (auto* label = dynamic_cast<wxStaticText*>(child))
+                return Text(label->GetLabel());
+        return {};
+    }
+    wxGauge* Gauge() const { return m_progress->MainGauge(); }
+
+private:
+    TRecordContext& m_context;
+    std::unique_ptr<ProgressFrame> m_progress;
+    wxAsyncSerial m_port;
+};
+
+/// A page of a digital radio without memories, in a working directory of its own.
+class TRecordDriverTest : public TransferTest {
+protected:
+    void SetUp() override {
+        TransferTest::SetUp();
+        m_formerDirectory = std::filesystem::current_path();
+        std::filesystem::current_path(m_folder.Path());
+        UsePage(Kdrv716B);
+        m_context.ReplyTimeout = 3000;
+        RadioStamp = KnownStamp;
+        RadioVersion = "";
+        RadioSerial = "";
+    }
+
+    void TearDown() override {
+        std::filesystem::current_path(m_formerDirectory);
+        TransferTest::TearDown();
+    }
+
+    static void UsePage(int radio) {
+        Retarget(radio, 0);
+        for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
+            for (int column = 0; column < ColumnTotal; ++column)
+                if (!Cell(row, column).empty())
+                    SetCell(row, column, "");
+        OpModes[0] = 0x30;
+    }
+
+    /// A memory as the records of the transcripts have it.
+    static void FillP25Row(int row, const wxString& transferFlags = "A0", const wxString& flags = "00",
+                           const wxString& primary = "000") {
+        const bool shadow = (flags[1].GetValue() & 7) != 0;
+        const std::pair<int, wxString> cells[] = {
+            {MFLG, flags},         {MNUM, wxString::Format("%03d", row)},
+            {PRIM, primary},       {SHAD, "N"},
+            {SCAN, "N"},           {ZONE, shadow ? "" : "3"},
+            {DESC, "HILL"},        {MODE, "n"},
+            {RFRQ, "154.1250"},    {RSQL, "t"},
+            {RNSV, "5"},           {RTON, "67.0"},
+            {RCOD, "023"},         {RTGP, "0001"},
+            {RNAC, "293"},         {TFRQ, "154.1250"},
+            {TSQL, "t"},           {TTON, "250.3"},
+            {TCOD, "754"},         {TTGP, "00FF"},
+            {TNAC, "F7E"},         {TIDC, "1234567"},
+            {TFLG, transferFlags},
+        };
+        for (const auto& [column, text] : cells)
+            SetCell(row, column, text);
+        for (int column = SHD0; column <= SHD6; ++column)
+            SetCell(row, column, "0");
+    }
+
+    static void AskForWorkingLog() { std::ofstream("Zelk.log") << "former text\n"; }
+
+    static std::string FileText(const std::string& name) {
+        std::ostringstream text;
+        text << std::ifstream(name).rdbuf();
+        return text.str();
+    }
+
+    /// One transfer by the file of a transcript, with a log that is held against it too.
+    int TransferBy(const std::string& name, int mode) {
+        SCOPED_TRACE(name);
+        AskForWorkingLog();
+        const int status = Transfer(Transcript::FromFile(name), mode);
+        EXPECT_EQ(LogWithoutStamps(FileText("Zelk.log")), Transcript::FromFile(name).Log());
+        return status;
+    }
+
+    /// One transfer by a transcript; also sees to what every transfer must leave.
+    int Transfer(const Transcript& transcript, int mode) {
+        TranscriptPeer peer(transcript, [this] { Cancel(); });
+        const int status = TransferData(m_context, CurrentGrid(), mode, peer.PortName(), "Test");
+        EXPECT_EQ(peer.Finish(), "");
+        EXPECT_EQ(m_context.Port, nullptr);
+        EXPECT_EQ(m_context.Progress, nullptr);
+        EXPECT_FALSE(m_context.LogFile.IsOpened());
+        EXPECT_FALSE(m_context.DebugLogFile.IsOpened());
+        EXPECT_FALSE(m_context.HardwareFile.IsOpened());
+        EXPECT_TRUE(PortIsFree(peer.PortName())) << "the port was not given back";
+        ExpectOver();
+        return status;
+    }
+
+    /// The dialogue alone, without boxes, log and end record.
+    int Converse(const Transcript& transcript, int mode) {
+        TranscriptPeer peer(transcript, [this] { Cancel(); });
+        const int status = ConverseOn(peer.PortName(), mode);
+        EXPECT_EQ(peer.Finish(), "");
+        return status;
+    }
+    int ConverseOn(const std::string& portName, int mode) {
+        const Attachment attachment(m_context, portName);
+        return DoTransferData(m_context, CurrentGrid(), mode);
+    }
+
+    /// Does what the Cancel button does, from the peer's thread.
+    void Cancel() { m_context.Progress->Cancelled = true; }
+
+    TRecordContext m_context;
+
+private:
+    testbench::TempFolder m_folder{"zelk-transfer"};
+    std::filesystem::path m_formerDirectory;
+};
+
+} // namespace transfertest

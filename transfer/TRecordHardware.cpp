@@ -1,0 +1,68 @@
+#include "transfer/TRecordHardware.h"
+
+#include "transfer/DebugLog.h"
+#include "transfer/RadioIdentity.h"
+#include "transfer/TRecord.h"
+#include "transfer/TRecordDialogue.h"
+#include "transfer/TransferLog.h"
+#include "transfer/TransferMode.h"
+
+#include <algorithm>
+#include <wx/filefn.h>
+#include <wx/log.h>
+
+namespace {
+
+wxString Now() {
+    return wxDateTime::Now().FormatISOCombined(' ');
+}
+
+/// A radio may say anything; what it says must not lead out of the folder.
+bool CanBePartOfFileName(const wxString& serial) {
+    return std::all_of(serial.begin(), serial.end(),
+                       [](wxUniChar c) { return c >= ' ' && c != '/' && c != '\\'; });
+}
+
+void OpenHardwareFile(TRecordContext& context, const wxString& now) {
+    const wxLogNull silence;
+    CloseTransferLog(context.HardwareFile);
+    context.Scratch = "Logs/" + context.RadioSerial + ".txt";
+    if (wxFileExists(context.Scratch))
+        wxRemoveFile(context.Scratch);
+    if (context.HardwareFile.Open(context.Scratch, "w"))
+        WriteTransferLog(context.HardwareFile, "Date: " + now);
+}
+
+} // namespace
+
+void BeginHardware(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    const wxString now = Now();
+    context.InfoLines.clear();
+    context.InfoLines.Add("Date: " + now);
+    if (!context.LogFile.IsOpened())
+        return;
+    context.RadioSerial = HexToText(context.RxLine);
+    RadioSerial = context.RadioSerial;
+    if (!CanBePartOfFileName(context.RadioSerial))
+        return;
+    OpenHardwareFile(context, now);
+    if (dialogue.mode == ReadDebugLogMode)
+        OpenDebugLog(context, context.RadioSerial, now);
+}
+
+void TakeHardwareText(TRecordDialogue& dialogue) {
+    const wxString text = HexToText(dialogue.context.RxLine);
+    WriteTransferLog(dialogue.context.HardwareFile, text);
+    dialogue.context.InfoLines.Add(text);
+}
+
+void EndHardware(TRecordDialogue& dialogue) {
+    CloseTransferLog(dialogue.context.HardwareFile);
+}
+
+void BeginDebugLogWithoutHardware(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    if (context.LogFile.IsOpened() && !context.DebugLogFile.IsOpened())
+        OpenDebugLog(context, "UNKNOWN", Now());
+}

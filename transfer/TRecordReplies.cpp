@@ -1,0 +1,196 @@
+#include "transfer/TRecordReplies.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "transfer/DebugLog.h"
+#include "transfer/HexText.h"
+#include "transfer/ProgressFrame.h"
+#include "transfer/RadioIdentity.h"
+#include "transfer/TRecord.h"
+#include "transfer/TRecordCodec.h"
+#include "transfer/TRecordDialogue.h"
+#include "transfer/TRecordHardware.h"
+#include "transfer/TRecordMessages.h"
+#include "transfer/TRecordStates.h"
+#include "transfer/TransferMode.h"
+#include "transfer/TransferSession.h"
+#include "transfer/TransferStatus.h"
+#include "transfer/TransferWaits.h"
+#include "transfer/wxAsyncSerial.h"
+
+#include <wx/gauge.h>
+
+namespace {
+
+constexpr unsigned FastSpeed = 115200; // baud
+constexpr int SpeedPause = 50;         // ms
+constexpr int RefusalPause = 500;      // ms
+constexpr std::uint32_t RefusalLimit = 2;
+constexpr std::size_t MessageTextAt = 10;
+
+void SetRadioModes(TRecordContext& context, std::uint32_t modes) {
+    context.RadioModes = modes;
+    OpModes[static_cast<std::size_t>(CurrentPage)] = modes;
+}
+
+/// The radio has agreed to the protocol that was offered.
+void KeepProtocol(TRecordContext& context) {
+    if (context.Protocol == 0)
+        context.Index = HardwareTextState; // VersionState is next: this protocol has no queries before
+    else if (context.Protocol == 1)
+        context.Index = SpeedState; // OpModeState is next: the speed stays
+    SetRadioModes(context, context.Protocol <= 1 ? AllModes : context.RadioModes);
+}
+
+void TakeAck(TRecordContext& context) {
+    if (context.Index == HelloState) {
+        KeepProtocol(context);
+    } else if (context.Index == SpeedState) {
+        Delay(context, SpeedPause, false);
+        context.Port->setBaudRate(FastSpeed);
+    }
+    context.Phase = LineDone;
+    context.RetryCount = 0;
+}
+
+void TakeNak(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    if (context.Index == HelloState) {
+        // Meant: nothing limits how many protocols are offered.
+        ++context.Protocol;
+        OfferHello(dialogue);
+        context.Phase = SendNew;
+        return;
+    }
+    context.Phase = SendAgain;
+    if (++context.RetryCount < RefusalLimit)
+        Delay(context, RefusalPause, true);
+    else
+        context.Status = TransferCommunicationError;
+}
+
+void TakeVersion(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    RadioVersion = context.RxLine.Mid(MessageTextAt, 6);
+    context.RecordVersion = context.Protocol == 2 && RadioVersion.StartsWith("02") ? 2 : 1;
+    // Meant: a version that begins in another way passes, with records of version 1.
+    if (!dialogue.Needs(FitsV1) && (context.Protocol < 2 || RadioVersion.StartsWith("01")))
+        context.Status = TransferInvalidTransmitData;
+    context.Phase = LineDone;
+}
+
+void TakeOpModes(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    SetRadioModes(context, HexNumberAt(context.RxLine, MessageTextAt, 2));
+    const bool writesOrConfig = dialogue.mode == WriteChannelsMode || dialogue.mode == ReadConfigMode ||
+                                dialogue.mode == WriteConfigMode;
+    if (context.Protocol == 1 || writesOrConfig)
+        context.Index = HardwareTextState; // VersionState is next
+    context.Phase = LineDone;
+}
+
+void TakeConfigCount(TRecordContext& context) {
+    context.ConfigCount = HexNumberAt(context.RxLine, MessageTextAt, 2);
+    context.Progress->MainGauge()->SetRange(static_cast<int>(context.ConfigCount));
+    context.ConfigLines.clear();
+    context.Phase = LineDone;
+}
+
+void TakeLineInWrite(TRecordContext& context) {
+    if (context.RxLine.StartsWith(MSG_SID)) {
+        if (context.RxLine.Mid(MessageTextAt, 14) != RadioStamp)
+            context.XferFlags |= OtherRadio;
+        context.Phase = LineDone;
+    } else if (context.RxLine == EndRecord) {
+        context.Phase = LineFailed;
+        context.Status = TransferCommunicationError;
+    }
+}
+
+void TakeEnd(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    if (context.Index == HardwareState || context.Index == HardwareTextState) {
+        EndHardware(dialogue);
+        context.Index = HardwareTextState; // VersionState is next
+        context.Phase = LineDone;
+        return;
+    }
+    context.Status = TransferComplete;
+    if (dialogue.mode == ReadDebugLogMode && context.DebugLogFile.IsOpened())
+        EndDebugLog(context);
+}
+
+void TakeConfigRecord(TRecordContext& context) {
+    context.Scratch = HexToText(context.RxLine);
+    if (IsGoodConfigText(context.Scratch))
+        context.ConfigLines.Add(context.Scratch);
+    context.Phase = LineDone;
+    const int number = ReadHex(context.Scratch.Mid(2, 2));
+    if (number >= 0 && number < context.Progress->MainGauge()->GetRange())
+        SetMainGauge(context, number + 1);
+}
+
+void TakeMemoryRecord(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    if (decodeTrecord(context, dialogue.grid, context.RxLine) == 0) {
+        dialogue.Offer(NakRecord);
+        context.Phase = SendNew;
+        return;
+    }
+    SetMainGauge(context, ReadHex(context.RxLine.Mid(4, 4)));
+    context.Phase = LineDone;
+}
+
+void TakeData(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    if (context.Index == HardwareState) {
+        BeginHardware(dialogue);
+        context.Phase = LineDone;
+    } else if (context.Index == HardwareTextState) {
+        TakeHardwareText(dialogue);
+        context.Phase = LineDone;
+        context.Index = HardwareState; // HardwareTextState is next, again
+    } else if (dialogue.mode == ReadConfigMode) {
+        TakeConfigRecord(context);
+    } else if (dialogue.mode == ReadChannelsMode) {
+        TakeMemoryRecord(dialogue);
+    } else if (context.DebugLogFile.IsOpened()) {
+        decodeDebugLog(context);
+    } else {
+        context.Phase = LineDone;
+    }
+}
+
+/// Lines that mean something only to some modes.
+void TakeLineOfMode(TRecordDialogue& dialogue) {
+    const wxString& line = dialogue.context.RxLine;
+    if (dialogue.mode == WriteChannelsMode)
+        TakeLineInWrite(dialogue.context);
+    else if (line == EndRecord)
+        TakeEnd(dialogue);
+    else if (line.StartsWith("T1"))
+        TakeData(dialogue);
+}
+
+} // namespace
+
+void TakeReply(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    const wxString& line = context.RxLine;
+    if (line == AckRecord) {
+        TakeAck(context);
+    } else if (line == NakRecord) {
+        TakeNak(dialogue);
+    } else if (line == WaitRecord) {
+        context.Progress->AppendStatus(".");
+        context.Phase = WaitOn;
+    } else if (line.StartsWith(VersionReply)) {
+        TakeVersion(dialogue);
+    } else if (line.StartsWith(OpModeReply)) {
+        TakeOpModes(dialogue);
+    } else if (line.StartsWith(ConfigReply)) {
+        TakeConfigCount(context);
+    } else {
+        TakeLineOfMode(dialogue);
+    }
+}

@@ -1,0 +1,148 @@
+#include "transfer/TRecordRows.h"
+
+#include "catalogue/MemoryRow.h"
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "transfer/TRecordCodec.h"
+#include "transfer/TRecordDialogue.h"
+#include "transfer/TRecordDriver.h"
+
+#include <wx/grid.h>
+
+namespace {
+
+/// The highest memory and the highest numbered zone that the old layout can name.
+constexpr int OldRows = 230;
+constexpr int OldZones = 15;
+/// The radio with a second bank of memories, the first of the rows that its old layout lacks, and the guard
+/// row behind them.
+constexpr int BankedRadio = 7, FirstMissingRow = 231, FirstGuardRow = 501;
+
+/// Columns whose selection counts: any will do for a selection of whole rows.
+constexpr int MemorySelectionColumn = 10, GuardSelectionColumn = 0;
+
+int Decimal(const TRecordDialogue& dialogue, int row, int column) {
+    return ReadDecimal(dialogue.grid->GetCellValue(row, column));
+}
+
+int Flags(const TRecordDialogue& dialogue, int row, int column) {
+    return ReadHex(dialogue.grid->GetCellValue(row, column));
+}
+
+bool IsShadow(const TRecordDialogue& dialogue, int row) {
+    return (Flags(dialogue, row, MFLG) & ShadowBits) != 0;
+}
+
+bool IsMemory(const TRecordDialogue& dialogue, int row) {
+    return row >= 1 && row < dialogue.rowCount;
+}
+
+/// Makes a row go along with a selected one.
+void Mark(TRecordDialogue& dialogue, int row) {
+    SetTFlag(dialogue.grid, row, SEL);
+    dialogue.markedRows.insert(row);
+}
+
+/// Marks the primary of a shadow and all shadows of that primary.
+void MarkFamily(TRecordDialogue& dialogue, int shadow) {
+    const int primary = Decimal(dialogue, shadow, PRIM);
+    if (!IsMemory(dialogue, primary))
+        return;
+    Mark(dialogue, primary);
+    for (int column = SHD0; column <= SHD6; ++column)
+        if (const int row = Decimal(dialogue, primary, column); IsMemory(dialogue, row))
+            Mark(dialogue, row);
+}
+
+bool FitsOldLayout(const TRecordDialogue& dialogue, int row) {
+    if (Decimal(dialogue, row, PRIM) > OldRows || Decimal(dialogue, row, ZONE) > OldZones)
+        return false;
+    for (int column = SHD0; column <= SHD6; ++column)
+        if (Decimal(dialogue, row, column) > OldRows)
+            return false;
+    return true;
+}
+
+void EvaluateRow(TRecordDialogue& dialogue, int row, bool guard) {
+    TRecordContext& context = dialogue.context;
+    // Meant: a selected row without data is marked too.
+    if (dialogue.grid->IsInSelection(row, guard ? GuardSelectionColumn : MemorySelectionColumn))
+        SetTFlag(dialogue.grid, row, SEL);
+    const int flags = Flags(dialogue, row, TFLG);
+    if (!(flags & DEF) || !(flags & (SEL | EraseFlag)))
+        return;
+    ++dialogue.rowsToSend;
+    // Meant: of the rows that the old layout doesn't know nothing is asked.
+    if (!guard && row < OldRows && !FitsOldLayout(dialogue, row))
+        context.XferFlags &= ~FitsV1;
+    context.InvalidModes |= CheckForInvalidOpModes(context, row, context.RadioModes);
+    if (!guard && (flags & MarkedFlag))
+        context.XferFlags |= HasMarkedRow;
+    if (IsShadow(dialogue, row)) {
+        context.XferFlags |= NeedsShadowPass;
+        MarkFamily(dialogue, row);
+    }
+}
+
+/// True when a row takes part in the write at all: by its selection or, since the radio has forgotten
+/// all, because the radio held it or a selected row needs it.
+bool TakesPart(const TRecordDialogue& dialogue, int row, int flags) {
+    if (dialogue.grid->IsInSelection(row, GuardSelectionColumn))
+        return true;
+    return dialogue.Needs(RadioPurged) && ((flags & InRadioFlag) || dialogue.markedRows.count(row) != 0);
+}
+
+void ChooseRecord(TRecordDialogue& dialogue, int row) {
+    if (dialogue.Needs(PrimaryPass) == IsShadow(dialogue, row))
+        return;
+    wxString line;
+    encodeTrecord(dialogue.context, dialogue.grid, row, line);
+    if (line.empty())
+        return;
+    dialogue.Offer(line);
+    ++dialogue.rowsSent;
+}
+
+void ChooseErasure(TRecordDialogue& dialogue, int row, int flags) {
+    if (!dialogue.Needs(PrimaryPass) || dialogue.Needs(OtherRadio) || !(flags & InRadioFlag) ||
+        IsShadow(dialogue, row))
+        return;
+    wxString line;
+    encodeEraseRecord(dialogue.context, row, line);
+    dialogue.Offer(line);
+}
+
+} // namespace
+
+std::uint32_t CheckForInvalidOpModes(TRecordContext&, int row, std::uint32_t radioModes) {
+    const wxString mode = CurrentGrid()->GetCellValue(row, MODE);
+    std::uint32_t needed = 0;
+    if (mode == "w")
+        needed = 0x40;
+    else if (mode == "n")
+        needed = 0x20;
+    else if (mode == "D")
+        needed = 0x10;
+    return needed & ~radioModes;
+}
+
+void EvaluateRows(TRecordDialogue& dialogue) {
+    for (int row = 0; row < dialogue.rowCount; ++row)
+        EvaluateRow(dialogue, row, row >= dialogue.rowCount - 2);
+}
+
+void ChooseRowLine(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    if (CurrentParameters().Radio == BankedRadio && context.RecordVersion == 1 &&
+        context.Index == FirstMissingRow)
+        context.Index = FirstGuardRow;
+    const int row = context.Index;
+    const int flags = Flags(dialogue, row, TFLG);
+    if (!TakesPart(dialogue, row, flags) || !(flags & DEF))
+        return;
+    if (flags & EraseFlag)
+        return ChooseErasure(dialogue, row, flags);
+    const bool restore = dialogue.Needs(RadioPurged) && (flags & InRadioFlag) && IsMemory(dialogue, row);
+    if ((flags & SEL) || restore)
+        ChooseRecord(dialogue, row);
+}

@@ -1,0 +1,176 @@
+#include "transfer/TRecordStates.h"
+
+#include "transfer/ProgressFrame.h"
+#include "transfer/RadioIdentity.h"
+#include "transfer/TRecord.h"
+#include "transfer/TRecordCodec.h"
+#include "transfer/TRecordDialogue.h"
+#include "transfer/TRecordHardware.h"
+#include "transfer/TRecordMessages.h"
+#include "transfer/TRecordRows.h"
+#include "transfer/TransferLog.h"
+#include "transfer/TransferMode.h"
+#include "transfer/TransferSession.h"
+#include "transfer/TransferStatus.h"
+
+#include <wx/gauge.h>
+#include <wx/msgdlg.h>
+
+namespace {
+
+constexpr int DebugLogBlocks = 255;
+/// The radios of this protocol tell their hardware before their debug log.
+constexpr std::uint32_t HardwareProtocol = 2;
+
+bool UserAcceptsModes(const TRecordContext& context) {
+    wxString text =
+        "The following operating modes are used in the memory data but not enabled in the radio:\n";
+    if (context.InvalidModes & 0x40)
+        text += "    Analog Wideband\n";
+    if (context.InvalidModes & 0x20)
+        text += "    Analog Narrowband\n";
+    if (context.InvalidModes & 0x10)
+        text += "    P25 Conventional\n";
+    text += "\nThe radio will not transmit in disabled modes (affected memories become receive only).\n"
+            "\nDo you wish to continue the transfer?";
+    return wxMessageBox(text, "Radio Operating Modes", wxYES_NO | wxICON_WARNING | wxCENTRE,
+                        context.Progress) == wxYES;
+}
+
+int ChooseVersionQuery(TRecordDialogue& dialogue) {
+    if (dialogue.mode == ReadInformationMode)
+        return TransferComplete;
+    // Meant: InvalidModes was found out before this radio told its modes, by those of the radio before.
+    // Meant: to say No counts as a complete transfer.
+    if (dialogue.mode == WriteChannelsMode && dialogue.context.InvalidModes != 0 &&
+        !UserAcceptsModes(dialogue.context))
+        return TransferComplete;
+    dialogue.Offer(MSG_RVER);
+    return TransferOk;
+}
+
+void OfferStamp(TRecordDialogue& dialogue) {
+    if (dialogue.mode == WriteChannelsMode)
+        return dialogue.Offer(MSG_RID);
+    RadioStamp = MakeRadioStamp();
+    dialogue.Offer(MSG_SID + RadioStamp);
+}
+
+void OfferOpening(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    wxGauge* const gauge = context.Progress->MainGauge();
+    switch (dialogue.mode) {
+    case WriteChannelsMode:
+        return dialogue.Offer(MSG_DNLD);
+    case ReadChannelsMode:
+        return dialogue.Offer(MSG_UPLD);
+    case ReadConfigMode:
+        return dialogue.Offer(MSG_UPLDSWCFG);
+    case WriteConfigMode:
+        gauge->SetRange(static_cast<int>(context.ConfigLines.size()));
+        return dialogue.Offer(ConfigWrite);
+    default:
+        gauge->SetRange(DebugLogBlocks);
+        if (context.Protocol != HardwareProtocol)
+            BeginDebugLogWithoutHardware(dialogue);
+        return dialogue.Offer(MSG_DBLOG);
+    }
+}
+
+void OfferPurge(TRecordDialogue& dialogue) {
+    if (dialogue.mode != WriteChannelsMode ||
+        !dialogue.Needs(RadioPurged | NeedsShadowPass | HasMarkedRow | OtherRadio))
+        return;
+    dialogue.context.StatusText = "Purging Radio....";
+    WriteTransferLog(dialogue.context.LogFile, dialogue.context.StatusText);
+    dialogue.Offer(MSG_PURGE);
+    // All that the radio held goes out again, and so do its shadows.
+    dialogue.context.XferFlags |= RadioPurged | NeedsShadowPass;
+}
+
+const char* DataStatus(int mode) {
+    switch (mode) {
+    case WriteChannelsMode:
+        return "Sending Primary Memory Data....";
+    case ReadChannelsMode:
+        return "Receiving Memory Data....";
+    case ReadConfigMode:
+        return "Receiving Config Data....";
+    case WriteConfigMode:
+        return "Sending Config Data....";
+    default:
+        return "Receiving Debug Log Data....";
+    }
+}
+
+void BeginData(TRecordDialogue& dialogue) {
+    dialogue.context.StatusText = DataStatus(dialogue.mode);
+    WriteTransferLog(dialogue.context.LogFile, dialogue.context.StatusText);
+}
+
+int OfferConfigLine(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    const std::size_t line = static_cast<std::size_t>(context.Index);
+    if (line >= context.ConfigLines.size())
+        return TransferComplete;
+    wxString record;
+    encodeConfigRecord(context, context.ConfigLines[line], record);
+    dialogue.Offer(record);
+    SetMainGauge(context, context.Index + 1);
+    return TransferOk;
+}
+
+int ChooseDataLine(TRecordDialogue& dialogue) {
+    if (dialogue.mode == WriteConfigMode)
+        return OfferConfigLine(dialogue);
+    if (dialogue.mode == WriteChannelsMode)
+        ChooseRowLine(dialogue);
+    else
+        dialogue.Offer(AckRecord);
+    return TransferOk;
+}
+
+} // namespace
+
+void OfferHello(TRecordDialogue& dialogue) {
+    dialogue.Offer("T0070000" + HexField(0x20 + static_cast<std::int64_t>(dialogue.context.Protocol), 2) +
+                   "030000");
+}
+
+int ChooseLine(TRecordDialogue& dialogue) {
+    dialogue.context.TxLine.clear();
+    switch (dialogue.context.Index) {
+    case HelloState:
+        OfferHello(dialogue);
+        break;
+    case SpeedState:
+        dialogue.Offer(SpeedChange);
+        break;
+    case OpModeState:
+        dialogue.Offer(OpModeQuery);
+        break;
+    case HardwareState:
+        dialogue.Offer(HardwareQuery);
+        break;
+    case HardwareTextState:
+        dialogue.Offer(AckRecord);
+        break;
+    case VersionState:
+        return ChooseVersionQuery(dialogue);
+    case StampState:
+        OfferStamp(dialogue);
+        break;
+    case OpeningState:
+        OfferOpening(dialogue);
+        break;
+    case PurgeState:
+        OfferPurge(dialogue);
+        break;
+    case DataState:
+        BeginData(dialogue);
+        break;
+    default:
+        return ChooseDataLine(dialogue);
+    }
+    return TransferOk;
+}

@@ -111,6 +111,7 @@ void Player::TakeInput() {
 }
 
 void Player::FeedRadio(std::size_t count) {
+    m_radio.LineSpeed(m_port.Speed());
     for (std::size_t k = 0; k < count && !m_link.IsDead(); ++k)
         m_radio.Hear(static_cast<std::uint8_t>(m_heard[k]));
     m_heard.erase(0, count);

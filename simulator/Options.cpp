@@ -41,7 +41,7 @@ bool TakeModel(Options& options, const std::string& value, std::string& trouble)
     if (!options.digitalModel)
         options.model = FindAnalogModel(name, band, trouble);
     for (const DigitalModel& model : DigitalModels())
-        if (model.name == name && model.bandNeeded)
+        if (!options.model && model.name == name && model.bandNeeded)
             trouble += ", or \"" + std::string(model.band) + "\"";
     return options.model || options.digitalModel;
 }

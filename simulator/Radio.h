@@ -59,7 +59,7 @@ class Radio {
 public:
     virtual ~Radio() = default;
 
-    /// The speed that the other side has set, in baud; told before each byte that is heard.
+    /// The speed that the other side has set, in baud; told before bytes are heard.
     virtual void LineSpeed(int) {}
     /// Takes one byte from the wire.
     virtual void Hear(std::uint8_t byte) = 0;

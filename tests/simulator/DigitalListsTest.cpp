@@ -116,6 +116,19 @@ TEST(DebugLog, OfTheSecondGenerationHasEightSamplesInEachRecord) {
                                     "191AFF1B");
 }
 
+TEST(DebugLog, OfTheFirstGenerationBeginsItsBlockWithErrorCodeAndInsertPointer) {
+    const auto log = DefaultLog(0);
+    ASSERT_EQ(log.size(), 2u);
+    EXPECT_EQ(DefaultLog(1), log);
+    EXPECT_EQ(log[0].substr(4, 19), "0"
+                                    "2000"
+                                    "0003"
+                                    "0123"
+                                    "415449")
+        << "then the trace";
+    EXPECT_EQ(log[1].substr(4, 5), "02020");
+}
+
 TEST(DebugLog, TravelsRecordByRecord) {
     const TempFolder folder;
     Bench bench({"KDRV-716B", "--debug-log", File(folder, "# log\n2000 0102\nT10400004A\n")});

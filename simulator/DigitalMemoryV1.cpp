@@ -3,6 +3,7 @@
 #include "simulator/HexRecord.h"
 #include "simulator/RecordFields.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace Simulator {

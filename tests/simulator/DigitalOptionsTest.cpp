@@ -67,6 +67,13 @@ TEST(DigitalCommandLine, SetsEveryOption) {
     EXPECT_EQ(options.digital.habits.memoryFile, "m");
 }
 
+TEST(DigitalCommandLine, PassesOverWhatConcernsTheOtherKindOfRadio) {
+    EXPECT_NE(Parsed({"KRV-214", "--protocol", "2", "--firmware", "020103"}).model, nullptr);
+    const Options options = Parsed({"KDRV-716", "--key-delay", "0", "--banner", "X", "--parity=all"});
+    ASSERT_NE(options.digitalModel, nullptr);
+    EXPECT_EQ(options.digital.habits.protocol, 0);
+}
+
 TEST(DigitalCommandLine, ThatCannotBeUnderstoodIsRefused) {
     const std::vector<std::vector<std::string>> bad = {
         {"KDRV-716", "--protocol", "3"},

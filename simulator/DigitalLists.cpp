@@ -52,8 +52,7 @@ bool IsRecordText(std::string_view text, std::string& trouble) {
 }
 
 std::vector<std::string> DefaultHardware() {
-    return {"Main board: KDRV-716 rev C", "RF main: 136-174 MHz", "RF guard: 136-174 MHz",
-            "Bootloader: 1.04"};
+    return {"Main board: rev C", "RF main: 136-174 MHz", "RF guard: 136-174 MHz", "Bootloader: 1.04"};
 }
 
 bool LoadHardware(const std::string& path, std::vector<std::string>& lines, std::string& trouble) {

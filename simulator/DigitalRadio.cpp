@@ -232,6 +232,10 @@ bool DigitalRadio::IsAtRest() const {
     return (m_state == State::Idle || m_state == State::Over) && !m_link.IsSending() && m_text.empty();
 }
 
+bool DigitalRadio::BeginsAnew(std::string_view bytes) const {
+    return m_text.empty() && bytes.starts_with("T007");
+}
+
 void DigitalRadio::PortClosed() {
     m_state = State::Idle;
     m_speed = m_lineSpeed = SlowBaud;

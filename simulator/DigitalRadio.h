@@ -40,6 +40,7 @@ public:
     void LineSpeed(int baud) override { m_lineSpeed = baud; }
     void Hear(std::uint8_t byte) override;
     bool IsAtRest() const override;
+    bool BeginsAnew(std::string_view bytes) const override;
     void PortClosed() override;
     bool Store(std::string& trouble) override;
     int Violations() const override { return m_violations; }

@@ -65,6 +65,8 @@ public:
     virtual void Hear(std::uint8_t byte) = 0;
     /// True between two dialogues: nothing has been heard of the next one yet.
     virtual bool IsAtRest() const = 0;
+    /// True if bytes that come next can only be the first of a new dialogue, whatever went before.
+    virtual bool BeginsAnew(std::string_view) const { return false; }
     /// The other side has gone: a dialogue in progress is forgotten, memories stay.
     virtual void PortClosed() = 0;
     /// Writes the memories to their file if there is one. Answers false with a reason on failure.

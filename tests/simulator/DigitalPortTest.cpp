@@ -97,6 +97,30 @@ TEST(DigitalPort, AfterACloseListensAt9600Again) {
     EXPECT_EQ(radio.End(SIGTERM), 0) << radio.Output();
 }
 
+// The radio is stopped meanwhile, so that it finds the old user's last bytes and the new one's first
+// together.
+TEST(DigitalPort, TellsAUserWhoBrokeOffFromTheNextOne) {
+    for (bool polite : {false, true}) {
+        const TempFolder folder;
+        RadioProcess radio(folder, {"--model", "KDRV-716B", "--memories", folder.Path("m")});
+        PortClient first(radio.Port());
+        Open(first);
+        EXPECT_EQ(Ask(first, TakeMemories), Ack);
+        EXPECT_EQ(Ask(first, Framed(PlainV2(1))), Ack);
+        radio.Signal(SIGSTOP);
+        if (polite)
+            first.Send(std::string(End) + "\r");
+        first.Close();
+        PortClient second(radio.Port());
+        second.Send(std::string(Hello2) + "\r");
+        radio.Signal(SIGCONT);
+        EXPECT_EQ(second.ReadUntil("\r", 3s), std::string(Ack) + "\r") << polite;
+        EXPECT_EQ(FileText(folder.Path("m")).empty(), !polite);
+        EXPECT_EQ(radio.End(SIGTERM), 0) << polite << radio.Output();
+        EXPECT_NE(FileText(folder.Path("m")), "") << polite;
+    }
+}
+
 TEST(DigitalPort, OnceEndsAfterAWriteWhoseWriterClosesAtOnce) {
     const TempFolder folder;
     RadioProcess radio(folder, {"--model", "KDRV-716B", "--once", "--memories", folder.Path("m")});

@@ -1,22 +1,58 @@
 #include "simulator/FaultPlan.h"
 
 #include <charconv>
-#include <iterator>
 
 namespace Simulator {
 
 namespace {
 
+/// At which answers a fault is played, seen from its own.
+enum class Reach { There, Onwards, Anywhere };
+
 struct KindName {
     FaultKind kind;
     std::string_view name;
+    Reach reach = Reach::There;
 };
 
 constexpr KindName Kinds[] = {
-    {FaultKind::Silence, "silence"}, {FaultKind::LateAck, "late-ack"}, {FaultKind::NoAck, "no-ack"},
-    {FaultKind::Noise, "noise"},     {FaultKind::Torn, "torn"},        {FaultKind::Cut, "cut"},
+    {FaultKind::Silence, "silence"},
+    {FaultKind::LateAck, "late-ack"},
+    {FaultKind::NoAck, "no-ack"},
+    {FaultKind::Noise, "noise"},
+    {FaultKind::Torn, "torn"},
+    {FaultKind::Cut, "cut"},
     {FaultKind::Unplug, "unplug"},
+    {FaultKind::Checksum, "checksum"},
+    {FaultKind::ChecksumAlways, "checksum-always", Reach::Onwards},
+    {FaultKind::Nak, "nak"},
+    {FaultKind::NakAlways, "nak-always", Reach::Onwards},
+    {FaultKind::Wait, "wait"},
+    {FaultKind::Joined, "joined"},
+    {FaultKind::LineFeed, "linefeed", Reach::Onwards},
+    {FaultKind::End, "end"},
+    {FaultKind::Deaf, "deaf", Reach::Anywhere},
+    {FaultKind::Busy, "busy", Reach::Anywhere},
 };
+
+Reach ReachOf(FaultKind kind) {
+    for (const KindName& entry : Kinds)
+        if (entry.kind == kind)
+            return entry.reach;
+    return Reach::There;
+}
+
+bool IsReached(const Fault& fault, int answer) {
+    switch (ReachOf(fault.kind)) {
+    case Reach::Onwards:
+        return answer >= fault.answer;
+    case Reach::Anywhere:
+        return true;
+    case Reach::There:
+        break;
+    }
+    return answer == fault.answer;
+}
 
 /// A number from 1 up that fills the whole text, or 0.
 int PositiveNumber(std::string_view text) {
@@ -41,11 +77,16 @@ std::optional<Fault> ParseFault(std::string_view text, std::string& trouble) {
             break;
         return Fault{entry.kind, answer, transfer};
     }
-    trouble =
-        "\"" + std::string(text) + "\" is no fault: say KIND@N or KIND@N/T with N and T from 1; kinds are ";
-    for (std::size_t k = 0; k < std::size(Kinds); ++k)
-        trouble += (k ? ", " : "") + std::string(Kinds[k].name);
+    trouble = "\"" + std::string(text) +
+              "\" is no fault: say KIND@N or KIND@N/T with N and T from 1; kinds are " + FaultNames();
     return std::nullopt;
+}
+
+std::string FaultNames() {
+    std::string names;
+    for (const KindName& entry : Kinds)
+        names += (names.empty() ? "" : ", ") + std::string(entry.name);
+    return names;
 }
 
 std::string FaultText(const Fault& fault) {
@@ -58,7 +99,7 @@ std::string FaultText(const Fault& fault) {
 
 const Fault* FaultPlan::Find(FaultKind kind, int transfer, int answer) const {
     for (const Fault& fault : m_faults)
-        if (fault.kind == kind && fault.answer == answer &&
+        if (fault.kind == kind && IsReached(fault, answer) &&
             (fault.transfer == 0 || fault.transfer == transfer))
             return &fault;
     return nullptr;

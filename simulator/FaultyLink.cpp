@@ -27,10 +27,26 @@ std::string Sent(std::string_view bytes) {
 FaultyLink::FaultyLink(FaultPlan plan, std::chrono::milliseconds late, Outlet& outlet, Journal& journal)
     : m_plan(std::move(plan)), m_late(late), m_outlet(outlet), m_journal(journal) {}
 
-void FaultyLink::BeginTransfer() {
+void FaultyLink::BeginDialogue() {
     ++m_transfer;
     m_answer = 0;
-    DieIfNext();
+}
+
+void FaultyLink::BeginTransfer() {
+    BeginDialogue();
+    BeginAnswers();
+}
+
+bool FaultyLink::Plays(FaultKind kind, int answer) {
+    const Fault* fault = m_dead ? nullptr : m_plan.Find(kind, m_transfer, answer);
+    if (fault)
+        m_journal.Note(Played(*fault));
+    return fault != nullptr;
+}
+
+void FaultyLink::Pause(std::chrono::milliseconds duration) {
+    if (!m_dead)
+        m_outlet.Pause(duration, "");
 }
 
 void FaultyLink::DieIfNext() {
@@ -49,13 +65,23 @@ void FaultyLink::Answer(std::string_view bytes, AnswerKind kind) {
         m_dead = true;
         return;
     }
-    if (const Fault* fault = Due(FaultKind::Noise))
-        m_outlet.Say(std::string(std::begin(Garbage), std::end(Garbage)), Played(*fault));
-    if (kind == AnswerKind::Line)
+    MakeNoise(kind);
+    if (kind == AnswerKind::Line || kind == AnswerKind::Record)
         AnswerLine(bytes);
     else
-        AnswerAcknowledgement(bytes);
+        AnswerAcknowledgement(bytes, kind);
     DieIfNext();
+}
+
+void FaultyLink::MakeNoise(AnswerKind kind) {
+    const Fault* fault = Due(FaultKind::Noise);
+    if (!fault)
+        return;
+    std::string noise(std::begin(Garbage), std::end(Garbage));
+    // Records are told from noise by their first letter, which has to stand at the start of a line.
+    if (kind == AnswerKind::Record || kind == AnswerKind::RecordAcknowledgement)
+        noise += '\r';
+    m_outlet.Say(noise, Played(*fault));
 }
 
 void FaultyLink::AnswerLine(std::string_view bytes) {
@@ -78,14 +104,17 @@ void FaultyLink::AnswerLine(std::string_view bytes) {
     }
 }
 
-void FaultyLink::AnswerAcknowledgement(std::string_view bytes) {
+void FaultyLink::AnswerAcknowledgement(std::string_view bytes, AnswerKind kind) {
     if (const Fault* fault = Due(FaultKind::NoAck)) {
         m_journal.Note(Played(*fault));
         return;
     }
     if (const Fault* fault = Due(FaultKind::LateAck))
         m_outlet.Pause(m_late, Played(*fault));
-    m_outlet.Say(std::string(bytes), Sent(bytes));
+    if (kind == AnswerKind::RecordAcknowledgement)
+        AnswerLine(bytes);
+    else
+        m_outlet.Say(std::string(bytes), Sent(bytes));
 }
 
 void FaultyLink::Print(std::string_view bytes) {

@@ -15,6 +15,11 @@ public:
     FaultyLink(FaultPlan plan, std::chrono::milliseconds late, Outlet& outlet, Journal& journal);
 
     void BeginTransfer() override;
+    void BeginDialogue() override;
+    void BeginAnswers() override { DieIfNext(); }
+    int NextAnswer() const override { return m_answer + 1; }
+    bool Plays(FaultKind kind, int answer) override;
+    void Pause(std::chrono::milliseconds duration) override;
     void Answer(std::string_view bytes, AnswerKind kind) override;
     void Print(std::string_view bytes) override;
     void WaitForKey(std::chrono::milliseconds patience) override;
@@ -31,7 +36,8 @@ public:
 
 private:
     void AnswerLine(std::string_view bytes);
-    void AnswerAcknowledgement(std::string_view bytes);
+    void AnswerAcknowledgement(std::string_view bytes, AnswerKind kind);
+    void MakeNoise(AnswerKind kind);
     const Fault* Due(FaultKind kind) const { return m_plan.Find(kind, m_transfer, m_answer); }
     void DieIfNext();
 

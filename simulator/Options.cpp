@@ -35,8 +35,15 @@ bool TakeMilliseconds(const std::string& text, std::chrono::milliseconds& out, s
 bool TakeModel(Options& options, const std::string& value, std::string& trouble) {
     const std::size_t colon = value.find(':');
     const std::string band = colon == std::string::npos ? "" : value.substr(colon + 1);
-    options.model = FindAnalogModel(value.substr(0, colon), band, trouble);
-    return options.model != nullptr;
+    const std::string name = value.substr(0, colon);
+    options.model = nullptr;
+    options.digitalModel = FindDigitalModel(name, band);
+    if (!options.digitalModel)
+        options.model = FindAnalogModel(name, band, trouble);
+    for (const DigitalModel& model : DigitalModels())
+        if (!options.model && model.name == name && model.bandNeeded)
+            trouble += ", or \"" + std::string(model.band) + "\"";
+    return options.model || options.digitalModel;
 }
 
 bool TakeName(Options& options, const std::string& value, std::string& trouble) {
@@ -65,6 +72,13 @@ bool TakeFault(Options& options, const std::string& value, std::string& trouble)
     if (fault)
         options.faults.push_back(*fault);
     return fault.has_value();
+}
+
+/// An option of the digital radios.
+Taker Digital(bool (*take)(const std::string&, DigitalOptions&, std::string&)) {
+    return [take](Options& options, const std::string& value, std::string& trouble) {
+        return take(value, options.digital, trouble);
+    };
 }
 
 /// An option that sets one member to true.
@@ -98,7 +112,7 @@ const std::vector<Option>& Table() {
          TakeModel},
         {"list", Value::None, "", "list the radios and their bands, and end", Task(Options::Task::List)},
         {"memories", Value::Needed, "FILE", "load the memories from this file, and keep them in it",
-         Text([](Options & o) -> auto& { return o.habits.memoryFile; })},
+         Text([](Options & o) -> auto& { return o.memoryFile; })},
         {"ports-dir", Value::Needed, "DIR", "put the link there instead of into the program's folder",
          Text([](Options & o) -> auto& { return o.portsFolder; })},
         {"name", Value::Needed, "NAME", "name of the link; the model's name without it", TakeName},
@@ -123,6 +137,17 @@ const std::vector<Option>& Table() {
          [](Options& o, const std::string& v, std::string& t) {
              return TakeMilliseconds(v, o.habits.keyDelay, t);
          }},
+        {"protocol", Value::Needed, "0|1|2", "transfer protocol of a digital radio", Digital(TakeProtocol)},
+        {"firmware", Value::Needed, "DIGITS", "its firmware version, six characters", Digital(TakeFirmware)},
+        {"modes", Value::Needed, "HEX", "its enabled operating modes (70)", Digital(TakeModes)},
+        {"stamp", Value::Needed, "14DIGITS", "its identity stamp", Digital(TakeStamp)},
+        {"serial", Value::Needed, "TEXT", "its serial number", Digital(TakeSerial)},
+        {"hardware", Value::Needed, "FILE", "its hardware texts",
+         Text([](Options & o) -> auto& { return o.digital.hardwareFile; })},
+        {"config", Value::Needed, "FILE", "load its configuration from this file, and keep it in it",
+         Text([](Options & o) -> auto& { return o.digital.habits.configFile; })},
+        {"debug-log", Value::Needed, "FILE", "the records of its debug log",
+         Text([](Options & o) -> auto& { return o.digital.logFile; })},
         {"fault", Value::Needed, "KIND@N[/T]", "play a fault at line N (of transfer T only); repeatable",
          TakeFault},
         {"late", Value::Needed, "MS", "delay of a late-ack fault (5500)",
@@ -175,18 +200,19 @@ bool ParseOptions(const std::vector<std::string>& arguments, Options& options, s
     }
     if (options.task != Options::Task::Play)
         return true;
-    if (!options.model) {
+    if (!options.model && !options.digitalModel) {
         trouble = "say which radio to play with --model (--list names them all)";
         return false;
     }
     if (options.name.empty())
-        options.name = options.model->name;
-    return true;
+        options.name = options.model ? options.model->name : options.digitalModel->name;
+    options.habits.memoryFile = options.digital.habits.memoryFile = options.memoryFile;
+    return options.model || CompleteHabits(*options.digitalModel, options.digital, trouble);
 }
 
 std::string HelpText() {
     std::string text = "Usage: zelk-radio --model NAME[:BAND] [option...]\n"
-                       "Plays an analog radio on a simulated serial port.\n\n";
+                       "Plays a radio on a simulated serial port.\n\n";
     for (const Option& option : Table()) {
         std::string left = "  --" + std::string(option.name);
         if (option.value == Value::Optional)
@@ -196,8 +222,9 @@ std::string HelpText() {
         left.resize(std::max<std::size_t>(left.size() + 1, 24), ' ');
         text += left + std::string(option.help) + "\n";
     }
-    return text + "\nFaults: silence, late-ack, no-ack, noise, torn, cut, unplug.\n"
-                  "Signals: USR1 presses the radio's key; TERM, INT and HUP end it.\n";
+    return text + "\nFaults: " + FaultNames() +
+           ".\n"
+           "Signals: USR1 presses the radio's key; TERM, INT and HUP end it.\n";
 }
 
 std::string ListText() {
@@ -214,6 +241,8 @@ std::string ListText() {
                       model.writable ? "" : ", read only");
         text += line;
     }
+    for (const DigitalModel& model : DigitalModels())
+        text += ListLine(model);
     return text;
 }
 

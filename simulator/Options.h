@@ -2,6 +2,7 @@
 #pragma once
 
 #include "simulator/AnalogRadio.h"
+#include "simulator/DigitalOptions.h"
 #include "simulator/FaultPlan.h"
 
 #include <chrono>
@@ -14,8 +15,11 @@ struct Options {
     enum class Task { Play, List, Help };
 
     Task task = Task::Play;
-    const AnalogModel* model = nullptr;
+    const AnalogModel* model = nullptr;         ///< the radio if it is an analog one
+    const DigitalModel* digitalModel = nullptr; ///< the radio if it is a digital one
     AnalogHabits habits;
+    DigitalOptions digital;
+    std::string memoryFile;
     std::vector<Fault> faults;
     std::chrono::milliseconds late{5500};
     bool pace = false;
@@ -25,7 +29,8 @@ struct Options {
     std::string logFile;
 };
 
-/// Reads the arguments behind the program's name; a value follows its option or stands behind "=".
+/// Reads the arguments behind the program's name; a value follows its option or stands behind "=". Options
+/// that concern only the other kind of radio change nothing.
 /// Answers false with a sentence in `trouble` when they can't be understood.
 bool ParseOptions(const std::vector<std::string>& arguments, Options& options, std::string& trouble);
 

@@ -84,11 +84,12 @@ void Player::Leave() {
         m_heard += last;
     if (m_port.IsOpen()) {
         // Somebody else has come at once, and nothing tells his first bytes from the last ones of the
-        // user who has gone. A dialogue that had come to its end is where the new one begins.
-        while (!m_heard.empty() && !(m_radio.IsAtRest() && !m_link.IsDead()))
-            FeedRadio(1);
+        // user who has gone. A dialogue that had come to its end is where the new one begins, and so is what
+        // can't belong to the old one. The old one was at the speed at which it was last heard.
+        while (!m_heard.empty() && !(m_radio.IsAtRest() && !m_link.IsDead()) && !m_radio.BeginsAnew(m_heard))
+            FeedRadio(1, m_speed);
     } else {
-        FeedRadio(m_heard.size());
+        FeedRadio(m_heard.size(), m_port.Speed());
     }
     m_hearing.Rest();
     m_outlet.Clear();
@@ -106,11 +107,14 @@ void Player::TakeInput() {
         m_heard = m_port.Read(ReadSize);
         m_hearing.Rest();
     }
-    if (!m_heard.empty())
-        FeedRadio(m_hearing.Take(Clock::now(), Baud(), m_heard.size()));
+    if (m_heard.empty())
+        return;
+    m_speed = m_port.Speed();
+    FeedRadio(m_hearing.Take(Clock::now(), Baud(), m_heard.size()), m_speed);
 }
 
-void Player::FeedRadio(std::size_t count) {
+void Player::FeedRadio(std::size_t count, int baud) {
+    m_radio.LineSpeed(baud);
     for (std::size_t k = 0; k < count && !m_link.IsDead(); ++k)
         m_radio.Hear(static_cast<std::uint8_t>(m_heard[k]));
     m_heard.erase(0, count);

@@ -27,7 +27,7 @@ private:
     void Wait(int signals);
     void TakeSignals(int signals);
     void TakeInput();
-    void FeedRadio(std::size_t count);
+    void FeedRadio(std::size_t count, int baud);
     void Deliver();
     void HandleVisits();
     void Leave();
@@ -41,6 +41,7 @@ private:
     bool m_pace;
     bool m_once;
     bool m_stop = false;
+    int m_speed = 9600;    // the user's when he was last heard
     std::string m_heard;   // arrived, but not yet through at the line's speed
     std::string m_pending; // due, but the port had no room
     BaudClock m_hearing;

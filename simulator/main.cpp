@@ -1,4 +1,4 @@
-// zelk-radio: plays an analog radio on a simulated serial port.
+// zelk-radio: plays a radio on a simulated serial port.
 #include "simulator/Options.h"
 #include "simulator/Player.h"
 #include "simulator/PortLink.h"
@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <memory>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -15,6 +16,7 @@ using namespace Simulator;
 
 constexpr int Trouble = 1;
 constexpr int BadUsage = 2;
+constexpr int RulesBroken = 3;
 
 int Complain(const std::string& text, int code) {
     std::fprintf(stderr, "zelk-radio: %s\n", text.c_str());
@@ -31,34 +33,55 @@ int WatchSignals() {
     return signalfd(-1, &watched, SFD_NONBLOCK | SFD_CLOEXEC);
 }
 
+std::string RadioName(const Options& options) {
+    const auto Name = [](const auto& model) {
+        return std::string(model.name) + " " + std::string(model.band);
+    };
+    return options.model ? Name(*options.model) : Name(*options.digitalModel);
+}
+
+/// The radio with all that its files hold; empty with the reason in `trouble` if one can't be read.
+std::unique_ptr<Radio> MakeRadio(const Options& options, RadioLink& link, std::string& trouble) {
+    if (options.digitalModel) {
+        DigitalContents contents;
+        if (!LoadContents(*options.digitalModel, options.digital, contents, trouble))
+            return nullptr;
+        return std::make_unique<DigitalRadio>(*options.digitalModel, options.digital.habits,
+                                              std::move(contents), link);
+    }
+    MemoryList memories;
+    if (!options.memoryFile.empty() && !LoadMemories(options.memoryFile, *options.model, memories, trouble))
+        return nullptr;
+    return std::make_unique<AnalogRadio>(*options.model, options.habits, std::move(memories), link);
+}
+
 int Play(const Options& options) {
     std::string trouble;
     Journal journal;
     if (!options.logFile.empty() && !journal.Open(options.logFile, trouble))
         return Complain(trouble, Trouble);
-    MemoryList memories;
-    if (!options.habits.memoryFile.empty() &&
-        !LoadMemories(options.habits.memoryFile, *options.model, memories, trouble))
+    Outlet outlet;
+    FaultyLink link(FaultPlan(options.faults), options.late, outlet, journal);
+    const std::unique_ptr<Radio> radio = MakeRadio(options, link, trouble);
+    if (!radio)
         return Complain(trouble, Trouble);
     const int signals = WatchSignals();
     if (signals < 0)
         return Complain("signals can't be watched", Trouble);
 
-    Outlet outlet;
-    FaultyLink link(FaultPlan(options.faults), options.late, outlet, journal);
-    AnalogRadio radio(*options.model, options.habits, std::move(memories), link);
     {
         // The link goes before the port does: nobody finds a name without a device behind it.
         PseudoTerminal port;
         PortLink name(options.portsFolder.empty() ? DefaultPortsFolder() : options.portsFolder, options.name,
                       port.DeviceName());
-        std::printf("zelk-radio: %s %s is ready at %s\n", std::string(options.model->name).c_str(),
-                    std::string(options.model->band).c_str(), name.Path().c_str());
+        std::printf("zelk-radio: %s is ready at %s\n", RadioName(options).c_str(), name.Path().c_str());
         std::fflush(stdout);
-        Player(port, radio, link, outlet, journal, options.pace, options.once).Run(signals);
+        Player(port, *radio, link, outlet, journal, options.pace, options.once).Run(signals);
     }
     close(signals);
-    return radio.Store(trouble) ? 0 : Complain(trouble, Trouble);
+    if (!radio->Store(trouble))
+        return Complain(trouble, Trouble);
+    return radio->Violations() > 0 ? RulesBroken : 0;
 }
 
 } // namespace

@@ -126,6 +126,10 @@ PortClient::PortClient(const std::string& port, int baud) {
     m_port = open(port.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
     if (m_port < 0)
         return;
+    SetSpeed(baud);
+}
+
+void PortClient::SetSpeed(int baud) {
     termios line{};
     tcgetattr(m_port, &line);
     cfmakeraw(&line);

@@ -63,6 +63,8 @@ public:
     PortClient& operator=(const PortClient&) = delete;
 
     bool IsOpen() const { return m_port >= 0; }
+    /// Changes the speed of the open port, 9600 or 115200 baud.
+    void SetSpeed(int baud);
     void Send(std::string_view bytes);
     /// Everything that arrives until `quiet` has passed without a byte.
     std::string ReadUntilQuiet(std::chrono::milliseconds quiet);

@@ -1,0 +1,34 @@
+#include "simulator/DigitalMemory.h"
+
+#include "simulator/HexRecord.h"
+
+namespace Simulator {
+
+std::optional<DigitalMemory> ParseMemory(Layout layout, std::string_view line, const DigitalModel& model,
+                                         std::string& trouble) {
+    const auto record = ParseRecord(line, trouble);
+    if (!record)
+        return std::nullopt;
+    const std::string_view body = line.substr(0, line.size() - 2);
+    return layout == Layout::V1 ? ParseMemoryV1(body, model, trouble) : ParseMemoryV2(body, model, trouble);
+}
+
+std::string FormatMemory(Layout layout, const DigitalMemory& memory, const ShadowSlots& shadows,
+                         const DigitalModel& model) {
+    const std::string body =
+        layout == Layout::V1 ? FormatMemoryV1(memory, shadows, model) : FormatMemoryV2(memory, shadows);
+    return body.empty() ? body : WithChecksum(body);
+}
+
+ShadowSlots ShadowsOf(const DigitalMemory& primary, const DigitalMemoryList& memories) {
+    ShadowSlots slots{};
+    for (const auto& [address, memory] : memories) {
+        const int place = memory.flags & 0x07;
+        // A copy of a shadow names itself as its primary: it follows nobody.
+        if (place > 0 && memory.primary == primary.number && address != primary.address)
+            slots[static_cast<std::size_t>(place - 1)] = memory.number;
+    }
+    return slots;
+}
+
+} // namespace Simulator

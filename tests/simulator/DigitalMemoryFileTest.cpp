@@ -1,0 +1,127 @@
+#include "simulator/DigitalMemoryFile.h"
+
+#include "tests/simulator/DigitalBench.h"
+#include "tests/simulator/RadioProcess.h"
+
+#include <fstream>
+
+namespace {
+
+using namespace Simulator;
+using namespace digitaltest;
+
+const DigitalModel& B() {
+    return *FindDigitalModel("KDRV-716B", "");
+}
+
+DigitalMemoryList Loaded(const std::string& path, const DigitalModel& model = B()) {
+    DigitalMemoryList list;
+    std::string trouble;
+    EXPECT_TRUE(LoadDigitalMemories(path, model, list, trouble)) << trouble;
+    return list;
+}
+
+TEST(DigitalMemoryFile, GivesBackWhatWasSaved) {
+    const TempFolder folder;
+    const std::string path = folder.Path("radio.txt");
+    const std::string text = "# KDRV-716B FM 136-174\n2 " + Framed(PlainV2(1)) + "\n2 " +
+                             Framed(PlainV2(300)) + "\n2 " + Framed(PlainV2(502)) + "\n";
+    std::ofstream(path) << text;
+    const DigitalMemoryList list = Loaded(path);
+    EXPECT_EQ(list.size(), 3u);
+    std::string trouble;
+    ASSERT_TRUE(SaveDigitalMemories(folder.Path("copy.txt"), B(), Layout::V2, list, trouble)) << trouble;
+    EXPECT_EQ(FileText(folder.Path("copy.txt")), text);
+}
+
+TEST(DigitalMemoryFile, UsesTheFirstLayoutWhereItHoldsTheMemoryWhole) {
+    const TempFolder folder;
+    const std::string path = folder.Path("radio.txt");
+    const std::string fine = With(PlainV2(7), 44, "081B4A6A"); // 136.00625 MHz: a digit too many for text
+    const std::string moved = With(PlainV2(8), 16, "0009");
+    std::ofstream(path) << "1 " << Framed(PlainV1(5)) << "\n2 " << Framed(PlainV2(6)) << "\n2 "
+                        << Framed(fine) << "\n2 " << Framed(moved) << "\n2 " << Framed(PlainV2(300)) << "\n1 "
+                        << Framed(PlainV1(231)) << "\n";
+    std::string trouble;
+    ASSERT_TRUE(SaveDigitalMemories(folder.Path("copy.txt"), B(), Layout::V1, Loaded(path), trouble));
+    EXPECT_EQ(FileText(folder.Path("copy.txt")), "# KDRV-716B FM 136-174\n1 " + Framed(PlainV1(5)) + "\n1 " +
+                                                     Framed(PlainV1(6)) + "\n2 " + Framed(fine) + "\n2 " +
+                                                     Framed(moved) + "\n2 " + Framed(PlainV2(300)) + "\n1 " +
+                                                     Framed(PlainV1(231)) + "\n");
+    EXPECT_EQ(Loaded(folder.Path("copy.txt")), Loaded(path));
+}
+
+TEST(DigitalMemoryFile, ThatIsMissingIsAnEmptyRadio) {
+    const TempFolder folder;
+    EXPECT_TRUE(Loaded(folder.Path("none")).empty());
+}
+
+TEST(DigitalMemoryFile, MayHoldCommentsEmptyLinesAndDosLineEnds) {
+    const TempFolder folder;
+    std::ofstream(folder.Path("radio.txt")) << "# mine\r\n\r\n1 " << Framed(PlainV1(3)) << "\r\n#end";
+    EXPECT_EQ(Loaded(folder.Path("radio.txt")).count(3), 1u);
+}
+
+TEST(DigitalMemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlaceAndLeftAlone) {
+    const TempFolder folder;
+    const std::string path = folder.Path("radio.txt");
+    const std::string good = "1 " + Framed(PlainV1(3));
+    const struct {
+        const char* what;
+        std::string line;
+        const char* why;
+    } cases[] = {
+        {"no layout", Framed(PlainV1(4)), "begins with neither"},
+        {"layout 3", "3 " + Framed(PlainV1(4)), "begins with neither"},
+        {"the other layout", "2 " + Framed(PlainV1(4)), "position "},
+        {"memory out of range", "2 " + Framed(PlainV2(503)), "position 4"},
+        {"shadows", "1 " + Framed(With(PlainV1(4), 108, "01")), "position 108"},
+        {"checksum", "1 " + PlainV1(4) + "00", "checksum"},
+        {"text", "hello", "begins with neither"},
+    };
+    for (const auto& bad : cases) {
+        const std::string text = good + "\n" + bad.line + "\n";
+        std::ofstream(path) << text;
+        DigitalMemoryList list;
+        list[9].number = 9;
+        std::string trouble;
+        EXPECT_FALSE(LoadDigitalMemories(path, B(), list, trouble)) << bad.what;
+        EXPECT_NE(trouble.find("radio.txt:2: "), std::string::npos) << bad.what << ": " << trouble;
+        EXPECT_NE(trouble.find(bad.why), std::string::npos) << bad.what << ": " << trouble;
+        EXPECT_EQ(list.size(), 1u) << bad.what;
+        EXPECT_EQ(FileText(path), text) << bad.what;
+    }
+}
+
+TEST(DigitalMemoryFile, IsWrittenAtTheEndRecordAndNotAfterARead) {
+    const TempFolder folder;
+    const std::string path = folder.Path("radio.txt");
+    Bench bench({"KDRV-716", "--memories", path});
+    bench.OpenWrite();
+    bench.Tell(Framed(PlainV1(5)));
+    EXPECT_EQ(FileText(path), "");
+    bench.Tell(End);
+    EXPECT_EQ(FileText(path), "# KDRV-716 FM 136-174\n1 " + Framed(PlainV1(5)) + "\n");
+    std::ofstream(path) << "";
+    bench.ReadAll();
+    std::string trouble;
+    EXPECT_TRUE(bench.Radio().Store(trouble));
+    EXPECT_EQ(FileText(path), "") << "nothing has changed since";
+}
+
+TEST(DigitalMemoryFile, LosesWhatWasErased) {
+    const TempFolder folder;
+    const std::string path = folder.Path("radio.txt");
+    std::ofstream(path) << "1 " << Framed(PlainV1(5)) << "\n1 " << Framed(PlainV1(6)) << "\n";
+    Bench bench({"KDRV-716", "--memories", path});
+    bench.OpenWrite();
+    bench.Tell(Framed("T204000510"));
+    bench.Tell(End);
+    EXPECT_EQ(FileText(path), "# KDRV-716 FM 136-174\n1 " + Framed(PlainV1(6)) + "\n");
+    bench.OpenWrite();
+    bench.Tell(Purge);
+    bench.Tell(End);
+    EXPECT_EQ(FileText(path), "# KDRV-716 FM 136-174\n");
+}
+
+} // namespace

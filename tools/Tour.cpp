@@ -55,14 +55,15 @@ constexpr Tour::Job DigitalJob{
 
 void PlayTour(Robot& robot) {
     Tour::TourHand hand(robot, options.pictures);
+    std::printf("Two simulated radios: %s, analog, and %s, digital.\n", AnalogJob.model, DigitalJob.model);
     hand.Need(robot.WaitFor([] { return MainFrame && MainFrame->IsShownOnScreen(); }), "no window");
     hand.Need(robot.WaitForWindow("Orv Zelk: Page 1 of 1\\."), "the window has no focus");
     hand.Done("start", robot.Ask([] { return MainFrame->GetTitle().utf8_string(); }));
 
-    std::printf("    An analog radio: %s\n", AnalogJob.model);
+    std::printf("    %s\n", AnalogJob.model);
     Tour::TourJob(hand, AnalogJob, options.radio, options.examples).Play();
 
-    std::printf("    A digital radio: %s\n", DigitalJob.model);
+    std::printf("    %s\n", DigitalJob.model);
     Tour::TourJob digital(hand, DigitalJob, options.radio, options.examples);
     digital.AddPage();
     digital.Play();

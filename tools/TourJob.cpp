@@ -25,6 +25,20 @@ std::string MessageOfOpenDialog() {
     return open.empty() ? "" : open.back().message;
 }
 
+/// The primaries, each with its shadows; empty if there are none.
+std::string ShadowsOf(const ChannelList& channels) {
+    std::string text;
+    for (const auto& [number, channel] : channels) {
+        if (!channel.p25 || !channel.p25->link.starts_with("P-"))
+            continue;
+        text += (text.empty() ? "" : "; ") + std::to_string(number) + " with";
+        for (const int shadow : channel.p25->shadows)
+            if (shadow != 0)
+                text += ' ' + std::to_string(shadow);
+    }
+    return text;
+}
+
 std::string TitleOfWindow() {
     return MainFrame->GetTitle().utf8_string();
 }
@@ -163,6 +177,10 @@ void TourJob::ComparePage() {
     const ChannelList found = m_robot.Ask([] { return ChannelsOfGrid(*CurrentGrid()); });
     Compare(m_job.readBack(m_wanted), found, "the page read back");
     m_hand.Done("page against file", "equal, " + std::to_string(found.size()) + " channels" + m_job.pageRule);
+    if (const std::string shadows = ShadowsOf(found); !shadows.empty()) {
+        m_robot.Press("Next"); // one screen down the page
+        m_hand.Done("shadows", shadows);
+    }
 }
 
 } // namespace Tour

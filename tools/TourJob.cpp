@@ -5,6 +5,7 @@
 #include "frame/ZelkMain.h"
 #include "tests/support/robot/OpenDialogs.h"
 #include "tests/support/robot/Process.h"
+#include "tests/support/robot/ScreenSpots.h"
 
 #include <wx/choice.h>
 #include <wx/grid.h>
@@ -178,7 +179,9 @@ void TourJob::ComparePage() {
     Compare(m_job.readBack(m_wanted), found, "the page read back");
     m_hand.Done("page against file", "equal, " + std::to_string(found.size()) + " channels" + m_job.pageRule);
     if (const std::string shadows = ShadowsOf(found); !shadows.empty()) {
-        m_robot.Press("Next"); // one screen down the page
+        // Into the page, and one screen down.
+        m_robot.Click(m_robot.Ask([] { return MiddleOf(*CurrentGrid()); }));
+        m_robot.Press("Next");
         m_hand.Done("shadows", shadows);
     }
 }

@@ -179,9 +179,10 @@ void TourJob::ComparePage() {
     Compare(m_job.readBack(m_wanted), found, "the page read back");
     m_hand.Done("page against file", "equal, " + std::to_string(found.size()) + " channels" + m_job.pageRule);
     if (const std::string shadows = ShadowsOf(found); !shadows.empty()) {
-        // Into the page, and one screen down.
+        // Into the page, and down to where they are.
         m_robot.Click(m_robot.Ask([] { return MiddleOf(*CurrentGrid()); }));
         m_robot.Press("Next");
+        m_robot.Press("Down", 6);
         m_hand.Done("shadows", shadows);
     }
 }

@@ -34,7 +34,7 @@ constexpr const char* ShadowLine = "2 T143"
                                    "093C5970"
                                    "526D0102A68A2711"
                                    "097A9AF0"
-                                   "542D0253068A2711000003E9"
+                                   "542D025302931234000003E9"
                                    "0000000000000000000000000000"
                                    "00000000"
                                    "00\n";
@@ -77,7 +77,7 @@ constexpr const char* PrimaryRow =
 constexpr const char* ShadowRow =
     R"(<MEMORY row="36"><MF>01</MF><MN>036</MN><PR>035</PR><SH>S-035</SH><SC type="RP25">N</SC><ZN></ZN><DS>RPT OPEN</DS><MD>D</MD>
 <RF>154.9500</RF><RS>m</RS><RV>10</RV><RT>67.0</RT><RC>025</RC><RG>2711</RG><RN>68A</RN>
-<TF>159.0300</TF><TS>-</TS><TT>69.3</TT><TC>754</TC><TG>2711</TG><TN>68A</TN><TI>0001001</TI>
+<TF>159.0300</TF><TS>-</TS><TT>69.3</TT><TC>754</TC><TG>1234</TG><TN>293</TN><TI>0001001</TI>
 <S0>0</S0><S1>0</S1><S2>0</S2><S3>0</S3><S4>0</S4><S5>0</S5><S6>0</S6></MEMORY>
 )";
 
@@ -121,9 +121,9 @@ TEST_F(P25Channels, OfARadioAreReadByThePlacesOfTheNewLayout) {
     EXPECT_EQ(facts.receiveSquelch, "m");
     EXPECT_EQ(facts.transmitSquelch, "-");
     EXPECT_EQ(facts.receiveGroup, "2711");
-    EXPECT_EQ(facts.transmitGroup, "2711");
+    EXPECT_EQ(facts.transmitGroup, "1234");
     EXPECT_EQ(facts.receiveNac, "68A");
-    EXPECT_EQ(facts.transmitNac, "68A");
+    EXPECT_EQ(facts.transmitNac, "293");
     EXPECT_EQ(facts.squelchValue, 10);
     EXPECT_EQ(facts.unitId, 1001);
     EXPECT_EQ(facts.zone, "");
@@ -210,8 +210,8 @@ TEST_F(P25Channels, TellEveryKindOfDifference) {
                           Case{"transmit squelch", "<TS>-", "<TS>g"},
                           Case{"transmit tone", "<TT>69.3", "<TT>71.9"},
                           Case{"transmit code", "<TC>754", "<TC>743"},
-                          Case{"transmit group", "<TG>2", "<TG>3"},
-                          Case{"transmit NAC", "<TN>6", "<TN>7"},
+                          Case{"transmit group", "<TG>1", "<TG>3"},
+                          Case{"transmit NAC", "<TN>2", "<TN>7"},
                           Case{"unit id", "0001001", "0001002"},
                           Case{"first shadow", "<S0>0", "<S0>1"},
                           Case{"last shadow", "<S6>0", "<S6>1"}}) {
@@ -219,10 +219,10 @@ TEST_F(P25Channels, TellEveryKindOfDifference) {
         EXPECT_EQ(Differences(wanted, OfFile(row)).size(), 1u) << c.what;
     }
     // What differs is told.
-    const auto lines = Differences(wanted, OfFile(Replaced(ShadowRow, "<RN>68A", "<RN>293")));
+    const auto lines = Differences(wanted, OfFile(Replaced(ShadowRow, "<RN>68A", "<RN>F7E")));
     ASSERT_EQ(lines.size(), 1u);
-    EXPECT_NE(lines[0].find("NACs 68A/68A"), std::string::npos) << lines[0];
-    EXPECT_NE(lines[0].find("NACs 293/68A"), std::string::npos) << lines[0];
+    EXPECT_NE(lines[0].find("NACs 68A/293"), std::string::npos) << lines[0];
+    EXPECT_NE(lines[0].find("NACs F7E/293"), std::string::npos) << lines[0];
 }
 
 TEST_F(P25Channels, ComeBackWithEachCodeOnePlaceFurtherDownTheList) {

@@ -37,9 +37,16 @@ bool IsMemory(const TRecordDialogue& dialogue, int row) {
     return row >= 1 && row < dialogue.rowCount;
 }
 
+/// Selects a row for sending. A row that was never used stays without flags: with them it would count as
+/// one with data, and neither be filled when somebody types into it nor be left alone by checks.
+void Select(TRecordDialogue& dialogue, int row) {
+    if (!dialogue.grid->GetCellValue(row, TFLG).empty())
+        SetTFlag(dialogue.grid, row, SEL);
+}
+
 /// Makes a row go along with a selected one.
 void Mark(TRecordDialogue& dialogue, int row) {
-    SetTFlag(dialogue.grid, row, SEL);
+    Select(dialogue, row);
     dialogue.markedRows.insert(row);
 }
 
@@ -65,9 +72,8 @@ bool FitsOldLayout(const TRecordDialogue& dialogue, int row) {
 
 void EvaluateRow(TRecordDialogue& dialogue, int row, bool guard) {
     TRecordContext& context = dialogue.context;
-    // Meant: a selected row without data is marked too.
     if (dialogue.grid->IsInSelection(row, guard ? GuardSelectionColumn : MemorySelectionColumn))
-        SetTFlag(dialogue.grid, row, SEL);
+        Select(dialogue, row);
     const int flags = Flags(dialogue, row, TFLG);
     if (!(flags & DEF) || !(flags & (SEL | EraseFlag)))
         return;

@@ -9,3 +9,4 @@ endfunction()
 
 digital_radio_test(digital_fault_write_tests DISPLAY 1 SOURCES FaultMatrixWriteTest.cpp)
 digital_radio_test(digital_fault_read_tests DISPLAY 2 SOURCES FaultMatrixReadTest.cpp)
+digital_radio_test(digital_round_trip_tests DISPLAY 2 SOURCES DigitalRoundTripTest.cpp)

@@ -146,22 +146,29 @@ protected:
     }
 
     /// How a transfer ended, apart from the memories, as a line of the matrix has it.
-    static std::string Ending(const std::string& status, const std::string& boxes, bool portIsFree) {
+    static std::string Ending(const std::string& status, const std::string& boxes, bool endRecord,
+                              bool portIsFree) {
         return status + " | " + (boxes.empty() ? "no box" : boxes) + " | " +
-               (portIsFree ? "port free" : "no port");
+               (endRecord ? "end record" : "no end record") + " | " + (portIsFree ? "port free" : "no port");
     }
 
     /// @param channel that a box names
-    static std::string ExpectedEnding(const FaultEnding& fault, int channel) {
-        const std::string box = fault.box;
-        return Ending(fault.status, box.empty() ? "" : "Error: " + WithNumber(box, channel),
+    static std::string ExpectedEnding(const FaultEnding& fault, int mode, int channel) {
+        const std::string box = fault.box, status = fault.status;
+        // The program has the last word when it has written all, and after a refusal. Not when the radio
+        // can't be understood or isn't heard, nor in a read that the radio has ended.
+        const bool endRecord =
+            status == "Communication Error" || (status == "Complete" && mode == WriteChannelsMode);
+        return Ending(status, box.empty() ? "" : "Error: " + WithNumber(box, channel), endRecord,
                       fault.portRemains);
     }
 
     static std::string EndingOf(const Result& result, RadioUnderTest& radio) {
         // What was said last must have come through before somebody else speaks.
         radio.AwaitClosedPort();
-        return Ending(Text(GetStatusText(result.status)), result.boxes, PortIsFree(radio.PortName()));
+        const bool endRecord = radio.Log().find("< T9030000FC") != std::string::npos;
+        return Ending(Text(GetStatusText(result.status)), result.boxes, endRecord,
+                      PortIsFree(radio.PortName()));
     }
 
     /// The numbers of a map, such as "1 2 9".

@@ -88,7 +88,7 @@ private:
         const Result result = Run(radio, ReadChannelsMode);
         const std::string ending = EndingOf(result, radio);
         // A read counts what it has asked for from 0: its first record is channel 0.
-        EXPECT_EQ(ending, ExpectedEnding(fault, n - 1));
+        EXPECT_EQ(ending, ExpectedEnding(fault, ReadChannelsMode, n - 1));
         EXPECT_LT(result.took, Patience);
         std::map<int, std::string> expected;
         for (const int row : MemoriesLeft(fault.left, Memories, n))

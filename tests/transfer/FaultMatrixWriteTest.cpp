@@ -103,7 +103,7 @@ private:
         const Result result = Run(radio, WriteChannelsMode);
         const std::string ending = EndingOf(result, radio);
         const int channel = m_order[static_cast<std::size_t>(n - 1)];
-        EXPECT_EQ(ending, ExpectedEnding(fault, channel));
+        EXPECT_EQ(ending, ExpectedEnding(fault, WriteChannelsMode, channel));
         EXPECT_LT(result.took, Patience);
         EXPECT_EQ(PageText(), before);
         const auto held = radio.Records();

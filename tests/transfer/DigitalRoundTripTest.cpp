@@ -126,7 +126,7 @@ protected:
 
 TEST_F(DigitalRoundTrip, OfAFullPageInTheNewLayoutChangesWhatTheLayoutCannotTell) {
     UsePage(Kdrv716B);
-    const RoundTripPage page(502, 32, true, 5);
+    const RoundTripPage page({502, 31, "X", true, 5});
     Fill(page);
     RadioUnderTest radio("KDRV-716B");
     SendAndRead(radio);
@@ -138,7 +138,7 @@ TEST_F(DigitalRoundTrip, OfAFullPageInTheNewLayoutChangesWhatTheLayoutCannotTell
 
 TEST_F(DigitalRoundTrip, OfAFullPageInTheOldLayoutChangesWhatTheLayoutCannotTell) {
     UsePage(Kdrv716);
-    const RoundTripPage page(232, 16, false, 4);
+    const RoundTripPage page({232, 15, "16", false, 4});
     Fill(page);
     RadioUnderTest radio("KDRV-716");
     SendAndRead(radio);
@@ -148,7 +148,7 @@ TEST_F(DigitalRoundTrip, OfAFullPageInTheOldLayoutChangesWhatTheLayoutCannotTell
 
 TEST_F(DigitalRoundTrip, OfALongPageInTheOldLayoutLosesTheRowsThatItCannotName) {
     UsePage(Kdrv716B);
-    const RoundTripPage page(502, 32, true, 5);
+    const RoundTripPage page({502, 15, "X", true, 5});
     Fill(page);
     RadioUnderTest radio("KDRV-716B", {"--firmware", "010203"});
     SendAndRead(radio);

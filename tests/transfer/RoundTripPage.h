@@ -56,18 +56,28 @@ inline std::string Formatted(const char* format, int value) {
     return wxString::Format(wxString(format), value).utf8_string();
 }
 
-/// Makes a page of that many memories, the last two being the guards.
+/// What pages differ in.
+struct RoundTripShape {
+    int rows;           ///< memories, the last two being the guards
+    int zones;          ///< zones of the other memories, in turn
+    const char* guards; ///< zone of the guards
+    bool squelchValues; ///< whether RNSV is filled
+    int frequencyDecimals;
+};
+
+/// Makes a page of memories.
 class RoundTripPage {
 public:
-    RoundTripPage(int rows, int zones, bool squelchValues, int frequencyDecimals)
-        : m_rows(rows), m_squelchValues(squelchValues), m_decimals(frequencyDecimals) {
-        int placed = 0; // memories that have a zone of their own: 16 a zone
+    explicit RoundTripPage(const RoundTripShape& shape)
+        : m_squelchValues(shape.squelchValues), m_decimals(shape.frequencyDecimals) {
+        const int rows = shape.rows;
+        int placed = 0; // memories that have a zone of their own
         for (int row = 1; row <= rows; ++row) {
             m_cells[row] = Plain(row);
             if (row > rows - 2)
-                m_cells[row][ZONE] = Zones[static_cast<std::size_t>(zones - 1)];
+                m_cells[row][ZONE] = shape.guards;
             else if (!IsShadow(row))
-                m_cells[row][ZONE] = Zones[static_cast<std::size_t>(placed++ / 16)];
+                m_cells[row][ZONE] = Zones[static_cast<std::size_t>(placed++ % shape.zones)];
         }
         for (const Family& family : Families)
             Link(family);
@@ -149,7 +159,6 @@ private:
         primary[SCAN] = "N";
     }
 
-    int m_rows;
     bool m_squelchValues;
     int m_decimals;
     std::map<int, RowTexts> m_cells;

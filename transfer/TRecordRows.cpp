@@ -91,10 +91,12 @@ void EvaluateRow(TRecordDialogue& dialogue, int row, bool guard) {
 }
 
 /// True when a row takes part in the write at all: by its selection or, since the radio has forgotten
-/// all, because the radio held it or a selected row needs it.
+/// all, because the radio held it or a selected row needs it. A row to be erased is gone then already.
 bool TakesPart(const TRecordDialogue& dialogue, int row, int flags) {
     if (dialogue.grid->IsInSelection(row, GuardSelectionColumn))
         return true;
+    if (flags & EraseFlag)
+        return false;
     return dialogue.Needs(RadioPurged) && ((flags & InRadioFlag) || dialogue.markedRows.count(row) != 0);
 }
 

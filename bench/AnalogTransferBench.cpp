@@ -1,6 +1,7 @@
 // Analog transfers with a radio that keeps the line's pace.
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
+#include "bench/PacedRadio.h"
 #include "catalogue/PageModel.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/ZelkMain.h"
@@ -11,20 +12,8 @@
 #include <benchmark/benchmark.h>
 
 #include <wx/grid.h>
-#include <wx/process.h>
-#include <wx/utils.h>
-
-#include <chrono>
-#include <cstdlib>
-#include <filesystem>
-#include <optional>
-#include <signal.h>
-#include <thread>
 
 namespace {
-
-namespace fs = std::filesystem;
-using Seconds = std::chrono::duration<double>;
 
 /// KRV-214: 100 channels and two guards.
 constexpr PageCase RadioPage{"ANFM", 3, 0};
@@ -49,41 +38,10 @@ constexpr double WriteFloor = WriteCommands * SlowCharacter + OpeningWait +
                               Rows * ((LineLength + 1) * FastCharacter + WireByte) +
                               (3 + 74 + 1) * FastCharacter + ClosingDelay;
 
-/// The simulated radio on a port of its own.
-class PacedRadio {
-public:
-    explicit PacedRadio(const std::string& options) {
-        m_folder = fs::temp_directory_path() / ("zelk-bench-" + std::to_string(getpid()));
-        fs::create_directories(m_folder);
-        m_pid = wxExecute(
-            wxString(ZELK_RADIO) + " --model KRV-214 --name radio --pace --banner= --ports-dir " +
-                m_folder.string() + " --memories " + (m_folder / "memories").string() + " " + options,
-            wxEXEC_ASYNC);
-        for (int tries = 0; tries < 200 && !fs::exists(Port()); ++tries)
-            std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-
-    ~PacedRadio() {
-        if (m_pid > 0)
-            wxProcess::Kill(static_cast<int>(m_pid), wxSIGTERM);
-        for (int tries = 0; tries < 100 && fs::is_symlink(Port()); ++tries)
-            std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-
-    fs::path Port() const { return m_folder / "radio"; }
-
-private:
-    fs::path m_folder;
-    long m_pid = 0;
-};
-
 double Transfer(benchmark::State& state, const PacedRadio& radio, int mode) {
     TransferContext context;
-    const auto begin = std::chrono::steady_clock::now();
-    const int status = TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench");
-    if (status != 1)
-        state.SkipWithError(("the transfer ended with " + std::to_string(status)).c_str());
-    return Seconds(std::chrono::steady_clock::now() - begin).count();
+    return TimedTransfer(
+        state, [&] { return TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench"); });
 }
 
 /// Fills the radio and reads it back. The radio's time for a read is that of its bytes on the wire.
@@ -92,7 +50,7 @@ void Run(benchmark::State& state, bool read) {
     FillPage();
     CurrentGrid()->SelectAll();
     {
-        const PacedRadio radio("");
+        const PacedRadio radio("KRV-214", "--banner=");
         for ([[maybe_unused]] auto _ : state) {
             double seconds = Transfer(state, radio, WriteChannelsMode);
             if (read)
@@ -101,12 +59,6 @@ void Run(benchmark::State& state, bool read) {
         }
     }
     DropPage();
-}
-
-/// The prescribed time itself: the pair's floor is computed, not measured.
-void Prescribed(benchmark::State& state, double seconds) {
-    for ([[maybe_unused]] auto _ : state)
-        state.SetIterationTime(seconds);
 }
 
 } // namespace
@@ -122,10 +74,10 @@ void RegisterAnalogTransfer() {
         void (*run)(benchmark::State&);
     };
     constexpr Side Sides[] = {
-        {"transfer/write/program", [](benchmark::State& state) { Run(state, false); }},
-        {"transfer/write/floor", [](benchmark::State& state) { Prescribed(state, WriteFloor); }},
-        {"transfer/read/program", [](benchmark::State& state) { Run(state, true); }},
-        {"transfer/read/floor", [](benchmark::State& state) { Prescribed(state, ReadFloor); }},
+        {"transfer/analog-write/program", [](benchmark::State& state) { Run(state, false); }},
+        {"transfer/analog-write/floor", [](benchmark::State& state) { Prescribed(state, WriteFloor); }},
+        {"transfer/analog-read/program", [](benchmark::State& state) { Run(state, true); }},
+        {"transfer/analog-read/floor", [](benchmark::State& state) { Prescribed(state, ReadFloor); }},
     };
     for (const Side& side : Sides)
         benchmark::RegisterBenchmark(side.name, side.run)

@@ -46,6 +46,8 @@ int main(int argc, char** argv) {
     RegisterChannelFiles();
     RegisterEditing();
     RegisterAnalogTransfer();
+    RegisterDigitalTransfer();
+    RegisterRecordCodec();
     report.SetAim("start", 1.2);
     report.SetAim("page", 1.5);
     report.SetAim("file", 1.5);

@@ -20,6 +20,12 @@ void RegisterEditing();
 /// that the protocol prescribes.
 void RegisterAnalogTransfer();
 
+/// The same with a digital radio, by the latest protocol and on a full page.
+void RegisterDigitalTransfer();
+
+/// Rows made into the records of the digital radios and back, and the bare cells read and written.
+void RegisterRecordCodec();
+
 /// The child processes of RegisterStart: run the program's window or the bare one until it answers,
 /// say so on standard output, and end.
 int RunStartChild(bool bare, int argc, char** argv);

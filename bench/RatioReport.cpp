@@ -1,5 +1,6 @@
 #include "bench/RatioReport.h"
 
+#include <algorithm>
 #include <cstdio>
 
 void RatioReport::ReportRuns(const std::vector<Run>& runs) {
@@ -15,6 +16,12 @@ void RatioReport::ReportRuns(const std::vector<Run>& runs) {
         const std::string& name = run.run_name.function_name;
         const size_t slash = name.rfind('/');
         const std::string pairName = name.substr(0, slash);
+        if (name.substr(slash + 1) == "rate") {
+            if (!m_rates.contains(pairName))
+                m_rateOrder.push_back(pairName);
+            m_rates[pairName] = std::max(m_rates[pairName], run.counters.at("items_per_second").value);
+            continue;
+        }
         if (!m_pairs.contains(pairName))
             m_order.push_back(pairName);
         Pair& pair = m_pairs[pairName];
@@ -48,9 +55,17 @@ bool RatioReport::PrintGrowth() const {
     return good;
 }
 
+void RatioReport::PrintRates() const {
+    if (!m_rateOrder.empty())
+        std::printf("\n%-32s %12s\n", "", "a second");
+    for (const std::string& name : m_rateOrder)
+        std::printf("%-32s %12.0f\n", name.c_str(), m_rates.at(name));
+}
+
 bool RatioReport::Print() const {
     bool good = !m_failed;
-    std::printf("%-32s %12s %12s %7s %6s\n", "", "program ms", "floor ms", "ratio", "aim");
+    if (!m_order.empty())
+        std::printf("%-32s %12s %12s %7s %6s\n", "", "program ms", "floor ms", "ratio", "aim");
     for (const std::string& name : m_order) {
         const Pair& pair = m_pairs.at(name);
         const std::string group = name.substr(0, name.find('/'));
@@ -61,5 +76,6 @@ bool RatioReport::Print() const {
         std::printf("%-32s %12.2f %12.2f %7.3f %6.2f%s\n", name.c_str(), pair.program, pair.floor, ratio, aim,
                     met ? "" : "  above");
     }
+    PrintRates();
     return PrintGrowth() && good;
 }

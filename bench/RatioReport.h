@@ -10,6 +10,8 @@
 /// Collects runs whose names end in "/program" and "/floor" and prints a line for each pair: the
 /// fastest time of both, their ratio, and the aim that was set for the pair's group. The fastest of
 /// many short runs is what the work costs; anything else on the machine only adds to it.
+/// Runs whose names end in "/rate" have no floor: of them it prints how many records were done a second,
+/// again the fastest run's.
 /// Pairs whose names differ only in a number at the end, a size, also show how time grows with it.
 class RatioReport : public benchmark::BenchmarkReporter {
 public:
@@ -34,10 +36,13 @@ private:
         double aim = 0;
     };
     bool PrintGrowth() const;
+    void PrintRates() const;
 
     GrowthAim m_growth;
     std::map<std::string, double> m_aims;
     std::vector<std::string> m_order;
     std::map<std::string, Pair> m_pairs;
+    std::vector<std::string> m_rateOrder;
+    std::map<std::string, double> m_rates; ///< a second
     bool m_failed = false;
 };

@@ -1,8 +1,13 @@
 #include "simulator/Player.h"
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
+#include <ctime>
+#include <iterator>
+#include <optional>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -20,6 +25,9 @@ Player::Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, Outlet& out
       m_once(once) {}
 
 void Player::Run(int signals) {
+    // The system may wake us up late, by default half a byte's time at 115200 baud.
+    if (m_pace)
+        prctl(PR_SET_TIMERSLACK, 1UL);
     while (!m_stop) {
         Wait(signals);
         TakeSignals(signals);
@@ -40,10 +48,13 @@ void Player::Wait(int signals) {
         const TimePoint heard = m_hearing.NextDue(Baud(), m_heard.size());
         due = due ? std::min(*due, heard) : heard;
     }
-    int timeout = -1;
+    // To the nanosecond: at 115200 baud a millisecond is the time of eleven bytes.
+    std::optional<timespec> timeout;
     if (due) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(*due - Clock::now()).count();
-        timeout = static_cast<int>(std::clamp<long long>(left, 0, 60'000));
+        using namespace std::chrono;
+        const auto left = std::clamp<nanoseconds>(*due - Clock::now(), 0ns, 1min);
+        const auto whole = duration_cast<seconds>(left);
+        timeout = timespec{.tv_sec = whole.count(), .tv_nsec = (left - whole).count()};
     }
     short wanted = 0;
     if (m_heard.empty())
@@ -56,7 +67,7 @@ void Player::Wait(int signals) {
         {m_port.WatchDescriptor(), POLLIN, 0},
         {signals, POLLIN, 0},
     };
-    poll(watched, std::size(watched), timeout);
+    ppoll(watched, std::size(watched), timeout ? &*timeout : nullptr, nullptr);
 }
 
 void Player::TakeSignals(int signals) {

@@ -2,6 +2,8 @@
 
 #include "catalogue/ChoiceLists.h"
 #include "catalogue/MemoryRow.h"
+#include "tools/P25Channels.h"
+#include "tools/Texts.h"
 
 #include <wx/grid.h>
 #include <wx/xml/xml.h>
@@ -15,12 +17,6 @@
 namespace Tour {
 
 namespace {
-
-std::string Trimmed(std::string text) {
-    text.erase(0, text.find_first_not_of(' '));
-    text.erase(text.find_last_not_of(' ') + 1);
-    return text;
-}
 
 std::string Plain(const std::string& toneOrCode) {
     return toneOrCode == "n/a" || toneOrCode == "000" || toneOrCode.empty() ? "OFF" : toneOrCode;
@@ -42,11 +38,8 @@ Channel FromTexts(const std::string& description, const std::string& receive, co
             Plain(receiveCode),
             Plain(transmitCode),
             scan,
-            mode == "W" || mode == "w" ? 'W' : 'N'};
-}
-
-int Number(const std::string& text) {
-    return std::atoi(text.c_str());
+            mode == "W" || mode == "w" ? 'W' : 'N',
+            {}};
 }
 
 /// The radio's own numbering of tones; the last one is none.
@@ -71,15 +64,19 @@ ChannelList ChannelsOfFile(const std::string& path) {
     if (!document.Load(wxString::FromUTF8(path)))
         throw std::runtime_error("can't read " + path);
     ChannelList channels;
+    bool isP25 = false;
     for (wxXmlNode* row = document.GetRoot()->GetChildren(); row; row = row->GetNext()) {
+        if (row->GetName() == "FType")
+            isP25 = row->GetNodeContent().EndsWith("P25");
         if (row->GetName() != "MEMORY" || row->GetAttribute("row") == "0")
             continue;
         std::map<std::string, std::string> cells;
         for (wxXmlNode* cell = row->GetChildren(); cell; cell = cell->GetNext())
             cells[cell->GetName().utf8_string()] = cell->GetNodeContent().utf8_string();
         channels[Number(cells["MN"])] =
-            FromTexts(cells["DS"], cells["RF"], cells["TF"], cells["RT"], cells["TT"], cells["RC"],
-                      cells["TC"], Number(cells["SC"]), cells["MD"]);
+            isP25 ? P25OfElements(cells)
+                  : FromTexts(cells["DS"], cells["RF"], cells["TF"], cells["RT"], cells["TT"], cells["RC"],
+                              cells["TC"], Number(cells["SC"]), cells["MD"]);
     }
     return channels;
 }
@@ -90,12 +87,17 @@ ChannelList ChannelsOfRadio(const std::string& path) {
     for (std::string line; std::getline(file, line);) {
         if (line.empty() || line[0] == '#')
             continue;
+        if (IsP25Record(line)) {
+            AddP25Record(line, channels);
+            continue;
+        }
         line.resize(76, ' ');
         channels[Number(line.substr(0, 3))] =
             FromTexts(line.substr(4, 9), line.substr(14, 8), line.substr(25, 8),
                       ToneOfNumber(line.substr(43, 2)), ToneOfNumber(line.substr(48, 2)), line.substr(58, 3),
                       line.substr(64, 3), ScanOfMarks(line.substr(70, 5)), line.substr(75, 1));
     }
+    LinkP25Shadows(channels);
     return channels;
 }
 
@@ -103,7 +105,12 @@ ChannelList ChannelsOfGrid(wxGrid& grid) {
     ChannelList channels;
     for (int row = 1; row < grid.GetNumberRows(); ++row) {
         const auto cell = [&](int col) { return grid.GetCellValue(row, col).utf8_string(); };
-        if (!cell(MNUM).empty())
+        if (cell(MNUM).empty())
+            continue;
+        // Only pages of P25 radios have anything there.
+        if (!cell(SHAD).empty())
+            channels[Number(cell(MNUM))] = P25OfElements(P25ElementsOfRow(grid, row));
+        else
             channels[Number(cell(MNUM))] =
                 FromTexts(cell(DESC), cell(RFRQ), cell(TFRQ), cell(RTON), cell(TTON), cell(RCOD), cell(TCOD),
                           Number(cell(SCAN)), cell(MODE));
@@ -122,6 +129,8 @@ std::string Describe(const ChannelList& channels, int number) {
     text << '"' << c.description << "\" " << c.receive << '/' << c.transmit << " tones " << c.receiveTone
          << '/' << c.transmitTone << " codes " << c.receiveCode << '/' << c.transmitCode << " scan " << c.scan
          << ' ' << c.mode;
+    if (c.p25)
+        text << ' ' << Describe(*c.p25);
     return text.str();
 }
 

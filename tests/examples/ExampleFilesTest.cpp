@@ -1,71 +1,25 @@
 // The example channel files, held against the list of channels they are made from.
 // No code of the program takes part: limits and forms are typed here.
+#include "tests/examples/ExampleFiles.h"
+
 #include <gtest/gtest.h>
 
-#include <wx/init.h>
 #include <wx/mstream.h>
 #include <wx/xml/xml.h>
 
 #include <algorithm>
-#include <array>
-#include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
+using namespace exampletest;
+
 namespace {
 
 namespace fs = std::filesystem;
-
-struct ExampleFile {
-    const char* name;
-    const char* type;
-    const char* radio;
-    const char* band;
-    int rows;
-    int channels; ///< memories without the default row and the guards
-};
-
-/// Makes a failing case print the name of its file.
-void PrintTo(const ExampleFile& file, std::ostream* stream) {
-    *stream << file.name;
-}
-
-constexpr std::array<ExampleFile, 29> Files{{
-    {"krv-21-low", "ANFM", "KRV-21", "FM 30-50", 122, 4},
-    {"krv-47-mid", "ANFM", "KRV-47", "FM 66-88", 122, 2},
-    {"orv-12-airband", "", "ORV-12", "AM 118-138", 6, 6},
-    {"krv-214-vhf", "ANFM", "KRV-214", "FM 138-174", 102, 30},
-    {"krv-214b-vhf", "ANFM", "KRV-214B", "FM 138-174", 122, 30},
-    {"krv-305-uhf", "ANFM", "KRV-305", "FM 403-512", 122, 8},
-    {"kdar-2000-airband", "KDAR", "KDAR-2000", "AM 118-138", 100, 6},
-    {"krv-610-vhf", "ANFM", "KRV-610", "FM 138-174", 202, 30},
-    {"krv-610-uhf", "ANFM", "KRV-610", "FM 403-512", 200, 8},
-    {"krv-620-vhf", "ANFM", "KRV-620", "FM 138-174", 200, 30},
-    {"krv-620-milair", "ANAM", "KRV-620", "AM 225-400", 200, 3},
-    {"krv-630-low", "ANFM", "KRV-630", "FM 30-50", 200, 4},
-    {"krv-630-vhf", "ANFM", "KRV-630", "FM 138-174", 202, 30},
-    {"krv-630qnt-low", "ANFM", "KRV-630_QNT", "FM 30-50", 202, 4},
-    {"krv-630qnt-vhf", "ANFM", "KRV-630_QNT", "FM 138-174", 200, 30},
-    {"krv-650-low", "ANFM", "KRV-650", "FM 30-50", 200, 4},
-    {"krv-650-vhf", "ANFM", "KRV-650", "FM 138-174", 200, 30},
-    {"krv-650-uhf", "ANFM", "KRV-650", "FM 403-512", 200, 8},
-    {"krv-656-mid", "ANFM", "KRV-656", "FM 66-88", 200, 2},
-    {"krv-656-vhf", "ANFM", "KRV-656", "FM 138-174", 200, 30},
-    {"krv-656-uhf", "ANFM", "KRV-656", "FM 403-512", 200, 8},
-    {"krv-666-mid", "ANFM", "KRV-666", "FM 66-88", 200, 2},
-    {"krv-666-vhf", "ANFM", "KRV-666", "FM 138-174", 202, 30},
-    {"kdrv-8400-low", "ANFM", "KDRV-8400", "FM 30-50", 200, 4},
-    {"kdrv-8400-airband", "ANAM", "KDRV-8400", "AM 118-138", 200, 6},
-    {"kdrv-8400-vhf", "ANFM", "KDRV-8400", "FM 138-174", 200, 30},
-    {"kdrv-8400-milair", "ANAM", "KDRV-8400", "AM 225-400", 200, 3},
-    {"kdrv-8400-uhf", "ANFM", "KDRV-8400", "FM 403-512", 200, 8},
-    {"kdrv-4xxx-k6", "MDLX", "KDRV-4xxx", "K6 3-BAND", 500, 13},
-}};
 
 /// Elements of a memory in the order of the file, by the type in the header.
 const std::map<std::string, std::string> Elements{
@@ -74,11 +28,13 @@ const std::map<std::string, std::string> Elements{
     {"KDAR", "MN SC DS RF TF RY"},
     {"MDLX", "MN BD SC DS MD RF RT RC TF TT TC"},
     {"", "MN RF"},
+    {"RP25", "MF MN PR SH SC ZN DS MD RF RS RT RC RG RN TF TS TT TC TG TN TI S0 S1 S2 S3 S4 S5 S6"},
+    {"NP25", "MF MN PR SH SC ZN DS MD RF RS RV RT RC RG RN TF TS TT TC TG TN TI S0 S1 S2 S3 S4 S5 S6"},
 };
 
 /// Family named at the scan cell, by the type in the header.
-const std::map<std::string, std::string> ScanFamilies{
-    {"ANFM", "ANFM"}, {"ANAM", "ANFM"}, {"KDAR", "RP25"}, {"MDLX", "ANFM"}};
+const std::map<std::string, std::string> ScanFamilies{{"ANFM", "ANFM"}, {"ANAM", "ANFM"}, {"KDAR", "RP25"},
+                                                      {"MDLX", "ANFM"}, {"RP25", "RP25"}, {"NP25", "RP25"}};
 
 /// Cells of the default row in file order, by type and band in the header.
 const std::map<std::string, std::string> DefaultRows{
@@ -91,6 +47,10 @@ const std::map<std::string, std::string> DefaultRows{
     {"KDAR AM 118-138", "000|N|VHFAM118|118.000|138.000|N"},
     {"MDLX K6 3-BAND", "000|FM 30-50|0|MODL   K6|N|31.0000|OFF|OFF|31.0000|OFF|OFF"},
     {" AM 118-138", "000|118.000"},
+    {"RP25 FM 136-174", "0|0|0|N|N|1|VHF  136|n|136.0000|x|67.0|023|0001|293|"
+                        "174.0000|x|67.0|023|0001|293|00000001|0|0|0|0|0|0|0"},
+    {"NP25 FM 136-174", "0|0|0|N|N|1|VHF  136|n|136.0000|x|10|67.0|023|0001|293|"
+                        "174.0000|x|67.0|023|0001|293|00000001|0|0|0|0|0|0|0"},
 };
 
 struct BandRule {
@@ -103,7 +63,7 @@ const std::map<std::string, BandRule> BandRules{
     {"FM 30-50", {30, 50, false, 4}},     {"FM 66-88", {66, 88, false, 4}},
     {"FM 138-174", {138, 174, false, 4}}, {"FM 403-512", {403, 512, false, 4}},
     {"AM 118-138", {118, 138, true, 3}},  {"AM 108-138", {118, 138, true, 3}},
-    {"AM 225-400", {225, 400, true, 4}},
+    {"AM 225-400", {225, 400, true, 4}},  {"FM 136-174", {136, 174, false, 4}},
 };
 
 /// One line of the list of channels.
@@ -111,28 +71,9 @@ struct Source {
     std::string service, name, receive, transmit, receiveTone, transmitTone, mode, note;
 };
 
-struct Memory {
-    int row = 0;
-    std::vector<std::pair<std::string, std::string>> cells;
-    std::string scanFamily;
-
-    std::string Get(const std::string& element) const {
-        for (const auto& [name, text] : cells) {
-            if (name == element) {
-                return text;
-            }
-        }
-        return {};
-    }
-};
-
 std::string ReadFile(const fs::path& path) {
     std::ifstream stream(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-fs::path GetPath(const ExampleFile& file) {
-    return fs::path(ZELK_EXAMPLES_DIR) / (std::string(file.name) + ".zelk");
 }
 
 std::vector<std::string> Split(const std::string& text, char separator) {
@@ -161,66 +102,24 @@ std::string ToneOrOff(const std::string& tone) {
     return tone.empty() ? "OFF" : tone;
 }
 
-bool HasGuards(const ExampleFile& file) {
-    return file.rows % 10 == 2;
+INSTANTIATE_TEST_SUITE_P(, ExampleFiles, testing::ValuesIn(Files), NameOfFile);
+
+/// The same for a P25 memory that is no shadow. The memory has a tone and an id whether they count or not.
+bool IsP25MadeFrom(const Source& source, const Memory& memory) {
+    const bool isDigital = source.mode == "P25";
+    const auto squelch = [&](const std::string& tone) { return isDigital ? "g" : tone.empty() ? "x" : "t"; };
+    const auto tone = [](const std::string& text) { return text.empty() ? "67.0" : text; };
+    const std::string id = isDigital ? "NAC " + memory.Get("RN") + " talk group " + memory.Get("RG") : "";
+    return memory.Get("RF") == source.receive && memory.Get("TF") == source.transmit &&
+           memory.Get("DS") == source.name &&
+           memory.Get("MD") == (isDigital                  ? "D"
+                                : source.mode == "FM wide" ? "w"
+                                                           : "n") &&
+           memory.Get("RS") == squelch(source.receiveTone) &&
+           memory.Get("TS") == squelch(source.transmitTone) && memory.Get("RT") == tone(source.receiveTone) &&
+           memory.Get("TT") == tone(source.transmitTone) && memory.Get("TN") == memory.Get("RN") &&
+           memory.Get("TG") == memory.Get("RG") && (!isDigital || source.note == id);
 }
-
-bool IsGuard(const ExampleFile& file, const Memory& memory) {
-    return HasGuards(file) && memory.row >= file.rows - 1;
-}
-
-class ExampleFiles : public testing::TestWithParam<ExampleFile> {
-protected:
-    void SetUp() override {
-        ASSERT_TRUE(m_document.Load(GetPath(GetParam()).string(), "UTF-8", wxXMLDOC_NONE));
-        for (const wxXmlNode* node = m_document.GetRoot()->GetChildren(); node != nullptr;
-             node = node->GetNext()) {
-            if (node->GetName() == "MEMORY") {
-                m_memories.push_back(ReadMemory(*node));
-            } else {
-                m_header.emplace_back(node->GetName().utf8_string(), node->GetNodeContent().utf8_string());
-            }
-        }
-    }
-
-    static Memory ReadMemory(const wxXmlNode& node) {
-        Memory memory;
-        long row = -1;
-        EXPECT_TRUE(node.GetAttribute("row").ToLong(&row));
-        memory.row = static_cast<int>(row);
-        for (const wxXmlNode* cell = node.GetChildren(); cell != nullptr; cell = cell->GetNext()) {
-            memory.cells.emplace_back(cell->GetName().utf8_string(), cell->GetNodeContent().utf8_string());
-            if (cell->GetName() == "SC") {
-                memory.scanFamily = cell->GetAttribute("type").utf8_string();
-            }
-        }
-        return memory;
-    }
-
-    /// The band of a memory: on the module its own, else the file's.
-    static std::string GetBand(const Memory& memory) {
-        const std::string own = memory.Get("BD");
-        return own.empty() ? GetParam().band : own;
-    }
-
-    std::vector<Memory> GetChannels() const {
-        std::vector<Memory> channels;
-        std::copy_if(m_memories.begin(), m_memories.end(), std::back_inserter(channels),
-                     [](const Memory& memory) { return memory.row != 0; });
-        return channels;
-    }
-
-    wxInitializer m_initializer;
-    wxXmlDocument m_document;
-    std::vector<std::pair<std::string, std::string>> m_header;
-    std::vector<Memory> m_memories;
-};
-
-INSTANTIATE_TEST_SUITE_P(, ExampleFiles, testing::ValuesIn(Files), [](const auto& testInfo) {
-    std::string name = testInfo.param.name;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-});
 
 /// Gives elements that lost an empty text while loading that text back.
 void RestoreEmptyTexts(wxXmlNode& element) {
@@ -296,7 +195,9 @@ TEST_P(ExampleFiles, HoldCompleteRowsInOrderWithinTheGrid) {
         std::string elements;
         for (const auto& [name, text] : memory.cells) {
             elements += (elements.empty() ? "" : " ") + name;
-            EXPECT_FALSE(text.empty()) << name;
+            // A shadow has the zone of its primary.
+            const bool mayBeEmpty = name == "ZN" && memory.Get("SH").starts_with("S-");
+            EXPECT_EQ(text.empty(), mayBeEmpty) << name;
         }
         EXPECT_EQ(Elements.at(GetParam().type), elements);
         if (*GetParam().type != '\0') {
@@ -319,7 +220,9 @@ TEST_P(ExampleFiles, NumberEachMemoryOnce) {
     std::set<std::string> numbers;
     for (const Memory& memory : m_memories) {
         EXPECT_TRUE(numbers.insert(memory.Get("MN")).second) << "row " << memory.row;
-        EXPECT_EQ(wxString::Format("%03d", memory.row).utf8_string(), memory.Get("MN"));
+        // The default row of P25 files has a number of one digit.
+        const bool isShort = IsP25(GetParam()) && memory.row == 0;
+        EXPECT_EQ(isShort ? "0" : wxString::Format("%03d", memory.row).utf8_string(), memory.Get("MN"));
     }
 }
 
@@ -327,8 +230,12 @@ TEST_P(ExampleFiles, TakeEveryChannelFromTheList) {
     const std::vector<Source> sources = ReadSources();
     ASSERT_EQ(64u, sources.size());
     for (const Memory& memory : GetChannels()) {
+        if (IsShadow(memory)) {
+            continue; // made up for the example; held against their primaries elsewhere
+        }
         const auto source = std::find_if(sources.begin(), sources.end(), [&](const Source& candidate) {
-            return IsMadeFrom(candidate, memory, IsGuard(GetParam(), memory));
+            return IsP25(GetParam()) ? IsP25MadeFrom(candidate, memory)
+                                     : IsMadeFrom(candidate, memory, IsGuard(GetParam(), memory));
         });
         ASSERT_NE(sources.end(), source) << "row " << memory.row << " " << memory.Get("DS");
         EXPECT_FALSE(source->transmit.empty()) << memory.Get("DS") << " is for receiving only";
@@ -368,14 +275,21 @@ TEST_P(ExampleFiles, KeepFrequenciesInTheFormAndTheLimitsOfTheirBand) {
 
 TEST_P(ExampleFiles, KeepScanListsAndDescriptionsInTheirLimits) {
     const bool isKdar = std::string(GetParam().type) == "KDAR";
+    const bool isP25 = IsP25(GetParam());
     const bool hasScan = *GetParam().type != '\0';
     for (const Memory& memory : GetChannels()) {
         SCOPED_TRACE("row " + std::to_string(memory.row));
         const std::string description = memory.Get("DS");
-        EXPECT_LE(description.size(), isKdar ? 8u : 9u);
+        EXPECT_LE(description.size(), isKdar || isP25 ? 8u : 9u);
         EXPECT_EQ(std::string::npos,
                   description.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-./:+ ?_"));
-        if (isKdar) {
+        if (isP25) {
+            // What the flags say is what travels; linked memories and guards are never scanned.
+            EXPECT_TRUE(memory.Get("SC") == "Y" || memory.Get("SC") == "N");
+            const bool isScanned = memory.Get("SC") == "Y";
+            EXPECT_EQ(isScanned, (GetFlags(memory) & 0x08) != 0);
+            EXPECT_FALSE(isScanned && (memory.Get("SH") != "N" || IsGuard(GetParam(), memory)));
+        } else if (isKdar) {
             EXPECT_TRUE(memory.Get("SC") == "Y" || memory.Get("SC") == "N");
             EXPECT_EQ("N", memory.Get("RY"));
         } else if (hasScan) {

@@ -1,0 +1,127 @@
+// Digital transfers of a full page, with a radio that keeps the line's pace.
+#include "bench/Benches.h"
+#include "bench/FullPage.h"
+#include "bench/PacedRadio.h"
+#include "catalogue/PageModel.h"
+#include "files/ZelkFile_OpenSave.h"
+#include "frame/ZelkMain.h"
+#include "transfer/RadioIdentity.h"
+#include "transfer/TRecordDriver.h"
+#include "transfer/TransferContext.h"
+#include "transfer/TransferMode.h"
+
+#include <benchmark/benchmark.h>
+
+#include <wx/grid.h>
+
+#include <fstream>
+
+namespace {
+
+/// KDRV-716B: 500 memories and two guards; the default row travels with them.
+constexpr PageCase RadioPage{"NP25", 7, 0};
+constexpr int Records = 503;
+
+/// Told to the radio, so that the floor knows what is on the line: its stamp, which the program knows, so
+/// that nothing is purged; its serial number; and one hardware text.
+constexpr const char* Stamp = "20260102030405";
+constexpr const char* Serial = "SIM00716";
+constexpr const char* HardwareText = "KDRV-716B";
+
+// Characters of a line, its end among them.
+constexpr int DataLine(size_t dataBytes) {
+    return static_cast<int>(2 + 2 + 4 + 2 * dataBytes + 2 + 1);
+}
+constexpr int Message = DataLine(1); // Ack, Nak and all that is only a number
+constexpr int HelloLine = DataLine(4);
+constexpr int SpeedLine = DataLine(3);
+constexpr int ModesLine = DataLine(2);
+constexpr int VersionLine = DataLine(4);
+constexpr int StampLine = DataLine(8);
+constexpr int MemoryLine = DataLine(64);
+constexpr int EndLine = DataLine(0);
+
+/// Three hellos, of which the third is accepted, and the change of speed, each with its answer.
+constexpr int SlowCharacters = 3 * (HelloLine + Message) + SpeedLine + Message;
+/// Modes; serial number, hardware text and their end; firmware version.
+constexpr int QuestionCharacters = Message + ModesLine + Message + DataLine(8) + Message + DataLine(9) +
+                                   Message + EndLine + Message + VersionLine;
+/// The stamp asked for or set, and what is announced.
+constexpr int OpeningCharacters = Message + StampLine + 2 * Message;
+constexpr int WriteCharacters = Records * (MemoryLine + Message);
+/// The acknowledgement of the last memory fetches the end.
+constexpr int ReadCharacters = Records * (Message + MemoryLine) + Message + EndLine;
+
+// What the dialogue prescribes, in seconds.
+constexpr double SlowCharacter = 10.0 / 9600, FastCharacter = 10.0 / 115200;
+constexpr double SpeedDelay = 0.050, ClosingDelay = 1.0;
+
+/// The line carries one character at a time: each side waits for the other's line. The end line of a write
+/// goes out within the closing delay.
+constexpr double FloorOf(int memoryCharacters) {
+    return SlowCharacters * SlowCharacter + SpeedDelay +
+           (QuestionCharacters + OpeningCharacters + memoryCharacters) * FastCharacter + ClosingDelay;
+}
+
+double Transfer(benchmark::State& state, const PacedRadio& radio, int mode) {
+    TRecordContext context;
+    return TimedTransfer(
+        state, [&] { return TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench"); });
+}
+
+int MemoriesOfRadio() {
+    std::ifstream file(PacedRadio::Folder() / "memories");
+    int count = 0;
+    for (std::string line; std::getline(file, line);)
+        count += line.starts_with("2 T1");
+    return count;
+}
+
+/// Fills the radio and reads it back.
+void Run(benchmark::State& state, bool read) {
+    MakePage(RadioPage);
+    FillPage();
+    CurrentGrid()->SelectAll();
+    const auto hardware = PacedRadio::Folder() / "hardware";
+    std::ofstream(hardware) << HardwareText << '\n';
+    {
+        const PacedRadio radio("KDRV-716B", std::string("--stamp ") + Stamp + " --serial " + Serial +
+                                                " --hardware " + hardware.string());
+        for ([[maybe_unused]] auto _ : state) {
+            RadioStamp = Stamp;
+            double seconds = Transfer(state, radio, WriteChannelsMode);
+            if (MemoriesOfRadio() != Records)
+                state.SkipWithError("the radio does not hold all memories");
+            if (read) {
+                ResetPage(CurrentPage);
+                seconds = Transfer(state, radio, ReadChannelsMode);
+                if (CurrentGrid()->GetCellValue(Records - 1, MNUM) != std::to_string(Records - 1))
+                    state.SkipWithError("the last memory was not read");
+            }
+            state.SetIterationTime(seconds);
+        }
+    }
+    DropPage();
+}
+
+} // namespace
+
+void RegisterDigitalTransfer() {
+    struct Side {
+        const char* name;
+        void (*run)(benchmark::State&);
+    };
+    constexpr Side Sides[] = {
+        {"transfer/digital-write/program", [](benchmark::State& state) { Run(state, false); }},
+        {"transfer/digital-write/floor",
+         [](benchmark::State& state) { Prescribed(state, FloorOf(WriteCharacters)); }},
+        {"transfer/digital-read/program", [](benchmark::State& state) { Run(state, true); }},
+        {"transfer/digital-read/floor",
+         [](benchmark::State& state) { Prescribed(state, FloorOf(ReadCharacters)); }},
+    };
+    for (const Side& side : Sides)
+        benchmark::RegisterBenchmark(side.name, side.run)
+            ->Unit(benchmark::kMillisecond)
+            ->Iterations(1)
+            ->UseManualTime();
+}

@@ -1,0 +1,32 @@
+// The memories of P25 radios, for the lists of channels.
+#pragma once
+
+#include "tools/ChannelList.h"
+
+#include <map>
+#include <string>
+
+class wxGrid;
+
+namespace Tour {
+
+/// A memory from the elements of a channel file, by name. Numbers, frequencies and unit ids count by their
+/// value: leading zeros, and zeros at the end of a frequency, say nothing.
+Channel P25OfElements(const std::map<std::string, std::string>& elements);
+
+/// The same elements from a row of a P25 page.
+std::map<std::string, std::string> P25ElementsOfRow(wxGrid& grid, int row);
+
+/// True for a line of the memory file of a digital radio.
+bool IsP25Record(const std::string& line);
+
+/// Adds the memory of such a line, but for memory 0. Throws std::runtime_error on the old layout.
+void AddP25Record(const std::string& line, ChannelList& channels);
+
+/// Tells primaries of their shadows, as a radio does, from what the shadows say: each has its place (the low
+/// flags) in the list of its primary.
+void LinkP25Shadows(ChannelList& channels);
+
+std::string Describe(const P25Facts& facts);
+
+} // namespace Tour

@@ -90,12 +90,6 @@ wxGridCellEditor* NewDescriptionEditor(int type) {
     }
 }
 
-void SetFrequencyCells(wxGrid* grid, int row, int band) {
-    const int step = GetChannelStep(CurrentParameters().Radio, band);
-    for (int col : {RFRQ, TFRQ})
-        SetCentred(grid, row, col, new FrequencyEditor(row, band, step));
-}
-
 void SetToneEditors(wxGrid* grid, int row) {
     for (int col : {RTON, TTON})
         SetEditor(grid, row, col, new ZelkChoiceEditor(std::size(ToneTexts), Choices<ToneTexts>()));
@@ -160,7 +154,7 @@ void SetRowEditors(wxGrid* grid, int row) {
     }
     SetEditor(grid, row, DESC, NewDescriptionEditor(page.Type));
     SetCentred(grid, row, MODE, new ListChoiceEditor(std::size(AnalogModes), Choices<AnalogModes>(), false));
-    SetFrequencyCells(grid, row, band);
+    SetFrequencyEditors(grid, row, band);
     for (int col : {RCOD, TCOD})
         SetCentred(grid, row, col, new ZelkChoiceEditor(std::size(CodeTexts), Choices<CodeTexts>()));
     Centre(grid, row, {RTON, TTON});
@@ -182,7 +176,7 @@ void SetRowEditorsP25(wxGrid* grid, int row) {
                                  : new P25ZoneEditor(std::size(ZoneNames16) - 1, Choices<ZoneNames16>()));
     SetEditor(grid, row, DESC, NewDescriptionEditor(page.Type));
     SetCentred(grid, row, MODE, new ZelkChoiceEditor(std::size(P25Modes), Choices<P25Modes>()));
-    SetFrequencyCells(grid, row, page.Band);
+    SetFrequencyEditors(grid, row, page.Band);
     Centre(grid, row, {RSQL, TSQL});
     SetSquelchChoices(grid, row, grid->GetCellValue(row, MODE), false);
     Centre(grid, row, {RNSV});
@@ -200,6 +194,12 @@ void SetRowEditorsP25(wxGrid* grid, int row) {
     const wxGridCellAttrPtr unitId = AttrOf(grid, row, TIDC);
     unitId->SetEditor(new wxGridCellNumberEditor(0, 9999999));
     unitId->SetRenderer(new IDCNumberRenderer);
+}
+
+void SetFrequencyEditors(wxGrid* grid, int row, int band) {
+    const int step = GetChannelStep(CurrentParameters().Radio, band);
+    for (int col : {RFRQ, TFRQ})
+        SetCentred(grid, row, col, new FrequencyEditor(row, band, step));
 }
 
 void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
@@ -239,7 +239,7 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
 
 void ChangeRowBand(wxGrid* grid, int row, int band) {
     SetTexts(grid, row, {RFRQ, TFRQ}, "");
-    SetFrequencyCells(grid, row, band);
+    SetFrequencyEditors(grid, row, band);
     SetBandEditors(grid, row, band, true);
 }
 

@@ -15,6 +15,9 @@ void SetRowEditors(wxGrid* grid, int row);
 /// SetPageEditors for one row of a P25 current page.
 void SetRowEditorsP25(wxGrid* grid, int row);
 
+/// The editors of a row's two frequencies, for a band id (0 to 8).
+void SetFrequencyEditors(wxGrid* grid, int row, int band);
+
 /// The cells of a row that depend on its band (id 0 to 8). On MDLX pages texts that the band can't
 /// have are replaced; bandChanged says that the user has just chosen the band, so that a tone of
 /// the former band goes, too. TCOD stays read-only if a former band has made it so.

@@ -3,6 +3,7 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/FrequencyRules.h"
+#include "editing/ZelkEditors.h"
 #include "transfer/TransferContext.h"
 
 #include <wx/grid.h>
@@ -50,10 +51,11 @@ void WriteBand(wxGrid* grid, int row, const wxString& rxFrequency) {
     const int band = GetFreqBand(rxFrequency, MDLX);
     if (band >= 0) {
         grid->SetCellValue(row, BAND, BandName[band]);
-        return;
+    } else {
+        grid->SetCellValue(row, BAND, grid->GetCellValue(0, BAND));
+        grid->SetCellBackgroundColour(row, BAND, FailColour);
     }
-    grid->SetCellValue(row, BAND, grid->GetCellValue(0, BAND));
-    grid->SetCellBackgroundColour(row, BAND, FailColour);
+    SetFrequencyEditors(grid, row, GetRowBand(grid, row));
 }
 
 void WriteCells(wxGrid* grid, int row, const AnalogCells& cells) {

@@ -11,21 +11,19 @@
 
 namespace {
 
-constexpr int ResultPause = 1000; // ms
-
 void ReportComplete(TRecordContext& context, int mode) {
     if (mode == WriteChannelsMode || mode == WriteConfigMode || context.Index == VersionState)
         SendEndRecord(context);
     context.Progress->SetStatus("Transfer Complete.");
     WriteTransferLog(context.LogFile, "Transfer Complete.");
-    Delay(context, ResultPause, true);
+    Delay(context, context.ResultPause, true);
 }
 
 void ReportCancelled(TRecordContext& context) {
     SendEndRecord(context);
     context.Progress->SetStatus("Transfer Cancelled.");
     WriteTransferLog(context.LogFile, "Transfer cancelled by user.");
-    Delay(context, ResultPause, true);
+    Delay(context, context.ResultPause, true);
 }
 
 } // namespace

@@ -37,9 +37,16 @@ bool IsMemory(const TRecordDialogue& dialogue, int row) {
     return row >= 1 && row < dialogue.rowCount;
 }
 
+/// Selects a row for sending. A row that was never used stays without flags: with them it would count as
+/// one with data, and neither be filled when somebody types into it nor be left alone by checks.
+void Select(TRecordDialogue& dialogue, int row) {
+    if (!dialogue.grid->GetCellValue(row, TFLG).empty())
+        SetTFlag(dialogue.grid, row, SEL);
+}
+
 /// Makes a row go along with a selected one.
 void Mark(TRecordDialogue& dialogue, int row) {
-    SetTFlag(dialogue.grid, row, SEL);
+    Select(dialogue, row);
     dialogue.markedRows.insert(row);
 }
 
@@ -65,9 +72,8 @@ bool FitsOldLayout(const TRecordDialogue& dialogue, int row) {
 
 void EvaluateRow(TRecordDialogue& dialogue, int row, bool guard) {
     TRecordContext& context = dialogue.context;
-    // Meant: a selected row without data is marked too.
     if (dialogue.grid->IsInSelection(row, guard ? GuardSelectionColumn : MemorySelectionColumn))
-        SetTFlag(dialogue.grid, row, SEL);
+        Select(dialogue, row);
     const int flags = Flags(dialogue, row, TFLG);
     if (!(flags & DEF) || !(flags & (SEL | EraseFlag)))
         return;
@@ -85,10 +91,12 @@ void EvaluateRow(TRecordDialogue& dialogue, int row, bool guard) {
 }
 
 /// True when a row takes part in the write at all: by its selection or, since the radio has forgotten
-/// all, because the radio held it or a selected row needs it.
+/// all, because the radio held it or a selected row needs it. A row to be erased is gone then already.
 bool TakesPart(const TRecordDialogue& dialogue, int row, int flags) {
     if (dialogue.grid->IsInSelection(row, GuardSelectionColumn))
         return true;
+    if (flags & EraseFlag)
+        return false;
     return dialogue.Needs(RadioPurged) && ((flags & InRadioFlag) || dialogue.markedRows.count(row) != 0);
 }
 

@@ -50,4 +50,5 @@ struct TRecordContext : TransferContext {
     std::uint32_t LogDataStart = 0;    ///< byte of a debug log record at which its data begin
     std::uint32_t Protocol = 0;        ///< number of the protocol agreed on
     int ReplyTimeout = 30000;          ///< milliseconds that an answer is waited for
+    int ResultPause = 1000;            ///< milliseconds that the last word stands in the progress window
 };

@@ -1,5 +1,6 @@
 #include "transfer/AnalogRecord.h"
 
+#include "editing/FrequencyCell.h"
 #include "tests/support/ZelkWindowTest.h"
 #include "transfer/TransferContext.h"
 
@@ -268,6 +269,19 @@ TEST_F(AnalogRecord, OfAModuleGetsTheBandOfItsFrequency) {
         ASSERT_EQ(Read(With(14, frequency)), 1);
         EXPECT_EQ(CellText(1, BAND), band) << frequency;
         EXPECT_FALSE(CurrentGrid()->GetCellBackgroundColour(1, BAND) == FailColour) << frequency;
+    }
+}
+
+TEST_F(AnalogRecord, OfAModuleIsEditedByTheBandOfItsFrequency) {
+    Retarget(Kdrv4xxx, 5);
+    ASSERT_EQ(Read(With(14, "121.5000")), 1);
+    for (int column : {RFRQ, TFRQ}) {
+        const wxGridCellEditorPtr editor(CurrentGrid()->GetCellEditor(1, column));
+        editor->Create(CurrentGrid()->GetGridWindow(), wxID_ANY, new wxEvtHandler);
+        const auto* rules = dynamic_cast<const FrequencyValidator*>(editor->GetWindow()->GetValidator());
+        ASSERT_NE(rules, nullptr) << column;
+        EXPECT_EQ(rules->GetBand(), 2) << column;
+        editor->Destroy();
     }
 }
 

@@ -1,12 +1,8 @@
 // Channels to an analog radio, byte by byte.
 #include "tests/support/robot/Hands.h"
-#include "tests/support/robot/ScreenSpots.h"
 #include "tests/transfer/AnalogDriverTest.h"
+#include "tests/transfer/CancelSpot.h"
 #include "transfer/AnalogExchanges.h"
-
-#include <mutex>
-#include <wx/button.h>
-#include <wx/eventfilter.h>
 
 using namespace testbench;
 using namespace transfertest;
@@ -26,37 +22,6 @@ protected:
 };
 
 using AnalogOpening = AnalogWrite;
-
-/// Where the Cancel button stands, as told by the events that the progress window gets.
-class CancelSpot : public wxEventFilter {
-public:
-    CancelSpot() { wxEvtHandler::AddFilter(this); }
-    ~CancelSpot() override { wxEvtHandler::RemoveFilter(this); }
-
-    int FilterEvent(wxEvent& event) override {
-        const auto* button = dynamic_cast<wxButton*>(event.GetEventObject());
-        if (button && dynamic_cast<ProgressFrame*>(button->GetParent()) && button->IsShownOnScreen()) {
-            const std::lock_guard lock(m_mutex);
-            m_spot = MiddleOf(*button);
-        }
-        return Event_Skip;
-    }
-
-    /// May be called from any thread.
-    wxPoint Await() const {
-        wxPoint spot;
-        for (int tries = 0; tries < 300 && spot == wxPoint(); ++tries) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-            const std::lock_guard lock(m_mutex);
-            spot = m_spot;
-        }
-        return spot;
-    }
-
-private:
-    mutable std::mutex m_mutex;
-    wxPoint m_spot;
-};
 
 /// Takes the opening command and acknowledges lines until the end line.
 void TakeChannels(RadioPeer& peer) {

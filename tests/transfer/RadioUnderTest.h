@@ -5,12 +5,14 @@
 #include "tests/support/robot/TempFolder.h"
 
 #include <algorithm>
+#include <chrono>
 #include <fstream>
 #include <map>
 #include <memory>
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace transfertest {
@@ -31,6 +33,8 @@ public:
                                             (m_folder / "ports").string(),
                                             "--name",
                                             "radio",
+                                            "--log",
+                                            LogFile(),
                                             "--key-delay",
                                             "0"};
         command.insert(command.end(), options.begin(), options.end());
@@ -41,15 +45,32 @@ public:
 
     std::string PortName() const { return (m_folder / "ports" / "radio").string(); }
 
+    /// Switches the radio off and gives its exit code, which for a digital one is 3 if it had something to
+    /// refuse.
+    int SwitchOff() { return m_process->Terminate(); }
+
     /// Switches the radio off. What it then holds, by number: the line's first three characters.
     std::map<std::string, std::string> Memories() {
-        m_process->Terminate();
         std::map<std::string, std::string> memories;
-        std::ifstream file(MemoryFile());
-        for (std::string line; std::getline(file, line);)
-            if (!line.empty() && line[0] != '#')
-                memories[line.substr(0, 3)] = line;
+        for (const std::string& line : MemoryLines())
+            memories[line.substr(0, 3)] = line;
         return memories;
+    }
+
+    /// Switches a digital radio off. The records that it then holds, by their address, with their layout:
+    /// "1 T143..." or "2 T143...".
+    std::map<int, std::string> Records() {
+        std::map<int, std::string> records;
+        for (const std::string& line : MemoryLines())
+            records[std::stoi(line.substr(6, 4), nullptr, 16)] = line;
+        return records;
+    }
+
+    /// What the radio has heard and said so far, one event a line.
+    std::string Log() const {
+        std::ostringstream text;
+        text << std::ifstream(LogFile()).rdbuf();
+        return text.str();
     }
 
     /// What the radio has complained about: whatever a real one would have refused or not understood.
@@ -62,11 +83,29 @@ public:
         return complaints;
     }
 
+    /// Waits until the radio has noticed that its port was closed, or has gone.
+    void AwaitClosedPort() {
+        for (int tries = 0; tries < 500 && m_process->IsRunning() && !Log().ends_with("port closed\n");
+             ++tries)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+
     /// Waits for the end of a radio that ends by itself.
     void AwaitEnd() { m_process->WaitForExit(); }
 
 private:
     std::string MemoryFile() const { return (m_folder / "memories").string(); }
+    std::string LogFile() const { return (m_folder / "log").string(); }
+
+    std::vector<std::string> MemoryLines() {
+        SwitchOff();
+        std::vector<std::string> lines;
+        std::ifstream file(MemoryFile());
+        for (std::string line; std::getline(file, line);)
+            if (!line.empty() && line[0] != '#')
+                lines.push_back(line);
+        return lines;
+    }
 
     testbench::TempFolder m_folder{"zelk-radio"};
     std::unique_ptr<testbench::Process> m_process;

@@ -435,7 +435,7 @@ TEST_F(TRecordDriver, HardwareFileOfAnInterruptedReadIsClosedWithWhatCame) {
 }
 
 TEST_F(TRecordDriver, SerialNumberLeadsToNoOtherFolder) {
-    AskForWorkingLog();
+    m_context.LogFile.Open("Zelk.log", "w");
     std::filesystem::create_directories("Logs/deep");
     std::filesystem::create_directory("KDRV-716_..");
     std::ofstream("precious.txt") << "precious";
@@ -444,7 +444,9 @@ TEST_F(TRecordDriver, SerialNumberLeadsToNoOtherFolder) {
         EXPECT_EQ(
             Converse(Transcript(HardwareOf(serial) + Sends("T204000022") + "@cancel\n"), ReadDebugLogMode),
             TransferCancelled);
-        m_context.DebugLogFile.Close();
+        EXPECT_EQ(Text(RadioSerial), serial);
+        EXPECT_FALSE(m_context.HardwareFile.IsOpened());
+        EXPECT_FALSE(m_context.DebugLogFile.IsOpened());
     }
     EXPECT_EQ(FileText("precious.txt"), "precious");
     EXPECT_FALSE(std::filesystem::exists("new.txt"));

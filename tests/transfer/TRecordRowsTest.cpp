@@ -60,7 +60,18 @@ TEST_F(TRecordEvaluation, CountsSelectedRowsThatAreDefined) {
     EXPECT_EQ(CellText(2, TFLG), "A0");
     EXPECT_EQ(CellText(3, TFLG), "21");
     EXPECT_EQ(CellText(502, TFLG), "A1");
-    EXPECT_EQ(CellText(4, TFLG), "01") << "a row without data is marked too";
+}
+
+// Not the letter of the protocol's set-up, which selects blank rows as well.
+TEST_F(TRecordEvaluation, KeepsBlankRowsBlankByDeparture) {
+    FillP25Row(1);
+    FillP25Row(2, "A0", "01", "001");
+    SetCell(1, SHD0, "009");
+    Select({1, 2, 3, 501});
+    Evaluate();
+    EXPECT_EQ(CellText(1, TFLG), "A1");
+    for (const int row : {3, 9, 501})
+        EXPECT_FALSE(RowHasData(row)) << row;
 }
 
 TEST_F(TRecordEvaluation, CountsRowsThatAreMarkedFromBeforeOrToBeErased) {

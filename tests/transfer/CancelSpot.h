@@ -1,0 +1,46 @@
+// Where a person finds the Cancel button of a transfer.
+#pragma once
+
+#include "tests/support/robot/ScreenSpots.h"
+#include "transfer/ProgressFrame.h"
+
+#include <chrono>
+#include <mutex>
+#include <thread>
+#include <wx/button.h>
+#include <wx/eventfilter.h>
+
+namespace transfertest {
+
+/// Where the Cancel button stands, as told by the events that the progress window gets.
+class CancelSpot : public wxEventFilter {
+public:
+    CancelSpot() { wxEvtHandler::AddFilter(this); }
+    ~CancelSpot() override { wxEvtHandler::RemoveFilter(this); }
+
+    int FilterEvent(wxEvent& event) override {
+        const auto* button = dynamic_cast<wxButton*>(event.GetEventObject());
+        if (button && dynamic_cast<ProgressFrame*>(button->GetParent()) && button->IsShownOnScreen()) {
+            const std::lock_guard lock(m_mutex);
+            m_spot = testbench::MiddleOf(*button);
+        }
+        return Event_Skip;
+    }
+
+    /// May be called from any thread.
+    wxPoint Await() const {
+        wxPoint spot;
+        for (int tries = 0; tries < 300 && spot == wxPoint(); ++tries) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+            const std::lock_guard lock(m_mutex);
+            spot = m_spot;
+        }
+        return spot;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    wxPoint m_spot;
+};
+
+} // namespace transfertest

@@ -1,0 +1,489 @@
+// Whole transfers between the window and simulated digital radios.
+#include "tests/support/robot/Hands.h"
+#include "tests/transfer/CancelSpot.h"
+#include "tests/transfer/RadioUnderTest.h"
+#include "tests/transfer/TRecordDriverTest.h"
+
+#include <algorithm>
+#include <chrono>
+#include <map>
+#include <string>
+#include <thread>
+#include <vector>
+
+using namespace testbench;
+using namespace transfertest;
+
+namespace {
+
+/// The stamp that a simulated radio begins with.
+constexpr const char* RadiosStamp = "20200101000000";
+constexpr const char* UpdateText = "Selected operation requires updated software in Radio";
+constexpr const char* PurgeMessage = "< T204000011EA";
+constexpr const char* EndRecordLine = "< T9030000FC";
+
+std::string QuestionText(const std::string& modes) {
+    return "The following operating modes are used in the memory data but not enabled in the radio:\n" +
+           modes +
+           "\nThe radio will not transmit in disabled modes (affected memories become receive only).\n"
+           "\nDo you wish to continue the transfer?";
+}
+
+/// How a command is expected to end: the driver's box, if any, and the status box.
+struct Ending {
+    const char* status;
+    const char* driverBox = nullptr;
+};
+const Ending Complete = {"Complete"};
+
+class DigitalRadio : public TRecordDriverTest {
+protected:
+    void SetUp() override {
+        TRecordDriverTest::SetUp();
+        // As if this radio had been read last.
+        RadioStamp = RadiosStamp;
+        OpModes[0] = 0x70;
+    }
+
+    /// @param modes expected in the question about operating modes, which is answered with `answer`
+    static void Send(RadioUnderTest& radio, const Ending& ending, const std::string& modes = "",
+                     int answer = wxID_YES) {
+        PortName = radio.PortName();
+        DialogScript script;
+        if (!modes.empty())
+            script.ExpectMessage("Radio Operating Modes", QuestionText(modes), answer)
+                .Style(wxYES_NO | wxICON_WARNING | wxCENTRE);
+        if (ending.driverBox)
+            ExpectDriverBox(script, ending.driverBox);
+        ExpectBox(script, "Write to Radio Status", ending.status);
+        Upload();
+        ExpectAllOver(radio);
+    }
+
+    static void Read(RadioUnderTest& radio, const Ending& ending) {
+        PortName = radio.PortName();
+        DialogScript script;
+        ExpectQuestion(script);
+        if (ending.driverBox)
+            ExpectDriverBox(script, ending.driverBox);
+        ExpectBox(script, "Read from Radio Status", ending.status);
+        Download();
+        ExpectAllOver(radio);
+    }
+
+    static void ExpectAllOver(RadioUnderTest& radio) {
+        ExpectOver();
+        radio.AwaitClosedPort();
+        EXPECT_TRUE(PortIsFree(radio.PortName())) << "the port was not given back";
+    }
+
+    /// Switches the radio off; it may have had nothing to complain of.
+    static void ExpectContent(RadioUnderTest& radio) {
+        EXPECT_EQ(radio.SwitchOff(), 0);
+        EXPECT_EQ(radio.Complaints(), "");
+        EXPECT_EQ(radio.Log().find(" ? "), std::string::npos) << radio.Log();
+    }
+
+    static std::vector<int> Addresses(RadioUnderTest& radio) {
+        std::vector<int> addresses;
+        for (const auto& [address, record] : radio.Records())
+            addresses.push_back(address);
+        return addresses;
+    }
+
+    static std::size_t CountInLog(const RadioUnderTest& radio, const std::string& text) {
+        const std::string log = radio.Log();
+        std::size_t count = 0;
+        for (std::size_t at = log.find(text); at != std::string::npos; at = log.find(text, at + 1))
+            ++count;
+        return count;
+    }
+
+    /// Rows of all modes and zones, a primary with two shadows, and the page's last row.
+    static std::vector<int> FillMixedRows() {
+        const int last = CurrentParameters().Rows;
+        const char* const modes[] = {"w", "n", "D"};
+        for (const int row : {1, 2, 3, 17, 18, 230, last - 1, last}) {
+            FillP25Row(row, "A0", "00", wxString::Format("%03d", row));
+            SetCell(row, MODE, modes[row % 3]);
+            if (Cell(row, MODE) == "D") {
+                SetCell(row, RSQL, "m");
+                SetCell(row, TSQL, "g");
+            }
+            SetCell(row, ZONE, row == 18 ? "15" : row == 17 ? "2" : "1");
+            SetCell(row, DESC, wxString::Format("MEM %d", row));
+        }
+        const bool longPage = last > 232;
+        for (const int guard : {last - 1, last})
+            SetCell(guard, ZONE, longPage ? "X" : "16");
+        SetCell(17, MFLG, "10");
+        SetCell(17, SHAD, "P-2");
+        SetCell(17, SHD0, "040");
+        SetCell(17, SHD1, "041");
+        for (const int slot : {1, 2}) {
+            FillP25Row(39 + slot, "A0", wxString::Format("%02X", slot), "017");
+            SetCell(39 + slot, SHAD, "S-017");
+            SetCell(39 + slot, DESC, wxString::Format("MEM %d", 39 + slot));
+        }
+        return {1, 2, 3, 17, 18, 40, 41, 230, last - 1, last};
+    }
+
+    /// Sends rows of all kinds and reads them back by the window's commands.
+    static void SendAndReadBack(const std::string& model, const std::vector<std::string>& options,
+                                char layout) {
+        const std::vector<int> rows = FillMixedRows();
+        CurrentGrid()->ClearSelection();
+        std::map<int, std::vector<std::string>> before;
+        for (const int row : rows) {
+            CurrentGrid()->SelectRow(row, true);
+            before[row] = KeptTexts(row);
+        }
+        RadioUnderTest radio(model, options);
+        Send(radio, Complete);
+        Read(radio, Complete);
+        EXPECT_EQ(FilledRows(), static_cast<int>(rows.size()));
+        for (const int row : rows) {
+            EXPECT_EQ(KeptTexts(row), before[row]) << row;
+            EXPECT_EQ(CellText(row, TFLG), "C8") << row;
+        }
+        EXPECT_EQ(CellText(17, SHAD), "P-2");
+        EXPECT_EQ(CellText(17, SHD0), "40");
+        EXPECT_EQ(CellText(17, SHD1), "41");
+        EXPECT_EQ(CellText(41, SHAD), "S-017");
+        ExpectContent(radio);
+        const auto records = radio.Records();
+        EXPECT_EQ(records.size(), rows.size());
+        for (const auto& [address, record] : records)
+            EXPECT_EQ(record[0], layout) << address;
+    }
+
+    /// Texts of the cells that neither layout changes.
+    static std::vector<std::string> KeptTexts(int row) {
+        std::vector<std::string> texts;
+        for (const int column :
+             {MFLG, SCAN, ZONE, DESC, MODE, RSQL, RTON, RTGP, RNAC, TSQL, TTON, TTGP, TNAC, TIDC})
+            texts.push_back(CellText(row, column));
+        texts.push_back(CellText(row, RFRQ).substr(0, 8));
+        texts.push_back(CellText(row, TFRQ).substr(0, 8));
+        return texts;
+    }
+
+    /// Memories 1, 2 and 3 in the radio and, as it gave them, on the page.
+    static void Share(RadioUnderTest& radio) {
+        for (const int row : {1, 2, 3})
+            FillP25Row(row);
+        Select({1, 2, 3});
+        Send(radio, Complete);
+        Read(radio, Complete);
+        ASSERT_EQ(FilledRows(), 3);
+        CurrentGrid()->ClearSelection();
+    }
+};
+
+} // namespace
+
+// ---- Writing and reading ----
+
+TEST_F(DigitalRadio, OfProtocol0GetsAndGivesItsChannels) {
+    UsePage(Kdrv716);
+    OpModes[0] = 0x70;
+    SendAndReadBack("KDRV-716", {}, '1');
+}
+
+TEST_F(DigitalRadio, WithALongListGetsAndGivesItsChannelsOverProtocol0) {
+    SendAndReadBack("KDRV-716B", {"--protocol", "0"}, '1');
+}
+
+TEST_F(DigitalRadio, WithALongListGetsAndGivesItsChannelsOverProtocol1) {
+    SendAndReadBack("KDRV-716B", {"--protocol", "1"}, '1');
+}
+
+TEST_F(DigitalRadio, WithALongListGetsAndGivesItsChannelsOverProtocol2) {
+    SendAndReadBack("KDRV-716B", {"--protocol", "2"}, '2');
+}
+
+TEST_F(DigitalRadio, OfOldFirmwareGetsAndGivesItsChannelsOverProtocol2) {
+    SendAndReadBack("KDRV-716B", {"--protocol", "2", "--firmware", "010203"}, '1');
+}
+
+TEST_F(DigitalRadio, OfASmallModelSpeaksProtocol1WithoutASpeedChange) {
+    UsePage(Kdrv716);
+    OpModes[0] = 0x70;
+    SendAndReadBack("KDRV-716", {"--protocol", "1"}, '1');
+}
+
+TEST_F(DigitalRadio, OfTheModuleGetsAndGivesItsChannels) {
+    Retarget(Kdrv4xxx, 5);
+    CurrentParameters().Band = 9;
+    for (int row = 1; row <= 500; ++row)
+        ClearRowData(row, false);
+    const std::pair<int, const char*> channels[] = {{1, "31.00000"}, {2, "121.50000"}, {500, "900.00000"}};
+    for (const auto& [row, frequency] : channels) {
+        FillRow(row, frequency);
+        SetCell(row, PRIM, Cell(row, MNUM));
+    }
+    Select({1, 2, 500});
+    RadioUnderTest radio("KDRV-4xxx:K7");
+    const DialogScript noBox;
+    m_context.ReplyTimeout = 3000;
+    EXPECT_EQ(TransferData(m_context, CurrentGrid(), WriteChannelsMode, radio.PortName(), "Test"),
+              TransferComplete);
+    ExpectAllOver(radio);
+    for (const int row : {1, 2, 500})
+        ClearRowData(row, false);
+    TRecordContext reading;
+    EXPECT_EQ(TransferData(reading, CurrentGrid(), ReadChannelsMode, radio.PortName(), "Test"),
+              TransferComplete);
+    ExpectAllOver(radio);
+    EXPECT_EQ(FilledRows(), 3);
+    for (const auto& [row, frequency] : channels) {
+        // Nine characters come back, so that below 100 MHz there are six decimals.
+        EXPECT_EQ(CellText(row, RFRQ), row == 1 ? "31.000000" : frequency);
+        EXPECT_EQ(CellText(row, MNUM), std::to_string(row));
+        EXPECT_EQ(CellText(row, DESC), "HILL");
+        EXPECT_EQ(CellText(row, MODE), "W");
+        EXPECT_EQ(CellText(row, ZONE), "") << "the module has no zones";
+        EXPECT_EQ(CellText(row, TFLG), "C0");
+    }
+    ExpectContent(radio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2, 500}));
+}
+
+TEST_F(DigitalRadio, GetsTheDefaultRowWhenItIsSelected) {
+    SetCell(0, DESC, "START");
+    Select({0});
+    RadioUnderTest radio("KDRV-716B");
+    Send(radio, Complete);
+    SetCell(0, DESC, "");
+    Read(radio, Complete);
+    EXPECT_EQ(CellText(0, DESC), "START");
+    EXPECT_EQ(FilledRows(), 0);
+    ExpectContent(radio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{0}));
+}
+
+TEST_F(DigitalRadio, GetsTheSelectedRowsOnly) {
+    for (int row = 1; row <= 5; ++row)
+        FillP25Row(row);
+    Select({2, 4});
+    RadioUnderTest radio("KDRV-716B");
+    Send(radio, Complete);
+    ExpectContent(radio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{2, 4}));
+    EXPECT_EQ(CountInLog(radio, "< T143"), 2u);
+    EXPECT_EQ(CountInLog(radio, EndRecordLine), 1u);
+}
+
+TEST_F(DigitalRadio, ThatIsEmptyLeavesAnEmptyPage) {
+    FillP25Row(7);
+    RadioUnderTest radio("KDRV-716B");
+    Read(radio, Complete);
+    EXPECT_EQ(FilledRows(), 0);
+    ExpectContent(radio);
+}
+
+// ---- Stamps, purges, erasures ----
+
+TEST_F(DigitalRadio, ThatWasReadLastKeepsWhatIsNotSent) {
+    RadioUnderTest radio("KDRV-716B");
+    Share(radio);
+    EXPECT_NE(RadioStamp, RadiosStamp);
+    const std::size_t before = CountInLog(radio, "< T143");
+    FillP25Row(4);
+    Select({4});
+    Send(radio, Complete);
+    EXPECT_EQ(CountInLog(radio, PurgeMessage), 0u);
+    EXPECT_EQ(CountInLog(radio, "< T143"), before + 1);
+    ExpectContent(radio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2, 3, 4}));
+}
+
+TEST_F(DigitalRadio, OfAnotherStampIsPurgedAndGetsAllThatThePageHas) {
+    RadioUnderTest first("KDRV-716B");
+    Share(first);
+    RadioUnderTest other("KDRV-716B", {"--stamp", "19990101000000"}, first.Records().at(3) + "\n");
+    FillP25Row(4);
+    FillP25Row(5); // neither selected nor ever sent
+    Select({4});
+    Send(other, Complete);
+    EXPECT_EQ(CountInLog(other, PurgeMessage), 1u);
+    ExpectContent(other);
+    EXPECT_EQ(Addresses(other), (std::vector<int>{1, 2, 3, 4}));
+    EXPECT_EQ(CountInLog(other, "< T143"), 4u);
+}
+
+TEST_F(DigitalRadio, IsPurgedForAShadowAndGetsItsFamilyBack) {
+    RadioUnderTest radio("KDRV-716B");
+    Share(radio);
+    SetCell(2, MFLG, "10");
+    SetCell(2, SHD0, "020");
+    FillP25Row(20, "A0", "01", "002");
+    Select({20});
+    Send(radio, Complete);
+    EXPECT_EQ(CountInLog(radio, PurgeMessage), 1u);
+    Read(radio, Complete);
+    EXPECT_EQ(FilledRows(), 4);
+    EXPECT_EQ(CellText(2, SHAD), "P-1");
+    EXPECT_EQ(CellText(2, SHD0), "20");
+    EXPECT_EQ(CellText(20, SHAD), "S-002");
+    ExpectContent(radio);
+}
+
+TEST_F(DigitalRadio, ErasesASelectedRow) {
+    for (const char* firmware : {"010203", "020103"}) {
+        SCOPED_TRACE(firmware);
+        RadioUnderTest radio("KDRV-716B", {"--firmware", firmware});
+        Share(radio);
+        SetCell(2, TFLG, "C2");
+        Select({2});
+        Send(radio, Complete);
+        EXPECT_EQ(CountInLog(radio, "< T204000210E9"), 1u);
+        ExpectContent(radio);
+        EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 3}));
+        RadioStamp = RadiosStamp;
+    }
+}
+
+TEST_F(DigitalRadio, DoesNotEraseARowThatIsNotSelected) {
+    RadioUnderTest radio("KDRV-716B");
+    Share(radio);
+    SetCell(2, TFLG, "C2");
+    FillP25Row(4);
+    Select({4});
+    Send(radio, Complete);
+    EXPECT_EQ(CountInLog(radio, "< T204000210"), 0u);
+    ExpectContent(radio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2, 3, 4}));
+}
+
+TEST_F(DigitalRadio, HearsNothingAfterAPurgeOfARowToBeErasedThatIsNotSelected) {
+    RadioUnderTest radio("KDRV-716B");
+    Share(radio);
+    SetCell(2, TFLG, "C2");
+    FillP25Row(9);
+    SetCell(9, MFLG, "10");
+    SetCell(9, SHD0, "020");
+    FillP25Row(20, "A0", "01", "009");
+    Select({20});
+    Send(radio, Complete);
+    EXPECT_EQ(CountInLog(radio, PurgeMessage), 1u);
+    EXPECT_EQ(CountInLog(radio, "< T204000210"), 0u);
+    ExpectContent(radio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 3, 9, 20}));
+}
+
+// ---- Questions and refusals ----
+
+TEST_F(DigitalRadio, WithoutTheModesGetsTheMemoriesAfterYes) {
+    OpModes[0] = 0x30; // as it is before anything was transferred
+    FillP25Row(1);
+    SetCell(1, MODE, "w");
+    Select({1});
+    RadioUnderTest radio("KDRV-716B", {"--modes", "20"});
+    Send(radio, Complete, "    Analog Wideband\n");
+    EXPECT_EQ(OpModes[0], 0x20u);
+    FillP25Row(2);
+    SetCell(2, MODE, "D");
+    Select({1, 2});
+    Send(radio, Complete, "    Analog Wideband\n    P25 Conventional\n");
+    ExpectContent(radio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2}));
+}
+
+TEST_F(DigitalRadio, WithoutTheModesGetsNothingAfterNo) {
+    OpModes[0] = 0;
+    const char* const modes[] = {"w", "n", "D"};
+    for (const int row : {1, 2, 3}) {
+        FillP25Row(row);
+        SetCell(row, MODE, modes[row - 1]);
+    }
+    Select({1, 2, 3});
+    RadioUnderTest radio("KDRV-716B", {"--modes", "00"});
+    Send(radio, Complete, "    Analog Wideband\n    Analog Narrowband\n    P25 Conventional\n", wxID_NO);
+    EXPECT_EQ(CountInLog(radio, EndRecordLine), 1u);
+    EXPECT_EQ(CountInLog(radio, "< T143"), 0u);
+    ExpectContent(radio);
+    EXPECT_TRUE(Addresses(radio).empty());
+}
+
+TEST_F(DigitalRadio, OfOldFirmwareIsSparedWhatItCannotHold) {
+    FillP25Row(1);
+    FillP25Row(2);
+    SetCell(2, ZONE, "16");
+    Select({1, 2});
+    const std::vector<std::string> radios[] = {
+        {"--protocol", "0"}, {"--protocol", "1"}, {"--protocol", "2", "--firmware", "010203"}};
+    for (const auto& options : radios) {
+        SCOPED_TRACE(options[1]);
+        RadioUnderTest radio("KDRV-716B", options);
+        Send(radio, {"Invalid Transmit Data", UpdateText});
+        EXPECT_EQ(CountInLog(radio, "< T143"), 0u);
+        EXPECT_EQ(CountInLog(radio, PurgeMessage), 0u);
+        EXPECT_EQ(CountInLog(radio, EndRecordLine), 0u);
+        ExpectContent(radio);
+        EXPECT_TRUE(Addresses(radio).empty());
+    }
+    RadioUnderTest radio("KDRV-716B");
+    Send(radio, Complete);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2}));
+}
+
+// ---- Cancel and silence ----
+
+TEST_F(DigitalRadio, KeepsTheRowsBeforeAClickOnCancel) {
+    for (const int row : {1, 2, 3})
+        FillP25Row(row);
+    Select({1, 2, 3});
+    RadioUnderTest radio("KDRV-716B", {"--fault", "no-ack@2"});
+    const CancelSpot cancel;
+    std::thread user([&] {
+        for (int tries = 0; tries < 500 && CountInLog(radio, "< T143") < 2; ++tries)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        Hands().Click(cancel.Await());
+    });
+    Send(radio, {"Cancelled by User"});
+    user.join();
+    EXPECT_EQ(CountInLog(radio, EndRecordLine), 1u);
+    ExpectContent(radio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2}));
+}
+
+TEST_F(DigitalRadio, LeavesTheRowsBeforeAClickOnCancelOnThePage) {
+    RadioUnderTest radio("KDRV-716B", {"--fault", "silence@3/3"});
+    Share(radio); // the radio's first two transfers
+    const CancelSpot cancel;
+    std::thread user([&] {
+        for (int tries = 0; tries < 500 && CountInLog(radio, "! silence") == 0; ++tries)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        Hands().Click(cancel.Await());
+    });
+    Read(radio, {"Cancelled by User"});
+    user.join();
+    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_TRUE(RowHasData(1) && RowHasData(2));
+    ExpectContent(radio);
+}
+
+TEST_F(DigitalRadio, ThatIsSilentIsGivenUpAfterHalfAMinute) {
+    for (const int row : {1, 2, 300})
+        FillP25Row(row);
+    RadioUnderTest radio("KDRV-716B", {"--fault", "deaf@1"});
+    const auto start = std::chrono::steady_clock::now();
+    Read(radio, {"Timeout", TimeoutText});
+    const auto took = std::chrono::steady_clock::now() - start;
+    EXPECT_GE(took, std::chrono::seconds(30));
+    EXPECT_LT(took, std::chrono::seconds(40));
+    EXPECT_EQ(FilledRows(), 0);
+    ExpectContent(radio);
+}
+
+TEST_F(DigitalRadio, ServesTheNextTransferAfterAFailedOne) {
+    for (const int row : {1, 2})
+        FillP25Row(row);
+    Select({1, 2});
+    RadioUnderTest radio("KDRV-716B", {"--fault", "nak-always@2/1"});
+    Send(radio, {"Communication Error", "Radio rejected channel 2"});
+    Send(radio, Complete);
+    ExpectContent(radio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2}));
+}

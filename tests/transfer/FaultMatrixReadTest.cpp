@@ -1,0 +1,136 @@
+// Every fault of a digital radio while it is read.
+#include "tests/transfer/FaultMatrix.h"
+
+using namespace testbench;
+using namespace transfertest;
+
+namespace {
+
+constexpr const char* ChecksumText = "Checksum Error on channel #";
+constexpr const char* RejectedText = "Radio rejected channel #";
+
+const FaultEnding KindsOfRead[] = {
+    {"none", {}, "Complete"},
+    // The record is asked for once more.
+    {"checksum", {"--fault", "checksum@#"}, "Complete"},
+    {"checksum-always", {"--fault", "checksum-always@#"}, "Checksum Error", ChecksumText, Left::BeforeN},
+    {"nak", {"--fault", "nak@#"}, "Complete"},
+    {"nak-always", {"--fault", "nak-always@#"}, "Communication Error", RejectedText, Left::BeforeN},
+    {"wait", {"--fault", "wait@#"}, "Complete"},
+    // Nothing is erased, nothing acknowledged by the radio.
+    {.name = "busy", .options = {"--fault", "busy@#"}, .status = "Complete", .once = true},
+    {"silence", {"--fault", "silence@#"}, "Timeout", TimeoutText, Left::BeforeN},
+    {"no-ack", {"--fault", "no-ack@#"}, "Complete"},
+    {"late-ack", {"--fault", "late-ack@#", "--late", "1500"}, "Complete"},
+    {"noise", {"--fault", "noise@#"}, "Complete"},
+    {"linefeed", {"--fault", "linefeed@#"}, "Complete"},
+    {"joined", {"--fault", "joined@#"}, "Complete"},
+    {"torn", {"--fault", "torn@#"}, "Complete"},
+    // Half a record has no good checksum.
+    {"cut", {"--fault", "cut@#"}, "Complete"},
+    {.name = "unplug",
+     .options = {"--fault", "unplug@#"},
+     .status = "Timeout",
+     .box = TimeoutText,
+     .left = Left::BeforeN,
+     .portRemains = false},
+    // An end record ends a read, whatever came before it.
+    {"end", {"--fault", "end@#"}, "Complete", "", Left::BeforeN},
+};
+const FaultEnding DeafToTheNewSpeed[] = {{.name = "deaf",
+                                          .options = {"--fault", "deaf@#"},
+                                          .status = "Timeout",
+                                          .box = TimeoutText,
+                                          .left = Left::None,
+                                          .once = true}};
+const FaultEnding DeafWithoutANewSpeed[] = {
+    {.name = "deaf", .options = {"--fault", "deaf@#"}, .status = "Complete", .once = true}};
+
+class FaultsOfARead : public FaultMatrix {
+protected:
+    void Read(int protocol) {
+        FillRadio(protocol);
+        ASSERT_FALSE(HasFailure());
+        const auto cell = [&](const FaultEnding& fault, int n) { ReadWith(fault, protocol, n); };
+        ForEachCell(KindsOfRead, {1, 3, 5}, cell);
+        if (protocol == 2)
+            ForEachCell(DeafToTheNewSpeed, {1}, cell);
+        else
+            ForEachCell(DeafWithoutANewSpeed, {1}, cell);
+    }
+
+private:
+    /// Finds out what a radio holds that was written without faults, and how its memories are read.
+    void FillRadio(int protocol) {
+        const std::vector<std::string> options = {"--protocol", std::to_string(protocol)};
+        FillMemories();
+        RadioUnderTest good("KDRV-716B", options);
+        WriteTo(good);
+        m_held = good.Records();
+        ASSERT_EQ(m_held.size(), Memories.size());
+        for (const auto& [number, record] : m_held)
+            m_content += record + "\n";
+        EmptyPage();
+        const RadioUnderTest filled("KDRV-716B", options, m_content);
+        ASSERT_EQ(Run(filled, ReadChannelsMode).status, TransferComplete);
+        m_good = Rows();
+        ASSERT_EQ(Numbers(m_good), "1 2 3 4 502");
+        for (const int row : Memories) {
+            EXPECT_EQ(CellText(row, DESC), "HILL " + std::to_string(row));
+            EXPECT_TRUE(Cell(row, RFRQ).starts_with(wxString::Format("154.%04d", Decimals(row))))
+                << CellText(row, RFRQ);
+        }
+    }
+
+    void ReadWith(const FaultEnding& fault, int protocol, int n) {
+        EmptyPage();
+        RadioUnderTest radio("KDRV-716B", OptionsOf(fault, protocol, n), m_content);
+        const Result result = Run(radio, ReadChannelsMode);
+        const std::string ending = EndingOf(result, radio);
+        // A read counts what it has asked for from 0: its first record is channel 0.
+        EXPECT_EQ(ending, ExpectedEnding(fault, ReadChannelsMode, n - 1));
+        EXPECT_LT(result.took, Patience);
+        std::map<int, std::string> expected;
+        for (const int row : MemoriesLeft(fault.left, Memories, n))
+            expected[row] = m_good.at(row);
+        EXPECT_EQ(Rows(), expected) << Numbers(Rows());
+        EXPECT_EQ(radio.Records(), m_held);
+        ExpectContent(radio);
+        Print(fault, protocol, n, ending, "page " + Numbers(Rows()), result);
+    }
+
+    static void EmptyPage() {
+        wxGrid* const grid = CurrentGrid();
+        for (int row = 1; row < grid->GetNumberRows(); ++row)
+            if (RowHasData(row))
+                ClearRowData(row, true);
+    }
+
+    /// The rows that hold anything, with all their cells.
+    static std::map<int, std::string> Rows() {
+        std::map<int, std::string> rows;
+        for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
+            if (RowHasData(row))
+                for (const wxString& text : GetRowValues(CurrentPage, row))
+                    rows[row] += Text(text) + "|";
+        return rows;
+    }
+
+    std::string m_content;             ///< memory file of a radio that holds the five
+    std::map<int, std::string> m_held; ///< its records
+    std::map<int, std::string> m_good; ///< rows that are read from it without faults
+};
+
+} // namespace
+
+TEST_F(FaultsOfARead, OverProtocol0EndAsTheyShould) {
+    Read(0);
+}
+
+TEST_F(FaultsOfARead, OverProtocol1EndAsTheyShould) {
+    Read(1);
+}
+
+TEST_F(FaultsOfARead, OverProtocol2EndAsTheyShould) {
+    Read(2);
+}

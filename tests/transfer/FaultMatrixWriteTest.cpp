@@ -1,0 +1,147 @@
+// Every fault of a digital radio while it is written to.
+#include "tests/transfer/FaultMatrix.h"
+
+using namespace testbench;
+using namespace transfertest;
+
+namespace {
+
+constexpr const char* ChecksumText = "Checksum Error on channel #";
+constexpr const char* RejectedText = "Radio rejected channel #";
+
+const FaultEnding KindsOfWrite[] = {
+    {"none", {}, "Complete"},
+    // The record is sent once more, and stored twice.
+    {"checksum", {"--fault", "checksum@#"}, "Complete"},
+    {"checksum-always", {"--fault", "checksum-always@#"}, "Checksum Error", ChecksumText, Left::UpToN},
+    {"nak", {"--fault", "nak@#"}, "Complete"},
+    {"nak-always", {"--fault", "nak-always@#"}, "Communication Error", RejectedText, Left::BeforeN},
+    {"wait", {"--fault", "wait@#"}, "Complete"},
+    {.name = "busy", .options = {"--fault", "busy@#"}, .status = "Complete", .once = true, .purged = true},
+    {.name = "busy erasing",
+     .options = {"--fault", "busy@#"},
+     .status = "Complete",
+     .once = true,
+     .erases = true},
+    {"silence", {"--fault", "silence@#"}, "Timeout", TimeoutText, Left::BeforeN},
+    {"no-ack", {"--fault", "no-ack@#"}, "Timeout", TimeoutText, Left::UpToN},
+    {"late-ack", {"--fault", "late-ack@#", "--late", "1500"}, "Timeout", TimeoutText, Left::UpToN},
+    {"slow-ack", {"--fault", "late-ack@#", "--late", "300"}, "Complete"},
+    {"noise", {"--fault", "noise@#"}, "Complete"},
+    {"linefeed", {"--fault", "linefeed@#"}, "Complete"},
+    {"joined", {"--fault", "joined@#"}, "Complete"},
+    {"torn", {"--fault", "torn@#"}, "Complete"},
+    // Half an acknowledgement has no good checksum.
+    {"cut", {"--fault", "cut@#"}, "Complete"},
+    {.name = "unplug",
+     .options = {"--fault", "unplug@#"},
+     .status = "Timeout",
+     .box = TimeoutText,
+     .left = Left::UpToN,
+     .portRemains = false},
+    {"end", {"--fault", "end@#"}, "Communication Error", RejectedText, Left::BeforeN},
+};
+const FaultEnding DeafToTheNewSpeed[] = {{.name = "deaf",
+                                          .options = {"--fault", "deaf@#"},
+                                          .status = "Timeout",
+                                          .box = TimeoutText,
+                                          .left = Left::None,
+                                          .once = true}};
+const FaultEnding DeafWithoutANewSpeed[] = {
+    {.name = "deaf", .options = {"--fault", "deaf@#"}, .status = "Complete", .once = true}};
+
+class FaultsOfAWrite : public FaultMatrix {
+protected:
+    void Write(int protocol) {
+        Prepare(protocol, Memories);
+        ASSERT_FALSE(HasFailure());
+        const auto cell = [&](const FaultEnding& fault, int n) { WriteWith(fault, protocol, n); };
+        ForEachCell(KindsOfWrite, {1, 3, 5}, cell);
+        if (protocol == 2)
+            ForEachCell(DeafToTheNewSpeed, {1}, cell);
+        else
+            ForEachCell(DeafWithoutANewSpeed, {1}, cell);
+    }
+
+    /// The last record is that of a shadow. The radio is purged before.
+    void WriteShadow(int protocol) {
+        Prepare(protocol, {1, 2, 4, 502, 3});
+        ASSERT_FALSE(HasFailure());
+        ForEachCell(KindsOfWrite, {5},
+                    [&](const FaultEnding& fault, int n) { WriteWith(fault, protocol, n); });
+    }
+
+private:
+    /// Fills the page, and finds out what a radio without faults then holds.
+    void Prepare(int protocol, const Order& order) {
+        MakeBystander(protocol);
+        m_order = order;
+        m_shadow = order.back() == 3;
+        FillMemories();
+        if (m_shadow) {
+            SetCell(2, MFLG, "10");
+            SetCell(2, SHD0, "003");
+            SetCell(3, MFLG, "01");
+            SetCell(3, PRIM, "002");
+            SetCell(3, ZONE, "");
+        }
+        RadioUnderTest good("KDRV-716B", {"--protocol", std::to_string(protocol)});
+        WriteTo(good);
+        m_good.clear();
+        for (const auto& [address, record] : good.Records())
+            m_good[address > 230 ? 502 : address] = {address, record};
+        ASSERT_EQ(m_good.size(), order.size());
+    }
+
+    void WriteWith(const FaultEnding& fault, int protocol, int n) {
+        const bool erases = fault.erases && !m_shadow;
+        RadioStamp = fault.purged ? KnownStamp : RadiosStamp;
+        SetCell(3, TFLG, erases ? "C3" : "A1");
+        const std::string before = PageText();
+        RadioUnderTest radio("KDRV-716B", OptionsOf(fault, protocol, n),
+                             m_bystander + "\n" + (erases ? m_good.at(3).second + "\n" : ""));
+        const Result result = Run(radio, WriteChannelsMode);
+        const std::string ending = EndingOf(result, radio);
+        const int channel = m_order[static_cast<std::size_t>(n - 1)];
+        EXPECT_EQ(ending, ExpectedEnding(fault, WriteChannelsMode, channel));
+        EXPECT_LT(result.took, Patience);
+        EXPECT_EQ(PageText(), before);
+        const auto held = radio.Records();
+        EXPECT_EQ(held, Expected(fault, n, erases)) << Numbers(held);
+        ExpectContent(radio);
+        Print(fault, protocol, n, ending, "radio " + Numbers(held), result);
+    }
+
+    std::map<int, std::string> Expected(const FaultEnding& fault, int n, bool erases) const {
+        std::map<int, std::string> expected;
+        for (const int row : MemoriesLeft(fault.left, m_order, n))
+            if (!erases || row != 3)
+                expected.insert(m_good.at(row));
+        if (!fault.purged && !m_shadow)
+            expected[Bystander] = m_bystander;
+        return expected;
+    }
+
+    Order m_order;         ///< rows in the order in which they are sent
+    bool m_shadow = false; ///< the last of them is a shadow
+    /// What a radio without faults holds, by row: the record with its address.
+    std::map<int, std::pair<int, std::string>> m_good;
+};
+
+} // namespace
+
+TEST_F(FaultsOfAWrite, OverProtocol0EndAsTheyShould) {
+    Write(0);
+}
+
+TEST_F(FaultsOfAWrite, OverProtocol1EndAsTheyShould) {
+    Write(1);
+}
+
+TEST_F(FaultsOfAWrite, OverProtocol2EndAsTheyShould) {
+    Write(2);
+}
+
+TEST_F(FaultsOfAWrite, AtAShadowEndAsTheyShould) {
+    WriteShadow(2);
+}

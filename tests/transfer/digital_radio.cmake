@@ -1,0 +1,13 @@
+# Whole transfers with the simulated digital radios.
+function(digital_radio_test name)
+    zelk_test(${name} WINDOW LIBS zelk_core ${ARGN})
+    target_compile_definitions(${name} PRIVATE
+        ZELK_RADIO="$<TARGET_FILE:zelk-radio>"
+        ZELK_TRANSCRIPTS="${CMAKE_CURRENT_SOURCE_DIR}/transcripts")
+    add_dependencies(${name} zelk-radio)
+endfunction()
+
+digital_radio_test(digital_radio_tests DISPLAY 2 SOURCES DigitalRadioTest.cpp)
+digital_radio_test(digital_fault_write_tests DISPLAY 1 SOURCES FaultMatrixWriteTest.cpp)
+digital_radio_test(digital_fault_read_tests DISPLAY 2 SOURCES FaultMatrixReadTest.cpp)
+digital_radio_test(digital_round_trip_tests DISPLAY 2 SOURCES DigitalRoundTripTest.cpp)

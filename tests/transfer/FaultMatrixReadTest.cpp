@@ -21,7 +21,7 @@ const FaultEnding KindsOfRead[] = {
     {.name = "busy", .options = {"--fault", "busy@#"}, .status = "Complete", .once = true},
     {"silence", {"--fault", "silence@#"}, "Timeout", TimeoutText, Left::BeforeN},
     {"no-ack", {"--fault", "no-ack@#"}, "Complete"},
-    {"late-ack", {"--fault", "late-ack@#", "--late", "1500"}, "Complete"},
+    {"late-ack", {"--fault", "late-ack@#", "--late", "4000"}, "Complete"},
     {"noise", {"--fault", "noise@#"}, "Complete"},
     {"linefeed", {"--fault", "linefeed@#"}, "Complete"},
     {"joined", {"--fault", "joined@#"}, "Complete"},
@@ -85,7 +85,7 @@ private:
     void ReadWith(const FaultEnding& fault, int protocol, int n) {
         EmptyPage();
         RadioUnderTest radio("KDRV-716B", OptionsOf(fault, protocol, n), m_content);
-        const Result result = Run(radio, ReadChannelsMode);
+        const Result result = Run(radio, ReadChannelsMode, TimesOut(fault));
         const std::string ending = EndingOf(result, radio);
         // A read counts what it has asked for from 0: its first record is channel 0.
         EXPECT_EQ(ending, ExpectedEnding(fault, ReadChannelsMode, n - 1));

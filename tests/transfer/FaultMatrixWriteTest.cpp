@@ -25,7 +25,7 @@ const FaultEnding KindsOfWrite[] = {
      .erases = true},
     {"silence", {"--fault", "silence@#"}, "Timeout", TimeoutText, Left::BeforeN},
     {"no-ack", {"--fault", "no-ack@#"}, "Timeout", TimeoutText, Left::UpToN},
-    {"late-ack", {"--fault", "late-ack@#", "--late", "1500"}, "Timeout", TimeoutText, Left::UpToN},
+    {"late-ack", {"--fault", "late-ack@#", "--late", "4000"}, "Timeout", TimeoutText, Left::UpToN},
     {"slow-ack", {"--fault", "late-ack@#", "--late", "300"}, "Complete"},
     {"noise", {"--fault", "noise@#"}, "Complete"},
     {"linefeed", {"--fault", "linefeed@#"}, "Complete"},
@@ -100,7 +100,7 @@ private:
         const std::string before = PageText();
         RadioUnderTest radio("KDRV-716B", OptionsOf(fault, protocol, n),
                              m_bystander + "\n" + (erases ? m_good.at(3).second + "\n" : ""));
-        const Result result = Run(radio, WriteChannelsMode);
+        const Result result = Run(radio, WriteChannelsMode, TimesOut(fault));
         const std::string ending = EndingOf(result, radio);
         const int channel = m_order[static_cast<std::size_t>(n - 1)];
         EXPECT_EQ(ending, ExpectedEnding(fault, WriteChannelsMode, channel));

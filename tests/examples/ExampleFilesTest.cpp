@@ -47,9 +47,9 @@ const std::map<std::string, std::string> DefaultRows{
     {"KDAR AM 118-138", "000|N|VHFAM118|118.000|138.000|N"},
     {"MDLX K6 3-BAND", "000|FM 30-50|0|MODL   K6|N|31.0000|OFF|OFF|31.0000|OFF|OFF"},
     {" AM 118-138", "000|118.000"},
-    {"RP25 FM 136-174", "0|0|0|N|N|1|VHF  136|n|136.0000|x|67.0|023|0001|293|"
+    {"RP25 FM 136-174", "0|000|0|N|N|1|VHF  136|n|136.0000|x|67.0|023|0001|293|"
                         "174.0000|x|67.0|023|0001|293|00000001|0|0|0|0|0|0|0"},
-    {"NP25 FM 136-174", "0|0|0|N|N|1|VHF  136|n|136.0000|x|10|67.0|023|0001|293|"
+    {"NP25 FM 136-174", "0|000|0|N|N|1|VHF  136|n|136.0000|x|10|67.0|023|0001|293|"
                         "174.0000|x|67.0|023|0001|293|00000001|0|0|0|0|0|0|0"},
 };
 
@@ -220,9 +220,7 @@ TEST_P(ExampleFiles, NumberEachMemoryOnce) {
     std::set<std::string> numbers;
     for (const Memory& memory : m_memories) {
         EXPECT_TRUE(numbers.insert(memory.Get("MN")).second) << "row " << memory.row;
-        // The default row of P25 files has a number of one digit.
-        const bool isShort = IsP25(GetParam()) && memory.row == 0;
-        EXPECT_EQ(isShort ? "0" : wxString::Format("%03d", memory.row).utf8_string(), memory.Get("MN"));
+        EXPECT_EQ(wxString::Format("%03d", memory.row).utf8_string(), memory.Get("MN"));
     }
 }
 

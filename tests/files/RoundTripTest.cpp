@@ -113,5 +113,5 @@ TEST_F(RoundTrip, GivesEveryExampleFileBackByteForByte) {
         EXPECT_EQ("Select function", Status(0)) << entry.path();
         ++files;
     }
-    EXPECT_EQ(29, files);
+    EXPECT_EQ(31, files);
 }

@@ -233,7 +233,9 @@ bool DigitalRadio::IsAtRest() const {
 }
 
 bool DigitalRadio::BeginsAnew(std::string_view bytes) const {
-    return m_text.empty() && bytes.starts_with("T007");
+    // The rest of a hello may still be on its way.
+    constexpr std::string_view hello = "T007";
+    return m_text.empty() && hello.starts_with(bytes.substr(0, hello.size()));
 }
 
 void DigitalRadio::PortClosed() {

@@ -89,6 +89,14 @@ TEST(DigitalDialogue, BeginsAnewAt9600AfterAnEndOrWhenThePortWasClosed) {
     EXPECT_EQ(bench.Radio().Violations(), 0);
 }
 
+TEST(DigitalDialogue, IsSeenToBeginAnewByTheFirstLettersOfAHello) {
+    Bench bench({"KDRV-716B"});
+    for (const char* bytes : {"T", "T0", "T00", "T007", Hello0})
+        EXPECT_TRUE(bench.Radio().BeginsAnew(bytes)) << bytes;
+    for (const char* bytes : {"T1", "T204000000FB", "07", "x"})
+        EXPECT_FALSE(bench.Radio().BeginsAnew(bytes)) << bytes;
+}
+
 TEST(DigitalDialogue, MayEndAtAnyPoint) {
     for (int steps = 0; steps <= 4; ++steps) {
         Bench bench({"KDRV-716", "--protocol", "1"});

@@ -15,6 +15,7 @@ public:
     void OnOpen(wxCommandEvent& event) override;
     void OnSave(wxCommandEvent& event) override;
     void OnSaveAs(wxCommandEvent& event) override;
+    void OnExport(wxCommandEvent& event) override;
 
     // transfer/
     void OnUpload(wxCommandEvent& event) override;

@@ -282,7 +282,7 @@ TEST_F(List716, TheLockedScanCellIsThatOfTheNumberInTheLine) {
 
 TEST_F(List716, ShadowsAreLinkedToTheirPrimary) {
     EXPECT_EQ(3, ImportLines({ListLine("005", {{6, "P"}, {10, "4"}}), ShadowLine("006", "005"),
-                              ShadowLine("009", "5")}));
+                              ShadowLine("009", "5  ")}));
     ExpectCells(
         5, {{SHD0, "6"}, {SHD1, "9"}, {SHD2, "0"}, {SHD6, "0"}, {MFLG, "10"}, {SHAD, "P-2"}, {ZONE, "4"}});
     ExpectCells(6, {{MFLG, "01"}, {SHAD, "S-005"}, {PRIM, "006"}, {ZONE, "4"}});

@@ -91,7 +91,7 @@ TEST_F(MultiZEL, ScanMarksBecomeWhatThePageShows) {
 TEST_F(MultiZEL, ScanCellsOfAnalogPagesGetTheirBoxes) {
     RetargetTo("ANFM");
     Write({});
-    wxGridCellRendererPtr renderer = CurrentGrid()->GetCellRendererPtr(5, SCAN);
+    const wxGridCellRendererPtr renderer(CurrentGrid()->GetCellRenderer(5, SCAN));
     EXPECT_NE(nullptr, dynamic_cast<ScanlistRenderer*>(renderer.get()));
 }
 

@@ -137,8 +137,8 @@ protected:
         const wxString path = (m_folder / "file").string();
         FileImporter importer;
         const int kind = importer.Identify(path);
-        if (kind == MultiZELFile)
-            EXPECT_TRUE(importer.OpenLines(path));
+        const bool opened = kind != MultiZELFile || importer.OpenLines(path);
+        EXPECT_TRUE(opened);
         ResetPage(CurrentPage);
         EmptyDefaultMemories(CurrentPage);
         const int count = importer.Read(kind);

@@ -87,6 +87,7 @@ void ZelkFrame::OnImport(wxCommandEvent& event) {
     const wxString path = dialog.GetPath();
     const int kind = m_importer->Identify(path);
     if (kind == MultiZELFile && !m_importer->OpenLines(path)) {
+        m_importer->Close();
         wxMessageBox(path, "File Open Error", wxOK | wxCENTRE | wxICON_ERROR);
         return event.Skip();
     }

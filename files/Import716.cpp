@@ -25,7 +25,9 @@ int RowOf716(Record716& record) {
     if (read < 0 || read > page.Rows)
         return -1;
     const int number = MovedNumber716(read, page.Radio);
+    if (number > page.Rows)
+        return -1;
     if (number != read)
         record.Mnum = record.Prim = NumberText(number);
-    return number <= page.Rows ? number : -1;
+    return number;
 }

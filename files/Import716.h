@@ -40,6 +40,6 @@ ListLine716 Read716TextLine(const wxString& line, int rows, Record716& record);
 /// rows behind its 230 ordinary memories at its end.
 int MovedNumber716(int number, int radio);
 
-/// The row of the current page's grid that a record is for, -1 when it is for none. The record's Mnum
-/// and Prim are changed where its number moves.
+/// The row of the current page's grid that a record is for, -1 when it is for none. Where the number
+/// moves to a row, it is changed in the record's Mnum and Prim.
 int RowOf716(Record716& record);

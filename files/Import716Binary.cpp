@@ -12,7 +12,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
+#include <memory>
 #include <string>
+#include <utility>
 
 using namespace RadioCatalogue;
 
@@ -134,7 +136,9 @@ wxString UnitIdOf(ByteReader& bytes, size_t size) {
         const int word = bytes.Word();
         value = value * 100 + word / 16 * 10 + word % 16;
     }
-    return wxString::Format("%07d", value > 99999999 ? 0 : static_cast<int>(value));
+    constexpr size_t digits = 7;
+    const wxString text = NumberText(value > 99999999 ? 0 : static_cast<int>(value));
+    return text.length() < digits ? wxString(digits - text.length(), '0') + text : text;
 }
 
 wxString ReadField(ByteReader& bytes, const WireField& field, int type) {
@@ -218,18 +222,18 @@ size_t Read716Record(std::string_view bytes, int type, Record716& record) {
 int Import716_Binary(wxFFile& file) {
     wxGrid* grid = CurrentGrid();
     Records records(file, CurrentParameters().Type);
-    LastOfRow<Record716> kept(grid->GetNumberRows());
+    LastOfRow<std::shared_ptr<const Record716>> kept(grid->GetNumberRows());
     int count = 0;
     for (Record716 record; records.Next(record);) {
         const int row = RowOf716(record);
         if (row < 0)
             continue;
-        kept.Keep(row, record);
+        kept.Keep(row, std::make_shared<const Record716>(std::move(record)));
         ++count;
     }
     wxGridUpdateLocker quiet(grid);
-    kept.ForEach([grid](int row, const Record716& record) {
-        write716ToGrid(grid, row, record);
+    kept.ForEach([grid](int row, const std::shared_ptr<const Record716>& record) {
+        write716ToGrid(grid, row, *record);
         CheckRow(grid, row);
     });
     return count;

@@ -9,7 +9,9 @@
 #include <wx/ffile.h>
 #include <wx/grid.h>
 
+#include <memory>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -63,9 +65,16 @@ bool ReadNumberField(const wxString& line, int rows, wxString& number) {
 /// A record of a list, and the number of its primary as its line gives it: the record's own text may
 /// have gone when its number moved, and the check of the row makes it the row's number.
 struct ListRecord {
+    ListRecord() = default;
+    ListRecord(Record716&& from, int itsPrimary) : record(std::move(from)), primary(itsPrimary) {}
+
     Record716 record;
     int primary = 0;
 };
+
+/// A record that is repeated is the same one in each row that it is for.
+using KeptRecord = std::shared_ptr<ListRecord>;
+using KeptRecords = LastOfRow<KeptRecord>;
 
 bool IsGuardRecord(const Record716& record) {
     return ReadHex(record.Mflg) & Guard716;
@@ -106,11 +115,11 @@ void LinkShadow(wxGrid* grid, int row, int primary) {
     grid->SetReadOnly(row, ZONE, true);
 }
 
-void LinkShadows(wxGrid* grid, const LastOfRow<ListRecord>& kept) {
+void LinkShadows(wxGrid* grid, const KeptRecords& kept) {
     for (int row = 1; row < grid->GetNumberRows(); ++row) {
-        const ListRecord* from = kept.Of(row);
+        const KeptRecord* from = kept.Of(row);
         if (from && ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask)
-            LinkShadow(grid, row, from->primary);
+            LinkShadow(grid, row, (*from)->primary);
     }
 }
 
@@ -160,20 +169,21 @@ int Import716_Text(wxFFile& file) {
     for (int title = 0; title < TitleLines; ++title)
         lines.Next(line);
 
-    LastOfRow<ListRecord> kept(rows);
+    KeptRecords kept(rows);
     std::set<int> unscanned;
-    ListRecord current;
+    auto current = std::make_shared<ListRecord>();
     int count = 0;
-    while (lines.Next(line)) {
-        const ListLine716 kind = Read716TextLine(line, rows, current.record);
+    for (Record716 record; lines.Next(line);) {
+        const ListLine716 kind = Read716TextLine(line, rows, record);
         if (kind == ListLine716::End)
             break;
         if (kind == ListLine716::Memory) {
-            current.primary = MovedNumber716(ReadDecimal(current.record.Prim), CurrentParameters().Radio);
-            unscanned.insert(UnscannedRow(current.record));
+            const int primary = MovedNumber716(ReadDecimal(record.Prim), CurrentParameters().Radio);
+            unscanned.insert(UnscannedRow(record));
+            current = std::make_shared<ListRecord>(std::move(record), primary);
         }
         // Meant: a number without a memory repeats the record before it, which is counted again.
-        const int row = RowOfListRecord(current.record);
+        const int row = RowOfListRecord(current->record);
         if (row < 0)
             continue;
         kept.Keep(row, current);
@@ -184,8 +194,8 @@ int Import716_Text(wxFFile& file) {
     for (int row : unscanned)
         if (row >= 0)
             grid->SetReadOnly(row, SCAN, true);
-    kept.ForEach([grid](int row, const ListRecord& from) {
-        write716ToGrid(grid, row, from.record);
+    kept.ForEach([grid](int row, const KeptRecord& from) {
+        write716ToGrid(grid, row, from->record);
         CheckRow(grid, row);
     });
     LinkShadows(grid, kept);

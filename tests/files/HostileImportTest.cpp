@@ -21,15 +21,19 @@ struct HostileFile {
 
 class HostileImport : public ImportTest {
 protected:
-    /// Imports each file by the menu into a page of each type.
+    /// Imports each file into a page of each type, into the first by the menu.
     void ImportAll(const std::vector<HostileFile>& files, std::initializer_list<const char*> types) {
         for (const char* type : types) {
             for (const HostileFile& file : files) {
                 SCOPED_TRACE(std::string(file.name) + " into " + type);
                 RetargetTo(type);
-                testbench::WriteFile(m_folder / "file", file.bytes);
                 const double start = ProcessorSeconds();
-                ImportByMenu("file", file.box);
+                if (type == *types.begin()) {
+                    testbench::WriteFile(m_folder / "file", file.bytes);
+                    ImportByMenu("file", file.box);
+                } else {
+                    EXPECT_GE(Import(file.bytes), 0);
+                }
                 EXPECT_LT(ProcessorSeconds() - start, HangLimit);
                 EXPECT_EQ(CurrentParameters().Rows + 1, CurrentGrid()->GetNumberRows());
                 for (int zone = 0; zone < ZonesPerPage; ++zone)

@@ -164,7 +164,13 @@ TEST_F(ImportCommand, ClearsThePageForAFileOfNoKind) {
 
 TEST_F(ImportCommand, ClearsThePageForAFileThatIsNotThere) {
     SetCell(5, DESC, "FORMER");
-    ImportByMenu("missing.716", UnknownType);
+    WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));
+    DialogScript script;
+    script.Expect(DialogKind::File, "Import file").Path(PathOf("list.716")).Set([&](wxDialog*) {
+        std::filesystem::remove(PathOf("list.716"));
+    });
+    script.ExpectMessage("Import File", UnknownType);
+    Choose(IdImport);
     EXPECT_EQ(Rows({0}), RowsWithText());
 }
 

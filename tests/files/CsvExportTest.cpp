@@ -2,11 +2,10 @@
 #include "files/CsvExport.h"
 
 #include "tests/files/CsvTest.h"
+#include "tests/files/FileSizeLimit.h"
 
 #include <wx/filedlg.h>
 #include <wx/msgdlg.h>
-
-#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 using testbench::DialogKind;
@@ -199,10 +198,11 @@ TEST_F(CsvExportCommand, ReplacesAFormerFileAndLeavesNothingElse) {
 TEST_F(CsvExportCommand, ThatCannotBeWrittenSaysSo) {
     EmptyPageOf("O12");
     Select({1});
-    ExportInVain(m_folder / "missing/list.csv");
+    fs::create_symlink(m_folder / "missing/list.csv", m_folder / "link.csv");
+    ExportInVain(m_folder / "link.csv");
     fs::create_directories(m_folder / "folder.csv");
     ExportInVain(m_folder / "folder.csv");
-    EXPECT_EQ(std::vector<std::string>{"folder.csv"}, Entries());
+    EXPECT_EQ((std::vector<std::string>{"folder.csv", "link.csv"}), Entries());
 }
 
 TEST_F(CsvExportCommand, ThatCannotBeWrittenLeavesTheFormerFile) {
@@ -214,6 +214,16 @@ TEST_F(CsvExportCommand, ThatCannotBeWrittenLeavesTheFormerFile) {
     ExportInVain(m_folder / name);
     EXPECT_EQ("former", testbench::ReadFile(m_folder / name));
     EXPECT_EQ(std::vector<std::string>{name}, Entries());
+}
+
+TEST_F(CsvExportCommand, ThatEndsOnAFullDiskSaysSoAndLeavesTheFormerFile) {
+    EmptyPageOf("ANFM");
+    testbench::WriteFile(m_folder / "list.csv", "former");
+    CurrentGrid()->SelectAll();
+    const FileSizeLimit full(1000);
+    ExportInVain(m_folder / "list.csv");
+    EXPECT_EQ("former", testbench::ReadFile(m_folder / "list.csv"));
+    EXPECT_EQ(std::vector<std::string>{"list.csv"}, Entries());
 }
 
 TEST_F(CsvExportCommand, WritesUnderTheNameThatWasChosen) {
@@ -260,6 +270,7 @@ TEST_F(CsvExportFile, IsOpenOnceAndWrittenWhenItIsClosed) {
     fields.Add("121.500");
     CsvExport list;
     EXPECT_FALSE(list.WriteCsvLine(fields, 2)) << "no file is open";
+    EXPECT_FALSE(list.OpenCsvWrite((m_folder / "missing/a.csv").string(), CurrentParameters().Type));
     EXPECT_TRUE(list.CloseCsv());
     ASSERT_TRUE(list.OpenCsvWrite(path, CurrentParameters().Type));
     EXPECT_FALSE(list.OpenCsvWrite(path, CurrentParameters().Type)) << "it is open already";

@@ -48,6 +48,7 @@ TEST_F(CsvImport, FillsARowFromTheDefaultRowAndNumbersIt) {
     ASSERT_EQ(1, Import("MNUM\n5\n"));
     std::vector<std::string> expected = RowTexts(0);
     expected[MNUM] = "005";
+    expected[DESC] = "VHF   005";
     EXPECT_EQ(expected, RowTexts(5));
     EXPECT_EQ((std::vector<int>{0, 5}), RowsWithText());
 }
@@ -195,6 +196,7 @@ TEST_F(CsvImport, LeavesTheDefaultTextWhereAFieldIsEmptyOrBlank) {
     ASSERT_EQ(1, Import("MNUM,SCAN,DESC,MODE,RFRQ,TFRQ\n5,,\"\",  , ,\n"));
     std::vector<std::string> expected = RowTexts(0);
     expected[MNUM] = "005";
+    expected[DESC] = "VHF   005";
     EXPECT_EQ(expected, RowTexts(5));
     EXPECT_FALSE(IsPainted(5, RFRQ));
 }
@@ -382,7 +384,7 @@ TEST_F(CsvImport, LeavesGuardRowsWhatTheyMayHold) {
 
 TEST_F(CsvImport, ReadsScanListsInAllTheirForms) {
     const std::pair<const char*, const char*> cases[] = {
-        {"0", "0"}, {"31", "31"}, {"32", "0"}, {"1_3__", "5"}, {"L", "0"}, {"031", "0"}, {"_____", "0"}};
+        {"0", "0"}, {"31", "31"}, {"32", "0"}, {"1_3__", "5"}, {"L____", "0"}, {"031", "0"}, {"_____", "0"}};
     for (const auto& [field, text] : cases) {
         EmptyPageOf("ANFM");
         ASSERT_EQ(1, Import(std::string("MNUM,SCAN\n5,") + field));

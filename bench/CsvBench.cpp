@@ -1,6 +1,7 @@
 // Comma-separated lists into a page and out of it.
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
+#include "bench/OperationRecord.h"
 #include "bench/TakeFastest.h"
 #include "bench/ToolkitFloor.h"
 #include "catalogue/PageModel.h"
@@ -12,6 +13,7 @@
 #include "frame/ZelkMain.h"
 
 #include <wx/ffile.h>
+#include <wx/file.h>
 #include <wx/filename.h>
 #include <wx/grid.h>
 #include <wx/notebook.h>
@@ -75,14 +77,12 @@ void RunImport(benchmark::State& state, const PageCase& page) {
     DropListedPage();
 }
 
-/// The toolkit alone: read the file, write the cells that the import leaves with a text.
+/// The toolkit alone: read the file, and read and write the cells that the import reads and writes.
 void RunImportBare(benchmark::State& state, const PageCase& page) {
     MakeListedPage(page);
-    EmptyPage();
-    ImportList();
-    const GridContent content = ContentOfCurrentPage();
+    const OperationRecord record = RecordOperation(EmptyPage, ImportList);
     DropPage();
-    wxGrid* grid = AddBarePage(MainFrame->m_notebook, content);
+    wxGrid* grid = AddBarePage(MainFrame->m_notebook, record.before);
     TakeFastest(
         state, [grid] { grid->ClearGrid(); },
         [&] {
@@ -90,7 +90,7 @@ void RunImportBare(benchmark::State& state, const PageCase& page) {
             wxFFile(ListPath(), "rb").ReadAll(&text);
             benchmark::DoNotOptimize(&text);
             const wxGridUpdateLocker quiet(grid);
-            WriteTexts(grid, content);
+            record.trace.Replay(grid);
         });
     DropListedPage();
 }
@@ -102,7 +102,8 @@ void RunExport(benchmark::State& state, const PageCase& page) {
     DropListedPage();
 }
 
-/// The toolkit alone: read the cells that are listed, write their texts into a file.
+/// The toolkit alone: read the cells that are listed, write their texts into a file that replaces the
+/// former one.
 void RunExportBare(benchmark::State& state, const PageCase& page) {
     MakeListedPage(page);
     TakeFastest(
@@ -116,9 +117,11 @@ void RunExportBare(benchmark::State& state, const PageCase& page) {
                         text << CurrentGrid()->GetCellValue(row, CsvFieldTable[position].written) << ',';
                 text << '\n';
             }
-            wxFFile file(ListPath(), "w");
+            wxFile file(ListPath() + ".bare", wxFile::write);
             file.Write(text);
+            file.Flush();
             file.Close();
+            wxRenameFile(ListPath() + ".bare", ListPath());
         });
     DropListedPage();
 }

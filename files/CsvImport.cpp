@@ -33,14 +33,20 @@ void TellHeaderMissing() {
                  "Import CSV", wxOK | wxCENTRE | wxICON_ERROR);
 }
 
-/// The tone as the list of the page's kind has it. Meant: each kind looks into the other's list, and
-/// what that lacks ("OFF" on analog pages) comes out empty and falls to the default row's.
-wxString NormalTone(const wxString& text) {
-    return CurrentPageIsP25() ? GetToneText(GetToneIndex(text)) : GetCtcssText(GetCtcssIndex(text));
+/// text if a list has it at this position, else nothing.
+const wxString& Normal(const wxString& text, int position) {
+    static const wxString nothing;
+    return position >= 0 ? text : nothing;
 }
 
-wxString NormalCode(const wxString& text) {
-    return GetCodeText(GetCodeIndex(text));
+/// The tone as the list of the page's kind has it. Meant: each kind looks into the other's list, and
+/// what that lacks ("OFF" on analog pages) comes out empty and falls to the default row's.
+const wxString& NormalTone(const wxString& text) {
+    return Normal(text, CurrentPageIsP25() ? GetToneIndex(text) : GetCtcssIndex(text));
+}
+
+const wxString& NormalCode(const wxString& text) {
+    return Normal(text, GetCodeIndex(text));
 }
 
 /// Writes memory rows of the current page, each from the default row and then cell by cell.
@@ -60,7 +66,6 @@ public:
             return;
         GiveZoneBack();
         CopyValuesToRow(CurrentPage, m_defaults, row);
-        m_numbers.Change(row, NumberText(row));
         m_taken[static_cast<size_t>(row)] = true;
     }
 
@@ -132,6 +137,7 @@ public:
 private:
     wxString TextOf(int column) const { return m_grid->GetCellValue(m_row, column); }
 
+    /// The number is that of the row, whatever the line calls it.
     void TakeNumber() {
         if (m_row == 0)
             CheckMNum(m_grid, m_row, NumberText(m_row));

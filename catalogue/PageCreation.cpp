@@ -184,6 +184,10 @@ private:
 
 } // namespace
 
+void CopyValuesToRow(int page, const wxArrayString& values, int row) {
+    RowImage(page, values, true).WriteInto(row, true);
+}
+
 void FillRowsFromDefault(std::initializer_list<int> rows) {
     wxGrid* grid = CurrentGrid();
     const wxGridUpdateLocker quiet(grid);

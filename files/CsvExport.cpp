@@ -18,6 +18,8 @@ namespace {
 /// The text with the line ends of the system.
 std::string InSystemLineEnds(const std::string& text) {
     const std::string end = wxString(wxTextBuffer::GetEOL()).utf8_string();
+    if (end == "\n")
+        return text;
     std::string lines;
     for (const char c : text)
         if (c == '\n')
@@ -63,8 +65,9 @@ bool CsvExport::WriteCsvLine(const wxArrayString& fields, size_t count) {
 }
 
 void CsvExport::ExportCSV(wxGrid* grid, int type) {
+    wxArrayString fields;
     ForEachSelectedRow(grid, [&](int row) {
-        wxArrayString fields;
+        fields.Empty();
         for (int position = 0; position < CsvFieldTotal; ++position)
             if (CsvFieldMask[type][position])
                 fields.Add(grid->GetCellValue(row, CsvFieldTable[position].written));

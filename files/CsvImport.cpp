@@ -33,21 +33,30 @@ void TellHeaderMissing() {
                  "Import CSV", wxOK | wxCENTRE | wxICON_ERROR);
 }
 
-/// The tone as the list of the page's kind has it. Meant: each kind looks into the other's list, and
-/// what that lacks ("OFF" on analog pages) comes out empty and falls to the default row's.
-wxString NormalTone(const wxString& text) {
-    return CurrentPageIsP25() ? GetToneText(GetToneIndex(text)) : GetCtcssText(GetCtcssIndex(text));
+/// text if a list has it at this position, else nothing.
+const wxString& Normal(const wxString& text, int position) {
+    static const wxString nothing;
+    return position >= 0 ? text : nothing;
 }
 
-wxString NormalCode(const wxString& text) {
-    return GetCodeText(GetCodeIndex(text));
+/// The tone as the list of the page's kind has it. Meant: each kind looks into the other's list, and
+/// what that lacks ("OFF" on analog pages) comes out empty and falls to the default row's.
+const wxString& NormalTone(const wxString& text) {
+    return Normal(text, CurrentPageIsP25() ? GetToneIndex(text) : GetCtcssIndex(text));
+}
+
+const wxString& NormalCode(const wxString& text) {
+    return Normal(text, GetCodeIndex(text));
 }
 
 /// Writes memory rows of the current page, each from the default row and then cell by cell.
 class RowWriter {
 public:
     RowWriter()
-        : m_numbers(CurrentParameters().Rows), m_taken(static_cast<size_t>(CurrentParameters().Rows) + 1) {}
+        : m_defaults(GetRowValues(CurrentPage, 0)), m_numbers(CurrentParameters().Rows),
+          m_taken(static_cast<size_t>(CurrentParameters().Rows) + 1) {
+        m_grid->ClearSelection();
+    }
 
     /// Gives a row the default row's texts and its number, and a P25 row a zone. The default row
     /// itself stays as it is.
@@ -56,12 +65,18 @@ public:
         if (row == 0)
             return;
         GiveZoneBack();
-        FillRowsFromDefault({row});
-        m_numbers.Change(row, NumberText(row));
+        CopyValuesToRow(CurrentPage, m_defaults, row);
         m_taken[static_cast<size_t>(row)] = true;
     }
 
     void Write(int column, const wxString& text) { m_grid->SetCellValue(m_row, column, text); }
+
+    /// The row has all its texts.
+    void FinishRow(const wxString& flags) {
+        Write(TFLG, flags);
+        if (m_row == 0)
+            m_defaults = GetRowValues(CurrentPage, 0);
+    }
 
     /// Puts a field of the general dialect into its cell.
     void TakeField(int column, const wxString& text) {
@@ -122,6 +137,7 @@ public:
 private:
     wxString TextOf(int column) const { return m_grid->GetCellValue(m_row, column); }
 
+    /// The number is that of the row, whatever the line calls it.
     void TakeNumber() {
         if (m_row == 0)
             CheckMNum(m_grid, m_row, NumberText(m_row));
@@ -151,6 +167,7 @@ private:
     }
 
     wxGrid* m_grid = CurrentGrid();
+    wxArrayString m_defaults;
     MemoryNumberIndex m_numbers;
     /// Rows that this list gave a zone slot; TFLG doesn't tell any more.
     std::vector<bool> m_taken;
@@ -165,7 +182,7 @@ wxString WithPoint(wxString text) {
     return text;
 }
 
-void TakeKdarLine(RowWriter& writer, const wxArrayString& fields) {
+void TakeKdarLine(RowWriter& writer, const CsvTexts& fields) {
     // Meant: the list's number never reaches the row, but a missing one takes the row's away.
     if (fields[KdarMemory].empty())
         writer.Write(MNUM, wxString());
@@ -184,7 +201,7 @@ void TakeKdarLine(RowWriter& writer, const wxArrayString& fields) {
         writer.Write(RONL, fields[KdarRxOnly] == "Yes" ? "Y" : "N");
 }
 
-void TakeLine(RowWriter& writer, const CsvReader& reader, const wxArrayString& fields) {
+void TakeLine(RowWriter& writer, const CsvReader& reader, const CsvTexts& fields) {
     for (int position = 0; position < CsvFieldTotal; ++position) {
         const int column = CsvFieldTable[position].read;
         if (reader.CsvFieldColumn[static_cast<size_t>(position)] < 0) {
@@ -209,7 +226,7 @@ int Import_CSV(wxFFile& file) {
     const wxGridUpdateLocker quiet(CurrentGrid());
     const int rows = CurrentGrid()->GetNumberRows();
     RowWriter writer;
-    wxArrayString fields;
+    CsvTexts fields;
     int count = 0;
     // Meant: a list longer than the page loses its end, whatever rows its lines name.
     for (int line = 1; reader.GetData_CSV(fields, rows); ++line) {
@@ -217,7 +234,7 @@ int Import_CSV(wxFFile& file) {
             continue;
         writer.FillRow(reader.Row());
         TakeLine(writer, reader, fields);
-        writer.Write(TFLG, TflgMade);
+        writer.FinishRow(TflgMade);
         ++count;
     }
     return count;
@@ -237,7 +254,7 @@ int Import_KDAR(wxFFile& file) {
     const wxGridUpdateLocker quiet(CurrentGrid());
     const int rows = CurrentGrid()->GetNumberRows();
     RowWriter writer;
-    wxArrayString fields;
+    CsvTexts fields;
     int count = 0;
     for (int line = 1; reader.GetData_CSV(fields, rows); ++line) {
         if (line >= rows)
@@ -245,7 +262,7 @@ int Import_KDAR(wxFFile& file) {
         // Meant: the lines fill the page from its first memory, whatever numbers they have.
         writer.FillRow(line);
         TakeKdarLine(writer, fields);
-        writer.Write(TFLG, FlagText(flags));
+        writer.FinishRow(FlagText(flags));
         ++count;
     }
     return count;

@@ -1,7 +1,6 @@
 #include "files/CsvReader.h"
 
 #include "catalogue/AsciiText.h"
-#include "catalogue/MemoryRow.h"
 #include "catalogue/TextNumbers.h"
 #include "files/CsvFields.h"
 
@@ -21,6 +20,16 @@ bool IsLineEnd(int c) {
     return c == '\r' || c == '\n';
 }
 
+/// Control characters have no place in a cell.
+bool IsBlank(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte <= ' ' || byte == 0x7F;
+}
+
+bool IsPlain(char c) {
+    return c == ' ' || (!IsBlank(c) && static_cast<unsigned char>(c) < 0x7F);
+}
+
 bool IsDigits(const wxString& text) {
     const std::wstring& wide = text.ToStdWstring();
     return std::all_of(wide.begin(), wide.end(), [](wchar_t c) { return c >= L'0' && c <= L'9'; });
@@ -29,15 +38,25 @@ bool IsDigits(const wxString& text) {
 } // namespace
 
 wxString CsvCellText(std::string_view field) {
+    while (!field.empty() && IsBlank(field.front()))
+        field.remove_prefix(1);
+    while (!field.empty() && IsBlank(field.back()))
+        field.remove_suffix(1);
+    // Almost every field is a few ASCII characters, and to convert them would take most of an import.
+    wchar_t wide[LongestCellText];
+    if (field.size() <= LongestCellText && std::all_of(field.begin(), field.end(), IsPlain)) {
+        std::copy(field.begin(), field.end(), wide);
+        return wxString(wide, field.size());
+    }
     wxString text = wxString::FromUTF8(field.data(), field.size());
-    if (text.empty() && !field.empty())
+    if (text.empty())
         text = wxString(field.data(), wxConvISO8859_1, field.size());
-    std::wstring wide = text.ToStdWstring();
-    std::replace_if(
-        wide.begin(), wide.end(), [](wchar_t c) { return c < L' ' || c == L'\x7F'; }, L' ');
-    text = wide;
-    text.Trim(true).Trim(false);
-    return text.length() <= LongestCellText ? text : text.Left(LongestCellText).Trim();
+    const std::wstring& all = text.ToStdWstring();
+    const size_t length = std::min(all.size(), LongestCellText);
+    std::replace_copy_if(
+        all.begin(), all.begin() + static_cast<ptrdiff_t>(length), wide,
+        [](wchar_t c) { return c < L' ' || c == L'\x7F'; }, L' ');
+    return wxString(wide, length).Trim();
 }
 
 CsvReader::CsvReader(std::string_view bytes, Dialect dialect)
@@ -128,9 +147,13 @@ int CsvReader::RowOfKey(int rows) const {
     return IsDigits(key) ? ReadDecimal(key) : rows;
 }
 
-bool CsvReader::GetData_CSV(wxArrayString& fields, int rows) {
-    fields.clear();
-    fields.Add(wxString(), ColumnTotal);
+bool CsvReader::GetData_CSV(CsvTexts& fields, int rows) {
+    for (wxString& field : fields)
+        field.clear();
+    const auto take = [&](size_t i, size_t column) {
+        wxString text = Field(column);
+        fields[i].swap(text);
+    };
     while (m_headerFound && !IsAtEnd()) {
         GetLine_CSV(m_fields);
         m_row = RowOfKey(rows);
@@ -138,13 +161,13 @@ bool CsvReader::GetData_CSV(wxArrayString& fields, int rows) {
             continue;
         if (m_dialect == Dialect::Kdar) {
             for (size_t i = 0; i < KdarFieldTotal; ++i)
-                fields[i] = Field(i);
+                take(i, i);
             return true;
         }
         // Meant: what stands behind the twentieth column is never read.
         for (size_t i = 0; i < CsvFieldTotal; ++i)
             if (CsvFieldColumn[i] >= 0 && CsvFieldColumn[i] < CsvFieldTotal)
-                fields[i] = Field(static_cast<size_t>(CsvFieldColumn[i]));
+                take(i, static_cast<size_t>(CsvFieldColumn[i]));
         return true;
     }
     return false;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "catalogue/CsvTables.h"
+#include "catalogue/MemoryRow.h"
 
 #include <wx/arrstr.h>
 
@@ -14,6 +15,9 @@
 /// A field as a cell takes it: UTF-8 when it is that, else Latin-1, with a blank for each control
 /// character, without blanks at its ends, and no longer than any cell needs.
 wxString CsvCellText(std::string_view field);
+
+/// Texts of one line, by position in CsvHeader or, in the KDAR dialect, by field.
+using CsvTexts = std::array<wxString, ColumnTotal>;
 
 /// Goes through a list from its start. The general dialect names its columns with the tags of
 /// CsvHeader; the KDAR dialect has six columns in a fixed order.
@@ -40,9 +44,8 @@ public:
     wxString Field(size_t i) const;
 
     /// Takes lines up to the first that is for one of the grid's rows (0 to rows - 1) and gives its
-    /// texts: by position in CsvHeader, or the six fields of the KDAR dialect. fields has 32 entries
-    /// then, empty where the line has nothing. False when there is no such line or was no heading.
-    bool GetData_CSV(wxArrayString& fields, int rows);
+    /// texts, empty where the line has nothing. False when there is no such line or was no heading.
+    bool GetData_CSV(CsvTexts& fields, int rows);
 
     /// The row that the key of the line of GetData_CSV names. Without meaning in the KDAR dialect.
     int Row() const { return m_row; }

@@ -10,7 +10,7 @@
 using namespace RadioCatalogue;
 
 std::string CsvField(const wxString& text) {
-    const std::string bytes = text.utf8_string();
+    std::string bytes = text.utf8_string();
     const size_t last = bytes.rfind('"');
     // Meant: without a quote a text is not quoted, even if it has a comma.
     if (last == std::string::npos)
@@ -28,8 +28,8 @@ std::string CsvField(const wxString& text) {
 std::string CsvLine(const wxArrayString& fields, size_t count) {
     std::string line;
     for (size_t i = 0; i < count; ++i)
-        line += CsvField(fields[i]) + ',';
-    return line + '\n';
+        (line += CsvField(fields[i])) += ',';
+    return line += '\n';
 }
 
 std::string CsvHeadingLine(int type) {

@@ -64,6 +64,17 @@ fs::path CreateBeside(const fs::path& path, wxFile& file) {
     return name;
 }
 
+/// A disk that gets full takes the first bytes of a block and says so only when asked to take the rest.
+bool WriteAll(wxFile& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const size_t count = file.Write(bytes.data(), bytes.size());
+        if (count == 0)
+            return false;
+        bytes.remove_prefix(count);
+    }
+    return true;
+}
+
 } // namespace
 
 struct FileReplacement::State {
@@ -100,11 +111,9 @@ wxString FileReplacement::Finish(std::string_view bytes) {
     const wxLogNull quiet;
     const std::unique_ptr<State> state = std::move(m_state);
     wxFile& file = state->file;
-    const bool written =
-        file.Write(bytes.data(), bytes.size()) == bytes.size() && file.Flush() && file.Close();
     std::error_code error;
-    if (!written)
-        error.assign(errno, std::generic_category());
+    if (!(WriteAll(file, bytes) && file.Flush() && file.Close()))
+        error.assign(errno ? errno : EIO, std::generic_category());
     else {
         std::error_code ignored;
         // A file system without permissions has none to keep.

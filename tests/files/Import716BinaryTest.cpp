@@ -226,6 +226,51 @@ TEST_F(Binary716, NumbersFrom231OnMoveTo501OnTheLargerRadio) {
     ExpectCells(230, {{MNUM, "230"}, {RNSV, "10"}});
 }
 
+TEST_F(Binary716, ANumberThatMovesMovesInNumberAndPrimary) {
+    RetargetTo("NP25");
+    Record716 record = Decode(BinaryRecord(231).Word(4, 5), RadioCatalogue::NP25);
+    EXPECT_EQ(501, RowOf716(record));
+    EXPECT_EQ("501", record.Mnum);
+    EXPECT_EQ("501", record.Prim);
+    record = Decode(BinaryRecord(230).Word(4, 5), RadioCatalogue::NP25);
+    EXPECT_EQ(230, RowOf716(record));
+    EXPECT_EQ("005", record.Prim);
+}
+
+TEST_F(Binary716, ARecordIsForNoRowWithoutTheDefinedFlag) {
+    Record716 record = Decode(BinaryRecord(5));
+    for (const auto& [flags, row] : {std::pair("80", 5), std::pair("FF", 5), std::pair("7F", -1),
+                                     std::pair("00", -1), std::pair("", -1)}) {
+        record.Tflg = flags;
+        EXPECT_EQ(row, RowOf716(record)) << flags;
+    }
+}
+
+TEST_F(Binary716, TheWriterChecksZoneTonesAndCodesAndLeavesTheOtherTexts) {
+    CurrentGrid()->ClearGrid();
+    ClearZoneSlots(CurrentPage);
+    Record716 record = Decode(BinaryRecord(5).Word(8, 32));
+    record.Desc = "A TEXT THAT IS TOO LONG";
+    record.Mode = "W";
+    record.Rfrq = "90";
+    record.Rton = record.Tcod = "none";
+    record.Tidc = "x";
+    SetCell(0, RTON, "67.0");
+    SetCell(0, TCOD, "023");
+    write716ToGrid(CurrentGrid(), 5, record);
+    ExpectCells(5, {{ZONE, "3"},
+                    {TFLG, "A8"},
+                    {DESC, "A TEXT THAT IS TOO LONG"},
+                    {MODE, "W"},
+                    {RFRQ, "90"},
+                    {RTON, "67.0"},
+                    {TCOD, "023"},
+                    {TIDC, "x"}});
+    EXPECT_TRUE(IsPainted(5, RTON));
+    EXPECT_TRUE(IsPainted(5, TCOD));
+    EXPECT_FALSE(IsPainted(5, RFRQ));
+}
+
 TEST_F(Binary716, OnTheSmallerRadioNumbersStay) {
     EXPECT_EQ(2, Import(BinaryFile({BinaryRecord(231), BinaryRecord(232)})));
     EXPECT_EQ(Rows({0, 231, 232}), RowsWithText());

@@ -44,6 +44,7 @@ int main(int argc, char** argv) {
     RegisterStart(std::filesystem::read_symlink("/proc/self/exe").string());
     RegisterPages();
     RegisterChannelFiles();
+    RegisterCsv();
     RegisterEditing();
     RegisterAnalogTransfer();
     RegisterDigitalTransfer();
@@ -55,6 +56,8 @@ int main(int argc, char** argv) {
          {"SetPageEditors", "OnInsertRow", "OnDeleteRow", "OnDefaultFile", "OnDefaultCol"})
         report.SetAim(group, 1.5);
     report.SetAim("CheckPage", 3);
+    report.SetAim("CsvImport", 3);
+    report.SetAim("CsvExport", 3);
     report.SetGrowthAim(102, 502, 6);
     report.SetAim("transfer", 1.03);
     wxDISABLE_DEBUG_SUPPORT();

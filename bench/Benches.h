@@ -13,6 +13,9 @@ void RegisterPages();
 /// Opening a full channel file of each radio type.
 void RegisterChannelFiles();
 
+/// Importing and exporting comma-separated lists of full pages of several sizes.
+void RegisterCsv();
+
 /// The checks, set-ups and commands that go over a whole page, on full pages of several sizes.
 void RegisterEditing();
 

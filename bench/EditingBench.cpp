@@ -2,6 +2,7 @@
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "bench/OperationRecord.h"
+#include "bench/TakeFastest.h"
 #include "catalogue/PageModel.h"
 #include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
@@ -13,9 +14,6 @@
 #include <wx/modalhook.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
-
-#include <algorithm>
-#include <chrono>
 
 namespace {
 
@@ -159,23 +157,6 @@ constexpr Operation Operations[] = {
     {"OnDefaultCol",        SelectColumn,        Command<&ZelkFrame::OnDefaultCol>,  Command<&ZelkFrame::OnDefaultCol>,  DefaultColBare},
 };
 // clang-format on
-
-/// Runs prepare and work by turns and gives the benchmark the fastest work.
-template <class Prepare, class Work>
-void TakeFastest(benchmark::State& state, Prepare prepare, Work work) {
-    using Seconds = std::chrono::duration<double>;
-    constexpr int Rounds = 16;
-    for ([[maybe_unused]] auto _ : state) {
-        Seconds fastest = Seconds::max();
-        for (int round = 0; round < Rounds; ++round) {
-            prepare();
-            const auto begin = std::chrono::steady_clock::now();
-            work();
-            fastest = std::min<Seconds>(fastest, std::chrono::steady_clock::now() - begin);
-        }
-        state.SetIterationTime(fastest.count());
-    }
-}
 
 void RunProgram(benchmark::State& state, const PageCase& page, const Operation& operation) {
     MakePage(page);

@@ -139,14 +139,6 @@ void SetPageDefaults(OrvZELFrame*, int page) {
     grid->ForceRefresh();
 }
 
-void FillRowsFromDefault(std::initializer_list<int> rows) {
-    wxGrid* grid = CurrentGrid();
-    grid->ClearSelection();
-    for (int row : rows)
-        grid->SelectRow(row, true);
-    CopyValuesToSelection(CurrentPage, GetRowValues(CurrentPage, 0), true, true);
-}
-
 bool NumberedDescription(const wxString& text, int width, wxString& base) {
     size_t length = text.length();
     while (length > 0 && text[length - 1] >= '0' && text[length - 1] <= '9')
@@ -157,28 +149,62 @@ bool NumberedDescription(const wxString& text, int width, wxString& base) {
     return true;
 }
 
+namespace {
+
+/// A row image on its way into rows of a page.
+class RowImage {
+public:
+    RowImage(int page, const wxArrayString& values, bool allColumns)
+        : m_grid(PageGrid[page]), m_values(values), m_limit(allColumns ? TFLG : SHD6),
+          m_p25(IsP25Type(PageParameters[page].Type)),
+          m_numbered(NumberedDescription(values[DESC], m_p25 ? 8 : 9, m_baseText)) {}
+
+    void WriteInto(int row, bool renumber) const {
+        for (int col = 0; col <= m_limit; ++col)
+            m_grid->SetCellValue(row, col, m_values[col]);
+        if (m_numbered)
+            m_grid->SetCellValue(row, DESC, m_baseText + NumberText(row));
+        if (renumber) {
+            m_grid->SetCellValue(row, MNUM, NumberText(row));
+            if (m_p25)
+                m_grid->SetCellValue(row, PRIM, NumberText(row));
+        }
+        if (m_p25)
+            CheckZone(m_grid, row, "");
+    }
+
+private:
+    wxGrid* m_grid;
+    const wxArrayString& m_values;
+    int m_limit;
+    bool m_p25;
+    wxString m_baseText;
+    bool m_numbered;
+};
+
+} // namespace
+
+void CopyValuesToRow(int page, const wxArrayString& values, int row) {
+    RowImage(page, values, true).WriteInto(row, true);
+}
+
+void FillRowsFromDefault(std::initializer_list<int> rows) {
+    wxGrid* grid = CurrentGrid();
+    const wxGridUpdateLocker quiet(grid);
+    grid->ClearSelection();
+    const wxArrayString values = GetRowValues(CurrentPage, 0);
+    const RowImage image(CurrentPage, values, true);
+    for (int row : rows)
+        if (row >= 1 && row <= CurrentParameters().Rows)
+            image.WriteInto(row, true);
+}
+
 void CopyValuesToSelection(int page, const wxArrayString& values, bool renumber, bool allColumns) {
     wxGrid* grid = PageGrid[page];
-    const bool p25 = IsP25Type(PageParameters[page].Type);
-    const int limit = allColumns ? TFLG : SHD6;
-    wxString baseText;
-    const bool numbered = NumberedDescription(values[DESC], p25 ? 8 : 9, baseText);
-
-    wxGridUpdateLocker quiet(grid);
-    for (int row = 1; row <= PageParameters[page].Rows; ++row) {
-        if (!grid->IsInSelection(row, 0))
-            continue;
-        for (int col = 0; col <= limit; ++col)
-            grid->SetCellValue(row, col, values[col]);
-        if (numbered)
-            grid->SetCellValue(row, DESC, baseText + NumberText(row));
-        if (renumber) {
-            grid->SetCellValue(row, MNUM, NumberText(row));
-            if (p25)
-                grid->SetCellValue(row, PRIM, NumberText(row));
-        }
-        if (p25)
-            CheckZone(grid, row, "");
-    }
+    const RowImage image(page, values, allColumns);
+    const wxGridUpdateLocker quiet(grid);
+    for (int row = 1; row <= PageParameters[page].Rows; ++row)
+        if (grid->IsInSelection(row, 0))
+            image.WriteInto(row, renumber);
     grid->ClearSelection();
 }

@@ -31,6 +31,10 @@ void SetGridRowLabels(wxGrid* grid, int last);
 /// selection.
 void CopyValuesToSelection(int page, const wxArrayString& values, bool renumber, bool allColumns);
 
+/// Writes a row image into one memory row of the page as CopyValuesToSelection does with renumber and
+/// allColumns, whatever is selected.
+void CopyValuesToRow(int page, const wxArrayString& values, int row);
+
 /// Fills the given memory rows of the current page from its default row, as a person does who
 /// begins to type into a blank one. Rows that are selected at that moment stay as they are.
 void FillRowsFromDefault(std::initializer_list<int> rows);

@@ -64,35 +64,73 @@ fs::path CreateBeside(const fs::path& path, wxFile& file) {
     return name;
 }
 
+/// A disk that gets full takes the first bytes of a block and says so only when asked to take the rest.
+bool WriteAll(wxFile& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const size_t count = file.Write(bytes.data(), bytes.size());
+        if (count == 0)
+            return false;
+        bytes.remove_prefix(count);
+    }
+    return true;
+}
+
 } // namespace
 
-wxString WriteWholeFile(const wxString& path, std::string_view bytes) {
+struct FileReplacement::State {
+    fs::path target, fresh;
+    wxFile file;
+};
+
+FileReplacement::FileReplacement() = default;
+
+FileReplacement::~FileReplacement() {
+    if (!m_state)
+        return;
     const wxLogNull quiet;
-    const fs::path target = FollowLinks(fs::path(path.fn_str().data()));
-    const wxString refusal = WhyNotReplaceable(target);
+    m_state->file.Close();
+    std::error_code ignored;
+    fs::remove(m_state->fresh, ignored);
+}
+
+wxString FileReplacement::Open(const wxString& path) {
+    const wxLogNull quiet;
+    auto state = std::make_unique<State>();
+    state->target = FollowLinks(fs::path(path.fn_str().data()));
+    const wxString refusal = WhyNotReplaceable(state->target);
     if (!refusal.empty())
         return refusal;
-
-    wxFile file;
-    const fs::path fresh = CreateBeside(target, file);
-    if (!file.IsOpened())
+    state->fresh = CreateBeside(state->target, state->file);
+    if (!state->file.IsOpened())
         return LastProblem();
-    const bool written =
-        file.Write(bytes.data(), bytes.size()) == bytes.size() && file.Flush() && file.Close();
+    m_state = std::move(state);
+    return {};
+}
+
+wxString FileReplacement::Finish(std::string_view bytes) {
+    const wxLogNull quiet;
+    const std::unique_ptr<State> state = std::move(m_state);
+    wxFile& file = state->file;
     std::error_code error;
-    if (!written)
-        error.assign(errno, std::generic_category());
+    if (!(WriteAll(file, bytes) && file.Flush() && file.Close()))
+        error.assign(errno ? errno : EIO, std::generic_category());
     else {
         std::error_code ignored;
         // A file system without permissions has none to keep.
-        if (fs::exists(target, ignored))
-            fs::permissions(fresh, fs::status(target, ignored).permissions(), ignored);
-        fs::rename(fresh, target, error);
+        if (fs::exists(state->target, ignored))
+            fs::permissions(state->fresh, fs::status(state->target, ignored).permissions(), ignored);
+        fs::rename(state->fresh, state->target, error);
     }
     if (!error)
         return {};
     file.Close();
     std::error_code ignored;
-    fs::remove(fresh, ignored);
+    fs::remove(state->fresh, ignored);
     return TextOf(error);
+}
+
+wxString WriteWholeFile(const wxString& path, std::string_view bytes) {
+    FileReplacement file;
+    const wxString problem = file.Open(path);
+    return problem.empty() ? file.Finish(bytes) : problem;
 }

@@ -1,10 +1,14 @@
 #include "frame/ZelkMain.h"
 
+#include "files/ZelkFile_ImportExport.h"
+
 #include <wx/statusbr.h>
 
-ZelkFrame::ZelkFrame(wxWindow* parent) : OrvZELFrame(parent) {
+ZelkFrame::ZelkFrame(wxWindow* parent) : OrvZELFrame(parent), m_importer(std::make_unique<FileImporter>()) {
     m_statusBar->SetStatusText("Select function", 0);
 }
+
+ZelkFrame::~ZelkFrame() = default;
 
 // Closing asks nothing, and what was not saved goes: this is meant.
 void ZelkFrame::OnClose(wxCloseEvent&) {

@@ -3,10 +3,15 @@
 
 #include "frame/ZelkGUI.h"
 
+#include <memory>
+
+class FileImporter;
+
 /// The main window. Each command's handler is defined beside the subsystem that it serves.
 class ZelkFrame : public OrvZELFrame {
 public:
     explicit ZelkFrame(wxWindow* parent);
+    ~ZelkFrame() override;
 
     void OnClose(wxCloseEvent& event) override;
     void OnQuit(wxCommandEvent& event) override;
@@ -15,6 +20,8 @@ public:
     void OnOpen(wxCommandEvent& event) override;
     void OnSave(wxCommandEvent& event) override;
     void OnSaveAs(wxCommandEvent& event) override;
+    void OnImport(wxCommandEvent& event) override;
+    void OnExport(wxCommandEvent& event) override;
 
     // transfer/
     void OnUpload(wxCommandEvent& event) override;
@@ -53,6 +60,9 @@ public:
     void OnClearHighlight(wxCommandEvent& event) override;
 
     void OnSpare(wxCommandEvent&) override {}
+
+    /// Reads the files of other programs.
+    std::unique_ptr<FileImporter> m_importer;
 };
 
 /// Takes the text of an open cell editor of the current page into its cell and closes the

@@ -1,14 +1,14 @@
 #include "files/WholeFile.h"
 
+#include "tests/files/FileSizeLimit.h"
 #include "tests/support/robot/Files.h"
 #include "tests/support/robot/TempFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <csignal>
+#include <cerrno>
 #include <filesystem>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -31,26 +31,6 @@ protected:
     }
 
     testbench::TempFolder m_folder{"zelk-whole-file"};
-};
-
-/// Lets no file of this program grow beyond a size while it lives.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes) : m_signal(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_signal);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_signal)(int);
 };
 
 /// Has no more rights than any user while it lives, also when the tests run as root.
@@ -143,6 +123,7 @@ TEST_F(WholeFile, StandsAsItWasWhenWritingFailsHalfWay) {
         std::string problem;
         {
             const FileSizeLimit full(limit);
+            errno = 0; // a former error must not tell this one
             problem = Write(m_folder / "a", std::string(100000, 'n'));
         }
         EXPECT_EQ("File too large", problem) << limit;

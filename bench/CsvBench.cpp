@@ -1,0 +1,165 @@
+// Comma-separated lists into a page and out of it.
+#include "bench/Benches.h"
+#include "bench/FullPage.h"
+#include "bench/OperationRecord.h"
+#include "bench/TakeFastest.h"
+#include "bench/ToolkitFloor.h"
+#include "catalogue/PageModel.h"
+#include "catalogue/ZoneSlots.h"
+#include "files/CsvExport.h"
+#include "files/CsvFields.h"
+#include "files/CsvImport.h"
+#include "files/CsvWriter.h"
+#include "frame/ZelkMain.h"
+
+#include <wx/ffile.h>
+#include <wx/file.h>
+#include <wx/filename.h>
+#include <wx/grid.h>
+#include <wx/notebook.h>
+
+#include <vector>
+
+namespace {
+
+/// As in the other groups, pages of one type in three sizes, besides the full ones of real radios.
+constexpr PageCase CsvPages[] = {
+    {"NP25", 7, 0, -1, 102}, {"NP25", 7, 0, -1, 232}, {"NP25", 7, 0},
+    {"ANFM", 3, 0},          {"ANFM", 3, 0, -1, 232}, {"ANFM", 3, 0, -1, 502},
+};
+
+wxString ListPath() {
+    return wxFileName::GetTempDir() + "/zelk-bench-list.csv";
+}
+
+void SelectMemories() {
+    CurrentGrid()->SelectBlock(1, 0, CurrentParameters().Rows, ColumnTotal - 1);
+}
+
+void ExportMemories(const wxString& path) {
+    CsvExport list;
+    list.OpenCsvWrite(path, CurrentParameters().Type);
+    list.ExportCSV(CurrentGrid(), CurrentParameters().Type);
+    list.CloseCsv();
+}
+
+/// A full page whose memories are selected and in the list.
+void MakeListedPage(const PageCase& page) {
+    MakePage(page);
+    FillPage();
+    SpreadTonesAndCodes();
+    SelectMemories();
+    ExportMemories(ListPath());
+}
+
+void DropListedPage() {
+    DropPage();
+    wxRemoveFile(ListPath());
+}
+
+/// Empties the page's memories.
+void EmptyPage() {
+    wxGrid* grid = CurrentGrid();
+    ClearZoneSlots(CurrentPage);
+    grid->ClearSelection();
+    const wxArrayString defaults = GetRowValues(CurrentPage, 0);
+    grid->ClearGrid();
+    for (int col = 0; col < ColumnTotal; ++col)
+        grid->SetCellValue(0, col, defaults[static_cast<size_t>(col)]);
+}
+
+void ImportList() {
+    wxFFile file(ListPath(), "rb");
+    Import_CSV(file);
+}
+
+void RunImport(benchmark::State& state, const PageCase& page) {
+    MakeListedPage(page);
+    TakeFastest(state, EmptyPage, ImportList);
+    DropListedPage();
+}
+
+/// Cells of the current page that a check has painted.
+std::vector<wxGridCellCoords> PaintedCells() {
+    std::vector<wxGridCellCoords> cells;
+    for (int row = 1; row <= CurrentParameters().Rows; ++row)
+        for (int col = 0; col < ColumnTotal; ++col)
+            if (CurrentGrid()->GetCellBackgroundColour(row, col) == FailColour)
+                cells.emplace_back(row, col);
+    return cells;
+}
+
+/// The toolkit alone: read the file, and read, write and paint the cells that the import does.
+void RunImportBare(benchmark::State& state, const PageCase& page) {
+    MakeListedPage(page);
+    const OperationRecord record = RecordOperation(EmptyPage, ImportList);
+    const std::vector<wxGridCellCoords> painted = PaintedCells();
+    DropPage();
+    wxGrid* grid = AddBarePage(MainFrame->m_notebook, record.before);
+    TakeFastest(
+        state, [grid] { grid->ClearGrid(); },
+        [&] {
+            wxString text;
+            wxFFile(ListPath(), "rb").ReadAll(&text);
+            benchmark::DoNotOptimize(&text);
+            const wxGridUpdateLocker quiet(grid);
+            record.trace.Replay(grid);
+            for (const wxGridCellCoords& cell : painted)
+                grid->SetCellBackgroundColour(cell.GetRow(), cell.GetCol(), FailColour);
+        });
+    DropListedPage();
+}
+
+void RunExport(benchmark::State& state, const PageCase& page) {
+    MakeListedPage(page);
+    TakeFastest(
+        state, [] {}, [] { ExportMemories(ListPath()); });
+    DropListedPage();
+}
+
+/// The toolkit alone: read the cells that are listed, write their texts into a file that replaces the
+/// former one.
+void RunExportBare(benchmark::State& state, const PageCase& page) {
+    MakeListedPage(page);
+    TakeFastest(
+        state, [] {},
+        [] {
+            const int type = CurrentParameters().Type;
+            wxString text = wxString::FromUTF8(CsvHeadingLine(type));
+            for (int row = 1; row <= CurrentParameters().Rows; ++row) {
+                for (int position = 0; position < RadioCatalogue::CsvFieldTotal; ++position)
+                    if (RadioCatalogue::CsvFieldMask[type][position])
+                        text << CurrentGrid()->GetCellValue(row, CsvFieldTable[position].written) << ',';
+                text << '\n';
+            }
+            wxFile file(ListPath() + ".bare", wxFile::write);
+            file.Write(text);
+            file.Flush();
+            file.Close();
+            wxRenameFile(ListPath() + ".bare", ListPath());
+        });
+    DropListedPage();
+}
+
+void RegisterSide(const char* group, const PageCase& page, const char* side,
+                  void (*run)(benchmark::State&, const PageCase&)) {
+    const int rows = page.rows ? page.rows : RadioCatalogue::RadioRows[page.radio][page.bandIndex];
+    const std::string name = std::string(group) + "/" + page.type + "/" + std::to_string(rows) + "/" + side;
+    benchmark::RegisterBenchmark(name.c_str(), [run, &page](benchmark::State& state) { run(state, page); })
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(1)
+        ->UseManualTime();
+}
+
+} // namespace
+
+void RegisterCsv() {
+    constexpr int Passes = 4;
+    for (int pass = 0; pass < Passes; ++pass)
+        for (const PageCase& page : CsvPages) {
+            RegisterSide("CsvImport", page, "program", RunImport);
+            RegisterSide("CsvImport", page, "floor", RunImportBare);
+            RegisterSide("CsvExport", page, "program", RunExport);
+            RegisterSide("CsvExport", page, "floor", RunExportBare);
+        }
+}

@@ -1,0 +1,120 @@
+#include "files/CsvExport.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "files/CsvFields.h"
+#include "files/CsvWriter.h"
+#include "frame/ZelkMain.h"
+
+#include <wx/filedlg.h>
+#include <wx/grid.h>
+#include <wx/msgdlg.h>
+#include <wx/textbuf.h>
+
+using namespace RadioCatalogue;
+
+namespace {
+
+/// The text with the line ends of the system.
+std::string InSystemLineEnds(const std::string& text) {
+    const std::string end = wxString(wxTextBuffer::GetEOL()).utf8_string();
+    if (end == "\n")
+        return text;
+    std::string lines;
+    for (const char c : text)
+        if (c == '\n')
+            lines += end;
+        else
+            lines += c;
+    return lines;
+}
+
+/// Calls work(row) for each row of the grid that is selected, row 0 too.
+template <class Work>
+void ForEachSelectedRow(const wxGrid* grid, Work work) {
+    for (int row = 0; row < grid->GetNumberRows(); ++row)
+        if (grid->IsInSelection(row, MNUM))
+            work(row);
+}
+
+/// Asks where the list is to go. Empty when the user cancelled.
+wxString AskForExportFile(wxWindow* parent) {
+    const wxString every = wxFileSelectorDefaultWildcardStr;
+    wxFileDialog dialog(parent, "Export CSV file", "", PageStrings[CurrentPage].RadioName + ".csv",
+                        wxString::Format("CSV files (*.csv)|*.csv|All files (%s)|%s", every, every),
+                        wxFD_SAVE | wxFD_OVERWRITE_PROMPT | wxFD_CHANGE_DIR);
+    dialog.CentreOnScreen();
+    return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
+}
+
+} // namespace
+
+bool CsvExport::OpenCsvWrite(const wxString& path, int type) {
+    const int flags = ReadHex(CurrentGrid()->GetCellValue(1, TFLG));
+    if (m_file.IsOpened() || !m_file.Open(path).empty())
+        return false;
+    m_text = type == KDAR ? KdarHeadingLines(flags & PurgeFlag) : CsvHeadingLine(type);
+    return true;
+}
+
+bool CsvExport::WriteCsvLine(const wxArrayString& fields, size_t count) {
+    if (!m_file.IsOpened())
+        return false;
+    m_text += CsvLine(fields, count);
+    return true;
+}
+
+void CsvExport::ExportCSV(wxGrid* grid, int type) {
+    wxArrayString fields;
+    ForEachSelectedRow(grid, [&](int row) {
+        fields.Empty();
+        for (int position = 0; position < CsvFieldTotal; ++position)
+            if (CsvFieldMask[type][position])
+                fields.Add(grid->GetCellValue(row, CsvFieldTable[position].written));
+        WriteCsvLine(fields, CsvFieldCount(type));
+    });
+}
+
+void CsvExport::ExportCSV_KDAR(wxGrid* grid, int) {
+    ForEachSelectedRow(grid, [&](int row) {
+        wxArrayString fields;
+        fields.Add(KdarNumberText(grid->GetCellValue(row, MNUM)));
+        fields.Add(grid->GetCellValue(row, DESC));
+        fields.Add(KdarFrequencyText(grid->GetCellValue(row, RFRQ)));
+        fields.Add(KdarFrequencyText(grid->GetCellValue(row, TFRQ)));
+        fields.Add(KdarScanText(grid->GetCellValue(row, SCAN)));
+        fields.Add(KdarRxOnlyText(grid->GetCellValue(row, RONL)));
+        WriteCsvLine(fields, KdarFieldTotal);
+    });
+}
+
+bool CsvExport::CloseCsv() {
+    return !m_file.IsOpened() || m_file.Finish(InSystemLineEnds(m_text)).empty();
+}
+
+void ZelkFrame::OnExport(wxCommandEvent& event) {
+    CommitOpenEditor();
+    wxGrid* grid = CurrentGrid();
+    if (grid->GetSelectedRows().empty()) {
+        wxMessageBox("No data selected!", "Export CSV - Error!", wxOK | wxCENTRE | wxICON_ERROR);
+        return;
+    }
+    const wxString path = AskForExportFile(this);
+    if (path.empty())
+        return;
+    const int type = CurrentParameters().Type;
+    CsvExport list;
+    bool written = list.OpenCsvWrite(path, type);
+    if (written) {
+        if (type == KDAR)
+            list.ExportCSV_KDAR(grid, type);
+        else
+            list.ExportCSV(grid, type);
+        written = list.CloseCsv();
+    }
+    if (!written) {
+        wxMessageBox("Unable to write to selected File", "Export file", wxOK | wxCENTRE | wxICON_ERROR);
+        return;
+    }
+    event.Skip();
+}

@@ -1,0 +1,50 @@
+// The columns behind the fields of the general comma-separated dialect.
+#pragma once
+
+#include "catalogue/CsvTables.h"
+#include "catalogue/MemoryRow.h"
+
+/// Cells of one position of CsvHeader.
+struct CsvFieldCells {
+    Column written; ///< the cell that an export writes
+    Column read;    ///< the cell that an import fills
+};
+
+// clang-format off
+inline constexpr CsvFieldCells CsvFieldTable[RadioCatalogue::CsvFieldTotal] = {
+    {MNUM, MNUM},
+    {BAND, BAND},
+    {SCAN, SCAN},
+    {ZONE, ZONE},
+    {DESC, DESC},
+    {MODE, MODE},
+    {RFRQ, RFRQ},
+    {RSQL, RSQL},
+    {RNSV, RNSV},
+    {RTON, RTON},
+    {RCOD, RCOD},
+    {RNAC, RTGP}, // Meant: talk group and NAC of the receive side
+    {RTGP, RNAC}, // are crossed on the way out, and only there.
+    {TFRQ, TFRQ},
+    {TSQL, TSQL},
+    {TTON, TTON},
+    {TCOD, TCOD},
+    {TTGP, TTGP},
+    {TNAC, TNAC},
+    {TIDC, TIDC},
+};
+// clang-format on
+
+/// Fields of a line of the KDAR dialect, in their order.
+enum KdarField : int {
+    KdarMemory,
+    KdarName,
+    KdarReceive,
+    KdarTransmit,
+    KdarScan,
+    KdarRxOnly,
+    KdarFieldTotal
+};
+
+/// TFLG: the row is to be erased in the radio. In row 1 it also makes a KDAR list ask for it.
+constexpr int PurgeFlag = 0x02;

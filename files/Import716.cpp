@@ -1,0 +1,33 @@
+#include "files/Import716.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+
+namespace {
+
+/// The radio of 500 memories takes files of the one of 230.
+constexpr int LargerRadio = 7;
+constexpr int SmallerRadioMemories = 230;
+constexpr int FurtherMemories = 270;
+
+} // namespace
+
+int MovedNumber716(int number, int radio) {
+    return radio == LargerRadio && number > SmallerRadioMemories ? number + FurtherMemories : number;
+}
+
+int RowOf716(Record716& record) {
+    const PageParameterRecord& page = CurrentParameters();
+    if (record.Mnum.empty() || !(ReadHex(record.Tflg) & DEF))
+        return -1;
+    const int read = ReadDecimal(record.Mnum);
+    // More digits than a row number can have must not run over when the number moves.
+    if (read < 0 || read > page.Rows)
+        return -1;
+    const int number = MovedNumber716(read, page.Radio);
+    if (number > page.Rows)
+        return -1;
+    if (number != read)
+        record.Mnum = record.Prim = NumberText(number);
+    return number;
+}

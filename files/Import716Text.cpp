@@ -1,0 +1,203 @@
+#include "files/Import716.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "editing/ZelkEdit.h"
+#include "files/ImportText.h"
+#include "files/LastOfRow.h"
+
+#include <wx/ffile.h>
+#include <wx/grid.h>
+
+#include <memory>
+#include <set>
+#include <utility>
+
+namespace {
+
+constexpr int TitleLines = 3;
+/// A line that is shorter ends the list.
+constexpr size_t ShortestLine = 50;
+
+constexpr TextColumns NumberColumns{3, 3};
+constexpr TextColumns LinkMarkColumns{6, 1};
+constexpr TextColumns PrimaryColumns{8, 3};
+constexpr TextColumns ScanMarkColumns{9, 1};
+constexpr TextColumns ZoneColumns{10, 2};
+constexpr TextColumns DescriptionColumns{13, 8};
+constexpr TextColumns UndefinedColumns{36, 9};
+constexpr TextColumns ErasedColumns{37, 6};
+
+struct ListField {
+    TextColumns columns;
+    Field716 into;
+};
+
+/// Fields of every line with a memory, blanks at both ends of which don't count.
+constexpr ListField ListFields[] = {
+    {{23, 1}, &Record716::Mode}, {{25, 8}, &Record716::Rfrq}, {{35, 1}, &Record716::Rsql},
+    {{37, 5}, &Record716::Rton}, {{43, 3}, &Record716::Rcod}, {{47, 4}, &Record716::Rtgp},
+    {{52, 3}, &Record716::Rnac}, {{56, 8}, &Record716::Tfrq}, {{66, 1}, &Record716::Tsql},
+    {{68, 5}, &Record716::Tton}, {{74, 3}, &Record716::Tcod}, {{78, 3}, &Record716::Ttgp},
+    {{83, 3}, &Record716::Tnac},
+};
+
+constexpr const char* OnlyUnitId = "0000001";
+
+/// Flags whose rows aren't scanned, and rows without a zone of their own in the line.
+constexpr int NotScanned = ShadowIndexMask | ShadowLinkFlag | Guard716;
+constexpr int WithoutZone = ShadowIndexMask | Guard716;
+
+/// Grids of more rows belong to the radio of 32 zones.
+constexpr int LargestGridOf16Zones = 233;
+
+/// The number of a line, which for the default row and the guard rows is a name. True for a guard row.
+bool ReadNumberField(const wxString& line, int rows, wxString& number) {
+    number = NumberColumns.TrimmedOf(line);
+    if (number == "DEF")
+        number = "000";
+    const bool guard = number == "GD1" || number == "GD2";
+    if (guard)
+        number = NumberText(number == "GD1" ? rows - 2 : rows - 1);
+    return guard;
+}
+
+/// A record of a list, and the number of its primary as its line gives it: the record's own text may
+/// have gone when its number moved, and the check of the row makes it the row's number.
+struct ListRecord {
+    ListRecord() = default;
+    ListRecord(Record716&& from, int itsPrimary) : record(std::move(from)), primary(itsPrimary) {}
+
+    Record716 record;
+    int primary = 0;
+};
+
+/// A record that is repeated is the same one in each row that it is for.
+using KeptRecord = std::shared_ptr<ListRecord>;
+using KeptRecords = LastOfRow<KeptRecord>;
+
+bool IsGuardRecord(const Record716& record) {
+    return ReadHex(record.Mflg) & Guard716;
+}
+
+int RowOfListRecord(Record716& record) {
+    if (!IsGuardRecord(record))
+        return RowOf716(record);
+    return HasGuardRows(CurrentPage) ? ReadDecimal(record.Mnum) : -1;
+}
+
+/// The row of the line's number whose SCAN is to be read-only, -1 if none. Meant: the number is the one
+/// in the line, also where the memory moves to another row.
+int UnscannedRow(const Record716& record) {
+    if (!(ReadHex(record.Mflg) & NotScanned) || (IsGuardRecord(record) && !HasGuardRows(CurrentPage)))
+        return -1;
+    const int row = ReadDecimal(record.Mnum);
+    return row <= CurrentParameters().Rows ? row : -1;
+}
+
+/// Gives the shadow in a row a slot of its primary.
+void LinkShadow(wxGrid* grid, int row, int primary) {
+    if (primary < 1 || primary > CurrentParameters().Rows)
+        return;
+    int slot = 0;
+    while (slot <= SHD6 - SHD0 && ReadDecimal(grid->GetCellValue(primary, SHD0 + slot)) != 0)
+        ++slot;
+    if (slot > SHD6 - SHD0)
+        return;
+    constexpr int keptFlags = 0x60;
+    const auto flagsOf = [grid](int of) { return ReadHex(grid->GetCellValue(of, MFLG)); };
+    grid->SetCellValue(primary, SHD0 + slot, wxString::Format("%d", row));
+    grid->SetCellValue(row, MFLG, FlagText((slot + 1) | (flagsOf(row) & keptFlags)));
+    grid->SetCellValue(primary, MFLG, FlagText(flagsOf(primary) | ShadowLinkFlag));
+    const int before = ReadDecimal(grid->GetCellValue(primary, SHAD).Mid(2));
+    grid->SetCellValue(primary, SHAD, wxString::Format("P-%d", before + 1));
+    grid->SetCellValue(row, ZONE, grid->GetCellValue(primary, ZONE));
+    grid->SetReadOnly(row, ZONE, true);
+}
+
+void LinkShadows(wxGrid* grid, const KeptRecords& kept) {
+    for (int row = 1; row < grid->GetNumberRows(); ++row) {
+        const KeptRecord* from = kept.Of(row);
+        if (from && ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask)
+            LinkShadow(grid, row, (*from)->primary);
+    }
+}
+
+} // namespace
+
+ListLine716 Read716TextLine(const wxString& line, int rows, Record716& record) {
+    if (line.length() < ShortestLine)
+        return ListLine716::End;
+    if (UndefinedColumns.Is(line, "UNDEFINED") || ErasedColumns.Is(line, "ERASED"))
+        return ListLine716::NoMemory;
+    record = {};
+    int flags = 0;
+    if (ReadNumberField(line, rows, record.Mnum)) {
+        flags |= Guard716;
+        record.Zone = rows > LargestGridOf16Zones ? "X" : "16";
+    }
+    record.Prim = record.Mnum;
+    if (LinkMarkColumns.Is(line, "S")) {
+        flags |= 0x01;
+        record.Prim = PrimaryColumns.TrimmedOf(line);
+    } else if (LinkMarkColumns.Is(line, "P")) {
+        flags |= ShadowLinkFlag;
+    }
+    record.Scan = "N";
+    if (!(flags & NotScanned) && ScanMarkColumns.Is(line, "S")) {
+        record.Scan = "Y";
+        flags |= Scanned716;
+    }
+    if (!(flags & WithoutZone))
+        record.Zone = ZoneColumns.TrimmedOf(line);
+    record.Desc = DescriptionColumns.Of(line).Trim(true);
+    for (const ListField& field : ListFields)
+        record.*field.into = field.columns.TrimmedOf(line);
+    record.Tidc = OnlyUnitId;
+    for (Field716 shadow : Shadows716)
+        record.*shadow = "0";
+    record.Mflg = FlagText(flags);
+    record.Tflg = TflgMade;
+    return ListLine716::Memory;
+}
+
+int Import716_Text(wxFFile& file) {
+    wxGrid* grid = CurrentGrid();
+    const int rows = grid->GetNumberRows();
+    LineReader lines(file);
+    wxString line;
+    for (int title = 0; title < TitleLines; ++title)
+        lines.Next(line);
+
+    KeptRecords kept(rows);
+    std::set<int> unscanned;
+    auto current = std::make_shared<ListRecord>();
+    int count = 0;
+    for (Record716 record; lines.Next(line);) {
+        const ListLine716 kind = Read716TextLine(line, rows, record);
+        if (kind == ListLine716::End)
+            break;
+        if (kind == ListLine716::Memory) {
+            const int primary = MovedNumber716(ReadDecimal(record.Prim), CurrentParameters().Radio);
+            unscanned.insert(UnscannedRow(record));
+            current = std::make_shared<ListRecord>(std::move(record), primary);
+        }
+        // Meant: a number without a memory repeats the record before it, which is counted again.
+        const int row = RowOfListRecord(current->record);
+        if (row < 0)
+            continue;
+        kept.Keep(row, current);
+        ++count;
+    }
+
+    wxGridUpdateLocker quiet(grid);
+    for (int row : unscanned)
+        if (row >= 0)
+            grid->SetReadOnly(row, SCAN, true);
+    kept.ForEach([grid](int row, const KeptRecord& from) {
+        write716ToGrid(grid, row, from->record);
+        CheckRow(grid, row);
+    });
+    LinkShadows(grid, kept);
+    return count;
+}

@@ -1,0 +1,180 @@
+#include "files/ImportMultiZEL.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/TextNumbers.h"
+#include "editing/CellChecks.h"
+#include "editing/ColumnChecks.h"
+#include "editing/FrequencyRules.h"
+#include "editing/ScanListCell.h"
+#include "files/ImportText.h"
+#include "files/LastOfRow.h"
+
+#include <wx/grid.h>
+#include <wx/textfile.h>
+
+#include <algorithm>
+#include <iterator>
+
+using namespace RadioCatalogue;
+
+namespace {
+
+constexpr TextColumns NumberColumns{0, 3};
+constexpr TextColumns DescriptionColumns{4, 9};
+constexpr TextColumns ReceiveFrequencyColumns{14, 8};
+constexpr TextColumns TransmitFrequencyColumns{25, 8};
+constexpr TextColumns ReceiveToneColumns{43, 2};
+constexpr TextColumns TransmitToneColumns{48, 2};
+// Meant: the other way round than in the records of the radio.
+constexpr TextColumns TransmitCodeColumns{58, 3};
+constexpr TextColumns ReceiveCodeColumns{64, 3};
+constexpr TextColumns ScanColumns{70, 5};
+
+/// Meant: a line's own mode has no effect, on pages of any type.
+constexpr const char* ImportedMode = "w";
+
+/// Position of the second "OFF" in the list of tones, which stands for all that are in none.
+constexpr int LastTone = std::size(ToneTexts) - 1;
+
+constexpr int ModuleBand = 8;
+constexpr int NextModuleBand = 9;
+
+wxString ToneOf(const wxString& line, const TextColumns& columns) {
+    return GetToneText(std::min(ReadDecimal(columns.Of(line)), LastTone));
+}
+
+/// The texts that a line of a band gives the rows of a page.
+class LineWriter {
+public:
+    LineWriter(wxGrid* grid, int row, const wxString& line)
+        : m_grid(grid), m_row(row), m_line(line), m_p25(CurrentPageIsP25()),
+          m_sourceBand(GetFreqBand(ReceiveFrequencyColumns.Of(line), ANFM)),
+          m_alignment(GetAlignment(0, m_sourceBand)) {}
+
+    void Write() {
+        WriteNumber();
+        WriteBand();
+        WriteScan();
+        if (m_p25)
+            CheckZone(m_grid, m_row, wxString());
+        Set(DESC, DescriptionColumns.Of(m_line));
+        Set(MODE, ImportedMode);
+        Set(RFRQ, Frequency(ReceiveFrequencyColumns));
+        TakeFromDefaultRow({RSQL});
+        if (CurrentParameters().Type == NP25)
+            TakeFromDefaultRow({RNSV});
+        CheckTone(m_grid, m_row, RTON, ToneOf(m_line, ReceiveToneColumns), DefaultSquelch(RSQL));
+        CheckCode(m_grid, m_row, RCOD, ReceiveCodeColumns.Of(m_line), DefaultSquelch(RSQL));
+        TakeFromDefaultRow({RTGP, RNAC});
+        Set(TFRQ, Frequency(TransmitFrequencyColumns));
+        TakeFromDefaultRow({TSQL});
+        CheckTone(m_grid, m_row, TTON, ToneOf(m_line, TransmitToneColumns), DefaultSquelch(TSQL));
+        CheckCode(m_grid, m_row, TCOD, TransmitCodeColumns.Of(m_line), DefaultSquelch(TSQL));
+        TakeFromDefaultRow({TTGP, TNAC, TIDC});
+    }
+
+private:
+    void Set(int column, const wxString& text) { m_grid->SetCellValue(m_row, column, text); }
+
+    /// On P25 pages: analog memories have no text of their own for these columns.
+    void TakeFromDefaultRow(std::initializer_list<int> columns) {
+        if (m_p25)
+            for (int column : columns)
+                Set(column, m_grid->GetCellValue(0, column));
+    }
+
+    wxString DefaultSquelch(int column) const { return m_p25 ? m_grid->GetCellValue(0, column) : wxString(); }
+
+    void WriteNumber() {
+        const wxString number = NumberColumns.Of(m_line);
+        // Before the zone is checked, so that the row counts as one that is used and holds its slot.
+        Set(TFLG, TflgMade);
+        Set(MNUM, number);
+        if (m_p25) {
+            Set(PRIM, number);
+            Set(SHAD, "N");
+        }
+    }
+
+    void WriteBand() {
+        const int pageBand = CurrentParameters().Band;
+        if (pageBand != ModuleBand && pageBand != NextModuleBand)
+            return;
+        // Meant: on the module's page every line goes to its first band.
+        const int band = pageBand == ModuleBand ? 0 : m_sourceBand;
+        Set(BAND, band >= 0 ? wxString(BandName[band]) : m_grid->GetCellValue(0, BAND));
+    }
+
+    void WriteScan() {
+        const wxString mask = ScanTextToMask(ScanColumns.Of(m_line));
+        const int type = CurrentParameters().Type;
+        if (type == ANFM || type == MDLX)
+            SetScanCell(m_grid, m_row, SCAN, mask, false);
+        else if (m_p25)
+            Set(SCAN, mask == "0" ? "N" : "Y");
+    }
+
+    wxString Frequency(const TextColumns& columns) const {
+        if (!(m_alignment & FrequenciesCannotStay))
+            return columns.Of(m_line);
+        const int band = CurrentParameters().Band;
+        return band < BandTotal ? wxString(BandStart[band]) : wxString();
+    }
+
+    wxGrid* m_grid;
+    int m_row;
+    const wxString& m_line;
+    bool m_p25;
+    int m_sourceBand;
+    int m_alignment;
+};
+
+} // namespace
+
+int AlignmentOf(int sourceKind, int sourceBand, int pageBand, int pageType) {
+    if (sourceKind == 0) {
+        const int family = pageType == ANFM ? 0 : OtherFamily;
+        const bool module = pageBand == ModuleBand && (sourceBand == 0 || sourceBand == 2 || sourceBand == 6);
+        if (sourceBand == pageBand || module)
+            return family | BandSuits;
+        const bool neighbours = (pageBand == 4 && sourceBand == 5) || (pageBand == 5 && sourceBand == 4);
+        return family | (neighbours ? NeighbourBand : FrequenciesCannotStay);
+    }
+    if ((sourceKind == 1 || sourceKind == 2) && !IsP25Type(pageType))
+        return OtherFamily | (pageBand == 5 ? NeighbourBand : FrequenciesCannotStay);
+    return BandSuits;
+}
+
+int GetAlignment(int sourceKind, int sourceBand) {
+    const PageParameterRecord& page = CurrentParameters();
+    return AlignmentOf(sourceKind, sourceBand, page.Band, page.Type);
+}
+
+int RowOfMultiZELLine(const wxString& line, int rows) {
+    const wxString number = NumberColumns.TrimmedOf(line);
+    if (number.empty())
+        return -1;
+    const int row = ReadDecimal(number);
+    return row >= 0 && row < rows ? row : -1;
+}
+
+void writeANFMToGrid(wxGrid* grid, const wxString& line) {
+    const int row = RowOfMultiZELLine(line, grid->GetNumberRows());
+    if (row >= 0)
+        LineWriter(grid, row, line).Write();
+}
+
+int ImportMultiZEL(const wxTextFile& file) {
+    wxGrid* grid = CurrentGrid();
+    LastOfRow<wxString> kept(grid->GetNumberRows());
+    for (size_t number = 0; number < file.GetLineCount(); ++number) {
+        // A zero byte ends a line as it ends the texts of other files.
+        const wxString line = file[number].BeforeFirst('\0');
+        const int row = RowOfMultiZELLine(line, grid->GetNumberRows());
+        if (row >= 0)
+            kept.Keep(row, line);
+    }
+    wxGridUpdateLocker quiet(grid);
+    kept.ForEach([grid](int, const wxString& line) { writeANFMToGrid(grid, line); });
+    return static_cast<int>(file.GetLineCount());
+}

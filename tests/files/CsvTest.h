@@ -1,0 +1,74 @@
+// What tests of comma-separated lists have in common.
+#pragma once
+
+#include "editing/RowLooks.h"
+#include "files/CsvImport.h"
+#include "frame/CommandIds.h"
+#include "tests/files/ChannelFileTest.h"
+#include "tests/support/Keys.h"
+#include "tests/support/robot/Pump.h"
+
+#include <wx/ffile.h>
+#include <wx/menu.h>
+
+class CsvTest : public ChannelFileTest {
+protected:
+    /// The page becomes one of the type with its default row only.
+    static void EmptyPageOf(const std::string& type) {
+        RetargetTo(type);
+        EmptyDefaultMemories(CurrentPage);
+    }
+
+    int Import(const std::string& bytes) { return Import(Import_CSV, bytes); }
+    int ImportKdar(const std::string& bytes) { return Import(Import_KDAR, bytes); }
+
+    static void Choose(int command) {
+        wxMenu* menu = nullptr;
+        ASSERT_NE(nullptr, MainFrame->GetMenuBar()->FindItem(command, &menu));
+        menu->SendEvent(command);
+        testbench::PumpUntilIdle();
+    }
+
+    static void Select(std::initializer_list<int> rows) {
+        CurrentGrid()->ClearSelection();
+        for (int row : rows)
+            CurrentGrid()->SelectRow(row, true);
+    }
+
+    /// Exports what is selected, by menu and file dialog. The file's bytes.
+    std::string Export(const std::string& name = "list.csv") {
+        testbench::DialogScript script;
+        script.ExpectFile("Export CSV file", (m_folder / name).string());
+        Choose(IdExport);
+        return testbench::ReadFile(m_folder / name);
+    }
+
+    static std::vector<std::string> RowTexts(int row) {
+        std::vector<std::string> texts;
+        for (int col = 0; col < ColumnTotal; ++col)
+            texts.push_back(Text(row, col));
+        return texts;
+    }
+
+    static bool IsPainted(int row, int col) {
+        return CurrentGrid()->GetCellBackgroundColour(row, col) == FailColour;
+    }
+
+    /// Takes the paint of former imports away.
+    static void ForgetLooks() { ForgetLooksOfRows(CurrentGrid()); }
+
+private:
+    int Import(int (*reader)(wxFFile&), const std::string& bytes) {
+        testbench::WriteFile(m_folder / "import.csv", bytes);
+        wxFFile file((m_folder / "import.csv").string(), "rb");
+        return reader(file);
+    }
+};
+
+inline std::string Repeat(const std::string& text, size_t count) {
+    std::string all;
+    all.reserve(text.size() * count);
+    for (size_t i = 0; i < count; ++i)
+        all += text;
+    return all;
+}

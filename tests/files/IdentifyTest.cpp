@@ -1,0 +1,173 @@
+// Which kind a file is, by its contents alone.
+#include "tests/files/ImportTest.h"
+
+namespace {
+
+class Identified : public ImportTest {};
+
+constexpr const char* CsvLine = "MNUM,DESC,RFRQ,TFRQ,RTON,TTON\n";
+
+std::string CsvFileOf(int lines) {
+    std::string bytes;
+    for (int i = 0; i < lines; ++i)
+        bytes += CsvLine;
+    return bytes;
+}
+
+struct KindCase {
+    int number;
+    const char* word;
+    std::string bytes;
+};
+
+std::vector<KindCase> KindCases() {
+    return {
+        {0, "UNKNOWN", "nothing of the kind\n"},
+        {1, "716 Binary", BinaryFile({BinaryRecord()})},
+        {2, "716 Text", ListFile({ListLine("001")})},
+        {3, "MultiZEL", MultiZELFileOf({})},
+        {4, "CSV", CsvFileOf(4)},
+        {5, "KDAR", "KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n"},
+    };
+}
+
+} // namespace
+
+TEST_F(Identified, AreTheKindsByTheirNumbersAndWords) {
+    for (const KindCase& kind : KindCases()) {
+        EXPECT_EQ(kind.number, Identify(kind.bytes)) << kind.word;
+        EXPECT_STREQ(kind.word, FileKindWord[kind.number]);
+    }
+}
+
+TEST_F(Identified, IsA716FileWhateverItsNameSays) {
+    testbench::WriteFile(m_folder / "memories.csv", BinaryFile({BinaryRecord()}));
+    FileImporter importer;
+    EXPECT_EQ(1, importer.Identify((m_folder / "memories.csv").string()));
+}
+
+TEST_F(Identified, IsAHeaderByTheTestedBytesAlone) {
+    const std::string header = BinaryHeader();
+    ASSERT_EQ(32u, header.size());
+    for (size_t at = 0; at < header.size(); ++at) {
+        std::string changed = header;
+        changed[at] ^= 0x20;
+        const bool tested = at < 10 || (at >= 15 && at < 25);
+        EXPECT_EQ(tested ? 0 : 1, Identify(changed)) << "byte " << at;
+    }
+}
+
+TEST_F(Identified, IsNoHeaderThatIsCut) {
+    for (size_t length = 0; length < 32; ++length)
+        EXPECT_EQ(0, Identify(BinaryHeader().substr(0, length))) << length;
+    EXPECT_EQ(1, Identify(BinaryHeader()));
+}
+
+TEST_F(Identified, IsAMultiZELFileByBothLines) {
+    const std::string first = MultiZELLine("001"), second = MultiZELLine("002");
+    EXPECT_EQ(3, Identify(Joined({first, second})));
+    const std::pair<const char*, std::vector<std::string>> cases[] = {
+        {"one line", {first}},
+        {"first number", {MultiZELLine("003"), second}},
+        {"second number", {first, MultiZELLine("003")}},
+        {"first heading", {MultiZELLine("001", {{33, "RX"}}), second}},
+        {"second heading", {first, MultiZELLine("002", {{33, "RX"}})}},
+        {"heading elsewhere", {" " + first, second}},
+        {"a line between", {first, "", second}},
+    };
+    for (const auto& [name, lines] : cases)
+        EXPECT_EQ(0, Identify(Joined(lines))) << name;
+}
+
+TEST_F(Identified, IsA716ListByItsTitles) {
+    const std::string first = Placed({{5, "Basic Information"}, {32, "Rx Information"}});
+    const std::string second = Placed({{3, "Ch# Scan  Desc"}});
+    EXPECT_EQ(2, Identify(Joined({first, second})));
+    const std::pair<const char*, std::vector<std::string>> cases[] = {
+        {"one line", {first}},
+        {"basic elsewhere", {Placed({{6, "Basic Information"}, {32, "Rx Information"}}), second}},
+        {"rx elsewhere", {Placed({{5, "Basic Information"}, {31, "Rx Information"}}), second}},
+        {"second elsewhere", {first, Placed({{2, "Ch# Scan  Desc"}})}},
+        {"other second", {first, Placed({{3, "Ch# Scan Desc"}})}},
+    };
+    for (const auto& [name, lines] : cases)
+        EXPECT_EQ(0, Identify(Joined(lines))) << name;
+}
+
+TEST_F(Identified, IsAKdarListByItsBeginning) {
+    EXPECT_EQ(5, Identify("KDAR-2000"));
+    EXPECT_EQ(5, Identify("KDAR-2000,,,,,\n" + CsvFileOf(4))) << "before it is a CSV file";
+    EXPECT_EQ(0, Identify(" KDAR-2000"));
+    EXPECT_EQ(0, Identify("kdar-2000"));
+}
+
+TEST_F(Identified, IsACsvFileByFiveCommasInEachOfFourLines) {
+    EXPECT_EQ(4, Identify(CsvFileOf(4)));
+    EXPECT_EQ(4, Identify(CsvFileOf(4) + "no commas\n"));
+    EXPECT_EQ(0, Identify(CsvFileOf(2))) << "two lines";
+    EXPECT_EQ(0, Identify(CsvFileOf(3))) << "three lines";
+    EXPECT_EQ(0, Identify(CsvFileOf(3) + "a,b,c,d,e\n")) << "four commas";
+    EXPECT_EQ(0, Identify(CsvFileOf(3) + "\n" + CsvFileOf(1))) << "a line without any between";
+}
+
+TEST_F(Identified, CountsCommasInTheFirstHundredCharactersOnly) {
+    const std::string counted = std::string(95, 'a') + ",,,,,";
+    const std::string tooFar = std::string(96, 'a') + ",,,,,";
+    EXPECT_EQ(4, Identify(Joined({counted, counted, counted, counted})));
+    EXPECT_EQ(0, Identify(Joined({counted, counted, tooFar, counted})));
+    std::string umlauts; // each is two bytes
+    for (int i = 0; i < 95; ++i)
+        umlauts += "\xC3\xA4";
+    EXPECT_EQ(4, Identify(Joined({umlauts + ",,,,,", counted, counted, counted}))) << "characters, not bytes";
+}
+
+TEST_F(Identified, DropsTheRestOfALongLine) {
+    const std::string line = std::string(5, ',') + std::string(1 << 20, 'a');
+    EXPECT_EQ(4, Identify(Joined({line, line, line, line})));
+}
+
+TEST_F(Identified, ReadsLinesOfAnyEnd) {
+    for (const char* end : {"\n", "\r", "\r\n"}) {
+        SCOPED_TRACE(end[0] == '\n' ? "LF" : end[1] ? "CRLF" : "CR");
+        EXPECT_EQ(2, Identify(ListFile({}, end)));
+        EXPECT_EQ(3, Identify(MultiZELFileOf({}, end)));
+        EXPECT_EQ(4, Identify(Joined({",,,,,", ",,,,,", ",,,,,", ",,,,,"}, end)));
+    }
+}
+
+TEST_F(Identified, SkipsAByteOrderMarkOfTexts) {
+    for (const KindCase& kind : KindCases()) {
+        const bool isText = kind.number != 1;
+        EXPECT_EQ(isText ? kind.number : 0, Identify(ByteOrderMark + kind.bytes)) << kind.word;
+    }
+}
+
+TEST_F(Identified, IsNothingThatCannotBeRead) {
+    FileImporter importer;
+    EXPECT_EQ(0, importer.Identify((m_folder / "missing").string()));
+    importer.Close();
+    EXPECT_EQ(0, importer.Identify(m_folder.Path().string()));
+    importer.Close();
+    EXPECT_EQ(0, Identify(""));
+}
+
+TEST_F(Identified, IsNothingWhileAnotherFileIsOpen) {
+    testbench::WriteFile(m_folder / "file", BinaryHeader());
+    const wxString path = (m_folder / "file").string();
+    FileImporter importer;
+    EXPECT_EQ(1, importer.Identify(path));
+    EXPECT_EQ(0, importer.Identify(path));
+    importer.Close();
+    EXPECT_EQ(1, importer.Identify(path));
+}
+
+TEST_F(Identified, AreTheSamplesAfterTheirNames) {
+    for (const auto& entry : std::filesystem::directory_iterator(ZELK_SAMPLES_DIR)) {
+        const std::string name = entry.path().filename().string();
+        const std::string extension = entry.path().extension().string();
+        if (extension.empty() || (name.rfind("kdrv-", 0) != 0 && name.rfind("krv-", 0) != 0))
+            continue;
+        const int expected = extension == ".716" ? 1 : extension == ".txt" ? 2 : 3;
+        EXPECT_EQ(expected, Identify(testbench::ReadFile(entry.path()))) << name;
+    }
+}

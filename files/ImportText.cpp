@@ -20,10 +20,11 @@ bool ContinuesCharacter(char byte) {
 
 /// Takes away what may be the beginning of a character whose other bytes are missing.
 void DropLastCharacter(std::string& bytes) {
-    size_t length = 1;
-    while (length < LongestCharacter && ContinuesCharacter(bytes[bytes.size() - length]))
-        ++length;
-    bytes.resize(bytes.size() - length);
+    for (size_t length = 1; length < LongestCharacter && bytes.size() > 1 && ContinuesCharacter(bytes.back());
+         ++length)
+        bytes.pop_back();
+    if (!bytes.empty())
+        bytes.pop_back();
 }
 
 } // namespace

@@ -63,5 +63,5 @@ private:
 
     wxString m_text; // never filled
     std::shared_ptr<wxAsyncSerialImpl> m_impl;
-    wxWindow* m_parent; // kept for the owner, not used
+    [[maybe_unused]] wxWindow* m_parent; // kept for the owner, not used
 };

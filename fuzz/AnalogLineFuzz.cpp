@@ -1,0 +1,19 @@
+// Channel lines of the analog radios, on the page of a module, whose rows have a band each.
+#include "fuzz/RecordFuzz.h"
+#include "transfer/AnalogInformation.h"
+#include "transfer/AnalogRecord.h"
+#include "transfer/TransferContext.h"
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    MakeFuzzWindow();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    constexpr int module = 17, threeBands = 5;
+    return FuzzRecord(data, size, module, threeBands, [](const wxString& line) {
+        TransferContext context;
+        ParseInformation(line);
+        decodeAnalogRecord(context, CurrentGrid(), line);
+    });
+}

@@ -1,0 +1,33 @@
+// The radio's debug log, both generations: records of one log, a line each.
+#include "transfer/DebugLog.h"
+#include "transfer/TransferContext.h"
+
+#include <wx/init.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <unistd.h>
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    static wxInitializer toolkit;
+    return toolkit.IsOk() ? 0 : 1;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    if (size == 0)
+        return 0;
+    TRecordContext context;
+    context.Protocol = data[0] % 3;
+    if (!context.DebugLogFile.Open("/dev/null", "w"))
+        std::abort();
+    wxString all = wxString::From8BitData(reinterpret_cast<const char*>(data) + 1, size - 1);
+    while (!all.empty()) {
+        context.RxLine = all.BeforeFirst('\r', &all);
+        decodeDebugLog(context);
+        if (context.Phase != 0)
+            std::abort();
+    }
+    EndDebugLog(context);
+    return 0;
+}

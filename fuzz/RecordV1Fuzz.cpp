@@ -1,0 +1,18 @@
+// Memory records of the digital radios, layout V1, and what is done with any line of theirs.
+#include "fuzz/RecordFuzz.h"
+#include "transfer/TRecord.h"
+#include "transfer/TRecordCodec.h"
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    MakeFuzzWindow();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    constexpr int kdrv716B = 7;
+    return FuzzRecord(data, size, kdrv716B, 0, [](const wxString& line) {
+        HasGoodChecksum(line);
+        IsGoodConfigText(HexToText(line));
+        decodeTrecordV1(CurrentGrid(), line);
+    });
+}

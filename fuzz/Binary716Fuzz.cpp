@@ -1,0 +1,18 @@
+// Binary memory files of the KDRV-716 family: the input is a header, which is passed over, and records.
+#include "files/FileKind.h"
+#include "files/Import716.h"
+#include "fuzz/FileFuzz.h"
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    MakeFuzzWindow();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    constexpr int radio = 6, bandIndex = 0;
+    return FuzzFile(data, size, radio, bandIndex, [](const wxString& path) {
+        wxFFile file(path, "rb");
+        file.Seek(HeaderSize716);
+        Import716_Binary(file);
+    });
+}

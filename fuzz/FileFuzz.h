@@ -1,0 +1,31 @@
+// What the fuzzers of foreign files share: the input as a file, and one page, which takes many of them.
+#pragma once
+
+#include "files/ZelkFile_ImportExport.h"
+#include "fuzz/FuzzWindow.h"
+
+#include <wx/ffile.h>
+#include <wx/filename.h>
+
+#include <cstdint>
+#include <cstdlib>
+
+/// Writes the input into a file, lets the importer find out its kind, and hands the path to read, which
+/// writes into the grid of a page of that radio and band slot. To be called with the same page always.
+template <class Read>
+int FuzzFile(const std::uint8_t* data, std::size_t size, int radio, int bandIndex, Read read) {
+    constexpr int filesOfPage = 100;
+    static int files = 0;
+    static const wxString path = wxFileName::CreateTempFileName("zelk-fuzz");
+    wxFFile out(path, "wb");
+    if (!out.IsOpened() || out.Write(data, size) != size || !out.Close())
+        std::abort();
+    if (files++ % filesOfPage == 0)
+        MakeFuzzPage(radio, bandIndex);
+    FileImporter importer;
+    importer.Identify(path);
+    importer.Close();
+    read(path);
+    CheckFuzzPage();
+    return 0;
+}

@@ -1,0 +1,16 @@
+// Comma-separated lists of the KDAR-2000.
+#include "files/CsvImport.h"
+#include "fuzz/FileFuzz.h"
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    MakeFuzzWindow();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    constexpr int radio = 8, bandIndex = 0;
+    return FuzzFile(data, size, radio, bandIndex, [](const wxString& path) {
+        wxFFile file(path, "rb");
+        Import_KDAR(file);
+    });
+}

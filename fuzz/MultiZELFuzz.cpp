@@ -1,0 +1,19 @@
+// Lists of the analog radios, on the page of a module, whose rows have a band each.
+#include "files/ImportMultiZEL.h"
+
+#include "fuzz/FileFuzz.h"
+#include <wx/textfile.h>
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    MakeFuzzWindow();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    constexpr int radio = 17, bandIndex = 5;
+    return FuzzFile(data, size, radio, bandIndex, [](const wxString& path) {
+        wxTextFile lines;
+        if (lines.Open(path, wxConvAuto(wxFONTENCODING_ISO8859_1)))
+            ImportMultiZEL(lines);
+    });
+}

@@ -1,0 +1,16 @@
+// Printed lists of the KDRV-716 family.
+#include "files/Import716.h"
+#include "fuzz/FileFuzz.h"
+
+extern "C" int LLVMFuzzerInitialize(int*, char***) {
+    MakeFuzzWindow();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    constexpr int radio = 6, bandIndex = 0;
+    return FuzzFile(data, size, radio, bandIndex, [](const wxString& path) {
+        wxFFile file(path, "rb");
+        Import716_Text(file);
+    });
+}

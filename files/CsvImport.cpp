@@ -214,6 +214,24 @@ void TakeLine(RowWriter& writer, const CsvReader& reader, const CsvTexts& fields
     }
 }
 
+/// Hands each line of the list to takeLine, with its number from 1. Meant: a list longer than the page loses
+/// its end, whatever rows its lines name. The count of lines that the page took.
+template <class Take>
+int TakeLines(CsvReader& reader, Take takeLine) {
+    const wxGridUpdateLocker quiet(CurrentGrid());
+    const int rows = CurrentGrid()->GetNumberRows();
+    RowWriter writer;
+    CsvTexts fields;
+    int count = 0;
+    for (int line = 1; reader.GetData_CSV(fields, rows); ++line) {
+        if (line >= rows)
+            continue;
+        takeLine(writer, line, fields);
+        ++count;
+    }
+    return count;
+}
+
 } // namespace
 
 int Import_CSV(wxFFile& file) {
@@ -223,21 +241,11 @@ int Import_CSV(wxFFile& file) {
         TellHeaderMissing();
         return 0;
     }
-    const wxGridUpdateLocker quiet(CurrentGrid());
-    const int rows = CurrentGrid()->GetNumberRows();
-    RowWriter writer;
-    CsvTexts fields;
-    int count = 0;
-    // Meant: a list longer than the page loses its end, whatever rows its lines name.
-    for (int line = 1; reader.GetData_CSV(fields, rows); ++line) {
-        if (line >= rows)
-            continue;
+    return TakeLines(reader, [&reader](RowWriter& writer, int, const CsvTexts& fields) {
         writer.FillRow(reader.Row());
         TakeLine(writer, reader, fields);
         writer.FinishRow(TflgMade);
-        ++count;
-    }
-    return count;
+    });
 }
 
 int Import_KDAR(wxFFile& file) {
@@ -251,19 +259,10 @@ int Import_KDAR(wxFFile& file) {
         TellHeaderMissing();
         return 0;
     }
-    const wxGridUpdateLocker quiet(CurrentGrid());
-    const int rows = CurrentGrid()->GetNumberRows();
-    RowWriter writer;
-    CsvTexts fields;
-    int count = 0;
-    for (int line = 1; reader.GetData_CSV(fields, rows); ++line) {
-        if (line >= rows)
-            continue;
+    return TakeLines(reader, [flags](RowWriter& writer, int line, const CsvTexts& fields) {
         // Meant: the lines fill the page from its first memory, whatever numbers they have.
         writer.FillRow(line);
         TakeKdarLine(writer, fields);
         writer.FinishRow(FlagText(flags));
-        ++count;
-    }
-    return count;
+    });
 }

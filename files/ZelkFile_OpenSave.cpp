@@ -150,6 +150,27 @@ int OpenZelkFile(const wxXmlDocument& document, int page) {
     return result != ChannelFile::ReadDone ? result : rowsResult;
 }
 
+bool OpenChannelFile(const wxString& path) {
+    wxFileName file(path);
+    file.MakeAbsolute();
+    wxXmlDocument document;
+    if (!LoadXmlFile(file.GetFullPath(), document)) {
+        wxMessageBox("Not valid XML Document", "Error", wxOK | wxCENTRE | wxICON_ERROR);
+        return false;
+    }
+    ResetPage(CurrentPage);
+    const int result = OpenZelkFile(document, CurrentPage);
+    if (result != 0) {
+        wxMessageBox(wxString::Format("Open File returned: %d", result), "Error", wxOK | wxCENTRE);
+        return false;
+    }
+    PageStringRecord& strings = PageStrings[CurrentPage];
+    strings.FileName = file.GetName();
+    strings.FileDir = file.GetPathWithSep();
+    CurrentParameters().Flags |= PageFromFile;
+    return true;
+}
+
 void SaveZelkFile(int page, bool saveAs) {
     wxXmlDocument document;
     const int leftOut = BuildChannelFile(page, document);
@@ -171,27 +192,13 @@ void ZelkFrame::OnOpen(wxCommandEvent&) {
                              wxOK | wxCANCEL);
     if (question.ShowModal() != wxID_OK)
         return;
-    PageStringRecord& strings = PageStrings[CurrentPage];
+    const PageStringRecord& strings = PageStrings[CurrentPage];
     wxFileDialog dialog(this, "Select Zelk file",
                         strings.FileDir.empty() ? PageStrings[0].FileDir : strings.FileDir, "",
                         "Zelk files|*.zelk|All files|*.*", wxFD_OPEN);
     if (dialog.ShowModal() != wxID_OK)
         return;
-    const wxFileName chosen(dialog.GetPath());
-    wxXmlDocument document;
-    if (!LoadXmlFile(chosen.GetFullPath(), document)) {
-        wxMessageBox("Not valid XML Document", "Error", wxOK | wxCENTRE | wxICON_ERROR);
-        return;
-    }
-    ResetPage(CurrentPage);
-    const int result = OpenZelkFile(document, CurrentPage);
-    if (result != 0) {
-        wxMessageBox(wxString::Format("Open File returned: %d", result), "Error", wxOK | wxCENTRE);
-        return;
-    }
-    strings.FileName = chosen.GetName();
-    strings.FileDir = chosen.GetPathWithSep();
-    CurrentParameters().Flags |= PageFromFile;
+    OpenChannelFile(dialog.GetPath());
 }
 
 void ZelkFrame::OnSave(wxCommandEvent&) {

@@ -1,6 +1,7 @@
 // The channel file: one page of memories as an XML document.
 #pragma once
 
+class wxString;
 class wxXmlDocument;
 
 /// Reads a parsed channel file into page, which must be the current one: its radio, band and type
@@ -8,6 +9,11 @@ class wxXmlDocument;
 /// header is stored unless type, radio and band are all known. Whatever the answer, row 0 holds a
 /// default row and the cells have the editors of the page.
 int OpenZelkFile(const wxXmlDocument& document, int page);
+
+/// Opens the file of this name, relative to the working folder or whole, into the current page, as File >
+/// Open does once the user has chosen. False after a message box that tells why not: the page is untouched if
+/// the file is no XML document, and reset otherwise.
+bool OpenChannelFile(const wxString& path);
 
 /// Writes the complete rows of page to its file; asks for a name when the page has none or
 /// saveAs is true. The former file stays whole until the new one is. The status bar tells how many

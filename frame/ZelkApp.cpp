@@ -1,5 +1,6 @@
 #include "frame/ZelkApp.h"
 
+#include "files/ZelkFile_OpenSave.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/image.h>
@@ -13,5 +14,8 @@ bool ZelkApp::OnInit() {
     wxInitAllImageHandlers();
     MainFrame = new ZelkFrame(nullptr);
     MainFrame->Show();
+    // A desktop that was asked to open a file names it. Its message boxes need the running main loop.
+    if (argc > 1)
+        MainFrame->CallAfter([path = wxString(argv[1])] { OpenChannelFile(path); });
     return true;
 }

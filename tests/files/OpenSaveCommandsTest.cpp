@@ -66,6 +66,29 @@ TEST_F(OpenSaveCommands, OpenReadsTheChosenFile) {
     EXPECT_EQ(0x02, CurrentParameters().Flags);
 }
 
+TEST_F(OpenSaveCommands, AFileNamedByTheCommandLineBelongsToItsFolderWhateverTheWorkingFolderIs) {
+    WriteToFolder("a.zelk", FileOf("KDAR", Memory(7, "<MN>007</MN><DS>TOWER</DS>")));
+    const fs::path workingFolder = fs::current_path();
+    fs::current_path(m_folder.Path());
+    EXPECT_TRUE(OpenChannelFile("a.zelk"));
+    fs::current_path(workingFolder);
+    EXPECT_EQ("TOWER", Text(7, DESC));
+    EXPECT_EQ("a", PageStrings[0].FileName);
+    EXPECT_EQ(FolderText(), PageStrings[0].FileDir);
+    EXPECT_EQ(0x02, CurrentParameters().Flags);
+}
+
+TEST_F(OpenSaveCommands, AFileNamedByTheCommandLineThatCanNotBeReadIsToldLikeAnyOther) {
+    WriteToFolder("empty.zelk", "<ZelkMem/>");
+    DialogScript script;
+    script.ExpectMessage("Error", "Not valid XML Document");
+    script.ExpectMessage("Error", testbench::Matching("Open File returned: 1[0-9]+"));
+    EXPECT_FALSE(OpenChannelFile((m_folder / "missing.zelk").string()));
+    EXPECT_FALSE(OpenChannelFile((m_folder / "empty.zelk").string()));
+    EXPECT_EQ("", PageStrings[0].FileName);
+    EXPECT_EQ(0, CurrentParameters().Flags);
+}
+
 TEST_F(OpenSaveCommands, OpenAsksFirstAndLeavesThePageWhenThePersonDoesNotWantTo) {
     SetCell(5, DESC, "KEPT");
     DialogScript script;

@@ -1,0 +1,111 @@
+// The program as a desktop starts it, with a file's name or without.
+#include "resources/ToolImages.h"
+#include "tests/support/robot/Files.h"
+#include "tests/support/robot/Hands.h"
+#include "tests/support/robot/PictureSpot.h"
+#include "tests/support/robot/Process.h"
+#include "tests/support/robot/Pump.h"
+#include "tests/support/robot/TempFolder.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include <gtest/gtest.h>
+
+using namespace testbench;
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string mainWindow = "Orv Zelk: Page 1 of 1.";
+
+class CommandLine : public testing::Test {
+protected:
+    static void SetUpTestSuite() { wxInitAllImageHandlers(); }
+
+    bool WaitForFocus(const std::string& title) {
+        return PumpUntil([&] { return m_hands.FocusedTitle() == title; }, 15000);
+    }
+
+    /// Clicks the tool that saves, once it is to be seen.
+    void Save() {
+        const wxImage picture = GetToolImage(ToolImage::Save);
+        std::optional<wxPoint> tool;
+        ASSERT_TRUE(PumpUntil(
+            [&] {
+                tool = FindPicture(XDesk().Picture({}), picture);
+                return tool.has_value();
+            },
+            10000));
+        m_hands.Click(*tool);
+    }
+
+    /// The file's text from the radio type on: what stands before it tells when it was saved.
+    static std::string Contents(const fs::path& file) {
+        const std::string text = ReadFile(file);
+        return text.substr(std::min(text.find("<FType>"), text.size()));
+    }
+
+    static Process Start(const std::vector<std::string>& arguments, const fs::path& folder = {}) {
+        std::vector<std::string> command = {ZELK_PROGRAM};
+        command.insert(command.end(), arguments.begin(), arguments.end());
+        return Process(command, {.folder = folder});
+    }
+
+    /// A copy of the example in the folder of the test; it is marked as saved in 1999.
+    fs::path CopyExample(const std::string& name) {
+        std::string text = ReadFile(fs::path(ZELK_EXAMPLES_DIR) / name);
+        const size_t date = text.find("<Date>") + 6;
+        text.replace(date, text.find("</Date>") - date, "01-Jan-1999");
+        WriteFile(m_folder / name, text);
+        return m_folder / name;
+    }
+
+    /// Saves the page and expects it to go back into the file as it came.
+    void ExpectPageIsOf(const fs::path& file) {
+        const std::string before = Contents(file);
+        Save();
+        ASSERT_TRUE(PumpUntil([&] { return ReadFile(file).find("1999") == std::string::npos; }, 10000))
+            << "the page was not saved into " << file;
+        EXPECT_EQ(Contents(file), before);
+    }
+
+    Hands m_hands;
+    const TempFolder m_folder;
+};
+
+} // namespace
+
+TEST_F(CommandLine, NamesAFileThatOpensOnTheFirstPage) {
+    const fs::path file = CopyExample("krv-214-vhf.zelk");
+    const Process zelk = Start({file});
+    ASSERT_TRUE(WaitForFocus(mainWindow));
+    ExpectPageIsOf(file);
+}
+
+TEST_F(CommandLine, NamesAFileOfADigitalRadioInTheWorkingFolder) {
+    const fs::path file = CopyExample("kdrv-716b-p25.zelk");
+    const Process zelk = Start({"kdrv-716b-p25.zelk"}, m_folder.Path());
+    ASSERT_TRUE(WaitForFocus(mainWindow));
+    ExpectPageIsOf(file);
+}
+
+TEST_F(CommandLine, NamesAFileThatIsNoneAndIsToldSo) {
+    WriteFile(m_folder / "list.zelk", "no channels");
+    Process zelk = Start({m_folder / "list.zelk"});
+    ASSERT_TRUE(WaitForFocus("Error"));
+    m_hands.Press("Escape");
+    EXPECT_TRUE(WaitForFocus(mainWindow));
+    EXPECT_TRUE(zelk.IsRunning());
+}
+
+TEST_F(CommandLine, WithoutAFileOpensNone) {
+    const fs::path file = CopyExample("krv-214-vhf.zelk");
+    const Process zelk = Start({}, m_folder.Path());
+    ASSERT_TRUE(WaitForFocus(mainWindow));
+    Save();
+    // The new page has a default row and no file of its own, so that it asks for one.
+    EXPECT_TRUE(WaitForFocus("Save .zelk file..."));
+}

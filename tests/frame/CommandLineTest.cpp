@@ -1,15 +1,14 @@
 // The program as a desktop starts it, with a file's name or without.
 #include "resources/ToolImages.h"
+#include "tests/support/robot/ClickPicture.h"
 #include "tests/support/robot/Files.h"
 #include "tests/support/robot/Hands.h"
-#include "tests/support/robot/PictureSpot.h"
 #include "tests/support/robot/Process.h"
 #include "tests/support/robot/Pump.h"
 #include "tests/support/robot/TempFolder.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <optional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -29,18 +28,7 @@ protected:
         return PumpUntil([&] { return m_hands.FocusedTitle() == title; }, 15000);
     }
 
-    /// Clicks the tool that saves, once it is to be seen.
-    void Save() {
-        const wxImage picture = GetToolImage(ToolImage::Save);
-        std::optional<wxPoint> tool;
-        ASSERT_TRUE(PumpUntil(
-            [&] {
-                tool = FindPicture(XDesk().Picture({}), picture);
-                return tool.has_value();
-            },
-            10000));
-        m_hands.Click(*tool);
-    }
+    void Save() { ASSERT_TRUE(ClickPicture(m_hands, GetToolImage(ToolImage::Save))); }
 
     /// The file's text from the radio type on: what stands before it tells when it was saved.
     static std::string Contents(const fs::path& file) {

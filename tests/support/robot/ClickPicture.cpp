@@ -1,0 +1,23 @@
+#include "tests/support/robot/ClickPicture.h"
+
+#include "tests/support/robot/Hands.h"
+#include "tests/support/robot/PictureSpot.h"
+#include "tests/support/robot/Pump.h"
+
+#include <wx/image.h>
+
+namespace testbench {
+
+bool ClickPicture(Hands& hands, const wxImage& picture, int ms) {
+    std::optional<wxPoint> spot;
+    const auto isShown = [&] {
+        spot = FindPicture(XDesk().Picture({}), picture);
+        return spot.has_value();
+    };
+    if (!PumpUntil(isShown, ms))
+        return false;
+    hands.Click(*spot);
+    return true;
+}
+
+} // namespace testbench

@@ -59,6 +59,9 @@ public:
     void OnLoadDefault(wxCommandEvent& event) override;
     void OnClearHighlight(wxCommandEvent& event) override;
 
+    // diagnostics/
+    void OnDebug(wxCommandEvent& event) override;
+
     void OnSpare(wxCommandEvent&) override {}
 
     /// Reads the files of other programs.

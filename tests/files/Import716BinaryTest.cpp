@@ -1,5 +1,6 @@
 // The binary memory files of the KDRV-716 family.
 #include "tests/files/ImportTest.h"
+#include "tests/support/LogKeeper.h"
 
 namespace {
 
@@ -329,15 +330,6 @@ TEST_F(Binary716, ALastRecordThatIsCutCountsFromItsNumberOn) {
 }
 
 TEST_F(Binary716, EachFieldOfARecordCanBeDumpedToTheLog) {
-    class Keeper : public wxLog {
-    public:
-        std::vector<wxString> m_lines;
-
-    protected:
-        void DoLogRecord(wxLogLevel, const wxString& text, const wxLogRecordInfo&) override {
-            m_lines.push_back(text);
-        }
-    };
     Record716 record;
     const Field716 fields[] = {
         &Record716::Mflg, &Record716::Mnum, &Record716::Prim, &Record716::Scan, &Record716::Zone,
@@ -349,23 +341,16 @@ TEST_F(Binary716, EachFieldOfARecordCanBeDumpedToTheLog) {
     };
     for (size_t i = 0; i < 30; ++i)
         record.*fields[i] = std::to_string(i);
-    const std::vector<wxString> expected = {
+    const std::vector<std::string> expected = {
         " .Mflg: 0",  " .Mnum: 1",  " .Prim: 2",  " .Scan: 3",  " .Zone: 4",  " .Desc: 5",
         " .Encr: 6",  " .Mode: 7",  " .Rsql: 8",  " .Rtgp: 9",  " .Rton: 10", " .Rcod: 11",
         " .Rnac: 12", " .Rfrq: 13", " .Tsql: 14", " .Ttgp: 15", " .Tton: 16", " .Tcod: 17",
         " .Tnac: 18", " .Tfrq: 19", " .Tidc: 20", " .Shd0: 21", " .Shd1: 22", " .Shd2: 23",
         " .Shd3: 24", " .Shd4: 25", " .Shd5: 26", " .Shd6: 27", " .Rfrn: 28", " .Tflg: 29",
     };
-    Keeper keeper;
-    wxLog* const former = wxLog::SetActiveTarget(&keeper);
-    const bool enabled = wxLog::EnableLogging(true);
-    const wxLogLevel level = wxLog::GetLogLevel();
-    wxLog::SetLogLevel(wxLOG_Info);
+    testbench::LogKeeper log;
     Dump716Record(record);
-    wxLog::SetLogLevel(level);
-    wxLog::EnableLogging(enabled);
-    wxLog::SetActiveTarget(former);
-    EXPECT_EQ(expected, keeper.m_lines);
+    EXPECT_EQ(expected, log.lines);
 }
 
 TEST_F(Binary716, TheSampleHoldsItsChannels) {

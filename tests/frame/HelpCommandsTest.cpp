@@ -3,12 +3,14 @@
 
 #include "frame/CommandIds.h"
 #include "tests/frame/FrameTools.h"
+#include "tests/frame/ToolkitLabels.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
 #include "tests/support/ZelkWindowTest.h"
 #include "tests/support/robot/Files.h"
 #include "tests/support/robot/TempFolder.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 
@@ -111,6 +113,14 @@ TEST_F(HelpFile, AboutBoxComesUpAndGoes) {
     RunWithRobot([](Robot& robot) {
         TellGui([] { RunCommand(IdAbout); });
         EXPECT_TRUE(robot.WaitForWindow("About Orv Zelk"));
+        const std::vector<std::string> shown = robot.Ask([] { return ShownLabels("GtkAboutDialog"); });
+        for (const char* text : {"Orv Zelk", "1.0.0",
+                                 "Channel loading software for Orv Radios. \n"
+                                 "10 JUN 2026 \n\n"
+                                 "wxWidgets 3.2.5-Windows-Unicode build",
+                                 "Copyright 2026 the Zelk developers"})
+            EXPECT_EQ(std::count(shown.begin(), shown.end(), text), 1)
+                << text << "\nshown: " << testing::PrintToString(shown);
         robot.Press("Escape");
         EXPECT_TRUE(robot.WaitForWindow("Orv Zelk: Page 1 of 1."));
     });

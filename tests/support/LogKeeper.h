@@ -1,0 +1,38 @@
+// The program's log in tests.
+#pragma once
+
+#include <wx/log.h>
+#include <wx/string.h>
+
+#include <string>
+#include <vector>
+
+namespace testbench {
+
+/// While it lives, logging is on and every record is kept instead of shown.
+class LogKeeper : public wxLog {
+public:
+    LogKeeper() : m_former(SetActiveTarget(this)), m_enabled(EnableLogging(true)), m_level(GetLogLevel()) {
+        SetLogLevel(wxLOG_Info);
+    }
+    ~LogKeeper() override {
+        SetLogLevel(m_level);
+        EnableLogging(m_enabled);
+        SetActiveTarget(m_former);
+    }
+
+    /// The texts of the records so far, in UTF-8.
+    std::vector<std::string> lines;
+
+protected:
+    void DoLogRecord(wxLogLevel, const wxString& text, const wxLogRecordInfo&) override {
+        lines.push_back(text.utf8_string());
+    }
+
+private:
+    wxLog* const m_former;
+    const bool m_enabled;
+    const wxLogLevel m_level;
+};
+
+} // namespace testbench

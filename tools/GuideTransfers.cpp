@@ -176,7 +176,7 @@ void TakeTransferBoxes(Tour::TourHand& hand, Camera& camera, const Places& place
     const auto radio = StartRadio(places, "KDRV-716B", "KDRV-716B");
     OpenOnPage(robot, places.examples / "kdrv-716b-p25.zelk");
     ChoosePort(hand, camera, "KDRV-716B", "");
-    SelectRows(robot, 1, 10);
+    SelectRows(robot, 20, 30);
     RunCommand(IdUpload);
     AnswerBox(hand, camera, "Radio Operating Modes", "operating-modes");
     AnswerBox(hand, camera, "Write to Radio Status", "");

@@ -3,6 +3,7 @@
 #include "frame/ZelkMain.h"
 #include "tests/support/robot/Robot.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 #include <wx/image.h>
@@ -25,9 +26,12 @@ Camera::Camera(Robot& robot, std::filesystem::path folder) : m_robot(robot), m_f
     std::filesystem::create_directories(m_folder);
 }
 
-void Camera::Window(const std::string& name) {
+void Camera::Window(const std::string& name, int height) {
     m_robot.Settle();
-    Part(name, m_robot.Ask([] { return MainFrame->GetScreenRect(); }));
+    wxRect area = m_robot.Ask([] { return MainFrame->GetScreenRect(); });
+    if (height > 0)
+        area.SetHeight(std::min(height, area.GetHeight()));
+    Part(name, area);
 }
 
 void Camera::FocusedWindow(const std::string& name) {

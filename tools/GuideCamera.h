@@ -20,7 +20,8 @@ public:
 
     /// The main window as it stands, with all that lies over it. `name` is that of the file, without
     /// extension.
-    void Window(const std::string& name);
+    /// Of a `height` above 0 only so many pixels from the top are pictured.
+    void Window(const std::string& name, int height = 0);
 
     /// The window or dialog that has the keyboard, alone.
     void FocusedWindow(const std::string& name);

@@ -109,7 +109,7 @@ void TakeCells(Robot& robot, Camera& camera, const std::string& name, int lastRo
 
 void TakeRowMenu(Robot& robot, Camera& camera, const std::string& name, int row) {
     RightClick(robot, robot.Ask([row] { return RowLabelSpot(*CurrentGrid(), row); }));
-    camera.Window(name);
+    camera.Window(name, 450);
     robot.Press("Escape");
     robot.Ask([] { CurrentGrid()->ClearSelection(); });
 }
@@ -122,7 +122,7 @@ void TakeMarks(Robot& robot, Camera& camera) {
     RunCommand(IdMarkRow);
     robot.WaitFor([] { return (CurrentParameters().Flags & PageHasMarks) != 0; });
     RightClick(robot, robot.Ask([] { return ColumnLabelSpot(*CurrentGrid(), MODE); }));
-    camera.Window("column-menu");
+    camera.Window("column-menu", 340);
     robot.Press("Escape");
     RunCommand(IdClearHighlight);
     robot.Ask([] { CurrentGrid()->ClearSelection(); });
@@ -135,13 +135,13 @@ void TakeMistakes(Robot& robot, Camera& camera, const Places& places) {
         throw std::runtime_error("no box of the check");
     robot.Press("Return");
     robot.WaitForNoDialog();
-    camera.Window("validated");
+    camera.Window("validated", 270);
 }
 
 void TakeShadow(Robot& robot, Camera& camera) {
     const int row = 3;
     RightClick(robot, robot.Ask([] { return RowLabelSpot(*CurrentGrid(), row); }));
-    camera.Window("row-menu-p25");
+    camera.Window("row-menu-p25", 420);
     robot.Press("Escape");
     robot.Settle();
     RunCommand(IdCreateShadow);
@@ -180,7 +180,7 @@ void TakePages(Tour::TourHand& hand, Camera& camera, const Places& places) {
     ResizeWindow(robot, 1230, 640);
     OpenOnPage(robot, places.examples / "kdrv-716b-p25.zelk");
     robot.Ask([] { CurrentGrid()->MakeCellVisible(40, DESC); });
-    camera.Window("page-p25");
+    camera.Window("page-p25", 560);
     OpenOnPage(robot, FirstMemories(places, "kdrv-716b-p25.zelk", 5));
     robot.Ask([] { CurrentGrid()->MakeCellVisible(0, DESC); });
     TakeShadow(robot, camera);

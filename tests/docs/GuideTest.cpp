@@ -188,15 +188,19 @@ TEST(Guide, HasEveryRadioWithItsBandsRowsAndGuards) {
 }
 
 TEST(Guide, HasTheHeadingsOfLists) {
-    std::string heading;
-    for (const char c : std::string(CsvHeader)) {
-        if (c != ',') {
-            heading += c;
-            continue;
-        }
-        ExpectInSource("`" + heading + "`");
-        heading.clear();
-    }
+    const wxArrayString names = wxSplit(CsvHeader, ',');
+    const auto marked = [&](const unsigned char* mask) {
+        std::string all;
+        for (std::size_t i = 0; i < CsvFieldTotal; ++i)
+            if (!mask || mask[i])
+                all += (all.empty() ? "`" : ", `") + names[i].utf8_string() + '`';
+        return all;
+    };
+    ExpectInSource("The headings are: " + marked(nullptr) + ".\n");
+    for (int type = 0; type < TypeTotal; ++type)
+        if (type != KDAR)
+            ExpectInSource(std::string("\n|`") + RadioTypeName[type] + "` |" + marked(CsvFieldMask[type]) +
+                           '\n');
     ExpectInSource(std::string("\n") + KdarCsvHeader + '\n');
     ExpectInSource(KdarCsvBanner);
 }

@@ -97,7 +97,7 @@ void TypeChannels(Tour::TourHand& hand, Camera& camera) {
     Robot& robot = hand.TheRobot();
     TypeIntoCell(robot, 1, RFRQ, "155.75", false);
     robot.Move({700, 420});
-    camera.Window("typing", 250);
+    camera.Window("typing", 320);
     robot.Type("25\n");
     robot.Settle();
     TypeIntoCell(robot, 1, DESC, "CALL");
@@ -106,7 +106,7 @@ void TypeChannels(Tour::TourHand& hand, Camera& camera) {
     TypeIntoCell(robot, 2, DESC, "TAC 1");
     TypeIntoCell(robot, 3, RFRQ, "154.4525");
     TypeIntoCell(robot, 3, DESC, "TAC 2");
-    camera.Window("channels", 250);
+    camera.Window("channels", 320);
 }
 
 void SelectRows(Robot& robot, int first, int last) {
@@ -158,7 +158,7 @@ void TakeFirstTransfer(Tour::TourHand& hand, Camera& camera, const Places& place
     AnswerBox(hand, camera, "Read Channel Data from Radio\\?", "read-question");
     AnswerBox(hand, camera, "Read channel data from radio", "press-enter", 20000);
     AnswerBox(hand, camera, "Read from Radio Status", "", 180000);
-    camera.Window("read-back", 300);
+    camera.Window("read-back", 380);
 }
 
 void TakeTransferBoxes(Tour::TourHand& hand, Camera& camera, const Places& places) {

@@ -1,6 +1,8 @@
 // The user guide against the program: what the program shows or knows must stand in the guide.
 #include "catalogue/RadioCatalogue.h"
+#include "files/FileKind.h"
 #include "frame/CommandTables.h"
+#include "simulator/Options.h"
 #include "tests/docs/GuideSource.h"
 #include "tests/docs/ProgramTexts.h"
 #include "tests/docs/SourceTexts.h"
@@ -10,7 +12,9 @@
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <iomanip>
 #include <set>
+#include <sstream>
 
 using namespace docstest;
 using namespace RadioCatalogue;
@@ -71,6 +75,53 @@ std::string Cell(std::string text) {
     for (std::size_t at = 0; (at = text.find('|', at)) != std::string::npos; at += 2)
         text.insert(at, "\\");
     return text;
+}
+
+/// The blocks of text that stand in the guide as they are, from its heading of that identity on.
+std::vector<std::string> Blocks(const std::string& identity) {
+    std::vector<std::string> blocks;
+    const std::string fence = "\n----\n";
+    std::size_t at = Source().find("[#" + identity + "]");
+    while (at != std::string::npos && (at = Source().find(fence, at)) != std::string::npos) {
+        const std::size_t start = at + fence.size();
+        at = Source().find(fence, start);
+        blocks.push_back(Source().substr(start, at - start));
+        at += fence.size();
+    }
+    return blocks;
+}
+
+FileKind KindOfBlock(const std::string& block) {
+    std::istringstream in(block);
+    std::array<wxString, 4> lines;
+    for (wxString& line : lines)
+        if (std::string text; std::getline(in, text))
+            line = text;
+    return KindOfText(lines);
+}
+
+/// The words of a command line behind the program's name; double quotes keep a word together.
+std::vector<std::string> ArgumentsOf(const std::string& command) {
+    std::istringstream in(command);
+    std::vector<std::string> words;
+    for (std::string word; in >> std::quoted(word);)
+        words.push_back(word);
+    words.erase(words.begin());
+    return words;
+}
+
+/// What stands between backquotes at the start of the cells that begin so.
+std::vector<std::string> CodesBeginning(const std::string& start) {
+    std::vector<std::string> codes;
+    for (std::size_t at = 0; (at = Source().find("\n|`" + start, at)) != std::string::npos; ++at)
+        codes.push_back(Source().substr(at + 3, Source().find('`', at + 3) - at - 3));
+    return codes;
+}
+
+void ExpectUnderstood(const std::vector<std::string>& arguments) {
+    Simulator::Options options;
+    std::string trouble;
+    EXPECT_TRUE(Simulator::ParseOptions(arguments, options, trouble)) << trouble;
 }
 
 std::string WithoutBlanks(const std::string& text) {
@@ -203,6 +254,34 @@ TEST(Guide, HasTheHeadingsOfLists) {
                            '\n');
     ExpectInSource(std::string("\n") + KdarCsvHeader + '\n');
     ExpectInSource(KdarCsvBanner);
+}
+
+TEST(Guide, ShowsListsThatAnImportRecognises) {
+    const std::vector<std::string> general = Blocks("csv"), kdar = Blocks("kdar-csv");
+    ASSERT_FALSE(general.empty() || kdar.empty());
+    EXPECT_EQ(KindOfBlock(general[0]), CsvFile) << general[0];
+    EXPECT_EQ(KindOfBlock(kdar[0]), KdarFile) << kdar[0];
+}
+
+TEST(Guide, GivesCommandsThatTheSimulatedRadioUnderstands) {
+    int commands = 0;
+    for (const std::string& block : Blocks("simulated-radios"))
+        if (block.starts_with("zelk-radio --")) {
+            ExpectUnderstood(ArgumentsOf(block));
+            ++commands;
+        }
+    EXPECT_GE(commands, 2);
+
+    const std::vector<std::string> options = CodesBeginning("--");
+    ASSERT_GE(options.size(), 8u);
+    for (const std::string& option : options)
+        EXPECT_NE(Simulator::HelpText().find("  " + option.substr(0, option.find_first_of(" [")) + ' '),
+                  std::string::npos)
+            << option;
+    for (std::size_t at = 0; (at = Source().find("@5`", at)) != std::string::npos; ++at) {
+        const std::size_t start = Source().rfind('`', at) + 1;
+        ExpectUnderstood({"--model", "KDRV-716", "--fault", Source().substr(start, at + 2 - start)});
+    }
 }
 
 TEST(Guide, TellsEveryCodeOfAChannelFileThatCannotBeOpened) {

@@ -59,8 +59,7 @@ void TourHand::AnswerWithReturn(const std::string& caption) {
     m_robot.Press("Return");
 }
 
-void TourHand::Choose(const std::string& step, const std::string& caption, wxChoice*& choice,
-                      const std::string& text) {
+wxDialog* TourHand::Pick(const std::string& caption, wxChoice*& choice, const std::string& text) {
     wxDialog* dialog = m_robot.WaitForDialog(caption);
     Need(dialog != nullptr, "no dialog " + caption);
     m_robot.Settle();
@@ -79,10 +78,20 @@ void TourHand::Choose(const std::string& step, const std::string& caption, wxCho
         m_robot.Press("Return");
     }
     Need(m_robot.WaitFor(chosen), "can't choose " + text);
-    Done(step, text);
+    return dialog;
+}
+
+void TourHand::ClickOk(wxDialog* dialog, const std::string& caption) {
     const wxPoint ok = m_robot.Ask([&] { return MiddleOf(*dialog->FindWindow(wxID_OK)); });
     m_robot.Click(ok);
     Need(m_robot.WaitForNoDialog(), caption + " stays open");
+}
+
+void TourHand::Choose(const std::string& step, const std::string& caption, wxChoice*& choice,
+                      const std::string& text) {
+    wxDialog* dialog = Pick(caption, choice, text);
+    Done(step, text);
+    ClickOk(dialog, caption);
 }
 
 void TourHand::OpenPageMenu() {

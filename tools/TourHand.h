@@ -9,6 +9,7 @@
 #include <string>
 
 class wxChoice;
+class wxDialog;
 
 namespace Tour {
 
@@ -31,7 +32,13 @@ public:
     /// Answers the dialog of that caption with its default button.
     void AnswerWithReturn(const std::string& caption);
 
-    /// Walks to a choice's entry with the keyboard in the open dialog, ends the step, and clicks OK.
+    /// Walks to a choice's entry with the keyboard in the dialog of that caption, which stays open.
+    wxDialog* Pick(const std::string& caption, wxChoice*& choice, const std::string& text);
+
+    /// Clicks OK in an open dialog and waits until it has gone.
+    void ClickOk(wxDialog* dialog, const std::string& caption);
+
+    /// Picks a choice's entry, ends the step, and clicks OK.
     void Choose(const std::string& step, const std::string& caption, wxChoice*& choice,
                 const std::string& text);
 

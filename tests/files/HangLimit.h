@@ -1,10 +1,17 @@
 // How long a hostile file may keep the program busy.
 #pragma once
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-/// Processor seconds, with the checks that a sanitizer adds to every memory access.
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define ZELK_IS_SANITIZED
+#endif
+#elif defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define ZELK_IS_SANITIZED
+#endif
+
+/// Processor seconds. A sanitizer adds its checks to every memory access.
+#ifdef ZELK_IS_SANITIZED
 constexpr double HangLimit = 20.0;
 #else
-/// Processor seconds.
 constexpr double HangLimit = 2.0;
 #endif

@@ -15,7 +15,7 @@ using namespace testbench;
 
 namespace {
 
-constexpr int Krv21 = 0, Krv47 = 1, Orv12 = 2, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8,
+constexpr int Krv21 = 0, Orv12 = 2, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8,
               Krv610 = 9, Kdrv4xxx = 17;
 
 class Pages : public ZelkWindowTest {

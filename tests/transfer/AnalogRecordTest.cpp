@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int Krv47 = 1, Krv305 = 5, Kdar2000 = 8, Krv610 = 9, Kdrv8400 = 16, Kdrv4xxx = 17;
+constexpr int Krv610 = 9, Kdrv8400 = 16, Kdrv4xxx = 17;
 
 std::string Text(const wxString& text) {
     return text.utf8_string();

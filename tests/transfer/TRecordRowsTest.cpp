@@ -15,8 +15,7 @@ protected:
         TRecordDriverTest::SetUp();
         m_context.XferFlags = 0x30;
         m_context.RadioModes = 0x70;
-        m_dialogue =
-            std::make_unique<TRecordDialogue>(m_context, CurrentGrid(), 0, CurrentGrid()->GetNumberRows());
+        m_dialogue.reset(new TRecordDialogue{m_context, CurrentGrid(), 0, CurrentGrid()->GetNumberRows()});
     }
 
     /// What is found out about the page as it is.

@@ -167,6 +167,31 @@ bool XDesk::FocusIsDialog() const {
     return types.find(wanted) != std::string::npos;
 }
 
+wxRect XDesk::FocusedArea() const {
+    Window window = FocusedTop();
+    // The window manager puts its frame around the window: what lies on the screen's root is wanted.
+    while (window != None) {
+        Window root = None, parent = None;
+        Window* children = nullptr;
+        unsigned count = 0;
+        if (XQueryTree(m_display, window, &root, &parent, &children, &count) == 0) {
+            return {};
+        }
+        const XData<Window> owner(children);
+        if (parent != root) {
+            window = parent;
+            continue;
+        }
+        int x = 0, y = 0;
+        unsigned width = 0, height = 0, border = 0, depth = 0;
+        if (XGetGeometry(m_display, window, &root, &x, &y, &width, &height, &border, &depth) == 0) {
+            return {};
+        }
+        return {x, y, static_cast<int>(width + 2 * border), static_cast<int>(height + 2 * border)};
+    }
+    return {};
+}
+
 wxImage XDesk::Picture(const wxRect& part) const {
     const int screen = DefaultScreen(m_display);
     wxRect rect(0, 0, DisplayWidth(m_display, screen), DisplayHeight(m_display, screen));

@@ -41,6 +41,8 @@ public:
     std::string FocusedTitle() const;
     /// Whether the window that key presses go to is a dialog, as it told the window manager.
     bool FocusIsDialog() const;
+    /// Where the window that key presses go to is on the screen, with its frame; empty if there is none.
+    wxRect FocusedArea() const;
 
     /// What the screen shows, or the part of it in `part` (an empty one: all).
     wxImage Picture(const wxRect& part) const;

@@ -1,0 +1,81 @@
+#include "tests/docs/GuideSource.h"
+
+#include <fstream>
+#include <regex>
+#include <sstream>
+#include <stdexcept>
+
+namespace fs = std::filesystem;
+
+namespace docstest {
+
+namespace {
+
+std::string TextOf(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    if (!in)
+        throw std::runtime_error("can't read " + file.string());
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+void ReplaceAll(std::string& text, const std::string& what, const std::string& by) {
+    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size())
+        text.replace(at, what.size(), by);
+}
+
+/// A message as a regular expression: signs stand for themselves, placeholders for any text.
+std::string ExpressionOf(const std::string& message) {
+    static const std::regex Sign(R"([.^$|()\[\]{}*+?\\])");
+    static const std::regex Placeholder("%[0-9]*[a-zA-Z]");
+    return std::regex_replace(std::regex_replace(Squeezed(message), Sign, R"(\$&)"), Placeholder, ".+");
+}
+
+} // namespace
+
+std::string GuideSource(const fs::path& folder) {
+    std::istringstream lines(TextOf(folder / "ZelkUserGuide.adoc"));
+    const std::string include = "include::";
+    std::string all;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with(include))
+            all += TextOf(folder / line.substr(include.size(), line.find('[') - include.size()));
+        all += line + '\n';
+    }
+    return all;
+}
+
+std::string Squeezed(const std::string& text) {
+    std::istringstream words(text);
+    std::string all;
+    for (std::string word; words >> word;)
+        all += (all.empty() ? "" : " ") + word;
+    return all;
+}
+
+std::string PlainText(const std::string& source) {
+    std::string text = source;
+    ReplaceAll(text, " +\n", " ");
+    ReplaceAll(text, "`+", "");
+    ReplaceAll(text, "+`", "");
+    ReplaceAll(text, "`", "");
+    ReplaceAll(text, "\\|", "|");
+    return Squeezed(text);
+}
+
+std::vector<std::string> MessageCells(const std::string& source) {
+    const std::size_t table = source.find("|===", source.find("[#status-texts]"));
+    const std::size_t end = source.find("|===", table + 4);
+    std::vector<std::string> cells;
+    // A row is set apart by a blank line; its cells begin at the starts of lines.
+    for (std::size_t at = source.find("\n\n|", table); at + 2 < end; at = source.find("\n\n|", at + 3))
+        cells.push_back(PlainText(source.substr(at + 3, source.find("\n|", at + 3) - at - 3)));
+    return cells;
+}
+
+bool CellHasMessage(const std::string& cell, const std::string& message) {
+    return std::regex_match(cell, std::regex("(.* )?" + ExpressionOf(message) + "( .*)?"));
+}
+
+} // namespace docstest

@@ -13,8 +13,6 @@ The package also holds zelk-radio, which plays such a radio on a simulated
 serial port.")
 set(CPACK_PACKAGING_INSTALL_PREFIX ${packagePrefix})
 set(CPACK_STRIP_FILES TRUE)
-set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
-    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "Zelk developers <zelk@localhost.invalid>")

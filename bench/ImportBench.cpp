@@ -42,7 +42,7 @@ std::string FrequencyOf(int row) {
     return wxString::Format("%08.4f", 138 + row * 0.0125).utf8_string();
 }
 
-/// As a primary has no zone of its own in a full page, plain memories alone.
+/// A plain memory.
 std::string BinaryRecordOf(int row) {
     std::string record(106, '\0');
     const auto word = [&record](size_t at, int value) {
@@ -138,7 +138,7 @@ wxString Path() {
     return wxFileName::GetTempDir() + "/zelk-bench-import";
 }
 
-/// The bytes of a file that the page has room for, every memory of it; the guard rows are not in it.
+/// A full page, and a file with a memory for each of its rows.
 template <MakeFile make>
 void MakeImportedPage(const PageCase& page) {
     MakePage(page);

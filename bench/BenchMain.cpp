@@ -45,6 +45,7 @@ int main(int argc, char** argv) {
     RegisterPages();
     RegisterChannelFiles();
     RegisterCsv();
+    RegisterImports();
     RegisterEditing();
     RegisterAnalogTransfer();
     RegisterDigitalTransfer();
@@ -56,8 +57,8 @@ int main(int argc, char** argv) {
          {"SetPageEditors", "OnInsertRow", "OnDeleteRow", "OnDefaultFile", "OnDefaultCol"})
         report.SetAim(group, 1.5);
     report.SetAim("CheckPage", 3);
-    report.SetAim("CsvImport", 3);
-    report.SetAim("CsvExport", 3);
+    for (const char* group : {"CsvImport", "CsvExport", "Import716Binary", "Import716Text", "ImportMultiZEL"})
+        report.SetAim(group, 3);
     report.SetGrowthAim(102, 502, 6);
     report.SetAim("transfer", 1.03);
     wxDISABLE_DEBUG_SUPPORT();

@@ -16,6 +16,9 @@ void RegisterChannelFiles();
 /// Importing and exporting comma-separated lists of full pages of several sizes.
 void RegisterCsv();
 
+/// Importing full memory files, printed lists and lists of analog radios into pages of several sizes.
+void RegisterImports();
+
 /// The checks, set-ups and commands that go over a whole page, on full pages of several sizes.
 void RegisterEditing();
 

@@ -2,6 +2,7 @@
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "bench/OperationRecord.h"
+#include "bench/PageSide.h"
 #include "bench/TakeFastest.h"
 #include "bench/ToolkitFloor.h"
 #include "catalogue/PageModel.h"
@@ -17,8 +18,6 @@
 #include <wx/filename.h>
 #include <wx/grid.h>
 #include <wx/notebook.h>
-
-#include <vector>
 
 namespace {
 
@@ -57,17 +56,6 @@ void DropListedPage() {
     wxRemoveFile(ListPath());
 }
 
-/// Empties the page's memories.
-void EmptyPage() {
-    wxGrid* grid = CurrentGrid();
-    ClearZoneSlots(CurrentPage);
-    grid->ClearSelection();
-    const wxArrayString defaults = GetRowValues(CurrentPage, 0);
-    grid->ClearGrid();
-    for (int col = 0; col < ColumnTotal; ++col)
-        grid->SetCellValue(0, col, defaults[static_cast<size_t>(col)]);
-}
-
 void ImportList() {
     wxFFile file(ListPath(), "rb");
     Import_CSV(file);
@@ -79,21 +67,10 @@ void RunImport(benchmark::State& state, const PageCase& page) {
     DropListedPage();
 }
 
-/// Cells of the current page that a check has painted.
-std::vector<wxGridCellCoords> PaintedCells() {
-    std::vector<wxGridCellCoords> cells;
-    for (int row = 1; row <= CurrentParameters().Rows; ++row)
-        for (int col = 0; col < ColumnTotal; ++col)
-            if (CurrentGrid()->GetCellBackgroundColour(row, col) == FailColour)
-                cells.emplace_back(row, col);
-    return cells;
-}
-
 /// The toolkit alone: read the file, and read, write and paint the cells that the import does.
 void RunImportBare(benchmark::State& state, const PageCase& page) {
     MakeListedPage(page);
     const OperationRecord record = RecordOperation(EmptyPage, ImportList);
-    const std::vector<wxGridCellCoords> painted = PaintedCells();
     DropPage();
     wxGrid* grid = AddBarePage(MainFrame->m_notebook, record.before);
     TakeFastest(
@@ -103,9 +80,7 @@ void RunImportBare(benchmark::State& state, const PageCase& page) {
             wxFFile(ListPath(), "rb").ReadAll(&text);
             benchmark::DoNotOptimize(&text);
             const wxGridUpdateLocker quiet(grid);
-            record.trace.Replay(grid);
-            for (const wxGridCellCoords& cell : painted)
-                grid->SetCellBackgroundColour(cell.GetRow(), cell.GetCol(), FailColour);
+            record.Redo(grid);
         });
     DropListedPage();
 }
@@ -141,25 +116,15 @@ void RunExportBare(benchmark::State& state, const PageCase& page) {
     DropListedPage();
 }
 
-void RegisterSide(const char* group, const PageCase& page, const char* side,
-                  void (*run)(benchmark::State&, const PageCase&)) {
-    const int rows = page.rows ? page.rows : RadioCatalogue::RadioRows[page.radio][page.bandIndex];
-    const std::string name = std::string(group) + "/" + page.type + "/" + std::to_string(rows) + "/" + side;
-    benchmark::RegisterBenchmark(name.c_str(), [run, &page](benchmark::State& state) { run(state, page); })
-        ->Unit(benchmark::kMillisecond)
-        ->Iterations(1)
-        ->UseManualTime();
-}
-
 } // namespace
 
 void RegisterCsv() {
     constexpr int Passes = 4;
     for (int pass = 0; pass < Passes; ++pass)
         for (const PageCase& page : CsvPages) {
-            RegisterSide("CsvImport", page, "program", RunImport);
-            RegisterSide("CsvImport", page, "floor", RunImportBare);
-            RegisterSide("CsvExport", page, "program", RunExport);
-            RegisterSide("CsvExport", page, "floor", RunExportBare);
+            RegisterPageSide("CsvImport", page, "program", RunImport);
+            RegisterPageSide("CsvImport", page, "floor", RunImportBare);
+            RegisterPageSide("CsvExport", page, "program", RunExport);
+            RegisterPageSide("CsvExport", page, "floor", RunExportBare);
         }
 }

@@ -48,3 +48,13 @@ void SpreadTonesAndCodes() {
             grid->SetCellValue(row, col, code);
     }
 }
+
+void EmptyPage() {
+    wxGrid* grid = CurrentGrid();
+    ClearZoneSlots(CurrentPage);
+    grid->ClearSelection();
+    const wxArrayString defaults = GetRowValues(CurrentPage, 0);
+    grid->ClearGrid();
+    for (int col = 0; col < ColumnTotal; ++col)
+        grid->SetCellValue(0, col, defaults[static_cast<size_t>(col)]);
+}

@@ -25,3 +25,6 @@ void FillPage();
 /// Gives the rows of an analog or P25 page the tones and codes of the lists by turns, as channels that
 /// are in use have them.
 void SpreadTonesAndCodes();
+
+/// Empties the current page's memories and gives back their zone slots; the default row stays.
+void EmptyPage();

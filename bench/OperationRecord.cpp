@@ -55,7 +55,23 @@ GridContent MadeSince(const std::map<CellPosition, HeldObjects>& held) {
     return made;
 }
 
+std::vector<wxGridCellCoords> PaintedCells() {
+    std::vector<wxGridCellCoords> cells;
+    for (int row = 1; row <= CurrentParameters().Rows; ++row)
+        for (int col = 0; col < ColumnTotal; ++col)
+            if (CurrentGrid()->GetCellBackgroundColour(row, col) == FailColour)
+                cells.emplace_back(row, col);
+    return cells;
+}
+
 } // namespace
+
+void OperationRecord::Redo(wxGrid* grid) const {
+    trace.Replay(grid);
+    WriteObjects(grid, made);
+    for (const wxGridCellCoords& cell : painted)
+        grid->SetCellBackgroundColour(cell.GetRow(), cell.GetCol(), FailColour);
+}
 
 OperationRecord RecordOperation(const std::function<void()>& prepare,
                                 const std::function<void()>& operation) {
@@ -72,5 +88,6 @@ OperationRecord RecordOperation(const std::function<void()>& prepare,
     operation();
     record.trace = table->TakeTrace();
     record.made = MadeSince(held);
+    record.painted = PaintedCells();
     return record;
 }

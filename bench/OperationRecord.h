@@ -5,6 +5,7 @@
 #include "bench/ToolkitFloor.h"
 
 #include <functional>
+#include <vector>
 
 struct OperationRecord {
     GridContent before;
@@ -12,6 +13,11 @@ struct OperationRecord {
     /// Without texts: the cells to which the operation gave a new editor or renderer, each once
     /// however often it did. Their alignments and read-only marks count as given with them.
     GridContent made;
+    /// Cells of memories that are painted when the operation has ended.
+    std::vector<wxGridCellCoords> painted;
+
+    /// Does the same on a grid of the same size that has the content before.
+    void Redo(wxGrid* grid) const;
 };
 
 /// Does the operation once, on the current page, and tells what it did. prepare comes before it and

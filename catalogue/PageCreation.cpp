@@ -170,7 +170,7 @@ public:
                 m_grid->SetCellValue(row, PRIM, NumberText(row));
         }
         if (m_p25)
-            CheckZone(m_grid, row, "");
+            CheckZone(m_grid, row, wxString());
     }
 
 private:

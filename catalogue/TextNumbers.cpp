@@ -43,9 +43,12 @@ wxString Digits(uint32_t value, bool negative, uint32_t base, int width) {
 // On the characters as they are held: the check of a page reads thousands of numbers, and to convert
 // each text would cost more than all else.
 std::optional<int> ReadNumber(const wxString& text, int base) {
-    const std::wstring& wide = text.ToStdWstring();
-    const auto end = wide.end();
-    auto at = std::find_if_not(wide.begin(), end, IsBlank);
+    return ReadNumber(std::wstring_view(text.ToStdWstring()), base);
+}
+
+std::optional<int> ReadNumber(std::wstring_view text, int base) {
+    const auto end = text.end();
+    auto at = std::find_if_not(text.begin(), end, IsBlank);
     const bool negative = at != end && *at == L'-';
     if (negative || (at != end && *at == L'+'))
         ++at;

@@ -4,11 +4,13 @@
 #include <wx/string.h>
 
 #include <optional>
+#include <string_view>
 
 /// The number that text begins with, in the given base (10 or 16). Leading blanks and a sign
 /// are taken, what follows the digits is not looked at. More than 32 bits saturate, so that
 /// such a number is out of every range. Without a digit there is no number.
 std::optional<int> ReadNumber(const wxString& text, int base = 10);
+std::optional<int> ReadNumber(std::wstring_view text, int base = 10);
 
 /// ReadNumber in base 10, and 0 where there is no number.
 int ReadDecimal(const wxString& text);

@@ -1,8 +1,10 @@
 #include "editing/CellChecks.h"
 
+#include "catalogue/AsciiText.h"
 #include "catalogue/RadioCatalogue.h"
 
 #include <algorithm>
+#include <string>
 
 using namespace RadioCatalogue;
 
@@ -11,11 +13,11 @@ wxString ScanTextToMask(const wxString& text) {
     int mask = 0;
     for (size_t list = 0; list < lists; ++list) {
         if (text[list] == 'L')
-            return "0";
+            return TextOfAscii("0");
         if (text[list] != '_')
             mask |= 1 << list;
     }
-    return wxString::Format("%d", mask);
+    return TextOfAscii(std::to_string(mask));
 }
 
 bool IsDescChar(wxUniChar c, int type) {

@@ -9,19 +9,32 @@ using namespace RadioCatalogue;
 
 namespace {
 
+struct FrequencyParts {
+    int megahertz = 0;
+    int fraction = 0; ///< the digits behind the point, as a number
+};
+
+/// text without the blanks at its right end.
+std::wstring_view Trimmed(std::wstring_view text) {
+    while (!text.empty() && (text.back() == L' ' || (text.back() >= L'\t' && text.back() <= L'\r')))
+        text.remove_suffix(1);
+    return text;
+}
+
 /// Splits text at its first point. 0, or the FreqFault of its form.
-int SplitFrequency(const wxString& text, wxString& megahertz, wxString& fraction) {
-    const size_t point = text.find('.');
-    if (point == wxString::npos)
+int SplitFrequency(const wxString& text, FrequencyParts& parts) {
+    const std::wstring& all = text.ToStdWstring();
+    const std::wstring_view wide = all;
+    const size_t point = wide.find(L'.');
+    if (point == wide.npos)
         return FreqNoPoint;
-    megahertz.assign(text, 0, point);
-    fraction.assign(text, point + 1, wxString::npos);
-    if (fraction.find('.') != wxString::npos)
+    if (wide.find(L'.', point + 1) != wide.npos)
         return FreqSecondPoint;
-    megahertz.Trim();
-    fraction.Trim();
+    const std::wstring_view megahertz = Trimmed(wide.substr(0, point));
+    const std::wstring_view fraction = Trimmed(wide.substr(point + 1));
     if (megahertz.length() >= 4 || fraction.length() >= 6)
         return FreqTooLong;
+    parts = {ReadNumber(megahertz).value_or(0), ReadNumber(fraction).value_or(0)};
     return megahertz.empty() ? FreqNoMegahertz : 0;
 }
 
@@ -35,18 +48,18 @@ bool IsInBand(int mhz, int fraction, int band) {
 }
 
 int CheckFreqInBand(const wxString& text, int band) {
-    wxString megahertz, fraction;
-    if (const int fault = SplitFrequency(text, megahertz, fraction))
+    FrequencyParts parts;
+    if (const int fault = SplitFrequency(text, parts))
         return fault;
-    return IsInBand(ReadDecimal(megahertz), ReadDecimal(fraction), band) ? 0 : FreqNotInBand;
+    return IsInBand(parts.megahertz, parts.fraction, band) ? 0 : FreqNotInBand;
 }
 
 int GetFreqBand(const wxString& text, int type) {
-    wxString megahertz, fraction;
-    if (const int fault = SplitFrequency(text, megahertz, fraction))
+    FrequencyParts parts;
+    if (const int fault = SplitFrequency(text, parts))
         return fault;
     for (int band = 0; band < BandTotal; ++band)
-        if (IsInBand(ReadDecimal(megahertz), ReadDecimal(fraction), band))
+        if (IsInBand(parts.megahertz, parts.fraction, band))
             return band == 4 && !IsP25Type(type) ? 5 : band;
     return FreqInNoBand;
 }

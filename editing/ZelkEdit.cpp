@@ -92,6 +92,11 @@ void CheckRow(wxGrid* grid, int row) {
         CheckCellsOfRow(grid, row, nullptr);
 }
 
+void CheckRow(wxGrid* grid, int row, MemoryNumberIndex& numbers) {
+    if (RowHasData(row))
+        CheckCellsOfRow(grid, row, &numbers);
+}
+
 void CheckPage() {
     wxGrid* grid = CurrentGrid();
     const int rows = CurrentParameters().Rows;
@@ -104,8 +109,7 @@ void CheckPage() {
     }
     MemoryNumberIndex numbers(rows);
     for (int row = 1; row <= rows; ++row)
-        if (RowHasData(row))
-            CheckCellsOfRow(grid, row, &numbers);
+        CheckRow(grid, row, numbers);
 }
 
 void ZelkFrame::OnValidatePage(wxCommandEvent&) {

@@ -241,28 +241,27 @@ int Import_CSV(wxFFile& file) {
         TellHeaderMissing();
         return 0;
     }
-    return TakeLines(reader, [&reader](RowWriter& writer, int, const CsvTexts& fields) {
+    const wxString flags = TflgMade;
+    return TakeLines(reader, [&](RowWriter& writer, int, const CsvTexts& fields) {
         writer.FillRow(reader.Row());
         TakeLine(writer, reader, fields);
-        writer.FinishRow(TflgMade);
+        writer.FinishRow(flags);
     });
 }
 
 int Import_KDAR(wxFFile& file) {
     const std::string bytes = BytesOf(file);
     CsvReader reader(bytes, CsvReader::Dialect::Kdar);
-    int flags = ReadHex(TflgMade);
     reader.GetHeader_CSV();
-    if (reader.Field(1) == "Purge")
-        flags |= PurgeFlag;
+    const wxString flags = FlagText(ReadHex(TflgMade) | (reader.Field(1) == "Purge" ? PurgeFlag : 0));
     if (!reader.GetHeader_CSV()) {
         TellHeaderMissing();
         return 0;
     }
-    return TakeLines(reader, [flags](RowWriter& writer, int line, const CsvTexts& fields) {
+    return TakeLines(reader, [&flags](RowWriter& writer, int line, const CsvTexts& fields) {
         // Meant: the lines fill the page from its first memory, whatever numbers they have.
         writer.FillRow(line);
         TakeKdarLine(writer, fields);
-        writer.FinishRow(FlagText(flags));
+        writer.FinishRow(flags);
     });
 }

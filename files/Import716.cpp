@@ -2,6 +2,7 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "editing/ZelkEdit.h"
 
 namespace {
 
@@ -30,4 +31,15 @@ int RowOf716(Record716& record) {
     if (number != read)
         record.Mnum = record.Prim = NumberText(number);
     return number;
+}
+
+RowWriter716::RowWriter716() : m_grid(CurrentGrid()), m_numbers(CurrentParameters().Rows) {}
+
+void RowWriter716::Write(int row, const Record716& record) {
+    write716ToGrid(m_grid, row, record);
+    // No memory is told that the default row has its number.
+    if (row == 0)
+        return CheckRow(m_grid, row);
+    m_numbers.Change(row, record.Mnum);
+    CheckRow(m_grid, row, m_numbers);
 }

@@ -1,6 +1,7 @@
 // The memory files and the printed lists of the KDRV-716 family.
 #pragma once
 
+#include "editing/MemoryNumbers.h"
 #include "files/Record716.h"
 
 #include <string_view>
@@ -43,3 +44,16 @@ int MovedNumber716(int number, int radio);
 /// The row of the current page's grid that a record is for, -1 when it is for none. Where the number
 /// moves to a row, it is changed in the record's Mnum and Prim.
 int RowOf716(Record716& record);
+
+/// Puts records into rows of the current page, and each row through its check.
+class RowWriter716 {
+public:
+    RowWriter716();
+
+    /// row is one of the grid's.
+    void Write(int row, const Record716& record);
+
+private:
+    wxGrid* m_grid;
+    MemoryNumberIndex m_numbers;
+};

@@ -1,8 +1,8 @@
 #include "files/Import716.h"
 
+#include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
-#include "editing/ZelkEdit.h"
 #include "files/ImportText.h"
 #include "files/LastOfRow.h"
 
@@ -123,7 +123,7 @@ private:
 };
 
 wxString ModeOfPosition(int position) {
-    return position < static_cast<int>(std::size(P25Modes)) ? wxString(P25Modes[position]) : wxString();
+    return position < static_cast<int>(std::size(P25Modes)) ? TextOfAscii(P25Modes[position]) : wxString();
 }
 
 wxString Letter(int code) {
@@ -144,7 +144,7 @@ wxString UnitIdOf(ByteReader& bytes, size_t size) {
 wxString ReadField(ByteReader& bytes, const WireField& field, int type) {
     switch (field.kind) {
     case Wire::Text:
-        return TextFromBytes(bytes.Text(field.size)).Trim(false).Trim(true);
+        return TrimmedTextFromBytes(bytes.Text(field.size));
     case Wire::Description:
         return TextFromBytes(bytes.Text(field.size)).Trim(true);
     case Wire::UnitId:
@@ -159,7 +159,7 @@ wxString ReadField(ByteReader& bytes, const WireField& field, int type) {
     case Wire::Number:
         return NumberText(word);
     case Wire::Zone:
-        return wxString::Format("%d", word / 16 + 1);
+        return TextOfAscii(std::to_string(word / 16 + 1));
     case Wire::Letter:
         return Letter(word);
     case Wire::Mode:
@@ -208,14 +208,13 @@ size_t Read716Record(std::string_view bytes, int type, Record716& record) {
     if (bytes.size() < WordSize)
         return 0;
     ByteReader reader(bytes.substr(0, RecordSize716));
-    record = {};
     for (const WireField& field : WireFields) {
-        const wxString text = ReadField(reader, field, type);
+        wxString text = ReadField(reader, field, type);
         if (field.into)
-            record.*field.into = text;
+            (record.*field.into).swap(text);
     }
-    record.Scan = ReadHex(record.Mflg) & Scanned716 ? "Y" : "N";
-    record.Tflg = TflgMade;
+    record.Scan = TextOfAscii(ReadHex(record.Mflg) & Scanned716 ? "Y" : "N");
+    record.Tflg = TextOfAscii(TflgMade);
     return reader.Taken();
 }
 
@@ -224,17 +223,16 @@ int Import716_Binary(wxFFile& file) {
     Records records(file, CurrentParameters().Type);
     LastOfRow<std::shared_ptr<const Record716>> kept(grid->GetNumberRows());
     int count = 0;
-    for (Record716 record; records.Next(record);) {
-        const int row = RowOf716(record);
+    for (auto record = std::make_shared<Record716>(); records.Next(*record);) {
+        const int row = RowOf716(*record);
         if (row < 0)
             continue;
-        kept.Keep(row, std::make_shared<const Record716>(std::move(record)));
+        kept.Keep(row, std::exchange(record, std::make_shared<Record716>()));
         ++count;
     }
     wxGridUpdateLocker quiet(grid);
-    kept.ForEach([grid](int row, const std::shared_ptr<const Record716>& record) {
-        write716ToGrid(grid, row, *record);
-        CheckRow(grid, row);
-    });
+    RowWriter716 writer;
+    kept.ForEach(
+        [&writer](int row, const std::shared_ptr<const Record716>& record) { writer.Write(row, *record); });
     return count;
 }

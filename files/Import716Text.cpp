@@ -1,8 +1,8 @@
 #include "files/Import716.h"
 
+#include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
-#include "editing/ZelkEdit.h"
 #include "files/ImportText.h"
 #include "files/LastOfRow.h"
 
@@ -54,20 +54,18 @@ constexpr int LargestGridOf16Zones = 233;
 /// The number of a line, which for the default row and the guard rows is a name. True for a guard row.
 bool ReadNumberField(const wxString& line, int rows, wxString& number) {
     number = NumberColumns.TrimmedOf(line);
-    if (number == "DEF")
-        number = "000";
-    const bool guard = number == "GD1" || number == "GD2";
-    if (guard)
-        number = NumberText(number == "GD1" ? rows - 2 : rows - 1);
-    return guard;
+    if (IsText(number, "DEF"))
+        number = NumberText(0);
+    const bool first = IsText(number, "GD1");
+    if (!first && !IsText(number, "GD2"))
+        return false;
+    number = NumberText(first ? rows - 2 : rows - 1);
+    return true;
 }
 
 /// A record of a list, and the number of its primary as its line gives it: the record's own text may
 /// have gone when its number moved, and the check of the row makes it the row's number.
 struct ListRecord {
-    ListRecord() = default;
-    ListRecord(Record716&& from, int itsPrimary) : record(std::move(from)), primary(itsPrimary) {}
-
     Record716 record;
     int primary = 0;
 };
@@ -130,7 +128,9 @@ ListLine716 Read716TextLine(const wxString& line, int rows, Record716& record) {
         return ListLine716::End;
     if (UndefinedColumns.Is(line, "UNDEFINED") || ErasedColumns.Is(line, "ERASED"))
         return ListLine716::NoMemory;
-    record = {};
+    // The line may have none of these.
+    for (Field716 field : {&Record716::Zone, &Record716::Encr, &Record716::Rfrn})
+        (record.*field).clear();
     int flags = 0;
     if (ReadNumberField(line, rows, record.Mnum)) {
         flags |= Guard716;
@@ -143,9 +143,9 @@ ListLine716 Read716TextLine(const wxString& line, int rows, Record716& record) {
     } else if (LinkMarkColumns.Is(line, "P")) {
         flags |= ShadowLinkFlag;
     }
-    record.Scan = "N";
+    record.Scan = TextOfAscii("N");
     if (!(flags & NotScanned) && ScanMarkColumns.Is(line, "S")) {
-        record.Scan = "Y";
+        record.Scan = TextOfAscii("Y");
         flags |= Scanned716;
     }
     if (!(flags & WithoutZone))
@@ -153,11 +153,11 @@ ListLine716 Read716TextLine(const wxString& line, int rows, Record716& record) {
     record.Desc = DescriptionColumns.Of(line).Trim(true);
     for (const ListField& field : ListFields)
         record.*field.into = field.columns.TrimmedOf(line);
-    record.Tidc = OnlyUnitId;
+    record.Tidc = TextOfAscii(OnlyUnitId);
     for (Field716 shadow : Shadows716)
-        record.*shadow = "0";
+        record.*shadow = TextOfAscii("0");
     record.Mflg = FlagText(flags);
-    record.Tflg = TflgMade;
+    record.Tflg = TextOfAscii(TflgMade);
     return ListLine716::Memory;
 }
 
@@ -173,14 +173,15 @@ int Import716_Text(wxFFile& file) {
     std::set<int> unscanned;
     auto current = std::make_shared<ListRecord>();
     int count = 0;
-    for (Record716 record; lines.Next(line);) {
-        const ListLine716 kind = Read716TextLine(line, rows, record);
+    for (auto next = std::make_shared<ListRecord>(); lines.Next(line);) {
+        const ListLine716 kind = Read716TextLine(line, rows, next->record);
         if (kind == ListLine716::End)
             break;
         if (kind == ListLine716::Memory) {
-            const int primary = MovedNumber716(ReadDecimal(record.Prim), CurrentParameters().Radio);
+            current = std::exchange(next, std::make_shared<ListRecord>());
+            const Record716& record = current->record;
+            current->primary = MovedNumber716(ReadDecimal(record.Prim), CurrentParameters().Radio);
             unscanned.insert(UnscannedRow(record));
-            current = std::make_shared<ListRecord>(std::move(record), primary);
         }
         // Meant: a number without a memory repeats the record before it, which is counted again.
         const int row = RowOfListRecord(current->record);
@@ -194,10 +195,8 @@ int Import716_Text(wxFFile& file) {
     for (int row : unscanned)
         if (row >= 0)
             grid->SetReadOnly(row, SCAN, true);
-    kept.ForEach([grid](int row, const KeptRecord& from) {
-        write716ToGrid(grid, row, from->record);
-        CheckRow(grid, row);
-    });
+    RowWriter716 writer;
+    kept.ForEach([&writer](int row, const KeptRecord& from) { writer.Write(row, from->record); });
     LinkShadows(grid, kept);
     return count;
 }

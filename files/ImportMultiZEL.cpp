@@ -1,5 +1,6 @@
 #include "files/ImportMultiZEL.h"
 
+#include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/CellChecks.h"
@@ -58,7 +59,7 @@ public:
         if (m_p25)
             CheckZone(m_grid, m_row, wxString());
         Set(DESC, DescriptionColumns.Of(m_line));
-        Set(MODE, ImportedMode);
+        Set(MODE, TextOfAscii(ImportedMode));
         Set(RFRQ, Frequency(ReceiveFrequencyColumns));
         TakeFromDefaultRow({RSQL});
         if (CurrentParameters().Type == NP25)
@@ -88,11 +89,11 @@ private:
     void WriteNumber() {
         const wxString number = NumberColumns.Of(m_line);
         // Before the zone is checked, so that the row counts as one that is used and holds its slot.
-        Set(TFLG, TflgMade);
+        Set(TFLG, TextOfAscii(TflgMade));
         Set(MNUM, number);
         if (m_p25) {
             Set(PRIM, number);
-            Set(SHAD, "N");
+            Set(SHAD, TextOfAscii("N"));
         }
     }
 
@@ -111,7 +112,7 @@ private:
         if (type == ANFM || type == MDLX)
             SetScanCell(m_grid, m_row, SCAN, mask, false);
         else if (m_p25)
-            Set(SCAN, mask == "0" ? "N" : "Y");
+            Set(SCAN, TextOfAscii(IsText(mask, "0") ? "N" : "Y"));
     }
 
     wxString Frequency(const TextColumns& columns) const {

@@ -4,12 +4,24 @@
 
 #include <wx/ffile.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 
 namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+/// text without the characters at both ends that the toolkit takes for blanks, too.
+template <class Character>
+std::basic_string_view<Character> Trimmed(std::basic_string_view<Character> text) {
+    const auto isBlank = [](Character c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
 
 /// No character of UTF-8 has more bytes.
 constexpr size_t LongestCharacter = 4;
@@ -31,14 +43,32 @@ void DropLastCharacter(std::string& bytes) {
 
 wxString TextFromBytes(std::string_view bytes) {
     bytes = bytes.substr(0, bytes.find('\0'));
+    if (IsAscii(bytes))
+        return TextOfAscii(bytes);
     wxString text = wxString::FromUTF8(bytes.data(), bytes.size());
     if (text.empty() && !bytes.empty())
         text = wxString(bytes.data(), wxConvISO8859_1, bytes.size());
     return text;
 }
 
+wxString TrimmedTextFromBytes(std::string_view bytes) {
+    return TextFromBytes(Trimmed(bytes.substr(0, bytes.find('\0'))));
+}
+
+wxString TextColumns::TrimmedOf(const wxString& line) const {
+    const std::wstring& wide = line.ToStdWstring();
+    const std::wstring_view field =
+        Trimmed(std::wstring_view(wide).substr(std::min(position, wide.size()), length));
+    return wxString(field.data(), field.size());
+}
+
 bool TextColumns::Is(const wxString& line, std::string_view ascii) const {
-    return IsText(line.Mid(position, ascii.size()), ascii);
+    const std::wstring& wide = line.ToStdWstring();
+    if (wide.size() < position + ascii.size())
+        return false;
+    const auto at = wide.begin() + static_cast<ptrdiff_t>(position);
+    return std::equal(ascii.begin(), ascii.end(), at,
+                      [](char a, wchar_t b) { return static_cast<wchar_t>(a) == b; });
 }
 
 void RewindText(wxFFile& file) {
@@ -49,18 +79,28 @@ void RewindText(wxFFile& file) {
         file.Seek(0);
 }
 
+/// The file's next byte, EOF at its end.
+int LineReader::TakeByte() {
+    if (m_at == m_size) {
+        m_size = m_file.Read(m_block.data(), m_block.size());
+        m_at = 0;
+        if (m_size == 0)
+            return EOF;
+    }
+    return static_cast<unsigned char>(m_block[m_at++]);
+}
+
 bool LineReader::Next(wxString& line) {
     // One character more than is kept: cutting the bytes may cut the last one.
     constexpr size_t limit = (LongestLine + 1) * LongestCharacter;
-    std::FILE* const stream = m_file.fp();
     std::string bytes;
     bool cut = false;
-    int byte = std::getc(stream);
+    int byte = TakeByte();
     if (m_afterReturn && byte == '\n')
-        byte = std::getc(stream);
+        byte = TakeByte();
     m_afterReturn = false;
     const bool found = byte != EOF;
-    for (; byte != EOF && byte != '\n' && byte != '\r'; byte = std::getc(stream)) {
+    for (; byte != EOF && byte != '\n' && byte != '\r'; byte = TakeByte()) {
         if (bytes.size() < limit)
             bytes += static_cast<char>(byte);
         else
@@ -69,6 +109,7 @@ bool LineReader::Next(wxString& line) {
     m_afterReturn = byte == '\r';
     if (cut)
         DropLastCharacter(bytes);
-    line = TextFromBytes(bytes).Left(LongestLine);
+    line = TextFromBytes(bytes);
+    line.Truncate(LongestLine);
     return found;
 }

@@ -3,6 +3,7 @@
 
 #include <wx/string.h>
 
+#include <array>
 #include <cstddef>
 #include <string_view>
 
@@ -11,6 +12,9 @@ class wxFFile;
 /// The characters of bytes: UTF-8, or Latin-1 where the bytes are no valid UTF-8. A zero byte ends
 /// the text.
 wxString TextFromBytes(std::string_view bytes);
+
+/// The same without the blanks at both ends.
+wxString TrimmedTextFromBytes(std::string_view bytes);
 
 /// A field of a line with fixed columns.
 struct TextColumns {
@@ -21,7 +25,7 @@ struct TextColumns {
     wxString Of(const wxString& line) const { return line.Mid(position, length); }
 
     /// The same without the blanks at both ends.
-    wxString TrimmedOf(const wxString& line) const { return Of(line).Trim(false).Trim(true); }
+    wxString TrimmedOf(const wxString& line) const;
 
     /// True when the field is exactly these ASCII characters; its length is theirs.
     bool Is(const wxString& line, std::string_view ascii) const;
@@ -30,7 +34,8 @@ struct TextColumns {
 /// Places an open file on its first character, behind a byte-order mark of UTF-8 if it has one.
 void RewindText(wxFFile& file);
 
-/// The lines of a file, whatever ends them: CR, LF or both.
+/// The lines of a file, whatever ends them: CR, LF or both. It reads ahead: the file's position is then of
+/// no use to others.
 class LineReader {
 public:
     /// A longer line loses the rest.
@@ -44,6 +49,10 @@ public:
     bool Next(wxString& line);
 
 private:
+    int TakeByte();
+
     wxFFile& m_file;
+    std::array<char, 4096> m_block;
+    size_t m_size = 0, m_at = 0;
     bool m_afterReturn = false;
 };

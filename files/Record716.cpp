@@ -1,5 +1,6 @@
 #include "files/Record716.h"
 
+#include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/ColumnChecks.h"
@@ -60,7 +61,7 @@ void WriteLinks(wxGrid* grid, int row, const Record716& record) {
         grid->SetReadOnly(row, SCAN, true);
         grid->SetCellValue(row, SHAD, "S-" + record.Prim);
     } else {
-        grid->SetCellValue(row, SHAD, "N");
+        grid->SetCellValue(row, SHAD, TextOfAscii("N"));
     }
 }
 
@@ -85,7 +86,7 @@ void write716ToGrid(wxGrid* grid, int row, const Record716& record) {
                 {RFRQ, &Record716::Rfrq},
                 {RSQL, &Record716::Rsql}});
     if (CurrentParameters().Radio == RadioWithSquelchValue)
-        grid->SetCellValue(row, RNSV, ImportedSquelchValue);
+        grid->SetCellValue(row, RNSV, TextOfAscii(ImportedSquelchValue));
     CheckTone(grid, row, RTON, record.Rton, record.Rsql);
     CheckCode(grid, row, RCOD, record.Rcod, record.Rsql);
     WriteCells(grid, row, record,

@@ -26,3 +26,21 @@ TEST(AsciiText, IsTheSameOnlyWholeAndInItsCase) {
         EXPECT_EQ(line.begins, BeginsWith(line.text, line.ascii)) << line.text << " and " << line.ascii;
     }
 }
+
+TEST(AsciiText, IsMadeOfAnyNumberOfCharacters) {
+    for (const size_t length : {0u, 1u, 3u, 4u, 127u, 128u, 129u, 5000u}) {
+        std::string ascii;
+        for (size_t i = 0; i < length; ++i)
+            ascii += static_cast<char>('0' + i % 64);
+        const wxString text = TextOfAscii(ascii);
+        EXPECT_EQ(length, text.length());
+        EXPECT_TRUE(IsText(text, ascii)) << length;
+    }
+}
+
+TEST(AsciiText, HasNoByteAbove127) {
+    EXPECT_TRUE(IsAscii(""));
+    EXPECT_TRUE(IsAscii("OFF \x7F\x01"));
+    EXPECT_FALSE(IsAscii("OFF\x80"));
+    EXPECT_FALSE(IsAscii("\xC3\xA9"));
+}

@@ -4,11 +4,15 @@
 #include "catalogue/TextNumbers.h"
 #include "files/XmlFile.h"
 #include "files/ZelkFile_OpenSave.h"
+#include "frame/CommandIds.h"
 #include "tests/support/Modals.h"
 #include "tests/support/ZelkWindowTest.h"
 #include "tests/support/robot/Files.h"
+#include "tests/support/robot/Pump.h"
 #include "tests/support/robot/TempFolder.h"
 
+#include <wx/menu.h>
+#include <wx/msgdlg.h>
 #include <wx/mstream.h>
 #include <wx/statusbr.h>
 #include <wx/xml/xml.h>
@@ -103,6 +107,25 @@ protected:
             CurrentParameters().Cols = 7;
             SetGridColumns(CurrentGrid(), RadioCatalogue::FXAM);
         }
+    }
+
+    /// Chooses a command of the menus.
+    static void Choose(int command) {
+        wxMenu* menu = nullptr;
+        ASSERT_NE(nullptr, MainFrame->GetMenuBar()->FindItem(command, &menu));
+        menu->SendEvent(command);
+        testbench::PumpUntilIdle();
+    }
+
+    /// Imports a file of the folder by the menu; box is the text of the report.
+    void ImportByMenu(const std::string& name, const testbench::TextRule& box) {
+        testbench::DialogScript script;
+        script.ExpectFile("Import file", (m_folder / name).string());
+        // The toolkit adds its icon.
+        script.Expect(testbench::DialogKind::Message, "Import File")
+            .Message(box)
+            .Style(wxOK | wxCENTRE | wxICON_INFORMATION);
+        Choose(IdImport);
     }
 
     static void FillRow(int row, const std::vector<std::pair<int, const char*>>& cells) {

@@ -3,13 +3,10 @@
 
 #include "editing/RowLooks.h"
 #include "files/CsvImport.h"
-#include "frame/CommandIds.h"
 #include "tests/files/ChannelFileTest.h"
 #include "tests/support/Keys.h"
-#include "tests/support/robot/Pump.h"
 
 #include <wx/ffile.h>
-#include <wx/menu.h>
 
 class CsvTest : public ChannelFileTest {
 protected:
@@ -21,13 +18,6 @@ protected:
 
     int Import(const std::string& bytes) { return Import(Import_CSV, bytes); }
     int ImportKdar(const std::string& bytes) { return Import(Import_KDAR, bytes); }
-
-    static void Choose(int command) {
-        wxMenu* menu = nullptr;
-        ASSERT_NE(nullptr, MainFrame->GetMenuBar()->FindItem(command, &menu));
-        menu->SendEvent(command);
-        testbench::PumpUntilIdle();
-    }
 
     static void Select(std::initializer_list<int> rows) {
         CurrentGrid()->ClearSelection();

@@ -17,6 +17,7 @@ struct HostileFile {
     const char* name;
     std::string bytes;
     TextRule box;
+    bool tells = false; ///< before the report, that there is no heading
 };
 
 class HostileImport : public ImportTest {
@@ -28,9 +29,16 @@ protected:
                 SCOPED_TRACE(std::string(file.name) + " into " + type);
                 RetargetTo(type);
                 const double start = ProcessorSeconds();
+                testbench::DialogScript script;
                 if (type == *types.begin()) {
                     testbench::WriteFile(m_folder / "file", file.bytes);
-                    ImportByMenu("file", file.box);
+                    script.ExpectFile("Import file", (m_folder / "file").string());
+                }
+                if (file.tells)
+                    script.Expect(testbench::DialogKind::Message, "Import CSV");
+                if (type == *types.begin()) {
+                    script.Expect(testbench::DialogKind::Message, "Import File").Message(file.box);
+                    Choose(IdImport);
                 } else {
                     EXPECT_GE(Import(file.bytes), 0);
                 }
@@ -179,6 +187,102 @@ TEST_F(HostileImport, OfMultiZELFilesEndsWithTheCount) {
             {"characters that are none", first + std::string(80, '\xC3') + "\n", counted(1)},
         },
         {"RP25", "ANFM", "MDLX", "O12"});
+}
+
+TEST_F(HostileImport, OfCsvFilesEndsWithTheCount) {
+    const std::string heading =
+        "MNUM,BAND,SCAN,ZONE,DESC,MODE,RFRQ,RSQL,RNSV,RTON,RCOD,RTGP,RNAC,TFRQ,TSQL,TTON,"
+        "TCOD,TTGP,TNAC,TIDC\n";
+    const std::string three = "1,,Y,1,A,n\n2,,N,1,B,w\n3,,N,1,C,D\n";
+    const auto counted = [](size_t lines) { return Counted("CSV", lines); };
+    const auto line = [](int number) { return std::to_string(number) + ",,N,1,CHANNEL,n,155.7525\n"; };
+    ImportAll(
+        {
+            {"headings alone", Repeated(heading, 4), Nothing},
+            {"no heading", Repeated("1,2,3,4,5,6\n", 1000), Nothing, true},
+            {"commas alone", Repeated(",,,,,,\n", 1000), Nothing, true},
+            {"a spreadsheet's with semicolons and decimal commas",
+             "MNUM;DESC;RFRQ;TFRQ\n" + Repeated("5;TOWER;155,7525;155,7525\n", 1000), Nothing},
+            {"semicolons in lines that have commas enough",
+             Repeated("5;TOWER;155,7525;155,7525;67,0;67,0;0,5;1,5\n", 1000), Nothing, true},
+            {"many lines for few rows", heading + ManyOf([&](int number) { return line(number % 6); }),
+             counted(502)},
+            {"many lines for no row", heading + ManyOf([&](int) { return line(999); }), Nothing},
+            {"a long line of digits", heading + three + std::string(Megabyte, '9') + "\n4,,,,,\n",
+             counted(4)},
+            {"a long line of commas", heading + "4" + std::string(Megabyte, ',') + "\n" + three, counted(4)},
+            {"a long line of quotes", heading + three + "4," + std::string(Megabyte, '"') + "\n5,,,,,\n",
+             counted(5)},
+            {"a long name", heading + three + "4,,,," + std::string(Megabyte, 'W') + ",n\n", counted(4)},
+            {"empty lines", heading + three + std::string(Megabyte, '\n') + "4,,,,,\n", counted(4)},
+            {"zero bytes", heading + three + std::string(Megabyte, '\0'), counted(3)},
+            {"zero bytes as fields", heading + three + Repeated(std::string("4,\0,\0,\0,\0,\0\n", 12), 3),
+             counted(6)},
+            {"zero bytes among the lines that tell the kind",
+             heading + Repeated(std::string("4,\0,\0,\0,\0,\0\n", 12), 3), Nothing},
+            {"quotes that stay open", heading + Repeated("4,\"A,,,,,\n", 3), counted(3)},
+            {"random bytes", heading + three + RandomBytes(Megabyte), AnyCount("CSV")},
+            {"numbers of every kind",
+             heading + three +
+                 "+4,,,,,\n-4,,,,,\n4.,,,,,\n0x4,,,,,\n99999999999999999999,,,,,\n0000005,,,,,\n",
+             counted(4)},
+            {"characters that are none", heading + three + "4,,,," + std::string(1000, '\xC3') + ",\xFF\n",
+             counted(4)},
+        },
+        {"NP25", "ANFM", "O12"});
+}
+
+TEST_F(HostileImport, OfKdarListsEndsWithTheCount) {
+    const std::string banner = "KDAR-2000,,,,,\n";
+    const std::string headings = banner + "Memory,Name,Receive,Transmit,Scan,Rx Only\n";
+    const auto counted = [](size_t lines) { return Counted("KDAR", lines); };
+    const auto line = [](int number) { return std::to_string(number) + ",TOWER,121500,121500,Yes,No,\n"; };
+    ImportAll(
+        {
+            {"the banner alone", banner, Nothing, true},
+            {"headings alone", headings, Nothing},
+            {"a long banner", "KDAR-2000" + std::string(Megabyte, 'x') + "\nMemory\n" + line(1), counted(1)},
+            {"many lines for few rows", headings + ManyOf([&](int number) { return line(number % 6); }),
+             counted(100)},
+            {"many lines for no row", headings + ManyOf([&](int) { return line(999); }), Nothing},
+            {"a spreadsheet's with semicolons and decimal commas",
+             headings + Repeated("1;TOWER;121,500;121,500;Yes;No\n", 1000), Nothing},
+            {"commas alone", headings + Repeated(",,,,,,\n", 1000), counted(100)},
+            {"a long line of digits", headings + std::string(Megabyte, '9') + "\n" + line(1), counted(1)},
+            {"a long line of commas", headings + "1" + std::string(Megabyte, ',') + "\n" + line(1),
+             counted(2)},
+            {"a long line of quotes", headings + "1," + std::string(Megabyte, '"') + "\n" + line(1),
+             counted(2)},
+            {"long fields",
+             headings + "1," + std::string(Megabyte, 'W') + "," + std::string(Megabyte, '1') + "\n",
+             counted(1)},
+            {"empty lines", headings + std::string(Megabyte, '\n') + line(1), counted(1)},
+            // The first of the zero bytes is a key, and an empty one.
+            {"zero bytes", headings + std::string(Megabyte, '\0'), counted(1)},
+            {"zero bytes as fields", headings + Repeated(std::string("1,\0,\0,\0,\0,\0\n", 12), 3),
+             counted(3)},
+            {"quotes that stay open", headings + Repeated("1,\"A,,,,,\n", 3), counted(3)},
+            {"random bytes", headings + RandomBytes(Megabyte), AnyCount("KDAR")},
+            {"characters that are none", headings + "1," + std::string(1000, '\xC3') + ",\xFF\n", counted(1)},
+        },
+        {"KDAR", "NP25"});
+}
+
+TEST_F(HostileImport, OfACsvFileMayEndAnywhere) {
+    RetargetTo("ANFM");
+    const std::string line = "5,N,TOWER,W,155.7525,156.7525\n";
+    const std::string whole = "MNUM,SCAN,DESC,MODE,RFRQ,TFRQ\n" + line + line + line + line;
+    for (size_t length = whole.size() - line.size(); length <= whole.size(); ++length)
+        EXPECT_EQ(length == whole.size() - line.size() ? 3 : 4, Import(whole.substr(0, length))) << length;
+}
+
+TEST_F(HostileImport, OfAKdarListMayEndAnywhere) {
+    RetargetTo("KDAR");
+    const std::string before =
+        "KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n1,A,118000,,No,No,\n";
+    const std::string last = "2,TOWER,121500,121500,Yes,No,\n";
+    for (size_t length = 0; length <= last.size(); ++length)
+        EXPECT_EQ(length == 0 ? 1 : 2, Import(before + last.substr(0, length))) << length;
 }
 
 TEST_F(HostileImport, OfABinaryFileMayEndAnywhere) {

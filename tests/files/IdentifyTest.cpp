@@ -162,12 +162,20 @@ TEST_F(Identified, IsNothingWhileAnotherFileIsOpen) {
 }
 
 TEST_F(Identified, AreTheSamplesAfterTheirNames) {
+    int samples = 0;
     for (const auto& entry : std::filesystem::directory_iterator(ZELK_SAMPLES_DIR)) {
         const std::string name = entry.path().filename().string();
         const std::string extension = entry.path().extension().string();
-        if (extension.empty() || (name.rfind("kdrv-", 0) != 0 && name.rfind("krv-", 0) != 0))
+        if (extension.empty())
             continue;
-        const int expected = extension == ".716" ? 1 : extension == ".txt" ? 2 : 3;
+        const bool semicolons = name.find("semicolons") != name.npos;
+        const int list = semicolons ? 0 : name.starts_with("kdar-") ? 5 : 4;
+        const int expected = extension == ".716"   ? 1
+                             : extension == ".txt" ? 2
+                             : extension == ".csv" ? list
+                                                   : 3;
         EXPECT_EQ(expected, Identify(testbench::ReadFile(entry.path()))) << name;
+        ++samples;
     }
+    EXPECT_EQ(27, samples);
 }

@@ -59,6 +59,62 @@ TEST_F(Binary716, WordsBecomeTexts) {
             << "word " << c.word << " at " << c.offset;
 }
 
+TEST_F(Binary716, EachWordAndTextReachesItsOwnFieldAlone) {
+    const Field716 none = nullptr;
+    const std::pair<size_t, Field716> fields[] = {
+        {0, none},
+        {2, &Record716::Mflg},
+        {4, &Record716::Prim},
+        {6, &Record716::Mnum},
+        {8, &Record716::Zone},
+        {10, &Record716::Desc},
+        {18, &Record716::Encr},
+        {20, &Record716::Mode},
+        {22, &Record716::Rsql},
+        {24, &Record716::Rtgp},
+        {30, &Record716::Rton},
+        {32, &Record716::Rcod},
+        {34, &Record716::Rnac},
+        {40, &Record716::Rfrq},
+        {50, &Record716::Tsql},
+        {52, &Record716::Ttgp},
+        {58, &Record716::Tton},
+        {60, &Record716::Tcod},
+        {62, &Record716::Tnac},
+        {68, &Record716::Tfrq},
+        {78, &Record716::Tidc},
+        {86, none},
+        {88, &Record716::Shd0},
+        {90, &Record716::Shd1},
+        {92, &Record716::Shd2},
+        {94, &Record716::Shd3},
+        {96, &Record716::Shd4},
+        {98, &Record716::Shd5},
+        {100, &Record716::Shd6},
+        {102, none},
+        {104, &Record716::Rfrn},
+    };
+    const Field716 all[] = {
+        &Record716::Mflg, &Record716::Prim, &Record716::Mnum, &Record716::Zone, &Record716::Desc,
+        &Record716::Encr, &Record716::Mode, &Record716::Rsql, &Record716::Rtgp, &Record716::Rton,
+        &Record716::Rcod, &Record716::Rnac, &Record716::Rfrq, &Record716::Tsql, &Record716::Ttgp,
+        &Record716::Tton, &Record716::Tcod, &Record716::Tnac, &Record716::Tfrq, &Record716::Tidc,
+        &Record716::Shd0, &Record716::Shd1, &Record716::Shd2, &Record716::Shd3, &Record716::Shd4,
+        &Record716::Shd5, &Record716::Shd6, &Record716::Rfrn, &Record716::Tflg,
+    };
+    const Record716 plain = Decode(BinaryRecord());
+    for (size_t i = 0; i < std::size(fields); ++i) {
+        const size_t begin = fields[i].first, end = i + 1 < std::size(fields) ? fields[i + 1].first : 106;
+        for (size_t at = begin; at < end; at += 2) {
+            // No word of the plain record is this one, and as two characters it is no blank.
+            const Record716 changed = Decode(BinaryRecord().Word(at, 0x3837));
+            for (const Field716 field : all)
+                EXPECT_EQ(field == fields[i].second, plain.*field != changed.*field)
+                    << "bytes at " << at << ", field " << (&field - all);
+        }
+    }
+}
+
 TEST_F(Binary716, CodesAreThoseOfThePagesKind) {
     EXPECT_EQ("023", Decode(BinaryRecord().Word(32, 0), RadioCatalogue::NP25).Rcod);
     EXPECT_EQ("OFF", Decode(BinaryRecord().Word(32, 0), RadioCatalogue::ANFM).Rcod);
@@ -302,6 +358,22 @@ TEST_F(Binary716, AShadowNamesItsPrimary) {
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(6, SCAN));
     EXPECT_EQ(0, CurrentParameters().Flags);
     EXPECT_EQ(0, TakenSlots());
+}
+
+TEST_F(Binary716, FlagsTellShadowsAndPrimaries) {
+    const std::tuple<int, const char*, bool> cases[] = {
+        // flags, SHAD, without a scan mark
+        {0x00, "N", false},    {0x08, "N", false},    {0x80, "N", false},    {0x60, "N", false},
+        {0x01, "S-009", true}, {0x02, "S-009", true}, {0x03, "S-009", true}, {0x04, "S-009", true},
+        {0x05, "S-009", true}, {0x06, "S-009", true}, {0x07, "S-009", true}, {0x10, "P-0", true},
+        {0x17, "P-0", true},
+    };
+    for (const auto& [flags, shad, unscanned] : cases) {
+        EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(5).Word(2, flags).Word(4, 9)}))) << flags;
+        EXPECT_EQ(shad, Text(5, SHAD)) << flags;
+        EXPECT_EQ(unscanned, CurrentGrid()->IsReadOnly(5, SCAN)) << flags;
+        EXPECT_EQ(flags & 0x10 ? 0x08 : 0, CurrentParameters().Flags & 0x08) << flags;
+    }
 }
 
 TEST_F(Binary716, APlainMemoryCanBeScanned) {

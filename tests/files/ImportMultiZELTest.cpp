@@ -45,6 +45,37 @@ TEST_F(MultiZEL, FieldsStandInTheirColumns) {
     EXPECT_EQ("", Text(5, SHAD));
 }
 
+TEST_F(MultiZEL, FieldsEndWhereOthersCouldBegin) {
+    RetargetTo("ANFM");
+    // Other characters on both sides of every field.
+    Write({{3, "9"},
+           {13, "9"},
+           {22, "9"},
+           {24, "9"},
+           {33, "9"},
+           {42, "9"},
+           {45, "9"},
+           {47, "9"},
+           {50, "9"},
+           {57, "9"},
+           {61, "9"},
+           {63, "9"},
+           {67, "9"},
+           {69, "1"},
+           {75, "1"},
+           {4, "ABCDEFGHI"}});
+    ExpectCells(5, {{MNUM, "005"},
+                    {DESC, "ABCDEFGHI"},
+                    {RFRQ, "155.7525"},
+                    {TFRQ, "159.4725"},
+                    {RTON, "156.7"},
+                    {TTON, "136.5"},
+                    {TCOD, "023"},
+                    {RCOD, "754"},
+                    {SCAN, "1"},
+                    {MODE, "w"}});
+}
+
 TEST_F(MultiZEL, CodesStandTheOtherWayRoundThanInTheRadio) {
     RetargetTo("ANFM");
     Write({{58, "023"}, {64, "754"}});
@@ -164,6 +195,23 @@ TEST_F(MultiZEL, TheModulesRowsAreOfItsFirstBand) {
         EXPECT_EQ("FM 30-50", Text(5, BAND)) << frequency;
         EXPECT_EQ(kept ? frequency : "31.0000", Text(5, RFRQ)) << frequency;
     }
+}
+
+TEST_F(MultiZEL, RowsOfTheNextModulesPageAreOfTheirOwnBand) {
+    RetargetTo("MDLX");
+    CurrentParameters().Band = 9;
+    SetCell(0, BAND, "DEFAULT");
+    for (const auto& [frequency, band] : {std::pair("039.4600", "FM 30-50"),
+                                          {"077.6875", "FM 66-88"},
+                                          {"121.5000", "AM 108-138"},
+                                          {"155.7525", "FM 138-174"},
+                                          {"243.0000", "AM 225-400"},
+                                          {"453.2125", "FM 403-512"},
+                                          {"600.0000", "DEFAULT"}}) {
+        Write({{14, frequency}});
+        EXPECT_EQ(band, Text(5, BAND)) << frequency;
+    }
+    CurrentParameters().Band = 8;
 }
 
 TEST_F(MultiZEL, ADigitalPageTakesItsDefaultRowsDigitalFields) {

@@ -4,13 +4,10 @@
 #include "files/Import716.h"
 #include "files/ImportMultiZEL.h"
 #include "files/ZelkFile_ImportExport.h"
-#include "frame/CommandIds.h"
 #include "tests/files/ChannelFileTest.h"
 #include "tests/support/Keys.h"
 
 #include <wx/log.h>
-#include <wx/menu.h>
-#include <wx/msgdlg.h>
 
 #include <initializer_list>
 
@@ -148,24 +145,6 @@ protected:
         const int count = importer.Read(kind);
         SetPageEditors(CurrentPage);
         return count;
-    }
-
-    static void Choose(int command) {
-        wxMenu* menu = nullptr;
-        ASSERT_NE(nullptr, MainFrame->GetMenuBar()->FindItem(command, &menu));
-        menu->SendEvent(command);
-        testbench::PumpUntilIdle();
-    }
-
-    /// Imports a file of the folder by the menu; box is the text of the report.
-    void ImportByMenu(const std::string& name, const testbench::TextRule& box) {
-        testbench::DialogScript script;
-        script.ExpectFile("Import file", (m_folder / name).string());
-        // The toolkit adds its icon.
-        script.Expect(testbench::DialogKind::Message, "Import File")
-            .Message(box)
-            .Style(wxOK | wxCENTRE | wxICON_INFORMATION);
-        Choose(IdImport);
     }
 
     static bool IsPainted(int row, int col) {

@@ -1,13 +1,9 @@
 // Opening and saving as a person does: by menu and dialogs.
-#include "frame/CommandIds.h"
 #include "tests/files/ChannelFileTest.h"
 #include "tests/support/Keys.h"
-#include "tests/support/robot/Pump.h"
 
 #include <wx/filedlg.h>
 #include <wx/filename.h>
-#include <wx/menu.h>
-#include <wx/msgdlg.h>
 #include <wx/stdpaths.h>
 
 namespace fs = std::filesystem;
@@ -20,13 +16,6 @@ constexpr const char* Question = "This will overwrite all data on this page! Con
 
 class OpenSaveCommands : public ChannelFileTest {
 protected:
-    static void Choose(int command) {
-        wxMenu* menu = nullptr;
-        ASSERT_NE(nullptr, MainFrame->GetMenuBar()->FindItem(command, &menu));
-        menu->SendEvent(command);
-        testbench::PumpUntilIdle();
-    }
-
     /// Opens a file of the folder by the menu; box is the message expected behind the file dialog.
     void OpenByMenu(const std::string& name, const std::string& box = "") {
         DialogScript script;

@@ -14,8 +14,9 @@ bool ZelkApp::OnInit() {
     wxInitAllImageHandlers();
     MainFrame = new ZelkFrame(nullptr);
     MainFrame->Show();
-    // A desktop that was asked to open a file names it. Its message boxes need the running main loop.
-    if (argc > 1)
+    // A desktop that was asked to open a file names it. Its message boxes need the running main loop. Options
+    // are the toolkit's own affair.
+    if (argc > 1 && !wxString(argv[1]).StartsWith("-"))
         MainFrame->CallAfter([path = wxString(argv[1])] { OpenChannelFile(path); });
     return true;
 }

@@ -91,9 +91,11 @@ TEST_F(CommandLine, NamesAFileThatIsNoneAndIsToldSo) {
 
 TEST_F(CommandLine, WithoutAFileOpensNone) {
     const fs::path file = CopyExample("krv-214-vhf.zelk");
-    const Process zelk = Start({}, m_folder.Path());
-    ASSERT_TRUE(WaitForFocus(mainWindow));
-    Save();
-    // The new page has a default row and no file of its own, so that it asks for one.
-    EXPECT_TRUE(WaitForFocus("Save .zelk file..."));
+    for (const std::vector<std::string>& arguments : {std::vector<std::string>{}, {"--help"}}) {
+        const Process zelk = Start(arguments, m_folder.Path());
+        ASSERT_TRUE(WaitForFocus(mainWindow)) << arguments.size();
+        Save();
+        // The new page has a default row and no file of its own, so that it asks for one.
+        EXPECT_TRUE(WaitForFocus("Save .zelk file...")) << arguments.size();
+    }
 }

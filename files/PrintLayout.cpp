@@ -46,6 +46,7 @@ int CountPages(int rows, int rowsPerPage) {
 PageMargins InDevicePixels(const PageMargins& margins, int extraTop, wxSize pixelsPerInch, double scale) {
     const double across = pixelsPerInch.x * scale / MillimetresPerInch;
     const double down = pixelsPerInch.y * scale / MillimetresPerInch;
-    return {{WholePixels(margins.topLeft.x * across), WholePixels((margins.topLeft.y + extraTop) * down)},
-            {WholePixels(margins.bottomRight.x * across), WholePixels(margins.bottomRight.y * down)}};
+    return {
+        {WholePixels(margins.topLeft.x * across), WholePixels((double(margins.topLeft.y) + extraTop) * down)},
+        {WholePixels(margins.bottomRight.x * across), WholePixels(margins.bottomRight.y * down)}};
 }

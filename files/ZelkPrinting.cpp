@@ -72,6 +72,17 @@ wxPoint Unscaled(int x, int y, double scale) {
     return {static_cast<int>(x / scale), static_cast<int>(y / scale)};
 }
 
+/// A preview whose windows take no commands while it prints: sheets are drawn between events, and the
+/// grid and the printout have to stand until the last one.
+class SteadyPreview : public wxPrintPreview {
+public:
+    using wxPrintPreview::wxPrintPreview;
+    bool Print(bool interactive) override {
+        const wxWindowDisabler quiet;
+        return wxPrintPreview::Print(interactive);
+    }
+};
+
 std::unique_ptr<ZelkPrintout> MakePrintout(ZelkFrame* frame) {
     return std::make_unique<ZelkPrintout>(frame, CurrentGrid(), PageStrings[CurrentPage].RadioName);
 }
@@ -185,6 +196,8 @@ void ZelkFrame::OnPrint(wxCommandEvent&) {
     wxPrintDialogData dialogData(*PrintData);
     wxPrinter printer(&dialogData);
     const std::unique_ptr<ZelkPrintout> printout = MakePrintout(this);
+    // Sheets are drawn between events: no page may go meanwhile.
+    const wxWindowDisabler quiet;
     if (printer.Print(this, printout.get(), true))
         *PrintData = printer.GetPrintDialogData().GetPrintData();
     else if (wxPrinter::GetLastError() == wxPRINTER_ERROR)
@@ -196,7 +209,7 @@ void ZelkFrame::OnPrintPreview(wxCommandEvent&) {
     CommitOpenEditor();
     wxPrintDialogData dialogData(*PrintData);
     auto* preview =
-        new wxPrintPreview(MakePrintout(this).release(), MakePrintout(this).release(), &dialogData);
+        new SteadyPreview(MakePrintout(this).release(), MakePrintout(this).release(), &dialogData);
     auto* frame = new wxPreviewFrame(preview, this, "Print Preview", wxDefaultPosition, wxDefaultSize,
                                      wxDEFAULT_FRAME_STYLE | wxFRAME_FLOAT_ON_PARENT);
     frame->Initialize();

@@ -44,7 +44,7 @@ public:
 
     /// Both 0 until they have been reckoned.
     int32_t RowsPerPage() const { return m_rowsPerPage; }
-    int32_t PageCountOfDocument() const { return m_pageCount; }
+    int32_t DocumentPages() const { return m_pageCount; }
 
 private:
     void DrawGrid(wxDC& dc, double scale, int page) const;

@@ -11,6 +11,7 @@
 #include <wx/log.h>
 #include <wx/printdlg.h>
 #include <wx/utils.h>
+#include <wx/weakref.h>
 
 #include <algorithm>
 
@@ -26,11 +27,28 @@ wxFont PrintFont() {
     return wxFont(10, wxFONTFAMILY_SWISS, wxFONTSTYLE_NORMAL, wxFONTWEIGHT_NORMAL);
 }
 
+/// Holds the grid's window enabled while it lives. A preview disables it, and then the toolkit would
+/// draw pale labels on paper too. No event is handled meanwhile.
+class EnabledWindow {
+public:
+    explicit EnabledWindow(wxWindow* child) : m_window(wxGetTopLevelParent(child)) {
+        m_wasEnabled = m_window->IsThisEnabled();
+        m_window->Enable();
+    }
+    ~EnabledWindow() { m_window->Enable(m_wasEnabled); }
+    EnabledWindow(const EnabledWindow&) = delete;
+    EnabledWindow& operator=(const EnabledWindow&) = delete;
+
+private:
+    wxWindow* m_window;
+    bool m_wasEnabled;
+};
+
 /// Gives the grid the colours and fonts of paper while it lives, without a trace on the screen.
 class PrintLook {
 public:
     explicit PrintLook(wxGrid* grid)
-        : m_quiet(grid), m_grid(grid), m_lineColour(grid->GetGridLineColour()),
+        : m_enabled(grid), m_quiet(grid), m_grid(grid), m_lineColour(grid->GetGridLineColour()),
           m_labelBackground(grid->GetLabelBackgroundColour()), m_labelText(grid->GetLabelTextColour()),
           m_labelFont(grid->GetLabelFont()), m_cellBackground(grid->GetDefaultCellBackgroundColour()),
           m_cellText(grid->GetDefaultCellTextColour()), m_cellFont(grid->GetDefaultCellFont()) {
@@ -55,6 +73,7 @@ public:
     PrintLook& operator=(const PrintLook&) = delete;
 
 private:
+    const EnabledWindow m_enabled;
     const wxGridUpdateLocker m_quiet;
     wxGrid* m_grid;
     const wxColour m_lineColour, m_labelBackground, m_labelText;
@@ -72,14 +91,36 @@ wxPoint Unscaled(int x, int y, double scale) {
     return {static_cast<int>(x / scale), static_cast<int>(y / scale)};
 }
 
-/// A preview whose windows take no commands while it prints: sheets are drawn between events, and the
-/// grid and the printout have to stand until the last one.
+/// Keeps all commands away while it lives, and gives the keyboard back: sheets are drawn between events,
+/// and neither grid nor printout may go before the last one.
+class CommandsOff {
+public:
+    CommandsOff() : m_focus(wxWindow::FindFocus()), m_disabler(std::make_unique<wxWindowDisabler>()) {}
+    ~CommandsOff() {
+        m_disabler.reset();
+        if (m_focus)
+            m_focus->SetFocus();
+    }
+    CommandsOff(const CommandsOff&) = delete;
+    CommandsOff& operator=(const CommandsOff&) = delete;
+
+private:
+    wxWindowRef m_focus;
+    std::unique_ptr<wxWindowDisabler> m_disabler;
+};
+
+/// A preview that can't be closed while it prints.
 class SteadyPreview : public wxPrintPreview {
 public:
     using wxPrintPreview::wxPrintPreview;
     bool Print(bool interactive) override {
-        const wxWindowDisabler quiet;
-        return wxPrintPreview::Print(interactive);
+        bool printed;
+        {
+            const CommandsOff quiet;
+            printed = wxPrintPreview::Print(interactive);
+        }
+        GetFrame()->Raise();
+        return printed;
     }
 };
 
@@ -196,8 +237,7 @@ void ZelkFrame::OnPrint(wxCommandEvent&) {
     wxPrintDialogData dialogData(*PrintData);
     wxPrinter printer(&dialogData);
     const std::unique_ptr<ZelkPrintout> printout = MakePrintout(this);
-    // Sheets are drawn between events: no page may go meanwhile.
-    const wxWindowDisabler quiet;
+    const CommandsOff quiet;
     if (printer.Print(this, printout.get(), true))
         *PrintData = printer.GetPrintDialogData().GetPrintData();
     else if (wxPrinter::GetLastError() == wxPRINTER_ERROR)
@@ -212,9 +252,17 @@ void ZelkFrame::OnPrintPreview(wxCommandEvent&) {
         new SteadyPreview(MakePrintout(this).release(), MakePrintout(this).release(), &dialogData);
     auto* frame = new wxPreviewFrame(preview, this, "Print Preview", wxDefaultPosition, wxDefaultSize,
                                      wxDEFAULT_FRAME_STYLE | wxFRAME_FLOAT_ON_PARENT);
+    // The preview takes the keyboard and gives it back.
+    frame->Bind(wxEVT_DESTROY, [frame, focus = wxWindowRef(FindFocus())](wxWindowDestroyEvent& event) {
+        event.Skip();
+        if (event.GetWindow() == frame && focus && !frame->GetParent()->IsBeingDeleted())
+            focus->SetFocus();
+    });
     frame->Initialize();
     frame->CentreOnScreen();
     frame->Show();
+    // Else a window manager may leave the keyboard with the main window, which takes no keys now.
+    frame->Raise();
 }
 
 void ZelkFrame::OnPageSetup(wxCommandEvent&) {

@@ -6,6 +6,7 @@
 #include <wx/dcgraph.h>
 #include <wx/dcmemory.h>
 #include <wx/image.h>
+#include <wx/utils.h>
 
 #include <map>
 #include <stdexcept>
@@ -572,6 +573,14 @@ TEST_F(Printing, TheLookOfPaperDoesNotStayOnTheScreenWhenDrawingFails) {
     EXPECT_THROW(Draw(1), std::runtime_error);
     EXPECT_TRUE(before == LookOf(*CurrentGrid()));
     EXPECT_EQ(0, CurrentGrid()->GetBatchCount());
+}
+
+TEST_F(Printing, IsNotPalerWhileTheWindowTakesNoCommands) {
+    const wxWindowDisabler quiet;
+    ASSERT_FALSE(MainFrame->IsEnabled());
+    for (const DrawnText& drawn : Trace(1))
+        EXPECT_EQ(DarkGrey, drawn.colour) << drawn.text;
+    EXPECT_FALSE(MainFrame->IsEnabled());
 }
 
 TEST_F(Printing, LeavesTextsSelectionAndCursor) {

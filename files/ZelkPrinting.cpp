@@ -114,13 +114,8 @@ class SteadyPreview : public wxPrintPreview {
 public:
     using wxPrintPreview::wxPrintPreview;
     bool Print(bool interactive) override {
-        bool printed;
-        {
-            const CommandsOff quiet;
-            printed = wxPrintPreview::Print(interactive);
-        }
-        GetFrame()->Raise();
-        return printed;
+        const CommandsOff quiet;
+        return wxPrintPreview::Print(interactive);
     }
 };
 

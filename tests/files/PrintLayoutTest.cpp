@@ -47,7 +47,7 @@ const SheetCase SheetCases[] = {
     {"four margins", 210, 297, {{10, 20}, {30, 40}}, Upright, 900, 500, 53},         // 170 x 231: 1222
     {"four margins, side", 210, 297, {{10, 20}, {30, 40}}, OnItsSide, 900, 500, 21}, // 257 x 144: 504
     {"all rows and room for more", 210, 297, Margins(15), Upright, 900, 10, 10},
-    {"paper unknown", 0, 0, Margins(15), Upright, 900, 500, 56},
+    {"paper unknown", 0, 0, Margins(15), Upright, 920, 500, 58},
     {"paper unknown, side", 0, 0, Margins(15), OnItsSide, 900, 500, 25},
     {"paper of no height", 210, 0, Margins(15), Upright, 900, 500, 56},
     {"paper of no width", -1, 297, Margins(15), Upright, 900, 500, 56},
@@ -118,6 +118,13 @@ TEST(RowsPerPageOfRows, CountsHighRowsAsTheyCome) {
     EXPECT_EQ(3, count({1400, 0, 50, 1})) << "a hidden row counts and takes no room";
     EXPECT_EQ(3, count({1400, 20, 23, 23, 23})) << "rows behind one that doesn't fit are not asked";
     EXPECT_EQ(1, count({INT_MAX, INT_MAX, INT_MAX}));
+}
+
+TEST(RowsPerPageOfRows, AreOneWhereNothingIsLeftOfThePaper) {
+    const std::vector<int> hidden = {0, 0, 0, 23};
+    EXPECT_EQ(1, CountRowsPerPage({210, 36}, Margins(15), Upright, 900, hidden));
+    EXPECT_EQ(1, CountRowsPerPage({30, 297}, Margins(15), Upright, 900, hidden));
+    EXPECT_EQ(3, CountRowsPerPage({210, 37}, Margins(15), Upright, 900, hidden)) << "1 mm: 5 pixels";
 }
 
 TEST(Pages, AreOneMoreForRowsThatAreLeft) {

@@ -50,6 +50,7 @@ int main(int argc, char** argv) {
     RegisterAnalogTransfer();
     RegisterDigitalTransfer();
     RegisterRecordCodec();
+    RegisterPrint();
     report.SetAim("start", 1.2);
     report.SetAim("page", 1.5);
     report.SetAim("file", 1.5);
@@ -61,6 +62,7 @@ int main(int argc, char** argv) {
         report.SetAim(group, 3);
     report.SetGrowthAim(102, 502, 6);
     report.SetAim("transfer", 1.03);
+    report.SetAim("print", 1.2);
     wxDISABLE_DEBUG_SUPPORT();
     wxApp::SetInstance(new BenchApp);
     int noArguments = 1;

@@ -32,6 +32,10 @@ void RegisterDigitalTransfer();
 /// Rows made into the records of the digital radios and back, and the bare cells read and written.
 void RegisterRecordCodec();
 
+/// Laying out and drawing the sheets of a full page, against the toolkit drawing a plain grid in the same
+/// pieces.
+void RegisterPrint();
+
 /// The child processes of RegisterStart: run the program's window or the bare one until it answers,
 /// say so on standard output, and end.
 int RunStartChild(bool bare, int argc, char** argv);

@@ -9,6 +9,7 @@
 #include "files/WholeFile.h"
 #include "files/XmlFile.h"
 #include "frame/PageLifecycle.h"
+#include "frame/Messages.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/filedlg.h>
@@ -62,18 +63,6 @@ void TakeTarget(int page, const ChannelFile::Target& target) {
         // The reader sets the editors up behind the last row.
         FitGridToTarget(former.Radio, former.BandIndex);
     UpdateStatus(MainFrame, page);
-}
-
-/// Shows what became of a save. A save that has nothing to tell only takes away what an earlier
-/// one told.
-void TellSaveOutcome(const wxString& outcome) {
-    static wxString told;
-    wxStatusBar* statusBar = MainFrame->m_statusBar;
-    if (!outcome.empty())
-        statusBar->SetStatusText(outcome, 0);
-    else if (!told.empty() && statusBar->GetStatusText(0) == told)
-        statusBar->SetStatusText("Select function", 0);
-    told = outcome;
 }
 
 wxString LeftOutText(int rows) {
@@ -183,7 +172,7 @@ void SaveZelkFile(int page, bool saveAs) {
     if ((strings.FileName.empty() || saveAs) && !AskForFile(strings))
         return;
     const wxString problem = WriteDocument(document, strings.FileDir + strings.FileName + ".zelk");
-    TellSaveOutcome(problem.empty() ? LeftOutText(leftOut) : "File was not saved: " + problem);
+    TellOutcome(problem.empty() ? LeftOutText(leftOut) : "File was not saved: " + problem);
 }
 
 void ZelkFrame::OnOpen(wxCommandEvent&) {

@@ -1,6 +1,9 @@
 #include "frame/Messages.h"
 
+#include "frame/ZelkMain.h"
+
 #include <wx/msgdlg.h>
+#include <wx/statusbr.h>
 
 void DisplayError(int code, int value) {
     wxString message;
@@ -21,4 +24,14 @@ void DisplayError(int code, int value) {
         message = "Unknown Error";
     }
     wxMessageBox(message, "Error", wxOK | wxCENTRE);
+}
+
+void TellOutcome(const wxString& outcome) {
+    static wxString told;
+    wxStatusBar* statusBar = MainFrame->m_statusBar;
+    if (!outcome.empty())
+        statusBar->SetStatusText(outcome, 0);
+    else if (!told.empty() && statusBar->GetStatusText(0) == told)
+        statusBar->SetStatusText("Select function", 0);
+    told = outcome;
 }

@@ -1,5 +1,7 @@
-// Message boxes of result codes.
+// Messages of result codes and outcomes.
 #pragma once
+
+class wxString;
 
 /// Result codes of dialogs and checks.
 enum ResultCode : int {
@@ -13,3 +15,7 @@ enum ResultCode : int {
 /// Shows the message of a result code in a box with the caption "Error". value is the row or
 /// count that the message names.
 void DisplayError(int code, int value);
+
+/// Shows what became of a command in the first field of the status bar. An empty outcome only takes away what
+/// an earlier one told.
+void TellOutcome(const wxString& outcome);

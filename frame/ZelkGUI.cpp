@@ -1,6 +1,7 @@
 #include "frame/ZelkGUI.h"
 
 #include "catalogue/PageCreation.h"
+#include "files/ZelkPrinting.h"
 #include "frame/CommandTables.h"
 #include "transfer/TransferStatus.h"
 #include "transfer/wxAsyncSerial.h"
@@ -116,6 +117,7 @@ OrvZELFrame::OrvZELFrame(wxWindow* parent)
     m_statusBar = CreateStatusBar(5, wxSTB_SIZEGRIP);
     UpdateStatus(this, CurrentPage);
     ConnectEvents(true);
+    InitPrinting();
 
     // Where this device exists it is only tried: held open, it would stand in the way of the
     // first transfer.

@@ -22,6 +22,9 @@ public:
     void OnSaveAs(wxCommandEvent& event) override;
     void OnImport(wxCommandEvent& event) override;
     void OnExport(wxCommandEvent& event) override;
+    void OnPrint(wxCommandEvent& event) override;
+    void OnPrintPreview(wxCommandEvent& event) override;
+    void OnPageSetup(wxCommandEvent& event) override;
 
     // transfer/
     void OnUpload(wxCommandEvent& event) override;

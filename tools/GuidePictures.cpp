@@ -29,6 +29,7 @@ void TakeAll(Robot& robot) {
     Guide::TakeFirstTransfer(hand, camera, places);
     Guide::TakePages(hand, camera, places);
     Guide::TakeImport(hand, camera, places);
+    Guide::TakePrinting(hand, camera, places);
     Guide::TakeTransferBoxes(hand, camera, places);
 }
 

@@ -207,4 +207,16 @@ void TakeImport(Tour::TourHand& hand, Camera& camera, const Places& places) {
     robot.WaitForNoDialog();
 }
 
+void TakePrinting(Tour::TourHand& hand, Camera& camera, const Places& places) {
+    Robot& robot = hand.TheRobot();
+    OpenOnPage(robot, places.examples / "krv-650-vhf.zelk");
+    RunCommand(IdPrintPreview);
+    if (!robot.WaitForWindow("Print Preview"))
+        throw std::runtime_error("no preview");
+    robot.Settle();
+    camera.FocusedWindow("print-preview");
+    robot.Press("Alt+F4");
+    robot.WaitForWindow("Orv Zelk.*");
+}
+
 } // namespace Guide

@@ -24,6 +24,9 @@ void TakePages(Tour::TourHand& hand, Camera& camera, const Places& places);
 /// The import's file dialog and its report.
 void TakeImport(Tour::TourHand& hand, Camera& camera, const Places& places);
 
+/// The preview of a page on paper.
+void TakePrinting(Tour::TourHand& hand, Camera& camera, const Places& places);
+
 /// Boxes of a transfer that fails, and the question of a digital radio.
 void TakeTransferBoxes(Tour::TourHand& hand, Camera& camera, const Places& places);
 

@@ -105,9 +105,9 @@ private:
 };
 
 const std::set<std::string> Showing = {
-    "wxMessageBox", "wxMessageDialog", "ShowError",   "Refuse",          "SetStatus", "AppendStatus",
-    "ShowResult",   "SetStatusText",   "Printf",      "TellSaveOutcome", "SetTitle",  "TellUnimplemented",
-    "ShadowDialog", "PortDialog",      "RadioDialog", "BandDialog",      "SetLabel",
+    "wxMessageBox", "wxMessageDialog", "ShowError",   "Refuse",      "SetStatus", "AppendStatus",
+    "ShowResult",   "SetStatusText",   "Printf",      "TellOutcome", "SetTitle",  "TellUnimplemented",
+    "ShadowDialog", "PortDialog",      "RadioDialog", "BandDialog",  "SetLabel",
 };
 /// What is assigned to these is shown later.
 const std::set<std::string> Shown = {"StatusText", "message"};

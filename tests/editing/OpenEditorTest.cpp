@@ -6,6 +6,7 @@
 #include "tests/support/robot/TempFolder.h"
 
 #include <wx/notebook.h>
+#include <wx/print.h>
 
 #include <functional>
 
@@ -140,6 +141,33 @@ TEST_F(OpenEditor, IsTakenBeforeAQuestionOfThePage) {
     ExpectTaken([](DialogScript& dialogs) {
         ExpectBox(dialogs, "Delete Page?");
         RunCommand(IdPageDelete);
+    });
+}
+
+TEST_F(OpenEditor, IsTakenBeforeAFileOrAPrinterIsChosen) {
+    ExpectTaken([](DialogScript& dialogs) {
+        dialogs.Expect(DialogKind::File, "Import file").Answer(wxID_CANCEL);
+        RunCommand(IdImport);
+    });
+    ExpectTaken([](DialogScript& dialogs) {
+        ExpectBox(dialogs, "Export CSV - Error!");
+        RunCommand(IdExport);
+    });
+    ExpectTaken([](DialogScript& dialogs) {
+        dialogs.Expect(DialogKind::Print, AnyText()).Answer(wxID_CANCEL).Set([](wxDialog*) {
+            EXPECT_FALSE(IsOpen()) << "before the dialog comes";
+        });
+        RunCommand(IdPrint);
+    });
+}
+
+TEST_F(OpenEditor, IsTakenBeforeThePageIsPreviewed) {
+    ExpectTaken([](DialogScript&) {
+        RunCommand(IdPrintPreview);
+        for (wxWindow* window : wxTopLevelWindows)
+            if (dynamic_cast<wxPreviewFrame*>(window))
+                window->Close();
+        PumpUntilIdle();
     });
 }
 

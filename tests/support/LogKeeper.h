@@ -21,12 +21,12 @@ public:
         SetActiveTarget(m_former);
     }
 
-    /// The texts of the records so far, in UTF-8.
-    std::vector<std::string> lines;
+    /// The texts of the records so far, in UTF-8: messages, and what is worse.
+    std::vector<std::string> lines, errors;
 
 protected:
-    void DoLogRecord(wxLogLevel, const wxString& text, const wxLogRecordInfo&) override {
-        lines.push_back(text.utf8_string());
+    void DoLogRecord(wxLogLevel level, const wxString& text, const wxLogRecordInfo&) override {
+        (level <= wxLOG_Warning ? errors : lines).push_back(text.utf8_string());
     }
 
 private:

@@ -1,0 +1,275 @@
+#include "files/ZelkPrinting.h"
+
+#include "catalogue/MemoryRow.h"
+#include "catalogue/PageModel.h"
+#include "files/PrintLayout.h"
+#include "frame/Messages.h"
+#include "frame/ZelkMain.h"
+
+#include <wx/dc.h>
+#include <wx/generic/prntdlgg.h>
+#include <wx/grid.h>
+#include <wx/log.h>
+#include <wx/printdlg.h>
+#include <wx/utils.h>
+#include <wx/weakref.h>
+
+#include <algorithm>
+
+std::unique_ptr<wxPrintData> PrintData;
+std::unique_ptr<wxPageSetupDialogData> PageSetupData;
+
+namespace {
+
+const wxColour PaleGrey(245, 245, 245);
+const wxColour DarkGrey(48, 48, 48);
+
+wxFont PrintFont() {
+    return wxFont(10, wxFONTFAMILY_SWISS, wxFONTSTYLE_NORMAL, wxFONTWEIGHT_NORMAL);
+}
+
+/// Holds the grid's window enabled while it lives. A preview disables it, and then the toolkit would
+/// draw pale labels on paper too. No event is handled meanwhile.
+class EnabledWindow {
+public:
+    explicit EnabledWindow(wxWindow* child) : m_window(wxGetTopLevelParent(child)) {
+        m_wasEnabled = m_window->IsThisEnabled();
+        m_window->Enable();
+    }
+    ~EnabledWindow() { m_window->Enable(m_wasEnabled); }
+    EnabledWindow(const EnabledWindow&) = delete;
+    EnabledWindow& operator=(const EnabledWindow&) = delete;
+
+private:
+    wxWindow* m_window;
+    bool m_wasEnabled;
+};
+
+/// Gives the grid the colours and fonts of paper while it lives, without a trace on the screen.
+class PrintLook {
+public:
+    explicit PrintLook(wxGrid* grid)
+        : m_enabled(grid), m_quiet(grid), m_grid(grid), m_lineColour(grid->GetGridLineColour()),
+          m_labelBackground(grid->GetLabelBackgroundColour()), m_labelText(grid->GetLabelTextColour()),
+          m_labelFont(grid->GetLabelFont()), m_cellBackground(grid->GetDefaultCellBackgroundColour()),
+          m_cellText(grid->GetDefaultCellTextColour()), m_cellFont(grid->GetDefaultCellFont()) {
+        grid->SetGridLineColour(PaleGrey);
+        grid->SetLabelBackgroundColour(PaleGrey);
+        grid->SetLabelTextColour(DarkGrey);
+        grid->SetLabelFont(PrintFont());
+        grid->SetDefaultCellBackgroundColour(*wxWHITE);
+        grid->SetDefaultCellTextColour(DarkGrey);
+        grid->SetDefaultCellFont(PrintFont());
+    }
+    ~PrintLook() {
+        m_grid->SetGridLineColour(m_lineColour);
+        m_grid->SetLabelBackgroundColour(m_labelBackground);
+        m_grid->SetLabelTextColour(m_labelText);
+        m_grid->SetLabelFont(m_labelFont);
+        m_grid->SetDefaultCellBackgroundColour(m_cellBackground);
+        m_grid->SetDefaultCellTextColour(m_cellText);
+        m_grid->SetDefaultCellFont(m_cellFont);
+    }
+    PrintLook(const PrintLook&) = delete;
+    PrintLook& operator=(const PrintLook&) = delete;
+
+private:
+    const EnabledWindow m_enabled;
+    const wxGridUpdateLocker m_quiet;
+    wxGrid* m_grid;
+    const wxColour m_lineColour, m_labelBackground, m_labelText;
+    const wxFont m_labelFont;
+    const wxColour m_cellBackground, m_cellText;
+    const wxFont m_cellFont;
+};
+
+PageMargins MarginsInMillimetres() {
+    return {PageSetupData->GetMarginTopLeft(), PageSetupData->GetMarginBottomRight()};
+}
+
+/// A point of the device in coordinates of the scale.
+wxPoint Unscaled(int x, int y, double scale) {
+    return {static_cast<int>(x / scale), static_cast<int>(y / scale)};
+}
+
+/// Keeps all commands away while it lives, and gives the keyboard back: sheets are drawn between events,
+/// and neither grid nor printout may go before the last one.
+class CommandsOff {
+public:
+    CommandsOff() : m_focus(wxWindow::FindFocus()), m_disabler(std::make_unique<wxWindowDisabler>()) {}
+    ~CommandsOff() {
+        m_disabler.reset();
+        if (m_focus)
+            m_focus->SetFocus();
+    }
+    CommandsOff(const CommandsOff&) = delete;
+    CommandsOff& operator=(const CommandsOff&) = delete;
+
+private:
+    wxWindowRef m_focus;
+    std::unique_ptr<wxWindowDisabler> m_disabler;
+};
+
+/// A preview that can't be closed while it prints.
+class SteadyPreview : public wxPrintPreview {
+public:
+    using wxPrintPreview::wxPrintPreview;
+    bool Print(bool interactive) override {
+        const CommandsOff quiet;
+        return wxPrintPreview::Print(interactive);
+    }
+};
+
+std::unique_ptr<ZelkPrintout> MakePrintout(ZelkFrame* frame) {
+    return std::make_unique<ZelkPrintout>(frame, CurrentGrid(), PageStrings[CurrentPage].RadioName);
+}
+
+} // namespace
+
+void InitPrinting() {
+    PrintData = std::make_unique<wxPrintData>();
+    PrintData->SetOrientation(wxPORTRAIT);
+    PageSetupData = std::make_unique<wxPageSetupDialogData>(*PrintData);
+    PageSetupData->SetMarginTopLeft(wxPoint(15, 15));
+    PageSetupData->SetMarginBottomRight(wxPoint(15, 15));
+}
+
+ZelkPrintout::ZelkPrintout(ZelkFrame* frame, wxGrid* grid, const wxString& title)
+    : wxPrintout(title), m_frame(frame), m_grid(grid) {}
+
+bool ZelkPrintout::OnBeginDocument(int start, int end) {
+    return wxPrintout::OnBeginDocument(start, end);
+}
+
+bool ZelkPrintout::HasPage(int page) {
+    return page >= 1 && page <= m_pageCount;
+}
+
+bool ZelkPrintout::OnPrintPage(int page) {
+    if (!GetDC())
+        return false;
+    DrawPage(page);
+    return true;
+}
+
+void ZelkPrintout::GetPageInfo(int* min, int* max, int* from, int* to) {
+    CalculateRowsPerPage();
+    // Meant: every grid row counts, the default row and blank ones too.
+    m_pageCount = CountPages(m_grid->GetNumberRows(), m_rowsPerPage);
+    *min = *from = 1;
+    *max = *to = m_pageCount;
+}
+
+void ZelkPrintout::CalculateRowsPerPage() {
+    const wxGridSizesInfo columns = m_grid->GetColSizes(); // of a hidden one 0
+    int totalWidth = 0;
+    for (unsigned col = 0; col < ColumnTotal; ++col)
+        totalWidth += columns.GetSize(col);
+    std::vector<int> rowHeights;
+    for (int row = 0; row < m_grid->GetNumberRows(); ++row)
+        rowHeights.push_back(m_grid->GetRowSize(row));
+    const bool landscape = PrintData->GetOrientation() == wxLANDSCAPE;
+    m_rowsPerPage = CountRowsPerPage(PageSetupData->GetPaperSize(), MarginsInMillimetres(), landscape,
+                                     totalWidth, rowHeights);
+}
+
+void ZelkPrintout::GetPageMargins(double scale, wxPoint& topLeft, wxPoint& bottomRight, int extraTop) const {
+    wxSize pixelsPerInch;
+    if (IsPreview())
+        GetPPIScreen(&pixelsPerInch.x, &pixelsPerInch.y);
+    else
+        GetPPIPrinter(&pixelsPerInch.x, &pixelsPerInch.y);
+    const PageMargins margins =
+        InDevicePixels(MarginsInMillimetres(), extraTop, pixelsPerInch, IsPreview() ? scale : 1);
+    topLeft = margins.topLeft;
+    bottomRight = margins.bottomRight;
+}
+
+void ZelkPrintout::DrawPage(int page) {
+    const PrintLook look(m_grid);
+    wxDC& dc = *GetDC();
+    int screenPixels, printerPixels, unused, pageWidth;
+    GetPPIScreen(&screenPixels, &unused);
+    GetPPIPrinter(&printerPixels, &unused);
+    GetPageSizePixels(&pageWidth, &unused);
+    const double ratio = static_cast<double>(printerPixels) / screenPixels;
+    const double scale = dc.GetSize().x * ratio / pageWidth;
+    dc.SetUserScale(scale, scale);
+    DrawGrid(dc, scale, page);
+    DrawHeading(dc, scale, page);
+}
+
+void ZelkPrintout::DrawGrid(wxDC& dc, double scale, int page) const {
+    wxPoint topLeft, bottomRight;
+    GetPageMargins(scale, topLeft, bottomRight, HeadingSpace);
+    const wxSize size(dc.GetSize().x - topLeft.x - bottomRight.x, dc.GetSize().y - topLeft.y - bottomRight.y);
+    // Margins as wide as the paper leave nothing to draw on.
+    if (size.x < 1 || size.y < 1)
+        return;
+    const int first = (page - 1) * m_rowsPerPage;
+    const int last = std::min(first + m_rowsPerPage, m_grid->GetNumberRows()) - 1;
+    m_grid->Render(dc, Unscaled(topLeft.x, topLeft.y, scale), size, wxGridCellCoords(first, 0),
+                   wxGridCellCoords(last, ColumnTotal - 1), wxGRID_DRAW_DEFAULT);
+}
+
+void ZelkPrintout::DrawHeading(wxDC& dc, double scale, int page) const {
+    // Meant: the first of three sheets is headed 2 of 3.
+    const wxString pageText = wxString::Format("Page %d of %d", page + 1, m_pageCount);
+    wxPoint topLeft, bottomRight;
+    GetPageMargins(scale, topLeft, bottomRight, 0);
+    const wxPoint left = Unscaled(topLeft.x, topLeft.y, scale);
+    const wxPoint right = Unscaled(dc.GetSize().x - bottomRight.x, topLeft.y, scale);
+    dc.SetFont(PrintFont());
+    dc.SetTextForeground(DarkGrey);
+    dc.DrawText(GetTitle(), left);
+    const wxSize text = dc.GetTextExtent(pageText);
+    dc.DrawText(pageText, right.x - text.x, right.y);
+    dc.SetPen(*wxBLACK_PEN);
+    dc.DrawLine(left.x, left.y + text.y, right.x, right.y + text.y);
+}
+
+void ZelkFrame::OnPrint(wxCommandEvent&) {
+    CommitOpenEditor();
+    wxPrintDialogData dialogData(*PrintData);
+    wxPrinter printer(&dialogData);
+    const std::unique_ptr<ZelkPrintout> printout = MakePrintout(this);
+    const CommandsOff quiet;
+    wxString outcome;
+    if (printer.Print(this, printout.get(), true))
+        *PrintData = printer.GetPrintDialogData().GetPrintData();
+    else if (wxPrinter::GetLastError() == wxPRINTER_ERROR)
+        outcome = "There was a problem printing. Perhaps your current printer is not set correctly?";
+    // The log is off in the program: who printed reads the status bar.
+    if (!outcome.empty())
+        wxLogMessage("%s", outcome);
+    TellOutcome(outcome);
+}
+
+// Meant: nothing asks whether the preview is usable.
+void ZelkFrame::OnPrintPreview(wxCommandEvent&) {
+    CommitOpenEditor();
+    wxPrintDialogData dialogData(*PrintData);
+    auto* preview =
+        new SteadyPreview(MakePrintout(this).release(), MakePrintout(this).release(), &dialogData);
+    auto* frame = new wxPreviewFrame(preview, this, "Print Preview", wxDefaultPosition, wxDefaultSize,
+                                     wxDEFAULT_FRAME_STYLE | wxFRAME_FLOAT_ON_PARENT);
+    // The preview takes the keyboard and gives it back.
+    frame->Bind(wxEVT_DESTROY, [frame, focus = wxWindowRef(FindFocus())](wxWindowDestroyEvent& event) {
+        event.Skip();
+        if (event.GetWindow() == frame && focus && !frame->GetParent()->IsBeingDeleted())
+            focus->SetFocus();
+    });
+    frame->Initialize();
+    frame->CentreOnScreen();
+    frame->Show();
+    // Else a window manager may leave the keyboard with the main window, which takes no keys now.
+    frame->Raise();
+}
+
+void ZelkFrame::OnPageSetup(wxCommandEvent&) {
+    wxGenericPageSetupDialog dialog(this, PageSetupData.get());
+    dialog.ShowModal();
+    // Meant: whatever button closed it.
+    *PrintData = dialog.GetPageSetupDialogData().GetPrintData();
+    *PageSetupData = dialog.GetPageSetupDialogData();
+}

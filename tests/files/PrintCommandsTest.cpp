@@ -1,0 +1,585 @@
+// Printing, preview and page set-up as a person uses them: by menu, mouse and keys, onto real sheets.
+#include "tests/files/PrintTest.h"
+#include "tests/support/LogKeeper.h"
+
+#include "frame/CommandIds.h"
+#include "tests/files/PdfText.h"
+#include "tests/frame/FrameTools.h"
+#include "tests/support/AssertsOff.h"
+#include "tests/support/Keys.h"
+#include "tests/support/RunWithRobot.h"
+#include "tests/support/robot/XDesk.h"
+
+#include <wx/combobox.h>
+#include <wx/generic/prntdlgg.h>
+#include <wx/print.h>
+#include <wx/radiobox.h>
+#include <wx/statusbr.h>
+#include <wx/textctrl.h>
+
+#include <chrono>
+#include <iterator>
+#include <thread>
+
+using namespace testbench;
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Where the entries stand in the File menu; the separator is passed by.
+enum FileMenuEntry { PrintEntry = 6, PreviewEntry = 7, PageSetupEntry = 8 };
+
+constexpr const char* PrintTrouble =
+    "There was a problem printing. Perhaps your current printer is not set correctly?";
+
+class PrintCommands : public PrintTest {
+protected:
+    void SetUp() override {
+        PrintTest::SetUp();
+        // Sheets that are printed to a file go into the present folder, unless told otherwise.
+        m_former = fs::current_path();
+        fs::current_path(m_folder.Path());
+        // The toolkit asks for the folder of half-printed sheets once, when it prints the first one.
+        if (const char* folder = std::getenv("TMPDIR"))
+            m_formerSpool = folder;
+        setenv("TMPDIR", Spool().c_str(), 1);
+        CurrentGrid()->SetFocus();
+        ShowAndFocus(*MainFrame);
+    }
+    void TearDown() override {
+        if (m_formerSpool.empty())
+            unsetenv("TMPDIR");
+        else
+            setenv("TMPDIR", m_formerSpool.c_str(), 1);
+        fs::current_path(m_former);
+        PrintTest::TearDown();
+    }
+
+    static void ChooseFromFileMenu(Robot& robot, FileMenuEntry entry) {
+        robot.Press("F10");
+        robot.Settle();
+        robot.Press("Down", entry);
+        robot.Press("Return");
+    }
+
+    static const fs::path& Spool() {
+        static const TempFolder folder("zelk-spool");
+        return folder.Path();
+    }
+
+    /// In the print dialog: prints to a file, the only printer there is.
+    static void AcceptPrintDialog(Robot& robot) {
+        ASSERT_TRUE(robot.WaitForWindow("Print"));
+        robot.Press("Tab");
+        // The list of printers comes a moment later than the dialog.
+        for (int tries = 0; tries < 50 && robot.FocusedTitle() == "Print"; ++tries) {
+            robot.Press("Down");
+            robot.Press("Alt+P");
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        }
+        EXPECT_TRUE(robot.WaitForNoDialog(30000));
+    }
+
+    void PrintToFile(Robot& robot) {
+        AcceptPrintDialog(robot);
+        EXPECT_TRUE(fs::exists(Output()));
+    }
+
+    /// The grid's cursor goes down by a key, wherever the keyboard is.
+    static void ExpectKeysInTheGrid(Robot& robot) {
+        const int row = robot.Ask([] { return CurrentGrid()->GetGridCursorRow(); });
+        robot.Press("Down");
+        EXPECT_TRUE(robot.WaitFor([row] { return CurrentGrid()->GetGridCursorRow() == row + 1; }));
+    }
+
+    fs::path Output() const { return m_folder / "output.pdf"; }
+
+    /// Prints the current page by menu and dialog.
+    void PrintPage() {
+        // Clipping on paper is asked for by the toolkit's grid and not done by its printer device,
+        // which asserts.
+        const AssertsOff quiet;
+        fs::remove(Output());
+        RunWithRobot([this](Robot& robot) {
+            ChooseFromFileMenu(robot, PrintEntry);
+            PrintToFile(robot);
+            EXPECT_TRUE(robot.WaitForWindow("Orv Zelk.*"));
+        });
+    }
+
+    /// The file has these pages, each with its heading, and every row of the page once and in order.
+    void ExpectEveryRow(int pages, int rowsPerPage) {
+        const std::vector<std::vector<std::string>> sheets = PdfLines(Output());
+        ASSERT_EQ(static_cast<size_t>(pages), sheets.size());
+        int row = 0;
+        for (size_t sheet = 0; sheet < sheets.size(); ++sheet) {
+            const std::vector<std::string>& lines = sheets[sheet];
+            ASSERT_GE(lines.size(), 3u);
+            EXPECT_EQ(0u, lines[0].find(PageStrings[0].RadioName.utf8_string())) << lines[0];
+            const std::string number = "Page " + std::to_string(sheet + 2) + " of " + std::to_string(pages);
+            EXPECT_EQ(lines[0].size() - number.size(), lines[0].rfind(number)) << lines[0];
+            EXPECT_EQ(ShownHeadings(), WordsOf(lines[1]));
+            for (size_t line = 2; line < lines.size(); ++line, ++row)
+                ASSERT_EQ(ShownTexts(row), WordsOf(lines[line])) << "sheet " << sheet + 1;
+            EXPECT_EQ(std::min<int>(rowsPerPage * static_cast<int>(sheet + 1), Rows()), row);
+        }
+        EXPECT_EQ(Rows(), row);
+    }
+
+    static int Rows() { return CurrentGrid()->GetNumberRows(); }
+
+    static std::vector<std::string> WordsOf(const std::string& line) {
+        std::istringstream in(line);
+        return {std::istream_iterator<std::string>(in), {}};
+    }
+
+    static std::vector<std::string> ShownHeadings() {
+        std::string line;
+        for (int col = 0; col < ColumnTotal; ++col)
+            if (CurrentGrid()->IsColShown(col))
+                line += " " + CurrentGrid()->GetColLabelValue(col).utf8_string();
+        return WordsOf(line);
+    }
+
+    /// The words of a row as the window shows it, after its label.
+    static std::vector<std::string> ShownTexts(int row) {
+        std::string line = CurrentGrid()->GetRowLabelValue(row).utf8_string();
+        for (int col = 0; col < ColumnTotal; ++col)
+            if (CurrentGrid()->IsColShown(col))
+                line += " " + Shown(row, col);
+        return WordsOf(line);
+    }
+
+    static std::string Shown(int row, int col) {
+        const std::string text = Text(row, col);
+        if (row == 0 && col == MNUM)
+            return "DEF";
+        if (col == MNUM && (row == GD1 || row == GD2))
+            return row == GD1 ? "GD1" : "GD2";
+        if (col == TIDC)
+            return text.substr(text.size() > 7 ? text.size() - 7 : 0);
+        if (col != SCAN || CurrentPageIsP25() || text.find_first_not_of("0123456789") != std::string::npos)
+            return text;
+        std::string boxes;
+        for (int bit = 1; bit <= 16; bit *= 2)
+            boxes += std::stoi(text) & bit ? "\u2612" : "\u2610";
+        return boxes;
+    }
+
+    /// Memories that differ from each other.
+    static void FillPageWithScanLists() {
+        FillPage();
+        if (CurrentPageIsP25() || Text(1, SCAN).find_first_not_of("0123456789") != std::string::npos)
+            return;
+        for (int row = 1; row < Rows(); ++row)
+            SetCell(row, SCAN, std::to_string(row % 32));
+    }
+
+    static wxPreviewFrame* Preview() {
+        for (wxWindow* window : wxTopLevelWindows)
+            if (auto* frame = dynamic_cast<wxPreviewFrame*>(window))
+                return frame;
+        return nullptr;
+    }
+
+    static wxPrintPreviewBase* PreviewedPages() { return Preview()->GetControlBar()->GetPrintPreview(); }
+
+    /// Clicks a control of the preview.
+    static void ClickInPreview(Robot& robot, int id) {
+        robot.Click(robot.Ask([id] { return MiddleOf(*Preview()->GetControlBar()->FindWindow(id)); }));
+        robot.Settle();
+    }
+
+    static void ExpectPreviewed(Robot& robot, int page) {
+        EXPECT_TRUE(robot.WaitFor([page] { return PreviewedPages()->GetCurrentPage() == page; })) << page;
+        const std::string status = "Page " + std::to_string(page) + " of 4";
+        EXPECT_TRUE(robot.WaitFor([&] { return Preview()->GetStatusBar()->GetStatusText() == status; }))
+            << status;
+    }
+
+    /// What the preview shows of its page.
+    static wxImage PreviewPicture(Robot& robot) {
+        robot.Settle();
+        const wxRect canvas = robot.Ask([] {
+            for (wxWindow* child : Preview()->GetChildren())
+                if (dynamic_cast<wxPreviewCanvas*>(child))
+                    return child->GetScreenRect();
+            return wxRect();
+        });
+        return XDesk().Picture(canvas);
+    }
+
+    static bool AreSame(const wxImage& one, const wxImage& other) {
+        const size_t bytes = static_cast<size_t>(one.GetWidth()) * one.GetHeight() * 3;
+        return one.GetSize() == other.GetSize() &&
+               std::equal(one.GetData(), one.GetData() + bytes, other.GetData());
+    }
+
+    /// What the window shows of the grid.
+    static wxImage GridPicture() {
+        PumpUntilIdle();
+        return XDesk().Picture(CurrentGrid()->GetScreenRect());
+    }
+
+    /// Opens the page set-up, works on it and closes it with the button.
+    static void SetUpPage(int button,
+                          const std::function<void(Robot&, wxGenericPageSetupDialog*)>& work = {}) {
+        RunWithRobot([&](Robot& robot) {
+            ChooseFromFileMenu(robot, PageSetupEntry);
+            auto* dialog = static_cast<wxGenericPageSetupDialog*>(robot.WaitForDialog("Page setup"));
+            ASSERT_NE(nullptr, dialog);
+            EXPECT_EQ(MainFrame, robot.Ask([=] { return dialog->GetParent(); }));
+            if (work)
+                work(robot, dialog);
+            robot.Click(robot.Ask([=] { return MiddleOf(*dialog->FindWindow(button)); }));
+            EXPECT_TRUE(robot.WaitForNoDialog());
+        });
+    }
+
+    static void TypeMargin(Robot& robot, wxTextCtrl* field, const std::string& text) {
+        robot.Click(robot.Ask([=] { return MiddleOf(*field); }));
+        robot.Press("Ctrl+A");
+        robot.Type(text);
+        EXPECT_TRUE(robot.WaitFor([=] { return field->GetValue() == text; })) << text;
+    }
+
+    static void ClickLandscape(Robot& robot, wxGenericPageSetupDialog* dialog) {
+        // The right one of two buttons under the box's title.
+        robot.Click(robot.Ask([=] {
+            const wxSize size = dialog->m_orientationRadioBox->GetSize();
+            return SpotIn(*dialog->m_orientationRadioBox, wxPoint(size.x * 3 / 4, size.y * 3 / 4));
+        }));
+        EXPECT_TRUE(robot.WaitFor([=] { return dialog->m_orientationRadioBox->GetSelection() == 1; }));
+    }
+
+private:
+    fs::path m_former;
+    std::string m_formerSpool;
+};
+
+struct SheetsCase {
+    const char* type;
+    int pages, rowsPerPage;
+};
+
+void PrintTo(const SheetsCase& sheets, std::ostream* out) {
+    *out << sheets.type;
+}
+
+class PrintToFile : public PrintCommands, public testing::WithParamInterface<SheetsCase> {};
+
+} // namespace
+
+TEST_P(PrintToFile, PutsEveryRowOnceAndInOrderOntoPaper) {
+    RetargetTo(GetParam().type);
+    FillPageWithScanLists();
+    const GridLook before = LookOf(*CurrentGrid());
+    PrintPage();
+    ExpectEveryRow(GetParam().pages, GetParam().rowsPerPage);
+    EXPECT_TRUE(before == LookOf(*CurrentGrid()));
+    for (const PdfPage& page : PdfWords(Output())) {
+        EXPECT_NEAR(210, page.width, 0.5);
+        EXPECT_NEAR(297, page.height, 0.5);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(PageOf, PrintToFile,
+                         testing::Values(SheetsCase{"ANFM", 3, 39}, SheetsCase{"RP25", 4, 66},
+                                         SheetsCase{"NP25", 8, 69}, SheetsCase{"MDLX", 12, 44},
+                                         SheetsCase{"O12", 1, 7}, SheetsCase{"KDAR", 5, 24},
+                                         SheetsCase{"ANAM", 9, 23}),
+                         [](const auto& param) { return param.param.type; });
+
+TEST_F(PrintCommands, APageOfMemoriesIsPrintedInLandscapeWhenThePageSetupSaysSo) {
+    SetUpPage(wxID_OK, ClickLandscape);
+    RetargetTo("NP25");
+    FillPage();
+    PrintPage();
+    ExpectEveryRow(17, 31);
+    const PdfPage page = PdfWords(Output()).front();
+    EXPECT_NEAR(297, page.width, 0.5);
+    EXPECT_NEAR(210, page.height, 0.5);
+    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation()) << "as before";
+}
+
+TEST_F(PrintCommands, PaperHasItsHeadingInTheStripAndTheGridBetweenTheMargins) {
+    FillPage();
+    PrintPage();
+    const std::vector<PdfPage> pages = PdfWords(Output());
+    ASSERT_EQ(4u, pages.size());
+    for (const PdfPage& page : pages) {
+        ASSERT_GT(page.words.size(), 20u);
+        double left = 1000, right = 0;
+        for (const PdfWord& word : page.words) {
+            // Coordinates are whole pixels of the screen, a quarter of a millimetre.
+            EXPECT_GE(word.left, 14.7) << word.text;
+            EXPECT_LE(word.right, 195.3) << word.text;
+            EXPECT_LE(word.bottom, 282) << word.text;
+            EXPECT_TRUE(word.top > 14.5 && (word.bottom < 20.5 || word.top > 21)) << word.text;
+            left = std::min(left, word.left);
+            right = std::max(right, word.right);
+        }
+        EXPECT_NEAR(15, left, 0.3) << "the title";
+        EXPECT_NEAR(195, right, 0.3) << "the page number";
+    }
+}
+
+TEST_F(PrintCommands, PrintingLeavesTheWindowAsItWas) {
+    RetargetTo("O12");
+    FillPage();
+    CurrentGrid()->SelectRow(2);
+    const wxImage before = GridPicture();
+    PrintPage();
+    EXPECT_TRUE(MainFrame->IsEnabled());
+    EXPECT_TRUE(AreSame(before, GridPicture()));
+    RunWithRobot(ExpectKeysInTheGrid);
+}
+
+TEST_F(PrintCommands, WhileThePrintDialogStandsThePageCannotGo) {
+    const AssertsOff quiet;
+    RunWithRobot([this](Robot& robot) {
+        ChooseFromFileMenu(robot, PrintEntry);
+        ASSERT_TRUE(robot.WaitForWindow("Print"));
+        EXPECT_FALSE(robot.Ask([] { return MainFrame->IsEnabled(); }));
+        PrintToFile(robot);
+        EXPECT_TRUE(robot.WaitFor([] { return MainFrame->IsEnabled(); }));
+    });
+}
+
+TEST_F(PrintCommands, CancelInThePrintDialogSaysNothingAndChangesNothing) {
+    FillPage();
+    SetLandscape();
+    const std::string before = Masked(Save("before"));
+    const testbench::LogKeeper log;
+    const GridLook look = LookOf(*CurrentGrid());
+    RunWithRobot([](Robot& robot) {
+        ChooseFromFileMenu(robot, PrintEntry);
+        ASSERT_TRUE(robot.WaitForWindow("Print"));
+        robot.Press("Escape");
+        EXPECT_TRUE(robot.WaitForNoDialog());
+        EXPECT_TRUE(robot.WaitForWindow("Orv Zelk.*"));
+        ExpectKeysInTheGrid(robot);
+    });
+    EXPECT_FALSE(fs::exists(Output()));
+    EXPECT_EQ(std::vector<std::string>{}, log.lines);
+    EXPECT_EQ(std::vector<std::string>{}, log.errors);
+    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation());
+    EXPECT_EQ(1, PrintData->GetNoCopies());
+    EXPECT_EQ(before, Masked(Save("before")));
+    EXPECT_TRUE(look == LookOf(*CurrentGrid()));
+    EXPECT_TRUE(MainFrame->IsEnabled());
+}
+
+TEST_F(PrintCommands, WhatWasChosenInThePrintDialogIsKeptForTheNextTime) {
+    const auto answer = [](int id, int copies) {
+        DialogScript script;
+        script.Expect(DialogKind::Print, AnyText()).Answer(id).Set([=](wxDialog* dialog) {
+            auto* print = dynamic_cast<wxPrintDialogBase*>(dialog);
+            ASSERT_NE(nullptr, print);
+            print->GetPrintDialogData().GetPrintData().SetOrientation(wxLANDSCAPE);
+            print->GetPrintDialogData().GetPrintData().SetNoCopies(copies);
+        });
+        RunCommand(IdPrint);
+    };
+    answer(wxID_CANCEL, 2);
+    EXPECT_EQ(wxPORTRAIT, PrintData->GetOrientation());
+    EXPECT_EQ(1, PrintData->GetNoCopies());
+    answer(wxID_NO, 2);
+    EXPECT_EQ(wxPORTRAIT, PrintData->GetOrientation()) << "not printed";
+    answer(wxID_OK, 3);
+    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation());
+    EXPECT_EQ(3, PrintData->GetNoCopies());
+    EXPECT_EQ(wxPORTRAIT, PageSetupData->GetPrintData().GetOrientation()) << "the page set-up has its own";
+}
+
+TEST_F(PrintCommands, OfferAllSheetsInPortrait) {
+    DialogScript script;
+    script.Expect(DialogKind::Print, AnyText()).Answer(wxID_CANCEL).Set([](wxDialog* dialog) {
+        auto* print = dynamic_cast<wxPrintDialogBase*>(dialog);
+        ASSERT_NE(nullptr, print);
+        EXPECT_EQ(1, print->GetPrintDialogData().GetMinPage());
+        EXPECT_EQ(4, print->GetPrintDialogData().GetMaxPage());
+        EXPECT_EQ(wxPORTRAIT, print->GetPrintDialogData().GetPrintData().GetOrientation());
+    });
+    RunCommand(IdPrint);
+}
+
+TEST_F(PrintCommands, AFailureIsToldInTheLogAndTheStatusBar) {
+    const testbench::LogKeeper log;
+    for (const auto& [answer, told] : {std::pair(wxID_NO, true), {wxID_CANCEL, false}, {wxID_OK, false}}) {
+        const size_t before = log.lines.size();
+        DialogScript script;
+        script.Expect(DialogKind::Print, AnyText()).Answer(answer);
+        RunCommand(IdPrint);
+        ASSERT_EQ(before + (told ? 1 : 0), log.lines.size()) << answer;
+        EXPECT_EQ(told ? PrintTrouble : "Select function", Status(0)) << answer;
+    }
+    EXPECT_EQ(std::vector<std::string>{PrintTrouble}, log.lines);
+}
+
+TEST_F(PrintCommands, WithoutRoomForTheSheetsPrintingFailsAndIsToldInTheLogAndTheStatusBar) {
+    const AssertsOff quiet;
+    const testbench::LogKeeper log;
+    const GridLook before = LookOf(*CurrentGrid());
+    fs::remove_all(Spool());
+    RunWithRobot([](Robot& robot) {
+        ChooseFromFileMenu(robot, PrintEntry);
+        AcceptPrintDialog(robot);
+        EXPECT_TRUE(robot.WaitForWindow("Orv Zelk.*"));
+    });
+    fs::create_directory(Spool());
+    EXPECT_EQ(wxPRINTER_ERROR, wxPrinter::GetLastError());
+    EXPECT_EQ(std::vector<std::string>{PrintTrouble}, log.lines);
+    EXPECT_EQ(PrintTrouble, Status(0));
+    EXPECT_EQ(wxPORTRAIT, PrintData->GetOrientation());
+    EXPECT_TRUE(before == LookOf(*CurrentGrid()));
+    EXPECT_TRUE(MainFrame->IsEnabled());
+    EXPECT_FALSE(fs::exists(Output()));
+}
+
+TEST_F(PrintCommands, PrintTheSelectedPage) {
+    SetPageParameters(MainFrame, 1, 2, 0);
+    CreateNewPage(MainFrame, 1);
+    UpdateStatus(MainFrame, 1);
+    FillPage();
+    PrintPage();
+    const auto sheets = PdfLines(Output());
+    ASSERT_EQ(1u, sheets.size());
+    EXPECT_EQ((std::vector<std::string>{"ORV-12", "Page", "2", "of", "1"}), WordsOf(sheets[0][0]));
+    ASSERT_EQ(9u, sheets[0].size());
+    for (int row = 0; row < 7; ++row)
+        EXPECT_EQ(ShownTexts(row), WordsOf(sheets[0][static_cast<size_t>(row) + 2]));
+}
+
+TEST_F(PrintCommands, ThePreviewIsPagedSizedAndClosed) {
+    FillPage();
+    const GridLook look = LookOf(*CurrentGrid());
+    RunWithRobot([&](Robot& robot) {
+        ChooseFromFileMenu(robot, PreviewEntry);
+        ASSERT_TRUE(robot.WaitForWindow("Print Preview"));
+        EXPECT_EQ(MainFrame, robot.Ask([] { return Preview()->GetParent(); }));
+        EXPECT_FALSE(robot.Ask([] { return MainFrame->IsEnabled(); }));
+        ExpectPreviewed(robot, 1);
+        const wxImage first = PreviewPicture(robot);
+        const std::pair<int, int> steps[] = {{wxID_PREVIEW_NEXT, 2},
+                                             {wxID_PREVIEW_LAST, 4},
+                                             {wxID_PREVIEW_PREVIOUS, 3},
+                                             {wxID_PREVIEW_FIRST, 1}};
+        for (const auto& [button, page] : steps) {
+            ClickInPreview(robot, button);
+            ExpectPreviewed(robot, page);
+            EXPECT_EQ(page == 1, AreSame(first, PreviewPicture(robot))) << page;
+            EXPECT_TRUE(robot.Ask([&] { return look == LookOf(*CurrentGrid()); })) << page;
+        }
+        ClickInPreview(robot, wxID_PREVIEW_GOTO);
+        robot.Press("Ctrl+A");
+        robot.Type("3\n");
+        ExpectPreviewed(robot, 3);
+
+        const int zoom = robot.Ask([] { return PreviewedPages()->GetZoom(); });
+        const wxImage before = PreviewPicture(robot);
+        ClickInPreview(robot, wxID_PREVIEW_ZOOM_IN);
+        EXPECT_TRUE(robot.WaitFor([=] { return PreviewedPages()->GetZoom() > zoom; }));
+        EXPECT_FALSE(AreSame(before, PreviewPicture(robot)));
+        ClickInPreview(robot, wxID_PREVIEW_ZOOM_OUT);
+        EXPECT_TRUE(robot.WaitFor([=] { return PreviewedPages()->GetZoom() == zoom; }));
+        EXPECT_TRUE(AreSame(before, PreviewPicture(robot)));
+
+        ClickInPreview(robot, wxID_PREVIEW_CLOSE);
+        EXPECT_TRUE(robot.WaitFor([] { return !Preview(); }));
+        EXPECT_TRUE(robot.WaitForWindow("Orv Zelk.*"));
+        EXPECT_TRUE(robot.Ask([] { return MainFrame->IsEnabled(); }));
+        ExpectKeysInTheGrid(robot);
+    });
+    EXPECT_TRUE(look == LookOf(*CurrentGrid()));
+}
+
+TEST_F(PrintCommands, ThePreviewPrintsWhatItShows) {
+    const AssertsOff quiet;
+    RetargetTo("O12");
+    FillPage();
+    RunWithRobot([this](Robot& robot) {
+        ChooseFromFileMenu(robot, PreviewEntry);
+        ASSERT_TRUE(robot.WaitForWindow("Print Preview"));
+        ClickInPreview(robot, wxID_PREVIEW_PRINT);
+        PrintToFile(robot);
+        EXPECT_TRUE(robot.WaitForWindow("Print Preview"));
+        robot.Press("Alt+F4");
+        EXPECT_TRUE(robot.WaitFor([] { return !Preview(); }));
+    });
+    ExpectEveryRow(1, 7);
+}
+
+TEST_F(PrintCommands, ThePreviewLiesOnItsSideInLandscape) {
+    SetLandscape();
+    RunWithRobot([](Robot& robot) {
+        ChooseFromFileMenu(robot, PreviewEntry);
+        ASSERT_TRUE(robot.WaitForWindow("Print Preview"));
+        EXPECT_TRUE(robot.WaitFor([] { return PreviewedPages()->GetMaxPage() == 8; }));
+        robot.Press("Alt+F4");
+        EXPECT_TRUE(robot.WaitFor([] { return !Preview(); }));
+    });
+}
+
+TEST_F(PrintCommands, ThePreviewGoesWithTheMainWindow) {
+    RunWithRobot([](Robot& robot) {
+        ChooseFromFileMenu(robot, PreviewEntry);
+        ASSERT_TRUE(robot.WaitForWindow("Print Preview"));
+    });
+    ASSERT_NE(nullptr, Preview());
+    TearDown();
+    EXPECT_EQ(nullptr, Preview());
+    SetUp();
+}
+
+TEST_F(PrintCommands, PageSetupTakesOrientationPaperAndMargins) {
+    SetUpPage(wxID_OK, [](Robot& robot, wxGenericPageSetupDialog* dialog) {
+        ClickLandscape(robot, dialog);
+        TypeMargin(robot, dialog->m_marginLeftText, "20");
+        TypeMargin(robot, dialog->m_marginTopText, "21");
+        TypeMargin(robot, dialog->m_marginRightText, "22");
+        TypeMargin(robot, dialog->m_marginBottomText, "23");
+        robot.Click(robot.Ask([=] { return SpotIn(*dialog->m_paperTypeChoice, wxPoint(20, 10)); }));
+        robot.Press("Down");
+        EXPECT_TRUE(robot.WaitFor([=] { return dialog->m_paperTypeChoice->GetSelection() == 0; }));
+    });
+    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation());
+    EXPECT_EQ(wxPAPER_LETTER, PrintData->GetPaperId());
+    EXPECT_EQ(wxLANDSCAPE, PageSetupData->GetPrintData().GetOrientation());
+    EXPECT_EQ(wxSize(215, 279), PageSetupData->GetPaperSize());
+    EXPECT_EQ(wxPoint(20, 21), PageSetupData->GetMarginTopLeft());
+    EXPECT_EQ(wxPoint(22, 23), PageSetupData->GetMarginBottomRight());
+    ZelkPrintout printout(MainFrame, CurrentGrid(), "");
+    printout.CalculateRowsPerPage();
+    EXPECT_EQ(18, printout.RowsPerPage()) << "237 x 165 mm: 431 pixels";
+}
+
+TEST_F(PrintCommands, PageSetupShowsWhatWasSet) {
+    PageSetupData->GetPrintData().SetOrientation(wxLANDSCAPE);
+    PageSetupData->SetMarginTopLeft(wxPoint(1, 2));
+    PageSetupData->SetMarginBottomRight(wxPoint(3, 4));
+    SetUpPage(wxID_CANCEL, [](Robot& robot, wxGenericPageSetupDialog* dialog) {
+        const std::vector<std::string> shown = robot.Ask([=] {
+            std::vector<std::string> texts{std::to_string(dialog->m_orientationRadioBox->GetSelection())};
+            for (wxTextCtrl* field : {dialog->m_marginLeftText, dialog->m_marginTopText,
+                                      dialog->m_marginRightText, dialog->m_marginBottomText})
+                texts.push_back(field->GetValue().utf8_string());
+            return texts;
+        });
+        EXPECT_EQ((std::vector<std::string>{"1", "1", "2", "3", "4"}), shown);
+    });
+}
+
+TEST_F(PrintCommands, PageSetupIsCopiedIntoThePrintDataAlsoWhenItIsCancelled) {
+    PageSetupData->GetPrintData().SetOrientation(wxLANDSCAPE);
+    ASSERT_EQ(wxPORTRAIT, PrintData->GetOrientation());
+    SetUpPage(wxID_CANCEL, [](Robot& robot, wxGenericPageSetupDialog* dialog) {
+        TypeMargin(robot, dialog->m_marginLeftText, "40");
+    });
+    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation());
+    EXPECT_EQ(wxLANDSCAPE, PageSetupData->GetPrintData().GetOrientation());
+    EXPECT_EQ(wxPoint(15, 15), PageSetupData->GetMarginTopLeft()) << "what was typed is gone";
+    PrintData->SetOrientation(wxPORTRAIT);
+    SetUpPage(wxID_OK);
+    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation());
+}

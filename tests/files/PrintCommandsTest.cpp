@@ -287,7 +287,7 @@ INSTANTIATE_TEST_SUITE_P(PageOf, PrintToFile,
                          testing::Values(SheetsCase{"ANFM", 3, 39}, SheetsCase{"RP25", 4, 66},
                                          SheetsCase{"NP25", 8, 69}, SheetsCase{"MDLX", 12, 44},
                                          SheetsCase{"O12", 1, 7}, SheetsCase{"KDAR", 5, 24},
-                                         SheetsCase{"ANAM", 9, 23}),
+                                         SheetsCase{"ANAM", 9, 23}, SheetsCase{"FXAM", 7, 29}),
                          [](const auto& param) { return param.param.type; });
 
 TEST_F(PrintCommands, APageOfMemoriesIsPrintedInLandscapeWhenThePageSetupSaysSo) {

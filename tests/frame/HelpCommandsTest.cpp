@@ -19,22 +19,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The guide beside this program, which is put back as it was in the end.
+/// The guide beside this program, which has none before and after a test.
 class HelpFile : public ZelkWindowTest {
 protected:
     void SetUp() override {
         ZelkWindowTest::SetUp();
         ShowAndFocus(*MainFrame);
-        if (fs::exists(m_guide))
-            fs::rename(m_guide, m_aside);
+        fs::remove(m_guide);
         m_path = std::getenv("PATH");
     }
 
     void TearDown() override {
         setenv("PATH", m_path.c_str(), 1);
         fs::remove(m_guide);
-        if (fs::exists(m_aside))
-            fs::rename(m_aside, m_guide);
         ZelkWindowTest::TearDown();
     }
 
@@ -61,7 +58,6 @@ protected:
     const TempFolder m_folder;
 
 private:
-    const fs::path m_aside = m_program.parent_path() / "ZelkUserGuide.aside";
     std::string m_path;
 };
 

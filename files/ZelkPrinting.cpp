@@ -3,6 +3,7 @@
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
 #include "files/PrintLayout.h"
+#include "frame/FocusKeeper.h"
 #include "frame/Messages.h"
 #include "frame/ZelkMain.h"
 
@@ -95,19 +96,8 @@ wxPoint Unscaled(int x, int y, double scale) {
 /// Keeps all commands away while it lives, and gives the keyboard back: sheets are drawn between events,
 /// and neither grid nor printout may go before the last one.
 class CommandsOff {
-public:
-    CommandsOff() : m_focus(wxWindow::FindFocus()), m_disabler(std::make_unique<wxWindowDisabler>()) {}
-    ~CommandsOff() {
-        m_disabler.reset();
-        if (m_focus)
-            m_focus->SetFocus();
-    }
-    CommandsOff(const CommandsOff&) = delete;
-    CommandsOff& operator=(const CommandsOff&) = delete;
-
-private:
-    wxWindowRef m_focus;
-    std::unique_ptr<wxWindowDisabler> m_disabler;
+    const FocusKeeper m_focus; // first: a disabled window can't have it
+    const wxWindowDisabler m_disabler;
 };
 
 /// A preview that can't be closed while it prints.

@@ -3,6 +3,7 @@
 #include "catalogue/PageModel.h"
 #include "editing/ZelkEditors.h"
 #include "files/ZelkFile_OpenSave.h"
+#include "frame/FocusKeeper.h"
 #include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
 #include "transfer/AnalogDriver.h"
@@ -43,6 +44,7 @@ bool GuardIsSelected(int row) {
 }
 
 int RunDriver(TransferDriver driver, int mode, const wxString& title) {
+    const FocusKeeper focus;
     TransferContext analog;
     TRecordContext digital;
     switch (driver) {

@@ -246,6 +246,23 @@ TEST_F(SendCommand, NamesTheKindOfRadioInItsTitle) {
     }
 }
 
+TEST_F(SendCommand, GivesTheKeyboardBackToTheGrid) {
+    ShowAndFocus(*MainFrame);
+    Retarget(Krv610, 0);
+    FillRow(1, "155.0000");
+    CurrentGrid()->SelectRow(1);
+    CurrentGrid()->GoToCell(1, DESC);
+    CurrentGrid()->SetFocus();
+    ASSERT_TRUE(PumpUntil([] { return CurrentGrid()->HasFocus(); }));
+    DialogScript script;
+    ExpectDriverBox(script, PortBox);
+    ExpectBox(script, "Write to Radio Status", "Port Error");
+    Upload();
+    EXPECT_TRUE(PumpUntil([] { return CurrentGrid()->HasFocus(); }));
+    PressKey("Down");
+    EXPECT_TRUE(PumpUntil([] { return CurrentGrid()->GetGridCursorRow() == 2; }));
+}
+
 TEST_F(SendCommand, LeavesPageAndSelectionAsTheyWere) {
     Retarget(Krv650, 1);
     FillRow(1, "138.0000");

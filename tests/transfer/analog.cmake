@@ -15,6 +15,6 @@ zelk_test(analog_driver_tests WINDOW DISPLAY 1
     LIBS zelk_core)
 
 # Whole transfers with the simulated radios.
-zelk_test(analog_radio_tests WINDOW DISPLAY 2 WAITS SOURCES AnalogRadioTest.cpp LIBS zelk_core)
+zelk_test(analog_radio_tests WINDOW DISPLAY 3 WAITS SOURCES AnalogRadioTest.cpp LIBS zelk_core)
 target_compile_definitions(analog_radio_tests PRIVATE ZELK_RADIO="$<TARGET_FILE:zelk-radio>")
 add_dependencies(analog_radio_tests zelk-radio)

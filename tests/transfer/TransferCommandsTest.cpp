@@ -258,7 +258,8 @@ TEST_F(SendCommand, GivesTheKeyboardBackToTheGrid) {
     ExpectDriverBox(script, PortBox);
     ExpectBox(script, "Write to Radio Status", "Port Error");
     Upload();
-    EXPECT_TRUE(PumpUntil([] { return CurrentGrid()->HasFocus(); }));
+    EXPECT_TRUE(PumpUntil([] { return CurrentGrid()->HasFocus() && MainFrame->IsActive(); }));
+    PumpUntilIdle();
     PressKey("Down");
     EXPECT_TRUE(PumpUntil([] { return CurrentGrid()->GetGridCursorRow() == 2; }));
 }

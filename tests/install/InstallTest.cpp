@@ -67,10 +67,8 @@ protected:
 
 std::unique_ptr<TempFolder> Installed::s_root;
 
-/// Building the program needs none of these.
-#define NEEDS(program)                                                                                       \
-    if (!HasProgram(program))                                                                                \
-    GTEST_SKIP() << program << " is not installed"
+/// Building the program needs none of these, testing it does.
+#define NEEDS(program) ASSERT_TRUE(HasProgram(program)) << program << " is missing: tools/packages test"
 
 } // namespace
 

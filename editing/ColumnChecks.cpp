@@ -7,6 +7,7 @@
 #include "editing/CellChecks.h"
 #include "editing/FrequencyRules.h"
 #include "editing/MemoryNumbers.h"
+#include "editing/ReplacedCells.h"
 #include "editing/ZelkEditors.h"
 #include "frame/Messages.h"
 
@@ -26,6 +27,7 @@ wxString DefaultText(const wxGrid* grid, int col) {
 void Repair(wxGrid* grid, int row, int col) {
     grid->SetCellValue(row, col, DefaultText(grid, col));
     grid->SetCellBackgroundColour(row, col, FailColour);
+    ReplacedCells::Note(row, col);
 }
 
 void WriteOrRepair(wxGrid* grid, int row, int col, const wxString& text, bool good) {
@@ -69,10 +71,13 @@ int CheckNumber(wxGrid* grid, int row, wxString& text, FindDuplicate findDuplica
         // The least number stands for all below what 32 bits hold.
         const bool outOfRange = number > rows || number == std::numeric_limits<int>::min();
         text = outOfRange ? wxString() : NumberText(number);
+        if (outOfRange)
+            ReplacedCells::Note(row, MNUM);
         const int other = findDuplicate(number);
         if (other <= rows) {
             DisplayError(ResultNumberUsed, other);
             text.clear();
+            ReplacedCells::Note(row, MNUM);
             result = CheckBadValue;
         }
     }
@@ -278,6 +283,8 @@ void CheckHexDigits(wxGrid* grid, int row, int column, const wxString& text, siz
     if (CurrentPageIsP25()) {
         const auto number = HexDigitsText(text, digits);
         value = number ? *number : DefaultText(grid, column);
+        if (!number)
+            ReplacedCells::Note(row, column);
     }
     grid->SetCellValue(row, column, value);
 }
@@ -297,8 +304,12 @@ void CheckTidc(wxGrid* grid, int row, const wxString& text) {
     if (CurrentPageIsP25()) {
         if (text.empty())
             id = "0000001";
-        else
-            id = IsWithin(text, 0, 9999999) ? text : DefaultText(grid, TIDC);
+        else if (IsWithin(text, 0, 9999999))
+            id = text;
+        else {
+            id = DefaultText(grid, TIDC);
+            ReplacedCells::Note(row, TIDC);
+        }
     }
     grid->SetCellValue(row, TIDC, id);
 }

@@ -4,6 +4,8 @@
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/MemoryNumbers.h"
+#include "editing/ReplacedCells.h"
+#include "frame/Messages.h"
 #include "frame/ZelkMain.h"
 
 #include <algorithm>
@@ -115,5 +117,7 @@ void CheckPage() {
 void ZelkFrame::OnValidatePage(wxCommandEvent&) {
     CommitOpenEditor();
     wxMessageBox("Validate row data", "Validate Page", wxOK | wxCENTRE);
+    const ReplacedCells replaced;
     CheckPage();
+    TellOutcome(replaced.Count() == 0 ? wxString("No cell replaced") : replaced.Text(), replaced.Story());
 }

@@ -1,7 +1,7 @@
 // Messages of result codes and outcomes.
 #pragma once
 
-class wxString;
+#include <wx/string.h>
 
 /// Result codes of dialogs and checks.
 enum ResultCode : int {
@@ -16,6 +16,16 @@ enum ResultCode : int {
 /// count that the message names.
 void DisplayError(int code, int value);
 
-/// Shows what became of a command in the first field of the status bar. An empty outcome only takes away what
-/// an earlier one told.
-void TellOutcome(const wxString& outcome);
+/// Shows what became of a command in the first field of the status bar, until the next command or page
+/// change. No help text covers it meanwhile.
+///
+/// @param verdict begins with what counts; a text too long for the field ends in an ellipsis. Empty takes an
+///                earlier outcome away.
+/// @param story   the whole of it, as tool tip of the status bar; the verdict where it is empty
+void TellOutcome(const wxString& verdict, const wxString& story = wxString());
+
+/// Takes away what TellOutcome shows. For the beginning of a command and for a page change.
+void ForgetOutcome();
+
+/// Whether the first field of the status bar holds an outcome.
+bool OutcomeIsTold();

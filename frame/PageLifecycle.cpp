@@ -117,6 +117,7 @@ void ZelkFrame::OnPageChanged(wxBookCtrlEvent&) {
         return;
     // What is being typed belongs to the page that was left.
     CommitOpenEditor();
+    ForgetOutcome();
     CurrentPage = selection;
     UpdateStatus(this, CurrentPage);
 }

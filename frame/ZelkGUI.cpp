@@ -3,6 +3,7 @@
 #include "catalogue/PageCreation.h"
 #include "files/ZelkPrinting.h"
 #include "frame/CommandTables.h"
+#include "frame/Messages.h"
 #include "transfer/TransferStatus.h"
 #include "transfer/wxAsyncSerial.h"
 
@@ -89,10 +90,13 @@ void Link(bool connect, wxEvtHandler* source, const Tag& tag, Handler handler, O
         source->Unbind(tag, handler, frame, id);
 }
 
+/// Null for an id that is no command's.
 CommandHandler HandlerOf(int id) {
-    for (const CommandEntry& command : MenuCommands)
-        if (command.id == id)
-            return command.handler;
+    for (const std::span<const CommandEntry> commands :
+         {std::span<const CommandEntry>(MenuCommands), std::span<const CommandEntry>(ContextCommands)})
+        for (const CommandEntry& command : commands)
+            if (command.id == id)
+                return command.handler;
     return nullptr;
 }
 
@@ -188,15 +192,40 @@ void OrvZELFrame::ConnectEvents(bool connect) {
     for (const CommandEntry& command : MenuCommands) {
         wxMenu* menu = nullptr;
         if (m_menuBar->FindItem(command.id, &menu))
-            Link(connect, menu, wxEVT_MENU, command.handler, this, command.id);
+            Link(connect, menu, wxEVT_MENU, &OrvZELFrame::OnCommand, this, command.id);
     }
     for (const CommandEntry& command : ContextCommands)
-        Link(connect, m_contextMenu.get(), wxEVT_MENU, command.handler, this, command.id);
+        Link(connect, m_contextMenu.get(), wxEVT_MENU, &OrvZELFrame::OnCommand, this, command.id);
     Link(connect, m_notebook, wxEVT_NOTEBOOK_PAGE_CHANGED, &OrvZELFrame::OnPageChanged, this);
     Link(connect, m_notebook, wxEVT_NOTEBOOK_PAGE_CHANGING, &OrvZELFrame::OnPageChanging, this);
     for (const ToolEntry& tool : Tools)
         if (tool.label)
-            Link(connect, this, wxEVT_TOOL, HandlerOf(tool.id), this, tool.id);
+            Link(connect, this, wxEVT_TOOL, &OrvZELFrame::OnCommand, this, tool.id);
+    Link(connect, this, wxEVT_MENU_OPEN, &OrvZELFrame::OnMenuOpen, this);
+    Link(connect, this, wxEVT_MENU_CLOSE, &OrvZELFrame::OnMenuClose, this);
+}
+
+void OrvZELFrame::OnCommand(wxCommandEvent& event) {
+    ForgetOutcome();
+    if (const CommandHandler handler = HandlerOf(event.GetId()))
+        (this->*handler)(event);
+}
+
+void OrvZELFrame::OnMenuOpen(wxMenuEvent& event) {
+    m_menuIsOpen = true;
+    event.Skip();
+}
+
+void OrvZELFrame::OnMenuClose(wxMenuEvent& event) {
+    m_menuIsOpen = false;
+    event.Skip();
+}
+
+void OrvZELFrame::DoGiveHelp(const wxString& text, bool show) {
+    // The pointer still stands on the tool that was clicked; its help would cover what became of the click.
+    if (show && OutcomeIsTold() && !m_menuIsOpen)
+        return;
+    wxFrame::DoGiveHelp(text, show);
 }
 
 void UpdateStatus(OrvZELFrame* frame, int page) {

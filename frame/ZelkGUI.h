@@ -73,6 +73,13 @@ public:
     /// Connected to nothing and empty in both classes: a place kept free.
     virtual void OnSpare(wxCommandEvent& event) { event.Skip(); }
 
+    /// Runs the operation of the event's command id, whether a menu, a tool or the context menu asks for it.
+    /// What an earlier command told of its outcome goes first.
+    void OnCommand(wxCommandEvent& event);
+
+    /// Help of tools gives way to the outcome of a command; help of menu entries doesn't.
+    void DoGiveHelp(const wxString& text, bool show) override;
+
     /// Builds the context menu for the place of the click and shows it.
     void OnGridContextMenu(wxContextMenuEvent& event);
 
@@ -88,6 +95,8 @@ public:
     wxPanel* m_lastPanel = nullptr;
     std::array<wxPanel*, PageLimit> m_pagePanels{};
     wxStatusBar* m_statusBar = nullptr;
+    /// Whether the first status field holds an outcome that TellOutcome put there.
+    bool m_outcomeIsTold = false;
     /// Made at start-up; transfers make ports of their own.
     std::unique_ptr<wxAsyncSerial> m_serialPort;
 
@@ -97,10 +106,14 @@ private:
     void BuildToolBar();
     void BuildFirstPage();
     void ConnectEvents(bool connect);
+    void OnMenuOpen(wxMenuEvent& event);
+    void OnMenuClose(wxMenuEvent& event);
     void AppendContextItem(int id);
     void ShowContextMenu(wxGrid* grid, const wxPoint& position);
     void OfferRowCommands(wxGrid* grid, int row);
     void OfferColumnCommands(wxGrid* grid, int col);
+
+    bool m_menuIsOpen = false;
 };
 
 /// Brings status bar, tab text, title, GD1 and GD2 up to date for the page (0-based).

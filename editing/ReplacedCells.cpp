@@ -1,0 +1,60 @@
+#include "editing/ReplacedCells.h"
+
+#include "catalogue/PageModel.h"
+
+namespace {
+
+/// The one that was made last.
+ReplacedCells* innermost = nullptr;
+
+/// A tool tip of more rows would not fit the screen.
+constexpr int MostRowsTold = 12;
+
+/// What the page calls a column, or its tag where it is hidden.
+wxString ColumnText(int column) {
+    const wxString heading = RadioCatalogue::ColumnHeading[CurrentParameters().Type][column];
+    return heading.empty() ? wxString(ColumnTag[column]) : heading;
+}
+
+} // namespace
+
+ReplacedCells::ReplacedCells() : m_outer(innermost) {
+    innermost = this;
+}
+
+ReplacedCells::~ReplacedCells() {
+    innermost = m_outer;
+}
+
+void ReplacedCells::Note(int row, int column) {
+    for (ReplacedCells* collector = innermost; collector; collector = collector->m_outer)
+        collector->m_cells.emplace(row, column);
+}
+
+wxString ReplacedCells::Text() const {
+    if (Count() == 0)
+        return {};
+    return Count() == 1 ? wxString::Format("1 cell replaced, row %d", FirstRow())
+                        : wxString::Format("%d cells replaced from row %d", Count(), FirstRow());
+}
+
+wxString ReplacedCells::Story() const {
+    if (Count() == 0)
+        return {};
+    wxString story = Count() == 1 ? wxString("1 cell was replaced:")
+                                  : wxString::Format("%d cells were replaced:", Count());
+    int told = 0;
+    int lastRow = -1;
+    for (const auto& [row, column] : m_cells) {
+        if (row != lastRow) {
+            if (++told > MostRowsTold)
+                return story + "; ...";
+            story += wxString::Format("%s row %d", lastRow < 0 ? "" : ";", row);
+        } else {
+            story += ",";
+        }
+        story += " " + ColumnText(column);
+        lastRow = row;
+    }
+    return story;
+}

@@ -298,9 +298,15 @@ TEST_F(AnalogRadioFault, TornLinesArePutTogether) {
     ReadThreeRows({"torn", {"--fault", "torn@1", "--fault", "torn@2"}, Complete, {}, {1, 2, 3}});
 }
 
-TEST_F(AnalogRadioFault, ALineThatBreaksOffIsReadAsFarAsItGoes) {
+TEST_F(AnalogRadioFault, ALineThatBreaksOffBringsNoToneOrCodeThatTheRadioDidNotSend) {
+    SetCell(0, RTON, "71.9");
     ReadThreeRows({"cut", {"--fault", "cut@2"}, Complete, {}, {1, 2, 3}});
-    EXPECT_EQ(CellText(2, RTON), "n/a");
+    for (const int column : {RTON, TTON, RCOD, TCOD}) {
+        EXPECT_EQ(CellText(2, column), CellText(0, column)) << ColumnTag[column];
+        EXPECT_TRUE(CurrentGrid()->GetCellBackgroundColour(2, column) == FailColour) << ColumnTag[column];
+        EXPECT_FALSE(CurrentGrid()->GetCellBackgroundColour(3, column) == FailColour) << ColumnTag[column];
+    }
+    EXPECT_EQ(CellText(3, RTON), "67.0");
     EXPECT_EQ(CellText(2, SCAN), "0");
 }
 

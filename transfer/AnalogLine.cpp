@@ -21,14 +21,6 @@ bool IsDigits(const wxString& text) {
     return std::all_of(text.begin(), text.end(), [](wxUniChar c) { return c >= '0' && c <= '9'; });
 }
 
-wxString Printable(const wxString& text) {
-    wxString printable;
-    printable.reserve(text.length());
-    for (wxUniChar c : text)
-        printable += c >= ' ' && c <= '~' ? c : wxUniChar(' ');
-    return printable;
-}
-
 /// "OFF" and "n/a" read as a code that sets nothing.
 wxString NothingAsZeros(const wxString& text) {
     return text == "OFF" || text == "n/a" ? wxString("000") : text;
@@ -101,7 +93,7 @@ wxString TextToTone(const wxString& number) {
 
 wxString CodeToText(const wxString& code) {
     const wxString text = NothingAsZeros(code);
-    return text.length() == 3 ? Printable(text) : wxString("000");
+    return text.length() == 3 ? PrintableText(text) : wxString("000");
 }
 
 wxString TextToCode(const wxString& text, int type) {
@@ -111,7 +103,7 @@ wxString TextToCode(const wxString& text, int type) {
 }
 
 wxString DescriptionToText(const wxString& description) {
-    const wxString text = Printable(description).Trim(true).Trim(false);
+    const wxString text = PrintableText(description).Trim(true).Trim(false);
     return (text + wxString(' ', 9)).Left(9);
 }
 
@@ -130,12 +122,24 @@ void AppendAnalogFields(const AnalogTexts& texts, wxString& out) {
     }
 }
 
-wxString StripParity(const wxString& line) {
+wxString ClearParity(const wxString& text) {
     wxString plain;
-    plain.reserve(line.length());
-    for (wxUniChar c : line)
+    plain.reserve(text.length());
+    for (wxUniChar c : text)
         plain += static_cast<char>(c.GetValue() & 0x7F);
-    return Printable(plain);
+    return plain;
+}
+
+wxString PrintableText(const wxString& text) {
+    wxString printable;
+    printable.reserve(text.length());
+    for (wxUniChar c : text)
+        printable += c >= ' ' && c <= '~' ? c : wxUniChar(' ');
+    return printable;
+}
+
+wxString StripParity(const wxString& line) {
+    return PrintableText(ClearParity(line));
 }
 
 bool HasAnalogNumber(const wxString& line) {

@@ -116,8 +116,14 @@ wxString ModeToText(const wxString& mode);
 /// whether the line is a guard's.
 void AppendAnalogFields(const AnalogTexts& texts, wxString& out);
 
-/// A received line as plain text: the parity bit of each character is cleared, and what isn't printable
-/// then is a blank.
+/// A text without the parity bit, bit 7, of each character.
+wxString ClearParity(const wxString& text);
+
+/// A text of the same length with a blank for each character that can't be printed in ASCII.
+wxString PrintableText(const wxString& text);
+
+/// A received line as plain text, whether or not its parity bits have been cleared before: PrintableText of
+/// ClearParity.
 wxString StripParity(const wxString& line);
 
 /// True if the line holds a number field whole: three characters and the blank behind them.

@@ -433,6 +433,17 @@ TEST_F(AnalogRadioLine, LosesItsParityBits) {
     EXPECT_EQ(Text(StripParity(Tower)), Text(Tower));
 }
 
+TEST_F(AnalogRadioLine, WithoutParityBitsHasItsLineEndsAndAcknowledgements) {
+    wxString bytes;
+    for (unsigned c : {0x8Du, 0x85u, 0x8Au, 0xB0u, 0x0Du, 0x80u, 0xFFu})
+        bytes += wxUniChar(c);
+    const wxString plain = ClearParity(bytes);
+    ASSERT_EQ(plain.length(), 7u);
+    EXPECT_EQ(Text(plain.Left(5)), "\r\x05\n0\r");
+    EXPECT_EQ(plain[5].GetValue(), 0u);
+    EXPECT_EQ(plain[6].GetValue(), 0x7Fu);
+}
+
 TEST_F(AnalogRadioLine, HasBlanksForWhatCannotBePrinted) {
     wxString line;
     for (unsigned c : {0x00u, 0x80u, 0x1Bu, 0xFFu, 0x7Fu, 0x41u, 0xC1u})

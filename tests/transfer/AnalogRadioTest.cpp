@@ -53,7 +53,8 @@ protected:
 
     /// Sends the rows to the model and reads them back into the emptied page.
     static void SendAndReadBack(const std::string& model, const std::vector<int>& rows,
-                                const std::string& frequency, const char* keyBox = nullptr) {
+                                const std::string& frequency, const char* keyBox = nullptr,
+                                const std::vector<std::string>& options = {}) {
         CurrentGrid()->ClearSelection();
         std::map<std::string, std::string> expected;
         for (const int row : rows) {
@@ -63,7 +64,7 @@ protected:
             const std::string padded = frequency.size() < 8 ? "0" + frequency : frequency;
             expected[number] = MemoryLine(number, padded);
         }
-        RadioUnderTest radio(model);
+        RadioUnderTest radio(model, options);
         Send(radio, {"Complete"});
         EXPECT_TRUE(PortIsFree(radio.PortName()));
         Read(radio, {"Complete"}, keyBox);
@@ -106,6 +107,27 @@ TEST_F(AnalogRadio, OfOpeningNumberThreeGetsAndGivesItsChannels) {
 TEST_F(AnalogRadio, OfOpeningNumberFourGetsAndGivesItsChannels) {
     Retarget(Krv214, 0);
     SendAndReadBack("KRV-214", {1, 101, 102}, "174.0000");
+}
+
+TEST_F(AnalogRadio, ThatSetsBitSevenOnEveryByteGetsAndGivesItsChannels) {
+    Retarget(Krv650, 1);
+    SendAndReadBack("KRV-650:FM 138-174", {1, 2, 200}, "138.0250",
+                    "Close this dialog, then press ENTER on radio to start", {"--parity=bytes"});
+}
+
+TEST_F(AnalogRadio, ThatSetsBitSevenOnEveryByteGivesAllItsRows) {
+    Retarget(Krv47, 0);
+    RadioUnderTest radio("KRV-47", {"--parity=bytes", "--all", "--guard-names"},
+                         MemoryLine("007", "066.0250") + "\n" + MemoryLine("122", "071.0000") + "\n");
+    Read(radio, {"Complete"});
+    EXPECT_EQ(FilledRows(), 122);
+    EXPECT_EQ(CellText(6, RFRQ), "66.0000");
+    EXPECT_EQ(CellText(7, RFRQ), "66.0250");
+    EXPECT_EQ(CellText(7, DESC), "HILL     ");
+    EXPECT_EQ(CellText(7, TTON), "250.3");
+    EXPECT_EQ(CellText(7, MODE), "w");
+    EXPECT_EQ(CellText(122, MNUM), "122");
+    EXPECT_EQ(CellText(122, RFRQ), "71.0000");
 }
 
 TEST_F(AnalogRadio, WithItsGuardsByNameLandsInTheLastRows) {

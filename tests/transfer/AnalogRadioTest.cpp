@@ -1,4 +1,5 @@
 // Whole transfers between the window and simulated analog radios.
+#include "tests/transfer/ProgressWatch.h"
 #include "tests/transfer/RadioUnderTest.h"
 #include "tests/transfer/TransferTest.h"
 
@@ -351,13 +352,11 @@ TEST_F(AnalogRadioFault, CancelInAWriteLeavesTheRadioWithTheRowsBefore) {
         FillRow(row, "138.0000");
     Select({1, 2, 3});
     RadioUnderTest radio("KDRV-4xxx:FM 138-174", {"--fault", "no-ack@2"});
-    std::thread user([] {
-        // The row that isn't acknowledged is being waited for when two seconds are over.
-        for (int tries = 0; tries < 100 && !OpenProgress(); ++tries)
-            std::this_thread::sleep_for(std::chrono::milliseconds(20));
-        std::this_thread::sleep_for(std::chrono::milliseconds(2500));
-        if (ProgressFrame* progress = OpenProgress())
-            progress->Cancelled = true;
+    ProgressWatch progress;
+    std::thread user([&] {
+        // The second row is stored, and its acknowledgement is being waited for.
+        radio.AwaitInLog("! no-ack@2");
+        progress.Cancel();
     });
     Send(radio, {"Cancelled by User"});
     user.join();

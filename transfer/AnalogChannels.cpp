@@ -109,8 +109,7 @@ int ReadChannels(TransferContext& context, wxGrid* grid) {
         if (status == TransferTimeout)
             break;
         TakeReceivedLine(context);
-        // With their parity bits left on, neither the first channel nor the end could be told.
-        context.RxLine = StripParity(context.RxLine).Trim(false);
+        context.RxLine = PrintableText(context.RxLine).Trim(false);
         if (!started && !CutToFirstChannel(context.RxLine))
             continue;
         started = true;

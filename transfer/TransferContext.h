@@ -37,6 +37,9 @@ struct TransferContext {
     std::int32_t FoundAt = -1;                    ///< position of the terminator in RxBuffer, -1 for none
     std::int32_t Status = 0;                      ///< a TransferStatus
     std::uint32_t XferFlags = 0;                  ///< what the rows to be sent need of the radio
+
+    /// Makes of the text that arrives what RxBuffer gets; null: the text as it is.
+    wxString (*Arriving)(const wxString& text) = nullptr;
 };
 
 /// State of a T-record transfer.

@@ -9,7 +9,7 @@ enum Column : int {
     SHAD, ///< P25: "N", "P-" and a digit, or "S-" and the primary's number
     BAND, ///< MDLX: the band of this row; elsewhere hidden
     SCAN, ///< "Y" or "N" on P25 and KDAR pages, else a scan list mask 0 to 31
-    ZONE, ///< P25: a name of ZoneList; empty on a shadow row
+    ZONE, ///< P25: one of the ZoneNames of the page's type; empty on a shadow row
     DESC, ///< description, 8 characters on P25 and KDAR pages, else 9
     MODE, ///< "W" or "N"; P25: "w", "n" or "D"
     RFRQ, ///< receive frequency, decimal MHz with a point

@@ -55,8 +55,7 @@ void MakeRowBlank(wxGrid* grid, int row) {
 void ReleaseZoneOfNumber(wxGrid* grid, int row, const std::vector<int>& order) {
     const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
     if (number >= 1 && number < static_cast<int>(order.size()))
-        ReleaseP25ZonePosition(
-            RadioCatalogue::ZoneList.Index(grid->GetCellValue(order[static_cast<size_t>(number)], ZONE)));
+        ReleaseP25ZonePosition(FindZone(grid->GetCellValue(order[static_cast<size_t>(number)], ZONE)));
 }
 
 /// Deletes the rows (ascending) out of rows 1 to last: those behind them move up, and blank ones

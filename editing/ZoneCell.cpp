@@ -28,7 +28,7 @@ void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
     const int limit = CurrentParameters().Type == RP25 ? 14 : UnscannedZone;
     // Meant: an edit that is given up leaves the row without its slot until the slots are counted anew.
     m_startZone = grid->GetCellValue(row, ZONE);
-    ReleaseP25ZonePosition(ZoneList.Index(m_startZone));
+    ReleaseP25ZonePosition(FindZone(m_startZone));
 
     const bool scanned = grid->GetCellValue(row, SCAN) == "Y";
     const int32_t* slots = ZoneSlotsOf(CurrentPage);
@@ -61,12 +61,12 @@ bool P25ZoneEditor::EndEdit(int, int, const wxGrid*, const wxString&, wxString* 
 
 void P25ZoneEditor::ApplyEdit(int row, int, wxGrid* grid) {
     const wxString before = grid->GetCellValue(row, ZONE);
-    const int zone = ZoneList.Index(m_value);
+    const int zone = FindZone(m_value);
     if (!TakeP25ZonePosition(zone))
         return;
     // A blank row has been filled since the edit began, and given a zone.
     if (before != m_startZone)
-        ReleaseP25ZonePosition(ZoneList.Index(before));
+        ReleaseP25ZonePosition(FindZone(before));
     grid->SetCellValue(row, ZONE, m_value);
     // Like its shadows, a primary is never scanned, whatever its zone.
     grid->SetReadOnly(row, SCAN, zone == UnscannedZone || IsPrimary(grid, row));

@@ -55,6 +55,10 @@ void WriteLink(wxGrid* grid, const TRecordValues& values) {
     }
 }
 
+TRecordValues ValuesOf(std::span<const TRecordField> layout, const wxString& line) {
+    return ReadTRecord(layout, line, CurrentParameters().Radio, CurrentParameters().Type);
+}
+
 int WriteRow(wxGrid* grid, const TRecordValues& values) {
     if (values.row < 0 || values.row >= grid->GetNumberRows())
         return 0;
@@ -90,11 +94,11 @@ void encodeTrecordV2(wxGrid* grid, int row, wxString& out) {
 }
 
 int decodeTrecordV1(wxGrid* grid, const wxString& line) {
-    return WriteRow(grid, ReadTRecord(TRecordV1, line, CurrentParameters().Radio));
+    return WriteRow(grid, ValuesOf(TRecordV1, line));
 }
 
 int decodeTrecordV2(wxGrid* grid, const wxString& line) {
-    return WriteRow(grid, ReadTRecord(TRecordV2, line, CurrentParameters().Radio));
+    return WriteRow(grid, ValuesOf(TRecordV2, line));
 }
 
 void encodeEraseRecord(TRecordContext& context, int row, wxString& out) {

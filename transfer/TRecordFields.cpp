@@ -74,9 +74,9 @@ std::uint32_t FrequencyToHertz(const wxString& cell) {
     return number;
 }
 
-/// Position of a zone plus 1, 0 for a text that ZoneList doesn't hold.
-int ZoneValue(const wxString& cell) {
-    return ZoneList.Index(cell) + 1;
+/// Position of a zone plus 1, 0 for a text that is no zone of pages of that radio type.
+int ZoneValue(const wxString& cell, int type) {
+    return ZoneNames(type).Index(cell) + 1;
 }
 
 int ZoneBits(int zoneValue) {
@@ -118,9 +118,9 @@ wxString FieldText(const TRecordField& field, const TRecordSource& source) {
         return number(ReadDecimal(cell));
     case TRecordKind::ZoneByte:
         // Meant: V1 has its guard memories in the last zone, whatever their ZONE.
-        return number(ZoneBits(source.row > LastNP25Memory ? GuardZone : ZoneValue(cell)));
+        return number(ZoneBits(source.row > LastNP25Memory ? GuardZone : ZoneValue(cell, source.type)));
     case TRecordKind::ZoneWord:
-        return number(ZoneBits(ZoneValue(cell)));
+        return number(ZoneBits(ZoneValue(cell, source.type)));
     case TRecordKind::Description:
         return DescriptionToHex(cell);
     case TRecordKind::Letter:
@@ -174,7 +174,7 @@ std::optional<wxString> EntryAt(const wxArrayString& list, std::int64_t position
 /// Takes the fields of one line, in their order, into values.
 class Reader {
 public:
-    Reader(const wxString& line, int radio) : m_line(line), m_radio(radio) {}
+    Reader(const wxString& line, int radio, int type) : m_line(line), m_radio(radio), m_type(type) {}
 
     TRecordValues values;
 
@@ -213,7 +213,7 @@ public:
             break;
         case TRecordKind::ZoneByte:
         case TRecordKind::ZoneWord:
-            Add(field.column, EntryAt(ZoneList, number >> ZoneShift).value_or(""));
+            Add(field.column, EntryAt(ZoneNames(m_type), number >> ZoneShift).value_or(""));
             break;
         case TRecordKind::Description:
             Add(field.column, Trimmed(HexToCharacters(m_line, field.position, DescriptionLength)));
@@ -276,7 +276,7 @@ private:
     }
 
     const wxString& m_line;
-    int m_radio;
+    int m_radio, m_type;
     int m_offset = 0;
 };
 
@@ -296,8 +296,8 @@ wxString MakeTRecord(std::span<const TRecordField> layout, const TRecordSource& 
     return line;
 }
 
-TRecordValues ReadTRecord(std::span<const TRecordField> layout, const wxString& line, int radio) {
-    Reader reader(line, radio);
+TRecordValues ReadTRecord(std::span<const TRecordField> layout, const wxString& line, int radio, int type) {
+    Reader reader(line, radio, type);
     for (const TRecordField& field : layout)
         reader.Take(field);
     return reader.values;

@@ -21,8 +21,8 @@ enum class TRecordKind {
     GuardPrimary,  ///< decimal, of a guard row less 270; read as "%03d"
     GuardNumber,   ///< decimal, of a guard row less 270; not read
     Decimal,       ///< decimal; read as "%d"
-    ZoneByte,      ///< position in ZoneList times 16, F0 for a guard row; the high digit is read
-    ZoneWord,      ///< position in ZoneList times 16
+    ZoneByte,      ///< position in ZoneNames times 16, F0 for a guard row; the high digit is read
+    ZoneWord,      ///< position in ZoneNames times 16
     Description,   ///< 8 characters
     Letter,        ///< one character
     FrequencyText, ///< MHz in 8 characters
@@ -137,7 +137,7 @@ struct TRecordValues {
     int primary = 0;                ///< as in PRIM
     int shadows = 0;                ///< shadow fields that aren't zero
     std::vector<TRecordCell> cells; ///< all others, in the order of the record; ZONE is empty for a zone
-                                    ///< that ZoneList doesn't hold
+                                    ///< that the page's type doesn't have
 };
 
 /// True if a V1 radio of the type has a place for the row.
@@ -146,6 +146,6 @@ bool FitsRecordV1(int type, int row);
 /// The line, without its checksum, of a row. Characters that the radio can't show become blanks.
 wxString MakeTRecord(std::span<const TRecordField> layout, const TRecordSource& source);
 
-/// What a line without its checksum tells on a page of that radio index. Digits that are missing or no
-/// digits count 0, characters that can't be shown are blanks.
-TRecordValues ReadTRecord(std::span<const TRecordField> layout, const wxString& line, int radio);
+/// What a line without its checksum tells on a page of that radio index and radio type. Digits that are
+/// missing or no digits count 0, characters that can't be shown are blanks.
+TRecordValues ReadTRecord(std::span<const TRecordField> layout, const wxString& line, int radio, int type);

@@ -47,6 +47,8 @@ inline constexpr const char* ColumnTag[ColumnTotal] = {
 
 /// MFLG: the place of a shadow in its primary's list plus one (1 to 7), 0 on any other row.
 inline constexpr int ShadowIndexMask = 0x007;
+/// MFLG: the radio scans the memory; SCAN is what a page shows of it.
+inline constexpr int ScanFlag = 0x08;
 /// MFLG: the row is a primary with shadows.
 inline constexpr int ShadowLinkFlag = 0x010;
 

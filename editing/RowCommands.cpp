@@ -102,7 +102,6 @@ void FixCopiedRow(OrvZELFrame*) {
     if (!CurrentPageIsP25())
         return;
     // Meant: the flags themselves stay in the copy; only the scan bit goes.
-    constexpr int scanBit = 0x08;
     const int flags = ReadHex(RowCopyBuffer[MFLG]);
     if ((flags & (ShadowIndexMask | ShadowLinkFlag)) == 0)
         return;
@@ -110,7 +109,7 @@ void FixCopiedRow(OrvZELFrame*) {
     RowCopyBuffer[PRIM] = RowCopyBuffer[MNUM];
     for (size_t col = SHD0; col <= SHD6; ++col)
         RowCopyBuffer[col] = "0";
-    RowCopyBuffer[MFLG] = FlagText(flags & ~scanBit);
+    RowCopyBuffer[MFLG] = FlagText(flags & ~ScanFlag);
 }
 
 void ZelkFrame::OnDefaultRow(wxCommandEvent&) {

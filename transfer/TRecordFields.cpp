@@ -83,9 +83,17 @@ int ZoneBits(int zoneValue) {
     return zoneValue == 0 ? 0 : (zoneValue - 1) << ZoneShift;
 }
 
-/// A decimal cell as V1 knows it, where the guard rows follow memory 230.
-int GuardNumber(const wxString& cell, int row) {
-    return ReadDecimal(cell) - (row > LastNP25Memory ? GuardOffset : 0);
+/// A number of a row as V1 knows it, where the guard rows follow memory 230.
+int GuardNumber(int number, int row) {
+    return number - (row > LastNP25Memory ? GuardOffset : 0);
+}
+
+int PrimaryOf(const TRecordSource& source) {
+    return PrimaryNumber(source.cells[MFLG], source.cells[SHAD], source.cells[PRIM]);
+}
+
+int FlagsOf(const TRecordSource& source) {
+    return FlagsToSend(source.cells[MFLG], source.cells[SCAN], source.type);
 }
 
 wxString FieldText(const TRecordField& field, const TRecordSource& source) {
@@ -102,16 +110,19 @@ wxString FieldText(const TRecordField& field, const TRecordSource& source) {
     case TRecordKind::Shadows:
         break;
     case TRecordKind::GuardAddress:
-    case TRecordKind::GuardPrimary:
     case TRecordKind::GuardNumber:
-        return number(GuardNumber(cell, source.row));
+        return number(GuardNumber(ReadDecimal(cell), source.row));
+    case TRecordKind::GuardPrimary:
+        return number(GuardNumber(PrimaryOf(source), source.row));
+    case TRecordKind::Primary:
+        return number(PrimaryOf(source));
     case TRecordKind::RowAddress:
         return number(source.row);
     case TRecordKind::FlagsLow:
-        return number((ReadHex(cell) & StoredLowFlags) |
+        return number((FlagsOf(source) & StoredLowFlags) |
                       (source.row >= source.gridRows - 2 ? LastRowsMark : 0));
     case TRecordKind::FlagsHigh:
-        return number((ReadHex(cell) >> HighFlagsShift) & HighFlags);
+        return number((FlagsOf(source) >> HighFlagsShift) & HighFlags);
     case TRecordKind::Decimal:
     case TRecordKind::UnitId:
     case TRecordKind::PaddedUnitId:
@@ -136,6 +147,7 @@ wxString FieldText(const TRecordField& field, const TRecordSource& source) {
     case TRecordKind::Code:
         return number(GetCodeIndex(cell, source.type) + 1);
     case TRecordKind::Flags:
+        return number(FlagsOf(source));
     case TRecordKind::TalkGroup:
     case TRecordKind::Nac:
         return number(ReadHex(cell));
@@ -206,9 +218,11 @@ public:
             values.primary = static_cast<int>(number) + m_offset;
             Add(field.column, NumberText(values.primary));
             break;
+        case TRecordKind::Primary:
+            values.primary = static_cast<int>(number);
+            Add(field.column, wxString::Format("%u", number));
+            break;
         case TRecordKind::Decimal:
-            if (field.column == PRIM)
-                values.primary = static_cast<int>(number);
             Add(field.column, wxString::Format("%u", number));
             break;
         case TRecordKind::ZoneByte:
@@ -281,6 +295,21 @@ private:
 };
 
 } // namespace
+
+int PrimaryNumber(const wxString& flags, const wxString& shad, const wxString& prim) {
+    wxString number;
+    if ((ReadHex(flags) & ShadowIndexMask) && shad.StartsWith("S-", &number))
+        if (const int primary = ReadDecimal(number); primary > 0)
+            return primary;
+    return ReadDecimal(prim);
+}
+
+int FlagsToSend(const wxString& flags, const wxString& scan, int type) {
+    const int stored = ReadHex(flags);
+    if (!IsP25Type(type) || (stored & (ShadowIndexMask | ShadowLinkFlag)))
+        return stored;
+    return scan == "Y" ? stored | ScanFlag : stored & ~ScanFlag;
+}
 
 bool FitsRecordV1(int type, int row) {
     constexpr int LastRP25Row = 232;

@@ -34,6 +34,7 @@ protected:
         cells[MFLG] = FlagText(row & 0x37F);
         cells[MNUM] = NumberText(row);
         cells[PRIM] = NumberText(row);
+        cells[SCAN] = row & ScanFlag ? "Y" : "N";
         cells[ZONE] = Nth(ZoneNames(NP25), row);
         cells[DESC] = wxString::Format("MEM  %03d", row);
         cells[MODE] = Nth(ListOf(P25Modes), row);

@@ -131,9 +131,8 @@ void SetPageDefaults(OrvZELFrame*, int page) {
         grid->SetCellValue(0, col, PageDefault[defaultRow][col]);
 
     if (IsP25Type(parameters.Type)) {
-        // Meant: these rows get their zones by the list that stands until now.
         FillRowsFromDefault({1, GD1, GD2});
-        ZoneList = CurrentParameters().Type == NP25 ? ListOf(ZoneNames32) : ListOf(ZoneNames16);
+        ZoneList = ZoneNames(CurrentParameters().Type);
     }
     grid->SetReadOnly(0, MNUM, true);
     grid->ForceRefresh();

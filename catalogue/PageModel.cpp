@@ -111,7 +111,7 @@ void ClearRowData(int row, bool releaseZone) {
     if (releaseZone) {
         const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
         if (number >= 1 && number <= CurrentParameters().Rows)
-            ReleaseP25ZonePosition(RadioCatalogue::ZoneList.Index(grid->GetCellValue(number, ZONE)));
+            ReleaseP25ZonePosition(FindZone(grid->GetCellValue(number, ZONE)));
     }
     for (int col = 0; col < ColumnTotal; ++col) {
         grid->SetCellValue(row, col, "");

@@ -155,7 +155,7 @@ int WantedZone(int type, int row, const wxString& text) {
     if (type == NP25 && row > 500)
         return 31;
     const int firstFree = FirstFreeZone();
-    const int named = ZoneList.Index(text);
+    const int named = FindZone(text);
     return named != wxNOT_FOUND && named >= firstFree ? named : firstFree;
 }
 

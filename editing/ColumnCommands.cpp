@@ -8,6 +8,7 @@
 #include "editing/CommandQuestions.h"
 #include "editing/RowCommands.h"
 #include "editing/RowLooks.h"
+#include "editing/ScanLock.h"
 #include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
 #include "frame/ZelkMain.h"
@@ -23,6 +24,7 @@ void DealZoneAfresh(wxGrid* grid, int row) {
     const int flags = ReadHex(grid->GetCellValue(row, TFLG)) & ~ZoneTakenFlag;
     grid->SetCellValue(row, TFLG, FlagText(flags));
     CheckZone(grid, row, "");
+    SetScanLock(grid, row);
 }
 
 /// Puts a row of a module page on the default row's band, if it has another one.

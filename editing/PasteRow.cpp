@@ -1,6 +1,7 @@
 // The command that pastes the copied row.
 #include "editing/CommandQuestions.h"
 #include "editing/RowCommands.h"
+#include "editing/ScanLock.h"
 #include "editing/ZelkEdit.h"
 #include "frame/ZelkMain.h"
 
@@ -32,4 +33,6 @@ void ZelkFrame::OnPasteRow(wxCommandEvent&) {
         grid->SetCellValue(ContextRow, col, RowCopyBuffer[static_cast<size_t>(col)]);
     FillUnpastedCells(grid, ContextRow);
     CheckRow(grid, ContextRow);
+    if (CurrentPageIsP25())
+        SetScanLock(grid, ContextRow);
 }

@@ -103,12 +103,8 @@ void CheckPage() {
     wxGrid* grid = CurrentGrid();
     const int rows = CurrentParameters().Rows;
     wxGridUpdateLocker quiet(grid);
-    if (CurrentPageIsP25()) {
-        // A page of the other generation may have been set up since: by its names, zones of this
-        // one would be unknown and its rows lose them.
-        ZoneList = CurrentParameters().Type == NP25 ? ListOf(ZoneNames32) : ListOf(ZoneNames16);
+    if (CurrentPageIsP25())
         ForgetZones();
-    }
     MemoryNumberIndex numbers(rows);
     for (int row = 1; row <= rows; ++row)
         CheckRow(grid, row, numbers);

@@ -6,6 +6,7 @@
 #include "editing/DescriptionCell.h"
 #include "editing/DigitalSquelchCell.h"
 #include "editing/MemoryNumberCell.h"
+#include "editing/ScanLock.h"
 #include "editing/ZoneCell.h"
 
 #include <wx/grid.h>
@@ -170,6 +171,7 @@ void SetRowEditorsP25(wxGrid* grid, int row) {
     SetReadOnly(grid, row, {SHAD}, true);
     SetYesNoScanCell(grid, row);
     AttrOf(grid, row, SCAN)->SetFont(grid->GetDefaultCellFont());
+    SetScanLock(grid, row);
     // The zones of both lists end before that of the guard rows, or the one that isn't scanned.
     SetCentred(grid, row, ZONE,
                page.Type == NP25 ? new P25ZoneEditor(std::size(ZoneNames32) - 1, Choices<ZoneNames32>())

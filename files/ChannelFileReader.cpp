@@ -133,7 +133,7 @@ private:
         const auto row = static_cast<size_t>(m_row);
         // A row that comes again holds one slot all the same.
         if (m_hasZone[row])
-            ReleaseP25ZonePosition(RadioCatalogue::ZoneList.Index(m_grid->GetCellValue(m_row, ZONE)));
+            ReleaseP25ZonePosition(FindZone(m_grid->GetCellValue(m_row, ZONE)));
         m_hasZone[row] = m_row != 0;
         CheckZone(m_grid, m_row, text);
         m_grid->SetCellValue(m_row, TFLG, TflgMade);

@@ -158,7 +158,7 @@ private:
     void GiveZoneBack() {
         if (!CurrentPageIsP25() || m_row == 0 || !HoldsSlot())
             return;
-        ReleaseP25ZonePosition(ZoneList.Index(TextOf(ZONE)));
+        ReleaseP25ZonePosition(FindZone(TextOf(ZONE)));
         m_taken[static_cast<size_t>(m_row)] = false;
     }
 

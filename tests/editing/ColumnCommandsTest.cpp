@@ -186,6 +186,20 @@ TEST_F(DefaultColumn, OfTheZoneGivesAShadowNone) {
     EXPECT_EQ(SlotsTaken(0), 2) << "rows 1 and 10";
 }
 
+TEST_F(DefaultColumn, OfTheZoneMakesScanOfARowThatWasInXWritable) {
+    Retarget(Kdrv716B, 0);
+    Fill({10, 11});
+    Link(11, {12});
+    SetCell(10, ZONE, "X");
+    SetPageEditors(0);
+    ASSERT_TRUE(IsReadOnly(10, SCAN));
+    RunOnColumn(DefaultCol, ZONE);
+    EXPECT_EQ("1", Cell(10, ZONE));
+    EXPECT_FALSE(IsReadOnly(10, SCAN));
+    for (int row : {11, 12, 501, 502})
+        EXPECT_TRUE(IsReadOnly(row, SCAN)) << row;
+}
+
 TEST_F(DefaultColumn, FromTheMenuIsTheColumnThatWasClicked) {
     testbench::ShowAndFocus(*MainFrame);
     Fill({2});

@@ -68,6 +68,23 @@ TEST_F(PasteRowCommand, PastesOneRowWhateverIsSelected) {
     EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{3, 5}));
 }
 
+TEST_F(PasteRowCommand, OfZoneXLocksScanAndAPasteOfAnotherZoneMakesItWritableAgain) {
+    Retarget(Kdrv716B, 0);
+    Fill({3, 4, 5, 6});
+    SetCell(3, ZONE, "X");
+    SetPageEditors(0);
+    SetCell(5, TFLG, "A0"); // its zone is to be dealt anew
+    CopyToWithNumber(3, 5);
+    ASSERT_EQ("X", Cell(5, ZONE));
+    EXPECT_TRUE(IsReadOnly(5, SCAN));
+    SetCell(5, TFLG, "A0");
+    CopyToWithNumber(4, 5);
+    ASSERT_EQ("1", Cell(5, ZONE));
+    EXPECT_FALSE(IsReadOnly(5, SCAN));
+    CopyToWithNumber(4, 501);
+    EXPECT_TRUE(IsReadOnly(501, SCAN)) << "a guard row's stays locked";
+}
+
 TEST_F(PasteRowCommand, IntoABlankRowMakesItAMemory) {
     Fill({3});
     CopyToWithNumber(3, 5);

@@ -294,6 +294,15 @@ TEST_F(ChannelFileReader, BringsPrimariesAndShadowsBackOutOfTheScanAndLocked) {
     EXPECT_EQ(2, TakenSlots()) << "a shadow takes no slot";
 }
 
+TEST_F(ChannelFileReader, LocksScanOfRowsInZoneX) {
+    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "0", "N", "X") + P25Memory(6, "0", "N", "W"))));
+    EXPECT_TRUE(CurrentGrid()->IsReadOnly(5, SCAN));
+    EXPECT_FALSE(CurrentGrid()->IsReadOnly(6, SCAN));
+    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "0", "N", "W") + P25Memory(6, "0", "N", "X"))));
+    EXPECT_FALSE(CurrentGrid()->IsReadOnly(5, SCAN));
+    EXPECT_TRUE(CurrentGrid()->IsReadOnly(6, SCAN));
+}
+
 TEST_F(ChannelFileReader, LeavesScanCellsOfOtherTypesAsTheyAre) {
     ASSERT_EQ(0, Open(FileOf("KDAR", Memory(5, "<SH>P-1</SH><SC type=\"RP25\">Y</SC>"))));
     EXPECT_EQ("Y", Text(5, SCAN));

@@ -28,9 +28,7 @@ protected:
         return changes;
     }
 
-    static int CountTakenSlotsOf(const std::string& zone) {
-        return ZoneSlotsOf(CurrentPage)[RadioCatalogue::ZoneList.Index(zone)];
-    }
+    static int CountTakenSlotsOf(const std::string& zone) { return ZoneSlotsOf(CurrentPage)[FindZone(zone)]; }
 };
 
 class KdarImport : public CsvImport {

@@ -11,3 +11,5 @@ digital_radio_test(digital_radio_tests DISPLAY 2 WAITS SOURCES DigitalRadioTest.
 digital_radio_test(digital_fault_write_tests DISPLAY 3 WAITS SOURCES FaultMatrixWriteTest.cpp)
 digital_radio_test(digital_fault_read_tests DISPLAY 2 WAITS SOURCES FaultMatrixReadTest.cpp)
 digital_radio_test(digital_round_trip_tests DISPLAY 2 SOURCES DigitalRoundTripTest.cpp)
+digital_radio_test(digital_links_tests DISPLAY 2 SOURCES DigitalLinksTest.cpp)
+target_compile_definitions(digital_links_tests PRIVATE ZELK_EXAMPLES_DIR="${CMAKE_SOURCE_DIR}/examples")

@@ -151,6 +151,17 @@ protected:
         return DoTransferData(m_context, CurrentGrid(), mode);
     }
 
+    /// Expects the question before a radio of unknown content is emptied.
+    static testbench::ExpectedDialog& ExpectPurgeQuestion(testbench::DialogScript& script,
+                                                          int answer = wxID_OK) {
+        return script
+            .ExpectMessage("Purge radio?",
+                           "This radio's memories were not read by this program.\n"
+                           "All of them will be erased before the selected rows are sent!",
+                           answer)
+            .Style(wxOK | wxCANCEL);
+    }
+
     /// Does what the Cancel button does, from the peer's thread.
     void Cancel() { m_context.Progress->Cancelled = true; }
 

@@ -7,7 +7,7 @@ function(digital_radio_test name)
     add_dependencies(${name} zelk-radio)
 endfunction()
 
-digital_radio_test(digital_radio_tests DISPLAY 2 WAITS SOURCES DigitalRadioTest.cpp)
+digital_radio_test(digital_radio_tests DISPLAY 2 WAITS SOURCES DigitalRadioTest.cpp RadioContentTest.cpp)
 digital_radio_test(digital_fault_write_tests DISPLAY 3 WAITS SOURCES FaultMatrixWriteTest.cpp)
 digital_radio_test(digital_fault_read_tests DISPLAY 2 WAITS SOURCES FaultMatrixReadTest.cpp)
 digital_radio_test(digital_round_trip_tests DISPLAY 2 SOURCES DigitalRoundTripTest.cpp)

@@ -8,6 +8,7 @@
 #include <string>
 #include <thread>
 #include <vector>
+#include <wx/statusbr.h>
 
 using namespace testbench;
 using namespace transfertest;
@@ -262,6 +263,17 @@ TEST_F(DigitalRadio, OfOldFirmwareIsSparedWhatItCannotHold) {
     RadioUnderTest radio("KDRV-716B");
     Send(radio, Complete);
     EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2}));
+}
+
+TEST_F(DigitalRadio, OfOldFirmwareLeavesOutRowsThatAreToldAsNotSent) {
+    for (const int row : {1, 230, 231, 232, 233, 400, 502})
+        FillP25Row(row);
+    CurrentGrid()->SelectAll();
+    RadioUnderTest radio("KDRV-716B", {"--firmware", "010203"});
+    Send(radio, Complete);
+    EXPECT_EQ(Text(MainFrame->m_statusBar->GetStatusText(0)), "3 of 7 selected rows sent");
+    EXPECT_EQ(Text(MainFrame->m_statusBar->GetToolTipText()),
+              "4 selected rows were not sent: 231 to 233, 400");
 }
 
 // ---- Cancel and silence ----

@@ -117,6 +117,18 @@ TEST_F(TRecordDriver, CancelledAtAnyLineOfAWriteEndsIt) {
     }
 }
 
+TEST_F(TRecordDriver, CancelledWhenItIsOverStaysAsItEnded) {
+    m_context.ResultPause = 0;
+    EXPECT_EQ(Transfer(Transcript(Opening("T204000024") + Sends("T204000000") + Says("T9030000")),
+                       ReadChannelsMode),
+              TransferComplete);
+    std::thread([this] { Cancel(); }).join();
+    wxYield();
+    EXPECT_EQ(Converse(Transcript(Opening("T204000024") + Sends("T204000000") + Says("T9030000")),
+                       ReadChannelsMode),
+              TransferComplete);
+}
+
 TEST_F(TRecordDriver, CancelledAtAnyLineOfAnyOtherModeEndsIt) {
     struct {
         const char* transcript;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/robot/TempFolder.h"
+#include "tests/transfer/CancelFromPeer.h"
 #include "tests/transfer/Transcript.h"
 #include "tests/transfer/TransferTest.h"
 #include "transfer/RadioIdentity.h"
@@ -163,11 +164,12 @@ protected:
     }
 
     /// Does what the Cancel button does, from the peer's thread.
-    void Cancel() { m_context.Progress->Cancelled = true; }
+    void Cancel() { m_cancel.Press(); }
 
     TRecordContext m_context;
 
 private:
+    CancelFromPeer m_cancel;
     testbench::TempFolder m_folder{"zelk-transfer"};
     std::filesystem::path m_formerDirectory;
 };

@@ -267,7 +267,7 @@ TEST_F(DigitalRadio, OfOldFirmwareIsSparedWhatItCannotHold) {
 
 TEST_F(DigitalRadio, OfOldFirmwareLeavesOutRowsThatAreToldAsNotSent) {
     for (const int row : {1, 230, 231, 232, 233, 400, 502})
-        FillP25Row(row);
+        FillP25Row(row, "A0", "00", wxString::Format("%03d", row));
     CurrentGrid()->SelectAll();
     RadioUnderTest radio("KDRV-716B", {"--firmware", "010203"});
     Send(radio, Complete);

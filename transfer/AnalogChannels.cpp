@@ -44,8 +44,10 @@ int WriteChannel(TransferContext& context, wxGrid* grid, int row) {
     SetMainGauge(context, row);
     context.RxBuffer.clear();
     const int status = WaitForLine(context, 5000, Acknowledgement, true);
-    if (status == TransferOk)
+    if (status == TransferOk) {
         DropAcknowledgement(context);
+        context.RowsSent.insert(row);
+    }
     return status;
 }
 

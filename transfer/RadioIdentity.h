@@ -7,5 +7,7 @@
 extern wxString RadioVersion;
 /// Serial number, empty before the first transfer. Outlives the transfer.
 extern wxString RadioSerial;
-/// Identity stamp that the last read gave its radio, 14 digits, empty before. Outlives the transfer.
+/// Identity stamp of the radio whose content the page's InRadioFlag tells of: the one that the last read gave
+/// its radio, or that the radio of the last complete write told. 14 digits. Empty while no radio is known:
+/// before the first transfer, and from a purge until a write is complete. Outlives the transfer.
 extern wxString RadioStamp;

@@ -37,6 +37,14 @@ bool UserAcceptsModes(const TRecordContext& context) {
                         context.Progress) == wxYES;
 }
 
+bool UserAcceptsPurge(const TRecordContext& context) {
+    wxMessageDialog question(context.Progress,
+                             "This radio's memories were not read by this program.\n"
+                             "All of them will be erased before the selected rows are sent!",
+                             "Purge radio?", wxOK | wxCANCEL);
+    return question.ShowModal() == wxID_OK;
+}
+
 int ChooseVersionQuery(TRecordDialogue& dialogue) {
     if (dialogue.mode == ReadInformationMode)
         return TransferComplete;
@@ -54,6 +62,12 @@ void OfferStamp(TRecordDialogue& dialogue) {
         return dialogue.Offer(MSG_RID);
     RadioStamp = MakeRadioStamp();
     dialogue.Offer(MSG_SID + RadioStamp);
+}
+
+/// Asks before anything is changed in a radio that may hold what the page doesn't.
+bool PurgeIsRefused(TRecordDialogue& dialogue) {
+    return dialogue.mode == WriteChannelsMode && dialogue.Needs(OtherRadio) &&
+           SelectionLeavesOutRows(dialogue) && !UserAcceptsPurge(dialogue.context);
 }
 
 void OfferOpening(TRecordDialogue& dialogue) {
@@ -86,6 +100,8 @@ void OfferPurge(TRecordDialogue& dialogue) {
     dialogue.Offer(MSG_PURGE);
     // All that the radio held goes out again, and so do its shadows.
     dialogue.context.XferFlags |= RadioPurged | NeedsShadowPass;
+    // If the write fails now, the next one has to purge and restore the radio again.
+    RadioStamp.clear();
 }
 
 const char* DataStatus(int mode) {
@@ -161,6 +177,8 @@ int ChooseLine(TRecordDialogue& dialogue) {
         OfferStamp(dialogue);
         break;
     case OpeningState:
+        if (PurgeIsRefused(dialogue))
+            return TransferCancelled;
         OfferOpening(dialogue);
         break;
     case PurgeState:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/robot/TempFolder.h"
+#include "tests/transfer/CancelFromPeer.h"
 #include "tests/transfer/Transcript.h"
 #include "tests/transfer/TransferTest.h"
 #include "transfer/RadioIdentity.h"
@@ -151,12 +152,24 @@ protected:
         return DoTransferData(m_context, CurrentGrid(), mode);
     }
 
+    /// Expects the question before a radio of unknown content is emptied.
+    static testbench::ExpectedDialog& ExpectPurgeQuestion(testbench::DialogScript& script,
+                                                          int answer = wxID_OK) {
+        return script
+            .ExpectMessage("Purge radio?",
+                           "This radio's memories were not read by this program.\n"
+                           "All of them will be erased before the selected rows are sent!",
+                           answer)
+            .Style(wxOK | wxCANCEL);
+    }
+
     /// Does what the Cancel button does, from the peer's thread.
-    void Cancel() { m_context.Progress->Cancelled = true; }
+    void Cancel() { m_cancel.Press(); }
 
     TRecordContext m_context;
 
 private:
+    CancelFromPeer m_cancel;
     testbench::TempFolder m_folder{"zelk-transfer"};
     std::filesystem::path m_formerDirectory;
 };

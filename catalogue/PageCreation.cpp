@@ -119,6 +119,19 @@ void ShowPageParameters(OrvZELFrame*, int page) {
                  parameters.Cols, parameters.Type, static_cast<unsigned>(parameters.Flags));
 }
 
+namespace {
+
+/// Fills the rows that a P25 page begins with, as far as they are blank: after a change of target they can
+/// hold memories.
+void FillStartingRows() {
+    CurrentGrid()->ClearSelection();
+    for (int row : {1, GD1, GD2})
+        if (row >= 1 && !RowHasData(row))
+            FillRowsFromDefault({row});
+}
+
+} // namespace
+
 void SetPageDefaults(OrvZELFrame*, int page) {
     const PageParameterRecord& parameters = PageParameters[page];
     wxGrid* grid = PageGrid[page];
@@ -132,7 +145,7 @@ void SetPageDefaults(OrvZELFrame*, int page) {
 
     if (IsP25Type(parameters.Type)) {
         // Meant: these rows get their zones by the list that stands until now.
-        FillRowsFromDefault({1, GD1, GD2});
+        FillStartingRows();
         ZoneList = CurrentParameters().Type == NP25 ? ListOf(ZoneNames32) : ListOf(ZoneNames16);
     }
     grid->SetReadOnly(0, MNUM, true);

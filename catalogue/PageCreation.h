@@ -12,8 +12,8 @@ void SetPageParameters(OrvZELFrame* frame, int page, int radio, int bandIndex);
 /// have been set. The page becomes the current one.
 void CreateNewPage(OrvZELFrame* frame, int page);
 
-/// Writes the default row of the page; on a P25 page also fills rows 1, GD1 and GD2 from it and
-/// sets ZoneList for its generation. Works on the current page's grid where that is P25.
+/// Writes the default row of the page; on a P25 page also fills rows 1, GD1 and GD2 from it, where they
+/// have no data, and sets ZoneList for its generation. Works on the current page's grid where that is P25.
 void SetPageDefaults(OrvZELFrame* frame, int page);
 
 /// Tells the log, which is silent unless somebody turns it on, what page is for.

@@ -5,6 +5,8 @@
 
 #include <wx/grid.h>
 
+#include <algorithm>
+
 ZelkFrame* MainFrame = nullptr;
 int32_t PageCount = 0;
 int32_t CurrentPage = 0;
@@ -121,6 +123,14 @@ void ClearRowData(int row, bool releaseZone) {
     }
 }
 
+namespace {
+
+bool IsBlankImage(const wxArrayString& texts) {
+    return std::all_of(texts.begin(), texts.end(), [](const wxString& text) { return text.empty(); });
+}
+
+} // namespace
+
 void SaveGuardRows(OrvZELFrame*) {
     guardRowImages[0] = GetRowValues(CurrentPage, GD1);
     guardRowImages[1] = GetRowValues(CurrentPage, GD2);
@@ -130,6 +140,8 @@ void RestoreGuardRows(OrvZELFrame*, bool renumber) {
     wxGrid* grid = CurrentGrid();
     for (int guard = 0; guard < 2; ++guard) {
         const int row = guard == 0 ? GD1 : GD2;
+        if (renumber && IsBlankImage(guardRowImages[static_cast<size_t>(guard)]))
+            continue;
         for (int col = 0; col < ColumnTotal; ++col)
             grid->SetCellValue(row, col, guardRowImages[guard][col]);
         if (renumber)

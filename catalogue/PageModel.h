@@ -107,7 +107,8 @@ void ClearRowData(int row, bool releaseZone);
 /// Keeps the cells of both guard rows of the current page.
 void SaveGuardRows(OrvZELFrame* frame);
 
-/// Writes the kept cells back into GD1 and GD2; with renumber MNUM becomes the row number.
+/// Writes the kept cells back into GD1 and GD2. With renumber MNUM becomes the row number, and a guard row
+/// that was blank is not written: a number alone would make an incomplete memory of it.
 void RestoreGuardRows(OrvZELFrame* frame, bool renumber);
 
 /// RadioCatalogue::GetCodeIndex for the type of the current page.

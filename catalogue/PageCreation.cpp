@@ -173,8 +173,10 @@ public:
           m_numbered(NumberedDescription(values[DESC], m_p25 ? 8 : 9, m_baseText)) {}
 
     void WriteInto(int row, bool renumber) const {
-        for (int col = 0; col <= m_limit; ++col)
+        for (int col = 0; col <= m_limit; ++col) {
             m_grid->SetCellValue(row, col, m_values[col]);
+            TakePaintOff(m_grid, row, col);
+        }
         if (m_numbered)
             m_grid->SetCellValue(row, DESC, m_baseText + NumberText(row));
         if (renumber) {

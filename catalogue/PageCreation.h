@@ -26,8 +26,8 @@ void SetGridColumns(wxGrid* grid, int type);
 void SetGridRowLabels(wxGrid* grid, int last);
 
 /// Writes a row image into every selected memory row of the page: columns 0 to 31 with
-/// allColumns, else 0 to 29. A DESC that ends in digits is numbered with the row. With renumber
-/// MNUM, and PRIM on a P25 page, become the row number. P25 rows get a zone. Ends with no
+/// allColumns, else 0 to 29. The paint of repairs goes. A DESC that ends in digits is numbered with the row.
+/// With renumber MNUM, and PRIM on a P25 page, become the row number. P25 rows get a zone. Ends with no
 /// selection.
 void CopyValuesToSelection(int page, const wxArrayString& values, bool renumber, bool allColumns);
 

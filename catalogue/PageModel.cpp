@@ -108,6 +108,12 @@ void SetGuardRows(OrvZELFrame*, int page, int rows) {
     }
 }
 
+void TakePaintOff(wxGrid* grid, int row, int col) {
+    const wxGridCellAttrPtr own = grid->GetTable()->GetAttrPtr(row, col, wxGridCellAttr::Cell);
+    if (own && own->HasBackgroundColour() && own->GetBackgroundColour() == FailColour)
+        grid->SetCellBackgroundColour(row, col, grid->GetCellBackgroundColour(0, 0));
+}
+
 void ClearRowData(int row, bool releaseZone) {
     wxGrid* grid = CurrentGrid();
     if (releaseZone) {
@@ -117,6 +123,7 @@ void ClearRowData(int row, bool releaseZone) {
     }
     for (int col = 0; col < ColumnTotal; ++col) {
         grid->SetCellValue(row, col, "");
+        TakePaintOff(grid, row, col);
         // The mark on SHAD stays: no one types into that column, whatever the row is.
         if (col != SHAD && grid->IsReadOnly(row, col))
             grid->SetReadOnly(row, col, false);

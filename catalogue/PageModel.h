@@ -99,7 +99,12 @@ bool IsGuardRow(int row);
 /// Sets GD1 and GD2 for a page of that many rows: -1 without guard rows.
 void SetGuardRows(OrvZELFrame* frame, int page, int rows);
 
-/// Empties a row of the current page and makes its read-only cells writable, SHAD excepted.
+/// Takes the paint of a repair (FailColour) off a cell, which gets the background of cell (0, 0). Other paint
+/// stays.
+void TakePaintOff(wxGrid* grid, int row, int col);
+
+/// Empties a row of the current page, takes the paint of repairs off it and makes its read-only cells
+/// writable, SHAD excepted.
 /// With releaseZone the zone of the row that MNUM names is given back; a row without a number
 /// in 1 to Rows gives nothing back.
 void ClearRowData(int row, bool releaseZone);

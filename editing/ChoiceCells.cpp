@@ -55,7 +55,7 @@ void ZelkChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
     if (col == MODE)
         SetSquelchChoices(grid, row, m_value, true);
     else if (col == RSQL && (m_value == "x" || m_value == "t" || m_value == "c"))
-        grid->SetCellValue(row, TSQL, m_value);
+        WriteChosen(grid, row, TSQL, m_value);
 }
 
 void MDLXBandChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {

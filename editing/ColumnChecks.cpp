@@ -183,6 +183,11 @@ void CheckDesc(wxGrid* grid, int row, const wxString& text) {
 }
 
 void CheckMode(wxGrid* grid, int row, const wxString& text) {
+    // Rows of the module's AM 225-400 band have no mode, and say so.
+    if (CurrentParameters().Type == MDLX && IsText(text, "n/a") && BandOfRow(grid, row) == 6) {
+        grid->SetCellValue(row, MODE, text);
+        return;
+    }
     const auto mode = ModeText(text, CurrentParameters().Type);
     WriteOrRepair(grid, row, MODE, mode.value_or(wxString()), mode.has_value());
 }

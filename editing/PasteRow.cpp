@@ -31,8 +31,10 @@ void ZelkFrame::OnPasteRow(wxCommandEvent&) {
     }
     wxGrid* grid = CurrentGrid();
     // Meant: one row is pasted, whatever is selected, and links that the row had aren't undone.
-    for (int col = 0; col <= SHD6; ++col)
+    for (int col = 0; col <= SHD6; ++col) {
         grid->SetCellValue(ContextRow, col, RowCopyBuffer[static_cast<size_t>(col)]);
+        TakePaintOff(grid, ContextRow, col);
+    }
     CompletePastedRow(grid, ContextRow);
     CheckRow(grid, ContextRow);
 }

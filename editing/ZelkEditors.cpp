@@ -52,9 +52,12 @@ void SetReadOnly(wxGrid* grid, int row, std::initializer_list<int> cols, bool re
         AttrOf(grid, row, col)->SetReadOnly(readOnly);
 }
 
+/// Writes texts that are right as they stand, whatever a check has said of the former ones.
 void SetTexts(wxGrid* grid, int row, std::initializer_list<int> cols, const wxString& text) {
-    for (int col : cols)
+    for (int col : cols) {
         grid->SetCellValue(row, col, text);
+        TakePaintOff(grid, row, col);
+    }
 }
 
 void SetYesNoEditor(wxGrid* grid, int row, int col) {
@@ -214,7 +217,7 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
         SetReadOnly(grid, row, {RTON, TTON}, false);
         for (int col : {RTON, TTON})
             if (bandChanged || GetToneIndex(grid->GetCellValue(row, col)) < 0)
-                grid->SetCellValue(row, col, "OFF");
+                SetTexts(grid, row, {col}, "OFF");
         SetToneEditors(grid, row);
         return;
     }
@@ -260,7 +263,7 @@ void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDe
                                             Choices<TxDigitalSquelchRestricted>())
                      : new ZelkChoiceEditor(std::size(TxDigitalSquelch), Choices<TxDigitalSquelch>()));
     if (applyDefault) {
-        grid->SetCellValue(row, RSQL, "m");
-        grid->SetCellValue(row, TSQL, "g");
+        SetTexts(grid, row, {RSQL}, "m");
+        SetTexts(grid, row, {TSQL}, "g");
     }
 }

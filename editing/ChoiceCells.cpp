@@ -63,4 +63,8 @@ void MDLXBandChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
     const int band = GetRowBand(grid, row);
     if (band != GetFreqBand(grid->GetCellValue(row, RFRQ), ANFM))
         ChangeRowBand(grid, row, band);
+    else
+        SetBandEditors(grid, row, band);
+    if (row == 0)
+        FitUnusedRowsToDefaultBand(grid);
 }

@@ -106,6 +106,9 @@ void DefaultColInRow(int row, int col, const wxString& value) {
     // On analog pages a row has a tone or a code, not both.
     if (!CurrentPageIsP25())
         TurnRivalsOff(grid, row, col);
+    if (CurrentParameters().Type == RadioCatalogue::MDLX)
+        // What the band fixes in the row stays so.
+        SetBandEditors(grid, row, GetBandOfEdit(grid, row));
 }
 
 void ZelkFrame::OnDefaultCol(wxCommandEvent&) {

@@ -4,6 +4,7 @@
 #include "editing/MissingCells.h"
 #include "editing/RowCommands.h"
 #include "editing/ZelkEdit.h"
+#include "editing/ZelkEditors.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/msgdlg.h>
@@ -37,4 +38,5 @@ void ZelkFrame::OnPasteRow(wxCommandEvent&) {
     }
     CompletePastedRow(grid, ContextRow);
     CheckRow(grid, ContextRow);
+    FitRowToItsBand(grid, ContextRow);
 }

@@ -55,7 +55,7 @@ void ZelkChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
     if (col == MODE)
         SetSquelchChoices(grid, row, m_value, true);
     else if (col == RSQL && (m_value == "x" || m_value == "t" || m_value == "c"))
-        grid->SetCellValue(row, TSQL, m_value);
+        WriteChosen(grid, row, TSQL, m_value);
 }
 
 void MDLXBandChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
@@ -63,4 +63,8 @@ void MDLXBandChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
     const int band = GetRowBand(grid, row);
     if (band != GetFreqBand(grid->GetCellValue(row, RFRQ), ANFM))
         ChangeRowBand(grid, row, band);
+    else
+        SetBandEditors(grid, row, band);
+    if (row == 0)
+        FitUnusedRowsToDefaultBand(grid);
 }

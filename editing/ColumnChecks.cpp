@@ -11,8 +11,6 @@
 #include "editing/ZelkEditors.h"
 #include "frame/Messages.h"
 
-#include <limits>
-
 #include <wx/grid.h>
 
 using namespace RadioCatalogue;
@@ -66,15 +64,13 @@ template <class FindDuplicate>
 int CheckNumber(wxGrid* grid, int row, wxString& text, FindDuplicate findDuplicate) {
     int result = CheckGood;
     if (!text.empty()) {
-        const int rows = CurrentParameters().Rows;
         const int number = ReadDecimal(text);
-        // The least number stands for all below what 32 bits hold.
-        const bool outOfRange = number > rows || number == std::numeric_limits<int>::min();
+        const bool outOfRange = IsNumberOutOfRange(number);
         text = outOfRange ? wxString() : NumberText(number);
         if (outOfRange)
             ReplacedCells::Note(row, MNUM);
         const int other = findDuplicate(number);
-        if (other <= rows) {
+        if (other <= CurrentParameters().Rows) {
             DisplayError(ResultNumberUsed, other);
             text.clear();
             ReplacedCells::Note(row, MNUM);
@@ -187,6 +183,11 @@ void CheckDesc(wxGrid* grid, int row, const wxString& text) {
 }
 
 void CheckMode(wxGrid* grid, int row, const wxString& text) {
+    // Rows of the module's AM 225-400 band have no mode, and say so.
+    if (CurrentParameters().Type == MDLX && IsText(text, "n/a") && BandOfRow(grid, row) == 6) {
+        grid->SetCellValue(row, MODE, text);
+        return;
+    }
     const auto mode = ModeText(text, CurrentParameters().Type);
     WriteOrRepair(grid, row, MODE, mode.value_or(wxString()), mode.has_value());
 }

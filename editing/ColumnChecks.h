@@ -50,7 +50,8 @@ void CheckZone(wxGrid* grid, int row, wxString text);
 /// Description as DescriptionText gives it.
 void CheckDesc(wxGrid* grid, int row, const wxString& text);
 
-/// Mode letter in the page's case; any other text is painted.
+/// Mode letter in the page's case; any other text is painted. On an MDLX page "n/a" stands in a row of band
+/// 6, where no mode can be chosen.
 void CheckMode(wxGrid* grid, int row, const wxString& text);
 
 /// RFRQ or TFRQ: a frequency within the page's band, on an MDLX page within the row's; any other

@@ -27,12 +27,18 @@ void DealZoneAfresh(wxGrid* grid, int row) {
     SetScanLock(grid, row);
 }
 
+/// Writes what the user has asked for; the cell is no repaired one any more.
+void WriteDefault(wxGrid* grid, int row, int col, const wxString& value) {
+    grid->SetCellValue(row, col, value);
+    TakePaintOff(grid, row, col);
+}
+
 /// Puts a row of a module page on the default row's band, if it has another one.
 void TakeDefaultBand(wxGrid* grid, int row, const wxString& value) {
     const int band = GetRowBand(grid, 0);
     if (GetRowBand(grid, row) == band)
         return;
-    grid->SetCellValue(row, BAND, value);
+    WriteDefault(grid, row, BAND, value);
     ChangeRowBand(grid, row, band);
 }
 
@@ -94,14 +100,17 @@ void DefaultColInRow(int row, int col, const wxString& value) {
         TakeDefaultBand(grid, row, value);
         return;
     }
-    grid->SetCellValue(row, col, value);
+    WriteDefault(grid, row, col, value);
     if (col == RFRQ)
-        grid->SetCellValue(row, TFRQ, value);
+        WriteDefault(grid, row, TFRQ, value);
     else if (col >= RTON && col <= RNAC)
-        grid->SetCellValue(row, col + TransmitDistance, value);
+        WriteDefault(grid, row, col + TransmitDistance, value);
     // On analog pages a row has a tone or a code, not both.
     if (!CurrentPageIsP25())
         TurnRivalsOff(grid, row, col);
+    if (CurrentParameters().Type == RadioCatalogue::MDLX)
+        // What the band fixes in the row stays so.
+        SetBandEditors(grid, row, GetBandOfEdit(grid, row));
 }
 
 void ZelkFrame::OnDefaultCol(wxCommandEvent&) {

@@ -1,6 +1,7 @@
 #include "editing/DigitalSquelchCell.h"
 
 #include "catalogue/MemoryRow.h"
+#include "catalogue/PageModel.h"
 
 #include <wx/textctrl.h>
 
@@ -56,9 +57,10 @@ std::optional<wxString> DigitalSquelchEditor::Finish(const wxString& typed) cons
 
 void DigitalSquelchEditor::ApplyEdit(int row, int col, wxGrid* grid) {
     grid->SetCellValue(row, col, m_held);
-    if (col == RTGP)
-        grid->SetCellValue(row, TTGP, m_held);
-    if (col == RNAC)
-        grid->SetCellValue(row, TNAC, m_held);
+    if (col == RTGP || col == RNAC) {
+        const int twin = col == RTGP ? TTGP : TNAC;
+        grid->SetCellValue(row, twin, m_held);
+        TakePaintOff(grid, row, twin);
+    }
     m_held.clear();
 }

@@ -28,6 +28,14 @@ int GetRowBand(const wxGrid* grid, int row) {
     return std::max(RadioCatalogue::FindBand(grid->GetCellValue(row, BAND)), 0);
 }
 
+bool IsFilledByEdit(const wxGrid* grid, int row) {
+    return row > 0 && grid->GetCellValue(row, TFLG).empty();
+}
+
+int GetBandOfEdit(const wxGrid* grid, int row) {
+    return GetRowBand(grid, IsFilledByEdit(grid, row) ? 0 : row);
+}
+
 FrequencyValidator::FrequencyValidator(wxString* value, int row, int band, int step)
     : TextCellValidator(value), m_band(band), m_step(step) {
     if (CurrentParameters().Type == RadioCatalogue::MDLX)
@@ -66,8 +74,24 @@ bool FrequencyValidator::IsGoodPaste(const wxString& clipboard) const {
 }
 
 FrequencyEditor::FrequencyEditor(int row, int band, int step)
-    : FinishedTextEditor(FrequencyWidth(band, step)), m_rules(&m_held, row, band, step) {
+    : FinishedTextEditor(FrequencyWidth(band, step)), m_rules(&m_held, row, band, step),
+      m_width(FrequencyWidth(band, step)) {
     SetValidator(m_rules);
+}
+
+void FrequencyEditor::BeginEdit(int row, int col, wxGrid* grid) {
+    if (CurrentParameters().Type == RadioCatalogue::MDLX)
+        TakeBandOfRow(row, grid);
+    FinishedTextEditor::BeginEdit(row, col, grid);
+}
+
+void FrequencyEditor::TakeBandOfRow(int row, const wxGrid* grid) {
+    const int band = GetBandOfEdit(grid, row);
+    const int step = RadioCatalogue::GetChannelStep(CurrentParameters().Radio, band);
+    SetEditorFreqParams(band, step);
+    m_width = FrequencyWidth(band, step);
+    if (auto* control = wxDynamicCast(GetWindow(), wxTextCtrl))
+        control->SetMaxLength(static_cast<unsigned long>(m_width));
 }
 
 void FrequencyEditor::SetEditorFreqParams(int band, int step) {
@@ -82,7 +106,7 @@ bool FrequencyEditor::CanStartWith(wxUniChar character) const {
 
 std::optional<wxString> FrequencyEditor::Finish(const wxString& typed) const {
     wxString text = typed;
-    if (!FormatFreq(text, m_rules.GetBand(), m_rules.GetStep(), static_cast<int>(Width())))
+    if (!FormatFreq(text, m_rules.GetBand(), m_rules.GetStep(), m_width))
         return std::nullopt;
     return text;
 }

@@ -123,7 +123,10 @@ void ZelkFrame::OnDefaultRow(wxCommandEvent&) {
         UndoShadowLinks(ContextRow);
         ClearRowData(ContextRow, true);
     }
+    const std::vector<int> rows = SelectedRows();
     CopyValuesToSelection(CurrentPage, GetRowValues(CurrentPage, 0), true, true);
+    for (int row : rows)
+        FitRowToItsBand(CurrentGrid(), row);
     LockGuardRowsAgain();
 }
 
@@ -148,6 +151,7 @@ void ZelkFrame::OnClearRow(wxCommandEvent&) {
     for (int row : SelectedRows()) {
         UndoShadowLinks(row);
         ClearRowData(row, CurrentPageIsP25());
+        FitRowToItsBand(grid, row);
     }
     LockGuardRowsAgain();
     grid->ClearSelection();

@@ -5,6 +5,7 @@
 #include "catalogue/ZoneSlots.h"
 #include "editing/MemoryNumbers.h"
 #include "editing/ReplacedCells.h"
+#include "editing/ZelkEditors.h"
 #include "frame/Messages.h"
 #include "frame/ZelkMain.h"
 
@@ -65,6 +66,7 @@ constexpr ColumnCheck CheckOfColumn[ColumnTotal] = {
 // clang-format on
 
 void CheckCellsOfRow(wxGrid* grid, int row, MemoryNumberIndex* numbers) {
+    const wxString band = grid->GetCellValue(row, BAND);
     CellToCheck cell{grid, row, 0, {}, {}, numbers};
     for (; cell.column < ColumnTotal; ++cell.column) {
         if (!CheckOfColumn[cell.column])
@@ -74,6 +76,8 @@ void CheckCellsOfRow(wxGrid* grid, int row, MemoryNumberIndex* numbers) {
             cell.squelch = cell.text;
         CheckOfColumn[cell.column](cell);
     }
+    if (grid->GetCellValue(row, BAND) != band)
+        FitRowToItsBand(grid, row);
 }
 
 /// Makes the zone counters of the current page forget its rows, and the rows their slots.

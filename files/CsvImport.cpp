@@ -85,9 +85,10 @@ public:
             TakeNumber();
             break;
         case BAND:
-            // The check leaves a good band as it stands, and the frequencies are checked by it.
-            Write(BAND, text);
-            CheckBand(m_grid, m_row, text);
+            // The check writes no band that can stand. One that can't must not even pass through the default
+            // row, whose band the others are repaired with.
+            if (CheckBand(m_grid, m_row, text) == CheckGood)
+                Write(BAND, text);
             break;
         case SCAN:
             CheckScan(m_grid, m_row, text);

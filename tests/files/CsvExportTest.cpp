@@ -162,8 +162,33 @@ TEST_F(CsvExportCommand, WithoutWholeRowsSelectedSaysSo) {
     }
 }
 
+TEST_F(CsvExportCommand, OfAKdarPageLeavesBlankRowsAndTheDefaultRowOutSoThatNoMemoriesAreInvented) {
+    EmptyPageOf("KDAR");
+    FillRow(2, {{MNUM, "002"}, {DESC, "TOWER"}, {RFRQ, "118.300"}, {TFRQ, "118.300"}, {RONL, "N"}});
+    const char* expected = "KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n"
+                           "2,TOWER,118300,118300,No,No,\n";
+    Choose(IdSelectAll);
+    EXPECT_EQ(expected, Export());
+    Select({0, 1, 2, 3});
+    EXPECT_EQ(expected, Export());
+}
+
+TEST_F(CsvExportCommand, OfAKdarPageWithBlankRowsSelectedOnlySaysThatNothingIs) {
+    EmptyPageOf("KDAR");
+    FillRow(2, {{MNUM, "002"}});
+    for (const auto& rows : {std::initializer_list<int>{0}, {1}, {0, 1, 100}}) {
+        Select(rows);
+        DialogScript script;
+        script.Expect(DialogKind::Message, "Export CSV - Error!")
+            .Message("No data selected!")
+            .Style(wxOK | wxCENTRE | wxICON_ERROR);
+        Choose(IdExport);
+    }
+}
+
 TEST_F(CsvExportCommand, OffersTheRadiosNameAndAsksBeforeItOverwrites) {
     EmptyPageOf("KDAR");
+    FillRow(1, {{MNUM, "001"}});
     Select({1});
     DialogScript script;
     script.Expect(DialogKind::File, "Export CSV file").Answer(wxID_CANCEL).Set([](wxDialog* dialog) {

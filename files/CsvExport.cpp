@@ -65,7 +65,7 @@ wxString AskForExportFile(wxWindow* parent) {
 
 bool CsvExport::OpenCsvWrite(const wxString& path, int type) {
     const int flags = ReadHex(CurrentGrid()->GetCellValue(1, TFLG));
-    if (m_file.IsOpened() || !m_file.Open(path).empty())
+    if (m_file.IsOpened() || m_file.Open(path))
         return false;
     m_text = type == KDAR ? KdarHeadingLines(flags & PurgeFlag) : CsvHeadingLine(type);
     return true;
@@ -103,7 +103,7 @@ void CsvExport::ExportCSV_KDAR(wxGrid* grid, int) {
 }
 
 bool CsvExport::CloseCsv() {
-    return !m_file.IsOpened() || m_file.Finish(InSystemLineEnds(m_text)).empty();
+    return !m_file.IsOpened() || !m_file.Finish(InSystemLineEnds(m_text));
 }
 
 void ZelkFrame::OnExport(wxCommandEvent& event) {

@@ -8,8 +8,8 @@
 #include "files/ChannelFileWriter.h"
 #include "files/WholeFile.h"
 #include "files/XmlFile.h"
-#include "frame/PageLifecycle.h"
 #include "frame/Messages.h"
+#include "frame/PageLifecycle.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/filedlg.h>
@@ -78,7 +78,11 @@ wxString WriteDocument(const wxXmlDocument& document, const wxString& path) {
     if (!document.Save(bytes, 2))
         return "the document could not be written";
     const wxStreamBuffer* buffer = bytes.GetOutputStreamBuffer();
-    return WriteWholeFile(path, {static_cast<const char*>(buffer->GetBufferStart()), bytes.GetSize()});
+    FileReplacement file;
+    std::error_code error = file.Open(path);
+    if (!error)
+        error = file.Finish({static_cast<const char*>(buffer->GetBufferStart()), bytes.GetSize()});
+    return error ? wxString::FromUTF8(error.message()) : wxString();
 }
 
 /// Asks for the file of the page. False when the user cancelled.

@@ -1,11 +1,14 @@
 // Exporting as a person does: by menu and file dialog.
 #include "files/CsvExport.h"
 
+#include "tests/files/AsAnyUser.h"
 #include "tests/files/CsvTest.h"
 #include "tests/files/FileSizeLimit.h"
 
 #include <wx/filedlg.h>
 #include <wx/msgdlg.h>
+
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 using testbench::DialogKind;
@@ -248,6 +251,22 @@ TEST_F(CsvExportCommand, ThatEndsOnAFullDiskSaysSoAndLeavesTheFormerFile) {
     const FileSizeLimit full(1000);
     ExportInVain(m_folder / "list.csv");
     EXPECT_EQ("former", testbench::ReadFile(m_folder / "list.csv"));
+    EXPECT_EQ(std::vector<std::string>{"list.csv"}, Entries());
+}
+
+TEST_F(CsvExportCommand, OverwritesAFileThatMayBeWrittenInAFolderThatMayNot) {
+    EmptyPageOf("O12");
+    Select({1});
+    testbench::WriteFile(m_folder / "list.csv", std::string(10000, 'x'));
+    ASSERT_EQ(0, chmod((m_folder / "list.csv").c_str(), 0666));
+    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0555));
+    std::string bytes;
+    {
+        const AsAnyUser user;
+        bytes = Export();
+    }
+    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0755));
+    EXPECT_EQ("MNUM,RFRQ,\n,,\n", bytes);
     EXPECT_EQ(std::vector<std::string>{"list.csv"}, Entries());
 }
 

@@ -42,6 +42,8 @@ struct PageStringRecord {
     wxString RadioName;
     wxString BandName;
     wxString TypeName;
+    /// Full paths of the channel files that the page has opened or saved.
+    wxArrayString OwnFiles = {};
 };
 
 /// The one main window, from start-up on.

@@ -111,17 +111,18 @@ int CheckShad(wxGrid* grid, int row, const wxString& text) {
     return good ? CheckGood : CheckBadValue;
 }
 
-void CheckBand(wxGrid* grid, int row, const wxString& text) {
+int CheckBand(wxGrid* grid, int row, const wxString& text) {
     const PageParameterRecord& page = CurrentParameters();
     if (page.Type != MDLX) {
         grid->SetCellValue(row, BAND, wxString());
-        return;
+        return CheckNotApplicable;
     }
     const int band = FindBand(text);
-    // Meant: a band that can stand is not written, the cell keeps what it holds.
+    // Intentional: a band that can stand is not written, the cell keeps what it holds.
     if (band >= 0 && (page.Band == 9 || band == 0 || band == 2 || band == 6))
-        return;
+        return CheckGood;
     Repair(grid, row, BAND);
+    return CheckBadValue;
 }
 
 void CheckScan(wxGrid* grid, int row, const wxString& text) {

@@ -63,7 +63,7 @@ void BeginShadowPass(TRecordDialogue& dialogue) {
 void CompleteWrite(TRecordContext& context) {
     context.Status = TransferComplete;
     if (!context.StampTold.empty())
-        RadioStamp = context.StampTold;
+        RadioStamp = HeldByRadio.stamp = context.StampTold;
 }
 
 /// In a write: shows how far it is and goes from the primaries to the shadows, or to the end.

@@ -105,6 +105,8 @@ void TakeLineInWrite(TRecordContext& context) {
         context.StampTold = context.RxLine.Mid(MessageTextAt, 14);
         if (RadioStamp.empty() || context.StampTold != RadioStamp)
             context.XferFlags |= OtherRadio;
+        if (HeldByRadio.stamp != RadioStamp)
+            HeldByRadio = {};
         context.Phase = LineDone;
     } else if (context.RxLine == EndRecord) {
         context.Phase = LineFailed;
@@ -121,6 +123,8 @@ void TakeEnd(TRecordDialogue& dialogue) {
         return;
     }
     context.Status = TransferComplete;
+    if (dialogue.mode == ReadChannelsMode)
+        KeepContentOfRead(dialogue);
     if (dialogue.mode == ReadDebugLogMode && context.DebugLogFile.IsOpened())
         EndDebugLog(context);
 }

@@ -3,11 +3,13 @@
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "transfer/RadioIdentity.h"
 #include "transfer/TRecordCodec.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TRecordDriver.h"
 #include "transfer/TRecordFields.h"
 
+#include <algorithm>
 #include <wx/grid.h>
 
 namespace {
@@ -151,7 +153,28 @@ void ChooseErasure(TRecordDialogue& dialogue, int row, int flags) {
     dialogue.Offer(line);
 }
 
+bool SelectionLeavesOutRows(const TRecordDialogue& dialogue) {
+    for (int row = 1; row < dialogue.rowCount; ++row)
+        if (RowHasData(row) && !dialogue.grid->IsInSelection(row, GuardSelectionColumn))
+            return true;
+    return false;
+}
+
+/// True for a row that goes out again behind a purge, and for one that the user wants erased.
+bool SurvivesPurge(const TRecordDialogue& dialogue, int row) {
+    if (!IsMemory(dialogue, row))
+        return false;
+    const int flags = Flags(dialogue, row, TFLG);
+    const bool goesOut = dialogue.grid->IsInSelection(row, GuardSelectionColumn) ||
+                         dialogue.markedRows.count(row) != 0 || (flags & InRadioFlag);
+    return (flags & EraseFlag) || ((flags & DEF) && goesOut);
+}
+
 } // namespace
+
+bool PurgeIsNeeded(const TRecordDialogue& dialogue) {
+    return dialogue.Needs(RadioPurged | NeedsShadowPass | HasMarkedRow | OtherRadio);
+}
 
 std::uint32_t CheckForInvalidOpModes(TRecordContext&, int row, std::uint32_t radioModes) {
     const wxString mode = CurrentGrid()->GetCellValue(row, MODE);
@@ -193,15 +216,27 @@ void TakeRowAck(TRecordDialogue& dialogue) {
     if (!IsMemory(dialogue, row))
         return;
     context.RowsSent.insert(row);
-    if (context.TxLine.StartsWith("T1"))
+    if (context.TxLine.StartsWith("T1")) {
         SetTFlag(dialogue.grid, row, InRadioFlag);
-    else
+        HeldByRadio.rows.insert(row);
+    } else {
         ClearTFlag(dialogue, row, InRadioFlag);
+        HeldByRadio.rows.erase(row);
+    }
 }
 
-bool SelectionLeavesOutRows(const TRecordDialogue& dialogue) {
+bool PurgeMayCostMemories(const TRecordDialogue& dialogue) {
+    if (dialogue.Needs(OtherRadio))
+        return SelectionLeavesOutRows(dialogue);
+    if (HeldByRadio.stamp != RadioStamp || !PurgeIsNeeded(dialogue))
+        return false;
+    return HeldByRadio.readBrokeOff || !std::all_of(HeldByRadio.rows.begin(), HeldByRadio.rows.end(),
+                                                     [&](int row) { return SurvivesPurge(dialogue, row); });
+}
+
+void KeepContentOfRead(const TRecordDialogue& dialogue) {
+    HeldByRadio = {RadioStamp, {}, false};
     for (int row = 1; row < dialogue.rowCount; ++row)
-        if (RowHasData(row) && !dialogue.grid->IsInSelection(row, GuardSelectionColumn))
-            return true;
-    return false;
+        if (Flags(dialogue, row, TFLG) & InRadioFlag)
+            HeldByRadio.rows.insert(row);
 }

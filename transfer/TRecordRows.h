@@ -16,5 +16,13 @@ void ChooseRowLine(TRecordDialogue& dialogue);
 /// memory row that was sent, clears it in one that was erased, and keeps the row in context.RowsSent.
 void TakeRowAck(TRecordDialogue& dialogue);
 
-/// Whether any memory row of the page, guards included, has data and isn't selected.
-bool SelectionLeavesOutRows(const TRecordDialogue& dialogue);
+/// Whether a write has to erase all memories of the radio before it sends any.
+bool PurgeIsNeeded(const TRecordDialogue& dialogue);
+
+/// Whether the purge that a write needs may cost memories. Of a radio that isn't the known one: a memory row
+/// of the page, guards included, has data and isn't selected. Of the known one: it holds memories that don't
+/// go out again, or its read broke off.
+bool PurgeMayCostMemories(const TRecordDialogue& dialogue);
+
+/// Takes over at the end of a read that the radio holds the rows with InRadioFlag and no others.
+void KeepContentOfRead(const TRecordDialogue& dialogue);

@@ -37,10 +37,12 @@ bool UserAcceptsModes(const TRecordContext& context) {
                         context.Progress) == wxYES;
 }
 
-bool UserAcceptsPurge(const TRecordContext& context) {
-    wxMessageDialog question(context.Progress,
-                             "This radio's memories were not read by this program.\n"
-                             "All of them will be erased before the selected rows are sent!",
+bool UserAcceptsPurge(const TRecordDialogue& dialogue) {
+    const wxString reason = dialogue.Needs(OtherRadio)
+                                ? "This radio's memories were not read by this program.\n"
+                                : "This radio holds memories that this page doesn't.\n";
+    wxMessageDialog question(dialogue.context.Progress,
+                             reason + "All of them will be erased before the selected rows are sent!",
                              "Purge radio?", wxOK | wxCANCEL);
     return question.ShowModal() == wxID_OK;
 }
@@ -61,13 +63,14 @@ void OfferStamp(TRecordDialogue& dialogue) {
     if (dialogue.mode == WriteChannelsMode)
         return dialogue.Offer(MSG_RID);
     RadioStamp = MakeRadioStamp();
+    HeldByRadio = {RadioStamp, {}, dialogue.mode == ReadChannelsMode};
     dialogue.Offer(MSG_SID + RadioStamp);
 }
 
 /// Asks before anything is changed in a radio that may hold what the page doesn't.
 bool PurgeIsRefused(TRecordDialogue& dialogue) {
-    return dialogue.mode == WriteChannelsMode && dialogue.Needs(OtherRadio) &&
-           SelectionLeavesOutRows(dialogue) && !UserAcceptsPurge(dialogue.context);
+    return dialogue.mode == WriteChannelsMode && PurgeMayCostMemories(dialogue) &&
+           !UserAcceptsPurge(dialogue);
 }
 
 void OfferOpening(TRecordDialogue& dialogue) {
@@ -92,8 +95,7 @@ void OfferOpening(TRecordDialogue& dialogue) {
 }
 
 void OfferPurge(TRecordDialogue& dialogue) {
-    if (dialogue.mode != WriteChannelsMode ||
-        !dialogue.Needs(RadioPurged | NeedsShadowPass | HasMarkedRow | OtherRadio))
+    if (dialogue.mode != WriteChannelsMode || !PurgeIsNeeded(dialogue))
         return;
     dialogue.context.StatusText = "Purging Radio....";
     WriteTransferLog(dialogue.context.LogFile, dialogue.context.StatusText);
@@ -102,6 +104,7 @@ void OfferPurge(TRecordDialogue& dialogue) {
     dialogue.context.XferFlags |= RadioPurged | NeedsShadowPass;
     // If the write fails now, the next one has to purge and restore the radio again.
     RadioStamp.clear();
+    HeldByRadio = {};
 }
 
 const char* DataStatus(int mode) {

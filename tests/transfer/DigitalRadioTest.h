@@ -36,6 +36,7 @@ protected:
         TRecordDriverTest::SetUp();
         // As if this radio had been read last.
         RadioStamp = RadiosStamp;
+        HeldByRadio = {};
         OpModes[0] = 0x70;
     }
 
@@ -55,10 +56,11 @@ protected:
     }
 
     /// A write that asks first whether the radio may be purged.
-    static void SendAsked(RadioUnderTest& radio, const Ending& ending, int answer = wxID_OK) {
+    static void SendAsked(RadioUnderTest& radio, const Ending& ending, int answer = wxID_OK,
+                          const std::string& reason = UnknownRadio) {
         PortName = radio.PortName();
         testbench::DialogScript script;
-        ExpectPurgeQuestion(script, answer);
+        ExpectPurgeQuestion(script, answer, reason);
         if (ending.driverBox)
             ExpectDriverBox(script, ending.driverBox);
         ExpectBox(script, "Write to Radio Status", ending.status);

@@ -185,3 +185,34 @@ TEST_F(RadioContent, OfAnErasedRowIsNotSentAgain) {
     Send(radio, Complete);
     EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 3, 20}));
 }
+
+TEST_F(RadioContent, ThatThePageHoldsNoLongerIsErasedOnlyAfterAQuestionByDeparture) {
+    RadioUnderTest radio("KDRV-716B");
+    Share(radio); // memories 1 to 3, read
+    ClearRowData(2, true);
+    MakeShadow(20, "001");
+    Select({20});
+    SendAsked(radio, {"Cancelled by User"}, wxID_CANCEL, LargerRadio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2, 3})) << "Cancel leaves the radio as it is";
+    SendAsked(radio, Complete, wxID_OK, LargerRadio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 3, 20}));
+    FillP25Row(4);
+    Select({4});
+    Send(radio, Complete);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 3, 4, 20})) << "page and radio agree again";
+}
+
+TEST_F(RadioContent, ThatAReadBrokeOffBeforeIsErasedOnlyAfterAQuestionByDeparture) {
+    RadioUnderTest radio("KDRV-716B", {"--fault", "checksum-always@2/3"});
+    Share(radio); // the radio's first two transfers
+    Read(radio, {"Checksum Error", "Checksum Error on channel 1"});
+    ASSERT_LT(FilledRows(), 3);
+    MakeShadow(20, "001");
+    Select({20});
+    SendAsked(radio, {"Cancelled by User"}, wxID_CANCEL, LargerRadio);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2, 3}));
+    FillP25Row(4);
+    Select({4});
+    Send(radio, Complete);
+    EXPECT_EQ(Addresses(radio), (std::vector<int>{1, 2, 3, 4})) << "a plain row purges nothing";
+}

@@ -66,6 +66,7 @@ protected:
         UsePage(Kdrv716B);
         m_context.ReplyTimeout = 3000;
         RadioStamp = KnownStamp;
+        HeldByRadio = {};
         RadioVersion = "";
         RadioSerial = "";
     }
@@ -152,14 +153,16 @@ protected:
         return DoTransferData(m_context, CurrentGrid(), mode);
     }
 
-    /// Expects the question before a radio of unknown content is emptied.
+    static constexpr const char* UnknownRadio = "This radio's memories were not read by this program.\n";
+    static constexpr const char* LargerRadio = "This radio holds memories that this page doesn't.\n";
+
+    /// Expects the question before a radio is emptied that holds, by reason, what the page doesn't.
     static testbench::ExpectedDialog& ExpectPurgeQuestion(testbench::DialogScript& script,
-                                                          int answer = wxID_OK) {
+                                                          int answer = wxID_OK,
+                                                          const std::string& reason = UnknownRadio) {
         return script
             .ExpectMessage("Purge radio?",
-                           "This radio's memories were not read by this program.\n"
-                           "All of them will be erased before the selected rows are sent!",
-                           answer)
+                           reason + "All of them will be erased before the selected rows are sent!", answer)
             .Style(wxOK | wxCANCEL);
     }
 

@@ -34,6 +34,8 @@ inline const std::vector<ProgramText> ProgramTexts = {
      "    Analog Wideband\n    Analog Narrowband\n    P25 Conventional\n"
      "\nThe radio will not transmit in disabled modes (affected memories become receive only).\n"
      "\nDo you wish to continue the transfer?", true},
+    {"Purge radio?", "This radio's memories were not read by this program.\n"
+                     "All of them will be erased before the selected rows are sent!"},
 
     // Pages and rows
     {"Validate Page", "Validate row data"},
@@ -154,6 +156,9 @@ inline const std::vector<ProgramText> ProgramTexts = {
 
     // Status bar, title, dialogs
     {"", "Select function"},
+    {"", "%d of %d selected rows sent"},
+    {"", "%d selected row was not sent: %s"},
+    {"", "%d selected rows were not sent: %s"},
     {"", "%d Rows"},
     {"", "Orv Zelk: Page %d of %d."},
     {"", "<-- Select Target Radio -->"},

@@ -284,7 +284,9 @@ private:
         SelectSome();
         PlanTrouble(known);
         const bool agrees = !Once(4);
-        const bool asks = Text(RadioStamp) != known.radio.Stamp() && LeavesOutRows();
+        const bool isKnown = Text(RadioStamp) == known.radio.Stamp();
+        const bool asks = !isKnown && LeavesOutRows();
+        const bool needsPurge = !isKnown || ShadowIsSelected();
         const auto before = known.radio.Memories();
         const int purges = known.radio.Purges();
         const Ending ending = Transfer(known, WriteChannelsMode, agrees);
@@ -299,7 +301,22 @@ private:
             ++m_tally.refusals;
             EXPECT_EQ(known.radio.Memories(), before) << "Cancel must leave the radio as it is";
         }
-        TakeOver(known, ending, known.radio.Purges() > purges);
+        const bool purged = known.radio.Purges() > purges;
+        EXPECT_EQ(purged, needsPurge && gotThatFar && (agrees || !asks));
+        if (ending.status == TransferComplete) {
+            EXPECT_EQ(Text(RadioStamp), known.radio.Stamp()) << "the next write would purge again";
+        } else if (purged) {
+            EXPECT_EQ(Text(RadioStamp), "") << "the next write would not purge again";
+        }
+        TakeOver(known, ending, purged);
+    }
+
+    bool ShadowIsSelected() const {
+        for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
+            if (RowHasData(row) && CurrentGrid()->IsInSelection(row, 0) &&
+                (ReadHex(Cell(row, MFLG)) & 0x07) != 0)
+                return true;
+        return false;
     }
 
     /// What the radio must hold from now on.

@@ -44,7 +44,10 @@ void TurnRivalsOff(wxGrid* grid, int row, int col) {
 }
 
 void ZelkChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
+    const bool ownText = IsOwnText(row, col, grid);
     WriteChosen(grid, row, col, m_value);
+    if (ownText)
+        return;
     if (col == RTON || col == RCOD)
         WriteChosen(grid, row, col + TransmitOffset, m_value);
     const int type = CurrentParameters().Type;
@@ -59,6 +62,8 @@ void ZelkChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
 }
 
 void MDLXBandChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
+    if (IsOwnText(row, col, grid))
+        return;
     grid->SetCellValue(row, col, m_value);
     const int band = GetRowBand(grid, row);
     if (band != GetFreqBand(grid->GetCellValue(row, RFRQ), ANFM))

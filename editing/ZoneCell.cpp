@@ -21,9 +21,8 @@ bool TakeZone(int row, int zone) {
     return row == 0 ? zone != wxNOT_FOUND : TakeP25ZonePosition(zone);
 }
 
-void ReleaseZone(int row, const wxString& name) {
-    if (row != 0)
-        ReleaseP25ZonePosition(FindZone(name));
+bool ReleaseZone(int row, const wxString& name) {
+    return row != 0 && ReleaseP25ZonePosition(FindZone(name));
 }
 
 } // namespace
@@ -31,9 +30,9 @@ void ReleaseZone(int row, const wxString& name) {
 void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
     // The last zone of a first generation radio belongs to its guard rows.
     const int limit = CurrentParameters().Type == RP25 ? 14 : UnscannedZone;
-    // Meant: an edit that is given up leaves the row without its slot until the slots are counted anew.
+    // The row holds no slot while the edit runs, so that its own zone is offered when that is full.
     m_startZone = grid->GetCellValue(row, ZONE);
-    ReleaseZone(row, m_startZone);
+    m_slotReleased = ReleaseZone(row, m_startZone);
 
     const bool scanned = grid->GetCellValue(row, SCAN) == "Y";
     // A memory's own zone has room now; the default row's may be full and is offered all the same.
@@ -57,14 +56,12 @@ void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
     ListChoiceEditor::BeginEdit(row, col, grid);
 }
 
-bool P25ZoneEditor::EndEdit(int, int, const wxGrid*, const wxString&, wxString* newval) {
-    if (IsGivenUp())
-        return false;
-    // Also a choice of the same zone counts: its slot was given back when the edit began.
-    m_value = Combo()->GetValue();
-    if (newval)
-        *newval = m_value;
-    return true;
+bool P25ZoneEditor::EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) {
+    if (ListChoiceEditor::EndEdit(row, col, grid, oldval, newval))
+        return true;
+    if (m_slotReleased)
+        TakeZone(row, FindZone(m_startZone));
+    return false;
 }
 
 void P25ZoneEditor::ApplyEdit(int row, int, wxGrid* grid) {

@@ -47,6 +47,7 @@ inline const std::vector<ProgramText> ProgramTexts = {
     {"", "Error Bad Band Config"},
     {"", "Number already used at row: %03d"},
     {"", "%d Duplicate memory number(s) found."},
+    {"Error", "Memory number must be from 0 to %d."},
     {"ERROR", "Chan number cannot be empty!"},
     {"Validation conflict", "'%s' has been validated"},
     {"Validation conflict", "'%s' contains invalid character(s)"},

@@ -48,7 +48,15 @@ int SelectedColumn(wxGrid* grid) {
     int col = MFLG;
     while (col < TIDC && !grid->IsInSelection(1, col))
         ++col;
-    return col;
+    return col == TIDC && grid->IsInSelection(1, RONL) ? static_cast<int>(RONL) : col;
+}
+
+/// A new mode brings a P25 row its squelches, as a choice in the cell does. One that the row has leaves them.
+void TakeDefaultMode(wxGrid* grid, int row, const wxString& value) {
+    const bool changes = grid->GetCellValue(row, MODE) != value;
+    WriteDefault(grid, row, MODE, value);
+    if (changes)
+        SetSquelchChoices(grid, row, value, true);
 }
 
 /// Writes the default of the selected column into the memory rows for which applies(row) holds.
@@ -98,6 +106,10 @@ void DefaultColInRow(int row, int col, const wxString& value) {
     }
     if (CurrentParameters().Type == RadioCatalogue::MDLX && col == BAND) {
         TakeDefaultBand(grid, row, value);
+        return;
+    }
+    if (CurrentPageIsP25() && col == MODE) {
+        TakeDefaultMode(grid, row, value);
         return;
     }
     WriteDefault(grid, row, col, value);

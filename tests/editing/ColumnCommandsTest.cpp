@@ -3,6 +3,7 @@
 #include "editing/CellTextRenderer.h"
 #include "editing/RowLooks.h"
 
+#include "editing/ZelkEdit.h"
 #include "tests/editing/CommandTest.h"
 
 namespace {
@@ -484,4 +485,58 @@ TEST_F(MissingClipboard, IsToldInABoxEach) {
     dialogs.ExpectMessage("Paste", "Paste contents of clipboard.\n\nNot implemented yet.");
     TellCopyIsMissing();
     TellPasteIsMissing();
+}
+
+TEST_F(DefaultColumn, ForReceiveOnlySetsThatColumnAndNoHiddenOne) {
+    testbench::ShowAndFocus(*MainFrame);
+    Retarget(Kdar2000, 0);
+    Fill({2, 3});
+    for (int row : {2, 3}) {
+        SetCell(row, RONL, "Y");
+        SetCell(row, TIDC, "kept");
+    }
+    testbench::DialogScript dialogs;
+    ExpectQuestion(dialogs, DefaultCol);
+    ClickColumnCommand(RONL, DefaultCol);
+    EXPECT_EQ(Column(RONL, {2, 3, 4}), (Texts{"N", "N", ""}));
+    EXPECT_EQ(Column(TIDC, {2, 3}), (Texts{"kept", "kept"}));
+}
+
+TEST_F(DefaultMarkedRows, ForReceiveOnlySetThatColumn) {
+    Retarget(Kdar2000, 0);
+    Fill({2, 3});
+    SetCell(2, RONL, "Y");
+    SetCell(3, RONL, "Y");
+    SelectRows({3});
+    Run(MarkRow);
+    RunOnColumn(DefaultMarked, RONL);
+    EXPECT_EQ(Column(RONL, {2, 3}), (Texts{"Y", "N"}));
+}
+
+TEST_F(DefaultColumn, OfTheModeBringsP25RowsTheSquelchesOfTheNewMode) {
+    Retarget(Kdrv716, 0);
+    Fill({2, 3, 4});
+    SetCell(2, MODE, "D");
+    SetCell(2, RSQL, "m");
+    SetCell(2, TSQL, "g");
+    SetCell(3, MODE, "w");
+    SetCell(3, RSQL, "t");
+    SetCell(3, TSQL, "t");
+    SetCell(4, RSQL, "c");
+    SetCell(4, TSQL, "c");
+    RunOnColumn(DefaultCol, MODE);
+    EXPECT_EQ(Column(MODE, {2, 3, 4}), (Texts{"n", "n", "n"}));
+    EXPECT_EQ(Column(RSQL, {2, 3, 4}), (Texts{"x", "x", "c"}))
+        << "a row that has the mode keeps its squelches";
+    EXPECT_EQ(Column(TSQL, {2, 3, 4}), (Texts{"x", "x", "c"}));
+    SetCell(0, MODE, "D");
+    RunOnColumn(DefaultCol, MODE);
+    EXPECT_EQ(Column(RSQL, {2, 3, 4}), (Texts{"m", "m", "m"}));
+    EXPECT_EQ(Column(TSQL, {2, 3, 4}), (Texts{"g", "g", "g"}));
+    for (int row : {2, 3, 4}) {
+        const testbench::DialogScript none;
+        CheckRow(CurrentGrid(), row);
+        EXPECT_EQ(Column(RSQL, {row}), Texts{"m"}) << "nothing to repair";
+        EXPECT_EQ(Paint(row, RSQL), Plain());
+    }
 }

@@ -470,3 +470,17 @@ TEST_F(ChangingTheTarget, TellsOfMemoriesThatFindNoRow) {
     EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(),
               "2 rows found no place in the smaller page; 1 cell was replaced: row 102 Chan");
 }
+
+// A departure: on the default row's band the frequencies could not stand.
+TEST_F(ChangingTheTarget, ToTheModulePutsRowsOnTheBandOfTheirFrequency_Departure) {
+    OpenExample("krv-620-milair");
+    const wxString frequency = Cell(1, RFRQ);
+    ChangeTarget(Kdrv4xxx, 5);
+    EXPECT_EQ(Cell(1, BAND), "AM 225-400");
+    EXPECT_TRUE(IsPainted(1, BAND));
+    EXPECT_EQ(Cell(1, RFRQ), frequency);
+    EXPECT_EQ(Cell(1, MODE), "n/a");
+    EXPECT_FALSE(IsPainted(1, MODE));
+    EXPECT_TRUE(IsLocked(1, {MODE, RCOD, TCOD}));
+    EXPECT_EQ(MemoriesSaved(), 3);
+}

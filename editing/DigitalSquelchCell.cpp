@@ -9,15 +9,18 @@ wxIMPLEMENT_DYNAMIC_CLASS(DigitalSquelchValidator, wxValidator);
 
 wxBEGIN_EVENT_TABLE(DigitalSquelchValidator, wxValidator) EVT_CHAR(DigitalSquelchValidator::OnChar)
     EVT_TEXT_PASTE(wxID_ANY, DigitalSquelchValidator::OnPaste)
-        EVT_TEXT(wxID_ANY, DigitalSquelchValidator::OnText) wxEND_EVENT_TABLE()
+        EVT_TEXT(wxID_ANY, DigitalSquelchValidator::OnText)
+            EVT_TEXT_MAXLEN(wxID_ANY, DigitalSquelchValidator::OnTooLong) wxEND_EVENT_TABLE()
 
-            bool DigitalSquelchValidator::TransferToWindow() {
+                bool DigitalSquelchValidator::TransferToWindow() {
     if (!m_value)
         return true;
     wxTextCtrl* control = Control();
     if (!control)
         return false;
+    BeginOwnChange();
     control->SetValue(*m_value);
+    EndOwnChange();
     return true;
 }
 
@@ -39,11 +42,6 @@ void DigitalSquelchValidator::SetRange(int min, int max) {
 bool DigitalSquelchValidator::IsValidChar(wxUniChar character) const {
     const auto code = character.GetValue();
     return (code >= '0' && code <= '9') || (code >= 'A' && code <= 'F') || (code >= 'a' && code <= 'f');
-}
-
-void DigitalSquelchValidator::OnText(wxCommandEvent& event) {
-    MakeUpperCase();
-    event.Skip(true);
 }
 
 DigitalSquelchEditor::DigitalSquelchEditor(int maxChars, int min, int max)

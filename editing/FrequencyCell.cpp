@@ -12,9 +12,10 @@
 wxIMPLEMENT_DYNAMIC_CLASS(FrequencyValidator, wxValidator);
 
 wxBEGIN_EVENT_TABLE(FrequencyValidator, wxValidator) EVT_CHAR(FrequencyValidator::OnChar)
-    EVT_TEXT_PASTE(wxID_ANY, FrequencyValidator::OnPaste) wxEND_EVENT_TABLE()
+    EVT_TEXT_PASTE(wxID_ANY, FrequencyValidator::OnPaste) EVT_TEXT(wxID_ANY, FrequencyValidator::OnText)
+        EVT_TEXT_MAXLEN(wxID_ANY, FrequencyValidator::OnTooLong) wxEND_EVENT_TABLE()
 
-        namespace {
+            namespace {
 
     /// Writes a cell and takes the paint of a repair off it.
     void WriteClean(wxGrid * grid, int row, int col, const wxString& text) {
@@ -62,15 +63,11 @@ bool FrequencyValidator::IsGoodKey(wxUniChar character) const {
     return IsOkFreq(text.Left(caret) + character + text.Mid(caret), m_band, m_step);
 }
 
-bool FrequencyValidator::IsGoodPaste(const wxString& clipboard) const {
-    const wxTextCtrl* control = Control();
-    if (!control)
-        return true;
-    const wxString text = control->GetValue();
-    const long caret = control->GetInsertionPoint();
+bool FrequencyValidator::IsGoodInsertion(const wxString& left, const wxString& inserted,
+                                         const wxString& right) const {
     // Meant: the "c" makes a paste that brings a point fail, and lets one of bare digits pass. What
     // is selected counts although the paste would replace it, and that is meant too.
-    return IsOkFreq(text.Left(caret) + clipboard + "c" + text.Mid(caret), m_band, m_step);
+    return !Control() || IsOkFreq(left + inserted + "c" + right, m_band, m_step);
 }
 
 FrequencyEditor::FrequencyEditor(int row, int band, int step)

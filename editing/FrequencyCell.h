@@ -37,7 +37,8 @@ public:
 
 protected:
     bool IsGoodKey(wxUniChar character) const override;
-    bool IsGoodPaste(const wxString& clipboard) const override;
+    bool IsGoodInsertion(const wxString& left, const wxString& inserted,
+                         const wxString& right) const override;
 
 private:
     int32_t m_band, m_step;

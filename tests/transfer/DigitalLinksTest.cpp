@@ -9,6 +9,7 @@
 #include "tests/transfer/TRecordDriverTest.h"
 
 #include <wx/menu.h>
+#include <wx/notebook.h>
 
 using namespace testbench;
 using namespace transfertest;
@@ -139,6 +140,33 @@ TEST_F(DigitalLinks, OfAnOpenedAndValidatedFileAreThereAfterSendingInTheOldLayou
     UsePage(Kdrv716);
     RadioStamp = "20200101000000";
     ExpectLinksSurvive("kdrv-716-p25.zelk", "KDRV-716", {});
+}
+
+TEST_F(DigitalLinks, ZonesOfTheSecondGenerationReachTheRadioBesideAPageOfTheFirst) {
+    const Texts zones = {"1", "16", "A", "C", "E", "F", "H", "I", "K",
+                         "L", "M",  "N", "P", "T", "U", "V", "W", "X"};
+    std::map<int, std::string> sent;
+    for (const std::string& zone : zones) {
+        const int row = static_cast<int>(sent.size()) + 1;
+        FillP25Row(row, "A0", "00", wxString::Format("%03d", row));
+        SetCell(row, ZONE, zone);
+        sent[row] = zone;
+    }
+    SetPageParameters(MainFrame, 1, Kdrv716, 0);
+    CreateNewPage(MainFrame, 1);
+    MainFrame->m_notebook->SetSelection(0);
+    PumpUntilIdle();
+    ASSERT_EQ(0, CurrentPage);
+    RadioUnderTest radio("KDRV-716B");
+    SendAllAndReadBack(radio);
+    for (const auto& [row, zone] : sent)
+        EXPECT_EQ(zone, CellText(row, ZONE)) << row;
+    const auto records = radio.Records();
+    ASSERT_EQ(sent.size() + 1, records.size()) << "with the default row";
+    const Texts words = {"0000", "00F0", "0100", "0110", "0120", "0130", "0140", "0150", "0160",
+                         "0170", "0180", "0190", "01A0", "01B0", "01C0", "01D0", "01E0", "01F0"};
+    for (std::size_t i = 0; i < words.size(); ++i)
+        EXPECT_EQ(words[i], records.at(static_cast<int>(i) + 1).substr(22, 4)) << zones[i];
 }
 
 TEST_F(DigitalLinks, ScanThatIsTypedReachesTheRadioAndSoDoesItsEnd) {

@@ -21,8 +21,11 @@ wxString SaveFullPage(const PageCase& page) {
     FillPage();
     PageStrings[CurrentPage].FileDir = wxFileName::GetTempDir() + "/";
     PageStrings[CurrentPage].FileName = wxString("zelk-bench-") + page.type;
-    SaveZelkFile(CurrentPage, false);
     const wxString path = PageStrings[CurrentPage].FileDir + PageStrings[CurrentPage].FileName + ".zelk";
+    // Nobody answers the question about a file of an earlier run.
+    if (wxFileExists(path))
+        wxRemoveFile(path);
+    SaveZelkFile(CurrentPage, false);
     if (page.forcedType >= 0) {
         // A file names this type only by hand: a save leaves the name out.
         wxTextFile file(path);

@@ -9,7 +9,7 @@ enum Column : int {
     SHAD, ///< P25: "N", "P-" and a digit, or "S-" and the primary's number
     BAND, ///< MDLX: the band of this row; elsewhere hidden
     SCAN, ///< "Y" or "N" on P25 and KDAR pages, else a scan list mask 0 to 31
-    ZONE, ///< P25: a name of ZoneList; empty on a shadow row
+    ZONE, ///< P25: one of the ZoneNames of the page's type; empty on a shadow row
     DESC, ///< description, 8 characters on P25 and KDAR pages, else 9
     MODE, ///< "W" or "N"; P25: "w", "n" or "D"
     RFRQ, ///< receive frequency, decimal MHz with a point
@@ -47,6 +47,8 @@ inline constexpr const char* ColumnTag[ColumnTotal] = {
 
 /// MFLG: the place of a shadow in its primary's list plus one (1 to 7), 0 on any other row.
 inline constexpr int ShadowIndexMask = 0x007;
+/// MFLG: the radio scans the memory; SCAN is what a page shows of it.
+inline constexpr int ScanFlag = 0x08;
 /// MFLG: the row is a primary with shadows.
 inline constexpr int ShadowLinkFlag = 0x010;
 

@@ -119,6 +119,19 @@ void ShowPageParameters(OrvZELFrame*, int page) {
                  parameters.Cols, parameters.Type, static_cast<unsigned>(parameters.Flags));
 }
 
+namespace {
+
+/// Fills the rows that a P25 page begins with, as far as they are blank: after a change of target they can
+/// hold memories.
+void FillStartingRows() {
+    CurrentGrid()->ClearSelection();
+    for (int row : {1, GD1, GD2})
+        if (row >= 1 && !RowHasData(row))
+            FillRowsFromDefault({row});
+}
+
+} // namespace
+
 void SetPageDefaults(OrvZELFrame*, int page) {
     const PageParameterRecord& parameters = PageParameters[page];
     wxGrid* grid = PageGrid[page];
@@ -131,9 +144,8 @@ void SetPageDefaults(OrvZELFrame*, int page) {
         grid->SetCellValue(0, col, PageDefault[defaultRow][col]);
 
     if (IsP25Type(parameters.Type)) {
-        // Meant: these rows get their zones by the list that stands until now.
-        FillRowsFromDefault({1, GD1, GD2});
-        ZoneList = CurrentParameters().Type == NP25 ? ListOf(ZoneNames32) : ListOf(ZoneNames16);
+        FillStartingRows();
+        ZoneList = ZoneNames(CurrentParameters().Type);
     }
     grid->SetReadOnly(0, MNUM, true);
     grid->ForceRefresh();
@@ -160,8 +172,10 @@ public:
           m_numbered(NumberedDescription(values[DESC], m_p25 ? 8 : 9, m_baseText)) {}
 
     void WriteInto(int row, bool renumber) const {
-        for (int col = 0; col <= m_limit; ++col)
+        for (int col = 0; col <= m_limit; ++col) {
             m_grid->SetCellValue(row, col, m_values[col]);
+            TakePaintOff(m_grid, row, col);
+        }
         if (m_numbered)
             m_grid->SetCellValue(row, DESC, m_baseText + NumberText(row));
         if (renumber) {

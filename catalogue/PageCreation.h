@@ -12,8 +12,8 @@ void SetPageParameters(OrvZELFrame* frame, int page, int radio, int bandIndex);
 /// have been set. The page becomes the current one.
 void CreateNewPage(OrvZELFrame* frame, int page);
 
-/// Writes the default row of the page; on a P25 page also fills rows 1, GD1 and GD2 from it and
-/// sets ZoneList for its generation. Works on the current page's grid where that is P25.
+/// Writes the default row of the page; on a P25 page also fills rows 1, GD1 and GD2 from it, where they
+/// have no data, and sets ZoneList for its generation. Works on the current page's grid where that is P25.
 void SetPageDefaults(OrvZELFrame* frame, int page);
 
 /// Tells the log, which is silent unless somebody turns it on, what page is for.
@@ -26,8 +26,8 @@ void SetGridColumns(wxGrid* grid, int type);
 void SetGridRowLabels(wxGrid* grid, int last);
 
 /// Writes a row image into every selected memory row of the page: columns 0 to 31 with
-/// allColumns, else 0 to 29. A DESC that ends in digits is numbered with the row. With renumber
-/// MNUM, and PRIM on a P25 page, become the row number. P25 rows get a zone. Ends with no
+/// allColumns, else 0 to 29. The paint of repairs goes. A DESC that ends in digits is numbered with the row.
+/// With renumber MNUM, and PRIM on a P25 page, become the row number. P25 rows get a zone. Ends with no
 /// selection.
 void CopyValuesToSelection(int page, const wxArrayString& values, bool renumber, bool allColumns);
 

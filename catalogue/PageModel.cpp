@@ -5,6 +5,8 @@
 
 #include <wx/grid.h>
 
+#include <algorithm>
+
 ZelkFrame* MainFrame = nullptr;
 int32_t PageCount = 0;
 int32_t CurrentPage = 0;
@@ -106,20 +108,35 @@ void SetGuardRows(OrvZELFrame*, int page, int rows) {
     }
 }
 
+void TakePaintOff(wxGrid* grid, int row, int col) {
+    const wxGridCellAttrPtr own = grid->GetTable()->GetAttrPtr(row, col, wxGridCellAttr::Cell);
+    if (own && own->HasBackgroundColour() && own->GetBackgroundColour() == FailColour)
+        grid->SetCellBackgroundColour(row, col, grid->GetCellBackgroundColour(0, 0));
+}
+
 void ClearRowData(int row, bool releaseZone) {
     wxGrid* grid = CurrentGrid();
     if (releaseZone) {
         const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
         if (number >= 1 && number <= CurrentParameters().Rows)
-            ReleaseP25ZonePosition(RadioCatalogue::ZoneList.Index(grid->GetCellValue(number, ZONE)));
+            ReleaseP25ZonePosition(FindZone(grid->GetCellValue(number, ZONE)));
     }
     for (int col = 0; col < ColumnTotal; ++col) {
         grid->SetCellValue(row, col, "");
+        TakePaintOff(grid, row, col);
         // The mark on SHAD stays: no one types into that column, whatever the row is.
         if (col != SHAD && grid->IsReadOnly(row, col))
             grid->SetReadOnly(row, col, false);
     }
 }
+
+namespace {
+
+bool IsBlankImage(const wxArrayString& texts) {
+    return std::all_of(texts.begin(), texts.end(), [](const wxString& text) { return text.empty(); });
+}
+
+} // namespace
 
 void SaveGuardRows(OrvZELFrame*) {
     guardRowImages[0] = GetRowValues(CurrentPage, GD1);
@@ -130,6 +147,8 @@ void RestoreGuardRows(OrvZELFrame*, bool renumber) {
     wxGrid* grid = CurrentGrid();
     for (int guard = 0; guard < 2; ++guard) {
         const int row = guard == 0 ? GD1 : GD2;
+        if (renumber && IsBlankImage(guardRowImages[static_cast<size_t>(guard)]))
+            continue;
         for (int col = 0; col < ColumnTotal; ++col)
             grid->SetCellValue(row, col, guardRowImages[guard][col]);
         if (renumber)

@@ -42,6 +42,8 @@ struct PageStringRecord {
     wxString RadioName;
     wxString BandName;
     wxString TypeName;
+    /// Full paths of the channel files that the page has opened or saved.
+    wxArrayString OwnFiles = {};
 };
 
 /// The one main window, from start-up on.
@@ -99,7 +101,12 @@ bool IsGuardRow(int row);
 /// Sets GD1 and GD2 for a page of that many rows: -1 without guard rows.
 void SetGuardRows(OrvZELFrame* frame, int page, int rows);
 
-/// Empties a row of the current page and makes its read-only cells writable, SHAD excepted.
+/// Takes the paint of a repair (FailColour) off a cell, which gets the background of cell (0, 0). Other paint
+/// stays.
+void TakePaintOff(wxGrid* grid, int row, int col);
+
+/// Empties a row of the current page, takes the paint of repairs off it and makes its read-only cells
+/// writable, SHAD excepted.
 /// With releaseZone the zone of the row that MNUM names is given back; a row without a number
 /// in 1 to Rows gives nothing back.
 void ClearRowData(int row, bool releaseZone);
@@ -107,7 +114,8 @@ void ClearRowData(int row, bool releaseZone);
 /// Keeps the cells of both guard rows of the current page.
 void SaveGuardRows(OrvZELFrame* frame);
 
-/// Writes the kept cells back into GD1 and GD2; with renumber MNUM becomes the row number.
+/// Writes the kept cells back into GD1 and GD2. With renumber MNUM becomes the row number, and a guard row
+/// that was blank is not written: a number alone would make an incomplete memory of it.
 void RestoreGuardRows(OrvZELFrame* frame, bool renumber);
 
 /// RadioCatalogue::GetCodeIndex for the type of the current page.

@@ -110,6 +110,11 @@ int GetChannelStep(int radio, int band) {
     }
 }
 
+const wxArrayString& ZoneNames(int type) {
+    static const wxArrayString first = ListOf(ZoneNames16), second = ListOf(ZoneNames32);
+    return type == RP25 ? first : second;
+}
+
 int FindRadio(const wxString& name) {
     return FindText(RadioName, name);
 }

@@ -17,7 +17,8 @@ extern wxArrayString ToneList;
 extern wxArrayString CtcssList;
 extern wxArrayString CodeList;
 
-/// Zone choices of the P25 page that was set up last; the one list that changes.
+/// Zone choices of the P25 page that was set up last; the one list that changes. It tells nothing about
+/// the zones of a page: those go by ZoneNames.
 extern wxArrayString ZoneList;
 
 /// Fills ToneList, CtcssList and CodeList, and ZoneList with ZoneNames32.
@@ -44,6 +45,10 @@ int GetChannelStep(int radio, int band);
 constexpr bool IsP25Type(int type) {
     return type == RP25 || type == NP25;
 }
+
+/// Zone names of pages of a radio type, by their position (0-based) in records and zone counters: ZoneNames16
+/// for RP25, ZoneNames32 for any other type.
+const wxArrayString& ZoneNames(int type);
 
 /// Position of the exact text in RadioName, or -1.
 int FindRadio(const wxString& name);

@@ -81,3 +81,12 @@ wxString NumberText(int number) {
 wxString FlagText(int flags) {
     return Digits(static_cast<uint32_t>(flags), false, 16, 2);
 }
+
+wxString NumberList(const std::vector<int>& numbers) {
+    // A tool tip of more would not fit the screen.
+    constexpr size_t most = 260;
+    wxString list;
+    for (size_t i = 0; i < numbers.size() && i < most; ++i)
+        list += wxString::Format(i == 0 ? "%d" : ", %d", numbers[i]);
+    return numbers.size() > most ? list + ", ..." : list;
+}

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 /// The number that text begins with, in the given base (10 or 16). Leading blanks and a sign
 /// are taken, what follows the digits is not looked at. More than 32 bits saturate, so that
@@ -23,3 +24,6 @@ wxString NumberText(int number);
 
 /// Flags as cells hold them: at least two upper-case hexadecimal digits.
 wxString FlagText(int flags);
+
+/// Numbers as a sentence names them: "5, 17, 40". Hundreds of them end in an ellipsis.
+wxString NumberList(const std::vector<int>& numbers);

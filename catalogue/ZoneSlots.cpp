@@ -45,7 +45,12 @@ void ClearZoneSlots(int page) {
 }
 
 wxString GetZoneName(int zone) {
-    if (zone < 0 || zone >= static_cast<int>(RadioCatalogue::ZoneList.size()))
+    const wxArrayString& names = RadioCatalogue::ZoneNames(CurrentParameters().Type);
+    if (zone < 0 || zone >= static_cast<int>(names.size()))
         return "None";
-    return RadioCatalogue::ZoneList[static_cast<size_t>(zone)];
+    return names[static_cast<size_t>(zone)];
+}
+
+int FindZone(const wxString& name) {
+    return RadioCatalogue::ZoneNames(CurrentParameters().Type).Index(name);
 }

@@ -35,5 +35,8 @@ int FirstFreeZone();
 /// Sets the counters 0 to 32 of the page to 0, and so zone 0 of the next page as well.
 void ClearZoneSlots(int page);
 
-/// The ZoneList entry, or "None" past its ends.
+/// The name of a zone (0-based) of the current page, or "None" past the ends of its list.
 wxString GetZoneName(int zone);
+
+/// Position of a name among the zones of the current page, -1 when its list lacks it.
+int FindZone(const wxString& name);

@@ -44,7 +44,10 @@ void TurnRivalsOff(wxGrid* grid, int row, int col) {
 }
 
 void ZelkChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
+    const bool ownText = IsOwnText(row, col, grid);
     WriteChosen(grid, row, col, m_value);
+    if (ownText)
+        return;
     if (col == RTON || col == RCOD)
         WriteChosen(grid, row, col + TransmitOffset, m_value);
     const int type = CurrentParameters().Type;
@@ -55,12 +58,18 @@ void ZelkChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
     if (col == MODE)
         SetSquelchChoices(grid, row, m_value, true);
     else if (col == RSQL && (m_value == "x" || m_value == "t" || m_value == "c"))
-        grid->SetCellValue(row, TSQL, m_value);
+        WriteChosen(grid, row, TSQL, m_value);
 }
 
 void MDLXBandChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
+    if (IsOwnText(row, col, grid))
+        return;
     grid->SetCellValue(row, col, m_value);
     const int band = GetRowBand(grid, row);
     if (band != GetFreqBand(grid->GetCellValue(row, RFRQ), ANFM))
         ChangeRowBand(grid, row, band);
+    else
+        SetBandEditors(grid, row, band);
+    if (row == 0)
+        FitUnusedRowsToDefaultBand(grid);
 }

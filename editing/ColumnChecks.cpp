@@ -11,8 +11,6 @@
 #include "editing/ZelkEditors.h"
 #include "frame/Messages.h"
 
-#include <limits>
-
 #include <wx/grid.h>
 
 using namespace RadioCatalogue;
@@ -35,6 +33,13 @@ void WriteOrRepair(wxGrid* grid, int row, int col, const wxString& text, bool go
         grid->SetCellValue(row, col, text);
     else
         Repair(grid, row, col);
+}
+
+/// Writes what the row can have in place of text. Counts as replaced unless text said that there is nothing.
+void WriteForced(wxGrid* grid, int row, int col, const wxString& text, const wxString& forced) {
+    grid->SetCellValue(row, col, forced);
+    if (!text.empty() && !IsText(text, "OFF") && text != forced)
+        ReplacedCells::Note(row, col);
 }
 
 bool IsWithin(const wxString& text, int low, int high) {
@@ -66,15 +71,14 @@ template <class FindDuplicate>
 int CheckNumber(wxGrid* grid, int row, wxString& text, FindDuplicate findDuplicate) {
     int result = CheckGood;
     if (!text.empty()) {
-        const int rows = CurrentParameters().Rows;
         const int number = ReadDecimal(text);
-        // The least number stands for all below what 32 bits hold.
-        const bool outOfRange = number > rows || number == std::numeric_limits<int>::min();
+        const bool outOfRange = IsNumberOutOfRange(number);
+        const bool isNumber = ReadNumber(text).has_value();
         text = outOfRange ? wxString() : NumberText(number);
-        if (outOfRange)
+        if (outOfRange || !isNumber)
             ReplacedCells::Note(row, MNUM);
         const int other = findDuplicate(number);
-        if (other <= rows) {
+        if (other <= CurrentParameters().Rows) {
             DisplayError(ResultNumberUsed, other);
             text.clear();
             ReplacedCells::Note(row, MNUM);
@@ -112,21 +116,37 @@ int CheckShad(wxGrid* grid, int row, const wxString& text) {
     }
     const bool good = IsText(text, "N") || BeginsWith(text, "P-") || BeginsWith(text, "S-");
     grid->SetCellValue(row, SHAD, good ? text : Letter('N'));
+    if (!good && !text.empty())
+        ReplacedCells::Note(row, SHAD);
     return good ? CheckGood : CheckBadValue;
 }
 
-void CheckBand(wxGrid* grid, int row, const wxString& text) {
+int CheckBand(wxGrid* grid, int row, const wxString& text) {
     const PageParameterRecord& page = CurrentParameters();
     if (page.Type != MDLX) {
         grid->SetCellValue(row, BAND, wxString());
-        return;
+        return CheckNotApplicable;
     }
     const int band = FindBand(text);
-    // Meant: a band that can stand is not written, the cell keeps what it holds.
+    // Intentional: a band that can stand is not written, the cell keeps what it holds.
     if (band >= 0 && (page.Band == 9 || band == 0 || band == 2 || band == 6))
-        return;
+        return CheckGood;
     Repair(grid, row, BAND);
+    return CheckBadValue;
 }
+
+namespace {
+
+/// SCAN where it is a letter. A text that says neither "Y" nor "N" becomes "N".
+void CheckScanLetter(wxGrid* grid, int row, const wxString& text) {
+    const bool scanned = IsText(text, "1") || IsText(text, "Y") || IsText(text, "Yes");
+    grid->SetCellValue(row, SCAN, Letter(scanned ? 'Y' : 'N'));
+    const wxString upper = text.Upper();
+    if (!scanned && !text.empty() && upper != "0" && upper != "N" && upper != "NO")
+        ReplacedCells::Note(row, SCAN);
+}
+
+} // namespace
 
 void CheckScan(wxGrid* grid, int row, const wxString& text) {
     if (IsGuardRow(row)) {
@@ -135,8 +155,7 @@ void CheckScan(wxGrid* grid, int row, const wxString& text) {
     }
     const size_t length = text.length();
     if (CurrentPageIsP25() || CurrentParameters().Type == KDAR)
-        grid->SetCellValue(row, SCAN,
-                           Letter(IsText(text, "1") || IsText(text, "Y") || IsText(text, "Yes") ? 'Y' : 'N'));
+        CheckScanLetter(grid, row, text);
     else if (length < 3 && IsWithin(text, 0, 31))
         SetScanCell(grid, row, SCAN, text, false);
     else if (length == 4 || length == 5)
@@ -155,7 +174,7 @@ int WantedZone(int type, int row, const wxString& text) {
     if (type == NP25 && row > 500)
         return 31;
     const int firstFree = FirstFreeZone();
-    const int named = ZoneList.Index(text);
+    const int named = FindZone(text);
     return named != wxNOT_FOUND && named >= firstFree ? named : firstFree;
 }
 
@@ -172,10 +191,13 @@ void CheckZone(wxGrid* grid, int row, wxString text) {
         if (transferFlags & ZoneTakenFlag)
             return;
         const int wanted = WantedZone(type, row, text);
-        if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask)
+        if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask) {
             text.clear();
-        else if (TakeP25ZonePosition(wanted))
+        } else if (TakeP25ZonePosition(wanted)) {
+            if (!text.empty() && text != GetZoneName(wanted) && !IsGuardRow(row))
+                ReplacedCells::Note(row, ZONE);
             text = GetZoneName(wanted);
+        }
         // Meant: the flag is set also when the zone was full and the row got no slot.
         grid->SetCellValue(row, TFLG, FlagText(transferFlags | ZoneTakenFlag));
     }
@@ -183,10 +205,19 @@ void CheckZone(wxGrid* grid, int row, wxString text) {
 }
 
 void CheckDesc(wxGrid* grid, int row, const wxString& text) {
-    grid->SetCellValue(row, DESC, DescriptionText(text, CurrentParameters().Type));
+    const wxString description = DescriptionText(text, CurrentParameters().Type);
+    grid->SetCellValue(row, DESC, description);
+    // Blanks at the end are not seen; case is the radio's.
+    if (description.Strip().CmpNoCase(text.Strip()) != 0)
+        ReplacedCells::Note(row, DESC);
 }
 
 void CheckMode(wxGrid* grid, int row, const wxString& text) {
+    // Rows of the module's AM 225-400 band have no mode, and say so.
+    if (CurrentParameters().Type == MDLX && IsText(text, "n/a") && BandOfRow(grid, row) == 6) {
+        grid->SetCellValue(row, MODE, text);
+        return;
+    }
     const auto mode = ModeText(text, CurrentParameters().Type);
     WriteOrRepair(grid, row, MODE, mode.value_or(wxString()), mode.has_value());
 }
@@ -241,11 +272,11 @@ void CheckTone(wxGrid* grid, int row, int column, const wxString& text, const wx
     }
     if (type != ANFM && type != MDLX) {
         // Meant: also on FXAM, which shows its tones: they don't outlive a check.
-        grid->SetCellValue(row, column, wxString());
+        WriteForced(grid, row, column, text, wxString());
         return;
     }
     if ((column == RTON && IsGuardRow(row)) || FindBand(grid->GetCellValue(row, BAND)) == 2) {
-        grid->SetCellValue(row, column, "n/a");
+        WriteForced(grid, row, column, text, "n/a");
         return;
     }
     const wxString tone = squelch.empty() || IsText(squelch, "t") ? text : wxString("OFF");
@@ -256,7 +287,7 @@ void CheckCode(wxGrid* grid, int row, int column, const wxString& text, const wx
     const PageParameterRecord& page = CurrentParameters();
     const int rowType = GetRadioType(page.Radio, BandOfRow(grid, row));
     if (rowType == O12 || rowType == KDAR || rowType == ANAM) {
-        grid->SetCellValue(row, column, "n/a");
+        WriteForced(grid, row, column, text, "n/a");
         return;
     }
     const wxString code = IsText(text, "000") ? wxString("OFF") : text;
@@ -269,7 +300,7 @@ void CheckCode(wxGrid* grid, int row, int column, const wxString& text, const wx
         return;
     }
     if (column == RCOD && IsGuardRow(row)) {
-        grid->SetCellValue(row, column, "n/a");
+        WriteForced(grid, row, column, text, "n/a");
         return;
     }
     const wxString wanted = squelch.empty() || IsText(squelch, "c") ? code : wxString("OFF");

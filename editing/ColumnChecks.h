@@ -33,8 +33,10 @@ void CheckPrim(wxGrid* grid, int row, const wxString& text);
 int CheckShad(wxGrid* grid, int row, const wxString& text);
 
 /// On an MDLX page a band that the module has leaves the cell as it is (a caller that wants another
-/// text in it writes it); any other text puts the default row's there, painted. On other pages empty.
-void CheckBand(wxGrid* grid, int row, const wxString& text);
+/// text in it writes it) and answers CheckGood; any other text puts the default row's there, painted, and
+/// answers CheckBadValue. The default row itself keeps its former text then. On other pages empty and
+/// CheckNotApplicable.
+int CheckBand(wxGrid* grid, int row, const wxString& text);
 
 /// "Y" or "N" on P25 and KDAR pages. On others a mask from 0 to 31 in one or two digits, or four or
 /// five marks of the legacy files, which become a mask; any other is painted. A guard row gets the
@@ -50,7 +52,8 @@ void CheckZone(wxGrid* grid, int row, wxString text);
 /// Description as DescriptionText gives it.
 void CheckDesc(wxGrid* grid, int row, const wxString& text);
 
-/// Mode letter in the page's case; any other text is painted.
+/// Mode letter in the page's case; any other text is painted. On an MDLX page "n/a" stands in a row of band
+/// 6, where no mode can be chosen.
 void CheckMode(wxGrid* grid, int row, const wxString& text);
 
 /// RFRQ or TFRQ: a frequency within the page's band, on an MDLX page within the row's; any other

@@ -8,6 +8,7 @@
 #include "editing/CommandQuestions.h"
 #include "editing/RowCommands.h"
 #include "editing/RowLooks.h"
+#include "editing/ScanLock.h"
 #include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
 #include "frame/ZelkMain.h"
@@ -23,6 +24,13 @@ void DealZoneAfresh(wxGrid* grid, int row) {
     const int flags = ReadHex(grid->GetCellValue(row, TFLG)) & ~ZoneTakenFlag;
     grid->SetCellValue(row, TFLG, FlagText(flags));
     CheckZone(grid, row, "");
+    SetScanLock(grid, row);
+}
+
+/// Writes what the user has asked for; the cell is no repaired one any more.
+void WriteDefault(wxGrid* grid, int row, int col, const wxString& value) {
+    grid->SetCellValue(row, col, value);
+    TakePaintOff(grid, row, col);
 }
 
 /// Puts a row of a module page on the default row's band, if it has another one.
@@ -30,7 +38,7 @@ void TakeDefaultBand(wxGrid* grid, int row, const wxString& value) {
     const int band = GetRowBand(grid, 0);
     if (GetRowBand(grid, row) == band)
         return;
-    grid->SetCellValue(row, BAND, value);
+    WriteDefault(grid, row, BAND, value);
     ChangeRowBand(grid, row, band);
 }
 
@@ -40,7 +48,15 @@ int SelectedColumn(wxGrid* grid) {
     int col = MFLG;
     while (col < TIDC && !grid->IsInSelection(1, col))
         ++col;
-    return col;
+    return col == TIDC && grid->IsInSelection(1, RONL) ? static_cast<int>(RONL) : col;
+}
+
+/// A new mode brings a P25 row its squelches, as a choice in the cell does. One that the row has leaves them.
+void TakeDefaultMode(wxGrid* grid, int row, const wxString& value) {
+    const bool changes = grid->GetCellValue(row, MODE) != value;
+    WriteDefault(grid, row, MODE, value);
+    if (changes)
+        SetSquelchChoices(grid, row, value, true);
 }
 
 /// Writes the default of the selected column into the memory rows for which applies(row) holds.
@@ -92,14 +108,21 @@ void DefaultColInRow(int row, int col, const wxString& value) {
         TakeDefaultBand(grid, row, value);
         return;
     }
-    grid->SetCellValue(row, col, value);
+    if (CurrentPageIsP25() && col == MODE) {
+        TakeDefaultMode(grid, row, value);
+        return;
+    }
+    WriteDefault(grid, row, col, value);
     if (col == RFRQ)
-        grid->SetCellValue(row, TFRQ, value);
+        WriteDefault(grid, row, TFRQ, value);
     else if (col >= RTON && col <= RNAC)
-        grid->SetCellValue(row, col + TransmitDistance, value);
+        WriteDefault(grid, row, col + TransmitDistance, value);
     // On analog pages a row has a tone or a code, not both.
     if (!CurrentPageIsP25())
         TurnRivalsOff(grid, row, col);
+    if (CurrentParameters().Type == RadioCatalogue::MDLX)
+        // What the band fixes in the row stays so.
+        SetBandEditors(grid, row, GetBandOfEdit(grid, row));
 }
 
 void ZelkFrame::OnDefaultCol(wxCommandEvent&) {

@@ -1,5 +1,6 @@
 // The command that gives a P25 memory a shadow.
 #include "catalogue/TextNumbers.h"
+#include "editing/MemoryNumbers.h"
 #include "editing/RowCommands.h"
 #include "editing/ShadowDialog.h"
 #include "editing/Shadows.h"
@@ -10,9 +11,6 @@
 
 namespace {
 
-/// Flags that a row keeps when it becomes a shadow: the two that only radios give, and its index.
-constexpr int KeptFlags = 0x67;
-
 void Refuse(const wxString& reason) {
     wxMessageBox(reason, "Create Shadow - Error", wxOK | wxCENTRE);
 }
@@ -22,12 +20,11 @@ void RefuseNumber() {
                             CurrentParameters().Rows));
 }
 
-/// Meant: texts are compared, so a memory whose number isn't written with three digits is not seen.
-bool IsNumberTaken(wxGrid* grid, const wxString& number) {
-    for (int row = 0; row <= CurrentParameters().Rows; ++row)
-        if (grid->GetCellValue(row, MNUM) == number)
-            return true;
-    return false;
+/// True when making a shadow with the number, which stands in the row of that number, would cost another
+/// memory: one that has the number, or one that stands in that row under another.
+bool IsInUse(int number) {
+    const int rows = CurrentParameters().Rows;
+    return FindDuplicateMNum(0, -1, rows, number) <= rows || RowHasData(number);
 }
 
 void MakePrimary(wxGrid* grid, int row, int slot, int shadow) {
@@ -46,8 +43,7 @@ void MakeShadow(wxGrid* grid, int row, int slot, int primary) {
     for (int col = SHD0; col <= SHD6; ++col)
         grid->SetCellValue(row, col, "0");
     LockLinkedRow(row, ShadowRow);
-    const int kept = ReadHex(grid->GetCellValue(row, MFLG)) & KeptFlags;
-    grid->SetCellValue(row, MFLG, FlagText(kept | (slot + 1)));
+    grid->SetCellValue(row, MFLG, FlagText(slot + 1));
     grid->SetCellValue(row, TFLG, "A0");
     SetRowEditorsP25(grid, row);
 }
@@ -84,7 +80,7 @@ void ZelkFrame::OnCreateShadow(wxCommandEvent&) {
         RefuseNumber();
         return;
     }
-    if (IsNumberTaken(grid, NumberText(*shadow))) {
+    if (IsInUse(*shadow)) {
         Refuse("Selected memory is already in use.");
         return;
     }

@@ -6,9 +6,10 @@ wxIMPLEMENT_DYNAMIC_CLASS(ZelkDescriptionValidator, wxValidator);
 
 wxBEGIN_EVENT_TABLE(ZelkDescriptionValidator, wxValidator) EVT_CHAR(ZelkDescriptionValidator::OnChar)
     EVT_TEXT_PASTE(wxID_ANY, ZelkDescriptionValidator::OnPaste)
-        EVT_TEXT(wxID_ANY, ZelkDescriptionValidator::OnText) wxEND_EVENT_TABLE()
+        EVT_TEXT(wxID_ANY, ZelkDescriptionValidator::OnText)
+            EVT_TEXT_MAXLEN(wxID_ANY, ZelkDescriptionValidator::OnTooLong) wxEND_EVENT_TABLE()
 
-            bool ZelkDescriptionValidator::IsValidChar(wxUniChar character) const {
+                bool ZelkDescriptionValidator::IsValidChar(wxUniChar character) const {
     const auto code = character.GetValue();
     if (m_mode == 5 && code >= 32 && code <= 126)
         return true;
@@ -19,10 +20,8 @@ wxBEGIN_EVENT_TABLE(ZelkDescriptionValidator, wxValidator) EVT_CHAR(ZelkDescript
     return code == '+' || code == ' ' || code == '?' || code == '_';
 }
 
-void ZelkDescriptionValidator::OnText(wxCommandEvent& event) {
-    if (m_mode == 0 || m_mode == 6 || m_mode == 7)
-        MakeUpperCase();
-    event.Skip(true);
+bool ZelkDescriptionValidator::WritesUpperCase() const {
+    return m_mode == 0 || m_mode == 6 || m_mode == 7;
 }
 
 ZelkDescriptionEditor::ZelkDescriptionEditor(int maxChars, int mode)

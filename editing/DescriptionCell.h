@@ -25,9 +25,10 @@ public:
     int32_t GetMode() const { return m_mode; }
     const wxString* GetValuePointer() const { return m_value; }
 
-private:
-    void OnText(wxCommandEvent& event);
+protected:
+    bool WritesUpperCase() const override;
 
+private:
     int32_t m_mode;
 
     wxDECLARE_DYNAMIC_CLASS(ZelkDescriptionValidator);

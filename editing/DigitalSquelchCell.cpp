@@ -1,6 +1,7 @@
 #include "editing/DigitalSquelchCell.h"
 
 #include "catalogue/MemoryRow.h"
+#include "catalogue/PageModel.h"
 
 #include <wx/textctrl.h>
 
@@ -8,15 +9,18 @@ wxIMPLEMENT_DYNAMIC_CLASS(DigitalSquelchValidator, wxValidator);
 
 wxBEGIN_EVENT_TABLE(DigitalSquelchValidator, wxValidator) EVT_CHAR(DigitalSquelchValidator::OnChar)
     EVT_TEXT_PASTE(wxID_ANY, DigitalSquelchValidator::OnPaste)
-        EVT_TEXT(wxID_ANY, DigitalSquelchValidator::OnText) wxEND_EVENT_TABLE()
+        EVT_TEXT(wxID_ANY, DigitalSquelchValidator::OnText)
+            EVT_TEXT_MAXLEN(wxID_ANY, DigitalSquelchValidator::OnTooLong) wxEND_EVENT_TABLE()
 
-            bool DigitalSquelchValidator::TransferToWindow() {
+                bool DigitalSquelchValidator::TransferToWindow() {
     if (!m_value)
         return true;
     wxTextCtrl* control = Control();
     if (!control)
         return false;
+    BeginOwnChange();
     control->SetValue(*m_value);
+    EndOwnChange();
     return true;
 }
 
@@ -40,11 +44,6 @@ bool DigitalSquelchValidator::IsValidChar(wxUniChar character) const {
     return (code >= '0' && code <= '9') || (code >= 'A' && code <= 'F') || (code >= 'a' && code <= 'f');
 }
 
-void DigitalSquelchValidator::OnText(wxCommandEvent& event) {
-    MakeUpperCase();
-    event.Skip(true);
-}
-
 DigitalSquelchEditor::DigitalSquelchEditor(int maxChars, int min, int max)
     : FinishedTextEditor(maxChars), m_rules(&m_held, min, max) {
     SetValidator(m_rules);
@@ -56,9 +55,10 @@ std::optional<wxString> DigitalSquelchEditor::Finish(const wxString& typed) cons
 
 void DigitalSquelchEditor::ApplyEdit(int row, int col, wxGrid* grid) {
     grid->SetCellValue(row, col, m_held);
-    if (col == RTGP)
-        grid->SetCellValue(row, TTGP, m_held);
-    if (col == RNAC)
-        grid->SetCellValue(row, TNAC, m_held);
+    if (col == RTGP || col == RNAC) {
+        const int twin = col == RTGP ? TTGP : TNAC;
+        grid->SetCellValue(row, twin, m_held);
+        TakePaintOff(grid, row, twin);
+    }
     m_held.clear();
 }

@@ -29,9 +29,10 @@ public:
     int32_t GetMax() const { return m_max; }
     const wxString* GetValuePointer() const { return m_value; }
 
-private:
-    void OnText(wxCommandEvent& event);
+protected:
+    bool WritesUpperCase() const override { return true; }
 
+private:
     int32_t m_min, m_max;
 
     wxDECLARE_DYNAMIC_CLASS(DigitalSquelchValidator);

@@ -12,9 +12,10 @@
 wxIMPLEMENT_DYNAMIC_CLASS(FrequencyValidator, wxValidator);
 
 wxBEGIN_EVENT_TABLE(FrequencyValidator, wxValidator) EVT_CHAR(FrequencyValidator::OnChar)
-    EVT_TEXT_PASTE(wxID_ANY, FrequencyValidator::OnPaste) wxEND_EVENT_TABLE()
+    EVT_TEXT_PASTE(wxID_ANY, FrequencyValidator::OnPaste) EVT_TEXT(wxID_ANY, FrequencyValidator::OnText)
+        EVT_TEXT_MAXLEN(wxID_ANY, FrequencyValidator::OnTooLong) wxEND_EVENT_TABLE()
 
-        namespace {
+            namespace {
 
     /// Writes a cell and takes the paint of a repair off it.
     void WriteClean(wxGrid * grid, int row, int col, const wxString& text) {
@@ -26,6 +27,14 @@ wxBEGIN_EVENT_TABLE(FrequencyValidator, wxValidator) EVT_CHAR(FrequencyValidator
 
 int GetRowBand(const wxGrid* grid, int row) {
     return std::max(RadioCatalogue::FindBand(grid->GetCellValue(row, BAND)), 0);
+}
+
+bool IsFilledByEdit(const wxGrid* grid, int row) {
+    return row > 0 && grid->GetCellValue(row, TFLG).empty();
+}
+
+int GetBandOfEdit(const wxGrid* grid, int row) {
+    return GetRowBand(grid, IsFilledByEdit(grid, row) ? 0 : row);
 }
 
 FrequencyValidator::FrequencyValidator(wxString* value, int row, int band, int step)
@@ -54,20 +63,32 @@ bool FrequencyValidator::IsGoodKey(wxUniChar character) const {
     return IsOkFreq(text.Left(caret) + character + text.Mid(caret), m_band, m_step);
 }
 
-bool FrequencyValidator::IsGoodPaste(const wxString& clipboard) const {
-    const wxTextCtrl* control = Control();
-    if (!control)
-        return true;
-    const wxString text = control->GetValue();
-    const long caret = control->GetInsertionPoint();
+bool FrequencyValidator::IsGoodInsertion(const wxString& left, const wxString& inserted,
+                                         const wxString& right) const {
     // Meant: the "c" makes a paste that brings a point fail, and lets one of bare digits pass. What
     // is selected counts although the paste would replace it, and that is meant too.
-    return IsOkFreq(text.Left(caret) + clipboard + "c" + text.Mid(caret), m_band, m_step);
+    return !Control() || IsOkFreq(left + inserted + "c" + right, m_band, m_step);
 }
 
 FrequencyEditor::FrequencyEditor(int row, int band, int step)
-    : FinishedTextEditor(FrequencyWidth(band, step)), m_rules(&m_held, row, band, step) {
+    : FinishedTextEditor(FrequencyWidth(band, step)), m_rules(&m_held, row, band, step),
+      m_width(FrequencyWidth(band, step)) {
     SetValidator(m_rules);
+}
+
+void FrequencyEditor::BeginEdit(int row, int col, wxGrid* grid) {
+    if (CurrentParameters().Type == RadioCatalogue::MDLX)
+        TakeBandOfRow(row, grid);
+    FinishedTextEditor::BeginEdit(row, col, grid);
+}
+
+void FrequencyEditor::TakeBandOfRow(int row, const wxGrid* grid) {
+    const int band = GetBandOfEdit(grid, row);
+    const int step = RadioCatalogue::GetChannelStep(CurrentParameters().Radio, band);
+    SetEditorFreqParams(band, step);
+    m_width = FrequencyWidth(band, step);
+    if (auto* control = wxDynamicCast(GetWindow(), wxTextCtrl))
+        control->SetMaxLength(static_cast<unsigned long>(m_width));
 }
 
 void FrequencyEditor::SetEditorFreqParams(int band, int step) {
@@ -82,7 +103,7 @@ bool FrequencyEditor::CanStartWith(wxUniChar character) const {
 
 std::optional<wxString> FrequencyEditor::Finish(const wxString& typed) const {
     wxString text = typed;
-    if (!FormatFreq(text, m_rules.GetBand(), m_rules.GetStep(), static_cast<int>(Width())))
+    if (!FormatFreq(text, m_rules.GetBand(), m_rules.GetStep(), m_width))
         return std::nullopt;
     return text;
 }

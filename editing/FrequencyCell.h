@@ -8,6 +8,12 @@
 /// Band id (0 to 8) of the text in a row's BAND cell, 0 when the text is in no band.
 int GetRowBand(const wxGrid* grid, int row);
 
+/// True for a memory row that an edit first fills from the default row: its TFLG is empty.
+bool IsFilledByEdit(const wxGrid* grid, int row);
+
+/// GetRowBand of the row as an edit in it finds it: of the default row where the edit fills it from there.
+int GetBandOfEdit(const wxGrid* grid, int row);
+
 /// Takes only keys and pastes with which the text can still become a frequency of the band.
 class FrequencyValidator : public TextCellValidator {
 public:
@@ -31,7 +37,8 @@ public:
 
 protected:
     bool IsGoodKey(wxUniChar character) const override;
-    bool IsGoodPaste(const wxString& clipboard) const override;
+    bool IsGoodInsertion(const wxString& left, const wxString& inserted,
+                         const wxString& right) const override;
 
 private:
     int32_t m_band, m_step;
@@ -43,8 +50,11 @@ private:
 /// Completes what is typed to a frequency on the channel step.
 class FrequencyEditor : public FinishedTextEditor {
 public:
-    /// For a cell of grid row row; band id and channel step in Hz as for FrequencyValidator.
+    /// For a cell of grid row row; band id and channel step in Hz as for FrequencyValidator. On an MDLX page
+    /// each edit takes band and step of its row when it begins.
     FrequencyEditor(int row, int band, int step);
+
+    void BeginEdit(int row, int col, wxGrid* grid) override;
 
     /// Writes the frequency and clears the cell's paint. A receive frequency is carried to the
     /// transmit cell unless nobody may transmit on it; such a transmit frequency becomes "n/a".
@@ -57,5 +67,8 @@ protected:
     std::optional<wxString> Finish(const wxString& typed) const override;
 
 private:
+    void TakeBandOfRow(int row, const wxGrid* grid);
+
     FrequencyValidator m_rules;
+    int m_width; ///< characters of a complete frequency
 };

@@ -6,6 +6,26 @@
 #include "editing/Shadows.h"
 #include "frame/Messages.h"
 
+#include <wx/msgdlg.h>
+#include <wx/spinctrl.h>
+
+void ZelkMemoryNumberEditor::Create(wxWindow* parent, wxWindowID id, wxEvtHandler* handler) {
+    wxGridCellNumberEditor::Create(parent, id, handler);
+    // The control brings what was typed into its range before the edit ends. In a range that is wider by a
+    // digit a number that can't stand is still seen to be one.
+    Spin()->SetRange(m_min - 1, 10 * m_max + 9);
+}
+
+bool ZelkMemoryNumberEditor::EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval,
+                                     wxString* newval) {
+    const int number = Spin()->GetValue();
+    if (number >= m_min && number <= m_max)
+        return wxGridCellNumberEditor::EndEdit(row, col, grid, oldval, newval);
+    wxMessageBox(wxString::Format("Memory number must be from %d to %d.", m_min, m_max), "Error",
+                 wxOK | wxCENTRE);
+    return false;
+}
+
 void ZelkMemoryNumberEditor::ApplyEdit(int row, int, wxGrid* grid) {
     const int number = ReadDecimal(GetValue());
     const int rows = CurrentParameters().Rows;

@@ -5,15 +5,24 @@
 
 #include <wx/grid.h>
 
-/// Edits MNUM. A number that another row of the current page has is refused with a box; on a P25
-/// page the shadows of a renumbered primary follow.
+/// Edits MNUM. A number outside the range, or one that another row of the current page has, is refused with
+/// a box; on a P25 page the shadows of a renumbered primary follow.
 class ZelkMemoryNumberEditor : public wxGridCellNumberEditor {
 public:
     /// The range of numbers, both ends included.
-    ZelkMemoryNumberEditor(int min, int max) : wxGridCellNumberEditor(min, max) {}
+    ZelkMemoryNumberEditor(int min, int max) : wxGridCellNumberEditor(min, max), m_min(min), m_max(max) {}
 
+    void Create(wxWindow* parent, wxWindowID id, wxEvtHandler* handler) override;
+    /// Answers false, with nothing changed, for a number outside the range, and tells so.
+    bool EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) override;
     void ApplyEdit(int row, int col, wxGrid* grid) override;
     wxGridCellEditor* Clone() const override { return new ZelkMemoryNumberEditor(*this); }
+
+    int GetMin() const { return m_min; }
+    int GetMax() const { return m_max; }
+
+private:
+    int m_min, m_max;
 };
 
 /// How MNUM is shown: text is the cell's, row where it stands. Empty for an empty text; "DEF" for

@@ -2,8 +2,11 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "editing/ReplacedCells.h"
 
 #include <wx/grid.h>
+
+#include <limits>
 
 namespace {
 
@@ -46,4 +49,20 @@ void MemoryNumberIndex::Change(int row, const wxString& text) {
     if (number)
         m_holders.insert({*number, row});
     held = number;
+}
+
+bool IsNumberOutOfRange(int number) {
+    // The least number stands for all below what 32 bits hold.
+    return number > CurrentParameters().Rows || number == std::numeric_limits<int>::min();
+}
+
+void ReplaceImpossibleNumber(wxGrid* grid, int row, MemoryNumberIndex& numbers) {
+    const std::optional<int> number = NumberOf(grid->GetCellValue(row, MNUM));
+    if (!number || numbers.IsTaken(row))
+        return;
+    if (!IsNumberOutOfRange(*number) && numbers.FindDuplicate(row, *number) > CurrentParameters().Rows)
+        return;
+    grid->SetCellValue(row, MNUM, NumberText(row));
+    numbers.Change(row, NumberText(row));
+    ReplacedCells::Note(row, MNUM);
 }

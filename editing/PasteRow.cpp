@@ -1,19 +1,24 @@
 // The command that pastes the copied row.
 #include "editing/CommandQuestions.h"
+#include "editing/MemoryNumbers.h"
+#include "editing/MissingCells.h"
 #include "editing/RowCommands.h"
+#include "editing/ScanLock.h"
 #include "editing/ZelkEdit.h"
+#include "editing/ZelkEditors.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/msgdlg.h>
 
 namespace {
 
-/// A row that nothing has been in lacks the two cells that a paste leaves alone.
-void FillUnpastedCells(wxGrid* grid, int row) {
+/// Gives a pasted row what it needs to be a memory of this page and the copy didn't bring.
+void CompletePastedRow(wxGrid* grid, int row) {
     if (grid->GetCellValue(row, TFLG).empty())
-        grid->SetCellValue(row, TFLG, "A0");
-    if (CurrentParameters().Type == RadioCatalogue::KDAR && grid->GetCellValue(row, RONL).empty())
-        grid->SetCellValue(row, RONL, grid->GetCellValue(0, RONL));
+        grid->SetCellValue(row, TFLG, TflgMade);
+    MemoryNumberIndex numbers(CurrentParameters().Rows);
+    ReplaceImpossibleNumber(grid, row, numbers);
+    FillMissingCells(grid, row);
 }
 
 } // namespace
@@ -28,8 +33,13 @@ void ZelkFrame::OnPasteRow(wxCommandEvent&) {
     }
     wxGrid* grid = CurrentGrid();
     // Meant: one row is pasted, whatever is selected, and links that the row had aren't undone.
-    for (int col = 0; col <= SHD6; ++col)
+    for (int col = 0; col <= SHD6; ++col) {
         grid->SetCellValue(ContextRow, col, RowCopyBuffer[static_cast<size_t>(col)]);
-    FillUnpastedCells(grid, ContextRow);
+        TakePaintOff(grid, ContextRow, col);
+    }
+    CompletePastedRow(grid, ContextRow);
     CheckRow(grid, ContextRow);
+    if (CurrentPageIsP25())
+        SetScanLock(grid, ContextRow);
+    FitRowToItsBand(grid, ContextRow);
 }

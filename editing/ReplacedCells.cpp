@@ -27,6 +27,8 @@ ReplacedCells::~ReplacedCells() {
 }
 
 void ReplacedCells::Note(int row, int column) {
+    if (RadioCatalogue::ColumnWidth[CurrentParameters().Type][column] == 0)
+        return;
     for (ReplacedCells* collector = innermost; collector; collector = collector->m_outer)
         collector->m_cells.emplace(row, column);
 }

@@ -55,8 +55,7 @@ void MakeRowBlank(wxGrid* grid, int row) {
 void ReleaseZoneOfNumber(wxGrid* grid, int row, const std::vector<int>& order) {
     const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
     if (number >= 1 && number < static_cast<int>(order.size()))
-        ReleaseP25ZonePosition(
-            RadioCatalogue::ZoneList.Index(grid->GetCellValue(order[static_cast<size_t>(number)], ZONE)));
+        ReleaseP25ZonePosition(FindZone(grid->GetCellValue(order[static_cast<size_t>(number)], ZONE)));
 }
 
 /// Deletes the rows (ascending) out of rows 1 to last: those behind them move up, and blank ones
@@ -103,7 +102,6 @@ void FixCopiedRow(OrvZELFrame*) {
     if (!CurrentPageIsP25())
         return;
     // Meant: the flags themselves stay in the copy; only the scan bit goes.
-    constexpr int scanBit = 0x08;
     const int flags = ReadHex(RowCopyBuffer[MFLG]);
     if ((flags & (ShadowIndexMask | ShadowLinkFlag)) == 0)
         return;
@@ -111,7 +109,7 @@ void FixCopiedRow(OrvZELFrame*) {
     RowCopyBuffer[PRIM] = RowCopyBuffer[MNUM];
     for (size_t col = SHD0; col <= SHD6; ++col)
         RowCopyBuffer[col] = "0";
-    RowCopyBuffer[MFLG] = FlagText(flags & ~scanBit);
+    RowCopyBuffer[MFLG] = FlagText(flags & ~ScanFlag);
 }
 
 void ZelkFrame::OnDefaultRow(wxCommandEvent&) {
@@ -125,7 +123,10 @@ void ZelkFrame::OnDefaultRow(wxCommandEvent&) {
         UndoShadowLinks(ContextRow);
         ClearRowData(ContextRow, true);
     }
+    const std::vector<int> rows = SelectedRows();
     CopyValuesToSelection(CurrentPage, GetRowValues(CurrentPage, 0), true, true);
+    for (int row : rows)
+        FitRowToItsBand(CurrentGrid(), row);
     LockGuardRowsAgain();
 }
 
@@ -150,6 +151,7 @@ void ZelkFrame::OnClearRow(wxCommandEvent&) {
     for (int row : SelectedRows()) {
         UndoShadowLinks(row);
         ClearRowData(row, CurrentPageIsP25());
+        FitRowToItsBand(grid, row);
     }
     LockGuardRowsAgain();
     grid->ClearSelection();

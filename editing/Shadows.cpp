@@ -78,8 +78,10 @@ void LockLinkedRow(int row, int kind) {
 
 void HandleP25Shadows(wxGridCellEditor*, int number, const wxString&, wxGrid* grid) {
     for (int shadow : ShadowRowsOf(grid, number))
-        for (int col : {RFRQ, TFRQ})
+        for (int col : {RFRQ, TFRQ}) {
             grid->SetCellValue(shadow, col, grid->GetCellValue(number, col));
+            TakePaintOff(grid, shadow, col);
+        }
 }
 
 void RemovePrimary(int row) {

@@ -70,22 +70,120 @@ void TextCellValidator::MakeUpperCase() {
 
 void TextCellValidator::OnChar(wxKeyEvent& event) {
     event.Skip(true);
+    m_isTooLong = false;
     const int character = TypedCharacter(event);
     if (!m_validatorWindow || character < WXK_SPACE || character == WXK_DELETE)
         return;
-    if (!IsGoodKey(character)) {
+    if (IsGoodKey(character)) {
+        m_expected = wxUniChar(character);
+    } else {
         Refuse();
         event.Skip(false);
     }
 }
 
+bool TextCellValidator::IsGoodInsertion(const wxString&, const wxString&, const wxString&) const {
+    return true;
+}
+
+bool TextCellValidator::MayInsert(const wxString& left, const wxString& inserted,
+                                  const wxString& right) const {
+    const bool good =
+        std::all_of(inserted.begin(), inserted.end(), [this](wxUniChar c) { return IsValidChar(c); });
+    return good && IsGoodInsertion(left, inserted, right);
+}
+
 void TextCellValidator::OnPaste(wxClipboardTextEvent& event) {
-    const wxString text = ClipboardText();
-    const bool good = std::all_of(text.begin(), text.end(), [this](wxUniChar c) { return IsValidChar(c); });
-    if (good && IsGoodPaste(text))
-        event.Skip(true);
-    else
+    const wxTextCtrl* control = Control();
+    const wxString text = control ? control->GetValue() : wxString();
+    const size_t caret = control ? static_cast<size_t>(control->GetInsertionPoint()) : 0;
+    const wxString pasted = ClipboardText();
+    if (!MayInsert(text.Left(caret), pasted, text.Mid(caret)))
+        return Refuse();
+    m_expected = pasted;
+    event.Skip(true);
+}
+
+bool TextCellValidator::MayFollow(const wxString& text) const {
+    size_t shorter = std::min(text.length(), m_text.length());
+    size_t left = 0;
+    while (left < shorter && text[left] == m_text[left])
+        ++left;
+    shorter -= left;
+    size_t right = 0;
+    while (right < shorter && text[text.length() - 1 - right] == m_text[m_text.length() - 1 - right])
+        ++right;
+    const wxString inserted = text.Mid(left, text.length() - left - right);
+    return inserted.empty() || inserted == m_expected ||
+           MayInsert(m_text.Left(left), inserted, m_text.Mid(left));
+}
+
+void TextCellValidator::OnText(wxCommandEvent& event) {
+    event.Skip(true);
+    wxTextCtrl* control = Control();
+    if (!control)
+        return;
+    const bool good = m_isOwnChange || (!m_isTooLong && MayFollow(control->GetValue()));
+    m_expected.clear();
+    m_isTooLong = false;
+    if (!good) {
+        // The middle mouse button and a drop ask nobody before they insert.
+        const long caret = control->GetInsertionPoint();
+        control->ChangeValue(m_text);
+        control->SetInsertionPoint(std::min(caret, control->GetLastPosition()));
         Refuse();
+        return;
+    }
+    if (WritesUpperCase())
+        MakeUpperCase();
+    m_text = control->GetValue();
+}
+
+void TextCellValidator::OnTooLong(wxCommandEvent& event) {
+    // What was selected may be taken away for a text that then doesn't fit.
+    m_isTooLong = true;
+    event.Skip();
+}
+
+void TextCellValidator::EndOwnChange() {
+    m_isOwnChange = false;
+    m_isTooLong = false;
+    m_expected.clear();
+    if (const wxTextCtrl* control = Control())
+        m_text = control->GetValue();
+}
+
+namespace {
+
+/// While it lives, what changes the text of the control is its editor.
+class OwnChange {
+public:
+    explicit OwnChange(wxTextCtrl* control)
+        : m_validator(dynamic_cast<TextCellValidator*>(control->GetValidator())) {
+        if (m_validator)
+            m_validator->BeginOwnChange();
+    }
+    ~OwnChange() {
+        if (m_validator)
+            m_validator->EndOwnChange();
+    }
+    OwnChange(const OwnChange&) = delete;
+    OwnChange& operator=(const OwnChange&) = delete;
+
+private:
+    TextCellValidator* const m_validator;
+};
+
+} // namespace
+
+void TextCellEditor::BeginEdit(int row, int col, wxGrid* grid) {
+    const OwnChange own(Text());
+    wxGridCellTextEditor::BeginEdit(row, col, grid);
+}
+
+void TextCellEditor::Reset() {
+    const OwnChange own(Text());
+    wxGridCellTextEditor::Reset();
 }
 
 bool TextCellEditor::Opens(const wxKeyEvent& event) const {
@@ -100,15 +198,17 @@ bool TextCellEditor::IsAcceptedKey(wxKeyEvent& event) {
 }
 
 void TextCellEditor::StartingKey(wxKeyEvent& event) {
-    if (Opens(event))
-        wxGridCellTextEditor::StartingKey(event);
-    else
+    if (!Opens(event)) {
         event.Skip(false);
+        return;
+    }
+    const OwnChange own(Text());
+    wxGridCellTextEditor::StartingKey(event);
 }
 
 void FinishedTextEditor::BeginEdit(int row, int col, wxGrid* grid) {
     m_held = grid->GetTable()->GetValue(row, col);
-    wxGridCellTextEditor::BeginEdit(row, col, grid);
+    TextCellEditor::BeginEdit(row, col, grid);
 }
 
 bool FinishedTextEditor::EndEdit(int, int, const wxGrid*, const wxString&, wxString* newval) {

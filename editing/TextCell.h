@@ -9,8 +9,8 @@
 class wxClipboardTextEvent;
 class wxTextCtrl;
 
-/// Refuses keys and pastes of characters that a cell can't hold, while the user types. Refusing
-/// is silent but for the bell.
+/// Refuses keys and pastes of characters that a cell can't hold, while the user types, and takes back what
+/// the mouse pastes or drops of them. Refusing is silent but for the bell.
 class TextCellValidator : public wxValidator {
 public:
     /// value is the text of the edit, which belongs to the editor; it may be null.
@@ -27,6 +27,10 @@ public:
     /// Whether a character can stand in the cell.
     virtual bool IsValidChar(wxUniChar character) const = 0;
 
+    /// The editor itself is about to change the control's text, which then stands whatever it is.
+    void BeginOwnChange() { m_isOwnChange = true; }
+    void EndOwnChange();
+
 protected:
     /// The control, or null when the validator's window isn't a text control.
     wxTextCtrl* Control() const;
@@ -34,16 +38,31 @@ protected:
     /// Whether the key's character may be typed.
     virtual bool IsGoodKey(wxUniChar character) const { return IsValidChar(character); }
 
-    /// Whether a clipboard text, all of whose characters are valid, may be pasted.
-    virtual bool IsGoodPaste(const wxString&) const { return true; }
+    /// Whether inserted, all of whose characters are valid, may come between the two parts of the text.
+    virtual bool IsGoodInsertion(const wxString& left, const wxString& inserted, const wxString& right) const;
 
-    /// Makes the control's text upper case without another text event.
-    void MakeUpperCase();
+    /// Whether the control's text is made upper case.
+    virtual bool WritesUpperCase() const { return false; }
 
     void OnChar(wxKeyEvent& event);
     void OnPaste(wxClipboardTextEvent& event);
+    void OnText(wxCommandEvent& event);
+    void OnTooLong(wxCommandEvent& event);
 
     wxString* m_value;
+
+private:
+    bool MayInsert(const wxString& left, const wxString& inserted, const wxString& right) const;
+    /// Whether text can follow m_text: by the user's key or paste, or by a good insertion.
+    bool MayFollow(const wxString& text) const;
+    void MakeUpperCase();
+
+    /// The control's text as it was before the change that comes next.
+    wxString m_text;
+    /// What a key or a paste, already found good, is about to insert.
+    wxString m_expected;
+    bool m_isOwnChange = false;
+    bool m_isTooLong = false;
 };
 
 /// A text cell that is opened only by keys whose character it can hold.
@@ -53,7 +72,9 @@ public:
 
     /// Answers false for a key that StartingKey would refuse, so that it opens no edit.
     bool IsAcceptedKey(wxKeyEvent& event) override;
+    void BeginEdit(int row, int col, wxGrid* grid) override;
     void StartingKey(wxKeyEvent& event) override;
+    void Reset() override;
 
 protected:
     size_t Width() const { return m_width; }

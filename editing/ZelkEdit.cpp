@@ -5,6 +5,7 @@
 #include "catalogue/ZoneSlots.h"
 #include "editing/MemoryNumbers.h"
 #include "editing/ReplacedCells.h"
+#include "editing/ZelkEditors.h"
 #include "frame/Messages.h"
 #include "frame/ZelkMain.h"
 
@@ -65,6 +66,7 @@ constexpr ColumnCheck CheckOfColumn[ColumnTotal] = {
 // clang-format on
 
 void CheckCellsOfRow(wxGrid* grid, int row, MemoryNumberIndex* numbers) {
+    const wxString band = grid->GetCellValue(row, BAND);
     CellToCheck cell{grid, row, 0, {}, {}, numbers};
     for (; cell.column < ColumnTotal; ++cell.column) {
         if (!CheckOfColumn[cell.column])
@@ -74,6 +76,8 @@ void CheckCellsOfRow(wxGrid* grid, int row, MemoryNumberIndex* numbers) {
             cell.squelch = cell.text;
         CheckOfColumn[cell.column](cell);
     }
+    if (grid->GetCellValue(row, BAND) != band)
+        FitRowToItsBand(grid, row);
 }
 
 /// Makes the zone counters of the current page forget its rows, and the rows their slots.
@@ -103,12 +107,8 @@ void CheckPage() {
     wxGrid* grid = CurrentGrid();
     const int rows = CurrentParameters().Rows;
     wxGridUpdateLocker quiet(grid);
-    if (CurrentPageIsP25()) {
-        // A page of the other generation may have been set up since: by its names, zones of this
-        // one would be unknown and its rows lose them.
-        ZoneList = CurrentParameters().Type == NP25 ? ListOf(ZoneNames32) : ListOf(ZoneNames16);
+    if (CurrentPageIsP25())
         ForgetZones();
-    }
     MemoryNumberIndex numbers(rows);
     for (int row = 1; row <= rows; ++row)
         CheckRow(grid, row, numbers);

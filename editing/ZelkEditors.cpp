@@ -6,6 +6,7 @@
 #include "editing/DescriptionCell.h"
 #include "editing/DigitalSquelchCell.h"
 #include "editing/MemoryNumberCell.h"
+#include "editing/ScanLock.h"
 #include "editing/ZoneCell.h"
 
 #include <wx/grid.h>
@@ -52,9 +53,12 @@ void SetReadOnly(wxGrid* grid, int row, std::initializer_list<int> cols, bool re
         AttrOf(grid, row, col)->SetReadOnly(readOnly);
 }
 
+/// Writes texts that are right as they stand, whatever a check has said of the former ones.
 void SetTexts(wxGrid* grid, int row, std::initializer_list<int> cols, const wxString& text) {
-    for (int col : cols)
+    for (int col : cols) {
         grid->SetCellValue(row, col, text);
+        TakePaintOff(grid, row, col);
+    }
 }
 
 void SetYesNoEditor(wxGrid* grid, int row, int col) {
@@ -141,7 +145,7 @@ void SetPageEditors(int page) {
 
 void SetRowEditors(wxGrid* grid, int row) {
     const PageParameterRecord& page = CurrentParameters();
-    const int band = page.Type == MDLX ? GetRowBand(grid, row) : page.Band;
+    const int band = page.Type == MDLX ? GetBandOfEdit(grid, row) : page.Band;
     SetNumberCell(grid, row);
     if (page.Type == MDLX)
         SetCentred(grid, row, BAND, NewBandEditor(page.Band));
@@ -170,6 +174,7 @@ void SetRowEditorsP25(wxGrid* grid, int row) {
     SetReadOnly(grid, row, {SHAD}, true);
     SetYesNoScanCell(grid, row);
     AttrOf(grid, row, SCAN)->SetFont(grid->GetDefaultCellFont());
+    SetScanLock(grid, row);
     // The zones of both lists end before that of the guard rows, or the one that isn't scanned.
     SetCentred(grid, row, ZONE,
                page.Type == NP25 ? new P25ZoneEditor(std::size(ZoneNames32) - 1, Choices<ZoneNames32>())
@@ -204,24 +209,28 @@ void SetFrequencyEditors(wxGrid* grid, int row, int band) {
 
 void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
     const int type = CurrentParameters().Type;
+    // A row that is still to be filled has the locks of its texts to come, but none of them.
+    const bool hasTexts = !IsFilledByEdit(grid, row);
     if (band == 3)
         return;
     if (band == 6) {
         if (type != MDLX)
             return;
-        SetTexts(grid, row, {MODE, RCOD, TCOD}, "n/a");
         SetReadOnly(grid, row, {MODE, RCOD, TCOD}, true);
         SetReadOnly(grid, row, {RTON, TTON}, false);
+        if (hasTexts)
+            SetTexts(grid, row, {MODE, RCOD, TCOD}, "n/a");
         for (int col : {RTON, TTON})
-            if (bandChanged || GetToneIndex(grid->GetCellValue(row, col)) < 0)
-                grid->SetCellValue(row, col, "OFF");
+            if (hasTexts && (bandChanged || GetToneIndex(grid->GetCellValue(row, col)) < 0))
+                SetTexts(grid, row, {col}, "OFF");
         SetToneEditors(grid, row);
         return;
     }
     if (band == 2) {
         if (type != MDLX)
             return;
-        SetTexts(grid, row, {RTON, TTON, RCOD, TCOD}, "n/a");
+        if (hasTexts)
+            SetTexts(grid, row, {RTON, TTON, RCOD, TCOD}, "n/a");
         SetReadOnly(grid, row, {MODE}, false);
         SetReadOnly(grid, row, {RTON, TTON, RCOD, TCOD}, true);
         return;
@@ -235,6 +244,20 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
     // Meant: TTON keeps the editor that it has.
     SetEditor(grid, row, RTON, new ZelkChoiceEditor(std::size(CtcssTexts), Choices<CtcssTexts>()));
     SetReadOnly(grid, row, {SCAN}, grid->GetCellValue(row, ZONE) == "X");
+}
+
+void FitRowToItsBand(wxGrid* grid, int row) {
+    if (CurrentParameters().Type != MDLX)
+        return;
+    Unlock(grid, row);
+    SetRowEditors(grid, row);
+}
+
+void FitUnusedRowsToDefaultBand(wxGrid* grid) {
+    const wxGridUpdateLocker quiet(grid);
+    for (int row = 1; row <= CurrentParameters().Rows; ++row)
+        if (IsFilledByEdit(grid, row))
+            FitRowToItsBand(grid, row);
 }
 
 void ChangeRowBand(wxGrid* grid, int row, int band) {
@@ -260,7 +283,7 @@ void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDe
                                             Choices<TxDigitalSquelchRestricted>())
                      : new ZelkChoiceEditor(std::size(TxDigitalSquelch), Choices<TxDigitalSquelch>()));
     if (applyDefault) {
-        grid->SetCellValue(row, RSQL, "m");
-        grid->SetCellValue(row, TSQL, "g");
+        SetTexts(grid, row, {RSQL}, "m");
+        SetTexts(grid, row, {TSQL}, "g");
     }
 }

@@ -23,6 +23,15 @@ void SetFrequencyEditors(wxGrid* grid, int row, int band);
 /// the former band goes, too. TCOD stays read-only if a former band has made it so.
 void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged = false);
 
+/// On an MDLX page: makes locks, choices and texts of a row those of its band, after BAND has come by a
+/// command or a check. A row that is still to be filled takes after the default row, without texts. Nothing
+/// on other pages. Replaces the editors of the row: not for a row that is being edited.
+void FitRowToItsBand(wxGrid* grid, int row);
+
+/// FitRowToItsBand for the rows of an MDLX page that were never used, after the default row's band has
+/// changed.
+void FitUnusedRowsToDefaultBand(wxGrid* grid);
+
 /// Puts a row of an MDLX page on another band (id 0 to 8): its frequencies can't stay and are emptied,
 /// and the cells that depend on the band become those of the new one.
 void ChangeRowBand(wxGrid* grid, int row, int band);

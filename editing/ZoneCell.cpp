@@ -4,6 +4,7 @@
 #include "catalogue/RadioCatalogue.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
+#include "editing/ScanLock.h"
 #include "editing/Shadows.h"
 
 #include <wx/combobox.h>
@@ -15,10 +16,13 @@ namespace {
 /// The zone of second generation radios that is never scanned.
 constexpr int UnscannedZone = 31;
 
-/// True when the row is linked as primary. A copy of one has its flag, but no links.
-bool IsPrimary(wxGrid* grid, int row) {
-    return (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowLinkFlag) &&
-           grid->GetCellValue(row, SHAD).StartsWith("P-");
+/// Moves the count of a row's slot. Intentional: the default row holds none, so its zone moves none.
+bool TakeZone(int row, int zone) {
+    return row == 0 ? zone != wxNOT_FOUND : TakeP25ZonePosition(zone);
+}
+
+bool ReleaseZone(int row, const wxString& name) {
+    return row != 0 && ReleaseP25ZonePosition(FindZone(name));
 }
 
 } // namespace
@@ -26,15 +30,18 @@ bool IsPrimary(wxGrid* grid, int row) {
 void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
     // The last zone of a first generation radio belongs to its guard rows.
     const int limit = CurrentParameters().Type == RP25 ? 14 : UnscannedZone;
-    // Meant: an edit that is given up leaves the row without its slot until the slots are counted anew.
+    // The row holds no slot while the edit runs, so that its own zone is offered when that is full.
     m_startZone = grid->GetCellValue(row, ZONE);
-    ReleaseP25ZonePosition(ZoneList.Index(m_startZone));
+    m_slotReleased = ReleaseZone(row, m_startZone);
 
     const bool scanned = grid->GetCellValue(row, SCAN) == "Y";
+    // A memory's own zone has room now; the default row's may be full and is offered all the same.
+    const int ownOfDefaultRow = row == 0 ? FindZone(m_startZone) : wxNOT_FOUND;
     const int32_t* slots = ZoneSlotsOf(CurrentPage);
     wxString names;
     for (int zone = 0; zone <= limit; ++zone) {
-        if (slots[zone] == ZoneCapacity || (zone == UnscannedZone && scanned))
+        const bool full = slots[zone] == ZoneCapacity && zone != ownOfDefaultRow;
+        if (full || (zone == UnscannedZone && scanned))
             continue;
         if (!names.empty())
             names += ',';
@@ -49,27 +56,24 @@ void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
     ListChoiceEditor::BeginEdit(row, col, grid);
 }
 
-bool P25ZoneEditor::EndEdit(int, int, const wxGrid*, const wxString&, wxString* newval) {
-    if (IsGivenUp())
-        return false;
-    // Also a choice of the same zone counts: its slot was given back when the edit began.
-    m_value = Combo()->GetValue();
-    if (newval)
-        *newval = m_value;
-    return true;
+bool P25ZoneEditor::EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) {
+    if (ListChoiceEditor::EndEdit(row, col, grid, oldval, newval))
+        return true;
+    if (m_slotReleased)
+        TakeZone(row, FindZone(m_startZone));
+    return false;
 }
 
 void P25ZoneEditor::ApplyEdit(int row, int, wxGrid* grid) {
     const wxString before = grid->GetCellValue(row, ZONE);
-    const int zone = ZoneList.Index(m_value);
-    if (!TakeP25ZonePosition(zone))
+    const int zone = FindZone(m_value);
+    if (!TakeZone(row, zone))
         return;
     // A blank row has been filled since the edit began, and given a zone.
     if (before != m_startZone)
-        ReleaseP25ZonePosition(ZoneList.Index(before));
+        ReleaseZone(row, before);
     grid->SetCellValue(row, ZONE, m_value);
-    // Like its shadows, a primary is never scanned, whatever its zone.
-    grid->SetReadOnly(row, SCAN, zone == UnscannedZone || IsPrimary(grid, row));
+    SetScanLock(grid, row);
     if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowLinkFlag) {
         const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
         for (int shadow : ShadowRowsOf(grid, number))

@@ -17,4 +17,5 @@ public:
 
 private:
     wxString m_startZone;
+    bool m_slotReleased = false;
 };

@@ -3,6 +3,7 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
+#include "editing/Shadows.h"
 #include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
 #include "files/ChannelFileFields.h"
@@ -83,14 +84,31 @@ public:
         m_grid->SetCellValue(m_row, TFLG, TflgMade);
     }
 
-    /// Cells of primaries and shadows are locked last: the page's editors unlock some of them.
-    void LockCells() {
-        for (const auto& [row, column] : m_locked)
-            m_grid->SetReadOnly(row, column, true);
+    /// Locks primaries and shadows, by what SHAD says in the end: a row may have come twice. To be called
+    /// after the page's editors were set, which unlock some of the cells.
+    void LockLinkedRows() const {
+        if (!m_p25)
+            return;
+        for (int row = 0; row <= m_parameters.Rows; ++row)
+            switch (KindOf(m_grid->GetCellValue(row, SHAD))) {
+            case Kind::Primary:
+                LockLinkedRow(row, PrimaryRow);
+                break;
+            case Kind::Shadow:
+                LockLinkedRow(row, ShadowRow);
+                break;
+            case Kind::Plain:
+                break;
+            }
     }
 
 private:
     enum class Kind { Plain, Primary, Shadow };
+
+    /// What a row is by the text of SHAD: "P-2", "S-010", or "N".
+    static Kind KindOf(const wxString& text) {
+        return text.StartsWith("P") ? Kind::Primary : text.StartsWith("S") ? Kind::Shadow : Kind::Plain;
+    }
 
     /// Position of an element's name, CellTotal when it has none. Most are where they are expected.
     size_t Find(const wxString& name, size_t expected) const {
@@ -109,11 +127,10 @@ private:
                 m_parameters.Flags |= PageHasShadows;
             break;
         case SHAD:
-            m_kind = text.StartsWith("P") ? Kind::Primary : text.StartsWith("S") ? Kind::Shadow : m_kind;
+            m_kind = KindOf(text);
             break;
         case SCAN:
             if (m_p25 && m_kind != Kind::Plain) {
-                m_locked.emplace_back(m_row, SCAN);
                 m_grid->SetCellValue(m_row, SCAN, "N");
                 return;
             }
@@ -128,12 +145,10 @@ private:
     }
 
     void TakeZone(const wxString& text) {
-        if (m_kind == Kind::Shadow)
-            m_locked.emplace_back(m_row, ZONE);
         const auto row = static_cast<size_t>(m_row);
         // A row that comes again holds one slot all the same.
         if (m_hasZone[row])
-            ReleaseP25ZonePosition(RadioCatalogue::ZoneList.Index(m_grid->GetCellValue(m_row, ZONE)));
+            ReleaseP25ZonePosition(FindZone(m_grid->GetCellValue(m_row, ZONE)));
         m_hasZone[row] = m_row != 0;
         CheckZone(m_grid, m_row, text);
         m_grid->SetCellValue(m_row, TFLG, TflgMade);
@@ -146,7 +161,6 @@ private:
     Kind m_kind = Kind::Plain;
     std::array<wxString, CellTotal> m_names, m_formerNames;
     std::vector<bool> m_hasZone;
-    std::vector<std::pair<int, int>> m_locked;
 };
 
 } // namespace
@@ -196,7 +210,7 @@ int ReadMemories(const wxXmlNode* memories, int page) {
         reader.ReadRow(*element);
     }
     SetPageEditors(page);
-    reader.LockCells();
+    reader.LockLinkedRows();
     return result;
 }
 

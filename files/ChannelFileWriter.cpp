@@ -8,6 +8,8 @@
 #include <wx/grid.h>
 #include <wx/xml/xml.h>
 
+#include <algorithm>
+
 using namespace ChannelFile;
 
 namespace {
@@ -108,17 +110,18 @@ wxString ChannelFileText(int column, const wxString& text, int& number) {
     return text;
 }
 
-int BuildChannelFile(int page, wxXmlDocument& document) {
+std::vector<int> BuildChannelFile(int page, wxXmlDocument& document) {
     auto* root = new wxXmlNode(wxXML_ELEMENT_NODE, RootName);
     document.SetRoot(root); // the document owns it
     PageWriter writer(page, root);
-    int leftOut = 0;
+    std::vector<int> leftOut;
     for (int row = PageParameters[page].Rows; row >= 0; --row) {
         if (RowIsComplete(row))
             writer.WriteRow(row);
-        else if (row > 0 && RowHasData(row))
-            ++leftOut;
+        else if (RowHasData(row))
+            leftOut.push_back(row);
     }
     WriteHeader(page, root);
+    std::reverse(leftOut.begin(), leftOut.end());
     return leftOut;
 }

@@ -11,6 +11,8 @@
 #include <wx/msgdlg.h>
 #include <wx/textbuf.h>
 
+#include <vector>
+
 using namespace RadioCatalogue;
 
 namespace {
@@ -29,12 +31,24 @@ std::string InSystemLineEnds(const std::string& text) {
     return lines;
 }
 
-/// Calls work(row) for each row of the grid that is selected, row 0 too.
-template <class Work>
-void ForEachSelectedRow(const wxGrid* grid, Work work) {
+/// Whether a list of the radio type has a line for a selected row.
+bool IsListed(int type, int row) {
+    // A KDAR list knows neither blank memories nor a default row: each line is a memory when it is read.
+    return type != KDAR || (row > 0 && RowHasData(row));
+}
+
+/// The rows of the current page that a list of the radio type gets, ascending: those that are selected.
+std::vector<int> RowsToList(const wxGrid* grid, int type) {
+    std::vector<int> rows;
     for (int row = 0; row < grid->GetNumberRows(); ++row)
-        if (grid->IsInSelection(row, MNUM))
-            work(row);
+        if (grid->IsInSelection(row, MNUM) && IsListed(type, row))
+            rows.push_back(row);
+    return rows;
+}
+
+/// Only whole rows count as selected.
+bool HasRowsToList(const wxGrid* grid, int type) {
+    return !grid->GetSelectedRows().empty() && !RowsToList(grid, type).empty();
 }
 
 /// Asks where the list is to go. Empty when the user cancelled.
@@ -51,7 +65,7 @@ wxString AskForExportFile(wxWindow* parent) {
 
 bool CsvExport::OpenCsvWrite(const wxString& path, int type) {
     const int flags = ReadHex(CurrentGrid()->GetCellValue(1, TFLG));
-    if (m_file.IsOpened() || !m_file.Open(path).empty())
+    if (m_file.IsOpened() || m_file.Open(path))
         return false;
     m_text = type == KDAR ? KdarHeadingLines(flags & PurgeFlag) : CsvHeadingLine(type);
     return true;
@@ -66,17 +80,17 @@ bool CsvExport::WriteCsvLine(const wxArrayString& fields, size_t count) {
 
 void CsvExport::ExportCSV(wxGrid* grid, int type) {
     wxArrayString fields;
-    ForEachSelectedRow(grid, [&](int row) {
+    for (int row : RowsToList(grid, type)) {
         fields.Empty();
         for (int position = 0; position < CsvFieldTotal; ++position)
             if (CsvFieldMask[type][position])
                 fields.Add(grid->GetCellValue(row, CsvFieldTable[position].written));
         WriteCsvLine(fields, CsvFieldCount(type));
-    });
+    }
 }
 
 void CsvExport::ExportCSV_KDAR(wxGrid* grid, int) {
-    ForEachSelectedRow(grid, [&](int row) {
+    for (int row : RowsToList(grid, KDAR)) {
         wxArrayString fields;
         fields.Add(KdarNumberText(grid->GetCellValue(row, MNUM)));
         fields.Add(grid->GetCellValue(row, DESC));
@@ -85,24 +99,24 @@ void CsvExport::ExportCSV_KDAR(wxGrid* grid, int) {
         fields.Add(KdarScanText(grid->GetCellValue(row, SCAN)));
         fields.Add(KdarRxOnlyText(grid->GetCellValue(row, RONL)));
         WriteCsvLine(fields, KdarFieldTotal);
-    });
+    }
 }
 
 bool CsvExport::CloseCsv() {
-    return !m_file.IsOpened() || m_file.Finish(InSystemLineEnds(m_text)).empty();
+    return !m_file.IsOpened() || !m_file.Finish(InSystemLineEnds(m_text));
 }
 
 void ZelkFrame::OnExport(wxCommandEvent& event) {
     CommitOpenEditor();
     wxGrid* grid = CurrentGrid();
-    if (grid->GetSelectedRows().empty()) {
+    const int type = CurrentParameters().Type;
+    if (!HasRowsToList(grid, type)) {
         wxMessageBox("No data selected!", "Export CSV - Error!", wxOK | wxCENTRE | wxICON_ERROR);
         return;
     }
     const wxString path = AskForExportFile(this);
     if (path.empty())
         return;
-    const int type = CurrentParameters().Type;
     CsvExport list;
     bool written = list.OpenCsvWrite(path, type);
     if (written) {

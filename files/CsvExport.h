@@ -22,7 +22,7 @@ public:
     /// Adds the grid's selected rows in the general dialect, with the fields that the type has.
     void ExportCSV(wxGrid* grid, int type);
 
-    /// Adds the grid's selected rows in the KDAR dialect.
+    /// Adds the selected memory rows that have data, in the KDAR dialect.
     void ExportCSV_KDAR(wxGrid* grid, int type);
 
     /// Puts the file in its place, in the line ends of the system. False when it can't be written;

@@ -7,6 +7,7 @@
 #include "editing/ZelkEdit.h"
 #include "files/CsvFields.h"
 #include "files/CsvReader.h"
+#include "files/ImportOutcome.h"
 
 #include <wx/ffile.h>
 #include <wx/grid.h>
@@ -71,6 +72,13 @@ public:
 
     void Write(int column, const wxString& text) { m_grid->SetCellValue(m_row, column, text); }
 
+    /// Empties RSQL or TSQL, whatever the line gave it.
+    void EmptySquelch(int column, const wxString& given) {
+        Write(column, wxString());
+        if (CurrentPageIsP25())
+            NoteIfReplaced(m_grid, m_row, column, given);
+    }
+
     /// The row has all its texts.
     void FinishRow(const wxString& flags) {
         Write(TFLG, flags);
@@ -85,9 +93,10 @@ public:
             TakeNumber();
             break;
         case BAND:
-            // The check leaves a good band as it stands, and the frequencies are checked by it.
-            Write(BAND, text);
-            CheckBand(m_grid, m_row, text);
+            // The check writes no band that can stand. One that can't must not even pass through the default
+            // row, whose band the others are repaired with.
+            if (CheckBand(m_grid, m_row, text) == CheckGood)
+                Write(BAND, text);
             break;
         case SCAN:
             CheckScan(m_grid, m_row, text);
@@ -97,6 +106,7 @@ public:
             break;
         case DESC:
             CheckDesc(m_grid, m_row, text);
+            NoteIfReplaced(m_grid, m_row, DESC, text);
             break;
         case MODE:
             CheckMode(m_grid, m_row, text);
@@ -152,13 +162,15 @@ private:
         const auto before = ZoneSlots;
         CheckZone(m_grid, m_row, text);
         m_taken[static_cast<size_t>(m_row)] = before != ZoneSlots;
+        if (CurrentPageIsP25())
+            NoteIfReplaced(m_grid, m_row, ZONE, text);
     }
 
     /// Gives back the slot that the row holds, so that a row that comes again holds one all the same.
     void GiveZoneBack() {
         if (!CurrentPageIsP25() || m_row == 0 || !HoldsSlot())
             return;
-        ReleaseP25ZonePosition(ZoneList.Index(TextOf(ZONE)));
+        ReleaseP25ZonePosition(FindZone(TextOf(ZONE)));
         m_taken[static_cast<size_t>(m_row)] = false;
     }
 
@@ -201,13 +213,21 @@ void TakeKdarLine(RowWriter& writer, const CsvTexts& fields) {
         writer.Write(RONL, fields[KdarRxOnly] == "Yes" ? "Y" : "N");
 }
 
+/// What a line gives a column; empty when the list has no such field.
+wxString FieldFor(int column, const CsvTexts& fields) {
+    for (size_t position = 0; position < CsvFieldTotal; ++position)
+        if (CsvFieldTable[position].read == column)
+            return fields[position];
+    return {};
+}
+
 void TakeLine(RowWriter& writer, const CsvReader& reader, const CsvTexts& fields) {
     for (int position = 0; position < CsvFieldTotal; ++position) {
         const int column = CsvFieldTable[position].read;
         if (reader.CsvFieldColumn[static_cast<size_t>(position)] < 0) {
             // Meant: a list without RCOD empties RSQL, one without TTGP empties TSQL.
             if (position == RSQL || position == TSQL)
-                writer.Write(position, wxString());
+                writer.EmptySquelch(position, FieldFor(position, fields));
         } else if (!fields[static_cast<size_t>(position)].empty()) {
             writer.TakeField(column, fields[static_cast<size_t>(position)]);
         }
@@ -224,8 +244,10 @@ int TakeLines(CsvReader& reader, Take takeLine) {
     CsvTexts fields;
     int count = 0;
     for (int line = 1; reader.GetData_CSV(fields, rows); ++line) {
-        if (line >= rows)
+        if (line >= rows) {
+            SkippedLines::Note(reader.LineNumber());
             continue;
+        }
         takeLine(writer, line, fields);
         ++count;
     }
@@ -242,7 +264,11 @@ int Import_CSV(wxFFile& file) {
         return 0;
     }
     const wxString flags = TflgMade;
+    LinesOfRows lines(CurrentGrid()->GetNumberRows());
     return TakeLines(reader, [&](RowWriter& writer, int, const CsvTexts& fields) {
+        // Lines for the default row add to each other.
+        if (reader.Row() != 0)
+            lines.Take(reader.Row(), reader.LineNumber());
         writer.FillRow(reader.Row());
         TakeLine(writer, reader, fields);
         writer.FinishRow(flags);

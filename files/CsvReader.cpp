@@ -3,6 +3,7 @@
 #include "catalogue/AsciiText.h"
 #include "catalogue/TextNumbers.h"
 #include "files/CsvFields.h"
+#include "files/ImportOutcome.h"
 
 #include <wx/strconv.h>
 
@@ -96,13 +97,27 @@ size_t CsvReader::GetLine_CSV(std::vector<std::string>& fields) {
         }
     }
     fields.push_back(std::move(field));
-    while (IsLineEnd(m_current))
-        Advance();
+    m_lineNumber = m_nextLineNumber;
+    for (; IsLineEnd(m_current); Advance())
+        m_nextLineNumber += m_current == '\r' ? m_next != '\n' : 1;
     return fields.size();
 }
 
 wxString CsvReader::Field(size_t i) const {
     return i < m_fields.size() ? CsvCellText(m_fields[i]) : wxString();
+}
+
+bool CsvReader::LineHasText() const {
+    for (size_t i = 0; i < m_fields.size(); ++i)
+        if (!Field(i).empty())
+            return true;
+    return false;
+}
+
+/// The line taken last is passed over. One without a text has nothing to lose.
+void CsvReader::SkipLine() const {
+    if (LineHasText())
+        SkippedLines::Note(m_lineNumber);
 }
 
 int CsvReader::CountHeadings() {
@@ -126,6 +141,8 @@ bool CsvReader::GetHeader_CSV() {
             CsvFieldColumn.fill(-1);
         GetLine_CSV(m_fields);
         m_headerFound = CountHeadings() > 0;
+        if (!m_headerFound)
+            SkipLine();
     } while (!m_headerFound && !IsAtEnd());
     return m_headerFound;
 }
@@ -157,8 +174,10 @@ bool CsvReader::GetData_CSV(CsvTexts& fields, int rows) {
     while (m_headerFound && !IsAtEnd()) {
         GetLine_CSV(m_fields);
         m_row = RowOfKey(rows);
-        if (m_row >= rows)
+        if (m_row >= rows) {
+            SkipLine();
             continue;
+        }
         if (m_dialect == Dialect::Kdar) {
             for (size_t i = 0; i < KdarFieldTotal; ++i)
                 take(i, i);

@@ -44,8 +44,12 @@ public:
     wxString Field(size_t i) const;
 
     /// Takes lines up to the first that is for one of the grid's rows (0 to rows - 1) and gives its
-    /// texts, empty where the line has nothing. False when there is no such line or was no heading.
+    /// texts, empty where the line has nothing. Lines that it passes over are noted as skipped. False when
+    /// there is no such line or was no heading.
     bool GetData_CSV(CsvTexts& fields, int rows);
+
+    /// The number (from 1) of the line taken last, as an editor counts it.
+    int LineNumber() const { return m_lineNumber; }
 
     /// The row that the key of the line of GetData_CSV names. Without meaning in the KDAR dialect.
     int Row() const { return m_row; }
@@ -58,6 +62,8 @@ private:
 
     int TakeByte();
     void Advance();
+    bool LineHasText() const;
+    void SkipLine() const;
     int CountHeadings();
     int RowOfKey(int rows) const;
 
@@ -68,5 +74,7 @@ private:
     int m_current, m_next;
     bool m_headerFound = false;
     int m_row = -1;
+    int m_lineNumber = 0;
+    int m_nextLineNumber = 1;
     std::vector<std::string> m_fields;
 };

@@ -3,6 +3,7 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/ZelkEdit.h"
+#include "files/ImportOutcome.h"
 
 namespace {
 
@@ -38,8 +39,14 @@ RowWriter716::RowWriter716() : m_grid(CurrentGrid()), m_numbers(CurrentParameter
 void RowWriter716::Write(int row, const Record716& record) {
     write716ToGrid(m_grid, row, record);
     // No memory is told that the default row has its number.
-    if (row == 0)
-        return CheckRow(m_grid, row);
-    m_numbers.Change(row, record.Mnum);
-    CheckRow(m_grid, row, m_numbers);
+    if (row == 0) {
+        CheckRow(m_grid, row);
+    } else {
+        m_numbers.Change(row, record.Mnum);
+        CheckRow(m_grid, row, m_numbers);
+    }
+    NoteIfReplaced(m_grid, row, DESC, record.Desc);
+    const bool hasOwnZone = !(ReadHex(record.Mflg) & (ShadowIndexMask | Guard716));
+    if (CurrentPageIsP25() && hasOwnZone && !record.Zone.empty())
+        NoteIfReplaced(m_grid, row, ZONE, record.Zone);
 }

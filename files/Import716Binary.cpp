@@ -3,6 +3,7 @@
 #include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "files/ImportOutcome.h"
 #include "files/ImportText.h"
 #include "files/LastOfRow.h"
 
@@ -222,11 +223,17 @@ int Import716_Binary(wxFFile& file) {
     wxGrid* grid = CurrentGrid();
     Records records(file, CurrentParameters().Type);
     LastOfRow<std::shared_ptr<const Record716>> kept(grid->GetNumberRows());
+    LinesOfRows places(grid->GetNumberRows());
     int count = 0;
+    int place = 0;
     for (auto record = std::make_shared<Record716>(); records.Next(*record);) {
         const int row = RowOf716(*record);
-        if (row < 0)
+        ++place;
+        if (row < 0) {
+            SkippedLines::Note(place);
             continue;
+        }
+        places.Take(row, place);
         kept.Keep(row, std::exchange(record, std::make_shared<Record716>()));
         ++count;
     }

@@ -3,6 +3,7 @@
 #include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "files/ImportOutcome.h"
 #include "files/ImportText.h"
 #include "files/LastOfRow.h"
 
@@ -113,6 +114,35 @@ void LinkShadow(wxGrid* grid, int row, int primary) {
     grid->SetReadOnly(row, ZONE, true);
 }
 
+/// The lines of a list behind its titles, with the numbers that an editor gives them.
+class ListLines {
+public:
+    explicit ListLines(wxFFile& file) : m_lines(file) {
+        wxString title;
+        while (m_number < TitleLines && m_lines.Next(title))
+            ++m_number;
+    }
+
+    bool Next(wxString& line) {
+        ++m_number;
+        return m_lines.Next(line);
+    }
+
+    int Number() const { return m_number; }
+
+    /// The list ended with this line: notes it and those behind it, but for blank ones.
+    void SkipRest(wxString line) {
+        do
+            if (!line.Strip(wxString::both).empty())
+                SkippedLines::Note(m_number);
+        while (Next(line));
+    }
+
+private:
+    LineReader m_lines;
+    int m_number = 0;
+};
+
 void LinkShadows(wxGrid* grid, const KeptRecords& kept) {
     for (int row = 1; row < grid->GetNumberRows(); ++row) {
         const KeptRecord* from = kept.Of(row);
@@ -164,19 +194,21 @@ ListLine716 Read716TextLine(const wxString& line, int rows, Record716& record) {
 int Import716_Text(wxFFile& file) {
     wxGrid* grid = CurrentGrid();
     const int rows = grid->GetNumberRows();
-    LineReader lines(file);
+    ListLines lines(file);
     wxString line;
-    for (int title = 0; title < TitleLines; ++title)
-        lines.Next(line);
-
     KeptRecords kept(rows);
+    LinesOfRows linesOfRows(rows);
     std::set<int> unscanned;
     auto current = std::make_shared<ListRecord>();
     int count = 0;
     for (auto next = std::make_shared<ListRecord>(); lines.Next(line);) {
         const ListLine716 kind = Read716TextLine(line, rows, next->record);
-        if (kind == ListLine716::End)
+        if (kind == ListLine716::End) {
+            lines.SkipRest(line);
             break;
+        }
+        if (kind == ListLine716::NoMemory)
+            SkippedLines::NoteWithoutMemory();
         if (kind == ListLine716::Memory) {
             current = std::exchange(next, std::make_shared<ListRecord>());
             const Record716& record = current->record;
@@ -185,6 +217,10 @@ int Import716_Text(wxFFile& file) {
         }
         // Meant: a number without a memory repeats the record before it, which is counted again.
         const int row = RowOfListRecord(current->record);
+        if (kind == ListLine716::Memory && row >= 0)
+            linesOfRows.Take(row, lines.Number());
+        else if (kind == ListLine716::Memory)
+            SkippedLines::Note(lines.Number());
         if (row < 0)
             continue;
         kept.Keep(row, current);

@@ -7,6 +7,7 @@
 #include "editing/ColumnChecks.h"
 #include "editing/FrequencyRules.h"
 #include "editing/ScanListCell.h"
+#include "files/ImportOutcome.h"
 #include "files/ImportText.h"
 #include "files/LastOfRow.h"
 
@@ -30,6 +31,7 @@ constexpr TextColumns TransmitToneColumns{48, 2};
 constexpr TextColumns TransmitCodeColumns{58, 3};
 constexpr TextColumns ReceiveCodeColumns{64, 3};
 constexpr TextColumns ScanColumns{70, 5};
+constexpr TextColumns ModeColumns{75, 1};
 
 /// Meant: a line's own mode has no effect, on pages of any type.
 constexpr const char* ImportedMode = "w";
@@ -39,10 +41,6 @@ constexpr int LastTone = std::size(ToneTexts) - 1;
 
 constexpr int ModuleBand = 8;
 constexpr int NextModuleBand = 9;
-
-wxString ToneOf(const wxString& line, const TextColumns& columns) {
-    return GetToneText(std::min(ReadDecimal(columns.Of(line)), LastTone));
-}
 
 /// The texts that a line of a band gives the rows of a page.
 class LineWriter {
@@ -60,16 +58,18 @@ public:
             CheckZone(m_grid, m_row, wxString());
         Set(DESC, DescriptionColumns.Of(m_line));
         Set(MODE, TextOfAscii(ImportedMode));
-        Set(RFRQ, Frequency(ReceiveFrequencyColumns));
+        if (ModeColumns.Of(m_line).IsSameAs("N", false))
+            ReplacedCells::Note(m_row, MODE);
+        WriteFrequency(RFRQ, ReceiveFrequencyColumns);
         TakeFromDefaultRow({RSQL});
         if (CurrentParameters().Type == NP25)
             TakeFromDefaultRow({RNSV});
-        CheckTone(m_grid, m_row, RTON, ToneOf(m_line, ReceiveToneColumns), DefaultSquelch(RSQL));
+        WriteTone(RTON, ReceiveToneColumns, RSQL);
         CheckCode(m_grid, m_row, RCOD, ReceiveCodeColumns.Of(m_line), DefaultSquelch(RSQL));
         TakeFromDefaultRow({RTGP, RNAC});
-        Set(TFRQ, Frequency(TransmitFrequencyColumns));
+        WriteFrequency(TFRQ, TransmitFrequencyColumns);
         TakeFromDefaultRow({TSQL});
-        CheckTone(m_grid, m_row, TTON, ToneOf(m_line, TransmitToneColumns), DefaultSquelch(TSQL));
+        WriteTone(TTON, TransmitToneColumns, TSQL);
         CheckCode(m_grid, m_row, TCOD, TransmitCodeColumns.Of(m_line), DefaultSquelch(TSQL));
         TakeFromDefaultRow({TTGP, TNAC, TIDC});
     }
@@ -115,11 +115,22 @@ private:
             Set(SCAN, TextOfAscii(IsText(mask, "0") ? "N" : "Y"));
     }
 
-    wxString Frequency(const TextColumns& columns) const {
-        if (!(m_alignment & FrequenciesCannotStay))
-            return columns.Of(m_line);
+    void WriteFrequency(int column, const TextColumns& columns) {
+        const wxString given = columns.Of(m_line);
         const int band = CurrentParameters().Band;
-        return band < BandTotal ? wxString(BandStart[band]) : wxString();
+        if (!(m_alignment & FrequenciesCannotStay))
+            Set(column, given);
+        else
+            Set(column, band < BandTotal ? wxString(BandStart[band]) : wxString());
+        NoteIfReplaced(m_grid, m_row, column, given);
+    }
+
+    void WriteTone(int column, const TextColumns& columns, int squelchColumn) {
+        const int position = ReadDecimal(columns.Of(m_line));
+        CheckTone(m_grid, m_row, column, GetToneText(std::min(position, LastTone)),
+                  DefaultSquelch(squelchColumn));
+        if (position > LastTone)
+            ReplacedCells::Note(m_row, column);
     }
 
     wxGrid* m_grid;
@@ -168,12 +179,18 @@ void writeANFMToGrid(wxGrid* grid, const wxString& line) {
 int ImportMultiZEL(const wxTextFile& file) {
     wxGrid* grid = CurrentGrid();
     LastOfRow<wxString> kept(grid->GetNumberRows());
+    LinesOfRows lines(grid->GetNumberRows());
     for (size_t number = 0; number < file.GetLineCount(); ++number) {
         // A zero byte ends a line as it ends the texts of other files.
         const wxString line = file[number].BeforeFirst('\0');
         const int row = RowOfMultiZELLine(line, grid->GetNumberRows());
-        if (row >= 0)
+        const int lineNumber = static_cast<int>(number) + 1;
+        if (row >= 0) {
             kept.Keep(row, line);
+            lines.Take(row, lineNumber);
+        } else if (!line.Strip(wxString::both).empty()) {
+            SkippedLines::Note(lineNumber);
+        }
     }
     wxGridUpdateLocker quiet(grid);
     kept.ForEach([grid](int, const wxString& line) { writeANFMToGrid(grid, line); });

@@ -1,5 +1,7 @@
 #include "files/WholeFile.h"
 
+#include "files/InPlace.h"
+
 #include <wx/file.h>
 #include <wx/filename.h>
 #include <wx/log.h>
@@ -15,12 +17,9 @@ namespace {
 constexpr int MostLinks = 40;
 constexpr int MostNames = 100;
 
-wxString TextOf(const std::error_code& error) {
-    return wxString::FromUTF8(error.message());
-}
-
-wxString LastProblem() {
-    return TextOf({errno, std::generic_category()});
+/// Why the last call to the system failed.
+std::error_code LastError() {
+    return {errno ? errno : EIO, std::generic_category()};
 }
 
 /// A path as the toolkit takes it, whatever the locale.
@@ -36,20 +35,25 @@ fs::path FollowLinks(fs::path path) {
     return path;
 }
 
-/// Why a file must not be replaced; empty when it may, or doesn't exist.
-wxString WhyNotReplaceable(const fs::path& path) {
+/// Why a file must not be replaced; no error when it may, or doesn't exist.
+std::error_code WhyNotReplaceable(const fs::path& path) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (error && status.type() != fs::file_type::not_found)
-        return TextOf(error);
+        return error;
     if (!fs::exists(status))
         return {};
     if (!fs::is_regular_file(status))
-        return TextOf(std::make_error_code(fs::is_directory(status) ? std::errc::is_a_directory
-                                                                    : std::errc::operation_not_supported));
-    if (!wxFileName::IsFileWritable(NameOf(path)))
-        return LastProblem();
-    return {};
+        return std::make_error_code(fs::is_directory(status) ? std::errc::is_a_directory
+                                                             : std::errc::operation_not_supported);
+    return wxFileName::IsFileWritable(NameOf(path)) ? std::error_code() : LastError();
+}
+
+/// True for what a folder answers that forbids files to come and go. A disk that is full is no such answer:
+/// overwriting would then risk the former file for nothing.
+bool IsForbiddenByFolder(const std::error_code& error) {
+    return error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
+           error == std::errc::read_only_file_system || error == std::errc::device_or_resource_busy;
 }
 
 /// A file that did not exist, beside path.
@@ -64,73 +68,136 @@ fs::path CreateBeside(const fs::path& path, wxFile& file) {
     return name;
 }
 
-/// A disk that gets full takes the first bytes of a block and says so only when asked to take the rest.
-bool WriteAll(wxFile& file, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const size_t count = file.Write(bytes.data(), bytes.size());
+/// How many bytes were written. A disk that gets full takes the first bytes of a block and says so only when
+/// asked to take the rest.
+size_t WriteAll(wxFile& file, std::string_view bytes) {
+    size_t done = 0;
+    while (done < bytes.size()) {
+        const size_t count = file.Write(bytes.data() + done, bytes.size() - done);
         if (count == 0)
-            return false;
-        bytes.remove_prefix(count);
+            break;
+        done += count;
     }
-    return true;
+    return done;
+}
+
+/// A file on the disk.
+class DiskBytes : public FileBytes {
+public:
+    explicit DiskBytes(const fs::path& path) : m_path(path), m_file(NameOf(path), wxFile::read_write) {}
+
+    bool IsOpened() const { return m_file.IsOpened(); }
+
+    size_t Size() const override { return static_cast<size_t>(m_file.Length()); }
+
+    std::error_code Read(size_t count, std::string& bytes) override {
+        bytes.resize(count);
+        errno = 0;
+        const bool good =
+            m_file.Seek(0) == 0 && m_file.Read(bytes.data(), count) == static_cast<ssize_t>(count);
+        return good ? std::error_code() : LastError();
+    }
+
+    std::error_code Write(size_t offset, std::string_view bytes, size_t& done) override {
+        errno = 0;
+        done =
+            m_file.Seek(static_cast<wxFileOffset>(offset)) == wxInvalidOffset ? 0 : WriteAll(m_file, bytes);
+        return done == bytes.size() ? std::error_code() : LastError();
+    }
+
+    std::error_code Flush() override {
+        errno = 0;
+        return m_file.Flush() ? std::error_code() : LastError();
+    }
+
+    std::error_code Resize(size_t size) override {
+        std::error_code error;
+        fs::resize_file(m_path, size, error);
+        return error;
+    }
+
+private:
+    fs::path m_path;
+    wxFile m_file;
+};
+
+OverwriteResult Overwrite(const fs::path& path, std::string_view bytes) {
+    errno = 0;
+    DiskBytes file(path);
+    return file.IsOpened() ? OverwriteBytes(file, bytes) : OverwriteResult{LastError()};
 }
 
 } // namespace
 
 struct FileReplacement::State {
-    fs::path target, fresh;
+    fs::path target;
+    fs::path fresh; ///< the file beside it; empty when the target is to be overwritten
     wxFile file;
+
+    /// Writes the fresh file and gives it the target's permissions and its place.
+    std::error_code PutInPlace(std::string_view bytes) {
+        errno = 0;
+        if (WriteAll(file, bytes) < bytes.size() || !file.Flush() || !file.Close())
+            return LastError();
+        std::error_code error, ignored;
+        // A file system without permissions has none to keep.
+        if (fs::exists(target, ignored))
+            fs::permissions(fresh, fs::status(target, ignored).permissions(), ignored);
+        fs::rename(fresh, target, error);
+        return error;
+    }
+
+    void DropFresh() {
+        file.Close();
+        std::error_code ignored;
+        if (!fresh.empty())
+            fs::remove(fresh, ignored);
+        fresh.clear();
+    }
 };
 
 FileReplacement::FileReplacement() = default;
 
 FileReplacement::~FileReplacement() {
-    if (!m_state)
-        return;
     const wxLogNull quiet;
-    m_state->file.Close();
-    std::error_code ignored;
-    fs::remove(m_state->fresh, ignored);
+    if (m_state)
+        m_state->DropFresh();
 }
 
-wxString FileReplacement::Open(const wxString& path) {
+std::error_code FileReplacement::Open(const wxString& path) {
     const wxLogNull quiet;
     auto state = std::make_unique<State>();
     state->target = FollowLinks(fs::path(path.fn_str().data()));
-    const wxString refusal = WhyNotReplaceable(state->target);
-    if (!refusal.empty())
+    if (const auto refusal = WhyNotReplaceable(state->target))
         return refusal;
+    errno = 0;
     state->fresh = CreateBeside(state->target, state->file);
-    if (!state->file.IsOpened())
-        return LastProblem();
+    if (!state->file.IsOpened()) {
+        const std::error_code error = LastError();
+        std::error_code ignored;
+        if (!IsForbiddenByFolder(error) || !fs::exists(state->target, ignored))
+            return error;
+        state->fresh.clear();
+    }
     m_state = std::move(state);
     return {};
 }
 
-wxString FileReplacement::Finish(std::string_view bytes) {
+std::error_code FileReplacement::Finish(std::string_view bytes) {
     const wxLogNull quiet;
     const std::unique_ptr<State> state = std::move(m_state);
-    wxFile& file = state->file;
-    std::error_code error;
-    if (!(WriteAll(file, bytes) && file.Flush() && file.Close()))
-        error.assign(errno ? errno : EIO, std::generic_category());
-    else {
+    m_formerIsDamaged = false;
+    if (!state->fresh.empty()) {
+        const std::error_code error = state->PutInPlace(bytes);
+        if (!error)
+            return {};
+        state->DropFresh();
         std::error_code ignored;
-        // A file system without permissions has none to keep.
-        if (fs::exists(state->target, ignored))
-            fs::permissions(state->fresh, fs::status(state->target, ignored).permissions(), ignored);
-        fs::rename(state->fresh, state->target, error);
+        // A folder may let new files in and yet protect those of others.
+        if (!IsForbiddenByFolder(error) || !fs::exists(state->target, ignored))
+            return error;
     }
-    if (!error)
-        return {};
-    file.Close();
-    std::error_code ignored;
-    fs::remove(state->fresh, ignored);
-    return TextOf(error);
-}
-
-wxString WriteWholeFile(const wxString& path, std::string_view bytes) {
-    FileReplacement file;
-    const wxString problem = file.Open(path);
-    return problem.empty() ? file.Finish(bytes) : problem;
+    const OverwriteResult result = Overwrite(state->target, bytes);
+    m_formerIsDamaged = result.damaged;
+    return result.error;
 }

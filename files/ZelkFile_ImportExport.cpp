@@ -3,27 +3,51 @@
 #include "catalogue/PageModel.h"
 #include "editing/ZelkEditors.h"
 #include "files/CsvImport.h"
+#include "files/FilePatterns.h"
 #include "files/Import716.h"
 #include "files/ImportMultiZEL.h"
+#include "files/ImportOutcome.h"
 #include "files/ImportText.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/filedlg.h>
+#include <wx/filename.h>
 #include <wx/msgdlg.h>
 
 #include <string>
 
 namespace {
 
+struct OfferedKind {
+    const char* name;
+    const char* patterns;
+};
+
+constexpr OfferedKind OfferedKinds[] = {
+    {"ZEL716 Binary files", "*.716"},
+    {"ZEL716 List files", "*.txt"},
+    {"MultiZEL files", "*.210;*.220;*.610;*.630;*.650;*.666;*.840"},
+    {"CSV files", "*.csv"},
+};
+
 wxString OfferedFiles() {
-    return wxString::Format("ZEL716 Binary files (*.716)|*.716|"
-                            "ZEL716 List files (*.txt)|*.txt|"
-                            "MultiZEL files (*.210;*.220;*.610;*.630;*.650;*.666;*.840)|"
-                            "*.210;*.220;*.610;*.630;*.650;*.666;*.840|"
-                            "CSV files (*.csv)|*.csv|"
-                            "All files (%s)|%s",
-                            wxFileSelectorDefaultWildcardStr, wxFileSelectorDefaultWildcardStr);
+    wxString offered;
+    for (const OfferedKind& kind : OfferedKinds)
+        offered +=
+            wxString::Format("%s (%s)|%s|", kind.name, kind.patterns, PatternsOfAnyCase(kind.patterns));
+    const wxString all = wxFileSelectorDefaultWildcardStr;
+    return offered + wxString::Format("All files (%s)|%s", all, all);
+}
+
+/// A page that got memories is saved beside their file; one that got none has no name, so that it isn't saved
+/// over the file of its former memories.
+void NamePageAfter(const wxString& path, bool hasRows) {
+    PageStringRecord& strings = PageStrings[CurrentPage];
+    const wxFileName file(path);
+    strings.FileName = hasRows ? file.GetName() : wxString();
+    if (hasRows)
+        strings.FileDir = file.GetPathWithSep();
 }
 
 void ReportImport(int kind, int count) {
@@ -94,11 +118,15 @@ void ZelkFrame::OnImport(wxCommandEvent& event) {
     ResetPage(CurrentPage);
     // What comes must not stand among the memories that such a page begins with.
     EmptyDefaultMemories(CurrentPage);
-    // Meant: with its extension, and without a look at the page's folder.
-    PageStrings[CurrentPage].FileName = path;
-    ReportImport(kind, m_importer->Read(kind));
+    const ReplacedCells replaced;
+    const SkippedLines skipped;
+    const int count = m_importer->Read(kind);
+    NamePageAfter(path, count > 0);
+    ReportImport(kind, count);
     m_importer->Close();
     CurrentParameters().Flags |= PageFromFile;
     SetPageEditors(CurrentPage);
+    if (count > 0 || skipped.Count() > 0)
+        TellImport(replaced, skipped);
     event.Skip();
 }

@@ -6,10 +6,12 @@
 #include "editing/ZelkEditors.h"
 #include "files/ChannelFileReader.h"
 #include "files/ChannelFileWriter.h"
+#include "files/PageFiles.h"
+#include "files/SaveOutcome.h"
 #include "files/WholeFile.h"
 #include "files/XmlFile.h"
-#include "frame/PageLifecycle.h"
 #include "frame/Messages.h"
+#include "frame/PageLifecycle.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/filedlg.h>
@@ -17,9 +19,11 @@
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
 #include <wx/mstream.h>
-#include <wx/statusbr.h>
 #include <wx/stdpaths.h>
 #include <wx/xml/xml.h>
+
+#include <system_error>
+#include <vector>
 
 namespace {
 
@@ -65,32 +69,47 @@ void TakeTarget(int page, const ChannelFile::Target& target) {
     UpdateStatus(MainFrame, page);
 }
 
-wxString LeftOutText(int rows) {
-    if (rows == 0)
-        return {};
-    return rows == 1 ? wxString("1 row is incomplete and was not saved")
-                     : wxString::Format("%d rows are incomplete and were not saved", rows);
-}
+/// What a save did to the file.
+struct SaveResult {
+    std::error_code error;
+    bool damaged = false; ///< after an error: the former file could not be put back
+};
 
-/// Writes the document with the extension of channel files. Why not, or empty.
-wxString WriteDocument(const wxXmlDocument& document, const wxString& path) {
+SaveResult WriteDocument(const wxXmlDocument& document, const wxString& path) {
     wxMemoryOutputStream bytes;
     if (!document.Save(bytes, 2))
-        return "the document could not be written";
+        return {std::make_error_code(std::errc::not_enough_memory)};
     const wxStreamBuffer* buffer = bytes.GetOutputStreamBuffer();
-    return WriteWholeFile(path, {static_cast<const char*>(buffer->GetBufferStart()), bytes.GetSize()});
+    FileReplacement file;
+    if (const auto error = file.Open(path))
+        return {error};
+    const auto error = file.Finish({static_cast<const char*>(buffer->GetBufferStart()), bytes.GetSize()});
+    return {error, file.FormerIsDamaged()};
 }
 
+/// Where a page is saved.
+struct PageFile {
+    wxString folder; ///< with a separator at its end
+    wxString name;   ///< without extension
+
+    wxString Path() const { return folder + name + ".zelk"; }
+};
+
 /// Asks for the file of the page. False when the user cancelled.
-bool AskForFile(PageStringRecord& strings) {
-    wxFileDialog dialog(nullptr, "Save .zelk file...", strings.FileDir, strings.FileName,
+bool AskForFile(PageFile& file) {
+    wxFileDialog dialog(nullptr, "Save .zelk file...", file.folder, file.name,
                         "Zelk Files|*.zelk|All files|*.*", wxFD_SAVE);
     if (dialog.ShowModal() != wxID_OK)
         return false;
     const wxFileName chosen(dialog.GetPath());
-    strings.FileDir = chosen.GetPathWithSep();
-    strings.FileName = chosen.GetName();
+    file = {chosen.GetPathWithSep(), chosen.GetName()};
     return true;
+}
+
+void MakeUserFolder() {
+    const wxString folder = wxStandardPaths::Get().GetUserDataDir();
+    if (!wxFileName::DirExists(folder))
+        wxFileName::Mkdir(folder, 0777, wxPATH_MKDIR_FULL);
 }
 
 void SaveCurrentPage(bool saveAs) {
@@ -156,23 +175,33 @@ bool OpenChannelFile(const wxString& path) {
     PageStringRecord& strings = PageStrings[CurrentPage];
     strings.FileName = file.GetName();
     strings.FileDir = file.GetPathWithSep();
+    AddOwnFile(CurrentPage, file.GetFullPath());
     CurrentParameters().Flags |= PageFromFile;
     return true;
 }
 
 void SaveZelkFile(int page, bool saveAs) {
     wxXmlDocument document;
-    const int leftOut = BuildChannelFile(page, document);
+    const std::vector<int> leftOut = BuildChannelFile(page, document);
     // Meant: the folder is made also for a save that is then cancelled.
-    const wxString userFolder = wxStandardPaths::Get().GetUserDataDir();
-    if (!wxFileName::DirExists(userFolder))
-        wxFileName::Mkdir(userFolder, 0777, wxPATH_MKDIR_FULL);
+    MakeUserFolder();
 
     PageStringRecord& strings = PageStrings[page];
-    if ((strings.FileName.empty() || saveAs) && !AskForFile(strings))
+    PageFile file{strings.FileDir, strings.FileName};
+    if ((file.name.empty() || saveAs) && !AskForFile(file))
         return;
-    const wxString problem = WriteDocument(document, strings.FileDir + strings.FileName + ".zelk");
-    TellOutcome(problem.empty() ? LeftOutText(leftOut) : "File was not saved: " + problem);
+    const wxString path = file.Path();
+    if (!MayReplaceFile(page, path))
+        return;
+    strings.FileDir = file.folder;
+    strings.FileName = file.name;
+
+    const SaveResult result = WriteDocument(document, path);
+    if (!result.error)
+        AddOwnFile(page, path);
+    const Outcome outcome = result.error ? NotSavedOutcome(path, result.error, result.damaged)
+                                         : SavedOutcome(file.name + ".zelk", leftOut);
+    TellOutcome(outcome.verdict, outcome.story);
 }
 
 void ZelkFrame::OnOpen(wxCommandEvent&) {

@@ -16,8 +16,9 @@ int OpenZelkFile(const wxXmlDocument& document, int page);
 bool OpenChannelFile(const wxString& path);
 
 /// Writes the complete rows of page to its file; asks for a name when the page has none or
-/// saveAs is true. The former file stays whole until the new one is. The status bar tells how many
-/// rows with data were left out, and why a file could not be written.
+/// saveAs is true, and before it replaces a file that the page has neither opened nor saved. The former file
+/// stays whole until the new one is. The status bar tells what was saved, which rows with data were left out,
+/// and why a file could not be written.
 void SaveZelkFile(int page, bool saveAs);
 
 /// Empties page (0-based, the current one): cells, flags, read-only marks and paint of former

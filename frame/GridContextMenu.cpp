@@ -1,7 +1,7 @@
 // The context menu of the grids, made afresh for the place of each click.
 #include "catalogue/TextNumbers.h"
 #include "frame/CommandIds.h"
-#include "frame/ZelkGUI.h"
+#include "frame/ZelkMain.h"
 
 #include <wx/menu.h>
 
@@ -33,6 +33,8 @@ int RowAt(wxGrid* grid, int y) {
 } // namespace
 
 void OrvZELFrame::OnGridContextMenu(wxContextMenuEvent& event) {
+    // The text of an open edit may be the row's first: it decides what can be offered.
+    CommitOpenEditor();
     wxGrid* grid = CurrentGrid();
     for (wxMenuItem* item : m_contextItems)
         if (m_contextMenu->FindItem(item->GetId()))
@@ -61,8 +63,7 @@ void OrvZELFrame::OnGridContextMenu(wxContextMenuEvent& event) {
         OfferRowCommands(grid, RowAt(grid, at.y));
         break;
     case ClickPlace::ColumnLabel:
-        // Meant: how far the grid is scrolled sideways doesn't count here.
-        OfferColumnCommands(grid, grid->XToCol(at.x));
+        OfferColumnCommands(grid, grid->XToCol(grid->CalcUnscrolledPosition(at).x));
         break;
     case ClickPlace::Cells:
         break;

@@ -1,6 +1,10 @@
 #include "frame/TargetSelection.h"
 
 #include "catalogue/PageCreation.h"
+#include "editing/MemoryNumbers.h"
+#include "editing/MissingCells.h"
+#include "editing/ReplacedCells.h"
+#include "editing/RowLooks.h"
 #include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
 #include "frame/Messages.h"
@@ -61,6 +65,96 @@ void ZelkFrame::OnSetPort(wxCommandEvent&) {
     PortList.clear();
 }
 
+namespace {
+
+/// What a change of target has to know of the page as it was.
+struct FormerPage {
+    PageParameterRecord parameters = CurrentParameters();
+    bool p25 = CurrentPageIsP25();
+    bool hadGuards = HasGuardRows(CurrentPage);
+    int guards[2] = {GD1, GD2};
+    bool guardUsed[2] = {hadGuards && RowHasData(GD1), hadGuards&& RowHasData(GD2)};
+
+    bool GuardsUsed() const { return guardUsed[0] || guardUsed[1]; }
+    bool IsOfOtherTarget() const {
+        return parameters.Radio != CurrentParameters().Radio ||
+               parameters.BandIndex != CurrentParameters().BandIndex;
+    }
+};
+
+int CountMemories() {
+    int count = 0;
+    for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
+        count += RowHasData(row);
+    return count;
+}
+
+/// How many used guard rows of the former target come back without taking another memory's row.
+int CountGuardsThatComeBack(const FormerPage& former) {
+    if (!HasGuardRows(CurrentPage))
+        return 0;
+    return (former.guardUsed[0] && !RowHasData(GD1)) + (former.guardUsed[1] && !RowHasData(GD2));
+}
+
+/// Grid, default row and guard rows become those of the new target. Gives the number of memories that find no
+/// row in it.
+int MovePage(OrvZELFrame* frame, const FormerPage& former) {
+    const int memories = CountMemories();
+    if (former.hadGuards)
+        for (int row : former.guards)
+            ClearRowData(row, former.p25);
+    if (former.IsOfOtherTarget())
+        AdjustEditGrid(frame, former.parameters.Radio, former.parameters.BandIndex);
+    const int kept = CountMemories() + CountGuardsThatComeBack(former);
+    SetPageDefaults(frame, CurrentPage);
+    if (former.GuardsUsed() && HasGuardRows(CurrentPage))
+        RestoreGuardRows(frame, true);
+    return memories - kept;
+}
+
+/// Takes away read-only marks that the rules of the former type have left. Marks of linked rows stay where
+/// both types have links.
+void ForgetFormerLocks(const FormerPage& former) {
+    if (former.p25 && CurrentPageIsP25())
+        return;
+    ForEachOwnAttribute(CurrentGrid(), [](int, int col, wxGridCellAttr& attributes) {
+        if (col != SHAD && attributes.IsReadOnly())
+            attributes.SetReadOnly(false);
+    });
+}
+
+/// Makes the memories those of the new type: locks, numbers, cells that the former type had not, and at last
+/// whatever the checks find.
+void FitMemories(const FormerPage& former) {
+    wxGrid* grid = CurrentGrid();
+    ForgetFormerLocks(former);
+    MemoryNumberIndex numbers(CurrentParameters().Rows);
+    for (int row = 1; row <= CurrentParameters().Rows; ++row) {
+        if (!RowHasData(row))
+            continue;
+        ReplaceImpossibleNumber(grid, row, numbers);
+        FillMissingCells(grid, row);
+    }
+    CheckPage();
+    SetPageEditors(CurrentPage);
+}
+
+wxString Joined(const wxString& first, const wxString& second, const wxString& between) {
+    return first.empty() || second.empty() ? first + second : first + between + second;
+}
+
+void TellTargetChange(int lost, const ReplacedCells& replaced) {
+    wxString verdict, story;
+    if (lost > 0) {
+        const char* rows = lost == 1 ? "row" : "rows";
+        verdict.Printf("%d %s LOST", lost, rows);
+        story.Printf("%d %s found no place in the smaller page", lost, rows);
+    }
+    TellOutcome(Joined(verdict, replaced.Text(), ", "), Joined(story, replaced.Story(), "; "));
+}
+
+} // namespace
+
 void ZelkFrame::OnSetTarget(wxCommandEvent&) {
     CommitOpenEditor();
     wxMessageDialog question(this,
@@ -69,14 +163,9 @@ void ZelkFrame::OnSetTarget(wxCommandEvent&) {
     if (question.ShowModal() != wxID_OK)
         return;
 
-    const PageParameterRecord before = CurrentParameters();
-    const bool wasP25 = CurrentPageIsP25();
-    const int oldGuards[] = {GD1, GD2};
-    const bool hadGuards = HasGuardRows(CurrentPage);
-    const bool guardsSaved = hadGuards && (RowHasData(GD1) || RowHasData(GD2));
-    if (guardsSaved)
+    const FormerPage former;
+    if (former.GuardsUsed())
         SaveGuardRows(this);
-
     const int result = UserSelectRadioAndBand(this, CurrentPage);
     if (result == ResultCancelled)
         return;
@@ -85,18 +174,13 @@ void ZelkFrame::OnSetTarget(wxCommandEvent&) {
         return;
     }
 
-    wxGridUpdateLocker quiet(CurrentGrid());
-    if (hadGuards)
-        for (int row : oldGuards)
-            ClearRowData(row, wasP25);
-    if (before.Radio != CurrentParameters().Radio || before.BandIndex != CurrentParameters().BandIndex)
-        AdjustEditGrid(this, before.Radio, before.BandIndex);
-    else
-        // Clearing has unlocked the cells that the radio fixes in its guard rows.
-        SetPageEditors(CurrentPage);
-    SetPageDefaults(this, CurrentPage);
-    if (guardsSaved && HasGuardRows(CurrentPage))
-        RestoreGuardRows(this, true);
-    UpdateStatus(this, CurrentPage);
-    CheckPage();
+    const ReplacedCells replaced;
+    int lost = 0;
+    {
+        wxGridUpdateLocker quiet(CurrentGrid());
+        lost = MovePage(this, former);
+        UpdateStatus(this, CurrentPage);
+        FitMemories(former);
+    }
+    TellTargetChange(lost, replaced);
 }

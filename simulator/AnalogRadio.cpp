@@ -1,5 +1,7 @@
 #include "simulator/AnalogRadio.h"
 
+#include <algorithm>
+
 namespace Simulator {
 
 namespace {
@@ -7,6 +9,11 @@ namespace {
 constexpr char Acknowledge = 0x05;
 constexpr std::size_t LongestLine = 200;
 constexpr std::size_t EndLineBlanks = 74;
+
+/// The byte with bit 7 set.
+char Marked(char byte) {
+    return static_cast<char>(static_cast<unsigned char>(byte) | 0x80);
+}
 
 } // namespace
 
@@ -118,7 +125,12 @@ void AnalogRadio::TakeLine(const std::string& line) {
     }
     m_memories[memory->number] = *memory;
     m_changed = true;
-    m_link.Answer(std::string_view(&Acknowledge, 1), AnswerKind::Acknowledgement);
+    Confirm();
+}
+
+void AnalogRadio::Confirm() {
+    const char byte = m_habits.parity == Parity::Bytes ? Marked(Acknowledge) : Acknowledge;
+    m_link.Answer(std::string_view(&byte, 1), AnswerKind::Acknowledgement);
 }
 
 void AnalogRadio::TakeEndLine(const std::string& line) {
@@ -156,14 +168,16 @@ void AnalogRadio::SendMemories() {
     m_link.EndTransferWhenSent();
 }
 
-/// The line with its parity bits and its end; `plain` characters at its start carry a bit only in
-/// Parity::All.
+/// The line with its parity bits and its end; `plain` characters at its start carry no bit in Parity::Text.
 std::string AnalogRadio::OnTheWire(std::string_view line, std::size_t plain) const {
-    std::string bytes(line);
-    if (m_habits.parity != Parity::None)
-        for (std::size_t k = m_habits.parity == Parity::All ? 0 : plain; k < bytes.size(); ++k)
-            bytes[k] = static_cast<char>(static_cast<unsigned char>(bytes[k]) | 0x80);
-    return bytes + '\r';
+    std::string bytes = std::string(line) + '\r';
+    if (m_habits.parity == Parity::None)
+        return bytes;
+    const auto first =
+        bytes.begin() + static_cast<std::ptrdiff_t>(m_habits.parity == Parity::Text ? plain : 0);
+    const auto last = m_habits.parity == Parity::Bytes ? bytes.end() : bytes.end() - 1;
+    std::transform(first, last, first, Marked);
+    return bytes;
 }
 
 std::string AnalogRadio::NumberText(int number) const {

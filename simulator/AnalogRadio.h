@@ -10,11 +10,12 @@
 
 namespace Simulator {
 
-/// Which characters carry a set bit 7 when the radio sends. The carriage return never does.
+/// What carries a set bit 7 when the radio sends.
 enum class Parity {
     None,
-    Text, ///< those of memory lines behind the number field, which a reader looks for as it stands
-    All   ///< every one, banner and end line included
+    Text, ///< characters of memory lines behind the number field, which a reader looks for as it stands
+    All,  ///< every character, banner and end line included, but no carriage return
+    Bytes ///< every byte, carriage returns and acknowledgements included
 };
 
 /// How this one radio differs from its sisters.
@@ -57,6 +58,7 @@ private:
     void TakeLine(const std::string& line);
     void TakeEndLine(const std::string& line);
     void SendMemories();
+    void Confirm();
     std::string OnTheWire(std::string_view line, std::size_t plain) const;
     std::string NumberText(int number) const;
 

@@ -8,6 +8,7 @@ namespace {
 
 // Neither an acknowledgement (05) nor a line end (0D) is among them: noise must not pass for an answer.
 constexpr unsigned char Garbage[] = {0x00, 0xFF, 0x80, 0x1B, 0xFE, 0x7F, 0x00, 0xF5};
+constexpr char MarkedReturn = '\x8D'; // a carriage return whose bit 7 is set
 constexpr std::size_t Pieces = 4;
 constexpr std::chrono::milliseconds PieceGap{150};
 
@@ -87,7 +88,8 @@ void FaultyLink::MakeNoise(AnswerKind kind) {
 void FaultyLink::AnswerLine(std::string_view bytes) {
     std::string line(bytes);
     if (const Fault* fault = Due(FaultKind::Cut)) {
-        line = line.substr(0, line.size() / 2) + '\r';
+        const char end = line.ends_with(MarkedReturn) ? MarkedReturn : '\r';
+        line = line.substr(0, line.size() / 2) + end;
         m_journal.Note(Played(*fault));
     }
     const Fault* torn = Due(FaultKind::Torn);

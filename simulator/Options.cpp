@@ -60,8 +60,10 @@ bool TakeParity(Options& options, const std::string& value, std::string& trouble
         options.habits.parity = Parity::All;
     else if (value == "text")
         options.habits.parity = Parity::Text;
+    else if (value == "bytes")
+        options.habits.parity = Parity::Bytes;
     else {
-        trouble = "--parity is \"text\" or \"all\", not \"" + value + "\"";
+        trouble = "--parity is \"text\", \"all\" or \"bytes\", not \"" + value + "\"";
         return false;
     }
     return true;
@@ -131,8 +133,8 @@ const std::vector<Option>& Table() {
              o.habits.endLine = false;
              return true;
          }},
-        {"parity", Value::Optional, "text|all", "set bit 7 on what is sent (text: not in the number field)",
-         TakeParity},
+        {"parity", Value::Optional, "text|all|bytes",
+         "set bit 7 on what is sent (text: not on numbers; bytes: on line ends, too)", TakeParity},
         {"key-delay", Value::Needed, "MS", "press the radio's key after this time (500)",
          [](Options& o, const std::string& v, std::string& t) {
              return TakeMilliseconds(v, o.habits.keyDelay, t);

@@ -178,6 +178,7 @@ void TakeTransferBoxes(Tour::TourHand& hand, Camera& camera, const Places& place
     SelectRows(robot, 20, 30);
     RunCommand(IdUpload);
     AnswerBox(hand, camera, "Radio Operating Modes", "operating-modes");
+    AnswerBox(hand, camera, "Purge radio\\?", "");
     AnswerBox(hand, camera, "Write to Radio Status", "");
 }
 

@@ -44,8 +44,10 @@ int WriteChannel(TransferContext& context, wxGrid* grid, int row) {
     SetMainGauge(context, row);
     context.RxBuffer.clear();
     const int status = WaitForLine(context, 5000, Acknowledgement, true);
-    if (status == TransferOk)
+    if (status == TransferOk) {
         DropAcknowledgement(context);
+        context.RowsSent.insert(row);
+    }
     return status;
 }
 
@@ -109,8 +111,7 @@ int ReadChannels(TransferContext& context, wxGrid* grid) {
         if (status == TransferTimeout)
             break;
         TakeReceivedLine(context);
-        // With their parity bits left on, neither the first channel nor the end could be told.
-        context.RxLine = StripParity(context.RxLine).Trim(false);
+        context.RxLine = PrintableText(context.RxLine).Trim(false);
         if (!started && !CutToFirstChannel(context.RxLine))
             continue;
         started = true;

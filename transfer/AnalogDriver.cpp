@@ -4,6 +4,7 @@
 #include "frame/ZelkMain.h"
 #include "transfer/AnalogExchanges.h"
 #include "transfer/AnalogInformation.h"
+#include "transfer/AnalogLine.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TransferContext.h"
@@ -143,6 +144,8 @@ int TransferData(TransferContext& context, wxGrid* grid, int mode, const wxStrin
 int DoTransferData(TransferContext& context, wxGrid* grid, int mode) {
     const PageParameterRecord& page = CurrentParameters();
     const int pibNumber = GetPibNumber(page.Radio);
+    // Some radios set it on everything, acknowledgements and line ends too.
+    context.Arriving = ClearParity;
     context.StatusText = "Initializing....";
     ShowStatus(context);
     context.Status = TransferOk;

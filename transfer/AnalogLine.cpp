@@ -14,18 +14,11 @@ constexpr int FractionDigits = 4;
 constexpr int ScanWidth = 5;
 constexpr int HighestScanMask = 31;
 constexpr int NoTone = 64; // the second "OFF" of ToneList
-constexpr std::size_t FormMark = 45;
+constexpr std::size_t NumberWidth = 3;
+constexpr std::size_t FormMark = 45; // where the forms part
 
 bool IsDigits(const wxString& text) {
     return std::all_of(text.begin(), text.end(), [](wxUniChar c) { return c >= '0' && c <= '9'; });
-}
-
-wxString Printable(const wxString& text) {
-    wxString printable;
-    printable.reserve(text.length());
-    for (wxUniChar c : text)
-        printable += c >= ' ' && c <= '~' ? c : wxUniChar(' ');
-    return printable;
 }
 
 /// "OFF" and "n/a" read as a code that sets nothing.
@@ -36,6 +29,24 @@ wxString NothingAsZeros(const wxString& text) {
 /// Lines have three digits before the point, cells no more than needed.
 wxString WithoutLeadingZero(const wxString& frequency) {
     return frequency.StartsWith("0") ? frequency.Mid(1) : frequency;
+}
+
+/// A field's cell text; none for a field that the line didn't hold whole.
+template <typename Reader>
+std::optional<wxString> IfWhole(const wxString& field, Reader read) {
+    return field.empty() ? std::nullopt : std::optional<wxString>(read(field));
+}
+
+/// The module has tone or code.
+bool SetsNoCodes(const wxString& txTone) {
+    // Intentional: 64, which is no tone, leaves out the codes as well.
+    return ReadDecimal(txTone) >= 1 && ReadDecimal(txTone) <= NoTone;
+}
+
+std::span<const AnalogField> FormOf(const wxString& line) {
+    if (IsShortAnalogForm(line))
+        return ShortAnalogForm;
+    return LongAnalogForm;
 }
 
 } // namespace
@@ -82,7 +93,7 @@ wxString TextToTone(const wxString& number) {
 
 wxString CodeToText(const wxString& code) {
     const wxString text = NothingAsZeros(code);
-    return text.length() == 3 ? Printable(text) : wxString("000");
+    return text.length() == 3 ? PrintableText(text) : wxString("000");
 }
 
 wxString TextToCode(const wxString& text, int type) {
@@ -92,7 +103,7 @@ wxString TextToCode(const wxString& text, int type) {
 }
 
 wxString DescriptionToText(const wxString& description) {
-    const wxString text = Printable(description).Trim(true).Trim(false);
+    const wxString text = PrintableText(description).Trim(true).Trim(false);
     return (text + wxString(' ', 9)).Left(9);
 }
 
@@ -111,58 +122,66 @@ void AppendAnalogFields(const AnalogTexts& texts, wxString& out) {
     }
 }
 
-wxString StripParity(const wxString& line) {
+wxString ClearParity(const wxString& text) {
     wxString plain;
-    plain.reserve(line.length());
-    for (wxUniChar c : line)
+    plain.reserve(text.length());
+    for (wxUniChar c : text)
         plain += static_cast<char>(c.GetValue() & 0x7F);
-    return Printable(plain);
+    return plain;
+}
+
+wxString PrintableText(const wxString& text) {
+    wxString printable;
+    printable.reserve(text.length());
+    for (wxUniChar c : text)
+        printable += c >= ' ' && c <= '~' ? c : wxUniChar(' ');
+    return printable;
+}
+
+wxString StripParity(const wxString& line) {
+    return PrintableText(ClearParity(line));
+}
+
+bool HasAnalogNumber(const wxString& line) {
+    return line.Mid(NumberWidth, 1) == " ";
 }
 
 bool IsShortAnalogForm(const wxString& line) {
-    return line.Mid(FormMark, 1) != "R";
+    return line.length() > FormMark && line[FormMark] != 'R';
 }
 
 AnalogTexts SplitAnalogLine(const wxString& line) {
     AnalogTexts texts;
-    const std::span<const AnalogField> form = IsShortAnalogForm(line)
-                                                  ? std::span<const AnalogField>(ShortAnalogForm)
-                                                  : std::span<const AnalogField>(LongAnalogForm);
-    std::size_t scanPosition = 0;
-    bool hasScan = false;
-    for (const AnalogField& field : form) {
+    std::size_t restPosition = 0;
+    for (const AnalogField& field : FormOf(line)) {
         const std::size_t position = static_cast<std::size_t>(field.position);
-        if (field.part == ScanPart) {
-            scanPosition = position;
-            hasScan = line.length() >= position + ScanWidth;
-        }
+        const std::size_t width = static_cast<std::size_t>(field.width);
+        const bool whole = line.length() >= position + width;
+        if (field.part == ScanPart)
+            restPosition = whole ? position + width : position;
         if (field.part == ModePart)
-            texts[ModePart] = line.Mid(hasScan ? position : scanPosition);
-        else if (field.part != LiteralPart && (field.part != ScanPart || hasScan))
-            texts[field.part] = line.Mid(position, static_cast<std::size_t>(field.width));
+            texts[ModePart] = line.Mid(restPosition);
+        else if (field.part != LiteralPart && (whole || field.part == DescriptionPart))
+            texts[field.part] = line.Mid(position, width);
     }
     return texts;
 }
 
 AnalogCells ReadAnalogLine(const wxString& line, int type) {
     const AnalogTexts texts = SplitAnalogLine(line);
+    const bool isShort = IsShortAnalogForm(line);
     AnalogCells cells;
     cells.description = texts[DescriptionPart];
-    cells.rxFrequency = WithoutLeadingZero(texts[RxFrequencyPart]);
-    cells.txFrequency = WithoutLeadingZero(texts[TxFrequencyPart]);
-    cells.txTone = TextToTone(texts[TxTonePart]);
-    const int txTone = ReadDecimal(texts[TxTonePart]);
-    if (IsShortAnalogForm(line)) {
-        cells.rxTone = cells.rxCode = "n/a";
-        cells.txCode = TextToCode(texts[TxCodePart], type);
-    } else if (type == MDLX && txTone >= 1 && txTone <= NoTone) {
-        // The module has tone or code; 64, which is no tone, is meant to leave out the codes as well.
-        cells.rxTone = TextToTone(texts[RxTonePart]);
+    cells.rxFrequency = IfWhole(texts[RxFrequencyPart], WithoutLeadingZero);
+    cells.txFrequency = IfWhole(texts[TxFrequencyPart], WithoutLeadingZero);
+    cells.txTone = IfWhole(texts[TxTonePart], TextToTone);
+    cells.rxTone = isShort ? "n/a" : IfWhole(texts[RxTonePart], TextToTone);
+    const auto code = [type](const wxString& text) { return TextToCode(text, type); };
+    if (!isShort && type == MDLX && SetsNoCodes(texts[TxTonePart])) {
         cells.rxCode = cells.txCode = "OFF";
     } else {
-        cells.rxTone = TextToTone(texts[RxTonePart]);
-        cells.rxCode = TextToCode(texts[RxCodePart], type);
-        cells.txCode = TextToCode(texts[TxCodePart], type);
+        cells.rxCode = isShort ? "n/a" : IfWhole(texts[RxCodePart], code);
+        cells.txCode = IfWhole(texts[TxCodePart], code);
     }
     cells.scan = ScanTextToNumber(texts[ScanPart]);
     cells.mode = texts[ModePart].Contains("N") ? "n" : "w";

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <span>
 #include <wx/string.h>
 
@@ -72,9 +73,11 @@ inline constexpr AnalogField ShortAnalogForm[] = {
 using AnalogTexts = std::array<wxString, AnalogPartTotal>;
 
 /// The cells of a memory row that a line tells, as pages hold them. The number and, on a module, the band
-/// are looked up by the caller.
+/// are looked up by the caller. No value stands for a field that the line doesn't hold whole: what came of it
+/// could pass for a tone, a code or a frequency that the radio never had.
 struct AnalogCells {
-    wxString description, rxFrequency, txFrequency, rxTone, txTone, rxCode, txCode, scan, mode;
+    std::optional<wxString> rxFrequency, txFrequency, rxTone, txTone, rxCode, txCode;
+    wxString description, scan, mode;
 };
 
 /// A frequency in MHz as the line has it: three digits, point, four digits. More decimals than four are
@@ -113,16 +116,25 @@ wxString ModeToText(const wxString& mode);
 /// whether the line is a guard's.
 void AppendAnalogFields(const AnalogTexts& texts, wxString& out);
 
-/// A received line as plain text: the parity bit of each character is cleared, and what isn't printable
-/// then is a blank.
+/// A text without the parity bit, bit 7, of each character.
+wxString ClearParity(const wxString& text);
+
+/// A text of the same length with a blank for each character that can't be printed in ASCII.
+wxString PrintableText(const wxString& text);
+
+/// A received line as plain text, whether or not its parity bits have been cleared before: PrintableText of
+/// ClearParity.
 wxString StripParity(const wxString& line);
 
-/// True for a line of the short form.
+/// True if the line holds a number field whole: three characters and the blank behind them.
+bool HasAnalogNumber(const wxString& line);
+
+/// True for a line of the short form. A line that ends before the forms part counts as one of the long form.
 bool IsShortAnalogForm(const wxString& line);
 
-/// The field texts of a received line. What lies behind its end is empty, and so is the scan field unless
-/// the line holds it whole; the mode field is the rest of the line and begins then where the scan field
-/// would.
+/// The field texts of a received line. A field that the line doesn't hold whole is empty, but the
+/// description, which stands as far as it came. The mode field is the rest of the line; without a whole scan
+/// field it begins where that would.
 AnalogTexts SplitAnalogLine(const wxString& line);
 
 /// The cells of a received line, without parity bits, on a page of that radio type.

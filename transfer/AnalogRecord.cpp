@@ -46,26 +46,30 @@ wxString NumberFieldToCell(wxGrid* grid, const wxString& field) {
     return field;
 }
 
+/// Writes what the line told, or the default row's text, painted.
+void WriteField(wxGrid* grid, int row, int column, const std::optional<wxString>& text) {
+    grid->SetCellValue(row, column, text ? *text : grid->GetCellValue(0, column));
+    if (!text)
+        grid->SetCellBackgroundColour(row, column, FailColour);
+    else if (grid->GetCellBackgroundColour(row, column) == FailColour)
+        grid->SetCellBackgroundColour(row, column, grid->GetCellBackgroundColour(0, 0));
+}
+
 /// Rows of a module carry a band each, which the line tells by its receive frequency only.
 void WriteBand(wxGrid* grid, int row, const wxString& rxFrequency) {
     const int band = GetFreqBand(rxFrequency, MDLX);
-    if (band >= 0) {
-        grid->SetCellValue(row, BAND, BandName[band]);
-    } else {
-        grid->SetCellValue(row, BAND, grid->GetCellValue(0, BAND));
-        grid->SetCellBackgroundColour(row, BAND, FailColour);
-    }
+    WriteField(grid, row, BAND, band >= 0 ? std::optional<wxString>(BandName[band]) : std::nullopt);
     SetFrequencyEditors(grid, row, GetRowBand(grid, row));
 }
 
 void WriteCells(wxGrid* grid, int row, const AnalogCells& cells) {
     grid->SetCellValue(row, DESC, cells.description);
-    grid->SetCellValue(row, RFRQ, cells.rxFrequency);
-    grid->SetCellValue(row, TFRQ, cells.txFrequency);
-    grid->SetCellValue(row, RTON, cells.rxTone);
-    grid->SetCellValue(row, RCOD, cells.rxCode);
-    grid->SetCellValue(row, TTON, cells.txTone);
-    grid->SetCellValue(row, TCOD, cells.txCode);
+    WriteField(grid, row, RFRQ, cells.rxFrequency);
+    WriteField(grid, row, TFRQ, cells.txFrequency);
+    WriteField(grid, row, RTON, cells.rxTone);
+    WriteField(grid, row, RCOD, cells.rxCode);
+    WriteField(grid, row, TTON, cells.txTone);
+    WriteField(grid, row, TCOD, cells.txCode);
     grid->SetCellValue(row, SCAN, cells.scan);
     grid->SetCellValue(row, MODE, cells.mode);
     grid->SetCellValue(row, TFLG, TflgRead);
@@ -85,6 +89,8 @@ int encodeAnalogRecord(TransferContext&, wxGrid* grid, int row, wxString& out) {
 
 int decodeAnalogRecord(TransferContext& context, wxGrid* grid, const wxString& line) {
     const wxString plain = StripParity(line);
+    if (!HasAnalogNumber(plain))
+        return 0;
     const wxString number = NumberFieldToCell(grid, plain.Left(3));
     const int row = ReadDecimal(number);
     if (row < 1 || row >= grid->GetNumberRows())

@@ -13,11 +13,13 @@ struct TransferContext;
 /// @return the number of errors, 0 for a good line
 int encodeAnalogRecord(TransferContext& context, wxGrid* grid, int row, wxString& out);
 
-/// Writes the row that a received line names. "GD1" and "GD2" name the last two rows.
+/// Writes the row that a received line names. "GD1" and "GD2" name the last two rows. A cell whose field the
+/// line doesn't hold whole gets the default row's text, painted; SCAN then gets "0".
 ///
 /// @param context Work1 receives the row
 /// @param line    without its carriage return, with or without parity bits
-/// @return 1, or 0 if the line names no row of 1 to the grid's last; the grid is then unchanged
+/// @return 1, or 0 if the line names no row of 1 to the grid's last, or breaks off in its number; the grid is
+///         then unchanged
 int decodeAnalogRecord(TransferContext& context, wxGrid* grid, const wxString& line);
 
 /// ToneToText of a cell: two decimal digits.

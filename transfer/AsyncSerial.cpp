@@ -13,6 +13,7 @@
 #include <boost/asio/write.hpp>
 #include <boost/smart_ptr/shared_array.hpp>
 #include <boost/system/system_error.hpp>
+#include <condition_variable>
 #include <mutex>
 #include <thread>
 
@@ -28,6 +29,7 @@ struct AsyncSerialImpl {
     boost::shared_array<char> writeBuffer; // empty while no write is in progress
     std::size_t writeBufferSize = 0;
     std::mutex writeQueueMutex;
+    std::condition_variable writesEnded; // tells of an empty queue, and of a failure
 
     std::array<char, 512> readBuffer{};
     AsyncSerial::ReadCallback callback;
@@ -140,6 +142,9 @@ void AsyncSerial::setBaudRate(unsigned int baudRate) {
 }
 
 void AsyncSerial::write(const char* data, std::size_t size) {
+    // The port that is opened next would get them.
+    if (!isOpen())
+        return;
     {
         const std::lock_guard lock(m_impl->writeQueueMutex);
         m_impl->writeQueue.insert(m_impl->writeQueue.end(), data, data + size);
@@ -153,6 +158,13 @@ void AsyncSerial::write(const std::vector<char>& data) {
 
 void AsyncSerial::writeString(const std::string& text) {
     write(text.data(), text.size());
+}
+
+bool AsyncSerial::waitUntilWritten(std::chrono::milliseconds limit) {
+    std::unique_lock lock(m_impl->writeQueueMutex);
+    const auto allWritten = [this] { return m_impl->writeQueue.empty() && !m_impl->writeBuffer; };
+    m_impl->writesEnded.wait_for(lock, limit, [&] { return allWritten() || errorStatus(); });
+    return allWritten();
 }
 
 void AsyncSerial::setReadCallback(const ReadCallback& callback) {
@@ -173,10 +185,8 @@ void AsyncSerial::doRead() {
 
 void AsyncSerial::readEnd(const boost::system::error_code& error, std::size_t bytesTransferred) {
     if (error) {
-        if (isOpen()) {
-            doClose();
-            setErrorStatus(true);
-        }
+        if (isOpen())
+            fail();
         return;
     }
     {
@@ -206,18 +216,25 @@ void AsyncSerial::startWrite() {
 }
 
 void AsyncSerial::writeEnd(const boost::system::error_code& error) {
-    if (error) {
-        setErrorStatus(true);
-        doClose();
-        return;
-    }
+    if (error)
+        return fail();
     const std::lock_guard lock(m_impl->writeQueueMutex);
     if (m_impl->writeQueue.empty()) {
         m_impl->writeBuffer.reset();
         m_impl->writeBufferSize = 0;
+        m_impl->writesEnded.notify_all();
     } else {
         startWrite();
     }
+}
+
+// The device is gone, or the port is being closed.
+void AsyncSerial::fail() {
+    setErrorStatus(true);
+    doClose();
+    // Not between a waiting owner's look at the flag and its falling asleep.
+    const std::lock_guard lock(m_impl->writeQueueMutex);
+    m_impl->writesEnded.notify_all();
 }
 
 // Goes on after a step that fails: the device must be given up in any case.

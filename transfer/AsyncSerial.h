@@ -5,6 +5,7 @@
 
 #include <boost/asio/serial_port_base.hpp>
 #include <boost/system/error_code.hpp>
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <memory>
@@ -63,7 +64,7 @@ public:
     bool errorStatus() const;
 
     /// Stops the port's thread and closes the device. Does nothing on a closed port. Bytes that are still
-    /// queued are dropped.
+    /// queued are dropped; waitUntilWritten() before it gives them their time.
     ///
     /// @throws boost::system::system_error whose text begins "Error while closing the device", with the
     ///         port closed all the same, if the device had failed before or failed in closing.
@@ -74,12 +75,19 @@ public:
     /// @throws boost::system::system_error if the port is closed, gone, or doesn't know the speed
     void setBaudRate(unsigned int baudRate);
 
-    /// Queues bytes for sending and returns at once. Bytes leave in the order in which they were queued.
+    /// Queues bytes for sending and returns at once. Bytes leave in the order in which they were queued. On a
+    /// closed port they are dropped.
     void write(const char* data, std::size_t size);
     /// \overload
     void write(const std::vector<char>& data);
     /// Queues the bytes of a text for sending, zeros included.
     void writeString(const std::string& text);
+
+    /// Waits until all queued bytes have been handed to the device, at most that long. Returns at once if
+    /// there are none, and on a port that is closed or has failed.
+    ///
+    /// @return true if nothing is left to be sent
+    bool waitUntilWritten(std::chrono::milliseconds limit);
 
 protected:
     void setErrorStatus(bool error);
@@ -97,6 +105,7 @@ private:
     void doWrite();
     void startWrite();
     void writeEnd(const boost::system::error_code& error);
+    void fail();
     void doClose();
 
     void dropPendingWork();

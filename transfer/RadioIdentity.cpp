@@ -3,3 +3,4 @@
 wxString RadioVersion;
 wxString RadioSerial;
 wxString RadioStamp;
+KnownContent HeldByRadio;

@@ -2,6 +2,7 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "catalogue/ZoneSlots.h"
 #include "editing/ColumnChecks.h"
 #include "editing/Shadows.h"
 #include "transfer/HexText.h"
@@ -14,7 +15,6 @@
 namespace {
 
 constexpr std::uint32_t V1 = 1, V2 = 2;
-constexpr int ScanFlag = 0x08;
 
 wxArrayString TextsOf(wxGrid* grid, int row) {
     wxArrayString texts;
@@ -55,9 +55,35 @@ void WriteLink(wxGrid* grid, const TRecordValues& values) {
     }
 }
 
+TRecordValues ValuesOf(std::span<const TRecordField> layout, const wxString& line) {
+    return ReadTRecord(layout, line, CurrentParameters().Radio, CurrentParameters().Type);
+}
+
+/// Rows other than this one that show the zone as their own; a shadow shows that of its primary.
+int CountOthersInZone(const wxGrid* grid, int row, const wxString& zone) {
+    int count = 0;
+    for (int other = 1; other < grid->GetNumberRows(); ++other)
+        count += other != row && grid->GetCellValue(other, ZONE) == zone &&
+                 !IsShadowFlags(grid->GetCellValue(other, MFLG));
+    return count;
+}
+
+/// Gives back the slot that the row got when its record came before: it is dealt a zone anew. A row that
+/// found its zone full holds none, which the other rows in the zone tell.
+void GiveZoneBack(const wxGrid* grid, int row) {
+    if (row == 0 || !CurrentPageIsP25() || !(ReadHex(grid->GetCellValue(row, TFLG)) & ZoneTakenFlag) ||
+        IsShadowFlags(grid->GetCellValue(row, MFLG)))
+        return;
+    const wxString zone = grid->GetCellValue(row, ZONE);
+    const int position = FindZone(zone);
+    if (position >= 0 && ZoneSlotsOf(CurrentPage)[position] > CountOthersInZone(grid, row, zone))
+        ReleaseP25ZonePosition(position);
+}
+
 int WriteRow(wxGrid* grid, const TRecordValues& values) {
     if (values.row < 0 || values.row >= grid->GetNumberRows())
         return 0;
+    GiveZoneBack(grid, values.row);
     // The flags come first: the zone is dealt by them.
     grid->SetCellValue(values.row, MFLG, FlagText(values.flags));
     grid->SetCellValue(values.row, TFLG, TflgRead);
@@ -90,11 +116,11 @@ void encodeTrecordV2(wxGrid* grid, int row, wxString& out) {
 }
 
 int decodeTrecordV1(wxGrid* grid, const wxString& line) {
-    return WriteRow(grid, ReadTRecord(TRecordV1, line, CurrentParameters().Radio));
+    return WriteRow(grid, ValuesOf(TRecordV1, line));
 }
 
 int decodeTrecordV2(wxGrid* grid, const wxString& line) {
-    return WriteRow(grid, ReadTRecord(TRecordV2, line, CurrentParameters().Radio));
+    return WriteRow(grid, ValuesOf(TRecordV2, line));
 }
 
 void encodeEraseRecord(TRecordContext& context, int row, wxString& out) {

@@ -13,7 +13,7 @@ enum TransferNeed : std::uint32_t {
     RadioPurged = 0x01,     ///< the radio was told to erase all: what it held goes out again
     NeedsShadowPass = 0x02, ///< shadows are to be sent, behind all primaries
     HasMarkedRow = 0x04,    ///< a row to be sent has MarkedFlag
-    OtherRadio = 0x08,      ///< the radio's identity stamp isn't that of the last read
+    OtherRadio = 0x08,      ///< the radio's identity stamp isn't RadioStamp: what it holds is unknown
     PrimaryPass = 0x10,     ///< the pass over the rows that sends primaries; else it sends shadows
     FitsV1 = 0x20,          ///< all that is sent fits the old layout
 };

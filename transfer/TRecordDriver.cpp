@@ -3,6 +3,7 @@
 #include "catalogue/PageModel.h"
 #include "frame/ZelkMain.h"
 #include "transfer/ProgressFrame.h"
+#include "transfer/RadioIdentity.h"
 #include "transfer/TRecord.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TRecordExchange.h"
@@ -23,7 +24,6 @@
 namespace {
 
 constexpr unsigned LineSpeed = 9600; // baud
-constexpr int ShadowPause = 500;     // ms
 
 void SetUp(TRecordContext& context) {
     context.RadioSerial = "UNKNOWN";
@@ -33,6 +33,8 @@ void SetUp(TRecordContext& context) {
     context.InvalidModes = 0;
     context.RecordVersion = 1;
     context.Protocol = 0;
+    context.StampTold.clear();
+    context.RowsSent.clear();
     context.Work2 = 0; // no message of a debug log is in progress
 }
 
@@ -54,7 +56,14 @@ void BeginShadowPass(TRecordDialogue& dialogue) {
     SetMainGauge(context, 0);
     // Meant: the log has one point less than the window.
     WriteTransferLog(context.LogFile, "Sending Shadow Memory Data...");
-    Delay(context, ShadowPause, true);
+    Delay(context, context.ShadowPause, true);
+}
+
+/// The page tells from here on what the radio holds: the next write needs no purge.
+void CompleteWrite(TRecordContext& context) {
+    context.Status = TransferComplete;
+    if (!context.StampTold.empty())
+        RadioStamp = HeldByRadio.stamp = context.StampTold;
 }
 
 /// In a write: shows how far it is and goes from the primaries to the shadows, or to the end.
@@ -67,7 +76,7 @@ void FinishRow(TRecordDialogue& dialogue) {
     if (dialogue.Needs(NeedsShadowPass))
         BeginShadowPass(dialogue);
     else
-        context.Status = TransferComplete;
+        CompleteWrite(context);
 }
 
 /// Goes through the states, and the rows or lines, until the transfer is over.

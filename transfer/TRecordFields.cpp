@@ -74,18 +74,26 @@ std::uint32_t FrequencyToHertz(const wxString& cell) {
     return number;
 }
 
-/// Position of a zone plus 1, 0 for a text that ZoneList doesn't hold.
-int ZoneValue(const wxString& cell) {
-    return ZoneList.Index(cell) + 1;
+/// Position of a zone plus 1, 0 for a text that is no zone of pages of that radio type.
+int ZoneValue(const wxString& cell, int type) {
+    return ZoneNames(type).Index(cell) + 1;
 }
 
 int ZoneBits(int zoneValue) {
     return zoneValue == 0 ? 0 : (zoneValue - 1) << ZoneShift;
 }
 
-/// A decimal cell as V1 knows it, where the guard rows follow memory 230.
-int GuardNumber(const wxString& cell, int row) {
-    return ReadDecimal(cell) - (row > LastNP25Memory ? GuardOffset : 0);
+/// A number of a row as V1 knows it, where the guard rows follow memory 230.
+int GuardNumber(int number, int row) {
+    return number - (row > LastNP25Memory ? GuardOffset : 0);
+}
+
+int PrimaryOf(const TRecordSource& source) {
+    return PrimaryNumber(source.cells[MFLG], source.cells[SHAD], source.cells[PRIM]);
+}
+
+int FlagsOf(const TRecordSource& source) {
+    return FlagsToSend(source.cells[MFLG], source.cells[SCAN], source.type);
 }
 
 wxString FieldText(const TRecordField& field, const TRecordSource& source) {
@@ -102,25 +110,28 @@ wxString FieldText(const TRecordField& field, const TRecordSource& source) {
     case TRecordKind::Shadows:
         break;
     case TRecordKind::GuardAddress:
-    case TRecordKind::GuardPrimary:
     case TRecordKind::GuardNumber:
-        return number(GuardNumber(cell, source.row));
+        return number(GuardNumber(ReadDecimal(cell), source.row));
+    case TRecordKind::GuardPrimary:
+        return number(GuardNumber(PrimaryOf(source), source.row));
+    case TRecordKind::Primary:
+        return number(PrimaryOf(source));
     case TRecordKind::RowAddress:
         return number(source.row);
     case TRecordKind::FlagsLow:
-        return number((ReadHex(cell) & StoredLowFlags) |
+        return number((FlagsOf(source) & StoredLowFlags) |
                       (source.row >= source.gridRows - 2 ? LastRowsMark : 0));
     case TRecordKind::FlagsHigh:
-        return number((ReadHex(cell) >> HighFlagsShift) & HighFlags);
+        return number((FlagsOf(source) >> HighFlagsShift) & HighFlags);
     case TRecordKind::Decimal:
     case TRecordKind::UnitId:
     case TRecordKind::PaddedUnitId:
         return number(ReadDecimal(cell));
     case TRecordKind::ZoneByte:
         // Meant: V1 has its guard memories in the last zone, whatever their ZONE.
-        return number(ZoneBits(source.row > LastNP25Memory ? GuardZone : ZoneValue(cell)));
+        return number(ZoneBits(source.row > LastNP25Memory ? GuardZone : ZoneValue(cell, source.type)));
     case TRecordKind::ZoneWord:
-        return number(ZoneBits(ZoneValue(cell)));
+        return number(ZoneBits(ZoneValue(cell, source.type)));
     case TRecordKind::Description:
         return DescriptionToHex(cell);
     case TRecordKind::Letter:
@@ -136,6 +147,7 @@ wxString FieldText(const TRecordField& field, const TRecordSource& source) {
     case TRecordKind::Code:
         return number(GetCodeIndex(cell, source.type) + 1);
     case TRecordKind::Flags:
+        return number(FlagsOf(source));
     case TRecordKind::TalkGroup:
     case TRecordKind::Nac:
         return number(ReadHex(cell));
@@ -174,7 +186,7 @@ std::optional<wxString> EntryAt(const wxArrayString& list, std::int64_t position
 /// Takes the fields of one line, in their order, into values.
 class Reader {
 public:
-    Reader(const wxString& line, int radio) : m_line(line), m_radio(radio) {}
+    Reader(const wxString& line, int radio, int type) : m_line(line), m_radio(radio), m_type(type) {}
 
     TRecordValues values;
 
@@ -206,14 +218,16 @@ public:
             values.primary = static_cast<int>(number) + m_offset;
             Add(field.column, NumberText(values.primary));
             break;
+        case TRecordKind::Primary:
+            values.primary = static_cast<int>(number);
+            Add(field.column, wxString::Format("%u", number));
+            break;
         case TRecordKind::Decimal:
-            if (field.column == PRIM)
-                values.primary = static_cast<int>(number);
             Add(field.column, wxString::Format("%u", number));
             break;
         case TRecordKind::ZoneByte:
         case TRecordKind::ZoneWord:
-            Add(field.column, EntryAt(ZoneList, number >> ZoneShift).value_or(""));
+            Add(field.column, EntryAt(ZoneNames(m_type), number >> ZoneShift).value_or(""));
             break;
         case TRecordKind::Description:
             Add(field.column, Trimmed(HexToCharacters(m_line, field.position, DescriptionLength)));
@@ -276,11 +290,26 @@ private:
     }
 
     const wxString& m_line;
-    int m_radio;
+    int m_radio, m_type;
     int m_offset = 0;
 };
 
 } // namespace
+
+int PrimaryNumber(const wxString& flags, const wxString& shad, const wxString& prim) {
+    wxString number;
+    if ((ReadHex(flags) & ShadowIndexMask) && shad.StartsWith("S-", &number))
+        if (const int primary = ReadDecimal(number); primary > 0)
+            return primary;
+    return ReadDecimal(prim);
+}
+
+int FlagsToSend(const wxString& flags, const wxString& scan, int type) {
+    const int stored = ReadHex(flags);
+    if (!IsP25Type(type) || (stored & (ShadowIndexMask | ShadowLinkFlag)))
+        return stored;
+    return scan == "Y" ? stored | ScanFlag : stored & ~ScanFlag;
+}
 
 bool FitsRecordV1(int type, int row) {
     constexpr int LastRP25Row = 232;
@@ -296,8 +325,8 @@ wxString MakeTRecord(std::span<const TRecordField> layout, const TRecordSource& 
     return line;
 }
 
-TRecordValues ReadTRecord(std::span<const TRecordField> layout, const wxString& line, int radio) {
-    Reader reader(line, radio);
+TRecordValues ReadTRecord(std::span<const TRecordField> layout, const wxString& line, int radio, int type) {
+    Reader reader(line, radio, type);
     for (const TRecordField& field : layout)
         reader.Take(field);
     return reader.values;

@@ -17,12 +17,13 @@ enum class TRecordKind {
     RowAddress,    ///< the grid row
     FlagsLow,      ///< MFLG bits 0 to 6, and bit 7 to mark the page's last two rows; bit 7 isn't read
     FlagsHigh,     ///< MFLG bits 8 and 9
-    Flags,         ///< MFLG
-    GuardPrimary,  ///< decimal, of a guard row less 270; read as "%03d"
+    Flags,         ///< MFLG, with the scan flag as SCAN tells it, as in FlagsLow
+    GuardPrimary,  ///< PrimaryNumber, of a guard row less 270; read as "%03d"
     GuardNumber,   ///< decimal, of a guard row less 270; not read
+    Primary,       ///< PrimaryNumber; read as "%d"
     Decimal,       ///< decimal; read as "%d"
-    ZoneByte,      ///< position in ZoneList times 16, F0 for a guard row; the high digit is read
-    ZoneWord,      ///< position in ZoneList times 16
+    ZoneByte,      ///< position in ZoneNames times 16, F0 for a guard row; the high digit is read
+    ZoneWord,      ///< position in ZoneNames times 16
     Description,   ///< 8 characters
     Letter,        ///< one character
     FrequencyText, ///< MHz in 8 characters
@@ -88,7 +89,7 @@ inline constexpr TRecordField TRecordV2[] = {
     {  0,  4, TRecordKind::Literal, ColumnTotal, "T143"},
     {  4,  4, TRecordKind::RowAddress, MNUM}, // meant: the row, whatever its MNUM
     {  8,  4, TRecordKind::Flags, MFLG}, // meant: no mark on the last two rows, and bit 7 is read
-    { 12,  4, TRecordKind::Decimal, PRIM},
+    { 12,  4, TRecordKind::Primary, PRIM},
     { 16,  4, TRecordKind::Decimal, MNUM}, // meant: read without leading zeros, and so is PRIM
     { 20,  4, TRecordKind::ZoneWord, ZONE},
     { 24, 16, TRecordKind::Description, DESC},
@@ -137,8 +138,17 @@ struct TRecordValues {
     int primary = 0;                ///< as in PRIM
     int shadows = 0;                ///< shadow fields that aren't zero
     std::vector<TRecordCell> cells; ///< all others, in the order of the record; ZONE is empty for a zone
-                                    ///< that ZoneList doesn't hold
+                                    ///< that the page's type doesn't have
 };
+
+/// The number of a row's primary, from the texts of MFLG, SHAD and PRIM. A shadow's is the one in SHAD
+/// ("S-010"), where SHAD names one: a check of the page lets every row name itself in PRIM, and the radio
+/// would lose the link. 0 where neither cell holds a number.
+int PrimaryNumber(const wxString& flags, const wxString& shad, const wxString& prim);
+
+/// The flags of a row that go to a radio, from the texts of MFLG and SCAN on a page of that radio type. On a
+/// P25 page SCAN tells whether the memory is scanned, but for primaries and shadows, which never are.
+int FlagsToSend(const wxString& flags, const wxString& scan, int type);
 
 /// True if a V1 radio of the type has a place for the row.
 bool FitsRecordV1(int type, int row);
@@ -146,6 +156,6 @@ bool FitsRecordV1(int type, int row);
 /// The line, without its checksum, of a row. Characters that the radio can't show become blanks.
 wxString MakeTRecord(std::span<const TRecordField> layout, const TRecordSource& source);
 
-/// What a line without its checksum tells on a page of that radio index. Digits that are missing or no
-/// digits count 0, characters that can't be shown are blanks.
-TRecordValues ReadTRecord(std::span<const TRecordField> layout, const wxString& line, int radio);
+/// What a line without its checksum tells on a page of that radio index and radio type. Digits that are
+/// missing or no digits count 0, characters that can't be shown are blanks.
+TRecordValues ReadTRecord(std::span<const TRecordField> layout, const wxString& line, int radio, int type);

@@ -11,6 +11,7 @@
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TRecordHardware.h"
 #include "transfer/TRecordMessages.h"
+#include "transfer/TRecordRows.h"
 #include "transfer/TRecordStates.h"
 #include "transfer/TransferMode.h"
 #include "transfer/TransferSession.h"
@@ -42,12 +43,15 @@ void KeepProtocol(TRecordContext& context) {
     SetRadioModes(context, context.Protocol <= 1 ? AllModes : context.RadioModes);
 }
 
-void TakeAck(TRecordContext& context) {
+void TakeAck(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
     if (context.Index == HelloState) {
         KeepProtocol(context);
     } else if (context.Index == SpeedState) {
         Delay(context, SpeedPause, false);
         context.Port->setBaudRate(FastSpeed);
+    } else if (dialogue.mode == WriteChannelsMode && context.Index >= 0) {
+        TakeRowAck(dialogue);
     }
     context.Phase = LineDone;
     context.RetryCount = 0;
@@ -98,8 +102,11 @@ void TakeConfigCount(TRecordContext& context) {
 
 void TakeLineInWrite(TRecordContext& context) {
     if (context.RxLine.StartsWith(MSG_SID)) {
-        if (context.RxLine.Mid(MessageTextAt, 14) != RadioStamp)
+        context.StampTold = context.RxLine.Mid(MessageTextAt, 14);
+        if (RadioStamp.empty() || context.StampTold != RadioStamp)
             context.XferFlags |= OtherRadio;
+        if (HeldByRadio.stamp != RadioStamp)
+            HeldByRadio = {};
         context.Phase = LineDone;
     } else if (context.RxLine == EndRecord) {
         context.Phase = LineFailed;
@@ -116,6 +123,8 @@ void TakeEnd(TRecordDialogue& dialogue) {
         return;
     }
     context.Status = TransferComplete;
+    if (dialogue.mode == ReadChannelsMode)
+        KeepContentOfRead(dialogue);
     if (dialogue.mode == ReadDebugLogMode && context.DebugLogFile.IsOpened())
         EndDebugLog(context);
 }
@@ -178,7 +187,7 @@ void TakeReply(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     const wxString& line = context.RxLine;
     if (line == AckRecord) {
-        TakeAck(context);
+        TakeAck(dialogue);
     } else if (line == NakRecord) {
         TakeNak(dialogue);
     } else if (line == WaitRecord) {

@@ -3,10 +3,13 @@
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "transfer/RadioIdentity.h"
 #include "transfer/TRecordCodec.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TRecordDriver.h"
+#include "transfer/TRecordFields.h"
 
+#include <algorithm>
 #include <wx/grid.h>
 
 namespace {
@@ -29,12 +32,41 @@ int Flags(const TRecordDialogue& dialogue, int row, int column) {
     return ReadHex(dialogue.grid->GetCellValue(row, column));
 }
 
+/// The number of the primary that the record of a row names.
+int PrimaryOf(const TRecordDialogue& dialogue, int row) {
+    const auto text = [&](int column) { return dialogue.grid->GetCellValue(row, column); };
+    return PrimaryNumber(text(MFLG), text(SHAD), text(PRIM));
+}
+
 bool IsShadow(const TRecordDialogue& dialogue, int row) {
     return (Flags(dialogue, row, MFLG) & ShadowBits) != 0;
 }
 
 bool IsMemory(const TRecordDialogue& dialogue, int row) {
     return row >= 1 && row < dialogue.rowCount;
+}
+
+bool IsGuard(const TRecordDialogue& dialogue, int row) {
+    return row >= dialogue.rowCount - 2;
+}
+
+bool IsSelected(const TRecordDialogue& dialogue, int row) {
+    return dialogue.grid->IsInSelection(row, IsGuard(dialogue, row) ? GuardSelectionColumn
+                                                                    : MemorySelectionColumn);
+}
+
+/// A row without these bits, a blank one above all, stays as it is.
+void ClearTFlag(const TRecordDialogue& dialogue, int row, int bits) {
+    if (const int flags = Flags(dialogue, row, TFLG); flags & bits)
+        dialogue.grid->SetCellValue(row, TFLG, FlagText(flags & ~bits));
+}
+
+/// Takes the selection of an earlier transfer off the rows. A shadow that was sent once would otherwise make
+/// every later write purge the radio.
+void ForgetFormerSelection(const TRecordDialogue& dialogue) {
+    for (int row = 0; row < dialogue.rowCount; ++row)
+        if (!IsSelected(dialogue, row))
+            ClearTFlag(dialogue, row, SEL);
 }
 
 /// Selects a row for sending. A row that was never used stays without flags: with them it would count as
@@ -52,7 +84,7 @@ void Mark(TRecordDialogue& dialogue, int row) {
 
 /// Marks the primary of a shadow and all shadows of that primary.
 void MarkFamily(TRecordDialogue& dialogue, int shadow) {
-    const int primary = Decimal(dialogue, shadow, PRIM);
+    const int primary = PrimaryOf(dialogue, shadow);
     if (!IsMemory(dialogue, primary))
         return;
     Mark(dialogue, primary);
@@ -62,7 +94,7 @@ void MarkFamily(TRecordDialogue& dialogue, int shadow) {
 }
 
 bool FitsOldLayout(const TRecordDialogue& dialogue, int row) {
-    if (Decimal(dialogue, row, PRIM) > OldRows || Decimal(dialogue, row, ZONE) > OldZones)
+    if (PrimaryOf(dialogue, row) > OldRows || Decimal(dialogue, row, ZONE) > OldZones)
         return false;
     for (int column = SHD0; column <= SHD6; ++column)
         if (Decimal(dialogue, row, column) > OldRows)
@@ -70,9 +102,10 @@ bool FitsOldLayout(const TRecordDialogue& dialogue, int row) {
     return true;
 }
 
-void EvaluateRow(TRecordDialogue& dialogue, int row, bool guard) {
+void EvaluateRow(TRecordDialogue& dialogue, int row) {
     TRecordContext& context = dialogue.context;
-    if (dialogue.grid->IsInSelection(row, guard ? GuardSelectionColumn : MemorySelectionColumn))
+    const bool guard = IsGuard(dialogue, row);
+    if (IsSelected(dialogue, row))
         Select(dialogue, row);
     const int flags = Flags(dialogue, row, TFLG);
     if (!(flags & DEF) || !(flags & (SEL | EraseFlag)))
@@ -120,7 +153,28 @@ void ChooseErasure(TRecordDialogue& dialogue, int row, int flags) {
     dialogue.Offer(line);
 }
 
+bool SelectionLeavesOutRows(const TRecordDialogue& dialogue) {
+    for (int row = 1; row < dialogue.rowCount; ++row)
+        if (RowHasData(row) && !dialogue.grid->IsInSelection(row, GuardSelectionColumn))
+            return true;
+    return false;
+}
+
+/// True for a row that goes out again behind a purge, and for one that the user wants erased.
+bool SurvivesPurge(const TRecordDialogue& dialogue, int row) {
+    if (!IsMemory(dialogue, row))
+        return false;
+    const int flags = Flags(dialogue, row, TFLG);
+    const bool goesOut = dialogue.grid->IsInSelection(row, GuardSelectionColumn) ||
+                         dialogue.markedRows.count(row) != 0 || (flags & InRadioFlag);
+    return (flags & EraseFlag) || ((flags & DEF) && goesOut);
+}
+
 } // namespace
+
+bool PurgeIsNeeded(const TRecordDialogue& dialogue) {
+    return dialogue.Needs(RadioPurged | NeedsShadowPass | HasMarkedRow | OtherRadio);
+}
 
 std::uint32_t CheckForInvalidOpModes(TRecordContext&, int row, std::uint32_t radioModes) {
     const wxString mode = CurrentGrid()->GetCellValue(row, MODE);
@@ -135,8 +189,9 @@ std::uint32_t CheckForInvalidOpModes(TRecordContext&, int row, std::uint32_t rad
 }
 
 void EvaluateRows(TRecordDialogue& dialogue) {
+    ForgetFormerSelection(dialogue);
     for (int row = 0; row < dialogue.rowCount; ++row)
-        EvaluateRow(dialogue, row, row >= dialogue.rowCount - 2);
+        EvaluateRow(dialogue, row);
 }
 
 void ChooseRowLine(TRecordDialogue& dialogue) {
@@ -153,4 +208,35 @@ void ChooseRowLine(TRecordDialogue& dialogue) {
     const bool restore = dialogue.Needs(RadioPurged) && (flags & InRadioFlag) && IsMemory(dialogue, row);
     if ((flags & SEL) || restore)
         ChooseRecord(dialogue, row);
+}
+
+void TakeRowAck(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    const int row = context.Index;
+    if (!IsMemory(dialogue, row))
+        return;
+    context.RowsSent.insert(row);
+    if (context.TxLine.StartsWith("T1")) {
+        SetTFlag(dialogue.grid, row, InRadioFlag);
+        HeldByRadio.rows.insert(row);
+    } else {
+        ClearTFlag(dialogue, row, InRadioFlag);
+        HeldByRadio.rows.erase(row);
+    }
+}
+
+bool PurgeMayCostMemories(const TRecordDialogue& dialogue) {
+    if (dialogue.Needs(OtherRadio))
+        return SelectionLeavesOutRows(dialogue);
+    if (HeldByRadio.stamp != RadioStamp || !PurgeIsNeeded(dialogue))
+        return false;
+    return HeldByRadio.readBrokeOff || !std::all_of(HeldByRadio.rows.begin(), HeldByRadio.rows.end(),
+                                                     [&](int row) { return SurvivesPurge(dialogue, row); });
+}
+
+void KeepContentOfRead(const TRecordDialogue& dialogue) {
+    HeldByRadio = {RadioStamp, {}, false};
+    for (int row = 1; row < dialogue.rowCount; ++row)
+        if (Flags(dialogue, row, TFLG) & InRadioFlag)
+            HeldByRadio.rows.insert(row);
 }

@@ -37,6 +37,16 @@ bool UserAcceptsModes(const TRecordContext& context) {
                         context.Progress) == wxYES;
 }
 
+bool UserAcceptsPurge(const TRecordDialogue& dialogue) {
+    const wxString reason = dialogue.Needs(OtherRadio)
+                                ? "This radio's memories were not read by this program.\n"
+                                : "This radio holds memories that this page doesn't.\n";
+    wxMessageDialog question(dialogue.context.Progress,
+                             reason + "All of them will be erased before the selected rows are sent!",
+                             "Purge radio?", wxOK | wxCANCEL);
+    return question.ShowModal() == wxID_OK;
+}
+
 int ChooseVersionQuery(TRecordDialogue& dialogue) {
     if (dialogue.mode == ReadInformationMode)
         return TransferComplete;
@@ -53,7 +63,14 @@ void OfferStamp(TRecordDialogue& dialogue) {
     if (dialogue.mode == WriteChannelsMode)
         return dialogue.Offer(MSG_RID);
     RadioStamp = MakeRadioStamp();
+    HeldByRadio = {RadioStamp, {}, dialogue.mode == ReadChannelsMode};
     dialogue.Offer(MSG_SID + RadioStamp);
+}
+
+/// Asks before anything is changed in a radio that may hold what the page doesn't.
+bool PurgeIsRefused(TRecordDialogue& dialogue) {
+    return dialogue.mode == WriteChannelsMode && PurgeMayCostMemories(dialogue) &&
+           !UserAcceptsPurge(dialogue);
 }
 
 void OfferOpening(TRecordDialogue& dialogue) {
@@ -78,14 +95,16 @@ void OfferOpening(TRecordDialogue& dialogue) {
 }
 
 void OfferPurge(TRecordDialogue& dialogue) {
-    if (dialogue.mode != WriteChannelsMode ||
-        !dialogue.Needs(RadioPurged | NeedsShadowPass | HasMarkedRow | OtherRadio))
+    if (dialogue.mode != WriteChannelsMode || !PurgeIsNeeded(dialogue))
         return;
     dialogue.context.StatusText = "Purging Radio....";
     WriteTransferLog(dialogue.context.LogFile, dialogue.context.StatusText);
     dialogue.Offer(MSG_PURGE);
     // All that the radio held goes out again, and so do its shadows.
     dialogue.context.XferFlags |= RadioPurged | NeedsShadowPass;
+    // If the write fails now, the next one has to purge and restore the radio again.
+    RadioStamp.clear();
+    HeldByRadio = {};
 }
 
 const char* DataStatus(int mode) {
@@ -161,6 +180,8 @@ int ChooseLine(TRecordDialogue& dialogue) {
         OfferStamp(dialogue);
         break;
     case OpeningState:
+        if (PurgeIsRefused(dialogue))
+            return TransferCancelled;
         OfferOpening(dialogue);
         break;
     case PurgeState:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
 #include <wx/arrstr.h>
 #include <wx/datetime.h>
 #include <wx/ffile.h>
@@ -37,6 +38,10 @@ struct TransferContext {
     std::int32_t FoundAt = -1;                    ///< position of the terminator in RxBuffer, -1 for none
     std::int32_t Status = 0;                      ///< a TransferStatus
     std::uint32_t XferFlags = 0;                  ///< what the rows to be sent need of the radio
+    std::set<int> RowsSent;                       ///< memory rows that the radio has acknowledged
+
+    /// Makes of the text that arrives what RxBuffer gets; null: the text as it is.
+    wxString (*Arriving)(const wxString& text) = nullptr;
 };
 
 /// State of a T-record transfer.
@@ -49,6 +54,8 @@ struct TRecordContext : TransferContext {
     std::uint32_t RecordType = 0;      ///< digit of the last record
     std::uint32_t LogDataStart = 0;    ///< byte of a debug log record at which its data begin
     std::uint32_t Protocol = 0;        ///< number of the protocol agreed on
+    wxString StampTold;                ///< identity stamp that the radio told in a write, empty before
     int ReplyTimeout = 30000;          ///< milliseconds that an answer is waited for
+    int ShadowPause = 500;             ///< milliseconds between the primaries and the shadows
     int ResultPause = 1000;            ///< milliseconds that the last word stands in the progress window
 };

@@ -9,6 +9,12 @@
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
 
+namespace {
+
+constexpr int LastWordsTime = 200; // ms
+
+} // namespace
+
 void MakeProgressFrame(TransferContext& context, wxGrid* grid, const wxString& title) {
     context.Progress = new ProgressFrame(grid->GetGridWindow(), -1, title, wxDefaultPosition,
                                          wxSize(200, 150), wxCAPTION | wxRESIZE_BORDER);
@@ -19,6 +25,9 @@ void MakeProgressFrame(TransferContext& context, wxGrid* grid, const wxString& t
 
 void TakeDown(TransferContext& context) {
     CloseTransferLog(context.LogFile);
+    // A close drops what is unsent, on Windows the record on its way too: the radio would miss the end of the
+    // transfer. However it ended, there is nothing to wait for unless the line is slow or stuck.
+    context.Port->waitUntilWritten(LastWordsTime);
     context.Port->close();
     delete context.Port;
     context.Port = nullptr;

@@ -11,7 +11,7 @@ struct TransferContext;
 void MakeProgressFrame(TransferContext& context, wxGrid* grid, const wxString& title);
 
 /// Closes the log of the transfer and the port, and destroys port and progress window; both pointers of
-/// the context are null afterwards.
+/// the context are null afterwards. What is still to be sent has 200 ms to go out, and is dropped then.
 void TakeDown(TransferContext& context);
 
 /// Tells the user of a failure in a box.

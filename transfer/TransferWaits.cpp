@@ -29,6 +29,11 @@ void PumpUserEvents() {
         loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
 }
 
+void TakeArrived(TransferContext& context) {
+    const wxString text = wxAsyncSerial::GetData();
+    context.RxBuffer += context.Arriving ? context.Arriving(text) : text;
+}
+
 } // namespace
 
 int WaitForLine(TransferContext& context, int timeoutMs, wxChar terminator, bool /*pulse*/) {
@@ -39,7 +44,7 @@ int WaitForLine(TransferContext& context, int timeoutMs, wxChar terminator, bool
     // Spins without a sleep on purpose: the time from a radio's answer to the next line stays short.
     while (true) {
         PumpUserEvents();
-        context.RxBuffer += wxAsyncSerial::GetData();
+        TakeArrived(context);
         context.FoundAt = context.RxBuffer.Find(terminator);
         ReadClock(context);
         if (context.Elapsed >= context.LastPulse + kPulseInterval) {

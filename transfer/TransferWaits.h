@@ -6,9 +6,9 @@
 struct TransferContext;
 
 /// Waits until the port has brought a line, the user cancels or the time is up. Keeps the window alive
-/// meanwhile and moves the pulse gauge every 50 ms. Received text is added to `context.RxBuffer`, which
-/// keeps what it held, and `context.FoundAt` is the position of its first terminator. The context must
-/// have its `Progress`.
+/// meanwhile and moves the pulse gauge every 50 ms. Received text passes `context.Arriving`, if that is set,
+/// and is added to `context.RxBuffer`, which keeps what it held; `context.FoundAt` is the position of its
+/// first terminator. The context must have its `Progress`.
 ///
 /// @param timeoutMs  time-out in milliseconds
 /// @param terminator last character of a line

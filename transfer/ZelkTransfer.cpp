@@ -12,7 +12,9 @@
 #include "transfer/TransferContext.h"
 #include "transfer/TransferMode.h"
 #include "transfer/TransferStatus.h"
+#include "transfer/UnsentRows.h"
 
+#include <set>
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
 
@@ -43,19 +45,25 @@ bool GuardIsSelected(int row) {
     return row < CurrentGrid()->GetNumberRows() && RowHasData(row) && CurrentGrid()->IsInSelection(row, 0);
 }
 
-int RunDriver(TransferDriver driver, int mode, const wxString& title) {
+/// How a transfer ended, and the memory rows that the radio has acknowledged in it.
+struct TransferResult {
+    int status = TransferUnsupported;
+    std::set<int> rowsSent = {};
+};
+
+TransferResult RunDriver(TransferDriver driver, int mode, const wxString& title) {
     const FocusKeeper focus;
     TransferContext analog;
     TRecordContext digital;
     switch (driver) {
     case TransferDriver::Analog:
-        return TransferData(analog, CurrentGrid(), mode, PortName, title);
+        return {TransferData(analog, CurrentGrid(), mode, PortName, title), analog.RowsSent};
     case TransferDriver::TRecord:
-        return TransferData(digital, CurrentGrid(), mode, PortName, title);
+        return {TransferData(digital, CurrentGrid(), mode, PortName, title), digital.RowsSent};
     case TransferDriver::None:
         break;
     }
-    return TransferUnsupported;
+    return {};
 }
 
 bool UserAgreesToOverwrite() {
@@ -91,7 +99,8 @@ void ZelkFrame::OnDownload(wxCommandEvent&) {
         // What was read must not stand among the memories that such a page begins with.
         EmptyDefaultMemories(CurrentPage);
         status = RunDriver(choice.driver, ReadChannelsMode,
-                           wxString("Read ") + RadioTypeName[page.Type] + " Memory Data Progress");
+                           wxString("Read ") + RadioTypeName[page.Type] + " Memory Data Progress")
+                     .status;
         SetPageEditors(CurrentPage);
     }
     ShowResult(status, "Read from Radio Status");
@@ -111,5 +120,9 @@ void ZelkFrame::OnUpload(wxCommandEvent&) {
                       "At least one Main channel and\n both Guards must be selected!");
     if (page.Type == O12)
         Refuse("ORV-12 is not currently supported!");
-    ShowResult(RunDriver(choice.driver, WriteChannelsMode, choice.title), "Write to Radio Status");
+    const std::set<int> selected = SelectedMemories();
+    const TransferResult result = RunDriver(choice.driver, WriteChannelsMode, choice.title);
+    // Complete or not: what isn't in the radio must not be taken for sent.
+    TellUnsentRows(selected, result.rowsSent);
+    ShowResult(result.status, "Write to Radio Status");
 }

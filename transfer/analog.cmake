@@ -9,5 +9,6 @@ target_sources(zelk_core PRIVATE
     ${CMAKE_CURRENT_SOURCE_DIR}/DriverChoice.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/HexText.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/RadioIdentity.cpp
+    ${CMAKE_CURRENT_SOURCE_DIR}/UnsentRows.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/ZelkTransfer.cpp
 )

@@ -71,6 +71,10 @@ void wxAsyncSerial::write(const wxString& text) {
     m_impl->port.writeString(LibcBytes(text));
 }
 
+bool wxAsyncSerial::waitUntilWritten(int limitMs) {
+    return m_impl->port.waitUntilWritten(std::chrono::milliseconds(limitMs));
+}
+
 void wxAsyncSerial::close() {
     m_impl->port.clearCallback();
     try {

@@ -49,8 +49,12 @@ public:
     bool errorStatus() const;
 
     /// Queues a text for sending and returns at once. The bytes are those of the C library's encoding; of
-    /// a text that it can't express nothing is sent.
+    /// a text that it can't express nothing is sent. On a closed port the text is dropped.
     void write(const wxString& text);
+
+    /// Waits until all that was written has been handed to the device, at most that many milliseconds, and
+    /// not at all on a port that is closed or has failed. True if nothing is left to be sent.
+    bool waitUntilWritten(int limitMs);
 
     /// Closes the port; does nothing on a closed one. No text arrives after it.
     void close();

@@ -86,12 +86,12 @@ TEST_F(PageDefaults, SetTheZoneListForTheGenerationOfTheP25Page) {
     EXPECT_EQ(16u, RadioCatalogue::ZoneList.size());
 }
 
-TEST_F(PageDefaults, NameZonesByTheListThatStoodBefore) {
+TEST_F(PageDefaults, NameZonesByTheirOwnTypeSoThatGuardsNeverLoseTheirZoneToAnEarlierPage) {
     AddPage(6, 0);
     AddPage(7, 0);
     EXPECT_EQ("1", Cell(1, ZONE));
-    EXPECT_EQ("None", Cell(501, ZONE)) << "the list of the page before has 16 names";
-    EXPECT_EQ("None", Cell(502, ZONE));
+    EXPECT_EQ("X", Cell(501, ZONE)) << "the page before has 16 zones";
+    EXPECT_EQ("X", Cell(502, ZONE));
 }
 
 TEST_F(PageDefaults, LeaveNothingSelected) {

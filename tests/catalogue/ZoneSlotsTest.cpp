@@ -137,7 +137,7 @@ TEST_F(ZoneSlotsTest, TheLastPageHasRoomBehindIt) {
     EXPECT_EQ(1, SlotsTaken(5, 32));
 }
 
-TEST_F(ZoneSlotsTest, NamesAreThoseOfTheZoneList) {
+TEST_F(ZoneSlotsTest, NamesAreThoseOfTheCurrentPagesType) {
     constexpr const char* names[] = {"1",  "2",  "3",  "4",  "5",  "6", "7", "8", "9", "10", "11",
                                      "12", "13", "14", "15", "16", "A", "C", "E", "F", "H",  "I",
                                      "K",  "L",  "M",  "N",  "P",  "T", "U", "V", "W", "X"};
@@ -148,6 +148,14 @@ TEST_F(ZoneSlotsTest, NamesAreThoseOfTheZoneList) {
     AddPage(6, 0);
     EXPECT_EQ("16", GetZoneName(15));
     EXPECT_EQ("None", GetZoneName(16));
+    EXPECT_EQ(15, FindZone("16"));
+    EXPECT_EQ(-1, FindZone("X"));
+    AddPage(7, 0);
+    EXPECT_EQ("X", GetZoneName(31));
+    EXPECT_EQ(31, FindZone("X"));
+    MainFrame->m_notebook->SetSelection(1);
+    EXPECT_EQ("None", GetZoneName(31)) << "back on the page of the first generation";
+    EXPECT_EQ(-1, FindZone("X"));
 }
 
 TEST_F(ZoneSlotsTest, MoveDownWithThePagesWhenOneIsDeleted) {

@@ -34,6 +34,8 @@ inline const std::vector<ProgramText> ProgramTexts = {
      "    Analog Wideband\n    Analog Narrowband\n    P25 Conventional\n"
      "\nThe radio will not transmit in disabled modes (affected memories become receive only).\n"
      "\nDo you wish to continue the transfer?", true},
+    {"Purge radio?", "This radio's memories were not read by this program.\n"
+                     "All of them will be erased before the selected rows are sent!"},
 
     // Pages and rows
     {"Validate Page", "Validate row data"},
@@ -45,6 +47,7 @@ inline const std::vector<ProgramText> ProgramTexts = {
     {"", "Error Bad Band Config"},
     {"", "Number already used at row: %03d"},
     {"", "%d Duplicate memory number(s) found."},
+    {"Error", "Memory number must be from 0 to %d."},
     {"ERROR", "Chan number cannot be empty!"},
     {"Validation conflict", "'%s' has been validated"},
     {"Validation conflict", "'%s' contains invalid character(s)"},
@@ -67,10 +70,25 @@ inline const std::vector<ProgramText> ProgramTexts = {
     {"", "Empty Grid - No data to Save"},
     {"", "1 row is incomplete and was not saved"},
     {"", "%d rows are incomplete and were not saved"},
-    {"", "File was not saved: "},
-    {"", "File was not saved: the document could not be written", true},
+    {"", "Saved "},
+    {"", "1 row NOT SAVED: "},
+    {"", "%d rows NOT SAVED: "},
+    {"", "the default row is incomplete and was not saved"},
+    {"", "NOT SAVED: "},
+    {"", "The file is damaged. Save under another name."},
+    {"Replace file?", "%s exists and was not opened on this page!"},
     {"Import File", "Imported %d Lines from %s file."},
     {"Import File", "Error: Unknown File Type."},
+    {"", "No cell replaced"},
+    {"", "No cell was replaced."},
+    {"", "1 cell replaced, row %d"},
+    {"", "%d cells replaced from row %d"},
+    {"", "%d line skipped"},
+    {"", "%d lines skipped"},
+    {"", "%d line was skipped: "},
+    {"", "%d lines were skipped: "},
+    {"", "%d line holds no memory"},
+    {"", "%d lines hold no memory"},
     {"Import CSV", "Unable to import the selected file\n\nPlease check that the file is correctly formatted\n"
                    "and contains a column header line."},
     {"", "File Open Error"},
@@ -139,6 +157,9 @@ inline const std::vector<ProgramText> ProgramTexts = {
 
     // Status bar, title, dialogs
     {"", "Select function"},
+    {"", "%d of %d selected rows sent"},
+    {"", "%d selected row was not sent: %s"},
+    {"", "%d selected rows were not sent: %s"},
     {"", "%d Rows"},
     {"", "Orv Zelk: Page %d of %d."},
     {"", "<-- Select Target Radio -->"},

@@ -81,3 +81,24 @@ TEST_F(CheckBandTest, LeavesEveryKnownBandOnAPageOfTheSecondModule) {
         EXPECT_TRUE(IsPainted(4)) << '"' << text << '"';
     }
 }
+
+TEST_F(CheckBandTest, LeavesTheDefaultRowItsFormerBandPaintedWhenAnotherCanNotStand) {
+    Retarget(17, 5);
+    for (const char* text : {"FM 99-100", "fm 30-50", "FM 138-174", ""}) {
+        SetCell(0, BAND, "AM 225-400");
+        Check(0, text);
+        EXPECT_EQ("AM 225-400", Cell(0, BAND)) << '"' << text << '"';
+        EXPECT_TRUE(IsPainted(0)) << '"' << text << '"';
+        CurrentGrid()->SetCellBackgroundColour(0, BAND, *wxWHITE);
+    }
+}
+
+TEST_F(CheckBandTest, AnswersWhetherTheBandCanStand) {
+    wxGrid* grid = CurrentGrid();
+    EXPECT_EQ(CheckNotApplicable, CheckBand(grid, 3, "FM 30-50"));
+    Retarget(17, 5);
+    for (int row : {0, 3}) {
+        EXPECT_EQ(CheckGood, CheckBand(grid, row, "AM 225-400"));
+        EXPECT_EQ(CheckBadValue, CheckBand(grid, row, "am 225-400"));
+    }
+}

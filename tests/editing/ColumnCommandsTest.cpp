@@ -3,6 +3,7 @@
 #include "editing/CellTextRenderer.h"
 #include "editing/RowLooks.h"
 
+#include "editing/ZelkEdit.h"
 #include "tests/editing/CommandTest.h"
 
 namespace {
@@ -184,6 +185,20 @@ TEST_F(DefaultColumn, OfTheZoneGivesAShadowNone) {
     RunOnColumn(DefaultCol, ZONE);
     EXPECT_EQ(Cell(11, ZONE), "");
     EXPECT_EQ(SlotsTaken(0), 2) << "rows 1 and 10";
+}
+
+TEST_F(DefaultColumn, OfTheZoneMakesScanOfARowThatWasInXWritable) {
+    Retarget(Kdrv716B, 0);
+    Fill({10, 11});
+    Link(11, {12});
+    SetCell(10, ZONE, "X");
+    SetPageEditors(0);
+    ASSERT_TRUE(IsReadOnly(10, SCAN));
+    RunOnColumn(DefaultCol, ZONE);
+    EXPECT_EQ("1", Cell(10, ZONE));
+    EXPECT_FALSE(IsReadOnly(10, SCAN));
+    for (int row : {11, 12, 501, 502})
+        EXPECT_TRUE(IsReadOnly(row, SCAN)) << row;
 }
 
 TEST_F(DefaultColumn, FromTheMenuIsTheColumnThatWasClicked) {
@@ -470,4 +485,58 @@ TEST_F(MissingClipboard, IsToldInABoxEach) {
     dialogs.ExpectMessage("Paste", "Paste contents of clipboard.\n\nNot implemented yet.");
     TellCopyIsMissing();
     TellPasteIsMissing();
+}
+
+TEST_F(DefaultColumn, ForReceiveOnlySetsThatColumnAndNoHiddenOne) {
+    testbench::ShowAndFocus(*MainFrame);
+    Retarget(Kdar2000, 0);
+    Fill({2, 3});
+    for (int row : {2, 3}) {
+        SetCell(row, RONL, "Y");
+        SetCell(row, TIDC, "kept");
+    }
+    testbench::DialogScript dialogs;
+    ExpectQuestion(dialogs, DefaultCol);
+    ClickColumnCommand(RONL, DefaultCol);
+    EXPECT_EQ(Column(RONL, {2, 3, 4}), (Texts{"N", "N", ""}));
+    EXPECT_EQ(Column(TIDC, {2, 3}), (Texts{"kept", "kept"}));
+}
+
+TEST_F(DefaultMarkedRows, ForReceiveOnlySetThatColumn) {
+    Retarget(Kdar2000, 0);
+    Fill({2, 3});
+    SetCell(2, RONL, "Y");
+    SetCell(3, RONL, "Y");
+    SelectRows({3});
+    Run(MarkRow);
+    RunOnColumn(DefaultMarked, RONL);
+    EXPECT_EQ(Column(RONL, {2, 3}), (Texts{"Y", "N"}));
+}
+
+TEST_F(DefaultColumn, OfTheModeBringsP25RowsTheSquelchesOfTheNewMode) {
+    Retarget(Kdrv716, 0);
+    Fill({2, 3, 4});
+    SetCell(2, MODE, "D");
+    SetCell(2, RSQL, "m");
+    SetCell(2, TSQL, "g");
+    SetCell(3, MODE, "w");
+    SetCell(3, RSQL, "t");
+    SetCell(3, TSQL, "t");
+    SetCell(4, RSQL, "c");
+    SetCell(4, TSQL, "c");
+    RunOnColumn(DefaultCol, MODE);
+    EXPECT_EQ(Column(MODE, {2, 3, 4}), (Texts{"n", "n", "n"}));
+    EXPECT_EQ(Column(RSQL, {2, 3, 4}), (Texts{"x", "x", "c"}))
+        << "a row that has the mode keeps its squelches";
+    EXPECT_EQ(Column(TSQL, {2, 3, 4}), (Texts{"x", "x", "c"}));
+    SetCell(0, MODE, "D");
+    RunOnColumn(DefaultCol, MODE);
+    EXPECT_EQ(Column(RSQL, {2, 3, 4}), (Texts{"m", "m", "m"}));
+    EXPECT_EQ(Column(TSQL, {2, 3, 4}), (Texts{"g", "g", "g"}));
+    for (int row : {2, 3, 4}) {
+        const testbench::DialogScript none;
+        CheckRow(CurrentGrid(), row);
+        EXPECT_EQ(Column(RSQL, {row}), Texts{"m"}) << "nothing to repair";
+        EXPECT_EQ(Paint(row, RSQL), Plain());
+    }
 }

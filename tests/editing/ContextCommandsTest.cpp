@@ -47,10 +47,6 @@ protected:
         const Page& page = GetParam();
         Retarget(page.radio, page.slot);
         if (page.p25) {
-            // The start names the guards' zone by the list of the page before.
-            RadioCatalogue::ZoneList.clear();
-            for (int zone = 0; zone < (page.radio == 6 ? 16 : 32); ++zone)
-                RadioCatalogue::ZoneList.push_back(RadioCatalogue::ZoneNames32[zone]);
             ClearZoneSlots(0);
             for (int row = 1; row <= page.rows; ++row)
                 ClearRowData(row, false);

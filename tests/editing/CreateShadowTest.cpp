@@ -112,18 +112,6 @@ TEST_F(CreateShadowCommand, LinksBothRows) {
     EXPECT_FALSE(CurrentGrid()->IsInSelection(10, 0));
 }
 
-TEST_F(CreateShadowCommand, KeepsTheRadiosFlagsOfTheShadowsRow) {
-    SetCell(17, MFLG, "378");
-    Create(10, 0, 17);
-    EXPECT_EQ(Cell(17, MFLG), "61");
-}
-
-TEST_F(CreateShadowCommand, AddsTheIndexToTheOneThatTheRowHeld) {
-    SetCell(17, MFLG, "6C");
-    Create(10, 0, 17);
-    EXPECT_EQ(Cell(17, MFLG), "65");
-}
-
 TEST_F(CreateShadowCommand, TakesTheRowsNumberForThePrimarysRow) {
     Complete(12);
     SetCell(10, MNUM, "12");
@@ -204,11 +192,48 @@ TEST_F(CreateShadowCommand, RefusesANumberInUse) {
     EXPECT_EQ(Row(30), used);
 }
 
-TEST_F(CreateShadowCommand, DoesNotSeeANumberThatIsNotWrittenWithThreeDigits) {
+// A departure: texts that differ in their zeros would let a memory be overwritten in silence.
+TEST_F(CreateShadowCommand, ComparesNumbersAndNotTheirTextsSoThatNoMemoryIsOverwritten_Departure) {
     Complete(30);
-    SetCell(30, MNUM, "30");
-    Create(10, 0, 30);
-    EXPECT_EQ(Cell(30, SHAD), "S-010");
+    Complete(31);
+    SetCell(30, MNUM, "13");
+    SetCell(31, MNUM, "0014");
+    const Texts first = Row(30), second = Row(31);
+    for (const char* number : {"13", "013", "14"}) {
+        SCOPED_TRACE(number);
+        testbench::DialogScript dialogs;
+        ExpectEntry(dialogs, 10, 1, number);
+        ExpectRefusal(dialogs, "Selected memory is already in use.");
+        RunOn(10);
+    }
+    EXPECT_EQ(Row(30), first);
+    EXPECT_EQ(Row(31), second);
+    EXPECT_EQ(Row(13), Blank());
+    EXPECT_EQ(Row(14), Blank());
+}
+
+// A departure: the shadow stands in the row of its number, whatever number that row has now.
+TEST_F(CreateShadowCommand, RefusesARowWithDataWhateverItsNumberSoThatNoMemoryIsOverwritten_Departure) {
+    testbench::ShowAndFocus(*MainFrame);
+    const std::pair<int, const char*> contents[] = {{MNUM, "099"}, {MNUM, ""}, {DESC, "KEPT"}, {MFLG, "68"}};
+    for (const auto& [col, text] : contents) {
+        SCOPED_TRACE(std::string(ColumnTag[col]) + " " + text);
+        RunOnRow(ClearRow, 30);
+        testbench::ShowAndFocus(*MainFrame);
+        if (col == MNUM)
+            Complete(30);
+        SetCell(30, col, text);
+        const Texts before = Row(10), used = Row(30);
+        testbench::DialogScript dialogs;
+        dialogs.Expect(testbench::DialogKind::Other, TitleFor(10, 1)).Do([](wxDialog* dialog) {
+            testbench::TypeText("30");
+            testbench::ClickButton(dialog, wxID_OK);
+        });
+        ExpectRefusal(dialogs, "Selected memory is already in use.");
+        ClickRowCommand(10, CreateShadow);
+        EXPECT_EQ(Row(10), before);
+        EXPECT_EQ(Row(30), used);
+    }
 }
 
 TEST_F(CreateShadowCommand, RefusesANumberOutsideThePage) {

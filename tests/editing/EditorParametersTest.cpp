@@ -178,11 +178,10 @@ protected:
         std::string words = "unknown";
         if (auto* combo = dynamic_cast<wxComboBox*>(editor.GetWindow()))
             words = DescribeChoice(editor, *combo);
+        else if (auto* memory = dynamic_cast<ZelkMemoryNumberEditor*>(&editor))
+            words = wxString::Format("memory %d to %d", memory->GetMin(), memory->GetMax()).utf8_string();
         else if (auto* spin = dynamic_cast<wxSpinCtrl*>(editor.GetWindow()))
-            words = wxString::Format("%s %d to %d",
-                                     dynamic_cast<ZelkMemoryNumberEditor*>(&editor) ? "memory" : "number",
-                                     spin->GetMin(), spin->GetMax())
-                        .utf8_string();
+            words = wxString::Format("number %d to %d", spin->GetMin(), spin->GetMax()).utf8_string();
         else if (auto* control = dynamic_cast<wxTextCtrl*>(editor.GetWindow()))
             words = DescribeText(editor, *control);
         editor.Destroy();

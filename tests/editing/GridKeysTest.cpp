@@ -52,7 +52,7 @@ protected:
             {"description", DESC, "abC", "abC"},
             {"mode", MODE, "<Down>", "D"},
             {"frequency", RFRQ, "155.2", "155.20000"},
-            {"squelch", RSQL, "<Down>", "n"},
+            {"squelch", RSQL, "<Down>", "m"},
             {"number", RNSV, "7", "7"},
             {"tone", RTON, "<Down>", "69.3"},
             {"code", RCOD, "<Down>", "025"},
@@ -257,15 +257,13 @@ TEST_F(GridKeys, EscapeLeavesThePageAsItWasInEveryKindOfCell) {
         Grid()->SetCellBackgroundColour(5, edit.col, FailColour);
     for (const Edit& edit : Edits()) {
         SCOPED_TRACE(edit.name);
-        auto slots = ZoneSlots;
+        const auto slots = ZoneSlots;
         const PageState before = StateOfPage();
         Begin(5, edit);
         PressKey("Escape");
         EXPECT_FALSE(IsOpen());
         EXPECT_EQ("", ChangesSince(before));
         EXPECT_EQ(Place(5, edit.col), Cursor());
-        if (edit.col == ZONE)
-            --slots[0]; // the slot that the row had is only counted again by a check
         EXPECT_EQ(slots, ZoneSlots);
     }
 }

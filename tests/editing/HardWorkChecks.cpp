@@ -117,7 +117,7 @@ void HardWork::ExpectSlotsCounted() {
     const int last = CurrentParameters().Type == RadioCatalogue::NP25 ? 31 : 15;
     std::vector<int> shown(ZonesPerPage);
     for (int row = 1; row <= rows; ++row) {
-        const int zone = RadioCatalogue::ZoneList.Index(Cell(row, ZONE));
+        const int zone = FindZone(Cell(row, ZONE));
         if (!RowHasData(row) || IsShadow(row) || zone == wxNOT_FOUND)
             continue;
         // A guard row that finds its zone full keeps its text without a slot.

@@ -3,7 +3,6 @@
 
 #include "catalogue/TextNumbers.h"
 #include "editing/Shadows.h"
-#include "editing/Shadows.h"
 #include "editing/ZelkEdit.h"
 #include "tests/support/AssertsOff.h"
 
@@ -267,7 +266,8 @@ void HardWork::PasteOneRow() {
         if (!m_cancelled && RowCopyBuffer.empty())
             dialogs.ExpectMessage("Error - Empty paste buffer!", "Cannot paste empty row.")
                 .Style(testbench::plainBox);
-        else if (!m_cancelled)
+        else if (!m_cancelled && OtherRowWith(ContextRow, NumberText(ContextRow)))
+            // Else the row gets its own number where the copied one can't stand.
             ExpectNumberBox(dialogs, OtherRowWith(ContextRow, RowCopyBuffer[MNUM]));
     }
     if (memory && !m_cancelled && m_copiedPage >= 0 && m_copiedPage != CurrentPage)

@@ -151,10 +151,75 @@ TEST_F(NumberCells, TakeTypedNumbersWithThreeDigits) {
     EXPECT_EQ("", Text(5, PRIM));
 }
 
-TEST_F(NumberCells, StopAtThePagesRowCount) {
+// A departure: the toolkit's editor would take the highest number, which is a guard memory.
+TEST_F(NumberCells, AboveThePagesRowsAreRefusedWithABoxSoThatNoGuardMemoryIsTaken_Departure) {
+    for (const auto& [radio, rows] : {std::pair(Krv47, 122), std::pair(Kdrv716B, 502)}) {
+        Retarget(radio, 0);
+        Fill({5});
+        for (const std::string& typed :
+             {std::to_string(rows + 1), std::string("999"), std::string("99999999999")}) {
+            SCOPED_TRACE(typed);
+            DialogScript dialogs;
+            dialogs.ExpectMessage("Error", "Memory number must be from 0 to " + std::to_string(rows) + ".")
+                .Style(wxOK | wxCENTRE | wxICON_INFORMATION);
+            TypeIntoCell(*Grid(), 5, MNUM, typed);
+            EXPECT_EQ("005", Text(5, MNUM));
+            EXPECT_FALSE(Grid()->IsCellEditControlShown());
+        }
+        TypeIntoCell(*Grid(), 5, MNUM, std::to_string(rows - 2));
+        EXPECT_EQ(std::to_string(rows - 2), Text(5, MNUM));
+    }
+}
+
+TEST_F(NumberCells, Below0AreRefusedAlike) {
     Fill({5});
-    TypeIntoCell(*Grid(), 5, MNUM, "999");
-    EXPECT_EQ("122", Text(5, MNUM));
+    DialogScript dialogs;
+    dialogs.ExpectMessage("Error", "Memory number must be from 0 to 122.");
+    GoTo(5, MNUM);
+    PressKey("F2");
+    PressKey("Ctrl+A");
+    TypeText("-5\n");
+    EXPECT_EQ("005", Text(5, MNUM));
+}
+
+TEST_F(NumberCells, AboveThePagesRowsLeaveABlankRowBlank) {
+    DialogScript dialogs;
+    dialogs.ExpectMessage("Error", "Memory number must be from 0 to 122.");
+    TypeIntoCell(*Grid(), 5, MNUM, "123");
+    EXPECT_FALSE(RowHasData(5));
+}
+
+TEST_F(NumberCells, AboveThePagesRowsAreRefusedOnceWhateverEndsTheEdit) {
+    Fill({5});
+    for (const char* key : {"Return", "KP_Enter", "Tab"}) {
+        SCOPED_TRACE(key);
+        DialogScript dialogs;
+        dialogs.ExpectMessage("Error", "Memory number must be from 0 to 122.");
+        GoTo(5, MNUM);
+        TypeText("200");
+        PressKey(key);
+        PumpUntilIdle();
+        EXPECT_EQ("005", Text(5, MNUM));
+        EXPECT_EQ(1u, dialogs.Shown().size());
+    }
+    {
+        DialogScript dialogs;
+        dialogs.ExpectMessage("Error", "Memory number must be from 0 to 122.");
+        GoTo(5, MNUM);
+        TypeText("200");
+        ClickAt(CellSpot(*Grid(), 9, DESC));
+        PumpUntilIdle();
+        EXPECT_EQ("005", Text(5, MNUM));
+        EXPECT_FALSE(Grid()->IsCellEditControlShown());
+    }
+    GoTo(5, MNUM);
+    TypeText("200");
+    PressKey("Escape");
+    EXPECT_EQ("005", Text(5, MNUM)) << "no box for what is given up";
+    GoTo(5, MNUM);
+    TypeText("77");
+    PressKey("Return");
+    EXPECT_EQ("077", Text(5, MNUM));
 }
 
 TEST_F(NumberCells, OfAnotherRowAreRefusedWithABoxThatNamesIt) {

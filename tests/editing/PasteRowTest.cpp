@@ -46,8 +46,27 @@ TEST_F(PasteRowCommand, WritesColumns0To29AndKeepsTheTransferFlags) {
     EXPECT_EQ(Row(5), expected);
 }
 
-TEST_F(PasteRowCommand, LosesANumberThatIsInUse) {
+// A departure: with an empty number the pasted row would not be saved.
+TEST_F(PasteRowCommand, GivesTheRowItsOwnNumberForOneThatIsInUse_Departure) {
     Fill({3});
+    CopyTo(3, 5);
+    EXPECT_EQ(Cell(5, MNUM), "005");
+    EXPECT_EQ(Cell(5, RFRQ), Cell(3, RFRQ));
+    CopyTo(5, 5);
+    EXPECT_EQ(Cell(5, MNUM), "005") << "no other row's";
+}
+
+TEST_F(PasteRowCommand, GivesTheRowItsOwnNumberForOneAboveTheRows_Departure) {
+    Fill({3});
+    RunOnRow(CopyRow, 3);
+    RowCopyBuffer[MNUM] = "500";
+    RunOnRow(PasteRow, 5);
+    EXPECT_EQ(Cell(5, MNUM), "005");
+}
+
+TEST_F(PasteRowCommand, LosesANumberThatIsInUseWhereItsOwnIsTooAndTellsIt) {
+    Fill({3, 9});
+    SetCell(9, MNUM, "005");
     RunOnRow(CopyRow, 3);
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, PasteRow);
@@ -58,6 +77,30 @@ TEST_F(PasteRowCommand, LosesANumberThatIsInUse) {
     EXPECT_EQ(Cell(5, RFRQ), Cell(3, RFRQ));
 }
 
+// A departure: without these cells the row would be incomplete and not be saved.
+TEST_F(PasteRowCommand, FromAnotherTypeFillsWhatThatTypeHasNoColumnFor_Departure) {
+    Retarget(Kdrv716, 0);
+    Fill({10});
+    RunOnRow(CopyRow, 10);
+    testbench::AddPage(Kdrv716B);
+    RunOnRow(PasteRow, 10);
+    EXPECT_EQ(Cell(10, RNSV), "10");
+    EXPECT_EQ(Paint(10, RNSV), Orange());
+    EXPECT_TRUE(RowIsComplete(10));
+    testbench::AddPage(Kdar2000);
+    RunOnRow(PasteRow, 10);
+    EXPECT_EQ(Cell(10, RONL), "N");
+    EXPECT_EQ(Paint(10, RONL), Orange());
+    EXPECT_TRUE(RowIsComplete(10));
+    RowCopyBuffer[DESC] = "";
+    RowCopyBuffer[SCAN] = "";
+    RunOnRow(PasteRow, 10);
+    EXPECT_EQ(Cell(10, DESC), "VHFAM118");
+    EXPECT_EQ(Cell(10, SCAN), "N");
+    EXPECT_EQ(Paint(10, DESC), Orange());
+    EXPECT_TRUE(RowIsComplete(10));
+}
+
 TEST_F(PasteRowCommand, PastesOneRowWhateverIsSelected) {
     Fill({3});
     RunOnRow(CopyRow, 3);
@@ -66,6 +109,23 @@ TEST_F(PasteRowCommand, PastesOneRowWhateverIsSelected) {
     ContextRow = 5;
     Run(PasteRow);
     EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{3, 5}));
+}
+
+TEST_F(PasteRowCommand, OfZoneXLocksScanAndAPasteOfAnotherZoneMakesItWritableAgain) {
+    Retarget(Kdrv716B, 0);
+    Fill({3, 4, 5, 6});
+    SetCell(3, ZONE, "X");
+    SetPageEditors(0);
+    SetCell(5, TFLG, "A0"); // its zone is to be dealt anew
+    CopyToWithNumber(3, 5);
+    ASSERT_EQ("X", Cell(5, ZONE));
+    EXPECT_TRUE(IsReadOnly(5, SCAN));
+    SetCell(5, TFLG, "A0");
+    CopyToWithNumber(4, 5);
+    ASSERT_EQ("1", Cell(5, ZONE));
+    EXPECT_FALSE(IsReadOnly(5, SCAN));
+    CopyToWithNumber(4, 501);
+    EXPECT_TRUE(IsReadOnly(501, SCAN)) << "a guard row's stays locked";
 }
 
 TEST_F(PasteRowCommand, IntoABlankRowMakesItAMemory) {

@@ -81,13 +81,15 @@ TEST_F(ZoneCells, KeepTheirSlotWhenTheSameZoneIsChosen) {
     EXPECT_EQ(2, SlotsOf(0));
 }
 
-TEST_F(ZoneCells, LoseTheirSlotWhenTheEditIsGivenUp) {
+// A departure: a lost slot would leave room for a seventeenth memory.
+TEST_F(ZoneCells, KeepTheirSlotWhenTheEditIsGivenUp_Departure) {
     Fill({2});
     const int before = AllSlots();
     OpenChoice(2, ZONE);
     PressKey("Escape");
     EXPECT_EQ("1", Text(2, ZONE));
-    EXPECT_EQ(before - 1, AllSlots());
+    EXPECT_EQ(before, AllSlots());
+    EXPECT_EQ(2, SlotsOf(0));
 }
 
 TEST_F(ZoneCells, OfABlankRowLeaveItBlankWhenTheEditIsGivenUp) {
@@ -183,6 +185,53 @@ TEST_F(ZoneCells, XIsNotScanned) {
     EXPECT_EQ(2, SlotsOf(31));
 }
 
+TEST_F(ZoneCells, XLocksScanWheneverTheRowsEditorsAreSet) {
+    Fill({2, 3});
+    SetCell(2, ZONE, "X");
+    SetCell(3, ZONE, "W");
+    SetRowEditorsP25(Grid(), 2);
+    SetRowEditorsP25(Grid(), 3);
+    EXPECT_TRUE(IsLocked(2, SCAN));
+    EXPECT_FALSE(IsLocked(3, SCAN));
+    SetCell(2, ZONE, "1");
+    SetCell(3, ZONE, "X");
+    SetPageEditors(CurrentPage);
+    EXPECT_FALSE(IsLocked(2, SCAN)) << "writable again";
+    EXPECT_TRUE(IsLocked(3, SCAN));
+    SetCell(0, ZONE, "X");
+    SetPageEditors(CurrentPage);
+    EXPECT_TRUE(IsLocked(0, SCAN));
+    SetCell(0, ZONE, "1");
+    SetPageEditors(CurrentPage);
+    EXPECT_FALSE(IsLocked(0, SCAN));
+}
+
+TEST_F(ZoneCells, OfLinkedAndGuardRowsKeepScanLockedWhateverTheZone) {
+    Fill({4, 5, 6});
+    SetCell(4, SHAD, "P-1");
+    SetCell(4, MFLG, "10");
+    SetCell(5, SHAD, "S-004");
+    SetCell(5, MFLG, "01");
+    SetPageEditors(CurrentPage);
+    for (int row : {4, 5, 501, 502})
+        EXPECT_TRUE(IsLocked(row, SCAN)) << row;
+    EXPECT_FALSE(IsLocked(6, SCAN));
+    for (int row : {501, 502}) {
+        SetCell(row, ZONE, "1");
+        SetRowEditorsP25(Grid(), row);
+        EXPECT_TRUE(IsLocked(row, SCAN)) << row;
+        EXPECT_TRUE(IsLocked(row, ZONE)) << row;
+    }
+}
+
+TEST_F(ZoneCells, OfTheFirstGenerationHaveNoXThatWouldLockScan) {
+    Retarget(Kdrv716, 0);
+    Fill({2});
+    SetCell(2, ZONE, "X");
+    SetPageEditors(CurrentPage);
+    EXPECT_FALSE(IsLocked(2, SCAN));
+}
+
 TEST_F(ZoneCells, OfAPrimaryAreToldToItsShadows) {
     Fill({4, 5, 8, 9});
     SetCell(5, MFLG, "10");
@@ -241,6 +290,42 @@ TEST_F(ZoneCells, OfABlankRowTakeOneSlot) {
     EXPECT_EQ(1, SlotsOf(6));
 }
 
+TEST_F(ZoneCells, OfTheDefaultRowMoveNoSlotSoThatNoZoneTakesSeventeenRows) {
+    Fill({2, 3});
+    const auto slots = ZoneSlots;
+    OpenChoice(0, ZONE);
+    EXPECT_EQ(slots, ZoneSlots) << "no slot is given back for the edit";
+    PressKey("Return");
+    EXPECT_EQ(slots, ZoneSlots);
+    Choose(0, ZONE, "3");
+    EXPECT_EQ("3", Text(0, ZONE));
+    EXPECT_EQ(slots, ZoneSlots) << "and none is taken for the choice";
+    OpenChoice(0, ZONE);
+    PressKey("Escape");
+    EXPECT_EQ("3", Text(0, ZONE));
+    EXPECT_EQ(slots, ZoneSlots);
+}
+
+TEST_F(ZoneCells, OfTheDefaultRowLetAFullZoneStayFull) {
+    for (int row = 2; row <= 16; ++row)
+        Fill({row});
+    ASSERT_EQ(16, SlotsOf(0));
+    Choose(0, ZONE, "2");
+    EXPECT_EQ(16, SlotsOf(0));
+    EXPECT_EQ(0, SlotsOf(1));
+    Fill({17});
+    EXPECT_EQ("2", Text(17, ZONE)) << "the seventeenth row";
+}
+
+TEST_F(ZoneCells, OfTheDefaultRowOfferItsOwnZoneThoughThatIsFull) {
+    ZoneSlotsOf(0)[0] = 16;
+    ZoneSlotsOf(0)[4] = 16;
+    EXPECT_EQ(ZonesBut({"5"}), OfferedIn(0, ZONE));
+    OpenChoice(0, ZONE);
+    PressKey("Return");
+    EXPECT_EQ("1", Text(0, ZONE));
+}
+
 TEST_F(ZoneCells, OfARowWithoutAZoneGiveNothingBack) {
     Fill({2});
     SetCell(2, ZONE, "");
@@ -248,6 +333,8 @@ TEST_F(ZoneCells, OfARowWithoutAZoneGiveNothingBack) {
     OpenChoice(2, ZONE);
     EXPECT_EQ(before, AllSlots());
     PressKey("Return");
-    EXPECT_EQ("1", Text(2, ZONE)) << "the first zone stands in the list";
+    EXPECT_EQ("", Text(2, ZONE)) << "no zone was chosen";
+    EXPECT_EQ(before, AllSlots());
+    Choose(2, ZONE, "1");
     EXPECT_EQ(before + 1, AllSlots());
 }

@@ -1,6 +1,7 @@
 #include "tests/files/ChannelFileTest.h"
 
 #include "editing/ZoneCell.h"
+#include "tests/support/Keys.h"
 
 #include <wx/notebook.h>
 
@@ -292,6 +293,56 @@ TEST_F(ChannelFileReader, BringsPrimariesAndShadowsBackOutOfTheScanAndLocked) {
     EXPECT_FALSE(grid->IsReadOnly(7, ZONE));
     EXPECT_EQ("", Text(6, ZONE));
     EXPECT_EQ(2, TakenSlots()) << "a shadow takes no slot";
+}
+
+TEST_F(ChannelFileReader, LocksScanOfRowsInZoneX) {
+    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "0", "N", "X") + P25Memory(6, "0", "N", "W"))));
+    EXPECT_TRUE(CurrentGrid()->IsReadOnly(5, SCAN));
+    EXPECT_FALSE(CurrentGrid()->IsReadOnly(6, SCAN));
+    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "0", "N", "W") + P25Memory(6, "0", "N", "X"))));
+    EXPECT_FALSE(CurrentGrid()->IsReadOnly(5, SCAN));
+    EXPECT_TRUE(CurrentGrid()->IsReadOnly(6, SCAN));
+}
+
+// A departure: tuned or numbered alone, a shadow would leave its primary.
+TEST_F(ChannelFileReader, KeepsShadowsAndPrimariesLockedAsBeforeTheyWereSaved_Departure) {
+    for (const char* type : {"RP25", "NP25"}) {
+        SCOPED_TRACE(type);
+        ASSERT_EQ(0, Open(FileOf(type, P25Memory(5, "10", "P-1", "2") + P25Memory(6, "01", "S-005", "2") +
+                                           P25Memory(7, "0", "N", "2"))));
+        const auto lockedIn = [](int row) {
+            std::vector<int> columns;
+            for (int col = 0; col < ColumnTotal; ++col)
+                if (CurrentGrid()->IsReadOnly(row, col))
+                    columns.push_back(col);
+            return columns;
+        };
+        EXPECT_EQ((std::vector<int>{MNUM, SHAD, SCAN}), lockedIn(5));
+        EXPECT_EQ((std::vector<int>{MNUM, SHAD, SCAN, ZONE, RFRQ, TFRQ}), lockedIn(6));
+        EXPECT_EQ((std::vector<int>{SHAD}), lockedIn(7));
+    }
+}
+
+TEST_F(ChannelFileReader, LetsNoKeyRetuneOrRenumberAShadowAlone) {
+    testbench::ShowAndFocus(*MainFrame);
+    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "10", "P-1", "2") + P25Memory(6, "01", "S-005", "2"))));
+    testbench::TypeIntoCell(*CurrentGrid(), 6, RFRQ, "150.0");
+    testbench::TypeIntoCell(*CurrentGrid(), 6, TFRQ, "151.0");
+    testbench::TypeIntoCell(*CurrentGrid(), 6, MNUM, "99");
+    testbench::TypeIntoCell(*CurrentGrid(), 5, MNUM, "98");
+    EXPECT_EQ((std::vector<std::string>{"6", "", "", "5"}),
+              (std::vector<std::string>{Text(6, MNUM), Text(6, RFRQ), Text(6, TFRQ), Text(5, MNUM)}));
+    testbench::TypeIntoCell(*CurrentGrid(), 6, DESC, "own");
+    EXPECT_EQ("own", Text(6, DESC));
+}
+
+TEST_F(ChannelFileReader, LocksARowThatComesTwiceByWhatItIsInTheEnd) {
+    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(6, "01", "S-005", "2") + P25Memory(6, "0", "N", "2") +
+                                         P25Memory(7, "01", "S-005", "2") + Memory(7, "<DS>LAST</DS>"))));
+    EXPECT_FALSE(CurrentGrid()->IsReadOnly(6, RFRQ));
+    EXPECT_FALSE(CurrentGrid()->IsReadOnly(6, ZONE));
+    EXPECT_TRUE(CurrentGrid()->IsReadOnly(7, RFRQ));
+    EXPECT_TRUE(CurrentGrid()->IsReadOnly(7, ZONE));
 }
 
 TEST_F(ChannelFileReader, LeavesScanCellsOfOtherTypesAsTheyAre) {

@@ -93,6 +93,8 @@ protected:
     std::string Save(const std::string& name = "saved") {
         PageStrings[CurrentPage].FileDir = m_folder.Path().string() + "/";
         PageStrings[CurrentPage].FileName = name;
+        // Where there is none, no question is asked.
+        std::filesystem::remove(m_folder / (name + ".zelk"));
         SaveZelkFile(CurrentPage, false);
         return testbench::ReadFile(m_folder / (name + ".zelk"));
     }
@@ -139,6 +141,8 @@ protected:
     }
 
     static std::string Text(int row, int col) { return Cell(row, col).utf8_string(); }
+
+    static std::string ToolTip() { return MainFrame->m_statusBar->GetToolTipText().utf8_string(); }
 
     /// Rows of the grid that have a text.
     static std::vector<int> RowsWithText() {

@@ -286,19 +286,21 @@ TEST_F(ChannelFileWriter, StartsEachFileAtNumberZero) {
     EXPECT_NE(std::string::npos, Save().find("<MN>000</MN>"));
 }
 
-TEST_F(ChannelFileWriter, CountsTheMemoriesThatItLeavesOut) {
+TEST_F(ChannelFileWriter, NamesTheRowsWithDataThatItLeavesOut) {
     RetargetTo("ANFM");
     const auto leftOut = [] {
         wxXmlDocument document;
         return BuildChannelFile(CurrentPage, document);
     };
-    EXPECT_EQ(0, leftOut());
+    EXPECT_EQ(std::vector<int>{}, leftOut());
     SetCell(0, DESC, "");
-    EXPECT_EQ(0, leftOut()) << "the default row is no memory";
+    EXPECT_EQ(std::vector<int>{0}, leftOut());
     SetCell(1, DESC, "A");
-    EXPECT_EQ(1, leftOut());
+    EXPECT_EQ((std::vector<int>{0, 1}), leftOut());
     SetCell(102, TFLG, "A0");
-    EXPECT_EQ(2, leftOut());
+    EXPECT_EQ((std::vector<int>{0, 1, 102}), leftOut());
     MakeAnalogRow(1, "1");
-    EXPECT_EQ(1, leftOut());
+    EXPECT_EQ((std::vector<int>{0, 102}), leftOut());
+    EmptyRow(0);
+    EXPECT_EQ(std::vector<int>{102}, leftOut()) << "a blank row has nothing to lose";
 }

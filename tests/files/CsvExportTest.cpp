@@ -1,11 +1,14 @@
 // Exporting as a person does: by menu and file dialog.
 #include "files/CsvExport.h"
 
+#include "tests/files/AsAnyUser.h"
 #include "tests/files/CsvTest.h"
 #include "tests/files/FileSizeLimit.h"
 
 #include <wx/filedlg.h>
 #include <wx/msgdlg.h>
+
+#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 using testbench::DialogKind;
@@ -162,8 +165,33 @@ TEST_F(CsvExportCommand, WithoutWholeRowsSelectedSaysSo) {
     }
 }
 
+TEST_F(CsvExportCommand, OfAKdarPageLeavesBlankRowsAndTheDefaultRowOutSoThatNoMemoriesAreInvented) {
+    EmptyPageOf("KDAR");
+    FillRow(2, {{MNUM, "002"}, {DESC, "TOWER"}, {RFRQ, "118.300"}, {TFRQ, "118.300"}, {RONL, "N"}});
+    const char* expected = "KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n"
+                           "2,TOWER,118300,118300,No,No,\n";
+    Choose(IdSelectAll);
+    EXPECT_EQ(expected, Export());
+    Select({0, 1, 2, 3});
+    EXPECT_EQ(expected, Export());
+}
+
+TEST_F(CsvExportCommand, OfAKdarPageWithBlankRowsSelectedOnlySaysThatNothingIs) {
+    EmptyPageOf("KDAR");
+    FillRow(2, {{MNUM, "002"}});
+    for (const auto& rows : {std::initializer_list<int>{0}, {1}, {0, 1, 100}}) {
+        Select(rows);
+        DialogScript script;
+        script.Expect(DialogKind::Message, "Export CSV - Error!")
+            .Message("No data selected!")
+            .Style(wxOK | wxCENTRE | wxICON_ERROR);
+        Choose(IdExport);
+    }
+}
+
 TEST_F(CsvExportCommand, OffersTheRadiosNameAndAsksBeforeItOverwrites) {
     EmptyPageOf("KDAR");
+    FillRow(1, {{MNUM, "001"}});
     Select({1});
     DialogScript script;
     script.Expect(DialogKind::File, "Export CSV file").Answer(wxID_CANCEL).Set([](wxDialog* dialog) {
@@ -223,6 +251,22 @@ TEST_F(CsvExportCommand, ThatEndsOnAFullDiskSaysSoAndLeavesTheFormerFile) {
     const FileSizeLimit full(1000);
     ExportInVain(m_folder / "list.csv");
     EXPECT_EQ("former", testbench::ReadFile(m_folder / "list.csv"));
+    EXPECT_EQ(std::vector<std::string>{"list.csv"}, Entries());
+}
+
+TEST_F(CsvExportCommand, OverwritesAFileThatMayBeWrittenInAFolderThatMayNot) {
+    EmptyPageOf("O12");
+    Select({1});
+    testbench::WriteFile(m_folder / "list.csv", std::string(10000, 'x'));
+    ASSERT_EQ(0, chmod((m_folder / "list.csv").c_str(), 0666));
+    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0555));
+    std::string bytes;
+    {
+        const AsAnyUser user;
+        bytes = Export();
+    }
+    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0755));
+    EXPECT_EQ("MNUM,RFRQ,\n,,\n", bytes);
     EXPECT_EQ(std::vector<std::string>{"list.csv"}, Entries());
 }
 

@@ -28,9 +28,7 @@ protected:
         return changes;
     }
 
-    static int CountTakenSlotsOf(const std::string& zone) {
-        return ZoneSlotsOf(CurrentPage)[RadioCatalogue::ZoneList.Index(zone)];
-    }
+    static int CountTakenSlotsOf(const std::string& zone) { return ZoneSlotsOf(CurrentPage)[FindZone(zone)]; }
 };
 
 class KdarImport : public CsvImport {
@@ -317,6 +315,43 @@ TEST_F(CsvImport, ChecksFrequenciesByTheBandOfTheLine) {
     EXPECT_EQ("FM 30-50", Text(4, BAND)) << "the default row's";
     EXPECT_TRUE(IsPainted(4, BAND));
     EXPECT_EQ("31.5000", Text(4, RFRQ));
+}
+
+TEST_F(CsvImport, OfABandThatCanNotBeTheDefaultKeepsTheDefaultRowsBandSoThatOtherRowsKeepTheirFrequencies) {
+    const struct {
+        const char *band, *kept;
+        bool painted;
+    } cases[] = {
+        {"AM 225-400", "AM 225-400", false}, {"AM 108-138", "AM 108-138", false},
+        {"FM 30-50", "FM 30-50", false},     {"FM 99-100", "FM 30-50", true},
+        {"fm 30-50", "FM 30-50", true},      {"am 225-400", "FM 30-50", true},
+        {"FM 138-174", "FM 30-50", true},    {"nonsense", "FM 30-50", true},
+    };
+    for (const char* key : {"DEF", "0", "000"})
+        for (const auto& [band, kept, painted] : cases) {
+            SCOPED_TRACE(std::string(key) + ' ' + band);
+            RetargetTo("MDLX");
+            testbench::WriteFile(m_folder / "list.csv",
+                                 std::string("MNUM,BAND,DESC,RFRQ,TFRQ,MODE\n") + key + ',' + band +
+                                     ",,,,\n5,FM 30-50,A,39.4600,39.4600,N\n6,,B,39.4600,39.4600,N\n"
+                                     "7,FM 99-100,C,39.4600,39.4600,N\n");
+            ImportByMenu("list.csv", "Imported 4 Lines from CSV file.");
+            EXPECT_EQ(kept, Text(0, BAND));
+            EXPECT_EQ(painted, IsPainted(0, BAND));
+            EXPECT_EQ("FM 30-50", Text(5, BAND));
+            EXPECT_EQ("39.4600", Text(5, RFRQ));
+            EXPECT_EQ("39.4600", Text(5, TFRQ));
+            // Rows without a band of their own, or with one that can't stand, go by the default row's.
+            for (int row : {6, 7}) {
+                EXPECT_EQ(kept, Text(row, BAND)) << row;
+                EXPECT_EQ(row == 7, IsPainted(row, BAND)) << row;
+                if (std::string(kept) == "FM 30-50") {
+                    EXPECT_EQ("39.4600", Text(row, RFRQ)) << row;
+                    EXPECT_EQ("39.4600", Text(row, TFRQ)) << row;
+                    EXPECT_FALSE(IsPainted(row, RFRQ)) << row;
+                }
+            }
+        }
 }
 
 TEST_F(CsvImport, GivesARowTheZoneOfItsLineAndOneSlot) {

@@ -238,6 +238,25 @@ TEST_F(CsvRoundTrip, OfAKdarPage) {
                                  });
 }
 
+TEST_F(CsvRoundTrip, OfAKdarPageSelectedAsAWholeInventsNoMemories) {
+    for (const int memories : {1, 3, 100}) {
+        SCOPED_TRACE(memories);
+        EmptyPageOf("KDAR");
+        for (int row = 1; row <= memories; ++row)
+            MakeRow(row, {{DESC, ("CH" + std::to_string(row)).c_str()}, {RFRQ, "121.500"}, {SCAN, "Y"}});
+        SetCell(0, DESC, "DEFAULTS");
+        const auto before = PageTexts();
+        Choose(IdSelectAll);
+        const std::string bytes = Export("list.csv");
+        EXPECT_EQ(memories + 2, std::count(bytes.begin(), bytes.end(), '\n'));
+        ImportByMenu("list.csv", "Imported " + std::to_string(memories) + " Lines from KDAR file.");
+        const auto after = PageTexts();
+        for (size_t row = 1; row < after.size(); ++row)
+            EXPECT_EQ(before[row], after[row]) << "row " << row;
+        EXPECT_NE("DEFAULTS", Text(0, DESC)) << "such a list has no default row";
+    }
+}
+
 TEST_F(CsvRoundTrip, OfAnAmPage) {
     for (const char* type : {"ANAM", "FXAM"}) {
         SCOPED_TRACE(type);

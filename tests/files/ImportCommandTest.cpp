@@ -111,15 +111,15 @@ TEST_F(ImportCommand, PutsAKdarListIntoPagesOfEveryType) {
     }
 }
 
-TEST_F(ImportCommand, OffersEveryKindOfFile) {
+TEST_F(ImportCommand, OffersEveryKindOfFileAlsoWithANameInCapitals) {
     DialogScript script;
     script.Expect(DialogKind::File, "Import file").Answer(wxID_CANCEL).Set([](wxDialog* dialog) {
         auto* file = dynamic_cast<wxFileDialog*>(dialog);
         ASSERT_NE(nullptr, file);
         const wxString all = wxFileSelectorDefaultWildcardStr;
-        EXPECT_EQ("ZEL716 Binary files (*.716)|*.716|ZEL716 List files (*.txt)|*.txt|"
+        EXPECT_EQ("ZEL716 Binary files (*.716)|*.716|ZEL716 List files (*.txt)|*.txt;*.TXT|"
                   "MultiZEL files (*.210;*.220;*.610;*.630;*.650;*.666;*.840)|"
-                  "*.210;*.220;*.610;*.630;*.650;*.666;*.840|CSV files (*.csv)|*.csv|All files (" +
+                  "*.210;*.220;*.610;*.630;*.650;*.666;*.840|CSV files (*.csv)|*.csv;*.CSV|All files (" +
                       all + ")|" + all,
                   file->GetWildcard());
         EXPECT_EQ("", file->GetFilename());
@@ -158,7 +158,6 @@ TEST_F(ImportCommand, ClearsThePageForAFileOfNoKind) {
         EXPECT_FALSE(IsPainted(5, RFRQ));
         EXPECT_EQ(0, TakenSlots());
         EXPECT_EQ(0x02, CurrentParameters().Flags);
-        EXPECT_EQ(PathOf("file.716"), PageStrings[0].FileName);
     }
 }
 
@@ -209,23 +208,61 @@ TEST_F(ImportCommand, LinesOfAFileThatIsNotThereCannotBeOpened) {
     EXPECT_FALSE(importer.OpenLines(PathOf("missing.630")));
 }
 
-TEST_F(ImportCommand, NamesThePageAfterTheWholePathAndLeavesItsFolder) {
-    PageStrings[0].FileDir = "kept/";
+TEST_F(ImportCommand, NamesThePageAfterTheFileSoThatSaveCanWriteIt) {
+    PageStrings[0].FileDir = "former/";
+    PageStrings[0].FileName = "former";
     const wxString title = MainFrame->GetTitle();
-    WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));
-    ImportByMenu("list.716", "Imported 1 Lines from 716 Binary file.");
-    EXPECT_EQ(PathOf("list.716"), PageStrings[0].FileName);
-    EXPECT_EQ("kept/", PageStrings[0].FileDir);
+    WriteToFolder("list.of.716", BinaryFile({BinaryRecord(5)}));
+    ImportByMenu("list.of.716", "Imported 1 Lines from 716 Binary file.");
+    EXPECT_EQ("list.of", PageStrings[0].FileName);
+    EXPECT_EQ(m_folder.Path().string() + "/", PageStrings[0].FileDir);
     EXPECT_EQ(title, MainFrame->GetTitle());
     EXPECT_EQ("KRV-47", Status(1));
 }
 
-TEST_F(ImportCommand, AnImportedPageIsSavedBesideItsFileWithBothExtensions) {
+TEST_F(ImportCommand, OfNothingLeavesThePageWithoutANameSoThatNoFileOfFormerMemoriesIsReplaced) {
+    for (const auto& [name, bytes] :
+         {std::pair<std::string, std::string>("file.716", "something else\n"), {"a.716", BinaryHeader()}}) {
+        PageStrings[0].FileDir = m_folder.Path().string() + "/";
+        PageStrings[0].FileName = "former";
+        WriteToFolder(name, bytes);
+        ImportByMenu(name, UnknownType);
+        EXPECT_EQ("", PageStrings[0].FileName);
+        DialogScript script;
+        script.Expect(DialogKind::File, "Save .zelk file...").Answer(wxID_CANCEL);
+        Choose(IdSave);
+    }
+}
+
+TEST_F(ImportCommand, OfAPageThatHasAFolderIsSavedBesideTheImportedFile) {
     RetargetTo("RP25");
+    std::filesystem::create_directory(m_folder / "other");
+    PageStrings[0].FileDir = (m_folder / "other/").string();
+    PageStrings[0].FileName = "former";
     WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));
     ImportByMenu("list.716", "Imported 1 Lines from 716 Binary file.");
     Choose(IdSave);
-    EXPECT_NE(std::string::npos, testbench::ReadFile(m_folder / "list.716.zelk").find("<DS>VCALL10</DS>"));
+    EXPECT_EQ("Saved list.zelk", Status(0));
+    EXPECT_NE(std::string::npos, testbench::ReadFile(m_folder / "list.zelk").find("<DS>VCALL10</DS>"));
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder / "other"));
+}
+
+TEST_F(ImportCommand, IsNotSavedOverAChannelFileOfTheSameNameWithoutAQuestion) {
+    RetargetTo("RP25");
+    WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));
+    WriteToFolder("list.zelk", "edited for hours");
+    ImportByMenu("list.716", "Imported 1 Lines from 716 Binary file.");
+    {
+        DialogScript script;
+        script.ExpectMessage("Replace file?", "list.zelk exists and was not opened on this page!",
+                             wxID_CANCEL);
+        Choose(IdSave);
+    }
+    EXPECT_EQ("edited for hours", testbench::ReadFile(m_folder / "list.zelk"));
+    DialogScript script;
+    script.ExpectMessage("Replace file?", "list.zelk exists and was not opened on this page!");
+    Choose(IdSave);
+    EXPECT_EQ("Saved list.zelk", Status(0));
 }
 
 TEST_F(ImportCommand, ADigitalPageHoldsNoRowsButTheFiles) {
@@ -289,7 +326,7 @@ TEST_F(ImportCommand, WorksOnTheSelectedPageOnly) {
     EXPECT_EQ("VCALL10", Text(5, DESC));
     EXPECT_EQ("FIRST", PageGrid[0]->GetCellValue(5, DESC));
     EXPECT_EQ("", PageStrings[0].FileName);
-    EXPECT_EQ(PathOf("list.716"), PageStrings[1].FileName);
+    EXPECT_EQ("list", PageStrings[1].FileName);
 }
 
 TEST_F(ImportCommand, ReadsAFileByItsContentsWhateverItsName) {

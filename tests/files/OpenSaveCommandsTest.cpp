@@ -1,9 +1,11 @@
 // Opening and saving as a person does: by menu and dialogs.
 #include "tests/files/ChannelFileTest.h"
+#include "tests/files/FileSizeLimit.h"
 #include "tests/support/Keys.h"
 
 #include <wx/filedlg.h>
 #include <wx/filename.h>
+#include <wx/notebook.h>
 #include <wx/stdpaths.h>
 
 namespace fs = std::filesystem;
@@ -33,6 +35,39 @@ protected:
     std::string ReadFromFolder(const std::string& name) const { return testbench::ReadFile(m_folder / name); }
 
     std::string FolderText() const { return m_folder.Path().string() + "/"; }
+
+    /// Saves by the menu; file is the one that the question is about, and answer is given.
+    static void SaveOver(const std::string& file, int answer, int command = IdSave) {
+        DialogScript script;
+        ExpectReplaceQuestion(script, file, answer);
+        Choose(command);
+    }
+
+    static void ExpectReplaceQuestion(DialogScript& script, const std::string& file, int answer) {
+        script.Expect(DialogKind::Message, "Replace file?")
+            .Message(file + " exists and was not opened on this page!")
+            .Style(wxOK | wxCANCEL)
+            .Answer(answer);
+    }
+
+    /// Saves under a name by the menu and the file dialog.
+    void SaveAs(const std::string& name) {
+        DialogScript script;
+        script.ExpectFile("Save .zelk file...", (m_folder / name).string());
+        Choose(IdSaveAs);
+    }
+
+    void NamePage(const std::string& name) {
+        PageStrings[CurrentPage].FileDir = FolderText();
+        PageStrings[CurrentPage].FileName = name;
+    }
+
+    /// A page of the radio, which becomes the current one.
+    static void AddPageOf(int page, int radio) {
+        SetPageParameters(MainFrame, page, radio, 0);
+        CreateNewPage(MainFrame, page);
+        UpdateStatus(MainFrame, page);
+    }
 
     std::vector<std::string> Entries() const {
         std::vector<std::string> names;
@@ -297,12 +332,6 @@ TEST_F(OpenSaveCommands, AFileWithDotsInItsNameIsSavedBackUnderIt) {
     EXPECT_NE(std::string::npos, ReadFromFolder("a.b.zelk").find("<MEMORY row=\"0\">"));
 }
 
-TEST_F(OpenSaveCommands, AnImportedNameIsUsedAsItStands) {
-    PageStrings[0].FileName = FolderText() + "list.716";
-    Choose(IdSave);
-    EXPECT_EQ(std::vector<std::string>{"list.716.zelk"}, Entries());
-}
-
 TEST_F(OpenSaveCommands, SaveTakesTheTextOfAnOpenEditor) {
     PageStrings[0].FileDir = FolderText();
     PageStrings[0].FileName = "a";
@@ -318,21 +347,86 @@ TEST_F(OpenSaveCommands, SaveTakesTheTextOfAnOpenEditor) {
     EXPECT_FALSE(grid->IsCellEditControlShown());
 }
 
-TEST_F(OpenSaveCommands, SaveTellsHowManyRowsItLeftOut) {
-    PageStrings[0].FileDir = FolderText();
-    PageStrings[0].FileName = "a";
+TEST_F(OpenSaveCommands, SaveTellsThatItWasDone) {
+    NamePage("a");
+    for (int command : {IdSave, IdSaveAs}) {
+        if (command == IdSaveAs)
+            SaveAs("b.zelk");
+        else
+            Choose(command);
+        const std::string file = command == IdSave ? "a.zelk" : "b.zelk";
+        EXPECT_EQ("Saved " + file, Status(0));
+        EXPECT_EQ("Saved " + file, ToolTip());
+    }
+}
+
+TEST_F(OpenSaveCommands, SaveTellsHowManyRowsItLeftOutAndWhich) {
+    NamePage("a");
     SetCell(3, DESC, "A");
     Choose(IdSave);
-    EXPECT_EQ("1 row is incomplete and was not saved", Status(0));
+    EXPECT_EQ("1 row NOT SAVED: a.zelk", Status(0));
+    EXPECT_EQ("Saved a.zelk; 1 row is incomplete and was not saved: 3", ToolTip());
     SetCell(4, DESC, "A");
     SetCell(CurrentParameters().Rows, RFRQ, "67.0000");
-    SetCell(0, RFRQ, ""); // the default row doesn't count
     Choose(IdSave);
-    EXPECT_EQ("3 rows are incomplete and were not saved", Status(0));
+    EXPECT_EQ("3 rows NOT SAVED: a.zelk", Status(0));
+    EXPECT_EQ("Saved a.zelk; 3 rows are incomplete and were not saved: 3, 4, " +
+                  std::to_string(CurrentParameters().Rows),
+              ToolTip());
     for (int row : {3, 4, CurrentParameters().Rows})
         EmptyRow(row);
     Choose(IdSave);
-    EXPECT_EQ("Select function", Status(0)) << "what an earlier save told is no longer so";
+    EXPECT_EQ("Saved a.zelk", Status(0)) << "what an earlier save told is no longer so";
+}
+
+TEST_F(OpenSaveCommands, SaveNamesADefaultRowThatItLeftOutInTheToolTip) {
+    NamePage("a");
+    FillRowsFromDefault({5});
+    SetCell(0, RFRQ, "");
+    Choose(IdSave);
+    EXPECT_EQ("Saved a.zelk", Status(0)) << "the default row is no memory";
+    EXPECT_EQ("Saved a.zelk; the default row is incomplete and was not saved", ToolTip());
+    SetCell(6, DESC, "A");
+    Choose(IdSave);
+    EXPECT_EQ("1 row NOT SAVED: a.zelk", Status(0));
+    EXPECT_EQ("Saved a.zelk; 1 row is incomplete and was not saved: 6; the default row is incomplete and was "
+              "not saved",
+              ToolTip());
+    EmptyRow(0);
+    EmptyRow(6);
+    Choose(IdSave);
+    EXPECT_EQ("Saved a.zelk", ToolTip()) << "a blank one had nothing to lose";
+}
+
+TEST_F(OpenSaveCommands, TheDefaultRowOfAFreshPageOfEveryTypeIsSaved) {
+    for (const TypedTarget& target : Targets) {
+        SCOPED_TRACE(target.type);
+        RetargetTo(target.type);
+        SaveAs(std::string(target.type) + ".zelk");
+        EXPECT_EQ(std::string("Saved ") + target.type + ".zelk", ToolTip());
+    }
+}
+
+TEST_F(OpenSaveCommands, SaveShowsALongNameInAShortForm) {
+    const std::string name = "A list of all channels of the harbour and its ships, winter";
+    NamePage(name);
+    for (int row = 1; row <= CurrentParameters().Rows; ++row)
+        SetCell(row, DESC, "A");
+    Choose(IdSave);
+    EXPECT_TRUE(
+        Status(0).starts_with(std::to_string(CurrentParameters().Rows) + " rows NOT SAVED: A list of"))
+        << Status(0);
+    EXPECT_TRUE(Status(0).ends_with("winter.zelk")) << Status(0);
+    EXPECT_TRUE(ToolTip().starts_with("Saved " + name + ".zelk; ")) << ToolTip();
+}
+
+TEST_F(OpenSaveCommands, OutcomeOfASaveGoesWithThePage) {
+    AddPageOf(1, 3);
+    NamePage("a");
+    Choose(IdSave);
+    EXPECT_EQ("Saved a.zelk", Status(0));
+    MainFrame->m_notebook->SetSelection(0);
+    EXPECT_EQ("Select function", Status(0));
 }
 
 TEST_F(OpenSaveCommands, SaveThatIsCancelledTellsNothingOfRows) {
@@ -347,18 +441,20 @@ TEST_F(OpenSaveCommands, SaveThatFailsOpensNoBoxButTellsItInTheStatusBar) {
     PageStrings[0].FileDir = FolderText() + "missing/";
     PageStrings[0].FileName = "a";
     Choose(IdSave);
-    EXPECT_EQ("File was not saved: No such file or directory", Status(0));
+    EXPECT_EQ("NOT SAVED: folder not found", Status(0));
+    EXPECT_EQ("NOT SAVED: " + FolderText() + "missing/a.zelk: No such file or directory", ToolTip());
     EXPECT_EQ(std::vector<std::string>{}, Entries());
 
     fs::create_directories(m_folder / "a.zelk/inside");
     PageStrings[0].FileDir = FolderText();
     Choose(IdSave);
-    EXPECT_EQ("File was not saved: Is a directory", Status(0));
+    EXPECT_EQ("NOT SAVED: a folder has this name", Status(0));
+    EXPECT_EQ("NOT SAVED: " + FolderText() + "a.zelk: Is a directory", ToolTip());
     EXPECT_TRUE(fs::exists(m_folder / "a.zelk/inside"));
 
     PageStrings[0].FileName = "b";
     Choose(IdSave);
-    EXPECT_EQ("Select function", Status(0));
+    EXPECT_EQ("Saved b.zelk", Status(0));
     EXPECT_EQ((std::vector<std::string>{"a.zelk", "b.zelk"}), Entries());
 }
 
@@ -366,12 +462,142 @@ TEST_F(OpenSaveCommands, SaveThatFailsLeavesTheFormerFileAndThePagesName) {
     // A name just short enough for the file, but not for a new one beside it.
     const std::string name(250, 'n');
     WriteToFolder(name + ".zelk", "former");
-    PageStrings[0].FileDir = FolderText();
-    PageStrings[0].FileName = name;
-    Choose(IdSave);
-    EXPECT_EQ("File was not saved: File name too long", Status(0));
+    NamePage(name);
+    SaveOver(name + ".zelk", wxID_OK);
+    EXPECT_EQ("NOT SAVED: name too long", Status(0));
+    EXPECT_EQ("NOT SAVED: " + FolderText() + name + ".zelk: File name too long", ToolTip());
     EXPECT_EQ("former", ReadFromFolder(name + ".zelk"));
     EXPECT_EQ(name, PageStrings[0].FileName);
+}
+
+TEST_F(OpenSaveCommands, SaveOnAFullDiskLeavesTheFormerFile) {
+    NamePage("a");
+    Choose(IdSave);
+    const std::string former = ReadFromFolder("a.zelk");
+    SetCell(0, DESC, "NEW");
+    {
+        const FileSizeLimit full(100);
+        Choose(IdSave);
+    }
+    EXPECT_EQ("NOT SAVED: File too large", Status(0));
+    EXPECT_EQ(former, ReadFromFolder("a.zelk"));
+    EXPECT_EQ(std::vector<std::string>{"a.zelk"}, Entries());
+}
+
+TEST_F(OpenSaveCommands, SaveAsksBeforeItReplacesAFileThatThePageDoesNotKnow) {
+    WriteToFolder("a.zelk", "other");
+    NamePage("a");
+    SaveOver("a.zelk", wxID_CANCEL);
+    EXPECT_EQ("other", ReadFromFolder("a.zelk"));
+    EXPECT_EQ("Select function", Status(0));
+    SaveOver("a.zelk", wxID_OK);
+    EXPECT_NE(std::string::npos, ReadFromFolder("a.zelk").find("<ZelkMem>"));
+    EXPECT_EQ("Saved a.zelk", Status(0));
+    Choose(IdSave); // it is the page's own now
+}
+
+TEST_F(OpenSaveCommands, SaveAsAsksBeforeItReplacesAFileThatThePageDoesNotKnow) {
+    WriteToFolder("other.zelk", "other");
+    NamePage("mine");
+    Choose(IdSave);
+    for (const int answer : {wxID_CANCEL, wxID_OK}) {
+        DialogScript script;
+        script.ExpectFile("Save .zelk file...", (m_folder / "other.txt").string());
+        ExpectReplaceQuestion(script, "other.zelk", answer);
+        Choose(IdSaveAs);
+        EXPECT_EQ(answer == wxID_CANCEL, ReadFromFolder("other.zelk") == "other");
+        EXPECT_EQ(answer == wxID_CANCEL ? "mine" : "other", PageStrings[0].FileName);
+        EXPECT_EQ(FolderText(), PageStrings[0].FileDir);
+    }
+    // Both are the page's own now.
+    SaveAs("mine.zelk");
+    SaveAs("other.zelk");
+}
+
+TEST_F(OpenSaveCommands, SaveThatIsCancelledAtTheQuestionLeavesAPageWithoutANameWithoutOne) {
+    WriteToFolder("other.zelk", "other");
+    DialogScript script;
+    script.ExpectFile("Save .zelk file...", (m_folder / "other.zelk").string());
+    ExpectReplaceQuestion(script, "other.zelk", wxID_CANCEL);
+    Choose(IdSave);
+    EXPECT_EQ("", PageStrings[0].FileName);
+    EXPECT_EQ("", PageStrings[0].FileDir);
+}
+
+TEST_F(OpenSaveCommands, SaveOverTheOpenedFileAsksNothingAndOverAnotherOneDoes) {
+    WriteToFolder("a.zelk", FileOf("ANFM", Memory(5, "<DS>A</DS>")));
+    WriteToFolder("b.xml", FileOf("ANFM", Memory(5, "<DS>B</DS>")));
+    WriteToFolder("b.zelk", "other");
+    OpenByMenu("a.zelk");
+    Choose(IdSave);
+    SaveAs("a.zelk");
+    OpenByMenu("b.xml");
+    SaveOver("b.zelk", wxID_CANCEL);
+    EXPECT_EQ("other", ReadFromFolder("b.zelk")) << "b.xml is another file";
+}
+
+TEST_F(OpenSaveCommands, AFileIsKnownUnderEveryNameThatItHas) {
+    fs::create_directory(m_folder / "real");
+    fs::create_directory_symlink("real", m_folder / "link");
+    NamePage("a");
+    PageStrings[0].FileDir = FolderText() + "real/";
+    Choose(IdSave);
+    PageStrings[0].FileDir = FolderText() + "link/../link/";
+    Choose(IdSave);
+    EXPECT_EQ("Saved a.zelk", Status(0));
+}
+
+TEST_F(OpenSaveCommands, AFileOfAnotherPageIsAskedAbout) {
+    NamePage("a");
+    Choose(IdSave);
+    AddPageOf(1, 3);
+    NamePage("a");
+    SaveOver("a.zelk", wxID_CANCEL);
+}
+
+TEST_F(OpenSaveCommands, FilesStayWithTheirPageWhenAPageBeforeItIsDeleted) {
+    NamePage("first");
+    Choose(IdSave);
+    AddPageOf(1, 3);
+    NamePage("second");
+    Choose(IdSave);
+    MainFrame->m_notebook->SetSelection(0);
+    {
+        DialogScript script;
+        script.ExpectMessage("Delete Page?", "This will delete ALL data on this page! Continue?");
+        Choose(IdPageDelete);
+    }
+    ASSERT_EQ("second", PageStrings[0].FileName);
+    Choose(IdSave);
+    EXPECT_EQ("Saved second.zelk", Status(0));
+    NamePage("first");
+    SaveOver("first.zelk", wxID_CANCEL);
+    // A page that is made anew in a former page's place knows none of its files.
+    AddPageOf(1, 3);
+    NamePage("second");
+    SaveOver("second.zelk", wxID_CANCEL);
+}
+
+TEST_F(OpenSaveCommands, FilesAreForgottenWithTheTarget) {
+    NamePage("a");
+    Choose(IdSave);
+    RetargetTo("KDAR");
+    EXPECT_EQ("", PageStrings[0].FileName);
+    DialogScript script;
+    script.ExpectFile("Save .zelk file...", (m_folder / "a.zelk").string());
+    ExpectReplaceQuestion(script, "a.zelk", wxID_CANCEL);
+    Choose(IdSave);
+}
+
+TEST_F(OpenSaveCommands, AFileThatCouldNotBeSavedIsNotThePagesOwn) {
+    WriteToFolder("a.zelk", "other");
+    NamePage("a");
+    {
+        const FileSizeLimit full(10);
+        SaveOver("a.zelk", wxID_OK);
+    }
+    EXPECT_EQ("other", ReadFromFolder("a.zelk"));
+    SaveOver("a.zelk", wxID_CANCEL);
 }
 
 TEST_F(OpenSaveCommands, SaveKeepsThePageItself) {

@@ -110,7 +110,7 @@ TEST_F(RoundTrip, GivesEveryExampleFileBackByteForByte) {
         const std::string bytes = testbench::ReadFile(entry.path());
         ASSERT_EQ(0, Open(bytes)) << entry.path();
         EXPECT_EQ(Masked(bytes), Masked(Save())) << entry.path();
-        EXPECT_EQ("Select function", Status(0)) << entry.path();
+        EXPECT_EQ("Saved saved.zelk", ToolTip()) << entry.path();
         ++files;
     }
     EXPECT_EQ(31, files);

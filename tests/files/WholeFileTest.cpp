@@ -1,5 +1,6 @@
 #include "files/WholeFile.h"
 
+#include "tests/files/AsAnyUser.h"
 #include "tests/files/FileSizeLimit.h"
 #include "tests/support/robot/Files.h"
 #include "tests/support/robot/TempFolder.h"
@@ -10,7 +11,6 @@
 #include <cerrno>
 #include <filesystem>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -19,7 +19,26 @@ namespace {
 class WholeFile : public ::testing::Test {
 protected:
     std::string Write(const fs::path& path, const std::string& bytes) {
-        return WriteWholeFile(path.string(), bytes).utf8_string();
+        FileReplacement file;
+        std::error_code error = file.Open(path.string());
+        if (!error)
+            error = file.Finish(bytes);
+        EXPECT_FALSE(file.FormerIsDamaged());
+        return error ? error.message() : "";
+    }
+
+    /// Writes as a user who may not write to the folder, however full the disk is.
+    std::string WriteInClosedFolder(const std::string& name, const std::string& bytes,
+                                    rlim_t room = RLIM_INFINITY) {
+        EXPECT_EQ(0, chmod(m_folder.Path().c_str(), 0555));
+        std::string problem;
+        {
+            const AsAnyUser user;
+            const FileSizeLimit full(room);
+            problem = Write(m_folder / name, bytes);
+        }
+        EXPECT_EQ(0, chmod(m_folder.Path().c_str(), 0755));
+        return problem;
     }
 
     std::vector<std::string> Entries() const {
@@ -31,27 +50,6 @@ protected:
     }
 
     testbench::TempFolder m_folder{"zelk-whole-file"};
-};
-
-/// Has no more rights than any user while it lives, also when the tests run as root.
-class AsAnyUser {
-public:
-    AsAnyUser() {
-        if (m_root)
-            m_changed = setresuid(AnyUser, AnyUser, 0) == 0;
-    }
-    ~AsAnyUser() {
-        if (m_changed) {
-            EXPECT_EQ(0, setresuid(0, 0, 0));
-        }
-    }
-    AsAnyUser(const AsAnyUser&) = delete;
-    AsAnyUser& operator=(const AsAnyUser&) = delete;
-
-private:
-    static constexpr uid_t AnyUser = 65534;
-    bool m_root = getuid() == 0;
-    bool m_changed = false;
 };
 
 } // namespace
@@ -162,19 +160,50 @@ TEST_F(WholeFile, IsNotReplacedWhenTheUserMayNotWriteIt) {
 }
 
 TEST_F(WholeFile, IsNotMadeInAFolderThatTheUserMayNotWriteTo) {
+    EXPECT_EQ("Permission denied", WriteInClosedFolder("a", "new"));
+    EXPECT_EQ(std::vector<std::string>{}, Entries());
+}
+
+TEST_F(WholeFile, IsOverwrittenWhereItStandsInAFolderThatTheUserMayNotWriteTo) {
+    for (const std::string former : {"", "old", "a former file that is longer"}) {
+        testbench::WriteFile(m_folder / "a", former);
+        ASSERT_EQ(0, chmod((m_folder / "a").c_str(), 0666));
+        EXPECT_EQ("", WriteInClosedFolder("a", "new bytes"));
+        EXPECT_EQ("new bytes", testbench::ReadFile(m_folder / "a"));
+        EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
+        EXPECT_EQ(static_cast<fs::perms>(0666), fs::status(m_folder / "a").permissions());
+    }
+}
+
+TEST_F(WholeFile, ThatCanNotBeOverwrittenInSuchAFolderKeepsItsFormerBytes) {
+    const std::string former(5000, 'o'), longer(100000, 'n'), shorter(4000, 'n');
+    testbench::WriteFile(m_folder / "a", former);
+    ASSERT_EQ(0, chmod((m_folder / "a").c_str(), 0666));
+    for (const rlim_t room : {0u, 1000u, 4096u, 5000u, 99999u}) {
+        EXPECT_EQ("File too large", WriteInClosedFolder("a", longer, room)) << room;
+        EXPECT_EQ(former, testbench::ReadFile(m_folder / "a")) << room;
+    }
+    for (const rlim_t room : {0u, 1000u, 3999u}) {
+        EXPECT_EQ("File too large", WriteInClosedFolder("a", shorter, room)) << room;
+        EXPECT_EQ(former, testbench::ReadFile(m_folder / "a")) << room;
+    }
+    EXPECT_EQ("", WriteInClosedFolder("a", longer, 100000));
+    EXPECT_EQ(longer, testbench::ReadFile(m_folder / "a"));
+}
+
+TEST_F(WholeFile, OfAnotherUserIsOverwrittenInAFolderThatProtectsTheFilesOfOthers) {
+    if (getuid() != 0)
+        GTEST_SKIP() << "only root can make a file of another user";
     testbench::WriteFile(m_folder / "a", "old");
     ASSERT_EQ(0, chmod((m_folder / "a").c_str(), 0666));
-    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0555));
-    for (const char* name : {"a", "b"}) {
-        std::string problem;
-        {
-            const AsAnyUser user;
-            problem = Write(m_folder / name, "new");
-        }
-        EXPECT_EQ("Permission denied", problem) << name;
+    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 01777));
+    std::string problem;
+    {
+        const AsAnyUser user;
+        problem = Write(m_folder / "a", "new");
     }
-    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0755));
-    EXPECT_EQ("old", testbench::ReadFile(m_folder / "a"));
+    EXPECT_EQ("", problem);
+    EXPECT_EQ("new", testbench::ReadFile(m_folder / "a"));
     EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
 }
 

@@ -124,6 +124,17 @@ TEST_F(TypingInto, ABlankRowLeavesOtherSelectedRowsAsTheyAre_Departure) {
     EXPECT_EQ(SelectedRows(), std::vector<int>{5});
 }
 
+TEST_F(TypingInto, ARowWithOtherTextButNoTransferFlagsFillsIt) {
+    SetCell(8, DESC, "ECHO");
+    SetCell(8, MNUM, "077");
+    SetCell(8, TTON, "67.0");
+    TypeIntoCell(*CurrentGrid(), 8, RFRQ, "70.0000");
+    const Texts expected = {"",    "008", "", "", "FM 66-88", "0", "",    "LOW   008", "W", "70.0000", "", "",
+                            "OFF", "OFF", "", "", "70.0000",  "",  "OFF", "OFF",       "",  "",        "", "",
+                            "",    "",    "", "", "",         "",  "",    "A0"};
+    EXPECT_EQ(RowTexts(8), expected);
+}
+
 TEST_F(TypingInto, ABlankGuardRowFillsIt) {
     TypeIntoCell(*CurrentGrid(), 122, DESC, "GUARD");
     EXPECT_EQ(Cell(122, MNUM), "122");

@@ -210,18 +210,71 @@ TEST_F(ContextMenu, OfAScrolledGridBelongsToTheRowThatWasClicked) {
     }
 }
 
-TEST_F(ContextMenu, OfAGridScrolledSidewaysLooksTheColumnUpAsIfItWereNot) {
+// A departure: another column, often out of sight, would be set to defaults.
+TEST_F(ContextMenu, OfAGridScrolledSidewaysBelongsToTheColumnThatWasClicked_Departure) {
     Retarget(Kdrv716B, 0);
     wxGrid* grid = CurrentGrid();
-    grid->MakeCellVisible(0, TIDC);
-    const int x = grid->GetGridWindow()->ScreenToClient(ColumnLabelSpot(*grid, TIDC)).x;
-    ASSERT_LT(x, grid->CellToRect(0, TIDC).x) << "the grid is scrolled";
-    EXPECT_EQ(MenuOfColumn(TIDC), Ids{DefaultCol});
-    EXPECT_FALSE(grid->IsInSelection(1, TIDC));
-    for (int col = 0; col < 32; ++col) {
-        const wxRect cell = grid->CellToRect(1, col);
-        EXPECT_EQ(grid->IsInSelection(1, col), cell.x <= x && x < cell.x + cell.width) << "column " << col;
+    for (int col : {TIDC, TNAC, RFRQ, MNUM, TSQL}) {
+        SCOPED_TRACE(col);
+        grid->MakeCellVisible(0, TIDC);
+        grid->MakeCellVisible(0, col);
+        EXPECT_EQ(MenuOfColumn(col), col == MNUM ? (Ids{ToRowNum, InSequence}) : Ids{DefaultCol});
+        for (int other = MNUM; other < 32; ++other)
+            EXPECT_EQ(grid->IsInSelection(1, other), other == col) << "column " << other;
     }
+    grid->MakeCellVisible(0, TIDC);
+    ASSERT_GT(grid->CalcUnscrolledPosition(wxPoint(0, 0)).x, 0) << "the grid is scrolled";
+}
+
+TEST_F(ContextMenu, OfAGridScrolledSidewaysSetsTheDefaultsOfTheColumnThatWasClicked) {
+    Retarget(Kdrv716B, 0);
+    Fill(5);
+    SetCell(5, RNAC, "ABC");
+    SetCell(5, TNAC, "DEF");
+    std::vector<std::string> expected = RowTexts(5);
+    CurrentGrid()->MakeCellVisible(0, TIDC);
+    ASSERT_GT(CurrentGrid()->CalcUnscrolledPosition(wxPoint(0, 0)).x, 0) << "the grid is scrolled";
+    EXPECT_EQ(MenuOfColumn(TNAC), Ids{DefaultCol});
+    DialogScript dialogs;
+    dialogs.ExpectMessage("Change Selection to default?", AnyText(), wxID_OK);
+    MainFrame->m_contextMenu->SendEvent(DefaultCol);
+    expected[TNAC] = Cell(0, TNAC).utf8_string();
+    EXPECT_EQ(RowTexts(5), expected);
+}
+
+TEST_F(ContextMenu, OfAGridScrolledSidewaysBelongsToTheRowThatWasClickedOrHasTheCursor) {
+    Retarget(Kdrv716B, 0);
+    Fill(250);
+    CurrentGrid()->MakeCellVisible(250, TIDC);
+    const Ids withData{DefaultRow, CreateShadow, CopyRow, PasteRow, ClearRow, MarkRow, InsertRow, DeleteRow};
+    EXPECT_EQ(MenuOfRow(250), withData);
+    EXPECT_EQ(ContextRow, 250);
+    ContextRow = 0;
+    CurrentGrid()->ClearSelection();
+    CurrentGrid()->GoToCell(250, TIDC);
+    CurrentGrid()->SetFocus();
+    PumpUntilIdle();
+    EXPECT_EQ(MenuOf([](Robot& robot) { robot.Press("Menu"); }), withData);
+    EXPECT_EQ(ContextRow, 250);
+}
+
+TEST_F(ContextMenu, OfARowWhoseFirstTextIsStillBeingTypedOffersWhatTheTakenTextAllows) {
+    CurrentGrid()->GoToCell(5, DESC);
+    CurrentGrid()->SetFocus();
+    TypeText("quay");
+    ASSERT_TRUE(CurrentGrid()->IsCellEditControlShown());
+    EXPECT_EQ(MenuOfRow(5), (Ids{DefaultRow, CopyRow, PasteRow, ClearRow, MarkRow, InsertRow, DeleteRow}));
+    EXPECT_EQ(Cell(5, DESC), "QUAY");
+    EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
+
+    CurrentGrid()->GoToCell(6, DESC);
+    CurrentGrid()->SetFocus();
+    TypeText("pier");
+    EXPECT_EQ(MenuOf([](Robot& robot) {
+                  robot.Click(robot.Ask([] { return RowLabelSpot(*CurrentGrid(), 5); }), 3);
+              }),
+              (Ids{DefaultRow, CopyRow, PasteRow, ClearRow, MarkRow, InsertRow, DeleteRow}));
+    EXPECT_EQ(Cell(6, DESC), "PIER") << "typed in another row than the one that was clicked";
 }
 
 TEST_F(ContextMenu, AtTheCellsOuterEdgeIsThatOfTheCorner) {

@@ -1,20 +1,24 @@
 // Another target for a page that holds data.
 #include "tests/support/ZelkWindowTest.h"
 
+#include "editing/Shadows.h"
+#include "files/ZelkFile_OpenSave.h"
 #include "frame/CommandIds.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
+#include "tests/support/robot/TempFolder.h"
 
 #include <wx/notebook.h>
 #include <wx/statusbr.h>
+#include <wx/xml/xml.h>
 
 using namespace testbench;
 
 namespace {
 
-constexpr int Krv47 = 1, Orv12 = 2, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8, Krv610 = 9,
-              Krv630 = 11;
+constexpr int Krv47 = 1, Orv12 = 2, Krv214 = 3, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8,
+              Krv610 = 9, Krv620 = 10, Krv630 = 11, Krv650 = 13, Kdrv8400 = 16, Kdrv4xxx = 17;
 
 constexpr const char* question = "Change Target?";
 constexpr const char* warning = "If there is data on this page,\nthis may result in invalid configuration!";
@@ -41,6 +45,34 @@ protected:
             rows.push_back(RowTexts(row));
         return rows;
     }
+
+    static void OpenExample(const std::string& name) {
+        ASSERT_TRUE(OpenChannelFile(std::string(ZELK_EXAMPLES_DIR "/") + name + ".zelk"));
+    }
+
+    /// Memories in the file that File > Save writes, the default row left out.
+    static int MemoriesSaved() {
+        const TempFolder folder;
+        const std::string path = (folder / "saved.zelk").string();
+        {
+            DialogScript dialogs;
+            dialogs.ExpectFile("Save .zelk file...", path);
+            RunCommand(IdSaveAs);
+        }
+        wxXmlDocument document;
+        if (!document.Load(path))
+            return -1;
+        int memories = -1; // the default row is one
+        for (const wxXmlNode* node = document.GetRoot()->GetChildren(); node; node = node->GetNext())
+            memories += node->GetName() == "MEMORY";
+        return memories;
+    }
+
+    static bool IsPainted(int row, int col) {
+        return CurrentGrid()->GetCellBackgroundColour(row, col) == FailColour;
+    }
+
+    static std::string Status() { return MainFrame->m_statusBar->GetStatusText(0).utf8_string(); }
 
     static bool IsLocked(int row, std::initializer_list<int> cols) {
         for (int col : cols)
@@ -106,15 +138,24 @@ TEST_F(ChangingTheTarget, FromKrv47ToKrv305KeepsTheGuards) {
     EXPECT_TRUE(IsLocked(122, {MNUM, SCAN, RTON, RCOD}));
 }
 
-TEST_F(ChangingTheTarget, WithOneUsedGuardRestoresBoth) {
+// A departure: a number alone would make a row of the blank one that is never saved.
+TEST_F(ChangingTheTarget, WithOneUsedGuardLeavesTheBlankOneBlank_Departure) {
     FillRow(CurrentGrid(), 122, "SECOND");
     ChangeTarget(Krv305);
-    EXPECT_EQ(Cell(121, MNUM), "121");
-    EXPECT_EQ(Cell(121, DESC), "") << "it was blank";
-    EXPECT_EQ(Cell(121, TFLG), "") << "it was blank";
-    EXPECT_EQ(Cell(121, RFRQ), "403.0000") << "with a number it has data, and is checked";
+    EXPECT_FALSE(RowHasData(121));
     EXPECT_EQ(Cell(122, DESC), "SECOND");
     EXPECT_EQ(Cell(122, MNUM), "122");
+}
+
+TEST_F(ChangingTheTarget, WithOneUsedGuardFillsTheBlankOneOfAP25Radio) {
+    Retarget(Kdrv716, 0);
+    SetCell(231, DESC, "FIRST");
+    ClearRowData(232, true);
+    ChangeTarget(Kdrv716B);
+    EXPECT_EQ(Cell(501, DESC), "FIRST");
+    EXPECT_EQ(Cell(502, DESC), "VHF  502") << "a P25 page starts with it";
+    EXPECT_EQ(Cell(502, MNUM), "502");
+    EXPECT_TRUE(RowIsComplete(501) && RowIsComplete(502));
 }
 
 TEST_F(ChangingTheTarget, WithBlankGuardsLeavesThemBlank) {
@@ -206,13 +247,15 @@ TEST_F(ChangingTheTarget, WritesTheDefaultRowOfTheNewTarget) {
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
 }
 
-TEST_F(ChangingTheTarget, ToAP25RadioOverwritesItsStartingRows) {
+// A departure: the first memory would be lost.
+TEST_F(ChangingTheTarget, ToAP25RadioFillsOnlyBlankStartingRows_Departure) {
     FillRow(CurrentGrid(), 1, "one");
     FillRow(CurrentGrid(), 2, "two");
     SetCell(2, TFLG, "A0");
+    SetCell(2, MNUM, "2");
     ChangeTarget(Kdrv716);
     EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 2, 231, 232}));
-    EXPECT_EQ(Cell(1, DESC), "VHF  001");
+    EXPECT_EQ(Cell(1, DESC), "one");
     EXPECT_EQ(Cell(231, MNUM), "231");
     EXPECT_EQ(Cell(232, PRIM), "232");
     EXPECT_EQ(Cell(2, DESC), "two");
@@ -278,4 +321,166 @@ TEST_F(ChangingTheTarget, WhileACellIsEditedTakesItsTextFirst) {
     EXPECT_EQ(Cell(3, MNUM), "003") << "filled before the target changed";
     EXPECT_EQ(Cell(3, TFLG), "A0") << "filled before the target changed";
     EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
+}
+
+TEST_F(ChangingTheTarget, ToTheSameP25RadioKeepsTheFirstMemory_Departure) {
+    OpenExample("kdrv-716-p25");
+    const Texts first = RowTexts(1);
+    ChangeTarget(Kdrv716);
+    Texts kept = RowTexts(1);
+    kept[TFLG] = first[TFLG]; // the check has given the row its zone slot
+    EXPECT_EQ(kept, first);
+    EXPECT_EQ(MemoriesSaved(), 40);
+}
+
+// A departure: without a squelch value every memory would be incomplete and left out of the file.
+TEST_F(ChangingTheTarget, ToTheSecondP25GenerationSavesEveryMemory_Departure) {
+    OpenExample("kdrv-716-p25");
+    ASSERT_EQ(MemoriesSaved(), 40);
+    ChangeTarget(Kdrv716B);
+    EXPECT_EQ(MemoriesSaved(), 40);
+    EXPECT_EQ(Cell(2, RNSV), "10");
+    EXPECT_TRUE(IsPainted(2, RNSV));
+    EXPECT_FALSE(IsPainted(2, DESC));
+    EXPECT_EQ(RowsWithData().size(), 40u);
+}
+
+TEST_F(ChangingTheTarget, ToKdar2000SavesEveryMemory_Departure) {
+    OpenExample("kdrv-8400-airband");
+    const int memories = MemoriesSaved();
+    ASSERT_EQ(memories, 6);
+    ChangeTarget(Kdar2000);
+    EXPECT_EQ(MemoriesSaved(), memories);
+    EXPECT_EQ(Cell(1, RONL), "N");
+    EXPECT_TRUE(IsPainted(1, RONL));
+}
+
+TEST_F(ChangingTheTarget, FillsAnEmptyDescriptionAndScanButNoNumber_Departure) {
+    Retarget(Orv12, 0);
+    for (int row : {1, 2}) {
+        SetCell(row, MNUM, row == 1 ? "001" : "");
+        SetCell(row, RFRQ, "121.500");
+        SetCell(row, TFLG, "A0");
+    }
+    ChangeTarget(Kdrv8400, 1);
+    for (int row : {1, 2}) {
+        EXPECT_EQ(Cell(row, DESC), "VHFAM 118");
+        EXPECT_EQ(Cell(row, SCAN), "0");
+        EXPECT_TRUE(IsPainted(row, DESC) && IsPainted(row, SCAN));
+        EXPECT_EQ(Cell(row, RFRQ), "121.500");
+    }
+    EXPECT_TRUE(RowIsComplete(1));
+    EXPECT_EQ(Cell(2, MNUM), "");
+    EXPECT_FALSE(IsPainted(2, MNUM));
+}
+
+TEST_F(ChangingTheTarget, FromTheModuleToAP25RadioUnlocksWhatTheModuleLocked_Departure) {
+    Retarget(Kdrv4xxx, 5);
+    FillRowsFromDefault({4, 5});
+    SetCell(4, BAND, "AM 225-400");
+    SetCell(5, BAND, "AM 108-138");
+    SetPageEditors(CurrentPage);
+    ASSERT_TRUE(IsLocked(4, {MODE, RCOD, TCOD}));
+    ASSERT_TRUE(IsLocked(5, {RTON, RCOD, TTON, TCOD}));
+    ChangeTarget(Kdrv716);
+    for (int row : {4, 5})
+        for (int col : {MODE, RTON, RCOD, TTON, TCOD, RFRQ, TFRQ, SCAN, ZONE})
+            EXPECT_FALSE(CurrentGrid()->IsReadOnly(row, col)) << row << " " << ColumnTag[col];
+    EXPECT_TRUE(IsLocked(4, {SHAD}));
+    EXPECT_TRUE(IsLocked(231, {MNUM, SCAN, ZONE}));
+    EXPECT_FALSE(IsLocked(231, {RTON}));
+}
+
+TEST_F(ChangingTheTarget, BetweenP25RadiosKeepsTheLocksOfLinkedRows) {
+    Retarget(Kdrv716, 0);
+    FillRowsFromDefault({2, 3});
+    SetCell(2, MFLG, "10");
+    SetCell(2, SHAD, "P-1");
+    SetCell(2, SHD0, "003");
+    LockLinkedRow(2, PrimaryRow);
+    SetCell(3, MFLG, "01");
+    SetCell(3, SHAD, "S-002");
+    LockLinkedRow(3, ShadowRow);
+    ChangeTarget(Kdrv716B);
+    EXPECT_TRUE(IsLocked(2, {MNUM, SHAD, SCAN}));
+    EXPECT_TRUE(IsLocked(3, {MNUM, SHAD, SCAN, ZONE, RFRQ, TFRQ}));
+}
+
+// A departure: its number is above the smaller page's rows, and without one it would not be saved.
+TEST_F(ChangingTheTarget, ToASmallerGridGivesTheLastRowItsNewNumber_Departure) {
+    Retarget(Krv650, 1);
+    FillRowsFromDefault({7, 150, 200});
+    SetCell(7, MNUM, "150");
+    SetCell(200, DESC, "LAST");
+    SetCell(150, MNUM, "");
+    ChangeTarget(Krv214);
+    EXPECT_EQ(RowsWithData(), (std::vector<int>{7, 102}));
+    EXPECT_EQ(Cell(102, DESC), "LAST");
+    EXPECT_EQ(Cell(102, MNUM), "102");
+    EXPECT_EQ(Cell(7, MNUM), "007");
+    EXPECT_EQ(MemoriesSaved(), 2);
+}
+
+TEST_F(ChangingTheTarget, LeavesANumberEmptyWhereTheRowsOwnIsTaken) {
+    Retarget(Krv650, 1);
+    FillRowsFromDefault({7, 8});
+    SetCell(7, MNUM, "150");
+    SetCell(8, MNUM, "007");
+    ChangeTarget(Krv214);
+    EXPECT_EQ(Cell(7, MNUM), "");
+    EXPECT_EQ(Cell(8, MNUM), "007");
+    EXPECT_EQ(MemoriesSaved(), 1);
+}
+
+TEST_F(ChangingTheTarget, OfANumberThatAGuardTakesGivesTheRowItsOwn) {
+    Retarget(Kdrv716, 0);
+    FillRowsFromDefault({7});
+    SetCell(7, MNUM, "201");
+    ChangeTarget(Krv610, 0);
+    EXPECT_EQ(Cell(201, MNUM), "201");
+    EXPECT_EQ(Cell(7, MNUM), "007");
+}
+
+TEST_F(ChangingTheTarget, TellsHowManyCellsWereReplacedAndTheFirstRow) {
+    FillRowsFromDefault({5, 9});
+    ChangeTarget(Krv305);
+    EXPECT_EQ(Status(), "4 cells replaced from row 5");
+    EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(),
+              "4 cells were replaced: row 5 RxFreq, TxFreq; row 9 RxFreq, TxFreq");
+}
+
+TEST_F(ChangingTheTarget, CountsTheCellsThatItFills) {
+    OpenExample("kdrv-716-p25");
+    ChangeTarget(Kdrv716B);
+    // The squelch values of the memories and the guards.
+    EXPECT_EQ(Status(), "40 cells replaced from row 1");
+}
+
+TEST_F(ChangingTheTarget, ThatReplacesNothingTellsNothing) {
+    FillRowsFromDefault({5});
+    ChangeTarget(Krv47);
+    EXPECT_EQ(Status(), "Select function");
+}
+
+TEST_F(ChangingTheTarget, TellsOfMemoriesThatFindNoRow) {
+    Retarget(Krv650, 1);
+    FillRowsFromDefault({7, 150, 151, 200});
+    ChangeTarget(Krv214);
+    EXPECT_EQ(Status(), "2 rows LOST, 1 cell replaced, row 102");
+    EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(),
+              "2 rows found no place in the smaller page; 1 cell was replaced: row 102 Chan");
+}
+
+// A departure: on the default row's band the frequencies could not stand.
+TEST_F(ChangingTheTarget, ToTheModulePutsRowsOnTheBandOfTheirFrequency_Departure) {
+    OpenExample("krv-620-milair");
+    const wxString frequency = Cell(1, RFRQ);
+    ChangeTarget(Kdrv4xxx, 5);
+    EXPECT_EQ(Cell(1, BAND), "AM 225-400");
+    EXPECT_TRUE(IsPainted(1, BAND));
+    EXPECT_EQ(Cell(1, RFRQ), frequency);
+    EXPECT_EQ(Cell(1, MODE), "n/a");
+    EXPECT_FALSE(IsPainted(1, MODE));
+    EXPECT_TRUE(IsLocked(1, {MODE, RCOD, TCOD}));
+    EXPECT_EQ(MemoriesSaved(), 3);
 }

@@ -363,6 +363,20 @@ TEST(Parity, OfAllCharactersIncludesBannerNumbersAndEndLine) {
         EXPECT_TRUE(c == '\r' || (c & 0x80)) << static_cast<int>(c);
 }
 
+TEST(Parity, OfAllBytesIncludesLineEndsAndAcknowledgements) {
+    AnalogHabits habits;
+    habits.parity = Parity::Bytes;
+    habits.banner = "AB";
+    Bench bench("KRV-214B", "", habits);
+    std::string expected = "AB\r" + VhfLine("001") + "\r300\r";
+    for (char& c : expected)
+        c = static_cast<char>(c | 0x80);
+    EXPECT_EQ(bench.Tell("rt\r1\rdl\r" + VhfLine("001") + "\r"), "\x85");
+    bench.Tell(EndLine("300"));
+    EXPECT_EQ(bench.Tell("rt\r1\rul\r "), expected);
+    EXPECT_EQ(bench.m_link.m_complaints, "") << "what it hears has no such bits";
+}
+
 TEST(Radio, HearsNothingWhileItSends) {
     Bench bench("KRV-610", "FM 138-174");
     bench.Tell("ul\r");

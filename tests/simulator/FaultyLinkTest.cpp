@@ -127,6 +127,14 @@ TEST(TornLine, ComesInFourPiecesWithPauses) {
     }
 }
 
+TEST(CutLine, KeepsTheLineEndThatItHad) {
+    for (const char* end : {"\r", "\x8D"}) {
+        Bench bench("cut@1");
+        bench.Link().BeginTransfer();
+        EXPECT_EQ(bench.Lines({(std::string("abcdefg") + end).c_str()}), std::string("abcd") + end);
+    }
+}
+
 TEST(CutLine, EndsInItsMiddle) {
     Bench bench("cut@2");
     bench.Link().BeginTransfer();

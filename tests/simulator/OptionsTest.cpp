@@ -82,6 +82,12 @@ TEST(CommandLine, ParityWithoutAValueIsOnAllCharacters) {
     EXPECT_EQ(Parsed({"--model", "KRV-214", "--parity"}).habits.parity, Parity::All);
 }
 
+TEST(CommandLine, ParityIsOnTextOnAllCharactersOrOnEveryByte) {
+    EXPECT_EQ(Parsed({"--model", "KRV-214", "--parity=text"}).habits.parity, Parity::Text);
+    EXPECT_EQ(Parsed({"--model", "KRV-214", "--parity=all"}).habits.parity, Parity::All);
+    EXPECT_EQ(Parsed({"--model", "KRV-214", "--parity=bytes"}).habits.parity, Parity::Bytes);
+}
+
 TEST(CommandLine, ListAndHelpNeedNoModel) {
     EXPECT_EQ(Parsed({"--list"}).task, Options::Task::List);
     EXPECT_EQ(Parsed({"--help"}).task, Options::Task::Help);

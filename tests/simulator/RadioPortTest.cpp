@@ -65,6 +65,19 @@ TEST(RadioPort, PlaysTwoTransfersOverOneOpenPort) {
     }
 }
 
+TEST(RadioPort, CanSetBitSevenOnEveryByteThatItSends) {
+    const TempFolder folder;
+    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--banner", "", "--parity=bytes"});
+    PortClient client(radio.Port());
+    client.Send("dl\r" + VhfLine("001") + "\r");
+    EXPECT_EQ(client.ReadUntil("\x85"), "\x85");
+    client.Send(EndLine("300") + "ul\r");
+    std::string expected = VhfLine("001") + "\r300\r";
+    for (char& c : expected)
+        c = static_cast<char>(c | 0x80);
+    EXPECT_EQ(client.ReadUntil("\xB3\xB0\xB0\x8D"), expected);
+}
+
 TEST(RadioPort, TakesAWriteWhoseWriterClosesAtOnce) {
     const TempFolder folder;
     RadioProcess radio(folder,

@@ -62,6 +62,10 @@ public:
         return count;
     }
 
+    /// Stops what the program sends, as a device does that holds the line back, or lets it flow again. Needs
+    /// HoldSlave().
+    void HoldBack(bool stop) { tcflow(m_slave, stop ? TCOOFF : TCOON); }
+
     /// Sends bytes to the program; false if the program had not taken them all by the deadline.
     bool Write(std::string_view data, Milliseconds limit = Milliseconds(10000)) {
         const auto deadline = Clock::now() + limit;

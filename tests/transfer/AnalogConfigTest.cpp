@@ -60,6 +60,47 @@ TEST_F(AnalogConfig, IsReadUntilTheRadioEndsIt) {
                              "\n<" + Config1 + "\n<CRXX\nTransfer Complete.\n");
 }
 
+TEST_F(AnalogConfig, OfARadioThatSetsBitSevenIsRead) {
+    AskForLog();
+    RadioPeer peer([](RadioPeer& radio) {
+        AnswerOpening(radio, Marked("A1.23:SN42:150:3:abc:def\r"));
+        radio.Say(Marked(Config0 + "\r\n" + BadConfig + "\r" + Config1 + "\rCRXX\r"));
+    });
+    EXPECT_EQ(Transfer(ReadConfigMode, peer), TransferComplete);
+    ASSERT_EQ(m_context.ConfigLines.size(), 2u);
+    EXPECT_EQ(Text(m_context.ConfigLines[0]), Config0);
+    EXPECT_EQ(Text(m_context.ConfigLines[1]), Config1);
+    EXPECT_EQ(m_context.ConfigCount, 3u);
+    EXPECT_EQ(LogText(), "Initializing....\nReading Config Data....\n<" + Config0 + "\n<" + BadConfig +
+                             "\n<" + Config1 + "\n<CRXX\nTransfer Complete.\n");
+}
+
+TEST_F(AnalogConfig, ForARadioThatSetsBitSevenIsWrittenLineByLine) {
+    RadioPeer peer([](RadioPeer& radio) {
+        AnswerOpening(radio, Marked("A1.23:SN42:150:3:abc:def\r"));
+        for (int line = 0; line < 3; ++line) {
+            radio.HearLine();
+            radio.Say(Marked("CWOK\r"));
+        }
+        radio.HearLine();
+    });
+    EXPECT_EQ(Transfer(WriteConfigMode, peer), TransferComplete);
+    EXPECT_EQ(peer.Heard(), Opening + "DC\r" + Config0 + "\r" + Config1 + "\rCR02:y\rEND\r");
+}
+
+TEST_F(AnalogConfig, InformationOfARadioThatSetsBitSevenIsKept) {
+    RadioPeer peer([](RadioPeer& radio) {
+        radio.HearLine();
+        radio.Say(Marked(" B7.89:SN43:150:9:abc:def \r\nrest"));
+    });
+    EXPECT_EQ(Transfer(ReadInformationMode, peer), TransferComplete);
+    EXPECT_EQ(Text(RadioVersion), "7.89");
+    EXPECT_EQ(Text(RadioSerial), "SN43");
+    EXPECT_EQ(m_context.ProductCode, 11u);
+    EXPECT_EQ(m_context.ConfigCount, 9u);
+    EXPECT_EQ(Text(m_context.RxBuffer), "rest");
+}
+
 TEST_F(AnalogConfig, OfARadioThatFallsSilentTimesOut) {
     RadioPeer peer([](RadioPeer& radio) {
         AnswerOpening(radio);

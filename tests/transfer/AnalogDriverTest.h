@@ -1,6 +1,7 @@
 // The analog driver against a radio that the test plays.
 #pragma once
 
+#include "tests/transfer/ProgressWatch.h"
 #include "tests/transfer/RadioPeer.h"
 #include "tests/transfer/TransferTest.h"
 #include "transfer/AnalogDriver.h"
@@ -9,8 +10,6 @@
 #include "transfer/TransferStatus.h"
 
 #include <chrono>
-#include <thread>
-#include <wx/gauge.h>
 
 namespace transfertest {
 
@@ -50,18 +49,12 @@ protected:
         TransferTest::TearDown();
     }
 
-    /// Does what the Cancel button does, from the peer's thread: a transfer takes no events but the user's,
-    /// so nothing can be handed to the window thread meanwhile. The waits poll the flag.
-    void Cancel() { m_context.Progress->Cancelled = true; }
+    // From the peer's thread, which may come when the transfer is over.
+    void Cancel() { m_watch.Cancel(); }
+    int GaugeValue(int atLeast) { return m_watch.GaugeValue(atLeast); }
+    int GaugeRange() { return m_watch.GaugeRange(); }
 
-    /// The main gauge's value, from the peer's thread, once it is at least that or some time has passed.
-    int GaugeValue(int atLeast) const {
-        const wxGauge* gauge = m_context.Progress->MainGauge();
-        for (int tries = 0; tries < 300 && gauge->GetValue() < atLeast; ++tries)
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        return gauge->GetValue();
-    }
-
+    ProgressWatch m_watch;
     TransferContext m_context;
     std::chrono::milliseconds m_took{0};
 };

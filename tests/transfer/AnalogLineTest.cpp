@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 namespace {
@@ -17,6 +18,10 @@ const wxString ShortTower = "001 TOWER1    150.0000RX 150.0000TX CTCSS: 12TX DPL
 
 std::string Text(const wxString& text) {
     return text.utf8_string();
+}
+
+std::string Text(const std::optional<wxString>& cell) {
+    return cell ? Text(*cell) : "(did not come)";
 }
 
 wxString Replaced(wxString line, size_t position, const wxString& text) {
@@ -327,7 +332,7 @@ TEST_F(AnalogRadioLine, OfTheShortFormHasNoReceiveToneAndCode) {
 TEST_F(AnalogRadioLine, OfTheShortFormWithoutCodeIsOff) {
     EXPECT_EQ(Text(ReadAnalogLine(Replaced(ShortTower, 53, "000"), AnalogFmType).txCode), "OFF");
     EXPECT_EQ(Text(ReadAnalogLine(Replaced(ShortTower, 53, "999"), AnalogFmType).txCode), "OFF");
-    EXPECT_EQ(Text(ReadAnalogLine(ShortTower.Left(53), AnalogFmType).txCode), "OFF");
+    EXPECT_FALSE(ReadAnalogLine(ShortTower.Left(53), AnalogFmType).txCode);
 }
 
 TEST_F(AnalogRadioLine, DropsOneLeadingZeroOfAFrequency) {
@@ -375,17 +380,49 @@ TEST_F(AnalogRadioLine, WithoutNInItsModeFieldIsWide) {
         EXPECT_EQ(Text(ReadAnalogLine(Tower.Left(75) + mode, AnalogFmType).mode), "n") << mode;
 }
 
-TEST_F(AnalogRadioLine, OfAnyLengthIsRead) {
-    const wxString longLine = Tower + wxString('N', 10000);
-    for (size_t length = 0; length <= 80; ++length) {
-        const AnalogCells cells = ReadAnalogLine(longLine.Left(length), AnalogFmType);
-        EXPECT_LE(cells.description.length(), 9u) << length;
-        EXPECT_LE(cells.rxFrequency.length(), 8u) << length;
-        EXPECT_EQ(Text(cells.mode), length > 75 ? "n" : "w") << length;
+TEST_F(AnalogRadioLine, OfTenThousandCharactersIsRead) {
+    const AnalogCells cells = ReadAnalogLine(Tower + wxString('N', 10000), AnalogFmType);
+    EXPECT_EQ(Text(cells.description), "TOWER1   ");
+    EXPECT_EQ(Text(cells.mode), "n");
+}
+
+TEST_F(AnalogRadioLine, HasNoPartOfAFieldThatDidNotComeWhole) {
+    for (size_t length = 0; length <= Tower.length(); ++length) {
+        const AnalogCells cells = ReadAnalogLine(Tower.Left(length), AnalogFmType);
+        const struct {
+            const char* name;
+            std::optional<wxString> cell;
+            const char* text;
+            size_t end;
+        } fields[] = {
+            {"receive frequency", cells.rxFrequency, "150.0000", 22},
+            {"transmit frequency", cells.txFrequency, "150.0000", 33},
+            {"receive tone", cells.rxTone, "OFF", 45},
+            {"transmit tone", cells.txTone, "OFF", 50},
+            {"receive code", cells.rxCode, "OFF", 61},
+            {"transmit code", cells.txCode, "OFF", 67},
+        };
+        for (const auto& field : fields)
+            EXPECT_EQ(Text(field.cell), length >= field.end ? field.text : "(did not come)")
+                << field.name << " of " << length << " characters";
+        EXPECT_EQ(Text(cells.description), Text(Tower.Mid(4, 9).Left(length > 4 ? length - 4 : 0))) << length;
+        EXPECT_EQ(Text(cells.scan), "0") << length;
+        EXPECT_EQ(Text(cells.mode), length == 76 ? "n" : "w") << length;
     }
-    EXPECT_EQ(Text(ReadAnalogLine(longLine, AnalogFmType).description), "TOWER1   ");
-    EXPECT_EQ(Text(ReadAnalogLine(longLine, AnalogFmType).mode), "n");
-    EXPECT_EQ(Text(ReadAnalogLine("", AnalogFmType).txTone), "OFF");
+}
+
+TEST_F(AnalogRadioLine, ThatEndsBeforeTheFormsPartIsOfTheLongForm) {
+    EXPECT_FALSE(IsShortAnalogForm(""));
+    EXPECT_FALSE(IsShortAnalogForm(ShortTower.Left(45)));
+    EXPECT_TRUE(IsShortAnalogForm(ShortTower.Left(46)));
+    EXPECT_FALSE(IsShortAnalogForm(Tower.Left(46)));
+}
+
+TEST_F(AnalogRadioLine, HasANumberOnlyWithTheBlankBehindIt) {
+    for (const char* line : {"", "0", "00", "001", "0011", "001TOWER1"})
+        EXPECT_FALSE(HasAnalogNumber(line)) << line;
+    for (const char* line : {"001 ", "GD1 TOWER1"})
+        EXPECT_TRUE(HasAnalogNumber(line)) << line;
 }
 
 TEST_F(AnalogRadioLine, LosesItsParityBits) {
@@ -394,6 +431,17 @@ TEST_F(AnalogRadioLine, LosesItsParityBits) {
         marked += wxUniChar(c.GetValue() | 0x80);
     EXPECT_EQ(Text(StripParity(marked)), Text(Tower));
     EXPECT_EQ(Text(StripParity(Tower)), Text(Tower));
+}
+
+TEST_F(AnalogRadioLine, WithoutParityBitsHasItsLineEndsAndAcknowledgements) {
+    wxString bytes;
+    for (unsigned c : {0x8Du, 0x85u, 0x8Au, 0xB0u, 0x0Du, 0x80u, 0xFFu})
+        bytes += wxUniChar(c);
+    const wxString plain = ClearParity(bytes);
+    ASSERT_EQ(plain.length(), 7u);
+    EXPECT_EQ(Text(plain.Left(5)), "\r\x05\n0\r");
+    EXPECT_EQ(plain[5].GetValue(), 0u);
+    EXPECT_EQ(plain[6].GetValue(), 0x7Fu);
 }
 
 TEST_F(AnalogRadioLine, HasBlanksForWhatCannotBePrinted) {

@@ -1,4 +1,5 @@
 // Whole transfers between the window and simulated analog radios.
+#include "tests/transfer/ProgressWatch.h"
 #include "tests/transfer/RadioUnderTest.h"
 #include "tests/transfer/TransferTest.h"
 
@@ -53,7 +54,8 @@ protected:
 
     /// Sends the rows to the model and reads them back into the emptied page.
     static void SendAndReadBack(const std::string& model, const std::vector<int>& rows,
-                                const std::string& frequency, const char* keyBox = nullptr) {
+                                const std::string& frequency, const char* keyBox = nullptr,
+                                const std::vector<std::string>& options = {}) {
         CurrentGrid()->ClearSelection();
         std::map<std::string, std::string> expected;
         for (const int row : rows) {
@@ -63,7 +65,7 @@ protected:
             const std::string padded = frequency.size() < 8 ? "0" + frequency : frequency;
             expected[number] = MemoryLine(number, padded);
         }
-        RadioUnderTest radio(model);
+        RadioUnderTest radio(model, options);
         Send(radio, {"Complete"});
         EXPECT_TRUE(PortIsFree(radio.PortName()));
         Read(radio, {"Complete"}, keyBox);
@@ -106,6 +108,27 @@ TEST_F(AnalogRadio, OfOpeningNumberThreeGetsAndGivesItsChannels) {
 TEST_F(AnalogRadio, OfOpeningNumberFourGetsAndGivesItsChannels) {
     Retarget(Krv214, 0);
     SendAndReadBack("KRV-214", {1, 101, 102}, "174.0000");
+}
+
+TEST_F(AnalogRadio, ThatSetsBitSevenOnEveryByteGetsAndGivesItsChannels) {
+    Retarget(Krv650, 1);
+    SendAndReadBack("KRV-650:FM 138-174", {1, 2, 200}, "138.0250",
+                    "Close this dialog, then press ENTER on radio to start", {"--parity=bytes"});
+}
+
+TEST_F(AnalogRadio, ThatSetsBitSevenOnEveryByteGivesAllItsRows) {
+    Retarget(Krv47, 0);
+    RadioUnderTest radio("KRV-47", {"--parity=bytes", "--all", "--guard-names"},
+                         MemoryLine("007", "066.0250") + "\n" + MemoryLine("122", "071.0000") + "\n");
+    Read(radio, {"Complete"});
+    EXPECT_EQ(FilledRows(), 122);
+    EXPECT_EQ(CellText(6, RFRQ), "66.0000");
+    EXPECT_EQ(CellText(7, RFRQ), "66.0250");
+    EXPECT_EQ(CellText(7, DESC), "HILL     ");
+    EXPECT_EQ(CellText(7, TTON), "250.3");
+    EXPECT_EQ(CellText(7, MODE), "w");
+    EXPECT_EQ(CellText(122, MNUM), "122");
+    EXPECT_EQ(CellText(122, RFRQ), "71.0000");
 }
 
 TEST_F(AnalogRadio, WithItsGuardsByNameLandsInTheLastRows) {
@@ -298,9 +321,15 @@ TEST_F(AnalogRadioFault, TornLinesArePutTogether) {
     ReadThreeRows({"torn", {"--fault", "torn@1", "--fault", "torn@2"}, Complete, {}, {1, 2, 3}});
 }
 
-TEST_F(AnalogRadioFault, ALineThatBreaksOffIsReadAsFarAsItGoes) {
+TEST_F(AnalogRadioFault, ALineThatBreaksOffBringsNoToneOrCodeThatTheRadioDidNotSend) {
+    SetCell(0, RTON, "71.9");
     ReadThreeRows({"cut", {"--fault", "cut@2"}, Complete, {}, {1, 2, 3}});
-    EXPECT_EQ(CellText(2, RTON), "n/a");
+    for (const int column : {RTON, TTON, RCOD, TCOD}) {
+        EXPECT_EQ(CellText(2, column), CellText(0, column)) << ColumnTag[column];
+        EXPECT_TRUE(CurrentGrid()->GetCellBackgroundColour(2, column) == FailColour) << ColumnTag[column];
+        EXPECT_FALSE(CurrentGrid()->GetCellBackgroundColour(3, column) == FailColour) << ColumnTag[column];
+    }
+    EXPECT_EQ(CellText(3, RTON), "67.0");
     EXPECT_EQ(CellText(2, SCAN), "0");
 }
 
@@ -323,13 +352,11 @@ TEST_F(AnalogRadioFault, CancelInAWriteLeavesTheRadioWithTheRowsBefore) {
         FillRow(row, "138.0000");
     Select({1, 2, 3});
     RadioUnderTest radio("KDRV-4xxx:FM 138-174", {"--fault", "no-ack@2"});
-    std::thread user([] {
-        // The row that isn't acknowledged is being waited for when two seconds are over.
-        for (int tries = 0; tries < 100 && !OpenProgress(); ++tries)
-            std::this_thread::sleep_for(std::chrono::milliseconds(20));
-        std::this_thread::sleep_for(std::chrono::milliseconds(2500));
-        if (ProgressFrame* progress = OpenProgress())
-            progress->Cancelled = true;
+    ProgressWatch progress;
+    std::thread user([&] {
+        // The second row is stored, and its acknowledgement is being waited for.
+        radio.AwaitInLog("! no-ack@2");
+        progress.Cancel();
     });
     Send(radio, {"Cancelled by User"});
     user.join();

@@ -222,9 +222,9 @@ TEST_F(AnalogRead, CancelledAmongTheChannelsKeepsThoseThatCame) {
 }
 
 TEST_F(AnalogRead, CancelledThroughTheCommandTellsSoInTheStatusBox) {
-    RadioPeer peer([](RadioPeer& radio) {
+    RadioPeer peer([this](RadioPeer& radio) {
         radio.HearLine();
-        OpenProgress()->Cancelled = true;
+        Cancel();
     });
     PortName = peer.PortName();
     DialogScript script;

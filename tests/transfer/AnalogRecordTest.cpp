@@ -4,6 +4,7 @@
 #include "tests/support/ZelkWindowTest.h"
 #include "transfer/TransferContext.h"
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -45,11 +46,59 @@ protected:
         return all;
     }
 
+    /// A default row that no line says.
+    static void FillDefaults() {
+        const std::pair<int, const char*> cells[] = {{RFRQ, "87.5000"}, {TFRQ, "86.5000"}, {RTON, "71.9"},
+                                                     {TTON, "74.4"},    {RCOD, "031"},     {TCOD, "032"}};
+        for (const auto& [column, text] : cells)
+            SetCell(0, column, text);
+    }
+
+    static bool IsPainted(int row, int column) {
+        return CurrentGrid()->GetCellBackgroundColour(row, column) == FailColour;
+    }
+
+    /// A cell of a row that was read, and whether the line had it.
+    struct CutCell {
+        int column;
+        const char* text;
+        bool came;
+    };
+
+    /// Reads a line of memory 1 into an empty row and looks at each cell that a line can tell.
+    void CheckCut(const wxString& line, std::initializer_list<CutCell> cells) {
+        for (int column = 0; column < ColumnTotal; ++column) {
+            SetCell(1, column, "");
+            CurrentGrid()->SetCellBackgroundColour(1, column, *wxWHITE);
+        }
+        ASSERT_EQ(Read(line), 1) << Text(line);
+        for (const auto& [column, text, came] : cells) {
+            EXPECT_EQ(CellText(1, column), came ? text : CellText(0, column))
+                << Text(line) << ", " << ColumnTag[column];
+            EXPECT_EQ(IsPainted(1, column), !came) << Text(line) << ", " << ColumnTag[column];
+        }
+        const size_t scanEnd = line.length() > 45 && line[45] != 'R' ? 64 : 75;
+        const std::pair<int, wxString> always[] = {
+            {MNUM, "001"},
+            {DESC, line.Mid(4, 9)},
+            {SCAN, line.length() >= scanEnd ? "5" : "0"},
+            {MODE, line.length() > scanEnd ? "n" : "w"},
+            {TFLG, "C0"},
+        };
+        for (const auto& [column, text] : always) {
+            EXPECT_EQ(CellText(1, column), Text(text)) << Text(line) << ", " << ColumnTag[column];
+            EXPECT_FALSE(IsPainted(1, column)) << Text(line) << ", " << ColumnTag[column];
+        }
+    }
+
     TransferContext m_context;
     int m_errors = -1;
 };
 
 const wxString Sent = "001 HILL 4    066.0250RX 070.5000TX CTCSS: 01RX 63TX DPL: 023RX 754TX 1_3__W";
+
+const wxString Narrow = "001 HILL 4    066.0250RX 070.5000TX CTCSS: 01RX 63TX DPL: 023RX 754TX 1_3__N";
+const wxString ShortNarrow = "001 HILL 4    066.0250RX 070.5000TX CTCSS: 12TX DPL: 025TX 1_3__N";
 
 /// Sent, with another text from a position on.
 wxString With(size_t position, const wxString& text) {
@@ -236,17 +285,79 @@ TEST_F(AnalogRecord, OfTheShortFormCannotSetReceiveToneAndCode) {
     EXPECT_EQ(CellText(9, MODE), "n");
 }
 
-TEST_F(AnalogRecord, ThatBreaksOffIsReadAsFarAsItGoes) {
-    EXPECT_EQ(Read(Sent.Left(74)), 1);
-    EXPECT_EQ(CellText(1, SCAN), "0");
-    EXPECT_EQ(CellText(1, TCOD), "754");
-    EXPECT_EQ(Read(Sent.Left(20)), 1);
-    EXPECT_EQ(CellText(1, RFRQ), "66.02");
-    EXPECT_EQ(CellText(1, TFRQ), "");
-    EXPECT_EQ(Read("001"), 1);
-    EXPECT_EQ(CellText(1, DESC), "");
-    EXPECT_EQ(CellText(1, TTON), "OFF");
-    EXPECT_EQ(CellText(1, TFLG), "C0");
+TEST_F(AnalogRecord, CutBehindAnyCharacterGetsDefaultTextsPaintedForWhatDidNotCome) {
+    FillDefaults();
+    for (size_t length = 4; length <= Narrow.length(); ++length)
+        CheckCut(Narrow.Left(length), {{RFRQ, "66.0250", length >= 22},
+                                       {TFRQ, "70.5000", length >= 33},
+                                       {RTON, "67.0", length >= 45},
+                                       {TTON, "250.3", length >= 50},
+                                       {RCOD, "023", length >= 61},
+                                       {TCOD, "754", length >= 67}});
+}
+
+TEST_F(AnalogRecord, OfTheShortFormCutBehindAnyCharacterGetsDefaultTextsPaintedForWhatDidNotCome) {
+    FillDefaults();
+    // Up to here nothing tells the short form from the long one, whose first tone is the receive tone.
+    for (size_t length = 4; length <= 45; ++length)
+        CheckCut(ShortNarrow.Left(length), {{RFRQ, "66.0250", length >= 22},
+                                            {TFRQ, "70.5000", length >= 33},
+                                            {RTON, "100.0", length == 45},
+                                            {TTON, "", false},
+                                            {RCOD, "", false},
+                                            {TCOD, "", false}});
+    for (size_t length = 46; length <= ShortNarrow.length(); ++length)
+        CheckCut(ShortNarrow.Left(length), {{RFRQ, "66.0250", true},
+                                            {TFRQ, "70.5000", true},
+                                            {RTON, "n/a", true},
+                                            {TTON, "100.0", true},
+                                            {RCOD, "n/a", true},
+                                            {TCOD, "025", length >= 56}});
+}
+
+TEST_F(AnalogRecord, OfAModuleCutBehindAnyCharacterHasTheBandOfAWholeReceiveFrequencyOnly) {
+    Retarget(Kdrv4xxx, 5);
+    FillDefaults();
+    SetCell(0, BAND, "AM 225-400");
+    for (size_t length = 4; length <= Narrow.length(); ++length)
+        // The transmit tone alone says that there are no codes.
+        CheckCut(Narrow.Left(length), {{BAND, "FM 66-88", length >= 22},
+                                       {RFRQ, "66.0250", length >= 22},
+                                       {TFRQ, "70.5000", length >= 33},
+                                       {RTON, "67.0", length >= 45},
+                                       {TTON, "250.3", length >= 50},
+                                       {RCOD, "OFF", length >= 50},
+                                       {TCOD, "OFF", length >= 50}});
+}
+
+TEST_F(AnalogRecord, OfAModuleWithoutToneCutBehindAnyCharacterGetsDefaultTextsForItsCodes) {
+    Retarget(Kdrv4xxx, 5);
+    FillDefaults();
+    const wxString coded = wxString(Narrow).replace(48, 2, "00");
+    for (size_t length = 50; length <= coded.length(); ++length)
+        CheckCut(coded.Left(length),
+                 {{TTON, "OFF", true}, {RCOD, "023", length >= 61}, {TCOD, "754", length >= 67}});
+}
+
+TEST_F(AnalogRecord, WithoutAWholeNumberFieldIsRefused) {
+    FillDefaults();
+    const wxArrayString before = AllCells();
+    m_context.Work1 = -7;
+    for (const wxString& line : {Narrow, ShortNarrow, With(0, "GD1")})
+        for (size_t length = 0; length < 4; ++length)
+            EXPECT_EQ(Read(line.Left(length)), 0) << length;
+    EXPECT_EQ(Read(With(3, "4")), 0) << "a number of four digits";
+    EXPECT_TRUE(AllCells() == before);
+    EXPECT_EQ(m_context.Work1, -7);
+}
+
+TEST_F(AnalogRecord, ThatComesWholeAfterItCameCutIsNotPainted) {
+    FillDefaults();
+    ASSERT_EQ(Read(Narrow.Left(20)), 1);
+    ASSERT_TRUE(IsPainted(1, RFRQ));
+    ASSERT_EQ(Read(Narrow), 1);
+    for (int column = 0; column < ColumnTotal; ++column)
+        EXPECT_FALSE(IsPainted(1, column)) << ColumnTag[column];
 }
 
 TEST_F(AnalogRecord, OfTenThousandCharactersIsRead) {
@@ -254,7 +365,7 @@ TEST_F(AnalogRecord, OfTenThousandCharactersIsRead) {
     EXPECT_EQ(CellText(1, TCOD), "754");
     EXPECT_EQ(CellText(1, MODE), "w");
     EXPECT_EQ(Read(wxString('0', 10000)), 0);
-    EXPECT_EQ(Read(wxString('1', 10000)), 1);
+    EXPECT_EQ(Read("111 " + wxString('1', 10000)), 1);
     EXPECT_EQ(m_context.Work1, 111);
 }
 

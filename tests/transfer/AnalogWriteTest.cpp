@@ -90,6 +90,30 @@ TEST_F(AnalogWrite, WithoutALogFileWritesNone) {
     EXPECT_FALSE(std::filesystem::exists(LogPath()));
 }
 
+TEST_F(AnalogWrite, TakesNoAcknowledgementThatCameBeforeTheLine) {
+    FillRow(1, "138.0000");
+    FillRow(2, "138.0000");
+    FillRow(3, "138.0000");
+    Select({1, 2, 3});
+    std::string early;
+    RadioPeer peer([&](RadioPeer& radio) {
+        // One for the opening command, which must not do for the first line either.
+        radio.Hear(1);
+        radio.Say("\x05");
+        radio.HearLine();
+        for (int row = 1; row <= 3; ++row) {
+            radio.HearLine();
+            early += radio.Hear(1, 700);
+            radio.Say("\x05\x05");
+        }
+        radio.HearLine();
+    });
+    EXPECT_EQ(Transfer(WriteChannelsMode, peer), TransferComplete);
+    EXPECT_EQ(early, "") << "sent before the line before it was acknowledged";
+    EXPECT_EQ(peer.Heard(), "dl\r" + SentLine("001", "138.0000") + SentLine("002", "138.0000") +
+                                SentLine("003", "138.0000") + EndLine("300"));
+}
+
 TEST_F(AnalogWrite, TakesAnAcknowledgementFromAmongOtherBytes) {
     FillRow(1, "138.0000");
     FillRow(2, "138.0000");
@@ -179,6 +203,13 @@ TEST_F(AnalogWrite, CancelledWhileItWaitsForAnAcknowledgementSendsNothingFurther
     EXPECT_LT(m_took.count(), 4000);
 }
 
+TEST_F(AnalogWrite, CancelledByThisBenchAfterItsEndIsAsItWas) {
+    RadioPeer peer(TakeChannels);
+    EXPECT_EQ(Transfer(WriteChannelsMode, peer), TransferComplete);
+    Cancel();
+    EXPECT_EQ(GaugeValue(0), -1);
+}
+
 TEST_F(AnalogWrite, EndsWithAClickOnItsCancelButton) {
     FillRow(1, "138.0000");
     Select({1});
@@ -201,7 +232,7 @@ TEST_F(AnalogWrite, MovesTheMainGaugeToTheRow) {
         radio.HearLine();
         radio.HearLine();
         value = GaugeValue(150);
-        range = m_context.Progress->MainGauge()->GetRange();
+        range = GaugeRange();
         radio.Say("\x05");
         radio.HearLine();
     });
@@ -278,6 +309,27 @@ TEST_F(AnalogWrite, PausesTwoMillisecondsBehindEachCharacterOfALineAndAddsACarri
     const double took = BestPace(m_context, "wxyz", false, 100);
     EXPECT_GE(took, 10);
     EXPECT_LE(took, 13);
+}
+
+TEST_F(AnalogWrite, WaitsFiftyMillisecondsBehindTheOpeningCommand) {
+    PseudoTerminal device;
+    wxAsyncSerial port(nullptr, device.SlaveName(), 9600);
+    ProgressFrame progress(nullptr, wxID_ANY, "Test");
+    m_context.Port = &port;
+    m_context.Progress = &progress;
+    m_context.RowCapacity = 200;
+    auto best = std::chrono::milliseconds::max();
+    for (int k = 0; k < 10; ++k) {
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(WriteChannels(m_context, CurrentGrid()), TransferComplete);
+        const auto took = std::chrono::steady_clock::now() - start;
+        best = std::min(best, std::chrono::duration_cast<std::chrono::milliseconds>(took));
+        EXPECT_EQ(device.Read(78), EndLine("300"));
+    }
+    m_context.Port = nullptr;
+    m_context.Progress = nullptr;
+    // 78 characters of 2 ms. Of the wait's clock, which counts whole milliseconds, one may be missing.
+    EXPECT_GE(best.count(), 78 * 2 + 50 - 1);
 }
 
 TEST_F(AnalogWrite, PausesLongBehindEachCharacterOfACommandAndAddsNothing) {

@@ -142,6 +142,99 @@ TEST(AsyncSerialClose, DropsWhatWasQueuedSoThatTheNextDeviceNeverGetsIt) {
     EXPECT_EQ(device.ReadUntil('\r'), "fresh\r");
 }
 
+TEST(AsyncSerialClose, ForgetsWhatWasWrittenBehindItSoThatTheNextDeviceNeverGetsIt) {
+    PseudoTerminal device;
+    CallbackAsyncSerial port;
+    port.writeString("before the first opening\r");
+    port.open(device.SlaveName(), 9600);
+    port.close();
+    port.writeString("behind the close\r");
+    port.open(device.SlaveName(), 9600);
+    port.writeString("fresh\r");
+    EXPECT_EQ(device.ReadUntil('\r'), "fresh\r");
+}
+
+/// A port whose device can hold the line back.
+class AsyncSerialUnsent : public ::testing::Test {
+protected:
+    AsyncSerialUnsent() {
+        m_device.HoldSlave();
+        m_port.open(m_device.SlaveName(), 9600);
+    }
+
+    static constexpr std::chrono::seconds Forever{60};
+
+    PseudoTerminal m_device;
+    CallbackAsyncSerial m_port;
+};
+
+TEST_F(AsyncSerialUnsent, IsWaitedForUntilTheDeviceHasTakenIt) {
+    m_device.HoldBack(true);
+    m_port.writeString("T9030000FC\r");
+    EXPECT_FALSE(m_port.waitUntilWritten(std::chrono::milliseconds(20)));
+    std::thread later([this] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        m_device.HoldBack(false);
+    });
+    EXPECT_TRUE(m_port.waitUntilWritten(Forever));
+    EXPECT_EQ(CloseFailure(m_port), "");
+    EXPECT_EQ(m_device.ReadUntil('\r', std::chrono::milliseconds(100)), "T9030000FC\r");
+    later.join();
+}
+
+TEST_F(AsyncSerialUnsent, InSeveralPiecesIsWaitedForToTheLastByte) {
+    std::string text;
+    for (int piece = 0; piece < 200; ++piece) {
+        text += "piece " + std::to_string(piece) + "\r";
+        m_port.writeString("piece " + std::to_string(piece) + "\r");
+    }
+    EXPECT_TRUE(m_port.waitUntilWritten(Forever));
+    m_port.close();
+    EXPECT_EQ(m_device.Read(text.size(), std::chrono::milliseconds(100)), text);
+}
+
+TEST_F(AsyncSerialUnsent, OfALineThatIsStuckIsGivenUpAfterTheLimitAndNeverReachesTheNextDevice) {
+    m_device.HoldBack(true);
+    m_port.writeString("stale\r");
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_FALSE(m_port.waitUntilWritten(std::chrono::milliseconds(200)));
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(200));
+    CloseFailure(m_port);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, Forever);
+    EXPECT_FALSE(m_port.isOpen());
+    m_device.HoldBack(false);
+    m_port.open(m_device.SlaveName(), 9600);
+    m_port.writeString("fresh\r");
+    EXPECT_EQ(m_device.ReadUntil('\r'), "fresh\r");
+}
+
+TEST_F(AsyncSerialUnsent, IsNotWaitedForWhereThereIsNone) {
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(m_port.waitUntilWritten(Forever));
+    m_port.writeString("");
+    EXPECT_TRUE(m_port.waitUntilWritten(Forever));
+    m_port.close();
+    m_port.writeString("dropped");
+    EXPECT_TRUE(m_port.waitUntilWritten(Forever));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, Forever / 2);
+}
+
+TEST_F(AsyncSerialUnsent, OfADeviceThatVanishesIsNotWaitedFor) {
+    const auto start = std::chrono::steady_clock::now();
+    m_port.writeString(std::string(100000, 'x'));
+    EXPECT_EQ(m_device.Read(1), "x");
+    std::thread unplug([this] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        m_device.CloseMaster();
+    });
+    EXPECT_FALSE(m_port.waitUntilWritten(Forever));
+    unplug.join();
+    EXPECT_TRUE(Eventually([this] { return m_port.errorStatus(); }));
+    m_port.writeString("into the void");
+    EXPECT_FALSE(m_port.waitUntilWritten(Forever));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, Forever / 2);
+}
+
 TEST(AsyncSerialVanish, InAReadSetsTheErrorFlagAndKeepsThePortOpenUntilClose) {
     std::optional<PseudoTerminal> device(std::in_place);
     CallbackAsyncSerial port;

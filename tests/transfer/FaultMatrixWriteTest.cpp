@@ -1,6 +1,8 @@
 // Every fault of a digital radio while it is written to.
 #include "tests/transfer/FaultMatrix.h"
 
+#include <algorithm>
+
 using namespace testbench;
 using namespace transfertest;
 
@@ -96,7 +98,8 @@ private:
     void WriteWith(const FaultEnding& fault, int protocol, int n) {
         const bool erases = fault.erases && !m_shadow;
         RadioStamp = fault.purged ? KnownStamp : RadiosStamp;
-        SetCell(3, TFLG, erases ? "C3" : "A1");
+        for (const int row : m_order)
+            SetCell(row, TFLG, erases && row == 3 ? "C3" : "A1");
         const std::string before = PageText();
         RadioUnderTest radio("KDRV-716B", OptionsOf(fault, protocol, n),
                              m_bystander + "\n" + (erases ? m_good.at(3).second + "\n" : ""));
@@ -105,11 +108,25 @@ private:
         const int channel = m_order[static_cast<std::size_t>(n - 1)];
         EXPECT_EQ(ending, ExpectedEnding(fault, WriteChannelsMode, channel));
         EXPECT_LT(result.took, Patience);
-        EXPECT_EQ(PageText(), before);
+        ExpectAcknowledged(fault, n, erases);
+        EXPECT_EQ(PageText(), before) << "more than the marks of acknowledged rows";
         const auto held = radio.Records();
         EXPECT_EQ(held, Expected(fault, n, erases)) << Numbers(held);
         ExpectContent(radio);
         Print(fault, protocol, n, ending, "radio " + Numbers(held), result);
+    }
+
+    /// The rows whose acknowledgement has come through carry the mark for it, which this takes off again.
+    void ExpectAcknowledged(const FaultEnding& fault, int n, bool erases) const {
+        const bool complete = std::string(fault.status) == "Complete";
+        const Order taken = MemoriesLeft(complete ? Left::All : Left::BeforeN, m_order, n);
+        for (const int row : m_order) {
+            const std::string before = erases && row == 3 ? "C3" : "A1";
+            const std::string after = erases && row == 3 ? "83" : "E1";
+            const bool isTaken = std::find(taken.begin(), taken.end(), row) != taken.end();
+            EXPECT_EQ(CellText(row, TFLG), isTaken ? after : before) << "row " << row;
+            SetCell(row, TFLG, before);
+        }
     }
 
     std::map<int, std::string> Expected(const FaultEnding& fault, int n, bool erases) const {

@@ -62,6 +62,13 @@ private:
     std::thread m_thread;
 };
 
+/// A text as a radio sends it that sets bit 7 on every byte.
+inline std::string Marked(std::string text) {
+    for (char& byte : text)
+        byte = static_cast<char>(byte | 0x80);
+    return text;
+}
+
 /// A memory line of the long form as a radio sends it, with its carriage return.
 inline std::string RadioLine(const std::string& number, const std::string& frequency = "138.0000",
                              const std::string& description = "RADIO    ") {

@@ -73,6 +73,12 @@ public:
         return text.str();
     }
 
+    /// Waits until the log has that text, for ten seconds at most.
+    void AwaitInLog(const std::string& text) const {
+        for (int tries = 0; tries < 1000 && Log().find(text) == std::string::npos; ++tries)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+
     /// What the radio has complained about: whatever a real one would have refused or not understood.
     std::string Complaints() const {
         std::string complaints;

@@ -117,6 +117,18 @@ TEST_F(TRecordDriver, CancelledAtAnyLineOfAWriteEndsIt) {
     }
 }
 
+TEST_F(TRecordDriver, CancelledWhenItIsOverStaysAsItEnded) {
+    m_context.ResultPause = 0;
+    EXPECT_EQ(Transfer(Transcript(Opening("T204000024") + Sends("T204000000") + Says("T9030000")),
+                       ReadChannelsMode),
+              TransferComplete);
+    std::thread([this] { Cancel(); }).join();
+    wxYield();
+    EXPECT_EQ(Converse(Transcript(Opening("T204000024") + Sends("T204000000") + Says("T9030000")),
+                       ReadChannelsMode),
+              TransferComplete);
+}
+
 TEST_F(TRecordDriver, CancelledAtAnyLineOfAnyOtherModeEndsIt) {
     struct {
         const char* transcript;
@@ -231,6 +243,54 @@ TEST_F(TRecordDriver, RefusalIsFollowedByAPause) {
     EXPECT_EQ(ConverseOn(peer.PortName(), WriteChannelsMode), TransferTimeout);
     peer.Finish();
     EXPECT_GE(pause.count(), 490);
+}
+
+TEST_F(TRecordDriver, ChangesItsSpeedFiftyMillisecondsAfterTheRadioHasAgreed) {
+    Clock::duration pause{0};
+    RadioPeer peer([&](RadioPeer& radio) {
+        for (const char* answer : {"T204000001FA\r", "T204000001FA\r", "T204000000FB\r"}) {
+            radio.HearLine();
+            radio.Say(answer);
+        }
+        radio.HearLine();
+        const Clock::time_point agreed = Clock::now();
+        radio.Say("T204000000FB\r");
+        while (radio.Port().Speed() != B115200 && Clock::now() < agreed + std::chrono::seconds(10))
+            std::this_thread::sleep_for(milliseconds(1));
+        pause = Clock::now() - agreed;
+        radio.HearLine();
+    });
+    m_context.ReplyTimeout = 700;
+    EXPECT_EQ(ConverseOn(peer.PortName(), ReadChannelsMode), TransferTimeout);
+    peer.Finish();
+    EXPECT_GE(pause, milliseconds(50));
+    EXPECT_LT(pause, std::chrono::seconds(10)) << "the speed was never changed";
+}
+
+TEST_F(TRecordDriver, BeginsWithTheShadowsHalfASecondAfterTheLastPrimary) {
+    FillP25Row(1, "A0", "10");
+    FillP25Row(2, "A0", "01", "001");
+    Select({1, 2});
+    Clock::duration pause{0};
+    std::string shadow;
+    RadioPeer peer([&](RadioPeer& radio) {
+        // Hello, version, stamp, opening, purge.
+        for (const char* answer :
+             {"T204000000", "T207000023010203", "T20B00002120240131235959", "T204000000", "T204000000"}) {
+            radio.HearLine();
+            radio.Say(Framed(answer) + "\r");
+        }
+        radio.HearLine();
+        const Clock::time_point taken = Clock::now();
+        radio.Say("T204000000FB\r");
+        shadow = radio.HearLine();
+        pause = Clock::now() - taken;
+    });
+    m_context.ReplyTimeout = 1500;
+    EXPECT_EQ(ConverseOn(peer.PortName(), WriteChannelsMode), TransferTimeout);
+    peer.Finish();
+    EXPECT_EQ(shadow.substr(0, 8), "T1430002");
+    EXPECT_GE(pause, milliseconds(500));
 }
 
 TEST_F(TRecordDriver, HostileShortLinesAreGarbageNotACrash) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/robot/TempFolder.h"
+#include "tests/transfer/CancelFromPeer.h"
 #include "tests/transfer/Transcript.h"
 #include "tests/transfer/TransferTest.h"
 #include "transfer/RadioIdentity.h"
@@ -65,6 +66,7 @@ protected:
         UsePage(Kdrv716B);
         m_context.ReplyTimeout = 3000;
         RadioStamp = KnownStamp;
+        HeldByRadio = {};
         RadioVersion = "";
         RadioSerial = "";
     }
@@ -151,12 +153,26 @@ protected:
         return DoTransferData(m_context, CurrentGrid(), mode);
     }
 
+    static constexpr const char* UnknownRadio = "This radio's memories were not read by this program.\n";
+    static constexpr const char* LargerRadio = "This radio holds memories that this page doesn't.\n";
+
+    /// Expects the question before a radio is emptied that holds, by reason, what the page doesn't.
+    static testbench::ExpectedDialog& ExpectPurgeQuestion(testbench::DialogScript& script,
+                                                          int answer = wxID_OK,
+                                                          const std::string& reason = UnknownRadio) {
+        return script
+            .ExpectMessage("Purge radio?",
+                           reason + "All of them will be erased before the selected rows are sent!", answer)
+            .Style(wxOK | wxCANCEL);
+    }
+
     /// Does what the Cancel button does, from the peer's thread.
-    void Cancel() { m_context.Progress->Cancelled = true; }
+    void Cancel() { m_cancel.Press(); }
 
     TRecordContext m_context;
 
 private:
+    CancelFromPeer m_cancel;
     testbench::TempFolder m_folder{"zelk-transfer"};
     std::filesystem::path m_formerDirectory;
 };

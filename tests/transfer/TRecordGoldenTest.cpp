@@ -39,10 +39,12 @@ TEST_P(TRecordGeneration, IsWrittenTo) {
     Select({1, 3});
     EXPECT_EQ(TransferBy(Name("write"), WriteChannelsMode), TransferComplete);
     EXPECT_EQ(m_context.Index, 503);
-    EXPECT_EQ(CellText(1, TFLG), "A1");
+    EXPECT_EQ(CellText(1, TFLG), "E1") << "the radio holds it";
     EXPECT_EQ(CellText(2, TFLG), "A0");
+    EXPECT_EQ(CellText(3, TFLG), "E1");
+    EXPECT_EQ(m_context.RowsSent, (std::set<int>{1, 3}));
     EXPECT_EQ(m_context.RecordVersion, IsLatest() ? 2u : 1u);
-    EXPECT_EQ(Text(RadioStamp), KnownStamp) << "a write keeps the stamp of the last read";
+    EXPECT_EQ(Text(RadioStamp), KnownStamp) << "a write keeps the stamp that the radio told";
 }
 
 TEST_P(TRecordGeneration, IsReadFrom) {
@@ -134,7 +136,21 @@ TEST_F(TRecordGolden, AnotherRadioIsPurged) {
     FillP25Row(4, "C0");
     FillP25Row(6);
     Select({1});
+    DialogScript script;
+    ExpectPurgeQuestion(script);
     EXPECT_EQ(TransferBy("write_other_radio", WriteChannelsMode), TransferComplete);
+    EXPECT_EQ(Text(RadioStamp), "20240131235958") << "now this radio is known";
+}
+
+TEST_F(TRecordGolden, AnotherRadioIsLeftAloneWhenThePurgeIsRefusedByDeparture) {
+    FillP25Row(1);
+    FillP25Row(4, "C0");
+    Select({1});
+    DialogScript script;
+    ExpectPurgeQuestion(script, wxID_CANCEL);
+    EXPECT_EQ(TransferBy("write_other_radio_refused", WriteChannelsMode), TransferCancelled);
+    EXPECT_EQ(Text(RadioStamp), KnownStamp);
+    EXPECT_TRUE(m_context.RowsSent.empty());
 }
 
 TEST_F(TRecordGolden, RowsOfTheRadioAreErased) {

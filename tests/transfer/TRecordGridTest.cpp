@@ -1,4 +1,5 @@
 // What a transfer does to a page beside its records: the choice of the layout, flags, the gauge.
+#include "editing/ColumnChecks.h"
 #include "tests/transfer/TRecordPage.h"
 #include "transfer/DebugLog.h"
 #include "transfer/ProgressFrame.h"
@@ -17,6 +18,15 @@ protected:
         wxString out = "former";
         encodeTrecord(m_context, CurrentGrid(), row, out);
         return out.utf8_string();
+    }
+
+    /// The zones of the slots that are taken on the page, a name for each slot.
+    static std::string SlotText() {
+        std::string text;
+        for (int zone = 0; zone < ZonesPerPage; ++zone)
+            for (int slot = 0; slot < ZoneSlotsOf(0)[zone]; ++slot)
+                text += (text.empty() ? "" : " ") + GetZoneName(zone).utf8_string();
+        return text;
     }
 };
 
@@ -63,6 +73,68 @@ TEST_F(TRecordGrid, RefusesARowBehindItsLastInBothLayouts) {
     m_context.RecordVersion = 2;
     EXPECT_EQ(decodeTrecord(m_context, CurrentGrid(), "T14301F7"), 0);
     EXPECT_TRUE(AllCells() == before);
+}
+
+TEST_F(TRecordGrid, ThatComesTwiceHoldsOneZoneSlot) {
+    for (const std::uint32_t version : {1u, 2u}) {
+        SCOPED_TRACE(version);
+        Open(Kdrv716B);
+        ZoneSlots.fill(0);
+        m_context.RecordVersion = version;
+        Fill(7, Sample, {{MNUM, "007"}, {ZONE, "3"}});
+        const std::string third = Line(version, 7);
+        SetCell(7, ZONE, "5");
+        const std::string fifth = Line(version, 7);
+        SetCell(7, MFLG, "01");
+        const std::string shadow = Line(version, 7);
+        Blank(7);
+        const auto read = [&](const std::string& line) {
+            EXPECT_EQ(decodeTrecord(m_context, CurrentGrid(), line), 1);
+            return Cell(7, ZONE).utf8_string() + ": " + SlotText();
+        };
+        EXPECT_EQ(read(third), "3: 3");
+        EXPECT_EQ(read(third), "3: 3") << "the same again";
+        EXPECT_EQ(read(fifth), "5: 5") << "another zone";
+        EXPECT_EQ(read(shadow), ": ") << "a shadow's";
+        EXPECT_EQ(read(shadow), ": ") << "a shadow's again";
+        EXPECT_EQ(read(third), "3: 3") << "a plain one again";
+    }
+}
+
+TEST_F(TRecordGrid, ThatComesTwiceTakesNoOtherRowsSlotAlsoWhereItFoundItsZoneFull) {
+    Open(Kdrv716B);
+    ZoneSlots.fill(0);
+    m_context.RecordVersion = 2;
+    // Of 17 rows the last finds the zone full: it shows the zone and holds no slot of it.
+    for (int row = 10; row <= 26; ++row) {
+        Fill(row, Sample, {{ZONE, "3"}});
+        const std::string line = Line(2, row);
+        Blank(row);
+        EXPECT_EQ(decodeTrecord(m_context, CurrentGrid(), line), 1);
+    }
+    ASSERT_EQ(ZoneSlotsOf(0)[2], 16);
+    ASSERT_EQ(Cell(26, ZONE), "3");
+    SetCell(26, ZONE, "5");
+    const std::string fifth = Line(2, 26);
+    SetCell(26, ZONE, "3");
+    EXPECT_EQ(decodeTrecord(m_context, CurrentGrid(), fifth), 1);
+    EXPECT_EQ(Cell(26, ZONE), "5");
+    EXPECT_EQ(ZoneSlotsOf(0)[2], 16) << "16 rows still hold their slots";
+    EXPECT_EQ(ZoneSlotsOf(0)[4], 1);
+}
+
+TEST_F(TRecordGrid, OfTheDefaultRowMovesNoSlot) {
+    Open(Kdrv716B);
+    ZoneSlots.fill(0);
+    m_context.RecordVersion = 2;
+    Fill(3, Sample, {{ZONE, "3"}});
+    CheckZone(CurrentGrid(), 3, "3");
+    SetCell(0, ZONE, "3");
+    SetCell(0, TFLG, "C8");
+    const std::string line = Line(2, 0);
+    EXPECT_EQ(decodeTrecord(m_context, CurrentGrid(), line), 1);
+    EXPECT_EQ(decodeTrecord(m_context, CurrentGrid(), line), 1);
+    EXPECT_EQ(SlotText(), "3");
 }
 
 TEST_F(TRecordGrid, TransferFlagsAreAddedToThoseOfTheRow) {

@@ -24,11 +24,11 @@ protected:
         TRecordDriverTest::TearDown();
     }
 
-    void Take(const std::string& line, int mode) {
+    void Take(const std::string& line, int mode, const std::string& standing = "STANDING") {
         m_context.Phase = 1;
         m_context.Status = 0;
         m_context.RxLine = line;
-        m_context.TxLine = "STANDING";
+        m_context.TxLine = standing;
         TRecordDialogue dialogue{m_context, CurrentGrid(), mode, CurrentGrid()->GetNumberRows()};
         TakeReply(dialogue);
         m_offered = dialogue.lacksChecksum ? Text(m_context.TxLine) : "";
@@ -191,6 +191,50 @@ TEST_F(TRecordReply, WithAnotherStampMakesItAnotherRadio) {
     m_context.XferFlags = 0x30;
     Take("T20B000021", 0);
     EXPECT_EQ(m_context.XferFlags, 0x38u);
+}
+
+TEST_F(TRecordReply, WithAnyStampMakesItAnotherRadioWhileNoneIsKnown) {
+    RadioStamp = "";
+    for (const char* stamp : {"T20B00002120240131235959", "T20B000021"}) {
+        m_context.XferFlags = 0x30;
+        Take(stamp, 0);
+        EXPECT_EQ(m_context.XferFlags, 0x38u) << stamp;
+    }
+    EXPECT_EQ(Text(RadioStamp), "") << "it is kept when the write is complete";
+}
+
+TEST_F(TRecordReply, ThatAcknowledgesAMemoryMarksItAsHeldByTheRadioByDeparture) {
+    struct {
+        const char* what;
+        int row;
+        const char* sent;
+        int mode;
+        const char* before;
+        const char* after;
+        bool counts;
+    } const cases[] = {
+        {"made here", 5, "T1430005", 0, "A1", "E1", true},
+        {"read before", 5, "T1430005", 0, "C9", "C9", true},
+        {"guard", 502, "T1430502", 0, "A1", "E1", true},
+        {"erased", 5, "T204000510E4", 0, "C3", "83", true},
+        {"default row", 0, "T1430000", 0, "A1", "A1", false},
+        {"purge", -2, "T204000011EA", 0, "A1", "A1", false},
+        {"configuration", 5, "T1070000435230304A", 3, "A1", "A1", false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        m_context.Index = c.row;
+        m_context.RowsSent.clear();
+        const int row = std::max(c.row, 0);
+        SetCell(row, TFLG, c.before);
+        Take("T204000000", c.mode, c.sent);
+        EXPECT_EQ(CellText(row, TFLG), c.after);
+        EXPECT_EQ(m_context.RowsSent.count(row), c.counts ? 1u : 0u);
+    }
+    m_context.Index = 5;
+    SetCell(5, TFLG, "A1");
+    Take("T204000001", 0, "T1430005");
+    EXPECT_EQ(CellText(5, TFLG), "A1") << "it was refused";
 }
 
 TEST_F(TRecordReply, WithACountOfLinesBeginsThemAnew) {

@@ -25,10 +25,7 @@ wxString ToneOf(int n) {
 
 class TRecordRoundTrip : public ::testing::Test {
 protected:
-    TRecordRoundTrip() {
-        FillChoiceLists();
-        ZoneList = ListOf(ZoneNames32);
-    }
+    TRecordRoundTrip() { FillChoiceLists(); }
 
     /// Every column in values of its own; the lists of tones, codes and zones from end to end.
     static wxArrayString CellsOf(int row) {
@@ -37,7 +34,8 @@ protected:
         cells[MFLG] = FlagText(row & 0x37F);
         cells[MNUM] = NumberText(row);
         cells[PRIM] = NumberText(row);
-        cells[ZONE] = Nth(ZoneList, row);
+        cells[SCAN] = row & ScanFlag ? "Y" : "N";
+        cells[ZONE] = Nth(ZoneNames(NP25), row);
         cells[DESC] = wxString::Format("MEM  %03d", row);
         cells[MODE] = Nth(ListOf(P25Modes), row);
         cells[RFRQ] = wxString::Format("%03d.%04d", 136 + row % 38, row * 19);
@@ -70,7 +68,7 @@ protected:
         source.row = row;
         source.gridRows = GridRows;
         source.type = NP25;
-        const TRecordValues values = ReadTRecord(layout, MakeTRecord(layout, source), SecondGeneration);
+        const TRecordValues values = ReadTRecord(layout, MakeTRecord(layout, source), SecondGeneration, NP25);
         std::map<int, std::string> cells;
         cells[MFLG] = FlagText(values.flags).utf8_string();
         for (const TRecordCell& cell : values.cells)

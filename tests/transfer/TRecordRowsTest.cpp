@@ -73,13 +73,44 @@ TEST_F(TRecordEvaluation, KeepsBlankRowsBlankByDeparture) {
         EXPECT_FALSE(RowHasData(row)) << row;
 }
 
-TEST_F(TRecordEvaluation, CountsRowsThatAreMarkedFromBeforeOrToBeErased) {
-    FillP25Row(1, "81");
+TEST_F(TRecordEvaluation, CountsRowsThatAreToBeErased) {
     FillP25Row(2, "C2");
     FillP25Row(3, "C0");
     FillP25Row(501, "82");
     Evaluate();
-    EXPECT_EQ(m_dialogue->rowsToSend, 3);
+    EXPECT_EQ(m_dialogue->rowsToSend, 2);
+}
+
+TEST_F(TRecordEvaluation, ForgetsTheSelectionOfEarlierTransfersByDeparture) {
+    FillP25Row(1, "E1");
+    FillP25Row(2, "A1", "01", "001");
+    FillP25Row(3, "C3");
+    FillP25Row(4, "E9");
+    FillP25Row(501, "A1");
+    Select({1});
+    Evaluate();
+    EXPECT_EQ(m_dialogue->rowsToSend, 2) << "the selected row and the one to be erased";
+    EXPECT_EQ(m_context.XferFlags, 0x30u) << "no shadow is sent, so nothing is purged";
+    EXPECT_EQ(CellText(1, TFLG), "E1");
+    EXPECT_EQ(CellText(2, TFLG), "A0");
+    EXPECT_EQ(CellText(3, TFLG), "C2");
+    EXPECT_EQ(CellText(4, TFLG), "E8");
+    EXPECT_EQ(CellText(501, TFLG), "A0");
+    EXPECT_FALSE(RowHasData(5));
+}
+
+TEST_F(TRecordEvaluation, KeepsTheSelectionOfTheFamilyOfASelectedShadow) {
+    FillP25Row(20, "A1", "10");
+    SetCell(20, SHD0, "021");
+    SetCell(20, SHD1, "019");
+    FillP25Row(21, "A1", "01", "020");
+    FillP25Row(19, "A1", "02", "020");
+    FillP25Row(22, "A1", "01", "020"); // the primary doesn't know it
+    Select({21});
+    Evaluate();
+    for (const int row : {19, 20, 21})
+        EXPECT_EQ(CellText(row, TFLG), "A1") << row;
+    EXPECT_EQ(CellText(22, TFLG), "A0");
 }
 
 TEST_F(TRecordEvaluation, LooksAtTheReceiveColumnOfMemoriesAndTheFirstColumnOfGuards) {
@@ -118,7 +149,8 @@ TEST_F(TRecordEvaluation, FindsOutWhetherTheOldLayoutHoldsARow) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::to_string(c.row) + " " + ColumnTag[c.column] + " " + c.text);
-        FillP25Row(c.row, "A1");
+        FillP25Row(c.row);
+        Select({c.row});
         SetCell(c.row, c.column, c.text);
         Evaluate();
         EXPECT_EQ(m_context.XferFlags, c.fits ? 0x30u : 0x10u);
@@ -140,9 +172,10 @@ TEST_F(TRecordEvaluation, GathersTheModesThatTheRadioLacks) {
     const int rows[] = {1, 300, 501};
     const char* const modes[] = {"w", "n", "D"};
     for (int i = 0; i < 3; ++i) {
-        FillP25Row(rows[i], "A1");
+        FillP25Row(rows[i]);
         SetCell(rows[i], MODE, modes[i]);
     }
+    Select({1, 300, 501});
     const std::pair<std::uint32_t, std::uint32_t> cases[] = {{0x70, 0x00}, {0x30, 0x40}, {0x50, 0x20},
                                                              {0x60, 0x10}, {0x00, 0x70}, {0x8F, 0x70}};
     for (const auto& [radio, lacks] : cases) {
@@ -153,10 +186,12 @@ TEST_F(TRecordEvaluation, GathersTheModesThatTheRadioLacks) {
 }
 
 TEST_F(TRecordEvaluation, TakesOverTheMarkOfMemoriesButNotOfGuards) {
-    FillP25Row(501, "A5");
+    FillP25Row(501, "A4");
+    Select({501});
     Evaluate();
     EXPECT_EQ(m_context.XferFlags, 0x30u);
-    FillP25Row(1, "A5");
+    FillP25Row(1, "A4");
+    Select({1, 501});
     Evaluate();
     EXPECT_EQ(m_context.XferFlags, 0x34u);
 }
@@ -170,7 +205,8 @@ TEST_F(TRecordEvaluation, OfAShadowMarksItsPrimaryAndAllShadowsOfThat) {
         SetCell(20, SHD6, "031");
         FillP25Row(30, "A0", "04", "020");
         FillP25Row(31, "A0", "07", "020");
-        FillP25Row(shadow, "A1", "01", "020");
+        FillP25Row(shadow, "A0", "01", "020");
+        Select({shadow});
         Evaluate();
         EXPECT_EQ(m_context.XferFlags, 0x32u);
         EXPECT_EQ(m_dialogue->markedRows, (std::set<int>{20, 30, 31, shadow}));
@@ -182,23 +218,28 @@ TEST_F(TRecordEvaluation, OfAShadowMarksItsPrimaryAndAllShadowsOfThat) {
 
 TEST_F(TRecordEvaluation, OfAShadowPassesOverNumbersThatAreNoRows) {
     for (const char* primary : {"0", "-1", "503", "99999999999", "x", ""}) {
-        FillP25Row(9, "A1", "01", primary);
+        FillP25Row(9, "A0", "01", primary);
+        Select({9});
         Evaluate();
+        EXPECT_EQ(m_context.XferFlags & 0x02, 0x02u);
         EXPECT_TRUE(m_dialogue->markedRows.empty()) << primary;
     }
     FillP25Row(20, "A0", "10");
     const char* const shadows[] = {"503", "-9", "0", "99999999999", "x", "502", ""};
     for (int i = 0; i < 7; ++i)
         SetCell(20, SHD0 + i, shadows[i]);
-    FillP25Row(9, "A1", "01", "020");
+    FillP25Row(9, "A0", "01", "020");
+    Select({9});
     Evaluate();
     EXPECT_EQ(m_dialogue->markedRows, (std::set<int>{20, 502}));
 }
 
 TEST_F(TRecordEvaluation, OfAPrimaryMarksNothing) {
-    FillP25Row(20, "A1", "10");
+    FillP25Row(20, "A0", "10");
     SetCell(20, SHD0, "30");
+    Select({20});
     Evaluate();
+    EXPECT_EQ(m_dialogue->rowsToSend, 1);
     EXPECT_EQ(m_context.XferFlags, 0x30u);
     EXPECT_TRUE(m_dialogue->markedRows.empty());
 }

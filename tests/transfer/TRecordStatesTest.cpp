@@ -147,15 +147,47 @@ TEST_F(TRecordState, OfTheOpeningSetsTheGaugesRange) {
     }
 }
 
+TEST_F(TRecordState, OfTheOpeningAsksOnlyWhereAnUnknownRadioWouldLoseMoreThanIsSent) {
+    FillP25Row(1);
+    FillP25Row(502);
+    struct {
+        std::uint32_t flags;
+        int mode;
+        std::initializer_list<int> selected;
+        bool asks;
+    } const cases[] = {
+        {0x08, 0, {1}, true},       {0x08, 0, {502}, true}, {0x08, 0, {}, true},   {0x0A, 0, {1}, true},
+        {0x08, 0, {1, 502}, false}, {0x02, 0, {1}, false},  {0x04, 0, {1}, false}, {0x00, 0, {1}, false},
+        {0x08, 1, {1}, false},      {0x08, 3, {1}, false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        Select(c.selected);
+        for (const int answer : {wxID_OK, wxID_CANCEL}) {
+            m_context.XferFlags = 0x30 | c.flags;
+            DialogScript script;
+            if (c.asks)
+                ExpectPurgeQuestion(script, answer);
+            const bool refused = c.asks && answer == wxID_CANCEL;
+            EXPECT_EQ(Choose(-3, c.mode).empty(), refused);
+            EXPECT_EQ(m_status, refused ? TransferCancelled : TransferOk);
+        }
+    }
+}
+
 TEST_F(TRecordState, OfThePurgeNeedsOneOfFourReasonsAndAWrite) {
     for (const std::uint32_t reason : {0x01u, 0x02u, 0x04u, 0x08u}) {
+        RadioStamp = KnownStamp;
         m_context.XferFlags = 0x30 | reason;
         EXPECT_EQ(Choose(-2, 0), "T204000011") << reason;
         EXPECT_EQ(m_context.XferFlags, 0x33 | reason);
         EXPECT_EQ(Text(m_context.StatusText), "Purging Radio....");
+        EXPECT_EQ(Text(RadioStamp), "") << "no radio is known until the write is complete";
         m_context.XferFlags = 0x30 | reason;
+        RadioStamp = KnownStamp;
         EXPECT_EQ(Choose(-2, 1), "") << reason;
         EXPECT_EQ(m_context.XferFlags, 0x30 | reason);
+        EXPECT_EQ(Text(RadioStamp), KnownStamp);
     }
 }
 

@@ -135,6 +135,18 @@ TEST_F(WaitForLineTest, LooksForTheTerminatorThatItIsGiven) {
     EXPECT_EQ(m_context.FoundAt, 5);
 }
 
+TEST_F(WaitForLineTest, TakesTextAsItIsOrAsItsContextWantsIt) {
+    const wxString marked = wxString("OK") + wxUniChar(0x8D);
+    Receive(marked);
+    EXPECT_EQ(WaitForReturn(30), 4) << "to the digital radios it is no carriage return";
+    EXPECT_EQ(m_context.RxBuffer, marked);
+    m_context.RxBuffer.clear();
+    m_context.Arriving = [](const wxString& text) { return text.BeforeFirst(wxUniChar(0x8D)) + "\r"; };
+    Receive(marked);
+    EXPECT_EQ(WaitForReturn(5000), 0);
+    EXPECT_EQ(m_context.RxBuffer, "OK\r");
+}
+
 TEST_F(WaitForLineTest, CancelWinsOverTimeOutAndLine) {
     m_context.RxBuffer = "line\r";
     m_frame->Cancelled = true;

@@ -6,8 +6,8 @@ zelk_test(analog_rules_tests
 # Channel lines and the cells of a grid.
 zelk_test(analog_record_tests WINDOW SOURCES AnalogRecordTest.cpp LIBS zelk_core)
 
-# The commands of the window.
-zelk_test(transfer_commands_tests WINDOW SOURCES TransferCommandsTest.cpp LIBS zelk_core)
+# The commands of the window, and what they tell.
+zelk_test(transfer_commands_tests WINDOW SOURCES TransferCommandsTest.cpp UnsentRowsTest.cpp LIBS zelk_core)
 
 # The analog driver against radios that the test plays.
 zelk_test(analog_driver_tests WINDOW DISPLAY 1

@@ -1,6 +1,6 @@
 # The records of the digital radios and their debug log, apart from any window.
 zelk_test(trecord_tests
-    SOURCES DebugLogTest.cpp TRecordRoundTripTest.cpp TRecordTest.cpp
+    SOURCES DebugLogTest.cpp TRecordRoundTripTest.cpp TRecordRulesTest.cpp TRecordTest.cpp
     LIBS zelk_core)
 
 # Those records and the cells of a grid.

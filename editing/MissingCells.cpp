@@ -1,0 +1,63 @@
+#include "editing/MissingCells.h"
+
+#include "catalogue/PageModel.h"
+#include "editing/FrequencyRules.h"
+#include "editing/ReplacedCells.h"
+#include "editing/ZelkEditors.h"
+
+#include <wx/grid.h>
+
+using namespace RadioCatalogue;
+
+namespace {
+
+/// True for cells that the row needs and no check fills. The filler column of O12 is no such cell, and
+/// SCAN of a guard row is fixed by the radio.
+bool NeedsText(int type, int row, int col) {
+    if (ColumnWidth[type][col] == 0 || (type == O12 && col == RONL))
+        return false;
+    return !(col == SCAN && IsGuardRow(row));
+}
+
+void Fill(wxGrid* grid, int row, int col, const wxString& text) {
+    grid->SetCellValue(row, col, text);
+    grid->SetCellBackgroundColour(row, col, FailColour);
+    ReplacedCells::Note(row, col);
+}
+
+bool ModuleHasBand(int band) {
+    return band == 0 || band == 2 || band == 6;
+}
+
+/// The check would put the row on the default row's band, where its frequencies could not stand.
+void FillMissingBand(wxGrid* grid, int row) {
+    if (CurrentParameters().Band != 8 || ModuleHasBand(FindBand(grid->GetCellValue(row, BAND))))
+        return;
+    const int band = GetFreqBand(grid->GetCellValue(row, RFRQ), MDLX);
+    if (!ModuleHasBand(band))
+        return;
+    Fill(grid, row, BAND, BandName[band]);
+    FitRowToItsBand(grid, row);
+}
+
+/// Rows of AM 108-138 are checked for no transmit frequency, so an empty one would stay.
+void FillMissingTransmitFrequency(wxGrid* grid, int row) {
+    if (CurrentParameters().Type != MDLX || FindBand(grid->GetCellValue(row, BAND)) != 2 ||
+        !grid->GetCellValue(row, TFRQ).empty())
+        return;
+    const wxString receive = grid->GetCellValue(row, RFRQ);
+    if (receive.empty())
+        Fill(grid, row, TFRQ, grid->GetCellValue(0, TFRQ));
+    else
+        Fill(grid, row, TFRQ, CheckRxOnlyFreq(receive) ? wxString("n/a") : receive);
+}
+
+} // namespace
+
+void FillMissingCells(wxGrid* grid, int row) {
+    for (int col : {RNSV, RONL, DESC, SCAN})
+        if (NeedsText(CurrentParameters().Type, row, col) && grid->GetCellValue(row, col).empty())
+            Fill(grid, row, col, grid->GetCellValue(0, col));
+    FillMissingBand(grid, row);
+    FillMissingTransmitFrequency(grid, row);
+}

@@ -1,0 +1,28 @@
+#include "editing/ScanLock.h"
+
+#include "catalogue/PageModel.h"
+
+#include <wx/grid.h>
+
+namespace {
+
+bool IsInUnscannedZone(const wxGrid* grid, int row) {
+    return CurrentParameters().Type == RadioCatalogue::NP25 && grid->GetCellValue(row, ZONE) == "X";
+}
+
+/// A pasted copy of a linked row has its flags, but no links.
+bool IsLinked(const wxGrid* grid, int row) {
+    const wxString link = grid->GetCellValue(row, SHAD);
+    return link.StartsWith("P-") || link.StartsWith("S-");
+}
+
+/// By the page's rows: GD1 is that of the former target while a page changes it.
+bool IsGuard(int row) {
+    return HasGuardRows(CurrentPage) && row > CurrentParameters().Rows - 2;
+}
+
+} // namespace
+
+void SetScanLock(wxGrid* grid, int row) {
+    grid->SetReadOnly(row, SCAN, IsInUnscannedZone(grid, row) || IsLinked(grid, row) || IsGuard(row));
+}

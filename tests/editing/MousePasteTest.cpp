@@ -1,0 +1,161 @@
+// Text that the mouse brings into an open edit: pasted with the middle button, or dropped.
+#include "editing/DescriptionCell.h"
+#include "editing/DigitalSquelchCell.h"
+#include "editing/FrequencyCell.h"
+
+#include "tests/editing/TextCellTest.h"
+#include "tests/support/RunWithRobot.h"
+
+using namespace testbench;
+
+namespace {
+
+class MousePaste : public TextCellTest {
+protected:
+    /// Makes the text the one that a middle click pastes.
+    static void SelectElsewhere(const std::string& text) {
+        const wxClipboardLocker lock;
+        ASSERT_TRUE(!!lock);
+        wxTheClipboard->UsePrimarySelection(true);
+        const bool set = wxTheClipboard->SetData(new wxTextDataObject(wxString::FromUTF8(text)));
+        wxTheClipboard->UsePrimarySelection(false);
+        ASSERT_TRUE(set);
+    }
+
+    /// Clicks with the middle button at the right end of the open edit, or near its left one.
+    static void PasteWithMouse(const std::string& text, bool atEnd = true) {
+        // Two clicks at one place would make a double click, which pastes nothing.
+        static int aside = 5;
+        aside = -aside;
+        SelectElsewhere(text);
+        const wxTextCtrl& control = *Control();
+        const wxSize size = control.GetClientSize();
+        ClickAt(control.ClientToScreen(wxPoint((atEnd ? size.x - 8 : 9) + aside, size.y / 2)), 2);
+        PumpFor(50);
+    }
+
+    /// What the cell's edit holds after the text was pasted behind the typed one.
+    static std::string After(int col, const std::string& typed, const std::string& pasted) {
+        OpenEmpty(5, col);
+        TypeText(typed);
+        PasteWithMouse(pasted);
+        const std::string text = Typed();
+        PressKey("Escape");
+        return text;
+    }
+};
+
+} // namespace
+
+TEST_F(MousePaste, OfADescriptionIsTakenWholeOrNotAtAll) {
+    UseRow(5);
+    Install(5, DESC, new ZelkDescriptionEditor(9, 0));
+    EXPECT_EQ("", After(DESC, "", "a~\u00e9|b"));
+    EXPECT_EQ("QU", After(DESC, "qu", "a~b"));
+    EXPECT_EQ("QUAY 3", After(DESC, "qu", "ay 3"));
+    EXPECT_EQ("QU", After(DESC, "qu", "a text that is too long"));
+    Install(5, DESC, new ZelkDescriptionEditor(8, 5));
+    EXPECT_EQ("qu~|", After(DESC, "qu", "~|"));
+    EXPECT_EQ("qu", After(DESC, "qu", "\u00e9"));
+}
+
+TEST_F(MousePaste, OfATalkGroupOrNacTakesHexadecimalDigitsAlone) {
+    UseRow(5);
+    Install(5, RTGP, new DigitalSquelchEditor(4, 0, 65535));
+    EXPECT_EQ("", After(RTGP, "", "x.y"));
+    EXPECT_EQ("1", After(RTGP, "1", "2g"));
+    EXPECT_EQ("12AF", After(RTGP, "1", "2af"));
+    EXPECT_EQ("12", After(RTGP, "12", "345"));
+}
+
+TEST_F(MousePaste, OfAFrequencyIsThatOfTheKeyboard) {
+    UseRow(5);
+    Install(5, RFRQ, new FrequencyEditor(5, 5, 2500));
+    EXPECT_EQ("155", After(RFRQ, "", "155"));
+    EXPECT_EQ("155", After(RFRQ, "1", "55"));
+    EXPECT_EQ("", After(RFRQ, "", "155.2"));
+    EXPECT_EQ("155.", After(RFRQ, "155.", "2"));
+    EXPECT_EQ("1", After(RFRQ, "1", "x"));
+}
+
+TEST_F(MousePaste, ThatIsRefusedLeavesWhatWasSelected) {
+    UseRow(5);
+    Install(5, DESC, new ZelkDescriptionEditor(9, 0));
+    SetCell(5, DESC, "KEPT");
+    for (const char* text : {"a~b", "a text that is too long"}) {
+        GoTo(5, DESC);
+        PressKey("F2");
+        PressKey("Ctrl+A");
+        PasteWithMouse(text, false);
+        EXPECT_EQ("KEPT", Typed()) << text;
+        PressKey("Return");
+        EXPECT_EQ("KEPT", Text(5, DESC)) << text;
+    }
+}
+
+TEST_F(MousePaste, LeavesTheEditUsable) {
+    UseRow(5);
+    Install(5, DESC, new ZelkDescriptionEditor(9, 0));
+    OpenEmpty(5, DESC);
+    TypeText("qu");
+    PasteWithMouse("~");
+    TypeText("a");
+    PasteWithMouse("y");
+    PressKey("BackSpace");
+    TypeText("y");
+    PressKey("Return");
+    EXPECT_EQ("QUAY", Text(5, DESC));
+}
+
+TEST_F(MousePaste, OfATextThatAFileBroughtMayBeEditedOn) {
+    UseRow(5);
+    Install(5, DESC, new ZelkDescriptionEditor(9, 0));
+    SetCell(5, DESC, "A~B");
+    GoTo(5, DESC);
+    PressKey("F2");
+    EXPECT_EQ("A~B", Typed());
+    PressKey("End");
+    TypeText("c");
+    EXPECT_EQ("A~BC", Typed());
+    PressKey("Escape");
+    EXPECT_EQ("A~B", Text(5, DESC));
+}
+
+// Dragged inside the edit: a drag from another window would end the edit before the drop.
+TEST_F(MousePaste, DroppedTextPassesTheSameRules) {
+    UseRow(5);
+    Install(5, DESC, new ZelkDescriptionEditor(9, 0));
+    const auto dragFirstToEnd = [](const char* text) {
+        SetCell(5, DESC, text);
+        GoTo(5, DESC);
+        PressKey("F2");
+        PressKey("Home");
+        PressKey("Shift+Right");
+        const wxTextCtrl& control = *Control();
+        const int y = control.GetClientSize().y / 2;
+        const wxPoint from = control.ClientToScreen(wxPoint(4, y));
+        const wxPoint to = control.ClientToScreen(wxPoint(control.GetClientSize().x - 4, y));
+        RunWithRobot([&](Robot& robot) {
+            robot.Drag(from, to);
+            robot.Settle();
+        });
+        PumpFor(200);
+        const std::string typed = Typed();
+        PressKey("Escape");
+        return typed;
+    };
+    EXPECT_EQ("BCA", dragFirstToEnd("ABC"));
+    EXPECT_EQ("~BC", dragFirstToEnd("~BC"));
+}
+
+TEST_F(MousePaste, InsertedBehindTheToolkitsBackPassesTheSameRules) {
+    UseRow(5);
+    Install(5, DESC, new ZelkDescriptionEditor(9, 0));
+    OpenEmpty(5, DESC);
+    TypeText("ab");
+    Control()->WriteText("~");
+    EXPECT_EQ("AB", Typed());
+    Control()->WriteText("c");
+    EXPECT_EQ("ABC", Typed());
+    PressKey("Escape");
+}

@@ -1,0 +1,70 @@
+// A person who works on pages of both P25 generations without a plan, with an eye on their zones.
+#pragma once
+
+#include "tests/editing/CommandTest.h"
+#include "tests/editing/HardWork.h"
+#include "tests/support/robot/TempFolder.h"
+
+#include <array>
+#include <deque>
+#include <map>
+#include <string>
+#include <vector>
+
+/// Makes, deletes, visits, checks, opens, fills, clears, sends and reads pages, and sees after each step that
+/// counters, cells and records tell the same zones.
+class ZoneWork : public CommandTest {
+protected:
+    void SetUp() override;
+
+    /// Does so many steps. Stops at the first that goes wrong, with what led to it.
+    void Work(uint32_t seed, int steps);
+
+private:
+    struct Kind {
+        const char* name;
+        int weight;
+        void (ZoneWork::*run)();
+    };
+    static const std::vector<Kind>& Kinds();
+    const Kind& PickKind();
+    void Step();
+    void Note(const std::string& text);
+    std::string Recent() const;
+
+    // What a step can be.
+    void MakePage();
+    void DeletePage();
+    void VisitPage();
+    void CheckThePage();
+    void OpenFile();
+    void ImportList();
+    void FillRows();
+    void TypeIntoRow();
+    void ChooseZone();
+    void ClearRow();
+    void SendPage();
+    void ReadBack();
+
+    // What must hold.
+    static Texts ZonesOf(int page);
+    void ExpectCountersTellTheRows(int page) const;
+    void ExpectRecordsTellTheCells(int row) const;
+
+    int PickRow();
+    int PickBlankRow();
+    std::string PickZone(int type);
+    std::string FileText(int type);
+    void ForgetZone1OfTheNextPage();
+
+    Dice m_dice{0};
+    uint32_t m_seed = 0;
+    int m_step = 0;
+    std::deque<std::string> m_recent;
+    std::map<std::string, int> m_done;
+    /// Pages whose counter of zone 1 was cleared with the counters of the page before: the reach of one
+    /// counter into the next page is meant. They count right again after a check.
+    std::array<bool, PageLimit + 1> m_lostZone1{};
+    mutable int m_countersCompared = 0, m_recordsCompared = 0, m_lettersCompared = 0;
+    testbench::TempFolder m_folder{"zelk-zones"};
+};

@@ -1,0 +1,172 @@
+// A simulated digital radio within the test's own process, on a port that the program opens.
+#pragma once
+
+#include "simulator/DigitalRadio.h"
+#include "simulator/PseudoTerminal.h"
+
+#include <atomic>
+#include <functional>
+#include <mutex>
+#include <poll.h>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <utility>
+
+namespace transfertest {
+
+/// Lives without pacing and without pauses, so that thousands of transfers take minutes. All members may be
+/// called from the test's thread.
+class BenchRadio : private Simulator::RadioLink {
+public:
+    BenchRadio(const char* model, const std::string& stamp)
+        : m_radio(*Simulator::FindDigitalModel(model, ""), Habits(model, stamp), {}, *this),
+          m_thread([this] { Run(); }) {}
+    ~BenchRadio() override {
+        m_ends = true;
+        m_thread.join();
+    }
+
+    const std::string& PortName() const { return m_port.DeviceName(); }
+
+    Simulator::DigitalMemoryList Memories() const {
+        const std::lock_guard lock(m_mutex);
+        return m_radio.Memories();
+    }
+    std::string Stamp() const {
+        const std::lock_guard lock(m_mutex);
+        return m_radio.Stamp();
+    }
+    int Violations() const {
+        const std::lock_guard lock(m_mutex);
+        return m_radio.Violations();
+    }
+    /// How often it was purged so far.
+    int Purges() const {
+        const std::lock_guard lock(m_mutex);
+        return m_purges;
+    }
+    /// What it has refused, one complaint a line.
+    std::string Complaints() const {
+        const std::lock_guard lock(m_mutex);
+        return m_complaints;
+    }
+
+    /// What the radio does at a memory record of the next transfer, counted from 1, instead of taking it.
+    enum class Trouble { None, End, Silence };
+    /// @param whenSilent is called from the radio's thread when it falls silent
+    void Expect(Trouble trouble, int record, std::function<void()> whenSilent = {}) {
+        const std::lock_guard lock(m_mutex);
+        m_trouble = trouble;
+        m_troubleAt = record;
+        m_whenSilent = std::move(whenSilent);
+    }
+
+    /// The program has closed the port: takes what it said last, and is ready for the next transfer.
+    void EndVisit() {
+        const std::lock_guard lock(m_mutex);
+        m_port.TakeVisits();
+        HearAll();
+        m_radio.PortClosed();
+        m_port.Flush();
+        m_trouble = Trouble::None;
+        m_silent = false;
+    }
+
+    /// Another stamp, as if a program had read the radio at another time.
+    void SetStamp(const std::string& stamp) {
+        const std::lock_guard lock(m_mutex);
+        m_mute = true;
+        for (const std::string& body : {std::string("T007000020030000"), "T20B000021" + stamp})
+            Tell(Simulator::WithChecksum(body) + "\r");
+        Tell(Simulator::WithChecksum("T9030000") + "\r");
+        m_mute = false;
+    }
+
+private:
+    static Simulator::DigitalHabits Habits(const char* model, const std::string& stamp) {
+        const Simulator::DigitalModel* found = Simulator::FindDigitalModel(model, "");
+        if (!found)
+            throw std::runtime_error("no such model");
+        Simulator::DigitalHabits habits;
+        habits.protocol = found->protocol;
+        habits.firmware = found->firmware;
+        habits.stamp = stamp;
+        return habits;
+    }
+
+    void Run() {
+        constexpr int patience = 20; // ms
+        while (!m_ends) {
+            pollfd watched[] = {{IsOpen() ? m_port.Descriptor() : -1, POLLIN, 0},
+                                {m_port.WatchDescriptor(), POLLIN, 0}};
+            poll(watched, std::size(watched), patience);
+            const std::lock_guard lock(m_mutex);
+            m_port.TakeVisits();
+            if (m_port.IsOpen())
+                HearAll();
+        }
+    }
+    bool IsOpen() const {
+        const std::lock_guard lock(m_mutex);
+        return m_port.IsOpen();
+    }
+
+    void HearAll() {
+        for (std::string bytes = m_port.Read(4096); !bytes.empty(); bytes = m_port.Read(4096))
+            Tell(bytes);
+    }
+    void Tell(const std::string& bytes) {
+        m_radio.LineSpeed(m_port.Speed());
+        for (const char byte : bytes)
+            if (!m_silent)
+                m_radio.Hear(static_cast<std::uint8_t>(byte));
+    }
+
+    void Say(std::string_view bytes) {
+        while (!bytes.empty() && !m_mute && !m_silent)
+            bytes.remove_prefix(m_port.Write(bytes));
+    }
+
+    // The cable, as the radio sees it.
+    void BeginTransfer() override { m_answer = 1; }
+    void BeginAnswers() override { m_answer = 1; }
+    int NextAnswer() const override { return m_answer; }
+    bool Plays(Simulator::FaultKind kind, int answer) override {
+        // A radio asks for this one first, before it keeps a record.
+        if (kind != Simulator::FaultKind::End || m_trouble == Trouble::None || answer != m_troubleAt)
+            return false;
+        if (m_trouble == Trouble::Silence && !m_silent) {
+            m_silent = true;
+            if (m_whenSilent)
+                m_whenSilent();
+        }
+        return true;
+    }
+    void Answer(std::string_view bytes, Simulator::AnswerKind) override {
+        ++m_answer;
+        Say(bytes);
+    }
+    void Print(std::string_view bytes) override { Say(bytes); }
+    void WaitForKey(std::chrono::milliseconds) override {}
+    void EndTransfer() override {}
+    void EndTransferWhenSent() override {}
+    bool IsSending() const override { return false; }
+    void Note(std::string_view text) override { m_purges += text == "< T204000011EA"; }
+    void Complain(std::string_view text) override { m_complaints += std::string(text) + "\n"; }
+
+    mutable std::mutex m_mutex; ///< of all below
+    Simulator::PseudoTerminal m_port;
+    Simulator::DigitalRadio m_radio;
+    int m_answer = 1, m_purges = 0;
+    std::string m_complaints;
+    bool m_mute = false, m_silent = false;
+    Trouble m_trouble = Trouble::None;
+    int m_troubleAt = 0;
+    std::function<void()> m_whenSilent;
+    std::atomic<bool> m_ends = false;
+    std::thread m_thread; ///< last: it uses the others
+};
+
+} // namespace transfertest

@@ -1,0 +1,176 @@
+// The project's pages name files, folders, commands and tests: they must be there.
+#include "tests/docs/Markdown.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+using namespace docstest;
+namespace fs = std::filesystem;
+
+namespace {
+
+const fs::path Tree = ZELK_SOURCE_DIR;
+
+bool IsBuilt(const fs::path& folder) {
+    const std::string name = folder.filename().string();
+    return name.starts_with("build") || name == ".git";
+}
+
+/// Paths of all files below the rooms, each also by its ends: "a/b/C.h", "b/C.h" and "C.h".
+std::set<std::string> FileNames() {
+    std::set<std::string> names;
+    for (const auto& room : fs::directory_iterator(Tree)) {
+        if (!room.is_directory() || IsBuilt(room.path()))
+            continue;
+        for (const auto& file : fs::recursive_directory_iterator(room.path())) {
+            fs::path end;
+            for (fs::path whole = fs::relative(file.path(), Tree); !whole.empty();
+                 whole = whole.parent_path()) {
+                end = end.empty() ? whole.filename() : whole.filename() / end;
+                names.insert(end.string());
+            }
+        }
+    }
+    return names;
+}
+
+/// "Suite.Name" of every test below tests/.
+std::set<std::string> TestNames() {
+    std::set<std::string> names;
+    for (const auto& entry : fs::recursive_directory_iterator(Tree / "tests")) {
+        if (entry.path().extension() != ".cpp")
+            continue;
+        std::ifstream file(entry.path());
+        for (std::string line; std::getline(file, line);) {
+            const auto open = line.find('('), comma = line.find(", "), close = line.find(')');
+            if (line.starts_with("TEST") && open < comma && comma < close && close != line.npos)
+                names.insert(line.substr(open + 1, comma - open - 1) + '.' +
+                             line.substr(comma + 2, close - comma - 2));
+        }
+    }
+    return names;
+}
+
+bool IsSource(const std::string& text) {
+    const fs::path extension = fs::path(text).extension();
+    return text.find(' ') == text.npos && (extension == ".cpp" || extension == ".h");
+}
+
+bool IsWord(const std::string& text) {
+    return !text.empty() &&
+           std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isalnum(c) || c == '_'; });
+}
+
+/// Whether the text has the form "Suite.Name", both with a capital.
+bool IsTestName(const std::string& text) {
+    const auto point = text.find('.');
+    return point != text.npos && IsWord(text.substr(0, point)) && IsWord(text.substr(point + 1)) &&
+           std::isupper(static_cast<unsigned char>(text[0])) &&
+           std::isupper(static_cast<unsigned char>(text[point + 1]));
+}
+
+/// The words of a text that are paths of the tree by their form: with a separator, not from the root, and
+/// not of a build.
+std::vector<std::string> Paths(const std::string& text) {
+    std::vector<std::string> paths;
+    std::istringstream in(text);
+    for (std::string word; in >> word;) {
+        if (word.starts_with("./"))
+            word.erase(0, 2);
+        else if (word.find('/') == word.npos)
+            continue;
+        const bool plain = std::all_of(word.begin(), word.end(), [](unsigned char c) {
+            return std::isalnum(c) || c == '_' || c == '-' || c == '.' || c == '/';
+        });
+        if (plain && std::isalnum(static_cast<unsigned char>(word[0])) && !word.starts_with("build/"))
+            paths.push_back(word);
+    }
+    return paths;
+}
+
+bool IsThere(const std::string& path, const Page& page) {
+    return fs::exists(Tree / path) || fs::exists(Tree / page.path.parent_path() / path);
+}
+
+} // namespace
+
+TEST(MarkdownPages, AreFound) {
+    std::set<std::string> names;
+    for (const Page& page : PagesOf(Tree)) {
+        names.insert(page.path.lexically_normal().string());
+        EXPECT_FALSE(page.text.empty()) << page.path;
+    }
+    for (const char* name : {"README.md", "CONTRIBUTING.md", "CHANGELOG.md", "docs/DEVELOPING.md",
+                             "docs/decisions.md", "docs/zelk-radio.md", "docs/guide/README.md"})
+        EXPECT_TRUE(names.count(name)) << name;
+}
+
+TEST(MarkdownPages, NameSourcesThatExist) {
+    const std::set<std::string> files = FileNames();
+    size_t named = 0;
+    for (const Page& page : PagesOf(Tree))
+        for (const std::string& text : QuotedTexts(page.text)) {
+            if (!IsSource(text))
+                continue;
+            ++named;
+            EXPECT_TRUE(files.count(text)) << page.path << ": " << text;
+        }
+    EXPECT_GT(named, 60u);
+}
+
+TEST(MarkdownPages, NameFoldersAndCommandsThatExist) {
+    const std::set<std::string> files = FileNames();
+    size_t named = 0;
+    for (const Page& page : PagesOf(Tree)) {
+        std::vector<std::string> texts = QuotedTexts(page.text);
+        const std::vector<std::string> blocks = BlockLines(page.text);
+        texts.insert(texts.end(), blocks.begin(), blocks.end());
+        for (const std::string& text : texts)
+            for (const std::string& path : Paths(text)) {
+                ++named;
+                EXPECT_TRUE(IsThere(path, page) || files.count(path)) << page.path << ": " << path;
+            }
+    }
+    EXPECT_GT(named, 60u);
+}
+
+TEST(MarkdownPages, LinkToFilesThatExist) {
+    size_t links = 0;
+    for (const Page& page : PagesOf(Tree))
+        for (const std::string& target : LinkTargets(page.text)) {
+            ++links;
+            EXPECT_TRUE(fs::exists(Tree / page.path.parent_path() / target)) << page.path << ": " << target;
+        }
+    EXPECT_GT(links, 10u);
+}
+
+TEST(MarkdownPages, NameTestsThatExist) {
+    const std::set<std::string> tests = TestNames();
+    EXPECT_GT(tests.size(), 2000u);
+    size_t named = 0;
+    for (const Page& page : PagesOf(Tree))
+        for (const std::string& text : QuotedTexts(page.text)) {
+            if (!IsTestName(text))
+                continue;
+            ++named;
+            EXPECT_TRUE(tests.count(text)) << page.path << ": " << text;
+        }
+    EXPECT_GT(named, 100u);
+}
+
+TEST(Decisions, EndWithTheTestsThatShowThemOrSayThatThereIsNone) {
+    const std::vector<Bullet> bullets = Bullets(PageAt(Tree, "docs/decisions.md").text);
+    EXPECT_GT(bullets.size(), 80u);
+    for (const Bullet& bullet : bullets) {
+        const auto shown = std::max(bullet.text.rfind(" Test: `") + 1, bullet.text.rfind(" Tests: `") + 1);
+        EXPECT_TRUE(shown > 0 || bullet.text.ends_with(" No test.")) << bullet.heading << ": " << bullet.text;
+    }
+}

@@ -1,0 +1,146 @@
+// The table of rooms on the developer's page against the tree and its #include lines.
+#include "tests/docs/Markdown.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+using namespace docstest;
+namespace fs = std::filesystem;
+
+namespace {
+
+const fs::path Tree = ZELK_SOURCE_DIR;
+/// In place of a list: such a room may include any other one.
+const std::string Everything = "everything";
+
+/// "`a, b`" as {"a", "b"}; of a cell without backticks nothing.
+std::set<std::string> ListIn(const std::string& cell) {
+    std::set<std::string> items;
+    for (const std::string& quoted : QuotedTexts(cell)) {
+        std::istringstream in(quoted);
+        for (std::string item; in >> item;)
+            items.insert(item.substr(0, item.find(',')));
+    }
+    return items;
+}
+
+struct Include {
+    std::string file;   ///< path of the file that includes
+    std::string header; ///< path of the included one
+};
+
+std::vector<Include> IncludesOf(const fs::path& file) {
+    std::vector<Include> includes;
+    const std::string open = "#include \"";
+    std::ifstream in(file);
+    for (std::string line; std::getline(in, line);)
+        if (line.starts_with(open))
+            includes.push_back(
+                {fs::relative(file, Tree).string(), line.substr(open.size(), line.rfind('"') - open.size())});
+    return includes;
+}
+
+class Rooms : public testing::Test {
+protected:
+    Rooms() {
+        const std::string page = PageAt(Tree, "docs/DEVELOPING.md").text;
+        for (const auto& row : TableBelow(page, "Rooms"))
+            if (row.size() == 3)
+                for (const std::string& folder : ListIn(row[0]))
+                    m_rooms[folder.substr(0, folder.rfind('/'))] =
+                        row[2] == Everything ? std::set{Everything} : ListIn(row[2]);
+        for (const auto& row : TableBelow(page, "Exceptions"))
+            if (row.size() == 3)
+                m_exceptions.push_back({ListIn(row[0]), ListIn(row[1])});
+    }
+
+    struct Exception {
+        std::set<std::string> who;     ///< rooms or files
+        std::set<std::string> headers; ///< that these may include
+    };
+
+    /// The room that a path is in: the longest of the table that the path begins with. Empty for none.
+    std::string RoomOf(const std::string& path) const {
+        std::string room;
+        for (const auto& [name, allowed] : m_rooms)
+            if (path.starts_with(name + '/') && name.size() > room.size())
+                room = name;
+        return room;
+    }
+
+    std::vector<Include> AllIncludes() const {
+        std::vector<Include> includes;
+        for (const auto& [name, allowed] : m_rooms)
+            for (const auto& entry : fs::recursive_directory_iterator(Tree / name)) {
+                const fs::path& file = entry.path();
+                const bool source = file.extension() == ".cpp" || file.extension() == ".h";
+                if (!source || RoomOf(fs::relative(file, Tree).string()) != name)
+                    continue;
+                const std::vector<Include> more = IncludesOf(file);
+                includes.insert(includes.end(), more.begin(), more.end());
+            }
+        return includes;
+    }
+
+    bool RoomAllows(const Include& include) const {
+        const std::string from = RoomOf(include.file), to = RoomOf(include.header);
+        const std::set<std::string>& allowed = m_rooms.at(from);
+        return from == to || allowed.count(to) || allowed.count(Everything);
+    }
+
+    bool Covers(const Exception& exception, const Include& include) const {
+        return exception.headers.count(include.header) &&
+               (exception.who.count(include.file) || exception.who.count(RoomOf(include.file)));
+    }
+
+    std::map<std::string, std::set<std::string>> m_rooms; ///< the rooms that each may include
+    std::vector<Exception> m_exceptions;
+};
+
+} // namespace
+
+TEST_F(Rooms, AreAllFoldersOfTheTree) {
+    EXPECT_GT(m_rooms.size(), 15u);
+    for (const auto& [name, allowed] : m_rooms) {
+        EXPECT_TRUE(fs::is_directory(Tree / name)) << name;
+        for (const std::string& other : allowed)
+            EXPECT_TRUE(other == Everything || m_rooms.count(other)) << name << " may include " << other;
+    }
+    for (const auto& entry : fs::directory_iterator(Tree)) {
+        const std::string name = entry.path().filename().string();
+        const bool room = entry.is_directory() && !name.starts_with(".") && !name.starts_with("build");
+        EXPECT_TRUE(!room || m_rooms.count(name)) << name << " has no row";
+    }
+}
+
+TEST_F(Rooms, IncludeOnlyWhatTheTableAllows) {
+    const std::vector<Include> includes = AllIncludes();
+    EXPECT_GT(includes.size(), 800u);
+    for (const Include& include : includes) {
+        const bool excepted = std::any_of(m_exceptions.begin(), m_exceptions.end(),
+                                          [&](const Exception& e) { return Covers(e, include); });
+        EXPECT_TRUE(RoomAllows(include) || excepted) << include.file << " includes " << include.header;
+    }
+}
+
+TEST_F(Rooms, HaveNoExceptionThatNoFileNeeds) {
+    const std::vector<Include> includes = AllIncludes();
+    EXPECT_FALSE(m_exceptions.empty());
+    for (const Exception& exception : m_exceptions)
+        for (const std::string& who : exception.who)
+            for (const std::string& header : exception.headers) {
+                const Exception one{{who}, {header}};
+                EXPECT_TRUE(std::any_of(
+                    includes.begin(), includes.end(),
+                    [&](const Include& include) { return Covers(one, include) && !RoomAllows(include); }))
+                    << who << " doesn't include " << header;
+            }
+}

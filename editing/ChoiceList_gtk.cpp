@@ -100,9 +100,11 @@ bool TakeKey(const OpenList& list, const GdkEventKey& key) {
         return false;
     }
     const std::optional<wxUniChar> character = TypedBy(key, *list.listener);
-    if (character)
-        list.Highlight(list.listener->TypeInList(*character));
-    return character.has_value();
+    if (!character)
+        // A blank that isn't typed is another Enter.
+        return key.keyval == GDK_KEY_space && End(list, false);
+    list.Highlight(list.listener->TypeInList(*character));
+    return true;
 }
 
 extern "C" {

@@ -29,6 +29,9 @@ public:
     wxGridCellEditor* Clone() const override { return new ListChoiceEditor(*this); }
 
 protected:
+    /// Takes the control down first, which may speak to this editor to its end.
+    ~ListChoiceEditor() override { Destroy(); }
+
     /// Whether the edit that ends brought a choice.
     bool IsChosen() const { return m_isChosen && !m_isGivenUp; }
 

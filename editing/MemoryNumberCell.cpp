@@ -21,8 +21,7 @@ bool ZelkMemoryNumberEditor::EndEdit(int row, int col, const wxGrid* grid, const
     const int number = Spin()->GetValue();
     if (number >= m_min && number <= m_max)
         return wxGridCellNumberEditor::EndEdit(row, col, grid, oldval, newval);
-    wxMessageBox(wxString::Format("Memory number must be from %d to %d.", m_min, m_max), "Error",
-                 wxOK | wxCENTRE);
+    wxMessageBox(wxString::Format("Memory number must be from 0 to %d.", m_max), "Error", wxOK | wxCENTRE);
     return false;
 }
 

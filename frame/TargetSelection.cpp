@@ -146,9 +146,10 @@ wxString Joined(const wxString& first, const wxString& second, const wxString& b
 void TellTargetChange(int lost, const ReplacedCells& replaced) {
     wxString verdict, story;
     if (lost > 0) {
-        const char* rows = lost == 1 ? "row" : "rows";
-        verdict.Printf("%d %s LOST", lost, rows);
-        story.Printf("%d %s found no place in the smaller page", lost, rows);
+        verdict.Printf(lost == 1 ? "%d row LOST" : "%d rows LOST", lost);
+        story.Printf(lost == 1 ? "%d row found no place in the smaller page"
+                               : "%d rows found no place in the smaller page",
+                     lost);
     }
     TellOutcome(Joined(verdict, replaced.Text(), ", "), Joined(story, replaced.Story(), "; "));
 }

@@ -38,12 +38,12 @@ bool UserAcceptsModes(const TRecordContext& context) {
 }
 
 bool UserAcceptsPurge(const TRecordDialogue& dialogue) {
-    const wxString reason = dialogue.Needs(OtherRadio)
-                                ? "This radio's memories were not read by this program.\n"
-                                : "This radio holds memories that this page doesn't.\n";
-    wxMessageDialog question(dialogue.context.Progress,
-                             reason + "All of them will be erased before the selected rows are sent!",
-                             "Purge radio?", wxOK | wxCANCEL);
+    const char* const text = dialogue.Needs(OtherRadio)
+                                 ? "This radio's memories were not read by this program.\n"
+                                   "All of them will be erased before the selected rows are sent!"
+                                 : "This radio holds memories that this page doesn't.\n"
+                                   "All of them will be erased before the selected rows are sent!";
+    wxMessageDialog question(dialogue.context.Progress, text, "Purge radio?", wxOK | wxCANCEL);
     return question.ShowModal() == wxID_OK;
 }
 

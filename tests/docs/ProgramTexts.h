@@ -36,6 +36,8 @@ inline const std::vector<ProgramText> ProgramTexts = {
      "\nDo you wish to continue the transfer?", true},
     {"Purge radio?", "This radio's memories were not read by this program.\n"
                      "All of them will be erased before the selected rows are sent!"},
+    {"Purge radio?", "This radio holds memories that this page doesn't.\n"
+                     "All of them will be erased before the selected rows are sent!"},
 
     // Pages and rows
     {"Validate Page", "Validate row data"},
@@ -81,6 +83,10 @@ inline const std::vector<ProgramText> ProgramTexts = {
     {"Import File", "Error: Unknown File Type."},
     {"", "No cell replaced"},
     {"", "No cell was replaced."},
+    {"", "%d row LOST"},
+    {"", "%d rows LOST"},
+    {"", "%d row found no place in the smaller page"},
+    {"", "%d rows found no place in the smaller page"},
     {"", "1 cell replaced, row %d"},
     {"", "%d cells replaced from row %d"},
     {"", "%d line skipped"},

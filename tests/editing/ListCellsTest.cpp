@@ -254,7 +254,7 @@ TEST_F(ListCells, PoppedUpAndLeftLeaveABlankRowBlank) {
         Become(cell);
         const int slots = AllSlots();
         // Some are left in every way.
-        static constexpr const char* keys[] = {"Escape", "Tab", "Return", "click"};
+        static constexpr const char* keys[] = {"Escape", "Tab", "Return", "space", "click"};
         for (const char* key : std::span(keys, cell.col == RTON || cell.col == ZONE ? std::size(keys) : 1)) {
             SCOPED_TRACE(key);
             PopUp(9, cell.col);

@@ -259,22 +259,22 @@ private:
     /// Every row with data is in the file, or the save tells that it isn't.
     void ExpectSaved() {
         wxXmlDocument document;
-        const int leftOut = BuildChannelFile(CurrentPage, document);
+        const std::vector<int> leftOut = BuildChannelFile(CurrentPage, document);
         std::set<long> saved;
         for (const wxXmlNode* node = document.GetRoot()->GetChildren(); node; node = node->GetNext()) {
             long row = 0;
             if (node->GetName() == "MEMORY" && node->GetAttribute("row").ToLong(&row) && row > 0)
                 saved.insert(row);
         }
-        int missing = 0;
+        std::vector<int> missing;
         for (int row : RowsWithData())
             if (!saved.contains(row)) {
-                ++missing;
+                missing.push_back(row);
                 EXPECT_TRUE(m_memories.contains(row) && m_memories[row].mayBeLost) << "row " << row;
             }
         EXPECT_EQ(leftOut, missing);
         m_kept += static_cast<int>(saved.size());
-        m_untold += missing;
+        m_untold += static_cast<int>(missing.size());
     }
 
     Dice m_dice{0};

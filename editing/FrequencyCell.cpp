@@ -30,7 +30,7 @@ int GetRowBand(const wxGrid* grid, int row) {
 }
 
 bool IsFilledByEdit(const wxGrid* grid, int row) {
-    return row > 0 && grid->GetCellValue(row, TFLG).empty();
+    return row > 0 && grid->GetCellValue(row, TFLG).empty() && grid->GetCellValue(row, BAND).empty();
 }
 
 int GetBandOfEdit(const wxGrid* grid, int row) {
@@ -68,6 +68,11 @@ bool FrequencyValidator::IsGoodInsertion(const wxString& left, const wxString& i
     // Meant: the "c" makes a paste that brings a point fail, and lets one of bare digits pass. What
     // is selected counts although the paste would replace it, and that is meant too.
     return !Control() || IsOkFreq(left + inserted + "c" + right, m_band, m_step);
+}
+
+bool FrequencyValidator::CouldBeTyped(const wxString& text) const {
+    return std::all_of(text.begin(), text.end(), [this](wxUniChar c) { return IsValidChar(c); }) &&
+           IsOkFreq(text, m_band, m_step);
 }
 
 FrequencyEditor::FrequencyEditor(int row, int band, int step)

@@ -8,7 +8,8 @@
 /// Band id (0 to 8) of the text in a row's BAND cell, 0 when the text is in no band.
 int GetRowBand(const wxGrid* grid, int row);
 
-/// True for a memory row that an edit first fills from the default row: its TFLG is empty.
+/// True for a memory row that an edit first fills from the default row: its TFLG is empty, and so is its
+/// BAND.
 bool IsFilledByEdit(const wxGrid* grid, int row);
 
 /// GetRowBand of the row as an edit in it finds it: of the default row where the edit fills it from there.
@@ -39,6 +40,7 @@ protected:
     bool IsGoodKey(wxUniChar character) const override;
     bool IsGoodInsertion(const wxString& left, const wxString& inserted,
                          const wxString& right) const override;
+    bool CouldBeTyped(const wxString& text) const override;
 
 private:
     int32_t m_band, m_step;

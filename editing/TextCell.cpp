@@ -115,7 +115,7 @@ bool TextCellValidator::MayFollow(const wxString& text) const {
         ++right;
     const wxString inserted = text.Mid(left, text.length() - left - right);
     return inserted.empty() || inserted == m_expected ||
-           MayInsert(m_text.Left(left), inserted, m_text.Mid(left));
+           MayInsert(m_text.Left(left), inserted, m_text.Mid(left)) || CouldBeTyped(text);
 }
 
 void TextCellValidator::OnText(wxCommandEvent& event) {

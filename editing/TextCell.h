@@ -41,6 +41,9 @@ protected:
     /// Whether inserted, all of whose characters are valid, may come between the two parts of the text.
     virtual bool IsGoodInsertion(const wxString& left, const wxString& inserted, const wxString& right) const;
 
+    /// Whether a whole text, however it came, could have been typed key by key.
+    virtual bool CouldBeTyped(const wxString&) const { return false; }
+
     /// Whether the control's text is made upper case.
     virtual bool WritesUpperCase() const { return false; }
 
@@ -53,7 +56,8 @@ protected:
 
 private:
     bool MayInsert(const wxString& left, const wxString& inserted, const wxString& right) const;
-    /// Whether text can follow m_text: by the user's key or paste, or by a good insertion.
+    /// Whether text can follow m_text: by the user's key or paste, or by an insertion that could have been
+    /// either.
     bool MayFollow(const wxString& text) const;
     void MakeUpperCase();
 

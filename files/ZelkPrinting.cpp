@@ -232,7 +232,7 @@ void ZelkFrame::OnPrint(wxCommandEvent&) {
     // The log is off in the program: who printed reads the status bar.
     if (!outcome.empty())
         wxLogMessage("%s", outcome);
-    TellOutcome(outcome);
+    TellOutcome(outcome.empty() ? wxString() : wxString("There was a problem printing."), outcome);
 }
 
 // Meant: nothing asks whether the preview is usable.

@@ -106,6 +106,7 @@ inline const std::vector<ProgramText> ProgramTexts = {
     {"", "Import file"},
     {"", "Export CSV file"},
     {"", "Print Preview"},
+    {"", "There was a problem printing."},
     {"", "There was a problem printing. Perhaps your current printer is not set correctly?"},
 
     // Transfers

@@ -231,8 +231,8 @@ TEST_F(BandCells, KeepFrequenciesThatLieInTheChosenBand) {
     SetCell(5, TFRQ, "231.0000");
     Choose(5, BAND, "AM 225-400");
     EXPECT_EQ((Texts{"AM 225-400", "230.0000", "231.0000"}), TextsOf(5, {BAND, RFRQ, TFRQ}));
-    EXPECT_EQ("N", Text(5, MODE)) << "nothing else changes then";
-    EXPECT_EQ(Texts{}, LocksOf(5));
+    EXPECT_EQ("n/a", Text(5, MODE)) << "the row shows the band, and has no mode there";
+    EXPECT_EQ((Texts{"MODE", "RCOD", "TCOD"}), LocksOf(5));
 }
 
 TEST_F(BandCells, OfABlankRowFillItFirst) {

@@ -509,8 +509,12 @@ void HardWork::EditCell(int row, int col) {
         editor->Reset();
     } else if (col == MNUM) {
         const auto* spin = dynamic_cast<wxSpinCtrl*>(editor->GetControl());
-        const wxString typed = wxString::Format("%d", spin ? spin->GetValue() : 0);
-        if (ReadDecimal(typed) != ReadDecimal(grid->GetCellValue(row, col)))
+        const int number = spin ? spin->GetValue() : 0;
+        const int rows = CurrentParameters().Rows;
+        const wxString typed = wxString::Format("%d", number);
+        if (number < 0 || number > rows)
+            dialogs.ExpectMessage("Error", "Memory number must be from 0 to " + std::to_string(rows) + ".");
+        else if (ReadDecimal(typed) != ReadDecimal(grid->GetCellValue(row, col)))
             ExpectNumberBox(dialogs, OtherRowWith(row, typed));
     } else if (m_dice.Chance(15) && !grid->GetCellValue(row, TFLG).empty()) {
         Note("left open");

@@ -73,8 +73,11 @@ TEST_F(MousePaste, OfAFrequencyIsThatOfTheKeyboard) {
     Install(5, RFRQ, new FrequencyEditor(5, 5, 2500));
     EXPECT_EQ("155", After(RFRQ, "", "155"));
     EXPECT_EQ("155", After(RFRQ, "1", "55"));
-    EXPECT_EQ("", After(RFRQ, "", "155.2"));
-    EXPECT_EQ("155.", After(RFRQ, "155.", "2"));
+    EXPECT_EQ("155.2", After(RFRQ, "", "155.2")) << "keys could have typed it";
+    EXPECT_EQ("155.2", After(RFRQ, "155.", "2"));
+    EXPECT_EQ("155.0", After(RFRQ, "155.0", "13")) << "off the channel step";
+    EXPECT_EQ("", After(RFRQ, "", "199.5")) << "out of band";
+    EXPECT_EQ("", After(RFRQ, "", "155.2c"));
     EXPECT_EQ("1", After(RFRQ, "1", "x"));
 }
 

@@ -412,7 +412,8 @@ TEST_F(PrintCommands, AFailureIsToldInTheLogAndTheStatusBar) {
         script.Expect(DialogKind::Print, AnyText()).Answer(answer);
         RunCommand(IdPrint);
         ASSERT_EQ(before + (told ? 1 : 0), log.lines.size()) << answer;
-        EXPECT_EQ(told ? PrintTrouble : "Select function", Status(0)) << answer;
+        EXPECT_EQ(told ? "There was a problem printing." : "Select function", Status(0)) << answer;
+        EXPECT_EQ(told ? PrintTrouble : "", MainFrame->m_statusBar->GetToolTipText().utf8_string()) << answer;
     }
     EXPECT_EQ(std::vector<std::string>{PrintTrouble}, log.lines);
 }
@@ -430,7 +431,7 @@ TEST_F(PrintCommands, WithoutRoomForTheSheetsPrintingFailsAndIsToldInTheLogAndTh
     fs::create_directory(Spool());
     EXPECT_EQ(wxPRINTER_ERROR, wxPrinter::GetLastError());
     EXPECT_EQ(std::vector<std::string>{PrintTrouble}, log.lines);
-    EXPECT_EQ(PrintTrouble, Status(0));
+    EXPECT_EQ("There was a problem printing.", Status(0));
     EXPECT_EQ(wxPORTRAIT, PrintData->GetOrientation());
     EXPECT_TRUE(before == LookOf(*CurrentGrid()));
     EXPECT_TRUE(MainFrame->IsEnabled());

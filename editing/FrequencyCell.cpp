@@ -30,7 +30,7 @@ int GetRowBand(const wxGrid* grid, int row) {
 }
 
 bool IsFilledByEdit(const wxGrid* grid, int row) {
-    return row > 0 && grid->GetCellValue(row, TFLG).empty() && grid->GetCellValue(row, BAND).empty();
+    return row > 0 && grid->GetCellValue(row, TFLG).empty();
 }
 
 int GetBandOfEdit(const wxGrid* grid, int row) {

@@ -8,8 +8,7 @@
 /// Band id (0 to 8) of the text in a row's BAND cell, 0 when the text is in no band.
 int GetRowBand(const wxGrid* grid, int row);
 
-/// True for a memory row that an edit first fills from the default row: its TFLG is empty, and so is its
-/// BAND.
+/// True for a memory row that an edit first fills from the default row: its TFLG is empty.
 bool IsFilledByEdit(const wxGrid* grid, int row);
 
 /// GetRowBand of the row as an edit in it finds it: of the default row where the edit fills it from there.

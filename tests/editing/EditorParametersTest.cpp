@@ -209,6 +209,9 @@ TEST_F(EditorParameters, AreThoseOfTheRadioInEveryCell) {
 
 TEST_F(EditorParameters, OfFrequenciesOfTheModuleAreThoseOfTheRowsBand) {
     Become(17, 5, 3);
+    // A row without transfer flags has the band of the default row.
+    for (int row : {3, 4, 5, 6})
+        SetCell(row, TFLG, "A0");
     SetCell(3, BAND, "FM 30-50");
     SetCell(4, BAND, "AM 108-138");
     SetCell(5, BAND, "AM 225-400");

@@ -433,9 +433,10 @@ void HardWork::CreateOneShadow() {
         const bool digits = text.find_first_not_of("0123456789") == std::string::npos;
         if (!digits || !wxString(text).ToLong(&number) || number < 1 || number > rows)
             return refuse(outside);
-        const wxString padded = wxString::Format("%03ld", number);
+        if (RowHasData(static_cast<int>(number)))
+            return refuse("Selected memory is already in use.");
         for (int row = 0; row <= rows; ++row)
-            if (CurrentGrid()->GetCellValue(row, MNUM) == padded)
+            if (long held = 0; CurrentGrid()->GetCellValue(row, MNUM).ToLong(&held) && held == number)
                 return refuse("Selected memory is already in use.");
         ++m_done[CurrentPage]["OnCreateShadow: made"];
         NameRow(primary);

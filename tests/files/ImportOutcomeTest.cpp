@@ -48,7 +48,7 @@ TEST_F(ImportOutcome, CountsTheCellsThatChecksReplaced) {
 TEST_F(ImportOutcome, CountsCellsOfAMultiZELFileThatCanNotStand) {
     RetargetTo("O12");
     ImportFile(MultiZELFileOf({}));
-    ExpectTold("2 cells replaced from row 1", "XX");
+    ExpectTold("2 cells replaced from row 1", "2 cells were replaced: row 1 Freq; row 2 Freq");
     RetargetTo("ANFM");
     ImportFile(Joined({MultiZELLine("001", {{75, "W"}}), MultiZELLine("002", {{75, "W"}}),
                        MultiZELLine("003", {{14, "455.7525"}, {25, "455.7525"}, {75, "W"}}),

@@ -4,12 +4,14 @@
 
 wxIMPLEMENT_DYNAMIC_CLASS(ZelkDescriptionValidator, wxValidator);
 
-wxBEGIN_EVENT_TABLE(ZelkDescriptionValidator, wxValidator) EVT_CHAR(ZelkDescriptionValidator::OnChar)
-    EVT_TEXT_PASTE(wxID_ANY, ZelkDescriptionValidator::OnPaste)
-        EVT_TEXT(wxID_ANY, ZelkDescriptionValidator::OnText)
-            EVT_TEXT_MAXLEN(wxID_ANY, ZelkDescriptionValidator::OnTooLong) wxEND_EVENT_TABLE()
+wxBEGIN_EVENT_TABLE(ZelkDescriptionValidator, wxValidator)
+EVT_CHAR(ZelkDescriptionValidator::OnChar)
+EVT_TEXT_PASTE(wxID_ANY, ZelkDescriptionValidator::OnPaste)
+EVT_TEXT(wxID_ANY, ZelkDescriptionValidator::OnText)
+EVT_TEXT_MAXLEN(wxID_ANY, ZelkDescriptionValidator::OnTooLong)
+wxEND_EVENT_TABLE()
 
-                bool ZelkDescriptionValidator::IsValidChar(wxUniChar character) const {
+bool ZelkDescriptionValidator::IsValidChar(wxUniChar character) const {
     const auto code = character.GetValue();
     if (m_mode == 5 && code >= 32 && code <= 126)
         return true;

@@ -7,12 +7,14 @@
 
 wxIMPLEMENT_DYNAMIC_CLASS(DigitalSquelchValidator, wxValidator);
 
-wxBEGIN_EVENT_TABLE(DigitalSquelchValidator, wxValidator) EVT_CHAR(DigitalSquelchValidator::OnChar)
-    EVT_TEXT_PASTE(wxID_ANY, DigitalSquelchValidator::OnPaste)
-        EVT_TEXT(wxID_ANY, DigitalSquelchValidator::OnText)
-            EVT_TEXT_MAXLEN(wxID_ANY, DigitalSquelchValidator::OnTooLong) wxEND_EVENT_TABLE()
+wxBEGIN_EVENT_TABLE(DigitalSquelchValidator, wxValidator)
+EVT_CHAR(DigitalSquelchValidator::OnChar)
+EVT_TEXT_PASTE(wxID_ANY, DigitalSquelchValidator::OnPaste)
+EVT_TEXT(wxID_ANY, DigitalSquelchValidator::OnText)
+EVT_TEXT_MAXLEN(wxID_ANY, DigitalSquelchValidator::OnTooLong)
+wxEND_EVENT_TABLE()
 
-                bool DigitalSquelchValidator::TransferToWindow() {
+bool DigitalSquelchValidator::TransferToWindow() {
     if (!m_value)
         return true;
     wxTextCtrl* control = Control();

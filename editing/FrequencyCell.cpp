@@ -11,17 +11,20 @@
 
 wxIMPLEMENT_DYNAMIC_CLASS(FrequencyValidator, wxValidator);
 
-wxBEGIN_EVENT_TABLE(FrequencyValidator, wxValidator) EVT_CHAR(FrequencyValidator::OnChar)
-    EVT_TEXT_PASTE(wxID_ANY, FrequencyValidator::OnPaste) EVT_TEXT(wxID_ANY, FrequencyValidator::OnText)
-        EVT_TEXT_MAXLEN(wxID_ANY, FrequencyValidator::OnTooLong) wxEND_EVENT_TABLE()
+wxBEGIN_EVENT_TABLE(FrequencyValidator, wxValidator)
+EVT_CHAR(FrequencyValidator::OnChar)
+EVT_TEXT_PASTE(wxID_ANY, FrequencyValidator::OnPaste)
+EVT_TEXT(wxID_ANY, FrequencyValidator::OnText)
+EVT_TEXT_MAXLEN(wxID_ANY, FrequencyValidator::OnTooLong)
+wxEND_EVENT_TABLE()
 
-            namespace {
+namespace {
 
-    /// Writes a cell and takes the paint of a repair off it.
-    void WriteClean(wxGrid * grid, int row, int col, const wxString& text) {
-        grid->SetCellValue(row, col, text);
-        grid->SetCellBackgroundColour(row, col, grid->GetCellBackgroundColour(0, 0));
-    }
+/// Writes a cell and takes the paint of a repair off it.
+void WriteClean(wxGrid* grid, int row, int col, const wxString& text) {
+    grid->SetCellValue(row, col, text);
+    grid->SetCellBackgroundColour(row, col, grid->GetCellBackgroundColour(0, 0));
+}
 
 } // namespace
 

@@ -15,9 +15,9 @@ public:
     ReplacedCells(const ReplacedCells&) = delete;
     ReplacedCells& operator=(const ReplacedCells&) = delete;
 
-    /// For checks: the text of a cell was replaced by one that its user did not give. Another form of the same
-    /// value (case, leading zeros) is no such text. Without effect for columns that the page doesn't show, and
-    /// while no ReplacedCells lives.
+    /// For checks: the text of a cell was replaced by one that its user did not give. Another form of the
+    /// same value (case, leading zeros) is no such text. Without effect for columns that the page doesn't
+    /// show, and while no ReplacedCells lives.
     static void Note(int row, int column);
 
     /// How many cells were replaced; one that was replaced again counts once.

@@ -231,7 +231,7 @@ bool PurgeMayCostMemories(const TRecordDialogue& dialogue) {
     if (HeldByRadio.stamp != RadioStamp || !PurgeIsNeeded(dialogue))
         return false;
     return HeldByRadio.readBrokeOff || !std::all_of(HeldByRadio.rows.begin(), HeldByRadio.rows.end(),
-                                                     [&](int row) { return SurvivesPurge(dialogue, row); });
+                                                    [&](int row) { return SurvivesPurge(dialogue, row); });
 }
 
 void KeepContentOfRead(const TRecordDialogue& dialogue) {

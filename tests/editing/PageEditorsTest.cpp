@@ -35,8 +35,7 @@ const std::vector<Look> Tones = {{12, "ZelkChoiceEditor", Plain, true},
 /// Tones of AM pages.
 const std::vector<Look> NoTones = {{12, TextEditor, Plain, true}, {18, TextEditor, Plain, true}};
 const std::vector<Look> BandChoice = {{4, "MDLXBandChoiceEditor", Plain, true}};
-const std::vector<Look> YesNo = {{5, "ListChoiceEditor", Plain, true},
-                                 {30, "ListChoiceEditor", Plain, true}};
+const std::vector<Look> YesNo = {{5, "ListChoiceEditor", Plain, true}, {30, "ListChoiceEditor", Plain, true}};
 
 const std::vector<Look> P25Looks = {
     {1, "ZelkMemoryNumberEditor", "MemoryNumberRenderer", false},

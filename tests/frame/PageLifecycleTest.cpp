@@ -15,8 +15,8 @@ using namespace testbench;
 
 namespace {
 
-constexpr int Krv21 = 0, Orv12 = 2, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8,
-              Krv610 = 9, Kdrv4xxx = 17;
+constexpr int Krv21 = 0, Orv12 = 2, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8, Krv610 = 9,
+              Kdrv4xxx = 17;
 
 class Pages : public ZelkWindowTest {
 protected:

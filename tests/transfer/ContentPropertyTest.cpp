@@ -299,7 +299,8 @@ private:
         m_tally.purges += known.radio.Purges() - purges;
         const bool gotThatFar =
             ending.status != TransferNoDataSelected && ending.status != TransferInvalidTransmitData;
-        // The known radio may hold more than the page: ExpectNothingLostUnasked tells whether it is asked about.
+        // The known radio may hold more than the page: ExpectNothingLostUnasked tells whether it is asked
+        // about.
         const bool mayAsk = isKnown && ShadowIsSelected();
         if (mayAsk) {
             EXPECT_LE(ending.questions, 1);

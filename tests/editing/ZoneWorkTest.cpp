@@ -312,9 +312,11 @@ void ZoneWork::ImportList() {
     dialogs.ExpectMessage("Import File", "Imported 20 Lines from CSV file.");
     RunCommand(IdImport);
     ForgetZone1OfTheNextPage();
+    std::map<std::string, int> users;
     for (const auto& [row, zone] : zones)
-        if (std::count_if(zones.begin(), zones.end(),
-                          [&](const auto& other) { return other.second == zone; }) < 16) {
+        ++users[zone];
+    for (const auto& [row, zone] : zones)
+        if (users[zone] < 16) {
             EXPECT_EQ(zone, Cell(row, ZONE)) << row;
         }
 }

@@ -18,7 +18,7 @@ using namespace testbench;
 namespace {
 
 constexpr int Krv47 = 1, Orv12 = 2, Krv214 = 3, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8,
-              Krv610 = 9, Krv620 = 10, Krv630 = 11, Krv650 = 13, Kdrv8400 = 16, Kdrv4xxx = 17;
+              Krv610 = 9, Krv630 = 11, Krv650 = 13, Kdrv8400 = 16, Kdrv4xxx = 17;
 
 constexpr const char* question = "Change Target?";
 constexpr const char* warning = "If there is data on this page,\nthis may result in invalid configuration!";

@@ -141,8 +141,10 @@ namespace {
 void CheckScanLetter(wxGrid* grid, int row, const wxString& text) {
     const bool scanned = IsText(text, "1") || IsText(text, "Y") || IsText(text, "Yes");
     grid->SetCellValue(row, SCAN, Letter(scanned ? 'Y' : 'N'));
+    if (scanned || text.empty() || IsText(text, "N"))
+        return;
     const wxString upper = text.Upper();
-    if (!scanned && !text.empty() && upper != "0" && upper != "N" && upper != "NO")
+    if (!IsText(upper, "0") && !IsText(upper, "N") && !IsText(upper, "NO"))
         ReplacedCells::Note(row, SCAN);
 }
 
@@ -208,7 +210,7 @@ void CheckDesc(wxGrid* grid, int row, const wxString& text) {
     const wxString description = DescriptionText(text, CurrentParameters().Type);
     grid->SetCellValue(row, DESC, description);
     // Blanks at the end are not seen; case is the radio's.
-    if (description.Strip().CmpNoCase(text.Strip()) != 0)
+    if (description != text && description.Strip().CmpNoCase(text.Strip()) != 0)
         ReplacedCells::Note(row, DESC);
 }
 

@@ -57,7 +57,8 @@ void LinesOfRows::Take(int row, int line) {
 }
 
 void NoteIfReplaced(const wxGrid* grid, int row, int column, const wxString& given) {
-    if (!grid->GetCellValue(row, column).IsSameAs(given, false))
+    const wxString held = grid->GetCellValue(row, column);
+    if (held != given && !held.IsSameAs(given, false))
         ReplacedCells::Note(row, column);
 }
 

@@ -1,6 +1,8 @@
 // The lists of choices. The position in a list is what travels in radio records.
 #pragma once
 
+#include <iterator>
+
 namespace RadioCatalogue {
 
 /// CTCSS tones of analog pages. "OFF" stands at both ends: radios know it as position 64,
@@ -42,6 +44,10 @@ inline constexpr const char* ZoneNames32[] = {
     "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13", "14", "15", "16",
     "A", "C", "E", "F", "H", "I", "K", "L", "M", "N",  "P",  "T",  "U",  "V",  "W",  "X",
 };
+
+/// Zones of the guard rows, by position in the lists. Second generation radios never scan theirs.
+inline constexpr int RP25GuardZone = std::size(ZoneNames16) - 1;
+inline constexpr int NP25GuardZone = std::size(ZoneNames32) - 1;
 
 inline constexpr const char* ScanYesNo[] = {"Y", "N"};
 

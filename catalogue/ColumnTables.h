@@ -107,7 +107,7 @@ constexpr RowTexts AnalogRow(const AnalogDefault& d, const char* ronl = "") {
     row[TTON] = d.tton;
     row[TCOD] = d.tcod;
     row[RONL] = ronl;
-    row[TFLG] = "A0";
+    row[TFLG] = TflgMade;
     return row;
 }
 
@@ -128,8 +128,11 @@ constexpr RowTexts P25Row(const char* rnsv) {
     return row;
 }
 
+/// Rows of PageDefault that belong to KDRV-716B and KDAR-2000.
+inline constexpr int Kdrv716BDefaultRow = 9, Kdar2000DefaultRow = 10;
+
 // clang-format off
-/// Default rows. The row of a page is its band id; KDRV-716B uses row 9 and KDAR-2000 row 10.
+/// Default rows. The row of a page is its band id; two radios have a row of their own.
 inline constexpr RowTexts PageDefault[11] = {
     AnalogRow({"FM 30-50",   "0", "LOW    30", "W", "30.0000",  "OFF", "OFF", "50.0000",  "OFF", "OFF"}),
     AnalogRow({"FM 66-88",   "0", "LOW    66", "W", "66.0000",  "OFF", "OFF", "88.0000",  "OFF", "OFF"}),

@@ -1,6 +1,10 @@
 // The 32 text cells of a memory row and the flags kept in them.
 #pragma once
 
+#include <cstdint>
+
+class wxGrid;
+
 /// Column positions, the same on every page. A grid row of these cells is a memory.
 enum Column : int {
     MFLG, ///< memory flags of P25 rows, hexadecimal "%02X"; hidden
@@ -45,21 +49,61 @@ inline constexpr const char* ColumnTag[ColumnTotal] = {
     "TIDC", "SHD0", "SHD1", "SHD2", "SHD3", "SHD4", "SHD5", "SHD6", "RONL", "TFLG",
 };
 
-/// MFLG: the place of a shadow in its primary's list plus one (1 to 7), 0 on any other row.
-inline constexpr int ShadowIndexMask = 0x007;
-/// MFLG: the radio scans the memory; SCAN is what a page shows of it.
-inline constexpr int ScanFlag = 0x08;
-/// MFLG: the row is a primary with shadows.
-inline constexpr int ShadowLinkFlag = 0x010;
+// Bits of MFLG, the memory flags. Those without a name of their own come from a radio and go back to it.
 
-/// TFLG: the row holds a slot of ZoneSlots.
-inline constexpr int ZoneTakenFlag = 0x08;
-/// TFLG: the row is selected for sending.
+/// The place of a shadow in its primary's list plus one (1 to 7), 0 on any other row.
+inline constexpr int ShadowIndexMask = 0x007;
+/// The radio scans the memory; SCAN is what a page shows of it.
+inline constexpr int ScanFlag = 0x008;
+/// The row is a primary with shadows.
+inline constexpr int ShadowLinkFlag = 0x010;
+/// Any of these marks a row as linked, as a primary or as a shadow.
+inline constexpr int LinkFlags = ShadowIndexMask | ShadowLinkFlag;
+/// Two bits of the radio that shadows keep when they are linked anew.
+inline constexpr int RadioFlags = 0x060;
+/// The row is a guard row. Records and files of the 716 family have this bit. On a page the place of the row
+/// counts, not the bit.
+inline constexpr int GuardFlag = 0x080;
+/// Two more bits of the radio, which old records have in a byte of their own.
+inline constexpr int HighRadioFlags = 0x300;
+
+// Bits of TFLG, the transfer flags.
+
+/// The row is selected for sending.
 inline constexpr int SEL = 0x01;
-/// TFLG: the row is defined; rows without it are skipped by transfers.
+/// The row is to be erased in the radio; it counts more than SEL. In row 1 of a KDAR page it makes an
+/// exported list ask for a purge.
+inline constexpr int EraseFlag = 0x02;
+/// The radio is to be purged before the row is sent. Nothing in the program sets it.
+inline constexpr int MarkedFlag = 0x04;
+/// The row holds a slot of ZoneSlots.
+inline constexpr int ZoneTakenFlag = 0x08;
+/// The row was made in the program, not read from a radio.
+inline constexpr int MadeFlag = 0x20;
+/// The radio holds the row.
+inline constexpr int InRadioFlag = 0x40;
+/// The row is defined; rows without it are skipped by transfers.
 inline constexpr int DEF = 0x80;
 
-/// TFLG of a row made in the program.
+/// TFLG of a row made in the program: DEF and MadeFlag.
 inline constexpr const char* TflgMade = "A0";
-/// TFLG of a row read from a radio.
+/// TFLG of a row read from a radio: DEF and InRadioFlag.
 inline constexpr const char* TflgRead = "C0";
+
+/// Operating modes, as bits of OpModes and of a radio's answer.
+inline constexpr std::uint32_t WideMode = 0x40;    ///< MODE "w"
+inline constexpr std::uint32_t NarrowMode = 0x20;  ///< MODE "n"
+inline constexpr std::uint32_t DigitalMode = 0x10; ///< MODE "D"
+inline constexpr std::uint32_t AllModes = WideMode | NarrowMode | DigitalMode;
+
+/// The number that MFLG of a row holds, 0 for an empty cell.
+int MemoryFlags(const wxGrid* grid, int row);
+
+/// The number that TFLG of a row holds, 0 for an empty cell.
+int TransferFlags(const wxGrid* grid, int row);
+
+/// True when MFLG marks the row as a shadow.
+bool IsShadow(const wxGrid* grid, int row);
+
+/// True when MFLG marks the row as a primary with shadows.
+bool IsPrimary(const wxGrid* grid, int row);

@@ -26,7 +26,7 @@ void SetPageParameters(OrvZELFrame* frame, int page, int radio, int bandIndex) {
     parameters.Cols = ColumnCount[parameters.Type];
 
     PageStrings[page] = {"", "", RadioName[radio], BandName[parameters.Band], RadioTypeName[parameters.Type]};
-    OpModes[page] = 0x30;
+    OpModes[page] = NarrowMode | DigitalMode;
     // Meant: these are the flags of the page that is selected now, also while another is made.
     CurrentParameters().Flags = 0;
     if (IsP25Type(parameters.Type))
@@ -136,10 +136,10 @@ void SetPageDefaults(OrvZELFrame*, int page) {
     const PageParameterRecord& parameters = PageParameters[page];
     wxGrid* grid = PageGrid[page];
     int defaultRow = parameters.Band;
-    if (parameters.Radio == 7)
-        defaultRow = 9;
-    else if (parameters.Radio == 8)
-        defaultRow = 10;
+    if (parameters.Radio == Kdrv716B)
+        defaultRow = Kdrv716BDefaultRow;
+    else if (parameters.Radio == Kdar2000)
+        defaultRow = Kdar2000DefaultRow;
     for (int col = 0; col < ColumnTotal; ++col)
         grid->SetCellValue(0, col, PageDefault[defaultRow][col]);
 

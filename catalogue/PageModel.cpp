@@ -78,7 +78,7 @@ bool RowHasData(int row) {
 bool RowIsComplete(int row) {
     wxGrid* grid = CurrentGrid();
     const int type = CurrentParameters().Type;
-    const bool shadow = (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask) != 0;
+    const bool shadow = IsShadow(grid, row);
     for (int col = 0; col < ColumnTotal; ++col)
         if (CountsForCompleteness(type, col, shadow) && grid->GetCellValue(row, col).empty())
             return false;

@@ -56,7 +56,7 @@ extern int32_t CurrentPage;
 extern std::array<wxGrid*, PageLimit> PageGrid;
 extern std::array<PageParameterRecord, PageLimit> PageParameters;
 extern std::array<PageStringRecord, PageLimit> PageStrings;
-/// Operating modes that the connected radio accepts, by page: 0x40 "w", 0x20 "n", 0x10 "D".
+/// Operating modes that the connected radio accepts, by page: WideMode, NarrowMode, DigitalMode.
 extern std::array<uint32_t, PageLimit> OpModes;
 /// Guard rows of the current page, -1 when it has none.
 extern int32_t GD1, GD2;

@@ -72,39 +72,39 @@ void FillChoiceLists() {
 int GetRadioType(int radio, int band) {
     int type = ANFM;
     switch (radio) {
-    case 2:
+    case Orv12:
         type = O12;
         break;
-    case 6:
+    case Kdrv716:
         type = RP25;
         break;
-    case 7:
+    case Kdrv716B:
         type = NP25;
         break;
-    case 8:
+    case Kdar2000:
         type = KDAR;
         break;
-    case 17:
-        if (band == 8 || band == 9)
+    case Kdrv4xxx:
+        if (band == K6Module || band == K7Module)
             type = MDLX;
         break;
     default:
         break;
     }
-    const bool amBand = band == 2 || band == 3 || band == 6;
+    const bool amBand = band == Am108To138 || band == Am118To138 || band == Am225To400;
     return amBand && type == ANFM ? ANAM : type;
 }
 
 int GetChannelStep(int radio, int band) {
     switch (radio) {
-    case 2:
-    case 8:
+    case Orv12:
+    case Kdar2000:
         return 8333;
-    case 7:
+    case Kdrv716B:
         return 1250;
-    case 16:
-    case 17:
-        return band == 2 || band == 3 ? 8333 : 2500;
+    case Kdrv8400:
+    case Kdrv4xxx:
+        return band == Am108To138 || band == Am118To138 ? 8333 : 2500;
     default:
         return 2500;
     }
@@ -130,39 +130,21 @@ int FindBand(const wxString& name) {
 int FindBandIndex(int radio, int band) {
     if (radio < 0 || radio >= RadioTotal)
         return -1;
-    for (int slot = 0; slot < BandSlotTotal && RadioBands[radio][slot] != -1; ++slot)
+    for (int slot = 0; slot < BandSlotTotal && RadioBands[radio][slot] != NoBand; ++slot)
         if (RadioBands[radio][slot] == band)
             return slot;
     return -1;
 }
 
 void MakeBandList(int radio, wxArrayString& list) {
-    const auto append = [&list](std::initializer_list<int> bands) {
-        for (int band : bands)
-            list.push_back(BandChoiceText[band]);
-    };
-    // A fixed list a radio, in the order of its band slots: the position chosen is the slot.
-    switch (radio) {
-    case 9:
-        return append({5, 7});
-    case 10:
-        return append({5, 6});
-    case 11:
-    case 12:
-        return append({0, 5});
-    case 13:
-        return append({0, 5, 7});
-    case 14:
-        return append({1, 5, 7});
-    case 15:
-        return append({1, 5});
-    case 16:
-        return append({0, 3, 5, 6, 7});
-    case 17:
-        return append({0, 3, 5, 6, 7, 8});
-    default:
+    if (!HasBandChoice(radio)) {
         list.push_back("Error Bad Band Config");
+        return;
     }
+    // The position chosen is the band slot.
+    for (int band : RadioBands[radio])
+        if (band != NoBand)
+            list.push_back(BandChoiceText[band]);
 }
 
 int GetToneIndex(const wxString& text) {

@@ -34,8 +34,7 @@ wxArrayString ListOf(const char* const (&texts)[count]) {
     return list;
 }
 
-/// Radio type (0 to 7) of a radio index (0 to 17) and a band id (0 to 9).
-/// Band id 9 is the second module generation (K7), which has no row in the band table.
+/// Radio type (0 to 7) of a radio index and a band id, K7Module included.
 int GetRadioType(int radio, int band);
 
 /// Tuning step in Hz of a radio index and a band id.
@@ -63,8 +62,8 @@ int FindBand(const wxString& name);
 /// outside the table as well.
 int FindBandIndex(int radio, int band);
 
-/// Appends the choice texts of the radio's bands to list. Only radios 9 to 17 have a choice;
-/// any other appends "Error Bad Band Config".
+/// Appends the choice texts of the radio's bands to list. A radio without a choice
+/// (HasBandChoice) appends "Error Bad Band Config".
 void MakeBandList(int radio, wxArrayString& list);
 
 /// Position of the text in ToneList, -1 when absent. The first match wins: "OFF" is 0.

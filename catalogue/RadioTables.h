@@ -8,8 +8,70 @@ constexpr int BandSlotTotal = 6;
 constexpr int BandTotal = 9;
 constexpr int TypeTotal = 8;
 
+/// Radio indices, in the order of the tables.
+enum RadioIndex : int {
+    Krv21,
+    Krv47,
+    Orv12,
+    Krv214,
+    Krv214B,
+    Krv305,
+    Kdrv716,  ///< the P25 radio of the first generation
+    Kdrv716B, ///< the P25 radio of the second generation
+    Kdar2000,
+    Krv610, ///< this one and those below have several bands
+    Krv620,
+    Krv630,
+    Krv630Qnt,
+    Krv650,
+    Krv656,
+    Krv666,
+    Kdrv8400,
+    Kdrv4xxx,
+};
+static_assert(Kdrv4xxx + 1 == RadioTotal);
+
+/// Band ids, in the order of the tables.
+enum BandId : int {
+    Fm30To50,
+    Fm66To88,
+    Am108To138,
+    Am118To138,
+    Fm136To174,
+    Fm138To174,
+    Am225To400,
+    Fm403To512,
+    K6Module, ///< the module: each of its rows is on one of three bands
+    K7Module, ///< the module's second generation. No radio offers it, and the tables have no row for it
+};
+static_assert(K6Module + 1 == BandTotal);
+
+/// An empty band slot.
+inline constexpr int NoBand = -1;
+
+/// True for the bands that a row of the K6 module can be on.
+constexpr bool IsK6Band(int band) {
+    return band == Fm30To50 || band == Am108To138 || band == Am225To400;
+}
+
+/// True for radios whose band the user chooses.
+constexpr bool HasBandChoice(int radio) {
+    return radio >= Krv610 && radio < RadioTotal;
+}
+
 /// Radio types: they choose the columns of a page and, with the band, the protocol of a transfer.
 enum RadioType : int { ANFM, RP25, NP25, MDLX, O12, KDAR, ANAM, FXAM };
+
+/// Memories of P25 radios, by type, without the guard rows behind them. The old record layout and the files
+/// of the 716 family have as many as RP25.
+inline constexpr int RP25Memories = 230;
+inline constexpr int NP25Memories = 500;
+
+/// Guard rows of a page that has them.
+inline constexpr int GuardRowTotal = 2;
+
+/// Guard rows of NP25 pages are this many rows further down than those of RP25.
+inline constexpr int NP25GuardShift = NP25Memories - RP25Memories;
 
 /// Internal names by radio index (0 to 17), as channel files, titles and the status bar use them.
 inline constexpr const char* RadioName[RadioTotal] = {
@@ -25,27 +87,31 @@ inline constexpr const char* RadioLabel[RadioTotal] = {
     "KRV-630QNT",    "KRV-650",      "KRV-656",   "KRV-666", "KDRV-8400", "KDRV-4xxx",
 };
 
-/// Band id by radio index and band slot, -1 in an empty slot. Slots fill from 0 without gaps.
+/// Band id by radio index and band slot, NoBand in an empty slot. Slots fill from 0 without gaps.
 inline constexpr int RadioBands[RadioTotal][BandSlotTotal] = {
-    {0, -1, -1, -1, -1, -1}, // KRV-21
-    {1, -1, -1, -1, -1, -1}, // KRV-47
-    {3, -1, -1, -1, -1, -1}, // ORV-12
-    {5, -1, -1, -1, -1, -1}, // KRV-214
-    {5, -1, -1, -1, -1, -1}, // KRV-214B
-    {7, -1, -1, -1, -1, -1}, // KRV-305
-    {4, -1, -1, -1, -1, -1}, // KDRV-716
-    {4, -1, -1, -1, -1, -1}, // KDRV-716B
-    {3, -1, -1, -1, -1, -1}, // KDAR-2000
-    {5, 7, -1, -1, -1, -1},  // KRV-610
-    {5, 6, -1, -1, -1, -1},  // KRV-620
-    {0, 5, -1, -1, -1, -1},  // KRV-630
-    {0, 5, -1, -1, -1, -1},  // KRV-630_QNT
-    {0, 5, 7, -1, -1, -1},   // KRV-650
-    {1, 5, 7, -1, -1, -1},   // KRV-656
-    {1, 5, -1, -1, -1, -1},  // KRV-666
-    {0, 3, 5, 6, 7, -1},     // KDRV-8400
-    {0, 3, 5, 6, 7, 8},      // KDRV-4xxx
+    {Fm30To50, NoBand, NoBand, NoBand, NoBand, NoBand},                   // KRV-21
+    {Fm66To88, NoBand, NoBand, NoBand, NoBand, NoBand},                   // KRV-47
+    {Am118To138, NoBand, NoBand, NoBand, NoBand, NoBand},                 // ORV-12
+    {Fm138To174, NoBand, NoBand, NoBand, NoBand, NoBand},                 // KRV-214
+    {Fm138To174, NoBand, NoBand, NoBand, NoBand, NoBand},                 // KRV-214B
+    {Fm403To512, NoBand, NoBand, NoBand, NoBand, NoBand},                 // KRV-305
+    {Fm136To174, NoBand, NoBand, NoBand, NoBand, NoBand},                 // KDRV-716
+    {Fm136To174, NoBand, NoBand, NoBand, NoBand, NoBand},                 // KDRV-716B
+    {Am118To138, NoBand, NoBand, NoBand, NoBand, NoBand},                 // KDAR-2000
+    {Fm138To174, Fm403To512, NoBand, NoBand, NoBand, NoBand},             // KRV-610
+    {Fm138To174, Am225To400, NoBand, NoBand, NoBand, NoBand},             // KRV-620
+    {Fm30To50, Fm138To174, NoBand, NoBand, NoBand, NoBand},               // KRV-630
+    {Fm30To50, Fm138To174, NoBand, NoBand, NoBand, NoBand},               // KRV-630_QNT
+    {Fm30To50, Fm138To174, Fm403To512, NoBand, NoBand, NoBand},           // KRV-650
+    {Fm66To88, Fm138To174, Fm403To512, NoBand, NoBand, NoBand},           // KRV-656
+    {Fm66To88, Fm138To174, NoBand, NoBand, NoBand, NoBand},               // KRV-666
+    {Fm30To50, Am118To138, Fm138To174, Am225To400, Fm403To512, NoBand},   // KDRV-8400
+    {Fm30To50, Am118To138, Fm138To174, Am225To400, Fm403To512, K6Module}, // KDRV-4xxx
 };
+
+/// The band slot of KDRV-4xxx that is the module.
+inline constexpr int ModuleSlot = 5;
+static_assert(RadioBands[Kdrv4xxx][ModuleSlot] == K6Module);
 
 /// Grid rows below the default row, by radio index and band slot, 0 in an empty slot.
 /// A count that ends in 2 includes the band's two guard rows.
@@ -69,6 +135,8 @@ inline constexpr int RadioRows[RadioTotal][BandSlotTotal] = {
     {200, 200, 200, 200, 200, 0},   // KDRV-8400
     {200, 200, 200, 200, 200, 500}, // KDRV-4xxx
 };
+static_assert(RadioRows[Kdrv716][0] == RP25Memories + GuardRowTotal);
+static_assert(RadioRows[Kdrv716B][0] == NP25Memories + GuardRowTotal);
 
 /// The BAND text of a band id (0 to 8), also that of channel files.
 inline constexpr const char* BandName[BandTotal] = {

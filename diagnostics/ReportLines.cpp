@@ -112,8 +112,9 @@ wxArrayString ZoneLines(std::span<const int32_t> counters) {
 wxArrayString OpModeLines(uint32_t modes) {
     wxArrayString lines;
     lines.push_back(">-- Debug - Report P25 Page OpMode Parameters ---------<");
-    lines.push_back(wxString("  Op Mode: w - ") + YesOr(" No", modes & 0x40));
-    lines.push_back(wxString("  Op Mode: n - ") + YesOr(" No", modes & 0x20));
-    lines.push_back(wxString("  Op Mode: D - ") + YesOr(" no", modes & 0x10)); // the small letter is meant
+    lines.push_back(wxString("  Op Mode: w - ") + YesOr(" No", modes & WideMode));
+    lines.push_back(wxString("  Op Mode: n - ") + YesOr(" No", modes & NarrowMode));
+    lines.push_back(wxString("  Op Mode: D - ") +
+                    YesOr(" no", modes & DigitalMode)); // the small letter is meant
     return lines;
 }

@@ -129,7 +129,7 @@ int CheckBand(wxGrid* grid, int row, const wxString& text) {
     }
     const int band = FindBand(text);
     // Intentional: a band that can stand is not written, the cell keeps what it holds.
-    if (band >= 0 && (page.Band == 9 || band == 0 || band == 2 || band == 6))
+    if (band >= 0 && (page.Band == K7Module || IsK6Band(band)))
         return CheckGood;
     Repair(grid, row, BAND);
     return CheckBadValue;
@@ -171,10 +171,10 @@ namespace {
 /// The zone index that a row is to have. The rows behind the ordinary memories, which are the
 /// guard rows, belong to the last zone of their generation.
 int WantedZone(int type, int row, const wxString& text) {
-    if (type == RP25 && row > 230)
-        return 15;
-    if (type == NP25 && row > 500)
-        return 31;
+    if (type == RP25 && row > RP25Memories)
+        return RP25GuardZone;
+    if (type == NP25 && row > NP25Memories)
+        return NP25GuardZone;
     const int firstFree = FirstFreeZone();
     const int named = FindZone(text);
     return named != wxNOT_FOUND && named >= firstFree ? named : firstFree;
@@ -189,11 +189,11 @@ void CheckZone(wxGrid* grid, int row, wxString text) {
         return;
     }
     if (row != 0) {
-        const int transferFlags = ReadHex(grid->GetCellValue(row, TFLG));
+        const int transferFlags = TransferFlags(grid, row);
         if (transferFlags & ZoneTakenFlag)
             return;
         const int wanted = WantedZone(type, row, text);
-        if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask) {
+        if (IsShadow(grid, row)) {
             text.clear();
         } else if (TakeP25ZonePosition(wanted)) {
             if (!text.empty() && text != GetZoneName(wanted) && !IsGuardRow(row))
@@ -216,7 +216,7 @@ void CheckDesc(wxGrid* grid, int row, const wxString& text) {
 
 void CheckMode(wxGrid* grid, int row, const wxString& text) {
     // Rows of the module's AM 225-400 band have no mode, and say so.
-    if (CurrentParameters().Type == MDLX && IsText(text, "n/a") && BandOfRow(grid, row) == 6) {
+    if (CurrentParameters().Type == MDLX && IsText(text, "n/a") && BandOfRow(grid, row) == Am225To400) {
         grid->SetCellValue(row, MODE, text);
         return;
     }
@@ -227,7 +227,7 @@ void CheckMode(wxGrid* grid, int row, const wxString& text) {
 int CheckFreq(wxGrid* grid, int row, int column, const wxString& text) {
     const int band = BandOfRow(grid, row);
     // Meant: a transmit frequency of an AM 108-138 row is never refused, whatever its text.
-    const bool good = (band == 2 && column == TFRQ) || CheckFreqInBand(text, band) == 0;
+    const bool good = (band == Am108To138 && column == TFRQ) || CheckFreqInBand(text, band) == 0;
     WriteOrRepair(grid, row, column, text, good);
     return good ? CheckGood : CheckBadValue;
 }
@@ -277,7 +277,7 @@ void CheckTone(wxGrid* grid, int row, int column, const wxString& text, const wx
         WriteForced(grid, row, column, text, wxString());
         return;
     }
-    if ((column == RTON && IsGuardRow(row)) || FindBand(grid->GetCellValue(row, BAND)) == 2) {
+    if ((column == RTON && IsGuardRow(row)) || FindBand(grid->GetCellValue(row, BAND)) == Am108To138) {
         WriteForced(grid, row, column, text, "n/a");
         return;
     }

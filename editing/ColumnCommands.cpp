@@ -21,8 +21,7 @@ namespace {
 constexpr int TransmitDistance = TTON - RTON;
 
 void DealZoneAfresh(wxGrid* grid, int row) {
-    const int flags = ReadHex(grid->GetCellValue(row, TFLG)) & ~ZoneTakenFlag;
-    grid->SetCellValue(row, TFLG, FlagText(flags));
+    grid->SetCellValue(row, TFLG, FlagText(TransferFlags(grid, row) & ~ZoneTakenFlag));
     CheckZone(grid, row, "");
     SetScanLock(grid, row);
 }

@@ -30,7 +30,7 @@ bool IsInUse(int number) {
 void MakePrimary(wxGrid* grid, int row, int slot, int shadow) {
     grid->SetCellValue(row, SHAD, wxString::Format("P-%d", slot + 1));
     grid->SetCellValue(row, SHD0 + slot, NumberText(shadow));
-    grid->SetCellValue(row, MFLG, FlagText(ReadHex(grid->GetCellValue(row, MFLG)) | ShadowLinkFlag));
+    grid->SetCellValue(row, MFLG, FlagText(MemoryFlags(grid, row) | ShadowLinkFlag));
     LockLinkedRow(row, PrimaryRow);
 }
 
@@ -44,7 +44,7 @@ void MakeShadow(wxGrid* grid, int row, int slot, int primary) {
         grid->SetCellValue(row, col, "0");
     LockLinkedRow(row, ShadowRow);
     grid->SetCellValue(row, MFLG, FlagText(slot + 1));
-    grid->SetCellValue(row, TFLG, "A0");
+    grid->SetCellValue(row, TFLG, TflgMade);
     SetRowEditorsP25(grid, row);
 }
 

@@ -123,7 +123,7 @@ void FrequencyEditor::ApplyEdit(int row, int col, wxGrid* grid) {
         WriteClean(grid, row, TFRQ, m_held);
     if (col == TFRQ && rxOnly)
         grid->SetCellValue(row, TFRQ, "n/a");
-    if (CurrentPageIsP25() && (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowLinkFlag))
+    if (CurrentPageIsP25() && IsPrimary(grid, row))
         HandleP25Shadows(this, ReadDecimal(grid->GetCellValue(row, MNUM)), m_held, grid);
     m_held.clear();
 }

@@ -60,7 +60,7 @@ int GetFreqBand(const wxString& text, int type) {
         return fault;
     for (int band = 0; band < BandTotal; ++band)
         if (IsInBand(parts.megahertz, parts.fraction, band))
-            return band == 4 && !IsP25Type(type) ? 5 : band;
+            return band == Fm136To174 && !IsP25Type(type) ? Fm138To174 : band;
     return FreqInNoBand;
 }
 
@@ -178,7 +178,7 @@ Completion CompletionOf(int step) {
 } // namespace
 
 int FrequencyWidth(int band, int step) {
-    if (band == 0 || band == 1 || step == 8333)
+    if (band == Fm30To50 || band == Fm66To88 || step == 8333)
         return 7;
     return step == 1250 ? 9 : 8;
 }

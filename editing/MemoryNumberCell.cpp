@@ -35,7 +35,7 @@ void ZelkMemoryNumberEditor::ApplyEdit(int row, int, wxGrid* grid) {
     }
     const wxString text = NumberText(number);
     if (CurrentPageIsP25()) {
-        if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowLinkFlag)
+        if (IsPrimary(grid, row))
             for (int shadow : ShadowRowsOf(grid, row)) {
                 grid->SetCellValue(shadow, PRIM, text);
                 grid->SetCellValue(shadow, SHAD, "S-" + text);

@@ -25,16 +25,12 @@ void Fill(wxGrid* grid, int row, int col, const wxString& text) {
     ReplacedCells::Note(row, col);
 }
 
-bool ModuleHasBand(int band) {
-    return band == 0 || band == 2 || band == 6;
-}
-
 /// The check would put the row on the default row's band, where its frequencies could not stand.
 void FillMissingBand(wxGrid* grid, int row) {
-    if (CurrentParameters().Band != 8 || ModuleHasBand(FindBand(grid->GetCellValue(row, BAND))))
+    if (CurrentParameters().Band != K6Module || IsK6Band(FindBand(grid->GetCellValue(row, BAND))))
         return;
     const int band = GetFreqBand(grid->GetCellValue(row, RFRQ), MDLX);
-    if (!ModuleHasBand(band))
+    if (!IsK6Band(band))
         return;
     Fill(grid, row, BAND, BandName[band]);
     FitRowToItsBand(grid, row);
@@ -42,7 +38,7 @@ void FillMissingBand(wxGrid* grid, int row) {
 
 /// Rows of AM 108-138 are checked for no transmit frequency, so an empty one would stay.
 void FillMissingTransmitFrequency(wxGrid* grid, int row) {
-    if (CurrentParameters().Type != MDLX || FindBand(grid->GetCellValue(row, BAND)) != 2 ||
+    if (CurrentParameters().Type != MDLX || FindBand(grid->GetCellValue(row, BAND)) != Am108To138 ||
         !grid->GetCellValue(row, TFRQ).empty())
         return;
     const wxString receive = grid->GetCellValue(row, RFRQ);

@@ -17,7 +17,7 @@ namespace {
 
 /// The last row that moves when rows are inserted or deleted: guard rows stay where they are.
 int LastMovingRow() {
-    return CurrentParameters().Rows - (HasGuardRows(CurrentPage) ? 2 : 0);
+    return CurrentParameters().Rows - (HasGuardRows(CurrentPage) ? RadioCatalogue::GuardRowTotal : 0);
 }
 
 /// The memory rows that are selected, from row 1 on.
@@ -103,7 +103,7 @@ void FixCopiedRow(OrvZELFrame*) {
         return;
     // Meant: the flags themselves stay in the copy; only the scan bit goes.
     const int flags = ReadHex(RowCopyBuffer[MFLG]);
-    if ((flags & (ShadowIndexMask | ShadowLinkFlag)) == 0)
+    if ((flags & LinkFlags) == 0)
         return;
     RowCopyBuffer[SHAD] = "N";
     RowCopyBuffer[PRIM] = RowCopyBuffer[MNUM];

@@ -4,10 +4,12 @@
 
 #include <wx/grid.h>
 
+using namespace RadioCatalogue;
+
 namespace {
 
 bool IsInUnscannedZone(const wxGrid* grid, int row) {
-    return CurrentParameters().Type == RadioCatalogue::NP25 && grid->GetCellValue(row, ZONE) == "X";
+    return CurrentParameters().Type == NP25 && grid->GetCellValue(row, ZONE) == ZoneNames32[NP25GuardZone];
 }
 
 /// A pasted copy of a linked row has its flags, but no links.
@@ -18,7 +20,7 @@ bool IsLinked(const wxGrid* grid, int row) {
 
 /// By the page's rows: GD1 is that of the former target while a page changes it.
 bool IsGuard(int row) {
-    return HasGuardRows(CurrentPage) && row > CurrentParameters().Rows - 2;
+    return HasGuardRows(CurrentPage) && row > CurrentParameters().Rows - GuardRowTotal;
 }
 
 } // namespace

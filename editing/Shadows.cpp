@@ -16,7 +16,7 @@ bool IsMemoryRow(int row) {
 /// True when the row can be one that a slot names. After rows have moved a slot can name a row of
 /// another memory, which must not be touched.
 bool IsShadowRow(wxGrid* grid, int row) {
-    return IsMemoryRow(row) && IsShadowFlags(grid->GetCellValue(row, MFLG));
+    return IsMemoryRow(row) && IsShadow(grid, row);
 }
 
 } // namespace
@@ -51,10 +51,6 @@ std::optional<int> ReadShadowNumber(const wxString& text, int rows) {
         return std::nullopt;
     const std::optional<int> number = ReadNumber(text);
     return number && *number >= 1 && *number <= rows ? number : std::nullopt;
-}
-
-bool IsShadowFlags(const wxString& text) {
-    return (ReadHex(text) & ShadowIndexMask) != 0;
 }
 
 int GetMnumRow(int number) {
@@ -105,9 +101,8 @@ void RemoveShadow(int row) {
 void UndoShadowLinks(int row) {
     if (!CurrentPageIsP25())
         return;
-    const int flags = ReadHex(CurrentGrid()->GetCellValue(row, MFLG));
-    if (flags & ShadowLinkFlag)
+    if (IsPrimary(CurrentGrid(), row))
         RemovePrimary(row);
-    else if (flags & ShadowIndexMask)
+    else if (IsShadow(CurrentGrid(), row))
         RemoveShadow(row);
 }

@@ -30,9 +30,6 @@ std::vector<int> ShadowRowsOf(wxGrid* grid, int row);
 /// with anything but digits in it, and for a number outside 1 to rows.
 std::optional<int> ReadShadowNumber(const wxString& text, int rows);
 
-/// True for flags of a shadow, text being an MFLG cell.
-bool IsShadowFlags(const wxString& text);
-
 /// The first memory row of the current page whose MNUM reads as number; Rows + 1 when none does.
 int GetMnumRow(int number);
 

@@ -85,7 +85,7 @@ void ForgetZones() {
     wxGrid* grid = CurrentGrid();
     std::fill_n(ZoneSlotsOf(CurrentPage), ZonesPerPage, 0);
     for (int row = 1; row <= CurrentParameters().Rows; ++row) {
-        const int flags = ReadHex(grid->GetCellValue(row, TFLG));
+        const int flags = TransferFlags(grid, row);
         if (flags & ZoneTakenFlag)
             grid->SetCellValue(row, TFLG, FlagText(flags & ~ZoneTakenFlag));
     }

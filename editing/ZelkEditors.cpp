@@ -1,7 +1,6 @@
 #include "editing/ZelkEditors.h"
 
 #include "catalogue/PageModel.h"
-#include "catalogue/TextNumbers.h"
 #include "editing/ChoiceCells.h"
 #include "editing/DescriptionCell.h"
 #include "editing/DigitalSquelchCell.h"
@@ -100,7 +99,7 @@ void SetToneEditors(wxGrid* grid, int row) {
 }
 
 wxGridCellEditor* NewBandEditor(int pageBand) {
-    if (pageBand == 9)
+    if (pageBand == K7Module)
         // The last band of the list isn't offered.
         return new MDLXBandChoiceEditor(std::size(MdlxBands8) - 1, Choices<MdlxBands8>());
     return new MDLXBandChoiceEditor(std::size(MdlxBands3), Choices<MdlxBands3>());
@@ -185,7 +184,7 @@ void SetRowEditorsP25(wxGrid* grid, int row) {
     Centre(grid, row, {RSQL, TSQL});
     SetSquelchChoices(grid, row, grid->GetCellValue(row, MODE), false);
     Centre(grid, row, {RNSV});
-    if (page.Radio == 7)
+    if (page.Radio == Kdrv716B)
         SetEditor(grid, row, RNSV, new wxGridCellNumberEditor(0, 15));
     for (int col : {RTON, TTON})
         SetCentred(grid, row, col, new ZelkChoiceEditor(std::size(CtcssTexts), Choices<CtcssTexts>()));
@@ -211,9 +210,9 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
     const int type = CurrentParameters().Type;
     // A row that is still to be filled has the locks of its texts to come, but none of them.
     const bool hasTexts = !IsFilledByEdit(grid, row);
-    if (band == 3)
+    if (band == Am118To138)
         return;
-    if (band == 6) {
+    if (band == Am225To400) {
         if (type != MDLX)
             return;
         SetReadOnly(grid, row, {MODE, RCOD, TCOD}, true);
@@ -226,7 +225,7 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
         SetToneEditors(grid, row);
         return;
     }
-    if (band == 2) {
+    if (band == Am108To138) {
         if (type != MDLX)
             return;
         if (hasTexts)
@@ -243,7 +242,7 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
     }
     // Meant: TTON keeps the editor that it has.
     SetEditor(grid, row, RTON, new ZelkChoiceEditor(std::size(CtcssTexts), Choices<CtcssTexts>()));
-    SetReadOnly(grid, row, {SCAN}, grid->GetCellValue(row, ZONE) == "X");
+    SetReadOnly(grid, row, {SCAN}, grid->GetCellValue(row, ZONE) == ZoneNames32[NP25GuardZone]);
 }
 
 void FitRowToItsBand(wxGrid* grid, int row) {
@@ -277,7 +276,7 @@ void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDe
     }
     SetEditor(grid, row, RSQL,
               new ZelkChoiceEditor(std::size(RxDigitalSquelch), Choices<RxDigitalSquelch>()));
-    const bool shadow = (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask) != 0;
+    const bool shadow = IsShadow(grid, row);
     SetEditor(grid, row, TSQL,
               shadow ? new ZelkChoiceEditor(std::size(TxDigitalSquelchRestricted),
                                             Choices<TxDigitalSquelchRestricted>())

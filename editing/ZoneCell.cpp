@@ -13,9 +13,6 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// The zone of second generation radios that is never scanned.
-constexpr int UnscannedZone = 31;
-
 /// Moves the count of a row's slot. Intentional: the default row holds none, so its zone moves none.
 bool TakeZone(int row, int zone) {
     return row == 0 ? zone != wxNOT_FOUND : TakeP25ZonePosition(zone);
@@ -28,8 +25,8 @@ bool ReleaseZone(int row, const wxString& name) {
 } // namespace
 
 void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
-    // The last zone of a first generation radio belongs to its guard rows.
-    const int limit = CurrentParameters().Type == RP25 ? 14 : UnscannedZone;
+    // The last zone of a first generation radio is for its guard rows alone.
+    const int limit = CurrentParameters().Type == RP25 ? RP25GuardZone - 1 : NP25GuardZone;
     // The row holds no slot while the edit runs, so that its own zone is offered when that is full.
     m_startZone = grid->GetCellValue(row, ZONE);
     m_slotReleased = ReleaseZone(row, m_startZone);
@@ -41,7 +38,7 @@ void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
     wxString names;
     for (int zone = 0; zone <= limit; ++zone) {
         const bool full = slots[zone] == ZoneCapacity && zone != ownOfDefaultRow;
-        if (full || (zone == UnscannedZone && scanned))
+        if (full || (zone == NP25GuardZone && scanned))
             continue;
         if (!names.empty())
             names += ',';
@@ -74,7 +71,7 @@ void P25ZoneEditor::ApplyEdit(int row, int, wxGrid* grid) {
         ReleaseZone(row, before);
     grid->SetCellValue(row, ZONE, m_value);
     SetScanLock(grid, row);
-    if (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowLinkFlag) {
+    if (IsPrimary(grid, row)) {
         const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
         for (int shadow : ShadowRowsOf(grid, number))
             grid->SetCellValue(shadow, ZONE, grid->GetCellValue(number, ZONE));

@@ -18,9 +18,6 @@ namespace ChannelFile {
 
 namespace {
 
-/// MFLG bits that tell a primary or a shadow.
-constexpr int ShadowBits = ShadowIndexMask | ShadowLinkFlag;
-
 /// No cell needs a longer text, and drawing one would take seconds.
 constexpr size_t LongestCellText = 256;
 
@@ -123,7 +120,7 @@ private:
     void TakeCell(int column, const wxString& text) {
         switch (column) {
         case MFLG:
-            if (ReadHex(text) & ShadowBits)
+            if (ReadHex(text) & LinkFlags)
                 m_parameters.Flags |= PageHasShadows;
             break;
         case SHAD:

@@ -64,10 +64,10 @@ wxString AskForExportFile(wxWindow* parent) {
 } // namespace
 
 bool CsvExport::OpenCsvWrite(const wxString& path, int type) {
-    const int flags = ReadHex(CurrentGrid()->GetCellValue(1, TFLG));
+    const int flags = TransferFlags(CurrentGrid(), 1);
     if (m_file.IsOpened() || m_file.Open(path))
         return false;
-    m_text = type == KDAR ? KdarHeadingLines(flags & PurgeFlag) : CsvHeadingLine(type);
+    m_text = type == KDAR ? KdarHeadingLines(flags & EraseFlag) : CsvHeadingLine(type);
     return true;
 }
 

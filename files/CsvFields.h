@@ -45,6 +45,3 @@ enum KdarField : int {
     KdarRxOnly,
     KdarFieldTotal
 };
-
-/// TFLG: the row is to be erased in the radio. In row 1 it also makes a KDAR list ask for it.
-constexpr int PurgeFlag = 0x02;

@@ -158,7 +158,7 @@ private:
     void TakeZone(const wxString& text) {
         GiveZoneBack();
         if (CurrentPageIsP25() && m_row != 0)
-            Write(TFLG, FlagText(ReadHex(TextOf(TFLG)) & ~ZoneTakenFlag));
+            Write(TFLG, FlagText(TransferFlags(m_grid, m_row) & ~ZoneTakenFlag));
         const auto before = ZoneSlots;
         CheckZone(m_grid, m_row, text);
         m_taken[static_cast<size_t>(m_row)] = before != ZoneSlots;
@@ -175,7 +175,7 @@ private:
     }
 
     bool HoldsSlot() const {
-        return m_taken[static_cast<size_t>(m_row)] || (ReadHex(TextOf(TFLG)) & ZoneTakenFlag);
+        return m_taken[static_cast<size_t>(m_row)] || (TransferFlags(m_grid, m_row) & ZoneTakenFlag);
     }
 
     wxGrid* m_grid = CurrentGrid();
@@ -279,7 +279,7 @@ int Import_KDAR(wxFFile& file) {
     const std::string bytes = BytesOf(file);
     CsvReader reader(bytes, CsvReader::Dialect::Kdar);
     reader.GetHeader_CSV();
-    const wxString flags = FlagText(ReadHex(TflgMade) | (reader.Field(1) == "Purge" ? PurgeFlag : 0));
+    const wxString flags = FlagText(ReadHex(TflgMade) | (reader.Field(1) == "Purge" ? EraseFlag : 0));
     if (!reader.GetHeader_CSV()) {
         TellHeaderMissing();
         return 0;

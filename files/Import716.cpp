@@ -5,17 +5,10 @@
 #include "editing/ZelkEdit.h"
 #include "files/ImportOutcome.h"
 
-namespace {
-
-/// The radio of 500 memories takes files of the one of 230.
-constexpr int LargerRadio = 7;
-constexpr int SmallerRadioMemories = 230;
-constexpr int FurtherMemories = 270;
-
-} // namespace
+using namespace RadioCatalogue;
 
 int MovedNumber716(int number, int radio) {
-    return radio == LargerRadio && number > SmallerRadioMemories ? number + FurtherMemories : number;
+    return radio == Kdrv716B && number > RP25Memories ? number + NP25GuardShift : number;
 }
 
 int RowOf716(Record716& record) {
@@ -46,7 +39,7 @@ void RowWriter716::Write(int row, const Record716& record) {
         CheckRow(m_grid, row, m_numbers);
     }
     NoteIfReplaced(m_grid, row, DESC, record.Desc);
-    const bool hasOwnZone = !(ReadHex(record.Mflg) & (ShadowIndexMask | Guard716));
+    const bool hasOwnZone = !(ReadHex(record.Mflg) & (ShadowIndexMask | GuardFlag));
     if (CurrentPageIsP25() && hasOwnZone && !record.Zone.empty())
         NoteIfReplaced(m_grid, row, ZONE, record.Zone);
 }

@@ -214,7 +214,7 @@ size_t Read716Record(std::string_view bytes, int type, Record716& record) {
         if (field.into)
             (record.*field.into).swap(text);
     }
-    record.Scan = TextOfAscii(ReadHex(record.Mflg) & Scanned716 ? "Y" : "N");
+    record.Scan = TextOfAscii(ReadHex(record.Mflg) & ScanFlag ? "Y" : "N");
     record.Tflg = TextOfAscii(TflgMade);
     return reader.Taken();
 }

@@ -14,6 +14,8 @@
 #include <set>
 #include <utility>
 
+using namespace RadioCatalogue;
+
 namespace {
 
 constexpr int TitleLines = 3;
@@ -46,11 +48,11 @@ constexpr ListField ListFields[] = {
 constexpr const char* OnlyUnitId = "0000001";
 
 /// Flags whose rows aren't scanned, and rows without a zone of their own in the line.
-constexpr int NotScanned = ShadowIndexMask | ShadowLinkFlag | Guard716;
-constexpr int WithoutZone = ShadowIndexMask | Guard716;
+constexpr int NotScanned = LinkFlags | GuardFlag;
+constexpr int WithoutZone = ShadowIndexMask | GuardFlag;
 
-/// Grids of more rows belong to the radio of 32 zones.
-constexpr int LargestGridOf16Zones = 233;
+/// Grids of more rows, the default row among them, belong to the radio of 32 zones.
+constexpr int LargestGridOf16Zones = 1 + RP25Memories + GuardRowTotal;
 
 /// The number of a line, which for the default row and the guard rows is a name. True for a guard row.
 bool ReadNumberField(const wxString& line, int rows, wxString& number) {
@@ -76,7 +78,7 @@ using KeptRecord = std::shared_ptr<ListRecord>;
 using KeptRecords = LastOfRow<KeptRecord>;
 
 bool IsGuardRecord(const Record716& record) {
-    return ReadHex(record.Mflg) & Guard716;
+    return ReadHex(record.Mflg) & GuardFlag;
 }
 
 int RowOfListRecord(Record716& record) {
@@ -103,11 +105,9 @@ void LinkShadow(wxGrid* grid, int row, int primary) {
         ++slot;
     if (slot > SHD6 - SHD0)
         return;
-    constexpr int keptFlags = 0x60;
-    const auto flagsOf = [grid](int of) { return ReadHex(grid->GetCellValue(of, MFLG)); };
     grid->SetCellValue(primary, SHD0 + slot, wxString::Format("%d", row));
-    grid->SetCellValue(row, MFLG, FlagText((slot + 1) | (flagsOf(row) & keptFlags)));
-    grid->SetCellValue(primary, MFLG, FlagText(flagsOf(primary) | ShadowLinkFlag));
+    grid->SetCellValue(row, MFLG, FlagText((slot + 1) | (MemoryFlags(grid, row) & RadioFlags)));
+    grid->SetCellValue(primary, MFLG, FlagText(MemoryFlags(grid, primary) | ShadowLinkFlag));
     const int before = ReadDecimal(grid->GetCellValue(primary, SHAD).Mid(2));
     grid->SetCellValue(primary, SHAD, wxString::Format("P-%d", before + 1));
     grid->SetCellValue(row, ZONE, grid->GetCellValue(primary, ZONE));
@@ -146,7 +146,7 @@ private:
 void LinkShadows(wxGrid* grid, const KeptRecords& kept) {
     for (int row = 1; row < grid->GetNumberRows(); ++row) {
         const KeptRecord* from = kept.Of(row);
-        if (from && ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask)
+        if (from && IsShadow(grid, row))
             LinkShadow(grid, row, (*from)->primary);
     }
 }
@@ -163,11 +163,12 @@ ListLine716 Read716TextLine(const wxString& line, int rows, Record716& record) {
         (record.*field).clear();
     int flags = 0;
     if (ReadNumberField(line, rows, record.Mnum)) {
-        flags |= Guard716;
-        record.Zone = rows > LargestGridOf16Zones ? "X" : "16";
+        flags |= GuardFlag;
+        record.Zone = rows > LargestGridOf16Zones ? ZoneNames32[NP25GuardZone] : ZoneNames16[RP25GuardZone];
     }
     record.Prim = record.Mnum;
     if (LinkMarkColumns.Is(line, "S")) {
+        // The list names no slot; its shadows get theirs when all rows are there.
         flags |= 0x01;
         record.Prim = PrimaryColumns.TrimmedOf(line);
     } else if (LinkMarkColumns.Is(line, "P")) {
@@ -176,7 +177,7 @@ ListLine716 Read716TextLine(const wxString& line, int rows, Record716& record) {
     record.Scan = TextOfAscii("N");
     if (!(flags & NotScanned) && ScanMarkColumns.Is(line, "S")) {
         record.Scan = TextOfAscii("Y");
-        flags |= Scanned716;
+        flags |= ScanFlag;
     }
     if (!(flags & WithoutZone))
         record.Zone = ZoneColumns.TrimmedOf(line);

@@ -39,9 +39,6 @@ constexpr const char* ImportedMode = "w";
 /// Position of the second "OFF" in the list of tones, which stands for all that are in none.
 constexpr int LastTone = std::size(ToneTexts) - 1;
 
-constexpr int ModuleBand = 8;
-constexpr int NextModuleBand = 9;
-
 /// The texts that a line of a band gives the rows of a page.
 class LineWriter {
 public:
@@ -99,10 +96,10 @@ private:
 
     void WriteBand() {
         const int pageBand = CurrentParameters().Band;
-        if (pageBand != ModuleBand && pageBand != NextModuleBand)
+        if (pageBand != K6Module && pageBand != K7Module)
             return;
         // Meant: on the module's page every line goes to its first band.
-        const int band = pageBand == ModuleBand ? 0 : m_sourceBand;
+        const int band = pageBand == K6Module ? Fm30To50 : m_sourceBand;
         Set(BAND, band >= 0 ? wxString(BandName[band]) : m_grid->GetCellValue(0, BAND));
     }
 
@@ -146,14 +143,15 @@ private:
 int AlignmentOf(int sourceKind, int sourceBand, int pageBand, int pageType) {
     if (sourceKind == 0) {
         const int family = pageType == ANFM ? 0 : OtherFamily;
-        const bool module = pageBand == ModuleBand && (sourceBand == 0 || sourceBand == 2 || sourceBand == 6);
+        const bool module = pageBand == K6Module && IsK6Band(sourceBand);
         if (sourceBand == pageBand || module)
             return family | BandSuits;
-        const bool neighbours = (pageBand == 4 && sourceBand == 5) || (pageBand == 5 && sourceBand == 4);
+        const bool neighbours = (pageBand == Fm136To174 && sourceBand == Fm138To174) ||
+                                (pageBand == Fm138To174 && sourceBand == Fm136To174);
         return family | (neighbours ? NeighbourBand : FrequenciesCannotStay);
     }
     if ((sourceKind == 1 || sourceKind == 2) && !IsP25Type(pageType))
-        return OtherFamily | (pageBand == 5 ? NeighbourBand : FrequenciesCannotStay);
+        return OtherFamily | (pageBand == Fm138To174 ? NeighbourBand : FrequenciesCannotStay);
     return BandSuits;
 }
 

@@ -20,7 +20,7 @@ int RowOfMultiZELLine(const wxString& line, int rows);
 /// Answers of GetAlignment: one of the first three, and OtherFamily or not.
 enum Alignment : int {
     BandSuits = 0,
-    NeighbourBand = 1, ///< bands 4 and 5, which share their frequencies
+    NeighbourBand = 1, ///< FM 136-174 and FM 138-174, which share their frequencies
     FrequenciesCannotStay = 2,
     OtherFamily = 128, ///< a source of another kind of radio than the page
 };

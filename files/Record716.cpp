@@ -32,8 +32,7 @@ constexpr NamedField FieldsBehindShadows[] = {
     {"Tflg", &Record716::Tflg},
 };
 
-/// The radio whose rows have a numeric squelch value, and the value of an imported row.
-constexpr int RadioWithSquelchValue = 7;
+/// The numeric squelch value of an imported row.
 constexpr const char* ImportedSquelchValue = "10";
 
 struct CellField {
@@ -85,7 +84,7 @@ void write716ToGrid(wxGrid* grid, int row, const Record716& record) {
                 {MODE, &Record716::Mode},
                 {RFRQ, &Record716::Rfrq},
                 {RSQL, &Record716::Rsql}});
-    if (CurrentParameters().Radio == RadioWithSquelchValue)
+    if (CurrentParameters().Radio == RadioCatalogue::Kdrv716B)
         grid->SetCellValue(row, RNSV, TextOfAscii(ImportedSquelchValue));
     CheckTone(grid, row, RTON, record.Rton, record.Rsql);
     CheckCode(grid, row, RCOD, record.Rcod, record.Rsql);

@@ -7,7 +7,7 @@ class wxGrid;
 
 /// The texts of a memory, in the form of grid cells.
 struct Record716 {
-    wxString Mflg; ///< flags, "%02X": 0x07 shadow, 0x08 in the scan list, 0x10 primary, 0x80 guard row
+    wxString Mflg; ///< flags, "%02X", with the bits of MFLG
     wxString Mnum; ///< memory number
     wxString Prim; ///< number of the primary; its own on a memory that is no shadow
     wxString Scan; ///< "Y" or "N"
@@ -40,11 +40,6 @@ inline constexpr Field716 Shadows716[] = {
     &Record716::Shd0, &Record716::Shd1, &Record716::Shd2, &Record716::Shd3,
     &Record716::Shd4, &Record716::Shd5, &Record716::Shd6,
 };
-
-/// Mflg: the row is in the scan list.
-inline constexpr int Scanned716 = 0x08;
-/// Mflg: the row is a guard row.
-inline constexpr int Guard716 = 0x80;
 
 /// Puts a record into a row (0 to the last) of the current page's grid. The tones, codes and the zone
 /// go through their checks; the other cells take the texts as they are, for CheckRow to look at.

@@ -1,5 +1,4 @@
 // The context menu of the grids, made afresh for the place of each click.
-#include "catalogue/TextNumbers.h"
 #include "frame/CommandIds.h"
 #include "frame/ZelkMain.h"
 
@@ -94,7 +93,7 @@ void OrvZELFrame::OfferRowCommands(wxGrid* grid, int row) {
     }
     const bool guard = IsGuardRow(row);
     const bool data = RowHasData(row);
-    const bool shadow = (ReadHex(grid->GetCellValue(row, MFLG)) & ShadowIndexMask) != 0;
+    const bool shadow = IsShadow(grid, row);
     AppendContextItem(IdDefaultRow);
     if (CurrentPageIsP25() && !guard && data && !shadow)
         AppendContextItem(IdCreateShadow);

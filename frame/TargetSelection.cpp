@@ -21,9 +21,6 @@ wxString PortName = "none";
 
 namespace {
 
-/// Radios before this one have a single band.
-constexpr int FirstRadioWithBandChoice = 9;
-
 /// Asks for one of the bands in BandList: a position there, or ResultCancelled, or ResultBadBand.
 int AskBand(OrvZELFrame* frame, int page) {
     BandDialog dialog(frame, "<-- Select Frequency Band -->", page);
@@ -45,7 +42,7 @@ int UserSelectRadioAndBand(OrvZELFrame* frame, int page) {
         return ResultBadRadio;
 
     int slot = 0;
-    if (radio >= FirstRadioWithBandChoice) {
+    if (HasBandChoice(radio)) {
         MakeBandList(radio, BandList);
         slot = AskBand(frame, page);
         BandList.clear();

@@ -18,8 +18,6 @@ namespace Tour {
 
 namespace {
 
-constexpr int ScanFlag = 0x08;
-
 /// Columns that a file has as elements.
 constexpr struct {
     const char* element;

@@ -17,6 +17,8 @@
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
 
+using namespace RadioCatalogue;
+
 namespace {
 
 constexpr wxChar Acknowledgement = 0x05;
@@ -25,8 +27,11 @@ constexpr int EndLineBlanks = 74;
 constexpr int ShortCommandRows = 202;
 /// Up to this count of rows "300" in a received line is no channel but the end.
 constexpr int NumberedEndRows = 200;
-/// Radios whose sending the user starts with a key of the radio.
-constexpr int FirstKeyRadio = 9, LastKeyRadio = 16, HomeKeyRadio = 16;
+
+/// True for radios whose sending the user starts with a key of the radio.
+bool StartsWithKey(int radio) {
+    return radio >= Krv610 && radio <= Kdrv8400;
+}
 
 /// Takes what stands before and with the acknowledgement out of the buffer.
 void DropAcknowledgement(TransferContext& context) {
@@ -52,10 +57,10 @@ int WriteChannel(TransferContext& context, wxGrid* grid, int row) {
 }
 
 void AskForKey(TransferContext& context, int radio) {
-    if (radio < FirstKeyRadio || radio > LastKeyRadio)
+    if (!StartsWithKey(radio))
         return;
-    wxMessageBox(radio == HomeKeyRadio ? "Close this dialog, then press HOME on radio to start"
-                                       : "Close this dialog, then press ENTER on radio to start",
+    wxMessageBox(radio == Kdrv8400 ? "Close this dialog, then press HOME on radio to start"
+                                   : "Close this dialog, then press ENTER on radio to start",
                  "Read channel data from radio", wxOK | wxCENTRE, context.Progress);
 }
 

@@ -19,15 +19,15 @@ struct DriverEntry {
     const char* writeTitle;
 };
 
-// The first entry that fits counts. Band 8 is the first generation of the module, 9 the second.
+// The first entry that fits counts.
 constexpr DriverEntry Drivers[] = {
     {ANFM, AnyBand, Analog, Analog, "Send to ANFM Radio Progress"},
     {ANAM, AnyBand, Analog, Analog, "Send to ANFM Radio Progress"},
     {FXAM, AnyBand, Analog, Analog, "Send to ANFM Radio Progress"},
     {RP25, AnyBand, TRecord, TRecord, "Send to RP25 Radio Progress"},
     {NP25, AnyBand, TRecord, TRecord, "Send to RP25 Radio Progress"},
-    {MDLX, 8, Analog, Analog, "Send to MDLX K6 Module Progress"},
-    {MDLX, 9, TRecord, TRecord, "Send to MDLX K7 Module Progress"},
+    {MDLX, K6Module, Analog, Analog, "Send to MDLX K6 Module Progress"},
+    {MDLX, K7Module, TRecord, TRecord, "Send to MDLX K7 Module Progress"},
     {MDLX, AnyBand, None, TRecord, "Send to MDLX K7 Module Progress"},
     {O12, AnyBand, Analog, None, ""},
     {KDAR, AnyBand, Analog, None, ""},

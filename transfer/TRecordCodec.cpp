@@ -63,16 +63,14 @@ TRecordValues ValuesOf(std::span<const TRecordField> layout, const wxString& lin
 int CountOthersInZone(const wxGrid* grid, int row, const wxString& zone) {
     int count = 0;
     for (int other = 1; other < grid->GetNumberRows(); ++other)
-        count += other != row && grid->GetCellValue(other, ZONE) == zone &&
-                 !IsShadowFlags(grid->GetCellValue(other, MFLG));
+        count += other != row && grid->GetCellValue(other, ZONE) == zone && !IsShadow(grid, other);
     return count;
 }
 
 /// Gives back the slot that the row got when its record came before: it is dealt a zone anew. A row that
 /// found its zone full holds none, which the other rows in the zone tell.
 void GiveZoneBack(const wxGrid* grid, int row) {
-    if (row == 0 || !CurrentPageIsP25() || !(ReadHex(grid->GetCellValue(row, TFLG)) & ZoneTakenFlag) ||
-        IsShadowFlags(grid->GetCellValue(row, MFLG)))
+    if (row == 0 || !CurrentPageIsP25() || !(TransferFlags(grid, row) & ZoneTakenFlag) || IsShadow(grid, row))
         return;
     const wxString zone = grid->GetCellValue(row, ZONE);
     const int position = FindZone(zone);
@@ -124,8 +122,9 @@ int decodeTrecordV2(wxGrid* grid, const wxString& line) {
 }
 
 void encodeEraseRecord(TRecordContext& context, int row, wxString& out) {
-    constexpr int firstRow = 2, lastRow = 500, lastV1Row = 230;
-    const int last = context.RecordVersion == V2 ? lastRow : lastV1Row;
+    constexpr int firstRow = 2;
+    const int last =
+        context.RecordVersion == V2 ? RadioCatalogue::NP25Memories : RadioCatalogue::RP25Memories;
     out = row >= firstRow && row <= last ? "T204" + HexField(row, 4) + "10" : wxString();
 }
 
@@ -148,5 +147,5 @@ bool IsGoodConfigText(const wxString& text) {
 }
 
 void SetTFlag(wxGrid* grid, int row, int bits) {
-    grid->SetCellValue(row, TFLG, FlagText(ReadHex(grid->GetCellValue(row, TFLG)) | bits));
+    grid->SetCellValue(row, TFLG, FlagText(TransferFlags(grid, row) | bits));
 }

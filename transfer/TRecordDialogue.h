@@ -1,6 +1,7 @@
 // What the files of the digital driver share while one transfer runs.
 #pragma once
 
+#include "catalogue/MemoryRow.h"
 #include "transfer/TransferContext.h"
 
 #include <set>
@@ -40,18 +41,6 @@ enum TransferState : std::int32_t {
     PurgeState = -2,
     DataState = -1,
 };
-
-/// All operating modes, as bits of RadioModes.
-constexpr std::uint32_t AllModes = 0x70;
-
-/// MFLG: the row is a shadow if any of these is set.
-constexpr int ShadowBits = 0x07;
-/// TFLG: the row is to be erased in the radio. Nothing in the program sets it.
-constexpr int EraseFlag = 0x02;
-/// TFLG: the row makes the radio be purged. Nothing in the program sets it.
-constexpr int MarkedFlag = 0x04;
-/// TFLG: the radio holds the row.
-constexpr int InRadioFlag = 0x40;
 
 /// One transfer. The context holds what the protocol is about; this holds what it is done with.
 struct TRecordDialogue {

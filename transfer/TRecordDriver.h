@@ -24,6 +24,6 @@ int DoTransferData(TRecordContext& context, wxGrid* grid, int mode);
 /// Sends the end record; no answer is waited for.
 void SendEndRecord(TRecordContext& context);
 
-/// The operating mode that a row of the current page uses and radioModes lacks: 0x40 for "w", 0x20 for "n",
-/// 0x10 for "D", or 0.
+/// The operating mode that a row of the current page uses and radioModes lacks: WideMode,
+/// NarrowMode or DigitalMode, or 0.
 std::uint32_t CheckForInvalidOpModes(TRecordContext& context, int row, std::uint32_t radioModes);

@@ -13,15 +13,11 @@ using namespace RadioCatalogue;
 
 namespace {
 
-// V1 radios of the second generation keep their guard memories right behind the 230 others.
-constexpr int LastV1Memory = 230, LastNP25Memory = 500, GuardOffset = LastNP25Memory - LastV1Memory;
-constexpr int SecondGenerationRadio = 7;
-
 constexpr size_t DescriptionLength = 8, FrequencyLength = 8, HertzTextLength = 9;
 constexpr int MegahertzDecimals = 6;
 constexpr std::uint32_t Megahertz = 1'000'000;
-constexpr int LastRowsMark = 0x80, StoredLowFlags = 0x7F, HighFlags = 3, HighFlagsShift = 8;
-constexpr int GuardZone = 16, ZoneShift = 4;
+constexpr int LowFlags = 0xFF & ~GuardFlag, HighFlagsShift = 8;
+constexpr int ZoneShift = 4;
 constexpr int NacMask = 0xFFF, SquelchShift = 12;
 constexpr int NoSquelchValue = 0x0A;
 
@@ -83,9 +79,9 @@ int ZoneBits(int zoneValue) {
     return zoneValue == 0 ? 0 : (zoneValue - 1) << ZoneShift;
 }
 
-/// A number of a row as V1 knows it, where the guard rows follow memory 230.
+/// A number of a row as V1 knows it, where the guard rows follow the last memory of the first generation.
 int GuardNumber(int number, int row) {
-    return number - (row > LastNP25Memory ? GuardOffset : 0);
+    return number - (row > NP25Memories ? NP25GuardShift : 0);
 }
 
 int PrimaryOf(const TRecordSource& source) {
@@ -119,17 +115,17 @@ wxString FieldText(const TRecordField& field, const TRecordSource& source) {
     case TRecordKind::RowAddress:
         return number(source.row);
     case TRecordKind::FlagsLow:
-        return number((FlagsOf(source) & StoredLowFlags) |
-                      (source.row >= source.gridRows - 2 ? LastRowsMark : 0));
+        return number((FlagsOf(source) & LowFlags) |
+                      (source.row >= source.gridRows - GuardRowTotal ? GuardFlag : 0));
     case TRecordKind::FlagsHigh:
-        return number((FlagsOf(source) >> HighFlagsShift) & HighFlags);
+        return number((FlagsOf(source) & HighRadioFlags) >> HighFlagsShift);
     case TRecordKind::Decimal:
     case TRecordKind::UnitId:
     case TRecordKind::PaddedUnitId:
         return number(ReadDecimal(cell));
     case TRecordKind::ZoneByte:
         // Meant: V1 has its guard memories in the last zone, whatever their ZONE.
-        return number(ZoneBits(source.row > LastNP25Memory ? GuardZone : ZoneValue(cell, source.type)));
+        return number(ZoneBits(source.row > NP25Memories ? RP25GuardZone + 1 : ZoneValue(cell, source.type)));
     case TRecordKind::ZoneWord:
         return number(ZoneBits(ZoneValue(cell, source.type)));
     case TRecordKind::Description:
@@ -198,7 +194,7 @@ public:
             break;
         case TRecordKind::GuardAddress:
             values.row = static_cast<int>(number);
-            m_offset = m_radio == SecondGenerationRadio && values.row > LastV1Memory ? GuardOffset : 0;
+            m_offset = m_radio == Kdrv716B && values.row > RP25Memories ? NP25GuardShift : 0;
             values.row += m_offset;
             Add(field.column, NumberText(values.row));
             break;
@@ -206,10 +202,10 @@ public:
             values.row = static_cast<int>(number);
             break;
         case TRecordKind::FlagsLow:
-            values.flags |= static_cast<int>(number) & StoredLowFlags;
+            values.flags |= static_cast<int>(number) & LowFlags;
             break;
         case TRecordKind::FlagsHigh:
-            values.flags |= (static_cast<int>(number) & HighFlags) << HighFlagsShift;
+            values.flags |= static_cast<int>(number << HighFlagsShift) & HighRadioFlags;
             break;
         case TRecordKind::Flags:
             values.flags = static_cast<int>(number);
@@ -306,16 +302,15 @@ int PrimaryNumber(const wxString& flags, const wxString& shad, const wxString& p
 
 int FlagsToSend(const wxString& flags, const wxString& scan, int type) {
     const int stored = ReadHex(flags);
-    if (!IsP25Type(type) || (stored & (ShadowIndexMask | ShadowLinkFlag)))
+    if (!IsP25Type(type) || (stored & LinkFlags))
         return stored;
     return scan == "Y" ? stored | ScanFlag : stored & ~ScanFlag;
 }
 
 bool FitsRecordV1(int type, int row) {
-    constexpr int LastRP25Row = 232;
     if (type == RP25)
-        return row <= LastRP25Row;
-    return type == NP25 && (row <= LastV1Memory || row > LastNP25Memory);
+        return row <= RP25Memories + GuardRowTotal;
+    return type == NP25 && (row <= RP25Memories || row > NP25Memories);
 }
 
 wxString MakeTRecord(std::span<const TRecordField> layout, const TRecordSource& source) {

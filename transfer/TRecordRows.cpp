@@ -12,14 +12,12 @@
 #include <algorithm>
 #include <wx/grid.h>
 
+using namespace RadioCatalogue;
+
 namespace {
 
-/// The highest memory and the highest numbered zone that the old layout can name.
-constexpr int OldRows = 230;
-constexpr int OldZones = 15;
-/// The radio with a second bank of memories, the first of the rows that its old layout lacks, and the guard
-/// row behind them.
-constexpr int BankedRadio = 7, FirstMissingRow = 231, FirstGuardRow = 501;
+/// The highest numbered zone that the old layout can name for a memory. The guard rows have the next one.
+constexpr int LastV1Zone = RP25GuardZone;
 
 /// Columns whose selection counts: any will do for a selection of whole rows.
 constexpr int MemorySelectionColumn = 10, GuardSelectionColumn = 0;
@@ -28,18 +26,10 @@ int Decimal(const TRecordDialogue& dialogue, int row, int column) {
     return ReadDecimal(dialogue.grid->GetCellValue(row, column));
 }
 
-int Flags(const TRecordDialogue& dialogue, int row, int column) {
-    return ReadHex(dialogue.grid->GetCellValue(row, column));
-}
-
 /// The number of the primary that the record of a row names.
 int PrimaryOf(const TRecordDialogue& dialogue, int row) {
     const auto text = [&](int column) { return dialogue.grid->GetCellValue(row, column); };
     return PrimaryNumber(text(MFLG), text(SHAD), text(PRIM));
-}
-
-bool IsShadow(const TRecordDialogue& dialogue, int row) {
-    return (Flags(dialogue, row, MFLG) & ShadowBits) != 0;
 }
 
 bool IsMemory(const TRecordDialogue& dialogue, int row) {
@@ -47,7 +37,7 @@ bool IsMemory(const TRecordDialogue& dialogue, int row) {
 }
 
 bool IsGuard(const TRecordDialogue& dialogue, int row) {
-    return row >= dialogue.rowCount - 2;
+    return row >= dialogue.rowCount - GuardRowTotal;
 }
 
 bool IsSelected(const TRecordDialogue& dialogue, int row) {
@@ -57,7 +47,7 @@ bool IsSelected(const TRecordDialogue& dialogue, int row) {
 
 /// A row without these bits, a blank one above all, stays as it is.
 void ClearTFlag(const TRecordDialogue& dialogue, int row, int bits) {
-    if (const int flags = Flags(dialogue, row, TFLG); flags & bits)
+    if (const int flags = TransferFlags(dialogue.grid, row); flags & bits)
         dialogue.grid->SetCellValue(row, TFLG, FlagText(flags & ~bits));
 }
 
@@ -94,10 +84,10 @@ void MarkFamily(TRecordDialogue& dialogue, int shadow) {
 }
 
 bool FitsOldLayout(const TRecordDialogue& dialogue, int row) {
-    if (PrimaryOf(dialogue, row) > OldRows || Decimal(dialogue, row, ZONE) > OldZones)
+    if (PrimaryOf(dialogue, row) > RP25Memories || Decimal(dialogue, row, ZONE) > LastV1Zone)
         return false;
     for (int column = SHD0; column <= SHD6; ++column)
-        if (Decimal(dialogue, row, column) > OldRows)
+        if (Decimal(dialogue, row, column) > RP25Memories)
             return false;
     return true;
 }
@@ -107,17 +97,17 @@ void EvaluateRow(TRecordDialogue& dialogue, int row) {
     const bool guard = IsGuard(dialogue, row);
     if (IsSelected(dialogue, row))
         Select(dialogue, row);
-    const int flags = Flags(dialogue, row, TFLG);
+    const int flags = TransferFlags(dialogue.grid, row);
     if (!(flags & DEF) || !(flags & (SEL | EraseFlag)))
         return;
     ++dialogue.rowsToSend;
     // Meant: of the rows that the old layout doesn't know nothing is asked.
-    if (!guard && row < OldRows && !FitsOldLayout(dialogue, row))
+    if (!guard && row < RP25Memories && !FitsOldLayout(dialogue, row))
         context.XferFlags &= ~FitsV1;
     context.InvalidModes |= CheckForInvalidOpModes(context, row, context.RadioModes);
     if (!guard && (flags & MarkedFlag))
         context.XferFlags |= HasMarkedRow;
-    if (IsShadow(dialogue, row)) {
+    if (IsShadow(dialogue.grid, row)) {
         context.XferFlags |= NeedsShadowPass;
         MarkFamily(dialogue, row);
     }
@@ -134,7 +124,7 @@ bool TakesPart(const TRecordDialogue& dialogue, int row, int flags) {
 }
 
 void ChooseRecord(TRecordDialogue& dialogue, int row) {
-    if (dialogue.Needs(PrimaryPass) == IsShadow(dialogue, row))
+    if (dialogue.Needs(PrimaryPass) == IsShadow(dialogue.grid, row))
         return;
     wxString line;
     encodeTrecord(dialogue.context, dialogue.grid, row, line);
@@ -146,7 +136,7 @@ void ChooseRecord(TRecordDialogue& dialogue, int row) {
 
 void ChooseErasure(TRecordDialogue& dialogue, int row, int flags) {
     if (!dialogue.Needs(PrimaryPass) || dialogue.Needs(OtherRadio) || !(flags & InRadioFlag) ||
-        IsShadow(dialogue, row))
+        IsShadow(dialogue.grid, row))
         return;
     wxString line;
     encodeEraseRecord(dialogue.context, row, line);
@@ -164,7 +154,7 @@ bool SelectionLeavesOutRows(const TRecordDialogue& dialogue) {
 bool SurvivesPurge(const TRecordDialogue& dialogue, int row) {
     if (!IsMemory(dialogue, row))
         return false;
-    const int flags = Flags(dialogue, row, TFLG);
+    const int flags = TransferFlags(dialogue.grid, row);
     const bool goesOut = dialogue.grid->IsInSelection(row, GuardSelectionColumn) ||
                          dialogue.markedRows.count(row) != 0 || (flags & InRadioFlag);
     return (flags & EraseFlag) || ((flags & DEF) && goesOut);
@@ -180,11 +170,11 @@ std::uint32_t CheckForInvalidOpModes(TRecordContext&, int row, std::uint32_t rad
     const wxString mode = CurrentGrid()->GetCellValue(row, MODE);
     std::uint32_t needed = 0;
     if (mode == "w")
-        needed = 0x40;
+        needed = WideMode;
     else if (mode == "n")
-        needed = 0x20;
+        needed = NarrowMode;
     else if (mode == "D")
-        needed = 0x10;
+        needed = DigitalMode;
     return needed & ~radioModes;
 }
 
@@ -196,11 +186,12 @@ void EvaluateRows(TRecordDialogue& dialogue) {
 
 void ChooseRowLine(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
-    if (CurrentParameters().Radio == BankedRadio && context.RecordVersion == 1 &&
-        context.Index == FirstMissingRow)
-        context.Index = FirstGuardRow;
+    // The old layout has the guard rows right behind the memories that it knows.
+    if (CurrentParameters().Radio == Kdrv716B && context.RecordVersion == 1 &&
+        context.Index == RP25Memories + 1)
+        context.Index += NP25GuardShift;
     const int row = context.Index;
-    const int flags = Flags(dialogue, row, TFLG);
+    const int flags = TransferFlags(dialogue.grid, row);
     if (!TakesPart(dialogue, row, flags) || !(flags & DEF))
         return;
     if (flags & EraseFlag)
@@ -237,6 +228,6 @@ bool PurgeMayCostMemories(const TRecordDialogue& dialogue) {
 void KeepContentOfRead(const TRecordDialogue& dialogue) {
     HeldByRadio = {RadioStamp, {}, false};
     for (int row = 1; row < dialogue.rowCount; ++row)
-        if (Flags(dialogue, row, TFLG) & InRadioFlag)
+        if (TransferFlags(dialogue.grid, row) & InRadioFlag)
             HeldByRadio.rows.insert(row);
 }

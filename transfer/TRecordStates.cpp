@@ -25,11 +25,11 @@ constexpr std::uint32_t HardwareProtocol = 2;
 bool UserAcceptsModes(const TRecordContext& context) {
     wxString text =
         "The following operating modes are used in the memory data but not enabled in the radio:\n";
-    if (context.InvalidModes & 0x40)
+    if (context.InvalidModes & WideMode)
         text += "    Analog Wideband\n";
-    if (context.InvalidModes & 0x20)
+    if (context.InvalidModes & NarrowMode)
         text += "    Analog Narrowband\n";
-    if (context.InvalidModes & 0x10)
+    if (context.InvalidModes & DigitalMode)
         text += "    P25 Conventional\n";
     text += "\nThe radio will not transmit in disabled modes (affected memories become receive only).\n"
             "\nDo you wish to continue the transfer?";

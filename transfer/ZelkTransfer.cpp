@@ -23,8 +23,6 @@ using namespace RadioCatalogue;
 namespace {
 
 constexpr int NoRadio = -1;
-constexpr int LastSingleChannelRadio = 5;
-constexpr int SmallestRadio = 3; // KRV-214, of 100 channels; its sisters have 120
 
 void Refuse(const wxString& text) {
     wxMessageBox(text, "Error!", wxOK | wxCENTRE);
@@ -79,7 +77,8 @@ bool MainAndGuardsAreSelected() {
     // Meant: the default row stands for the main channels.
     if (page.Rows > 0 && !RowHasData(0))
         return false;
-    const int firstGuard = page.Radio == SmallestRadio ? 101 : 121;
+    // Of the single channel radios KRV-214 has 100 channels, the others 120.
+    const int firstGuard = page.Radio == Krv214 ? 101 : 121;
     return GuardIsSelected(firstGuard) && GuardIsSelected(firstGuard + 1);
 }
 
@@ -114,8 +113,7 @@ void ZelkFrame::OnUpload(wxCommandEvent&) {
     if (CurrentGrid()->GetSelectedRows().empty())
         return Refuse("No data selected!");
     const DriverChoice choice = ChooseDriver(page.Type, page.Band, TransferDirection::Write);
-    if (choice.driver == TransferDriver::Analog && page.Radio <= LastSingleChannelRadio &&
-        !MainAndGuardsAreSelected())
+    if (choice.driver == TransferDriver::Analog && page.Radio <= Krv305 && !MainAndGuardsAreSelected())
         return Refuse("For single channel analog radios\n(KRV-21, 47, 214, 214B 305):\n\n"
                       "At least one Main channel and\n both Guards must be selected!");
     if (page.Type == O12)

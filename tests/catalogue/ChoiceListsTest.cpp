@@ -87,6 +87,11 @@ TEST_F(ChoiceLists, HoldTheZonesOfBothGenerations) {
     EXPECT_EQ(Zones32, TextsOf(ZoneNames32));
 }
 
+TEST_F(ChoiceLists, EndWithTheZonesOfTheGuardRows) {
+    EXPECT_EQ(15, RP25GuardZone);
+    EXPECT_EQ(31, NP25GuardZone);
+}
+
 TEST_F(ChoiceLists, ZoneListStartsWithAll32Zones) {
     EXPECT_EQ(Zones32, TextsOf(ZoneList));
 }

@@ -1,5 +1,6 @@
 #include "catalogue/ColumnTables.h"
 
+#include "catalogue/TextNumbers.h"
 #include "tests/catalogue/PrintedColumns.h"
 #include "tests/catalogue/PrintedRadios.h"
 
@@ -45,13 +46,34 @@ TEST(DefaultRows, HoldAll32CellsOfEachRow) {
 
 TEST(MemoryFlags, HaveTheBitsOfTheRadioRecords) {
     EXPECT_EQ(0x007, ShadowIndexMask);
+    EXPECT_EQ(0x008, ScanFlag);
     EXPECT_EQ(0x010, ShadowLinkFlag);
+    EXPECT_EQ(0x017, LinkFlags);
+    EXPECT_EQ(0x060, RadioFlags);
+    EXPECT_EQ(0x080, GuardFlag);
+    EXPECT_EQ(0x300, HighRadioFlags);
 }
 
 TEST(TransferFlags, HaveTheirBitsAndStartTexts) {
     EXPECT_EQ(0x80, DEF);
+    EXPECT_EQ(0x40, InRadioFlag);
+    EXPECT_EQ(0x20, MadeFlag);
     EXPECT_EQ(0x08, ZoneTakenFlag);
+    EXPECT_EQ(0x04, MarkedFlag);
+    EXPECT_EQ(0x02, EraseFlag);
     EXPECT_EQ(0x01, SEL);
     EXPECT_STREQ("A0", TflgMade);
     EXPECT_STREQ("C0", TflgRead);
+}
+
+TEST(TransferFlags, OfRowsMadeAndReadAreTheirStartTexts) {
+    EXPECT_EQ(FlagText(DEF | MadeFlag), TflgMade);
+    EXPECT_EQ(FlagText(DEF | InRadioFlag), TflgRead);
+}
+
+TEST(OperatingModes, HaveTheBitsOfTheRadiosAnswer) {
+    EXPECT_EQ(0x40u, WideMode);
+    EXPECT_EQ(0x20u, NarrowMode);
+    EXPECT_EQ(0x10u, DigitalMode);
+    EXPECT_EQ(0x70u, AllModes);
 }

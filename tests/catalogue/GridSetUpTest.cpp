@@ -33,10 +33,11 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(
     Each, GridSetUpOfType,
-    testing::Values(TypeTarget{printed::ANFM, 3, 0, 102}, TypeTarget{printed::RP25, 6, 0, 232},
-                    TypeTarget{printed::NP25, 7, 0, 502}, TypeTarget{printed::MDLX, 17, 5, 500},
-                    TypeTarget{printed::O12, 2, 0, 6}, TypeTarget{printed::KDAR, 8, 0, 100},
-                    TypeTarget{printed::ANAM, 10, 1, 200}, TypeTarget{printed::FXAM, 10, 1, 200}),
+    testing::Values(TypeTarget{printed::ANFM, Krv214, 0, 102}, TypeTarget{printed::RP25, Kdrv716, 0, 232},
+                    TypeTarget{printed::NP25, Kdrv716B, 0, 502},
+                    TypeTarget{printed::MDLX, Kdrv4xxx, ModuleSlot, 500},
+                    TypeTarget{printed::O12, Orv12, 0, 6}, TypeTarget{printed::KDAR, Kdar2000, 0, 100},
+                    TypeTarget{printed::ANAM, Krv620, 1, 200}, TypeTarget{printed::FXAM, Krv620, 1, 200}),
     [](const auto& tested) { return printed::Types[tested.param.type].tag; });
 
 /// The toolkit lets only derived grids read the minimal width.
@@ -128,7 +129,7 @@ TEST_F(GridSetUp, GivesTheRowLabelsTheWidthOfTheirText) {
 }
 
 TEST_F(GridSetUp, FillsItsPanelWithABorderOfFive) {
-    AddPage(3, 0);
+    AddPage(Krv214, 0);
     wxWindow* panel = CurrentGrid()->GetParent();
     EXPECT_EQ(MainFrame->m_pagePanels[1], panel);
     EXPECT_EQ(MainFrame->m_notebook, panel->GetParent());
@@ -142,7 +143,7 @@ TEST_F(GridSetUp, FillsItsPanelWithABorderOfFive) {
 }
 
 TEST_F(GridSetUp, FillsABlankRowWhenACellOfItIsAboutToChange) {
-    AddPage(3, 0);
+    AddPage(Krv214, 0);
     wxGridEvent event(CurrentGrid()->GetId(), wxEVT_GRID_CELL_CHANGING, CurrentGrid(), 7, DESC);
     CurrentGrid()->GetEventHandler()->ProcessEvent(event);
     EXPECT_EQ("007", Cell(7, MNUM));
@@ -151,7 +152,7 @@ TEST_F(GridSetUp, FillsABlankRowWhenACellOfItIsAboutToChange) {
 
 TEST_F(GridSetUp, OfANewPageBecomesTheCurrentTabUnderTheRadioName) {
     ASSERT_EQ(1, PageCount);
-    AddPage(12, 1);
+    AddPage(Krv630Qnt, 1);
     EXPECT_EQ(2, PageCount);
     EXPECT_EQ(1, CurrentPage);
     ASSERT_EQ(2u, MainFrame->m_notebook->GetPageCount());
@@ -163,6 +164,6 @@ TEST_F(GridSetUp, OfANewPageBecomesTheCurrentTabUnderTheRadioName) {
 
 TEST_F(GridSetUp, OfANewPageClearsTheFlagsOfThePageBefore) {
     PageParameters[0].Flags = 0x12;
-    AddPage(3, 0);
+    AddPage(Krv214, 0);
     EXPECT_EQ(0, PageParameters[0].Flags);
 }

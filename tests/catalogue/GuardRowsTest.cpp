@@ -46,11 +46,11 @@ TEST_F(GuardRows, AreAskedForByPage) {
 }
 
 TEST_F(GuardRows, AppearWhenTheKrv610ChangesFromFM403ToFM138) {
-    Retarget(9, 1);
+    Retarget(Krv610, 1);
     EXPECT_FALSE(HasGuardRows(0));
     EXPECT_EQ(-1, GD1);
     EXPECT_FALSE(IsGuardRow(200));
-    Retarget(9, 0);
+    Retarget(Krv610, 0);
     EXPECT_TRUE(HasGuardRows(0));
     EXPECT_EQ(201, GD1);
     EXPECT_EQ(202, GD2);
@@ -72,14 +72,14 @@ TEST_F(GuardRows, AreTheLastTwoRows) {
 }
 
 TEST_F(GuardRows, AreNoneOnAPageWithoutThem) {
-    Retarget(8, 0);
+    Retarget(Kdar2000, 0);
     for (int row : {0, 1, 98, 99, 100})
         EXPECT_FALSE(IsGuardRow(row)) << row;
 }
 
 TEST_F(GuardRows, LockWhatTheRadioFixesOnAnalogPages) {
-    for (const auto& [radio, slot] :
-         std::initializer_list<std::pair<int, int>>{{0, 0}, {3, 0}, {9, 0}, {11, 1}, {12, 0}}) {
+    for (const auto& [radio, slot] : std::initializer_list<std::pair<int, int>>{
+             {Krv21, 0}, {Krv214, 0}, {Krv610, 0}, {Krv630, 1}, {Krv630Qnt, 0}}) {
         Retarget(radio, slot);
         const wxGrid* grid = CurrentGrid();
         for (int col : {MNUM, SCAN, RTON, RCOD}) {
@@ -96,7 +96,7 @@ TEST_F(GuardRows, LockWhatTheRadioFixesOnAnalogPages) {
 }
 
 TEST_F(GuardRows, LockNumberScanAndZoneOnP25Pages) {
-    for (int radio : {6, 7}) {
+    for (int radio : {Kdrv716, Kdrv716B}) {
         AddPage(radio, 0);
         const wxGrid* grid = CurrentGrid();
         for (int col : {MNUM, SCAN, ZONE}) {
@@ -129,7 +129,7 @@ TEST_F(GuardRows, ComeBackAtTheGuardRowsOfANewTargetWithTheirNumbers) {
     FillRow(121, "a");
     FillRow(122, "b");
     SaveGuardRows(MainFrame);
-    Retarget(9, 0);
+    Retarget(Krv610, 0);
     RestoreGuardRows(MainFrame, true);
     EXPECT_EQ("201", Cell(201, MNUM));
     EXPECT_EQ("202", Cell(202, MNUM));

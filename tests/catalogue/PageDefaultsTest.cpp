@@ -54,7 +54,7 @@ TEST_F(PageDefaults, OfAnAnalogPageLeaveAllMemoryRowsBlank) {
 }
 
 TEST_F(PageDefaults, OfAFirstGenerationP25PageFillRow1AndBothGuards) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     EXPECT_EQ((std::vector<int>{1, 231, 232}), FilledRows());
     ExpectStartingRow(1, 4, "1");
     ExpectStartingRow(231, 4, "16");
@@ -64,7 +64,7 @@ TEST_F(PageDefaults, OfAFirstGenerationP25PageFillRow1AndBothGuards) {
 }
 
 TEST_F(PageDefaults, OfASecondGenerationP25PageFillRow1AndBothGuards) {
-    AddPage(7, 0);
+    AddPage(Kdrv716B, 0);
     EXPECT_EQ((std::vector<int>{1, 501, 502}), FilledRows());
     ExpectStartingRow(1, 9, "1");
     ExpectStartingRow(501, 9, "X");
@@ -74,34 +74,34 @@ TEST_F(PageDefaults, OfASecondGenerationP25PageFillRow1AndBothGuards) {
 }
 
 TEST_F(PageDefaults, SetTheZoneListForTheGenerationOfTheP25Page) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     ASSERT_EQ(16u, RadioCatalogue::ZoneList.size());
     EXPECT_EQ("16", RadioCatalogue::ZoneList.Last());
-    AddPage(7, 0);
+    AddPage(Kdrv716B, 0);
     ASSERT_EQ(32u, RadioCatalogue::ZoneList.size());
     EXPECT_EQ("X", RadioCatalogue::ZoneList.Last());
-    AddPage(3, 0);
+    AddPage(Krv214, 0);
     EXPECT_EQ(32u, RadioCatalogue::ZoneList.size()) << "an analog page leaves the list alone";
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     EXPECT_EQ(16u, RadioCatalogue::ZoneList.size());
 }
 
 TEST_F(PageDefaults, NameZonesByTheirOwnTypeSoThatGuardsNeverLoseTheirZoneToAnEarlierPage) {
-    AddPage(6, 0);
-    AddPage(7, 0);
+    AddPage(Kdrv716, 0);
+    AddPage(Kdrv716B, 0);
     EXPECT_EQ("1", Cell(1, ZONE));
     EXPECT_EQ("X", Cell(501, ZONE)) << "the page before has 16 zones";
     EXPECT_EQ("X", Cell(502, ZONE));
 }
 
 TEST_F(PageDefaults, LeaveNothingSelected) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     EXPECT_FALSE(CurrentGrid()->IsSelection());
 }
 
 TEST_F(PageDefaults, FillNoRowThatIsSelectedAtThatMoment) {
     // A departure: a selection that stands would otherwise be overwritten in silence.
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     SetCell(7, DESC, "KEEP ME");
     SelectRows({7});
     SetPageDefaults(MainFrame, CurrentPage);

@@ -28,7 +28,7 @@ TEST_F(PageParametersTest, AreThoseOfEveryRadioAndBandSlot) {
 TEST_F(PageParametersTest, HaveNoFileAfterATargetIsSet) {
     PageStrings[0].FileName = "coast";
     PageStrings[0].FileDir = "/home/";
-    SetPageParameters(MainFrame, 0, 3, 0);
+    SetPageParameters(MainFrame, 0, Krv214, 0);
     EXPECT_EQ("", PageStrings[0].FileName);
     EXPECT_EQ("", PageStrings[0].FileDir);
 }
@@ -36,7 +36,7 @@ TEST_F(PageParametersTest, HaveNoFileAfterATargetIsSet) {
 TEST_F(PageParametersTest, AcceptModesNarrowAndDigitalUntilTheRadioTells) {
     OpModes[0] = 0x40;
     OpModes[1] = 0x40;
-    SetPageParameters(MainFrame, 0, 6, 0);
+    SetPageParameters(MainFrame, 0, Kdrv716, 0);
     EXPECT_EQ(0x30u, OpModes[0]);
     EXPECT_EQ(0x40u, OpModes[1]) << "another page's";
 }
@@ -44,7 +44,7 @@ TEST_F(PageParametersTest, AcceptModesNarrowAndDigitalUntilTheRadioTells) {
 TEST_F(PageParametersTest, FlagsOfTheCurrentPageGoNotThoseOfThePageNamed) {
     PageParameters[0].Flags = 0x12;
     PageParameters[1].Flags = 0x08;
-    SetPageParameters(MainFrame, 1, 3, 0);
+    SetPageParameters(MainFrame, 1, Krv214, 0);
     EXPECT_EQ(0, PageParameters[0].Flags);
     EXPECT_EQ(0x08, PageParameters[1].Flags);
     EXPECT_EQ(102, PageParameters[1].Rows);
@@ -52,7 +52,7 @@ TEST_F(PageParametersTest, FlagsOfTheCurrentPageGoNotThoseOfThePageNamed) {
 }
 
 TEST_F(PageParametersTest, ClearTheZonesOfAP25Page) {
-    for (int radio : {6, 7}) {
+    for (int radio : {Kdrv716, Kdrv716B}) {
         ZoneSlots.fill(5);
         SetPageParameters(MainFrame, 1, radio, 0);
         EXPECT_EQ(5, SlotsTaken(0, 31)) << "radio " << radio;
@@ -62,7 +62,7 @@ TEST_F(PageParametersTest, ClearTheZonesOfAP25Page) {
 }
 
 TEST_F(PageParametersTest, LeaveTheZonesAloneOnAnyOtherPage) {
-    for (int radio : {0, 2, 8, 17}) {
+    for (int radio : {Krv21, Orv12, Kdar2000, Kdrv4xxx}) {
         ZoneSlots.fill(5);
         SetPageParameters(MainFrame, 1, radio, 0);
         for (int32_t taken : ZoneSlots)
@@ -82,7 +82,7 @@ TEST_F(PageParametersTest, SetTheGuardRowsOfEveryRadioAndBandSlot) {
 }
 
 TEST_F(PageParametersTest, OfANewPageSetTheGuardRowsForItEvenBeforeItIsCurrent) {
-    SetPageParameters(MainFrame, 1, 9, 0);
+    SetPageParameters(MainFrame, 1, Krv610, 0);
     EXPECT_EQ(0, CurrentPage);
     EXPECT_EQ(201, GD1);
     EXPECT_EQ(202, GD2);

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 using namespace RadioCatalogue;
 
 TEST(RadioTable, HoldsEachRadioUnderItsNameAndLabel) {
@@ -72,6 +74,52 @@ TEST(TypeTable, NumbersTheTypesInTheirOrder) {
     EXPECT_EQ(5, KDAR);
     EXPECT_EQ(6, ANAM);
     EXPECT_EQ(7, FXAM);
+}
+
+TEST(RadioIndices, AreThePositionsOfTheirNames) {
+    constexpr std::pair<RadioIndex, const char*> indices[] = {
+        {Krv21, "KRV-21"},          {Krv47, "KRV-47"},       {Orv12, "ORV-12"},     {Krv214, "KRV-214"},
+        {Krv214B, "KRV-214B"},      {Krv305, "KRV-305"},     {Kdrv716, "KDRV-716"}, {Kdrv716B, "KDRV-716B"},
+        {Kdar2000, "KDAR-2000"},    {Krv610, "KRV-610"},     {Krv620, "KRV-620"},   {Krv630, "KRV-630"},
+        {Krv630Qnt, "KRV-630_QNT"}, {Krv650, "KRV-650"},     {Krv656, "KRV-656"},   {Krv666, "KRV-666"},
+        {Kdrv8400, "KDRV-8400"},    {Kdrv4xxx, "KDRV-4xxx"},
+    };
+    ASSERT_EQ(18u, std::size(indices));
+    for (int i = 0; i < 18; ++i) {
+        EXPECT_EQ(i, indices[i].first) << indices[i].second;
+        EXPECT_STREQ(indices[i].second, RadioName[i]);
+    }
+}
+
+TEST(BandIds, AreThePositionsOfTheirNames) {
+    constexpr std::pair<BandId, const char*> ids[] = {
+        {Fm30To50, "FM 30-50"},     {Fm66To88, "FM 66-88"},     {Am108To138, "AM 108-138"},
+        {Am118To138, "AM 118-138"}, {Fm136To174, "FM 136-174"}, {Fm138To174, "FM 138-174"},
+        {Am225To400, "AM 225-400"}, {Fm403To512, "FM 403-512"}, {K6Module, "K6 3-BAND"},
+    };
+    ASSERT_EQ(9u, std::size(ids));
+    for (int i = 0; i < 9; ++i) {
+        EXPECT_EQ(i, ids[i].first) << ids[i].second;
+        EXPECT_STREQ(ids[i].second, BandName[i]);
+    }
+    EXPECT_EQ(9, K7Module) << "one past the tables";
+}
+
+TEST(BandIds, OfTheFirstModuleAreThree) {
+    for (int band = -1; band <= 9; ++band)
+        EXPECT_EQ(band == 0 || band == 2 || band == 6, IsK6Band(band)) << band;
+}
+
+TEST(BandChoice, BelongsToRadios9To17) {
+    for (int radio = -1; radio <= 20; ++radio)
+        EXPECT_EQ(radio >= 9 && radio <= 17, HasBandChoice(radio)) << radio;
+}
+
+TEST(MemoryCounts, AreThoseOfBothP25Generations) {
+    EXPECT_EQ(230, RP25Memories);
+    EXPECT_EQ(500, NP25Memories);
+    EXPECT_EQ(2, GuardRowTotal);
+    EXPECT_EQ(270, NP25GuardShift);
 }
 
 TEST(AnalogRadioCodes, AreThoseOfTheRadios) {

@@ -42,7 +42,7 @@ class RowCompleteness : public RowOperations {};
 TEST_F(RowOperations, ReadAllCellsOfARowOfThePageNamed) {
     for (int col = 0; col < 32; ++col)
         SetCell(5, col, wxString::Format("c%d", col));
-    AddPage(3, 0);
+    AddPage(Krv214, 0);
     const wxArrayString values = GetRowValues(0, 5);
     ASSERT_EQ(32u, values.size());
     for (size_t col = 0; col < 32; ++col)
@@ -183,8 +183,9 @@ TEST_F(CopyValues, NumbersDescriptionsWithin8CharactersOnP25Pages) {
         const char* expected;
     };
     const Line lines[] = {
-        {6, "VHF  136", 1, "VHF  001"}, {6, "ABCDEFG1", 230, "ABCDE230"}, {7, "ABCDEF12", 500, "ABCDE500"},
-        {7, "MEM001", 20, "MEM020"},    {6, "LETTERS", 20, "LETTERS"},
+        {Kdrv716, "VHF  136", 1, "VHF  001"},    {Kdrv716, "ABCDEFG1", 230, "ABCDE230"},
+        {Kdrv716B, "ABCDEF12", 500, "ABCDE500"}, {Kdrv716B, "MEM001", 20, "MEM020"},
+        {Kdrv716, "LETTERS", 20, "LETTERS"},
     };
     for (const Line& line : lines) {
         if (CurrentParameters().Radio != line.radio)
@@ -194,7 +195,7 @@ TEST_F(CopyValues, NumbersDescriptionsWithin8CharactersOnP25Pages) {
 }
 
 TEST_F(CopyValues, NumbersDescriptionsWithin9CharactersOnTheKdar) {
-    Retarget(8, 0);
+    Retarget(Kdar2000, 0);
     EXPECT_EQ("ABCDEF020", Numbered("ABCDEFGH1", 20));
 }
 
@@ -208,7 +209,7 @@ TEST_F(CopyValues, NumbersEachRowOfTheSelectionByItself) {
 }
 
 TEST_F(CopyValues, GivesP25RowsTheirPrimaryAndAZoneWithRoom) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     ClearZoneSlots(1);
     wxArrayString values = GetRowValues(1, 0);
     values[ZONE] = "9";
@@ -225,7 +226,7 @@ TEST_F(CopyValues, GivesP25RowsTheirPrimaryAndAZoneWithRoom) {
 }
 
 TEST_F(CopyValues, KeepsThePrimaryOfP25RowsThatAreNotRenumbered) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     wxArrayString values = GetRowValues(1, 0);
     values[PRIM] = "017";
     SelectRows({2});
@@ -236,7 +237,7 @@ TEST_F(CopyValues, KeepsThePrimaryOfP25RowsThatAreNotRenumbered) {
 }
 
 TEST_F(CopyValues, LeavesAP25RowTheZoneSlotThatItHoldsWhenTflgStays) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     const int before = SlotsTaken(1, 0);
     SetCell(2, TFLG, "C8");
     SelectRows({2});
@@ -246,7 +247,7 @@ TEST_F(CopyValues, LeavesAP25RowTheZoneSlotThatItHoldsWhenTflgStays) {
 }
 
 TEST_F(CopyValues, FillsZonesOneAfterTheOther) {
-    AddPage(7, 0);
+    AddPage(Kdrv716B, 0);
     ClearZoneSlots(1);
     CurrentGrid()->SelectBlock(1, 0, 40, 31);
     CopyValuesToSelection(1, GetRowValues(1, 0), true, true);
@@ -282,7 +283,7 @@ TEST_F(ClearRow, MakesReadOnlyCellsWritableButNotThatOfShad) {
 }
 
 TEST_F(ClearRow, GivesTheZoneOfTheNumberedRowBack) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     ZoneSlots.fill(4);
     // Row 5 is memory 9: the zone of row 9 is the one that goes.
     SetCell(5, MNUM, "009");
@@ -295,7 +296,7 @@ TEST_F(ClearRow, GivesTheZoneOfTheNumberedRowBack) {
 }
 
 TEST_F(ClearRow, KeepsTheZoneSlotWhenNotAskedToReleaseIt) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     ZoneSlots.fill(4);
     ClearRowData(1, false);
     for (int32_t taken : ZoneSlots)
@@ -303,7 +304,7 @@ TEST_F(ClearRow, KeepsTheZoneSlotWhenNotAskedToReleaseIt) {
 }
 
 TEST_F(ClearRow, WithoutANumberGivesNoZoneSlotBack) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     ZoneSlots.fill(4);
     for (const char* number : {"", "0", "000", "abc", "233", "9999", "-1", "99999999999"}) {
         SetCell(5, MNUM, number);
@@ -317,7 +318,7 @@ TEST_F(ClearRow, WithoutANumberGivesNoZoneSlotBack) {
 }
 
 TEST_F(ClearRow, OfAShadowRowGivesNoZoneSlotBack) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     ZoneSlots.fill(4);
     SetCell(5, MNUM, "005");
     SetCell(5, ZONE, "");
@@ -327,7 +328,7 @@ TEST_F(ClearRow, OfAShadowRowGivesNoZoneSlotBack) {
 }
 
 TEST_F(ClearRow, OfAnEmptyZoneLeavesItsCounterAtZero) {
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     ZoneSlots.fill(0);
     ClearRowData(1, true);
     EXPECT_EQ(0, SlotsTaken(1, 0));
@@ -361,7 +362,7 @@ TEST_F(RowCompleteness, IsFalseForABlankRow) {
 }
 
 TEST_F(RowCompleteness, OfAKdarRowLooksAtRonlAndNotAtMode) {
-    Retarget(8, 0);
+    Retarget(Kdar2000, 0);
     FillShownCells(printed::KDAR);
     EXPECT_EQ("", Cell(1, MODE));
     EXPECT_TRUE(RowIsComplete(1));
@@ -370,7 +371,7 @@ TEST_F(RowCompleteness, OfAKdarRowLooksAtRonlAndNotAtMode) {
 }
 
 TEST_F(RowCompleteness, OfAnO12RowDoesNotCountTheFillerColumn) {
-    Retarget(2, 0);
+    Retarget(Orv12, 0);
     for (int col = 0; col < 32; ++col)
         SetCell(1, col, "");
     SetCell(1, MNUM, "001");
@@ -409,7 +410,7 @@ TEST_F(RowOperations, CodesAreCountedByTheTypeOfTheCurrentPage) {
     EXPECT_EQ(1, GetCodeIndex("023"));
     EXPECT_EQ(0, GetCodeIndex("OFF"));
     EXPECT_EQ("OFF", GetCodeText(0));
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     EXPECT_EQ(0, GetCodeIndex("023"));
     EXPECT_EQ(-1, GetCodeIndex("OFF"));
     EXPECT_EQ("023", GetCodeText(0));

@@ -145,12 +145,12 @@ TEST_F(ZoneSlotsTest, NamesAreThoseOfTheCurrentPagesType) {
         EXPECT_STREQ(names[zone], GetZoneName(zone).utf8_str()) << zone;
     for (int zone : {32, 33, 9999, -1})
         EXPECT_EQ("None", GetZoneName(zone)) << zone;
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
     EXPECT_EQ("16", GetZoneName(15));
     EXPECT_EQ("None", GetZoneName(16));
     EXPECT_EQ(15, FindZone("16"));
     EXPECT_EQ(-1, FindZone("X"));
-    AddPage(7, 0);
+    AddPage(Kdrv716B, 0);
     EXPECT_EQ("X", GetZoneName(31));
     EXPECT_EQ(31, FindZone("X"));
     MainFrame->m_notebook->SetSelection(1);
@@ -159,9 +159,9 @@ TEST_F(ZoneSlotsTest, NamesAreThoseOfTheCurrentPagesType) {
 }
 
 TEST_F(ZoneSlotsTest, MoveDownWithThePagesWhenOneIsDeleted) {
-    AddPage(6, 0);
-    AddPage(7, 0);
-    AddPage(6, 0);
+    AddPage(Kdrv716, 0);
+    AddPage(Kdrv716B, 0);
+    AddPage(Kdrv716, 0);
     wxGrid* const second = PageGrid[1];
     wxGrid* const fourth = PageGrid[3];
     for (int page = 0; page < 4; ++page)

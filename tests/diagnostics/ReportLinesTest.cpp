@@ -133,12 +133,12 @@ TEST(RowReport, ShowsCellsAsTheyStand) {
 
 TEST(PageReport, ShowsThePageAndItsTarget) {
     PageParameterRecord parameters;
-    parameters.Radio = 17;
+    parameters.Radio = RadioCatalogue::Kdrv4xxx;
     parameters.BandIndex = 5;
-    parameters.Band = 8;
+    parameters.Band = RadioCatalogue::K6Module;
     parameters.Rows = 500;
     parameters.Cols = 11;
-    parameters.Type = 3;
+    parameters.Type = RadioCatalogue::MDLX;
     PageStringRecord strings;
     strings.RadioName = "R";
     strings.BandName = "B";

@@ -173,7 +173,7 @@ TEST_F(Reports, OfAnAnalogPageAreWhole) {
 }
 
 TEST_F(Reports, OfAKDARPageAreWholeAndHaveNoReceiveOnlyLine) {
-    Retarget(8, 0);
+    Retarget(Kdar2000, 0);
     SetCells(100, {{MNUM, "100"},
                    {SCAN, "Y"},
                    {DESC, "TOWER"},
@@ -206,7 +206,7 @@ TEST_F(Reports, OfAKDARPageAreWholeAndHaveNoReceiveOnlyLine) {
 }
 
 TEST_F(Reports, OfAModulePageAreWhole) {
-    Retarget(17, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     SetCells(500, {{MNUM, "500"},
                    {BAND, "FM 138-174"},
                    {SCAN, "0"},
@@ -245,7 +245,7 @@ TEST_F(Reports, OfAModulePageAreWhole) {
 }
 
 TEST_F(Reports, OfAFirstP25PageAreWhole) {
-    Retarget(6, 0);
+    Retarget(Kdrv716, 0);
     ZoneSlots.fill(0);
     ZoneSlots[0] = 16;
     ZoneSlots[15] = 2;
@@ -306,7 +306,7 @@ TEST_F(Reports, OfAFirstP25PageAreWhole) {
 }
 
 TEST_F(Reports, OfASecondP25PageAreWhole) {
-    AddPage(7, 0);
+    AddPage(Kdrv716B, 0);
     ZoneSlots.fill(0);
     ZoneSlots[31] = 9; // the first page's
     ZoneSlots[32 + 31] = 1;
@@ -369,7 +369,7 @@ TEST_F(Reports, OfASecondP25PageAreWhole) {
 
 TEST_F(Reports, OfTheLastPageOfSixHaveACounterBehindIt) {
     while (PageCount < 6)
-        AddPage(6, 0);
+        AddPage(Kdrv716, 0);
     ZoneSlots.fill(0);
     ZoneSlots[6 * 32] = 4;
     CurrentGrid()->ClearSelection();
@@ -381,8 +381,8 @@ TEST_F(Reports, OfTheLastPageOfSixHaveACounterBehindIt) {
 }
 
 TEST_F(Reports, TakeThePageThatTheyAreGivenNotTheCurrentOne) {
-    Retarget(6, 0);
-    AddPage(3, 0);
+    Retarget(Kdrv716, 0);
+    AddPage(Krv214, 0);
     PageGrid[0]->SelectRow(1);
     CurrentGrid()->ClearSelection();
     const testbench::LogKeeper log;
@@ -397,7 +397,8 @@ TEST_F(Reports, TakeThePageThatTheyAreGivenNotTheCurrentOne) {
 }
 
 TEST_F(Reports, OfAPageThatIsNotP25HaveNoZones) {
-    for (const auto& [radio, slot] : {std::pair{0, 0}, {2, 0}, {8, 0}, {16, 1}, {17, 5}}) {
+    for (const auto& [radio, slot] :
+         {std::pair{Krv21, 0}, {Orv12, 0}, {Kdar2000, 0}, {Kdrv8400, 1}, {Kdrv4xxx, ModuleSlot}}) {
         Retarget(radio, slot);
         const testbench::LogKeeper log;
         ReportPageP25OnlyParameters(0);
@@ -406,7 +407,7 @@ TEST_F(Reports, OfAPageThatIsNotP25HaveNoZones) {
 }
 
 TEST_F(Reports, AskedForByAnythingButTheNotebookCountTheWindowsPages) {
-    AddPage(3, 0);
+    AddPage(Krv214, 0);
     for (wxObject* source : {static_cast<wxObject*>(nullptr), static_cast<wxObject*>(MainFrame),
                              static_cast<wxObject*>(MainFrame->m_menuBar)})
         EXPECT_EQ(Debug(source)[2], " . Page: 2 of 2");
@@ -420,7 +421,7 @@ TEST_F(Reports, CountThePagesOfTheNotebookThatAsksForThem) {
 }
 
 TEST_F(Reports, ChangeNothingOnThePage) {
-    Retarget(7, 0);
+    Retarget(Kdrv716B, 0);
     CurrentGrid()->SelectAll();
     const auto cells = [] {
         Lines texts;

@@ -15,10 +15,6 @@
 
 using Texts = std::vector<std::string>;
 
-/// Radio indices by kind of page.
-constexpr int Krv47 = 1, Orv12 = 2, Krv214 = 3, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8, Krv620 = 10,
-              Kdrv8400 = 16, Kdrv4 = 17;
-
 class CellTest : public ZelkWindowTest {
 protected:
     void SetUp() override {
@@ -34,7 +30,7 @@ protected:
     static wxGrid* Grid() { return CurrentGrid(); }
 
     /// The first page becomes one of the wide module, with a band in each row.
-    static void RetargetModule() { Retarget(Kdrv4, 5); }
+    static void RetargetModule() { Retarget(Kdrv4xxx, ModuleSlot); }
 
     /// A page on which no other radio has left anything; it becomes the current one. type is given
     /// where it isn't the radio's own.

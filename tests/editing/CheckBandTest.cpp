@@ -16,8 +16,8 @@ protected:
 } // namespace
 
 TEST_F(CheckBandTest, EmptiesTheBandWithoutPaintOnPagesWithoutABandColumn) {
-    for (const auto& [radio, slot] :
-         std::initializer_list<std::pair<int, int>>{{0, 0}, {2, 0}, {6, 0}, {7, 0}, {8, 0}, {17, 1}}) {
+    for (const auto& [radio, slot] : std::initializer_list<std::pair<int, int>>{
+             {Krv21, 0}, {Orv12, 0}, {Kdrv716, 0}, {Kdrv716B, 0}, {Kdar2000, 0}, {Kdrv4xxx, 1}}) {
         Retarget(radio, slot);
         SetCell(3, BAND, "FM 30-50");
         Check(3, "FM 30-50");
@@ -27,7 +27,7 @@ TEST_F(CheckBandTest, EmptiesTheBandWithoutPaintOnPagesWithoutABandColumn) {
 }
 
 TEST_F(CheckBandTest, LeavesTheBandsOfTheFirstModuleAsTheyAre) {
-    Retarget(17, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     for (const char* text : {"FM 30-50", "AM 108-138", "AM 225-400"}) {
         SetCell(3, BAND, text);
         Check(3, text);
@@ -37,7 +37,7 @@ TEST_F(CheckBandTest, LeavesTheBandsOfTheFirstModuleAsTheyAre) {
 }
 
 TEST_F(CheckBandTest, DoesNotWriteABandThatCanStand) {
-    Retarget(17, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     SetCell(3, BAND, "before");
     Check(3, "AM 225-400");
     EXPECT_EQ("before", Cell(3, BAND));
@@ -45,7 +45,7 @@ TEST_F(CheckBandTest, DoesNotWriteABandThatCanStand) {
 }
 
 TEST_F(CheckBandTest, PutsTheDefaultRowsBandInPlaceOfAnyOther) {
-    Retarget(17, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     int row = 1;
     for (const char* text : {"FM 66-88", "AM 118-138", "FM 136-174", "FM 138-174", "FM 403-512", "K6 3-BAND",
                              "FM_403-512", "FM 7xx-8xx", "FM 896-960", "", "fm 30-50", "FM 30-50 "}) {
@@ -58,15 +58,15 @@ TEST_F(CheckBandTest, PutsTheDefaultRowsBandInPlaceOfAnyOther) {
 }
 
 TEST_F(CheckBandTest, RepairsByWhatTheDefaultRowHoldsNow) {
-    Retarget(17, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     SetCell(0, BAND, "AM 225-400");
     Check(3, "nonsense");
     EXPECT_EQ("AM 225-400", Cell(3, BAND));
 }
 
 TEST_F(CheckBandTest, LeavesEveryKnownBandOnAPageOfTheSecondModule) {
-    Retarget(17, 5);
-    CurrentParameters().Band = 9;
+    Retarget(Kdrv4xxx, ModuleSlot);
+    CurrentParameters().Band = RadioCatalogue::K7Module;
     for (const char* text : {"FM 30-50", "FM 66-88", "AM 108-138", "AM 118-138", "FM 136-174", "FM 138-174",
                              "AM 225-400", "FM 403-512", "K6 3-BAND"}) {
         SetCell(3, BAND, text);
@@ -83,7 +83,7 @@ TEST_F(CheckBandTest, LeavesEveryKnownBandOnAPageOfTheSecondModule) {
 }
 
 TEST_F(CheckBandTest, LeavesTheDefaultRowItsFormerBandPaintedWhenAnotherCanNotStand) {
-    Retarget(17, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     for (const char* text : {"FM 99-100", "fm 30-50", "FM 138-174", ""}) {
         SetCell(0, BAND, "AM 225-400");
         Check(0, text);
@@ -96,7 +96,7 @@ TEST_F(CheckBandTest, LeavesTheDefaultRowItsFormerBandPaintedWhenAnotherCanNotSt
 TEST_F(CheckBandTest, AnswersWhetherTheBandCanStand) {
     wxGrid* grid = CurrentGrid();
     EXPECT_EQ(CheckNotApplicable, CheckBand(grid, 3, "FM 30-50"));
-    Retarget(17, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     for (int row : {0, 3}) {
         EXPECT_EQ(CheckGood, CheckBand(grid, row, "AM 225-400"));
         EXPECT_EQ(CheckBadValue, CheckBand(grid, row, "am 225-400"));

@@ -29,8 +29,8 @@ protected:
 } // namespace
 
 TEST_F(CheckZoneTest, EmptiesTheZoneOnPagesThatAreNotP25) {
-    for (const auto& [radio, slot] :
-         std::initializer_list<std::pair<int, int>>{{0, 0}, {2, 0}, {8, 0}, {10, 1}, {17, 5}}) {
+    for (const auto& [radio, slot] : std::initializer_list<std::pair<int, int>>{
+             {Krv21, 0}, {Orv12, 0}, {Kdar2000, 0}, {Krv620, 1}, {Kdrv4xxx, ModuleSlot}}) {
         Retarget(radio, slot);
         SetCell(1, ZONE, "5");
         SetCell(1, TFLG, "A0");

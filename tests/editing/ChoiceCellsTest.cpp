@@ -188,7 +188,7 @@ TEST_F(ChoiceCells, SquelchChoicesLeaveTheTextsUnlessDefaultsAreWanted) {
 
 TEST_F(BandCells, OfferTheBandsOfTheModule) {
     EXPECT_EQ((Texts{"FM 30-50", "AM 108-138", "AM 225-400"}), OfferedIn(5, BAND));
-    CurrentParameters().Band = 9;
+    CurrentParameters().Band = RadioCatalogue::K7Module;
     SetPageEditors(CurrentPage);
     EXPECT_EQ(
         (Texts{"FM 30-50", "FM 66-88", "AM 108-138", "FM 136-174", "AM 225-400", "FM_403-512", "FM 7xx-8xx"}),

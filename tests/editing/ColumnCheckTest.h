@@ -35,8 +35,8 @@ protected:
     static constexpr int row = 5;
 
     static void Become(Page page) {
-        static constexpr int targets[][2] = {{1, 0}, {6, 0}, {7, 0},  {17, 5},
-                                             {2, 0}, {8, 0}, {10, 1}, {1, 0}};
+        static constexpr int targets[][2] = {{Krv47, 0}, {Kdrv716, 0},  {Kdrv716B, 0}, {Kdrv4xxx, ModuleSlot},
+                                             {Orv12, 0}, {Kdar2000, 0}, {Krv620, 1},   {Krv47, 0}};
         Retarget(targets[page][0], targets[page][1]);
         if (page == Fxam) // no radio has it, files may
             CurrentParameters().Type = RadioCatalogue::FXAM;

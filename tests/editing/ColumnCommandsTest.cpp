@@ -96,14 +96,14 @@ TEST_F(DefaultColumn, TakesLinkedCellsAlong) {
 }
 
 TEST_F(DefaultColumn, OfTheModuleSwitchesToneAndCodeOffToo) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     EXPECT_EQ(CurrentParameters().Type, 3) << "the module";
     EXPECT_EQ(Changed(12), "12=new 13=OFF 18=new 19=OFF ");
     EXPECT_EQ(Changed(19), "18=OFF 19=new ");
 }
 
 TEST_F(DefaultColumn, OfTheModulesBandEmptiesTheFrequenciesOfRowsThatWereOnAnother) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     Fill({2, 3, 4});
     SetCell(3, BAND, "AM 225-400");
     SetCell(3, RFRQ, "230.0000");
@@ -129,7 +129,7 @@ TEST_F(DefaultColumn, OfTheModulesBandEmptiesTheFrequenciesOfRowsThatWereOnAnoth
 }
 
 TEST_F(DefaultColumn, OfTheModulesBandLocksTheCellsThatAnAmBandLacks) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     Fill({2});
     SetCell(0, BAND, "AM 225-400");
     RunOnColumn(DefaultCol, BAND);

@@ -36,9 +36,6 @@ protected:
         LoadDefault
     };
 
-    // Radios by index.
-    static constexpr int Krv47 = 1, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8, Krv620 = 10, Kdrv4xxx = 17;
-
     using Texts = std::vector<std::string>;
 
     static constexpr const char* NoUndoAll = "This will overwrite all data in selection, there is no 'undo'!";

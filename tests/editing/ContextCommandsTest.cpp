@@ -17,11 +17,11 @@ struct Page {
 };
 
 constexpr Page Pages[] = {
-    {"AnalogWithGuards", 1, 0, 122, true, false, "LOW   "},
-    {"AnalogWithoutGuards", 9, 1, 200, false, false, "UHF   "},
-    {"KdarWithoutGuards", 8, 0, 100, false, false, "VHFAM"},
-    {"FirstP25Generation", 6, 0, 232, true, true, "VHF  "},
-    {"SecondP25Generation", 7, 0, 502, true, true, "VHF  "},
+    {"AnalogWithGuards", Krv47, 0, 122, true, false, "LOW   "},
+    {"AnalogWithoutGuards", Krv610, 1, 200, false, false, "UHF   "},
+    {"KdarWithoutGuards", Kdar2000, 0, 100, false, false, "VHFAM"},
+    {"FirstP25Generation", Kdrv716, 0, 232, true, true, "VHF  "},
+    {"SecondP25Generation", Kdrv716B, 0, 502, true, true, "VHF  "},
 };
 
 void PrintTo(const Page& page, std::ostream* out) {
@@ -344,7 +344,7 @@ TEST_P(GuardRowCommands, WorkOnTheGuardRow) {
     ClickRowCommand(guard, DefaultRow);
     Texts& texts = expected[static_cast<size_t>(guard)] = DefaultsOf(guard);
     if (GetParam().p25)
-        texts[ZONE] = GetParam().radio == 6 ? "16" : "X";
+        texts[ZONE] = GetParam().radio == Kdrv716 ? "16" : "X";
     ExpectCells(expected);
     EXPECT_TRUE(IsReadOnly(guard, MNUM));
     EXPECT_TRUE(IsReadOnly(guard, SCAN));
@@ -449,7 +449,7 @@ TEST_P(ContextCommands, DefaultFileFillsTheWholePage) {
     }
     if (page.p25)
         for (int guard : {page.rows - 1, page.rows})
-            expected[static_cast<size_t>(guard)][ZONE] = page.radio == 6 ? "16" : "X";
+            expected[static_cast<size_t>(guard)][ZONE] = page.radio == Kdrv716 ? "16" : "X";
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, DefaultFile);
     ClickCommand([] { return testbench::CornerSpot(*CurrentGrid()); }, DefaultFile);
@@ -460,7 +460,7 @@ TEST_P(ContextCommands, DefaultFileFillsTheWholePage) {
 }
 
 TEST_P(P25Commands, DefaultColOfTheZoneDealsZonesAfresh) {
-    const std::string last = GetParam().radio == 6 ? "16" : "X";
+    const std::string last = GetParam().radio == Kdrv716 ? "16" : "X";
     const Cells expected = AllCells();
     for (int row : {2, 3, 4, 6})
         SetCell(row, ZONE, "9");

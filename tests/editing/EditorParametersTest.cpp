@@ -88,33 +88,33 @@ struct Page {
 const std::vector<Page>& Pages() {
     const char* const nine = "description of 9 in mode 0";
     static const std::vector<Page> pages = {
-        {"KRV-21, ANFM", 0, 0, 0, Analog("memory 0 to 122", nine, "frequency of 7, band 0, step 2500")},
-        {"KRV-47, ANFM", 1, 0, 0, Analog("memory 0 to 122", nine, "frequency of 7, band 1, step 2500")},
-        {"KRV-214, ANFM", 3, 0, 0, Analog("memory 0 to 102", nine, "frequency of 8, band 5, step 2500")},
-        {"KRV-305, ANFM", 5, 0, 0, Analog("memory 0 to 122", nine, "frequency of 8, band 7, step 2500")},
-        {"KDRV-716, RP25", 6, 0, 1,
+        {"KRV-21, ANFM", Krv21, 0, 0, Analog("memory 0 to 122", nine, "frequency of 7, band 0, step 2500")},
+        {"KRV-47, ANFM", Krv47, 0, 0, Analog("memory 0 to 122", nine, "frequency of 7, band 1, step 2500")},
+        {"KRV-214, ANFM", Krv214, 0, 0, Analog("memory 0 to 102", nine, "frequency of 8, band 5, step 2500")},
+        {"KRV-305, ANFM", Krv305, 0, 0, Analog("memory 0 to 122", nine, "frequency of 8, band 7, step 2500")},
+        {"KDRV-716, RP25", Kdrv716, 0, 1,
          P25("memory 0 to 232", "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15", "frequency of 8, band 4, step 2500")},
-        {"KDRV-716B, NP25", 7, 0, 2,
+        {"KDRV-716B, NP25", Kdrv716B, 0, 2,
          With(P25("memory 0 to 502", "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 A C E F H I K L M N P T U V W",
                   "frequency of 9, band 4, step 1250"),
               {{11, "number 0 to 15"}})},
-        {"KDRV-4xxx, MDLX", 17, 5, 3,
+        {"KDRV-4xxx, MDLX", Kdrv4xxx, ModuleSlot, 3,
          With(Analog("memory 0 to 500", "description of 9 in mode 1", "frequency of 7, band 0, step 2500"),
               {{4, "band: FM 30-50|AM 108-138|AM 225-400"}})},
-        {"ORV-12, O12", 2, 0, 4,
+        {"ORV-12, O12", Orv12, 0, 4,
          With(Analog("memory 0 to 6", nine, "frequency of 7, band 3, step 8333"), NoTones)},
-        {"KDAR-2000, KDAR", 8, 0, 5,
+        {"KDAR-2000, KDAR", Kdar2000, 0, 5,
          With(With(Analog("memory 0 to 100", "description of 8 in mode 5",
                           "frequency of 7, band 3, step 8333"),
                    NoTones),
               {{5, Plain("Y N")}, {30, Plain("Y N")}})},
-        {"KRV-620, ANAM", 10, 1, 6,
+        {"KRV-620, ANAM", Krv620, 1, 6,
          With(Analog("memory 0 to 200", nine, "frequency of 8, band 6, step 2500"), NoTones)},
-        {"KDRV-8400, ANAM", 16, 1, 6,
+        {"KDRV-8400, ANAM", Kdrv8400, 1, 6,
          With(Analog("memory 0 to 200", nine, "frequency of 7, band 3, step 8333"), NoTones)},
         // No radio has this type, files may.
-        {"KRV-47, FXAM", 1, 0, 7, Analog("memory 0 to 122", nine, "frequency of 7, band 1, step 2500")},
-        {"KRV-620, FXAM", 10, 1, 7,
+        {"KRV-47, FXAM", Krv47, 0, 7, Analog("memory 0 to 122", nine, "frequency of 7, band 1, step 2500")},
+        {"KRV-620, FXAM", Krv620, 1, 7,
          With(Analog("memory 0 to 200", nine, "frequency of 8, band 6, step 2500"), NoTones)},
     };
     return pages;
@@ -208,7 +208,7 @@ TEST_F(EditorParameters, AreThoseOfTheRadioInEveryCell) {
 }
 
 TEST_F(EditorParameters, OfFrequenciesOfTheModuleAreThoseOfTheRowsBand) {
-    Become(17, 5, 3);
+    Become(Kdrv4xxx, ModuleSlot, 3);
     // A row without transfer flags has the band of the default row.
     for (int row : {3, 4, 5, 6})
         SetCell(row, TFLG, "A0");
@@ -228,8 +228,8 @@ TEST_F(EditorParameters, OfFrequenciesOfTheModuleAreThoseOfTheRowsBand) {
 }
 
 TEST_F(EditorParameters, OfTheSecondModuleOfferSevenBands) {
-    Become(17, 5, 3);
-    CurrentParameters().Band = 9;
+    Become(Kdrv4xxx, ModuleSlot, 3);
+    CurrentParameters().Band = RadioCatalogue::K7Module;
     SetPageEditors(CurrentPage);
     for (int row : {0, 1, 500})
         EXPECT_EQ("band: FM 30-50|FM 66-88|AM 108-138|FM 136-174|AM 225-400|FM_403-512|FM 7xx-8xx",
@@ -238,7 +238,7 @@ TEST_F(EditorParameters, OfTheSecondModuleOfferSevenBands) {
 }
 
 TEST_F(EditorParameters, OfDigitalRowsAreDigitalSquelches) {
-    for (int radio : {6, 7}) {
+    for (int radio : {Kdrv716, Kdrv716B}) {
         Become(radio, 0, radio - 5);
         SetCell(4, MODE, "D");
         SetCell(5, MODE, "D");

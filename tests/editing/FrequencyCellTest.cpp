@@ -467,7 +467,7 @@ TEST_F(FrequencyCell, FollowsNewBandAndStep) {
 }
 
 TEST_F(FrequencyCell, OfTheModuleHasTheBandOfItsRow) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     SetCell(3, BAND, "AM 108-138");
     SetCell(4, BAND, "AM 225-400");
     SetCell(5, BAND, "FM 30-50");

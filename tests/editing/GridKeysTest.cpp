@@ -24,7 +24,10 @@ protected:
               TTGP, TNAC, TIDC}},
             {"NP25", Kdrv716B, 0, {MNUM, SHAD, SCAN, ZONE, DESC, MODE, RFRQ, RSQL, RNSV, RTON,
                                    RCOD, RTGP, RNAC, TFRQ, TSQL, TTON, TCOD, TTGP, TNAC, TIDC}},
-            {"MDLX", Kdrv4, 5, {MNUM, BAND, SCAN, DESC, MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}},
+            {"MDLX",
+             Kdrv4xxx,
+             ModuleSlot,
+             {MNUM, BAND, SCAN, DESC, MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}},
             {"O12", Orv12, 0, {MNUM, RFRQ, RONL}},
             {"KDAR", Kdar2000, 0, {MNUM, SCAN, DESC, RFRQ, TFRQ, RONL}},
         };
@@ -297,7 +300,7 @@ TEST_F(GridKeys, EscapeLeavesAnAnalogPageAsItWas) {
     GoTo(5, SCAN);
     PressKey("Escape");
     EXPECT_EQ("", ChangesSince(before)) << "scan boxes";
-    Retarget(Kdrv4, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     Fill({5});
     const PageState module = StateOfPage();
     Begin(5, {"band", BAND, "<Down>", ""});

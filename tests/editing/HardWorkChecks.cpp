@@ -14,10 +14,6 @@ std::optional<int> NumberIn(const wxString& text) {
     return text.empty() ? std::nullopt : std::optional(ReadDecimal(text));
 }
 
-bool IsShadow(int row) {
-    return (ReadHex(CurrentGrid()->GetCellValue(row, MFLG)) & ShadowIndexMask) != 0;
-}
-
 } // namespace
 
 PageImage HardWork::ImageOf(int page) {
@@ -118,7 +114,7 @@ void HardWork::ExpectSlotsCounted() {
     std::vector<int> shown(ZonesPerPage);
     for (int row = 1; row <= rows; ++row) {
         const int zone = FindZone(Cell(row, ZONE));
-        if (!RowHasData(row) || IsShadow(row) || zone == wxNOT_FOUND)
+        if (!RowHasData(row) || IsShadow(CurrentGrid(), row) || zone == wxNOT_FOUND)
             continue;
         // A guard row that finds its zone full keeps its text without a slot.
         if (row < GD1 || zone == last)
@@ -148,8 +144,8 @@ void HardWork::ExpectCheckedPage() {
         EXPECT_TRUE(std::all_of(desc.begin(), desc.end(),
                                 [](wxUniChar c) { return c.GetValue() >= 32 && c.GetValue() <= 122; }))
             << "row " << row;
-        EXPECT_NE(ReadHex(Cell(row, TFLG)) & ZoneTakenFlag, 0) << "row " << row;
-        EXPECT_TRUE(!IsShadow(row) || Cell(row, ZONE).empty()) << "row " << row;
+        EXPECT_NE(TransferFlags(CurrentGrid(), row) & ZoneTakenFlag, 0) << "row " << row;
+        EXPECT_TRUE(!IsShadow(CurrentGrid(), row) || Cell(row, ZONE).empty()) << "row " << row;
     }
     ExpectSlotsCounted();
 }

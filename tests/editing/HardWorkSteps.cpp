@@ -208,11 +208,10 @@ int HardWork::PickRow() {
 int HardWork::PickGoodRow() {
     std::vector<int> complete, primaries;
     for (int row : testbench::RowsWithData()) {
-        const int flags = ReadHex(CurrentGrid()->GetCellValue(row, MFLG));
-        if (!RowIsComplete(row) || (flags & ShadowIndexMask))
+        if (!RowIsComplete(row) || IsShadow(CurrentGrid(), row))
             continue;
         complete.push_back(row);
-        if (flags & ShadowLinkFlag)
+        if (IsPrimary(CurrentGrid(), row))
             primaries.push_back(row);
     }
     if (!primaries.empty() && m_dice.Chance(70))

@@ -140,7 +140,7 @@ void HardWork::Work(uint32_t seed, int steps) {
         m_rowsSeen = std::max(m_rowsSeen, testbench::RowsWithData().size());
         size_t shadows = 0;
         for (int row = 1; row <= CurrentParameters().Rows; ++row)
-            shadows += (ReadHex(Cell(row, MFLG)) & ShadowIndexMask) != 0;
+            shadows += IsShadow(CurrentGrid(), row);
         m_shadowsSeen = std::max(m_shadowsSeen, shadows);
         if (HasFailure()) {
             FAIL() << Recent();

@@ -24,7 +24,7 @@ const std::vector<ListCell>& AllLists() {
         {"analog mode", Krv47, 0, MODE},
         {"analog tone", Krv47, 0, RTON},
         {"analog code", Krv47, 0, RCOD},
-        {"band", Kdrv4, 5, BAND},
+        {"band", Kdrv4xxx, ModuleSlot, BAND},
         {"scan of the KDAR", Kdar2000, 0, SCAN},
         {"receive only", Kdar2000, 0, RONL},
         {"P25 scan", Kdrv716B, 0, SCAN},
@@ -102,8 +102,8 @@ TEST_F(ListCells, TakeTheChoiceWhoseBeginningWasTyped) {
              {{"analog code", Krv47, 0, RCOD}, "754", "754"},
              {{"analog code", Krv47, 0, TCOD}, "03", "031"},
              {{"off", Krv47, 0, RCOD}, "off", "OFF"},
-             {{"band", Kdrv4, 5, BAND}, "AM 2", "AM 225-400"},
-             {{"band", Kdrv4, 5, BAND}, "am", "AM 108-138"},
+             {{"band", Kdrv4xxx, ModuleSlot, BAND}, "AM 2", "AM 225-400"},
+             {{"band", Kdrv4xxx, ModuleSlot, BAND}, "am", "AM 108-138"},
              {{"scan of the KDAR", Kdar2000, 0, SCAN}, "y", "Y"},
              {{"receive only", Kdar2000, 0, RONL}, "Y", "Y"},
              {{"P25 scan", Kdrv716, 0, SCAN}, "y", "Y"},
@@ -274,14 +274,15 @@ TEST_F(ListCells, PoppedUpTakeTheChoiceWhoseBeginningIsTyped) {
         ListCell cell;
         const char *typed, *chosen;
     };
-    for (const Line& line : std::initializer_list<Line>{{{"tone", Krv47, 0, RTON}, "156.7", "156.7"},
-                                                        {{"code", Krv47, 0, RCOD}, "03", "031"},
-                                                        {{"mode", Krv47, 0, MODE}, "n", "N"},
-                                                        {{"band", Kdrv4, 5, BAND}, "AM 2", "AM 225-400"},
-                                                        {{"scan", Kdar2000, 0, SCAN}, "y", "Y"},
-                                                        {{"zone", Kdrv716B, 0, ZONE}, "x", "X"},
-                                                        {{"squelch", Kdrv716B, 0, RSQL}, "T", "t"},
-                                                        {{"P25 tone", Kdrv716B, 0, RTON}, "156.7", "156.7"}})
+    for (const Line& line :
+         std::initializer_list<Line>{{{"tone", Krv47, 0, RTON}, "156.7", "156.7"},
+                                     {{"code", Krv47, 0, RCOD}, "03", "031"},
+                                     {{"mode", Krv47, 0, MODE}, "n", "N"},
+                                     {{"band", Kdrv4xxx, ModuleSlot, BAND}, "AM 2", "AM 225-400"},
+                                     {{"scan", Kdar2000, 0, SCAN}, "y", "Y"},
+                                     {{"zone", Kdrv716B, 0, ZONE}, "x", "X"},
+                                     {{"squelch", Kdrv716B, 0, RSQL}, "T", "t"},
+                                     {{"P25 tone", Kdrv716B, 0, RTON}, "156.7", "156.7"}})
         for (const char* key : {"Return", "KP_Enter", "Tab"}) {
             SCOPED_TRACE(std::string(line.cell.name) + ", " + key);
             if (line.cell.col != RCOD && std::string(key) != "Return")

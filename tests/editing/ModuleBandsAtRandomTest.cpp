@@ -18,7 +18,6 @@ using namespace RadioCatalogue;
 
 namespace {
 
-constexpr int ModuleSlot = 5;
 constexpr int BusyRows = 12;
 
 class ModuleBandsAtRandom : public CommandTest {

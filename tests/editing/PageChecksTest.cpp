@@ -12,8 +12,6 @@ using testbench::DialogScript;
 
 namespace {
 
-constexpr int Krv47 = 1, Krv214 = 3, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8;
-
 class CheckingAPage : public PageTest {
 protected:
     static bool IsPainted(int row, int column) {
@@ -53,7 +51,7 @@ protected:
 } // namespace
 
 TEST_F(CheckingAPage, ThatIsEmptyChangesNothing) {
-    for (int radio : {Krv47, Krv214, 2, Kdar2000}) {
+    for (int radio : {Krv47, Krv214, Orv12, Kdar2000}) {
         Retarget(radio, 0);
         const auto before = AllRows();
         CheckPage();

@@ -74,7 +74,7 @@ const std::vector<Page>& Pages() {
         {"KRV-620 UHF, ANAM", Krv620, 1, {AnalogLooks, NoTones}},
         {"KDRV-8400 VHF, ANAM", Kdrv8400, 1, {AnalogLooks, NoTones}},
         {"ORV-12, O12", Orv12, 0, {AnalogLooks, NoTones}},
-        {"KDRV-4xxx, MDLX", Kdrv4, 5, {AnalogLooks, Tones, BandChoice}},
+        {"KDRV-4xxx, MDLX", Kdrv4xxx, ModuleSlot, {AnalogLooks, Tones, BandChoice}},
         {"KDAR-2000, KDAR", Kdar2000, 0, {AnalogLooks, NoTones, YesNo}},
         {"KDRV-716, RP25", Kdrv716, 0, {P25Looks}},
         {"KDRV-716B, NP25", Kdrv716B, 0, {P25Looks, SquelchValue}},

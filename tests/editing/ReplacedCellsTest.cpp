@@ -106,7 +106,7 @@ TEST_F(ReplacedCellsOfAPage, AreTonesThatTheTypeShowsButCannotKeep) {
 }
 
 TEST_F(ReplacedCellsOfAPage, AreTonesAndCodesThatABandOfTheModuleHasNot) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     Fill({5});
     SetCell(5, BAND, "AM 108-138");
     for (int col : {RFRQ, TFRQ})

@@ -43,7 +43,7 @@ protected:
 } // namespace
 
 TEST_F(CheckingARow, ThatIsBlankLeavesItBlank) {
-    for (int radio : {1, 6, 8}) {
+    for (int radio : {Krv47, Kdrv716, Kdar2000}) {
         Retarget(radio, 0);
         CheckRow(CurrentGrid(), row);
         EXPECT_FALSE(RowHasData(row)) << "radio " << radio;
@@ -140,7 +140,7 @@ TEST_F(CheckingARow, ThatIsGoodChangesNothing) {
 }
 
 TEST_F(CheckingARow, LeavesFlagsAndShadowSlotsAlone) {
-    Retarget(6, 0);
+    Retarget(Kdrv716, 0);
     FillFromDefault();
     SetCells({{MFLG, "7junk"},
               {SHD0, "a"},
@@ -185,7 +185,7 @@ TEST_F(CheckingARow, RepairsByWhatTheDefaultRowHoldsHoweverBad) {
 }
 
 TEST_F(CheckingARow, OfTheModuleAllowsAnyTransmitFrequencyInAm108) {
-    Retarget(17, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     for (const char* text : {"117.000", "55.000"}) {
         FillFromDefault();
         SetCells({{BAND, "AM 108-138"}, {RFRQ, "117.000"}, {TFRQ, text}});
@@ -226,7 +226,7 @@ TEST_F(CheckingARow, TurnsLegacyScanMarksIntoAMask) {
 }
 
 TEST_F(CheckingARow, InZoneXOfTheFirstGenerationFallsToTheFirstFreeZone) {
-    Retarget(6, 0);
+    Retarget(Kdrv716, 0);
     ZoneSlotsOf(CurrentPage)[0] = 16;
     SetCells({{DESC, "X"}, {ZONE, "X"}, {TFLG, "A0"}});
     CheckRow(CurrentGrid(), row);
@@ -235,7 +235,7 @@ TEST_F(CheckingARow, InZoneXOfTheFirstGenerationFallsToTheFirstFreeZone) {
 }
 
 TEST_F(CheckingARow, TwiceTakesOneZoneSlotOnly) {
-    Retarget(6, 0);
+    Retarget(Kdrv716, 0);
     const int before = SlotsTaken(CurrentPage, 2);
     SetCells({{DESC, "X"}, {ZONE, "3"}, {TFLG, "A0"}});
     CheckRow(CurrentGrid(), row);
@@ -245,7 +245,7 @@ TEST_F(CheckingARow, TwiceTakesOneZoneSlotOnly) {
 }
 
 TEST_F(CheckingARow, InAZoneThatHasJustBeenFilledKeepsItsTextAndIsFlagged) {
-    Retarget(6, 0);
+    Retarget(Kdrv716, 0);
     ZoneSlotsOf(CurrentPage)[4] = 16;
     SetCells({{DESC, "X"}, {ZONE, "5"}, {TFLG, "A0"}});
     CheckRow(CurrentGrid(), row);
@@ -254,7 +254,7 @@ TEST_F(CheckingARow, InAZoneThatHasJustBeenFilledKeepsItsTextAndIsFlagged) {
 }
 
 TEST_F(CheckingARow, OfAShadowEmptiesItsZoneAndPointsPrimToItself) {
-    Retarget(6, 0);
+    Retarget(Kdrv716, 0);
     FillFromDefault();
     SetCells({{MFLG, "01"}, {PRIM, "003"}, {SHAD, "S-003"}, {ZONE, "3"}, {TFLG, "A0"}});
     CheckRow(CurrentGrid(), row);
@@ -262,7 +262,7 @@ TEST_F(CheckingARow, OfAShadowEmptiesItsZoneAndPointsPrimToItself) {
 }
 
 TEST_F(CheckingARow, WithNumber9999On200RowsEmptiesItWithoutABox) {
-    Retarget(10, 0);
+    Retarget(Krv620, 0);
     FillFromDefault();
     SetCell(row, MNUM, "9999");
     testbench::DialogScript dialogs;
@@ -272,7 +272,7 @@ TEST_F(CheckingARow, WithNumber9999On200RowsEmptiesItWithoutABox) {
 }
 
 TEST_F(CheckingARow, LooksAtTheNumberBeforeThePrimary) {
-    Retarget(6, 0);
+    Retarget(Kdrv716, 0);
     FillFromDefault();
     SetCells({{MNUM, "7"}, {PRIM, "1"}});
     CheckRow(CurrentGrid(), row);
@@ -292,7 +292,7 @@ TEST_F(CheckingARow, WhoseNumberIsTakenGoesOnWithTheOtherCells) {
 }
 
 TEST_F(CheckingARow, LooksAtTheBandBeforeTheFrequencies) {
-    Retarget(17, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     FillFromDefault();
     SetCells({{BAND, "FM 66-88"}, {RFRQ, "40.0000"}, {TFRQ, "70.0000"}});
     CheckRow(CurrentGrid(), row);
@@ -301,7 +301,7 @@ TEST_F(CheckingARow, LooksAtTheBandBeforeTheFrequencies) {
 }
 
 TEST_F(CheckingARow, LooksAtTheModeBeforeTheSquelch) {
-    Retarget(6, 0);
+    Retarget(Kdrv716, 0);
     FillFromDefault();
     SetCells({{MODE, "digital"}, {RSQL, "m"}, {TSQL, "g"}});
     CheckRow(CurrentGrid(), row);
@@ -310,7 +310,7 @@ TEST_F(CheckingARow, LooksAtTheModeBeforeTheSquelch) {
 }
 
 TEST_F(CheckingARow, OfP25WithoutASquelchEndsWithTheCodesLetter) {
-    Retarget(6, 0);
+    Retarget(Kdrv716, 0);
     FillFromDefault();
     SetCells({{RSQL, ""}, {TSQL, ""}});
     CheckRow(CurrentGrid(), row);
@@ -319,7 +319,7 @@ TEST_F(CheckingARow, OfP25WithoutASquelchEndsWithTheCodesLetter) {
 }
 
 TEST_F(CheckingARow, OfP25WithoutASquelchAndCodeEndsWithTheTonesLetter) {
-    Retarget(6, 0);
+    Retarget(Kdrv716, 0);
     FillFromDefault();
     SetCells({{RSQL, ""}, {RCOD, "OFF"}, {TSQL, "x"}});
     CheckRow(CurrentGrid(), row);
@@ -370,8 +370,13 @@ TEST_F(CheckingARow, AgainChangesNothingWhateverTheTextsWere) {
     struct Target {
         int radio, slot;
     };
-    for (const Target& target :
-         std::initializer_list<Target>{{1, 0}, {6, 0}, {7, 0}, {17, 5}, {2, 0}, {8, 0}, {10, 1}})
+    for (const Target& target : std::initializer_list<Target>{{Krv47, 0},
+                                                              {Kdrv716, 0},
+                                                              {Kdrv716B, 0},
+                                                              {Kdrv4xxx, ModuleSlot},
+                                                              {Orv12, 0},
+                                                              {Kdar2000, 0},
+                                                              {Krv620, 1}})
         for (const wxString& text : texts) {
             Retarget(target.radio, target.slot);
             for (int col = 0; col < 32; ++col)

@@ -68,8 +68,9 @@ TEST_F(TextCellPhases, TakeCharactersThatACheckBlanksAfterwards) {
         int radio, slot;
         const char *typed, *checked;
     };
-    for (const Line& line : std::initializer_list<Line>{
-             {Kdrv4xxx, 5, "a#b(c", "a b c"}, {8, 0, "a{b~c", "a b c"}, {Kdrv716, 0, "a#b(c", "a#b(c"}}) {
+    for (const Line& line : std::initializer_list<Line>{{Kdrv4xxx, ModuleSlot, "a#b(c", "a b c"},
+                                                        {Kdar2000, 0, "a{b~c", "a b c"},
+                                                        {Kdrv716, 0, "a#b(c", "a#b(c"}}) {
         Retarget(line.radio, line.slot);
         TypeIntoCell(*CurrentGrid(), 3, DESC, line.typed);
         EXPECT_EQ(line.typed, Text(3, DESC)) << line.radio;

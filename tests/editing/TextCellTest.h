@@ -13,9 +13,6 @@
 #include <string>
 #include <vector>
 
-/// Radio indexes with a page each: an FM radio of band 5, P25 radios, and the module.
-constexpr int Krv214 = 3, Kdrv716 = 6, Kdrv716B = 7, Kdrv4xxx = 17;
-
 class TextCellTest : public ZelkWindowTest {
 protected:
     void SetUp() override {

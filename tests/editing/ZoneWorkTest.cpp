@@ -38,10 +38,6 @@ int PositionOf(const wxString& name, int type) {
     return found == end ? -1 : static_cast<int>(found - Names.begin());
 }
 
-bool IsShadow(const wxGrid* grid, int row) {
-    return (ReadHex(grid->GetCellValue(row, MFLG)) & 7) != 0;
-}
-
 std::string Hex(int value, const char* format) {
     return wxString::Format(format, static_cast<unsigned>(value)).utf8_string();
 }

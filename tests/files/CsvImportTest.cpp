@@ -496,7 +496,7 @@ TEST_F(CsvImport, WithoutANumberColumnWritesNothing) {
 
 TEST_F(CsvImport, WorksOnThePageThatIsSelected) {
     EmptyPageOf("ANFM");
-    SetPageParameters(MainFrame, 1, 3, 0);
+    SetPageParameters(MainFrame, 1, Krv214, 0);
     CreateNewPage(MainFrame, 1);
     ASSERT_EQ(1, Import("MNUM,DESC\n5,A"));
     EXPECT_EQ("A", PageGrid[1]->GetCellValue(5, DESC));

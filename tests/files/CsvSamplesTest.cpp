@@ -118,7 +118,7 @@ TEST_F(DigitalCsvSamples, OfASpreadsheetWithSemicolonsAreOfNoKind) {
 }
 
 TEST_F(CsvSamples, OfAnAnalogRadioFillThePage) {
-    Retarget(11, 1);
+    Retarget(Krv630, 1);
     ImportSample("krv-630-vhf.csv", "Imported 30 Lines from CSV file.");
     ExpectCells(1, {{MNUM, "001"},
                     {SCAN, "1"},

@@ -318,7 +318,7 @@ TEST_F(ImportCommand, SkipsItsEvent) {
 
 TEST_F(ImportCommand, WorksOnTheSelectedPageOnly) {
     SetCell(5, DESC, "FIRST");
-    SetPageParameters(MainFrame, 1, 6, 0);
+    SetPageParameters(MainFrame, 1, Kdrv716, 0);
     CreateNewPage(MainFrame, 1);
     UpdateStatus(MainFrame, 1);
     WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));

@@ -174,10 +174,12 @@ TEST_F(MultiZEL, FrequenciesOfTheNeighbourBandStay) {
 TEST_F(MultiZEL, FrequenciesOfAnotherBandBecomeTheBandsStart) {
     const std::tuple<int, int, const char*, const char*> cases[] = {
         // radio, band slot, frequency in the file, in the cells
-        {0, 0, "155.7525", "30.0000"},  {1, 0, "155.7525", "66.0000"},  {2, 0, "155.7525", "118.0000"},
-        {3, 0, "453.2125", "138.0000"}, {6, 0, "453.2125", "136.0000"}, {10, 1, "155.7525", "225.0000"},
-        {5, 0, "155.7525", "403.0000"}, {17, 5, "155.7525", "31.0000"}, {3, 0, "600.0000", "138.0000"},
-        {3, 0, "        ", "138.0000"}, {3, 0, "1557525 ", "138.0000"},
+        {Krv21, 0, "155.7525", "30.0000"},    {Krv47, 0, "155.7525", "66.0000"},
+        {Orv12, 0, "155.7525", "118.0000"},   {Krv214, 0, "453.2125", "138.0000"},
+        {Kdrv716, 0, "453.2125", "136.0000"}, {Krv620, 1, "155.7525", "225.0000"},
+        {Krv305, 0, "155.7525", "403.0000"},  {Kdrv4xxx, ModuleSlot, "155.7525", "31.0000"},
+        {Krv214, 0, "600.0000", "138.0000"},  {Krv214, 0, "        ", "138.0000"},
+        {Krv214, 0, "1557525 ", "138.0000"},
     };
     for (const auto& [radio, slot, source, start] : cases) {
         SCOPED_TRACE(std::to_string(radio) + " " + source);
@@ -199,7 +201,7 @@ TEST_F(MultiZEL, TheModulesRowsAreOfItsFirstBand) {
 
 TEST_F(MultiZEL, RowsOfTheNextModulesPageAreOfTheirOwnBand) {
     RetargetTo("MDLX");
-    CurrentParameters().Band = 9;
+    CurrentParameters().Band = RadioCatalogue::K7Module;
     SetCell(0, BAND, "DEFAULT");
     for (const auto& [frequency, band] : {std::pair("039.4600", "FM 30-50"),
                                           {"077.6875", "FM 66-88"},
@@ -211,7 +213,7 @@ TEST_F(MultiZEL, RowsOfTheNextModulesPageAreOfTheirOwnBand) {
         Write({{14, frequency}});
         EXPECT_EQ(band, Text(5, BAND)) << frequency;
     }
-    CurrentParameters().Band = 8;
+    CurrentParameters().Band = RadioCatalogue::K6Module;
 }
 
 TEST_F(MultiZEL, ADigitalPageTakesItsDefaultRowsDigitalFields) {
@@ -308,7 +310,7 @@ TEST_F(MultiZEL, LinesMayEndInAnyWayAndTheLastInNone) {
 }
 
 TEST_F(MultiZEL, NamesAreUtf8OrLatin1) {
-    Retarget(11, 1);
+    Retarget(Krv630, 1);
     for (const char* name : {"krv-630-vhf-towns-latin1.630", "krv-630-vhf-towns-utf8.630"}) {
         SCOPED_TRACE(name);
         EXPECT_EQ(30, Import(SampleFile(name)));

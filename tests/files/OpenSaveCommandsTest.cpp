@@ -151,7 +151,7 @@ TEST_F(OpenSaveCommands, OpenOffersChannelFiles) {
 TEST_F(OpenSaveCommands, OpenBeginsInTheFolderOfThePageOrElseOfTheFirstPage) {
     fs::create_directories(m_folder / "first");
     fs::create_directories(m_folder / "second");
-    SetPageParameters(MainFrame, 1, 3, 0);
+    SetPageParameters(MainFrame, 1, Krv214, 0);
     CreateNewPage(MainFrame, 1);
     ASSERT_EQ(1, CurrentPage);
     PageStrings[0].FileDir = FolderText() + "first/";
@@ -611,7 +611,7 @@ TEST_F(OpenSaveCommands, SaveKeepsThePageItself) {
 
 TEST_F(OpenSaveCommands, OpenWorksOnTheSelectedPageOnly) {
     SetCell(5, DESC, "FIRST");
-    SetPageParameters(MainFrame, 1, 3, 0);
+    SetPageParameters(MainFrame, 1, Krv214, 0);
     CreateNewPage(MainFrame, 1);
     UpdateStatus(MainFrame, 1);
     WriteToFolder("a.zelk", FileOf("KDAR", Memory(7, "<DS>TOWER</DS>")));

@@ -439,7 +439,7 @@ TEST_F(PrintCommands, WithoutRoomForTheSheetsPrintingFailsAndIsToldInTheLogAndTh
 }
 
 TEST_F(PrintCommands, PrintTheSelectedPage) {
-    SetPageParameters(MainFrame, 1, 2, 0);
+    SetPageParameters(MainFrame, 1, Orv12, 0);
     CreateNewPage(MainFrame, 1);
     UpdateStatus(MainFrame, 1);
     FillPage();

@@ -8,8 +8,6 @@ using namespace testbench;
 
 namespace {
 
-constexpr int Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8;
-
 class TypingInto : public ZelkWindowTest {
 protected:
     void SetUp() override {

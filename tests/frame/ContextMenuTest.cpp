@@ -17,8 +17,6 @@ constexpr int DefaultRow = 6024, CreateShadow = 6025, CopyRow = 6026, PasteRow =
               InsertRow = 6029, DeleteRow = 6030, MarkRow = 6031, DefaultCol = 6032, DefaultMarked = 6033,
               ToRowNum = 6034, InSequence = 6035, DefaultFile = 6036, SaveDefault = 6037, LoadDefault = 6038;
 
-constexpr int Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8;
-
 class ContextMenu : public ZelkWindowTest {
 protected:
     void SetUp() override {
@@ -289,7 +287,7 @@ TEST_F(ContextMenu, AtTheCellsOuterEdgeIsThatOfTheCorner) {
 }
 
 TEST_F(ContextMenu, BesideAllRowsAndColumnsIsNone) {
-    Retarget(2, 0);
+    Retarget(Orv12, 0);
     ContextRow = 3;
     EXPECT_EQ(MenuAt([] {
                   const wxSize room = CurrentGrid()->GetGridRowLabelWindow()->GetClientSize();

@@ -12,9 +12,6 @@ using namespace testbench;
 
 namespace {
 
-constexpr int Krv47 = 1, Orv12 = 2, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8, Krv630 = 11,
-              Kdrv4xxx = 17;
-
 class Adjusting : public ZelkWindowTest {
 protected:
     /// What a file for another radio does: new parameters first, then the grid.

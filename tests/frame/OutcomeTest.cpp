@@ -82,7 +82,7 @@ TEST_F(Outcome, GoesWithTheNextCommand) {
 }
 
 TEST_F(Outcome, GoesWithAPageChange) {
-    SetPageParameters(MainFrame, 1, 3, 0);
+    SetPageParameters(MainFrame, 1, Krv214, 0);
     CreateNewPage(MainFrame, 1);
     TellOutcome("Saved a.zelk");
     MainFrame->m_notebook->SetSelection(0);

@@ -15,9 +15,6 @@ using namespace testbench;
 
 namespace {
 
-constexpr int Krv21 = 0, Orv12 = 2, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8, Krv610 = 9,
-              Kdrv4xxx = 17;
-
 class Pages : public ZelkWindowTest {
 protected:
     void SetUp() override {
@@ -66,7 +63,7 @@ TEST_F(Pages, AreAddedForTheChosenRadio) {
 }
 
 TEST_F(Pages, AreAddedForTheChosenBand) {
-    AddPage(Kdrv4xxx, 5);
+    AddPage(Kdrv4xxx, ModuleSlot);
     EXPECT_EQ(StatusFields(), (Texts{"KDRV-4xxx", "K6 3-BAND", "500 Rows"}));
     EXPECT_EQ(PageStrings[1].TypeName, "MDLX");
     AddPage(Kdrv4xxx, 1);

@@ -17,9 +17,6 @@ using namespace testbench;
 
 namespace {
 
-constexpr int Krv47 = 1, Orv12 = 2, Krv214 = 3, Krv305 = 5, Kdrv716 = 6, Kdrv716B = 7, Kdar2000 = 8,
-              Krv610 = 9, Krv630 = 11, Krv650 = 13, Kdrv8400 = 16, Kdrv4xxx = 17;
-
 constexpr const char* question = "Change Target?";
 constexpr const char* warning = "If there is data on this page,\nthis may result in invalid configuration!";
 
@@ -375,7 +372,7 @@ TEST_F(ChangingTheTarget, FillsAnEmptyDescriptionAndScanButNoNumber_Departure) {
 }
 
 TEST_F(ChangingTheTarget, FromTheModuleToAP25RadioUnlocksWhatTheModuleLocked_Departure) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     FillRowsFromDefault({4, 5});
     SetCell(4, BAND, "AM 225-400");
     SetCell(5, BAND, "AM 108-138");
@@ -475,7 +472,7 @@ TEST_F(ChangingTheTarget, TellsOfMemoriesThatFindNoRow) {
 TEST_F(ChangingTheTarget, ToTheModulePutsRowsOnTheBandOfTheirFrequency_Departure) {
     OpenExample("krv-620-milair");
     const wxString frequency = Cell(1, RFRQ);
-    ChangeTarget(Kdrv4xxx, 5);
+    ChangeTarget(Kdrv4xxx, ModuleSlot);
     EXPECT_EQ(Cell(1, BAND), "AM 225-400");
     EXPECT_TRUE(IsPainted(1, BAND));
     EXPECT_EQ(Cell(1, RFRQ), frequency);

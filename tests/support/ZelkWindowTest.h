@@ -12,6 +12,9 @@
 #include <wx/app.h>
 #include <wx/grid.h>
 
+using enum RadioCatalogue::RadioIndex;
+using RadioCatalogue::ModuleSlot;
+
 /// Shows the window with its first page (KRV-47) before each test and destroys it after it.
 class ZelkWindowTest : public ::testing::Test {
 protected:

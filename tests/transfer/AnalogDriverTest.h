@@ -37,7 +37,7 @@ protected:
 
     /// Gives the module's page, of 500 rows, the radio that is asked for its information block.
     static void UseAskingRadio(int rows) {
-        Retarget(Kdrv4xxx, 5);
+        Retarget(Kdrv4xxx, ModuleSlot);
         CurrentParameters().Radio = AskingRadio;
         CurrentParameters().Rows = rows;
     }

@@ -7,10 +7,9 @@
 #include <optional>
 #include <string>
 
-namespace {
+using namespace RadioCatalogue;
 
-constexpr int AnalogFmType = 0;
-constexpr int ModuleType = 3;
+namespace {
 
 /// The longest form: memory 001, a tower, no tones, no codes, locked out, narrow.
 const wxString Tower = "001 TOWER1    150.0000RX 150.0000TX CTCSS: 64RX 64TX DPL: 000RX 000TX LOCK N";
@@ -242,7 +241,7 @@ TEST_F(CodeText, AlwaysHasThreeCharacters) {
 }
 
 TEST_F(CodeText, OfWhatTheListLacksReadsAsOff) {
-    const auto read = [](const char* text) { return Text(TextToCode(text, AnalogFmType)); };
+    const auto read = [](const char* text) { return Text(TextToCode(text, ANFM)); };
     EXPECT_EQ(read("023"), "023");
     EXPECT_EQ(read("754"), "754");
     EXPECT_EQ(read("000"), "OFF");
@@ -317,7 +316,7 @@ TEST_F(AnalogRadioLine, OfTheLongFormGivesItsCells) {
 
 TEST_F(AnalogRadioLine, OfTheShortFormHasNoReceiveToneAndCode) {
     ASSERT_TRUE(IsShortAnalogForm(ShortTower));
-    const AnalogCells cells = ReadAnalogLine(ShortTower, AnalogFmType);
+    const AnalogCells cells = ReadAnalogLine(ShortTower, ANFM);
     EXPECT_EQ(Text(cells.description), "TOWER1   ");
     EXPECT_EQ(Text(cells.rxFrequency), "150.0000");
     EXPECT_EQ(Text(cells.txFrequency), "150.0000");
@@ -330,14 +329,13 @@ TEST_F(AnalogRadioLine, OfTheShortFormHasNoReceiveToneAndCode) {
 }
 
 TEST_F(AnalogRadioLine, OfTheShortFormWithoutCodeIsOff) {
-    EXPECT_EQ(Text(ReadAnalogLine(Replaced(ShortTower, 53, "000"), AnalogFmType).txCode), "OFF");
-    EXPECT_EQ(Text(ReadAnalogLine(Replaced(ShortTower, 53, "999"), AnalogFmType).txCode), "OFF");
-    EXPECT_FALSE(ReadAnalogLine(ShortTower.Left(53), AnalogFmType).txCode);
+    EXPECT_EQ(Text(ReadAnalogLine(Replaced(ShortTower, 53, "000"), ANFM).txCode), "OFF");
+    EXPECT_EQ(Text(ReadAnalogLine(Replaced(ShortTower, 53, "999"), ANFM).txCode), "OFF");
+    EXPECT_FALSE(ReadAnalogLine(ShortTower.Left(53), ANFM).txCode);
 }
 
 TEST_F(AnalogRadioLine, DropsOneLeadingZeroOfAFrequency) {
-    const AnalogCells cells =
-        ReadAnalogLine(Replaced(Replaced(Tower, 14, "030.0000"), 25, "005.0000"), AnalogFmType);
+    const AnalogCells cells = ReadAnalogLine(Replaced(Replaced(Tower, 14, "030.0000"), 25, "005.0000"), ANFM);
     EXPECT_EQ(Text(cells.rxFrequency), "30.0000");
     EXPECT_EQ(Text(cells.txFrequency), "05.0000");
 }
@@ -352,43 +350,43 @@ TEST_F(AnalogRadioLine, OfAModuleHasNoCodesWhereThereIsATransmitTone) {
     };
     const wxString coded = Replaced(Replaced(Tower, 58, "023"), 64, "754");
     for (const auto& c : cases) {
-        const AnalogCells cells = ReadAnalogLine(Replaced(coded, 48, c.tone), ModuleType);
+        const AnalogCells cells = ReadAnalogLine(Replaced(coded, 48, c.tone), MDLX);
         EXPECT_EQ(Text(cells.rxCode), c.rxCode) << c.tone;
         EXPECT_EQ(Text(cells.txCode), c.txCode) << c.tone;
-        EXPECT_EQ(Text(ReadAnalogLine(Replaced(coded, 48, c.tone), AnalogFmType).txCode), "754") << c.tone;
+        EXPECT_EQ(Text(ReadAnalogLine(Replaced(coded, 48, c.tone), ANFM).txCode), "754") << c.tone;
     }
 }
 
 TEST_F(AnalogRadioLine, ShorterThanItsScanFieldReadsScanAsZero) {
     const wxString scanned = Replaced(Tower, 70, "12345");
-    EXPECT_EQ(Text(ReadAnalogLine(scanned, AnalogFmType).scan), "31");
-    EXPECT_EQ(Text(ReadAnalogLine(scanned.Left(75), AnalogFmType).scan), "31");
-    EXPECT_EQ(Text(ReadAnalogLine(scanned.Left(74), AnalogFmType).scan), "0");
-    EXPECT_EQ(Text(ReadAnalogLine(ShortTower.Left(64), AnalogFmType).scan), "5");
-    EXPECT_EQ(Text(ReadAnalogLine(ShortTower.Left(63), AnalogFmType).scan), "0");
+    EXPECT_EQ(Text(ReadAnalogLine(scanned, ANFM).scan), "31");
+    EXPECT_EQ(Text(ReadAnalogLine(scanned.Left(75), ANFM).scan), "31");
+    EXPECT_EQ(Text(ReadAnalogLine(scanned.Left(74), ANFM).scan), "0");
+    EXPECT_EQ(Text(ReadAnalogLine(ShortTower.Left(64), ANFM).scan), "5");
+    EXPECT_EQ(Text(ReadAnalogLine(ShortTower.Left(63), ANFM).scan), "0");
 }
 
 TEST_F(AnalogRadioLine, WithoutScanFieldHasItsModeThere) {
-    EXPECT_EQ(Text(ReadAnalogLine(Tower.Left(70) + "N", AnalogFmType).mode), "n");
-    EXPECT_EQ(Text(ReadAnalogLine(Tower.Left(70) + "W", AnalogFmType).mode), "w");
+    EXPECT_EQ(Text(ReadAnalogLine(Tower.Left(70) + "N", ANFM).mode), "n");
+    EXPECT_EQ(Text(ReadAnalogLine(Tower.Left(70) + "W", ANFM).mode), "w");
 }
 
 TEST_F(AnalogRadioLine, WithoutNInItsModeFieldIsWide) {
     for (const char* mode : {"W", "", " ", "n", "wide"})
-        EXPECT_EQ(Text(ReadAnalogLine(Tower.Left(75) + mode, AnalogFmType).mode), "w") << mode;
+        EXPECT_EQ(Text(ReadAnalogLine(Tower.Left(75) + mode, ANFM).mode), "w") << mode;
     for (const char* mode : {"N", " N", "WN"})
-        EXPECT_EQ(Text(ReadAnalogLine(Tower.Left(75) + mode, AnalogFmType).mode), "n") << mode;
+        EXPECT_EQ(Text(ReadAnalogLine(Tower.Left(75) + mode, ANFM).mode), "n") << mode;
 }
 
 TEST_F(AnalogRadioLine, OfTenThousandCharactersIsRead) {
-    const AnalogCells cells = ReadAnalogLine(Tower + wxString('N', 10000), AnalogFmType);
+    const AnalogCells cells = ReadAnalogLine(Tower + wxString('N', 10000), ANFM);
     EXPECT_EQ(Text(cells.description), "TOWER1   ");
     EXPECT_EQ(Text(cells.mode), "n");
 }
 
 TEST_F(AnalogRadioLine, HasNoPartOfAFieldThatDidNotComeWhole) {
     for (size_t length = 0; length <= Tower.length(); ++length) {
-        const AnalogCells cells = ReadAnalogLine(Tower.Left(length), AnalogFmType);
+        const AnalogCells cells = ReadAnalogLine(Tower.Left(length), ANFM);
         const struct {
             const char* name;
             std::optional<wxString> cell;

@@ -178,7 +178,7 @@ TEST_F(AnalogRadio, OfSixChannelsIsRead) {
 }
 
 TEST_F(AnalogRadio, OfThreeBandsGetsAndGivesItsChannels) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     // The module's airband knows neither tones nor codes, its upper AM band no codes.
     struct ModuleChannel {
         const char *frequency, *band, *tone, *code;

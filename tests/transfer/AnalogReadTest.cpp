@@ -170,7 +170,7 @@ TEST_F(AnalogRead, OfMoreThanTwoHundredRowsTakesThreeHundredForAChannel) {
 }
 
 TEST_F(AnalogRead, OfAModuleRepairsABandThatTheModuleLacks) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     RadioPeer peer(Sending(RadioLine("001", "031.0000") + RadioLine("002", "125.0000") +
                            RadioLine("003", "150.0000") + RadioLine("004", "060.0000") + "300\r"));
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete);

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int Krv610 = 9, Kdrv8400 = 16, Kdrv4xxx = 17;
-
 std::string Text(const wxString& text) {
     return text.utf8_string();
 }
@@ -316,7 +314,7 @@ TEST_F(AnalogRecord, OfTheShortFormCutBehindAnyCharacterGetsDefaultTextsPaintedF
 }
 
 TEST_F(AnalogRecord, OfAModuleCutBehindAnyCharacterHasTheBandOfAWholeReceiveFrequencyOnly) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     FillDefaults();
     SetCell(0, BAND, "AM 225-400");
     for (size_t length = 4; length <= Narrow.length(); ++length)
@@ -331,7 +329,7 @@ TEST_F(AnalogRecord, OfAModuleCutBehindAnyCharacterHasTheBandOfAWholeReceiveFreq
 }
 
 TEST_F(AnalogRecord, OfAModuleWithoutToneCutBehindAnyCharacterGetsDefaultTextsForItsCodes) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     FillDefaults();
     const wxString coded = wxString(Narrow).replace(48, 2, "00");
     for (size_t length = 50; length <= coded.length(); ++length)
@@ -370,7 +368,7 @@ TEST_F(AnalogRecord, OfTenThousandCharactersIsRead) {
 }
 
 TEST_F(AnalogRecord, OfAModuleGetsTheBandOfItsFrequency) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     const std::pair<const char*, const char*> cases[] = {
         {"031.0000", "FM 30-50"},   {"066.0000", "FM 66-88"},   {"108.0000", "AM 108-138"},
         {"125.0000", "AM 108-138"}, {"150.0000", "FM 138-174"}, {"300.0000", "AM 225-400"},
@@ -384,7 +382,7 @@ TEST_F(AnalogRecord, OfAModuleGetsTheBandOfItsFrequency) {
 }
 
 TEST_F(AnalogRecord, OfAModuleIsEditedByTheBandOfItsFrequency) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     ASSERT_EQ(Read(With(14, "121.5000")), 1);
     for (int column : {RFRQ, TFRQ}) {
         const wxGridCellEditorPtr editor(CurrentGrid()->GetCellEditor(1, column));
@@ -397,7 +395,7 @@ TEST_F(AnalogRecord, OfAModuleIsEditedByTheBandOfItsFrequency) {
 }
 
 TEST_F(AnalogRecord, OfAModuleInNoBandGetsTheDefaultBandPainted) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     SetCell(0, BAND, "AM 225-400");
     int row = 1;
     for (const char* frequency : {"060.0000", "000.0000", "xxxxxxxx", "        "}) {
@@ -409,7 +407,7 @@ TEST_F(AnalogRecord, OfAModuleInNoBandGetsTheDefaultBandPainted) {
 }
 
 TEST_F(AnalogRecord, OfAModuleWithTransmitToneHasNoCodes) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     ASSERT_EQ(Read(Sent), 1);
     EXPECT_EQ(CellText(1, RCOD), "OFF");
     EXPECT_EQ(CellText(1, TCOD), "OFF");
@@ -420,7 +418,7 @@ TEST_F(AnalogRecord, OfAModuleWithTransmitToneHasNoCodes) {
 }
 
 TEST_F(AnalogRecord, OfAModuleReachesItsFiveHundredthRow) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     EXPECT_EQ(Read(With(0, "500")), 1);
     EXPECT_EQ(Read(With(0, "501")), 0);
     FillRow(500, "500");

@@ -155,7 +155,7 @@ private:
             ++shadow;
         m_what = "shadow " + std::to_string(shadow) + " of " + std::to_string(primary);
         const bool mayHaveOne = primary < 231 && RowIsComplete(primary) && Cell(primary, SHD6) == "0" &&
-                                (ReadHex(Cell(primary, MFLG)) & 0x07) == 0;
+                                !IsShadow(CurrentGrid(), primary);
         if (!mayHaveOne)
             return;
         DialogScript dialogs;
@@ -245,7 +245,7 @@ private:
     };
 
     Ending Transfer(KnownRadio& known, int mode, bool agrees) {
-        OpModes[0] = 0x70;
+        OpModes[0] = AllModes;
         TRecordContext context;
         context.ReplyTimeout = 20000;
         context.ResultPause = context.ShadowPause = 0;
@@ -327,7 +327,7 @@ private:
     std::set<int> ErasedRows() const {
         std::set<int> rows;
         for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
-            if (ReadHex(Cell(row, TFLG)) & EraseFlag)
+            if (TransferFlags(CurrentGrid(), row) & EraseFlag)
                 rows.insert(row);
         return rows;
     }
@@ -344,8 +344,7 @@ private:
 
     bool ShadowIsSelected() const {
         for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
-            if (RowHasData(row) && CurrentGrid()->IsInSelection(row, 0) &&
-                (ReadHex(Cell(row, MFLG)) & 0x07) != 0)
+            if (RowHasData(row) && CurrentGrid()->IsInSelection(row, 0) && IsShadow(CurrentGrid(), row))
                 return true;
         return false;
     }

@@ -56,7 +56,7 @@ protected:
     /// Sends the whole page and reads it back.
     static void SendAllAndReadBack(RadioUnderTest& radio) {
         Choose(IdSelectAll);
-        OpModes[0] = 0x70;
+        OpModes[0] = AllModes;
         PortName = radio.PortName();
         DialogScript script;
         ExpectBox(script, "Write to Radio Status", "Complete");

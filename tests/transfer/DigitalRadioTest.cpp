@@ -23,7 +23,7 @@ class DigitalRadio : public DigitalRadioTest {};
 
 TEST_F(DigitalRadio, OfProtocol0GetsAndGivesItsChannels) {
     UsePage(Kdrv716);
-    OpModes[0] = 0x70;
+    OpModes[0] = AllModes;
     SendAndReadBack("KDRV-716", {}, '1');
 }
 
@@ -45,13 +45,13 @@ TEST_F(DigitalRadio, OfOldFirmwareGetsAndGivesItsChannelsOverProtocol2) {
 
 TEST_F(DigitalRadio, OfASmallModelSpeaksProtocol1WithoutASpeedChange) {
     UsePage(Kdrv716);
-    OpModes[0] = 0x70;
+    OpModes[0] = AllModes;
     SendAndReadBack("KDRV-716", {"--protocol", "1"}, '1');
 }
 
 TEST_F(DigitalRadio, OfTheModuleGetsAndGivesItsChannels) {
-    Retarget(Kdrv4xxx, 5);
-    CurrentParameters().Band = 9;
+    Retarget(Kdrv4xxx, ModuleSlot);
+    CurrentParameters().Band = RadioCatalogue::K7Module;
     for (int row = 1; row <= 500; ++row)
         ClearRowData(row, false);
     const std::pair<int, const char*> channels[] = {{1, "31.00000"}, {2, "121.50000"}, {500, "900.00000"}};
@@ -212,7 +212,7 @@ TEST_F(DigitalRadio, HearsNothingAfterAPurgeOfARowToBeErasedThatIsNotSelected) {
 // ---- Questions and refusals ----
 
 TEST_F(DigitalRadio, WithoutTheModesGetsTheMemoriesAfterYes) {
-    OpModes[0] = 0x30; // as it is before anything was transferred
+    OpModes[0] = NarrowMode | DigitalMode; // as it is before anything was transferred
     FillP25Row(1);
     SetCell(1, MODE, "w");
     Select({1});

@@ -37,7 +37,7 @@ protected:
         // As if this radio had been read last.
         RadioStamp = RadiosStamp;
         HeldByRadio = {};
-        OpModes[0] = 0x70;
+        OpModes[0] = AllModes;
     }
 
     /// @param modes expected in the question about operating modes, which is answered with `answer`

@@ -64,7 +64,7 @@ protected:
         for (const auto& [row, cells] : page.Rows())
             for (int column = 0; column < ColumnTotal; ++column)
                 SetCell(row, column, cells[static_cast<std::size_t>(column)]);
-        OpModes[0] = 0x70;
+        OpModes[0] = AllModes;
         CurrentGrid()->SelectBlock(1, 0, CurrentGrid()->GetNumberRows() - 1, ColumnTotal - 1);
     }
 

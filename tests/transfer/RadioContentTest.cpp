@@ -192,9 +192,9 @@ TEST_F(RadioContent, ThatThePageHoldsNoLongerIsErasedOnlyAfterAQuestionByDepartu
     ClearRowData(2, true);
     MakeShadow(20, "001");
     Select({20});
-    SendAsked(radio, {"Cancelled by User"}, wxID_CANCEL, LargerRadio);
+    SendAsked(radio, {"Cancelled by User"}, wxID_CANCEL, RadioHoldsMore);
     EXPECT_EQ(CountInLog(radio, PurgeMessage), 0u) << "Cancel leaves the radio as it is";
-    SendAsked(radio, Complete, wxID_OK, LargerRadio);
+    SendAsked(radio, Complete, wxID_OK, RadioHoldsMore);
     EXPECT_EQ(CountInLog(radio, PurgeMessage), 1u);
     FillP25Row(4);
     Select({4});
@@ -211,7 +211,7 @@ TEST_F(RadioContent, ThatAReadBrokeOffBeforeIsErasedOnlyAfterAQuestionByDepartur
     ASSERT_LT(FilledRows(), 3);
     MakeShadow(20, "001");
     Select({20});
-    SendAsked(radio, {"Cancelled by User"}, wxID_CANCEL, LargerRadio);
+    SendAsked(radio, {"Cancelled by User"}, wxID_CANCEL, RadioHoldsMore);
     FillP25Row(4);
     Select({4});
     Send(radio, Complete);

@@ -82,7 +82,7 @@ protected:
             for (int column = 0; column < ColumnTotal; ++column)
                 if (!Cell(row, column).empty())
                     SetCell(row, column, "");
-        OpModes[0] = 0x30;
+        OpModes[0] = NarrowMode | DigitalMode;
     }
 
     /// A memory as the records of the transcripts have it.
@@ -154,7 +154,7 @@ protected:
     }
 
     static constexpr const char* UnknownRadio = "This radio's memories were not read by this program.\n";
-    static constexpr const char* LargerRadio = "This radio holds memories that this page doesn't.\n";
+    static constexpr const char* RadioHoldsMore = "This radio holds memories that this page doesn't.\n";
 
     /// Expects the question before a radio is emptied that holds, by reason, what the page doesn't.
     static testbench::ExpectedDialog& ExpectPurgeQuestion(testbench::DialogScript& script,

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,14 +16,36 @@ namespace trecordtest {
 
 using Cells = std::vector<std::pair<int, wxString>>;
 
-/// Pages of the tests.
-enum Page { Kdrv716, Kdrv716B, K6, K7, Krv47, Orv12, Kdar2000, Krv620AM, Fxam };
-
-struct Target {
+/// A page of the tests: the first one of a radio, or one of those below.
+struct Page {
     int radio, bandIndex;
+    int band = RadioCatalogue::NoBand; ///< where it isn't that of the band slot
+    int type = -1;                     ///< where it isn't the radio's own
+
+    constexpr Page(RadioCatalogue::RadioIndex index) : radio(index), bandIndex(0) {}
+    constexpr Page(RadioCatalogue::RadioIndex index, int slot) : radio(index), bandIndex(slot) {}
+    constexpr Page OnBand(int id) const {
+        Page page = *this;
+        page.band = id;
+        return page;
+    }
+    constexpr Page OfType(int other) const {
+        Page page = *this;
+        page.type = other;
+        return page;
+    }
+    bool operator==(const Page&) const = default;
 };
-inline constexpr Target TargetOf[] = {{6, 0}, {7, 0}, {17, 5}, {17, 5}, {1, 0},
-                                      {2, 0}, {8, 0}, {10, 1}, {1, 0}};
+
+inline std::ostream& operator<<(std::ostream& out, const Page& page) {
+    return out << RadioCatalogue::RadioName[page.radio] << " slot " << page.bandIndex << " band " << page.band
+               << " type " << page.type;
+}
+
+inline constexpr Page K6(Kdrv4xxx, ModuleSlot);
+inline constexpr Page K7 = K6.OnBand(RadioCatalogue::K7Module);
+inline constexpr Page Krv620AM(Krv620, 1);
+inline constexpr Page Fxam = Page(Krv47).OfType(RadioCatalogue::FXAM);
 
 // The fields of a record, in its order. What a field holds is told by the printed layout of the record; the
 // two digits of a byte stand together.
@@ -95,11 +118,11 @@ class TRecordPage : public ZelkWindowTest {
 protected:
     /// The page as it is when it has been made.
     void Open(Page page) {
-        Retarget(TargetOf[page].radio, TargetOf[page].bandIndex);
-        if (page == K7)
-            CurrentParameters().Band = 9;
-        if (page == Fxam)
-            CurrentParameters().Type = RadioCatalogue::FXAM;
+        Retarget(page.radio, page.bandIndex);
+        if (page.band != RadioCatalogue::NoBand)
+            CurrentParameters().Band = page.band;
+        if (page.type >= 0)
+            CurrentParameters().Type = page.type;
         m_page = page;
     }
 
@@ -219,7 +242,7 @@ protected:
     TRecordContext m_context;
 
 private:
-    int m_page = -1;
+    std::optional<Page> m_page;
     bool m_defaultsTouched = false;
 };
 

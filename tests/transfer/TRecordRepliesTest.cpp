@@ -16,7 +16,7 @@ protected:
         m_port.HoldSlave();
         m_attachment = std::make_unique<Attachment>(m_context, m_port.SlaveName());
         m_context.XferFlags = 0x30;
-        m_context.RadioModes = 0x30;
+        m_context.RadioModes = NarrowMode | DigitalMode;
         m_context.Index = 5;
     }
     void TearDown() override {
@@ -124,7 +124,7 @@ TEST_F(TRecordReply, ThatTakesTheHelloSetsTheModesOfThePage) {
     for (const auto& [protocol, modes] : cases) {
         m_context.Protocol = protocol;
         m_context.Index = -10;
-        m_context.RadioModes = 0x30;
+        m_context.RadioModes = NarrowMode | DigitalMode;
         OpModes[0] = 0;
         Take("T204000000", 0);
         EXPECT_EQ(m_context.RadioModes, modes) << "protocol " << protocol;

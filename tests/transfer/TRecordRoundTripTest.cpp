@@ -12,7 +12,8 @@ using namespace RadioCatalogue;
 
 namespace {
 
-constexpr int GridRows = 503, SecondGeneration = 7;
+/// Rows of a page of the second generation, the default row among them.
+constexpr int GridRows = 1 + NP25Memories + GuardRowTotal;
 
 wxString Nth(const wxArrayString& list, int n) {
     return list[static_cast<size_t>(n) % list.size()];
@@ -68,7 +69,7 @@ protected:
         source.row = row;
         source.gridRows = GridRows;
         source.type = NP25;
-        const TRecordValues values = ReadTRecord(layout, MakeTRecord(layout, source), SecondGeneration, NP25);
+        const TRecordValues values = ReadTRecord(layout, MakeTRecord(layout, source), Kdrv716B, NP25);
         std::map<int, std::string> cells;
         cells[MFLG] = FlagText(values.flags).utf8_string();
         for (const TRecordCell& cell : values.cells)

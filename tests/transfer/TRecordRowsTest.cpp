@@ -14,7 +14,7 @@ protected:
     void SetUp() override {
         TRecordDriverTest::SetUp();
         m_context.XferFlags = 0x30;
-        m_context.RadioModes = 0x70;
+        m_context.RadioModes = AllModes;
         m_dialogue.reset(new TRecordDialogue{m_context, CurrentGrid(), 0, CurrentGrid()->GetNumberRows()});
     }
 

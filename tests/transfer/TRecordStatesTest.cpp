@@ -114,14 +114,14 @@ TEST_F(TRecordState, OfTheVersionEndsAReadOfTheHardware) {
 }
 
 TEST_F(TRecordState, OfTheVersionAsksForModesOnlyInAWrite) {
-    m_context.InvalidModes = 0x70;
+    m_context.InvalidModes = AllModes;
     const DialogScript noBox;
     for (const int mode : {1, 2, 3, 5})
         EXPECT_EQ(Choose(-5, mode), "T204000022") << mode;
 }
 
 TEST_F(TRecordState, OfTheVersionNamesAllModesThatTheRadioLacks) {
-    m_context.InvalidModes = 0x70;
+    m_context.InvalidModes = AllModes;
     DialogScript script;
     script
         .ExpectMessage(

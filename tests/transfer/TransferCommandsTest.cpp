@@ -91,9 +91,12 @@ TEST_F(ReadCommand, NamesTheRadioTypeInItsTitle) {
         int radio, band;
         const char* title;
     } const cases[] = {
-        {Krv47, 0, "Read ANFM Memory Data Progress"},    {Orv12, 0, "Read O12 Memory Data Progress"},
-        {Kdar2000, 0, "Read KDAR Memory Data Progress"}, {Kdrv8400, 1, "Read ANAM Memory Data Progress"},
-        {Kdrv4xxx, 5, "Read MDLX Memory Data Progress"}, {Kdrv716, 0, "Read RP25 Memory Data Progress"},
+        {Krv47, 0, "Read ANFM Memory Data Progress"},
+        {Orv12, 0, "Read O12 Memory Data Progress"},
+        {Kdar2000, 0, "Read KDAR Memory Data Progress"},
+        {Kdrv8400, 1, "Read ANAM Memory Data Progress"},
+        {Kdrv4xxx, ModuleSlot, "Read MDLX Memory Data Progress"},
+        {Kdrv716, 0, "Read RP25 Memory Data Progress"},
         {Kdrv716B, 0, "Read NP25 Memory Data Progress"},
     };
     PortName = NoSuchPort;
@@ -123,7 +126,7 @@ TEST_F(ReadCommand, OnAnAirbandPageWithTonesIsAnalog) {
 }
 
 TEST_F(ReadCommand, OnAModuleBandWithoutDriverIsUnsupportedAndClearsNothing) {
-    Retarget(Kdrv4xxx, 5);
+    Retarget(Kdrv4xxx, ModuleSlot);
     CurrentParameters().Band = 0;
     PortName = NoSuchPort;
     FillRow(1, "31.0000");
@@ -228,9 +231,12 @@ TEST_F(SendCommand, NamesTheKindOfRadioInItsTitle) {
         int radio, band;
         const char* title;
     } const cases[] = {
-        {Krv650, 1, "Send to ANFM Radio Progress"},   {Kdrv8400, 1, "Send to ANFM Radio Progress"},
-        {Kdrv4xxx, 0, "Send to ANFM Radio Progress"}, {Kdrv4xxx, 5, "Send to MDLX K6 Module Progress"},
-        {Kdrv716, 0, "Send to RP25 Radio Progress"},  {Kdrv716B, 0, "Send to RP25 Radio Progress"},
+        {Krv650, 1, "Send to ANFM Radio Progress"},
+        {Kdrv8400, 1, "Send to ANFM Radio Progress"},
+        {Kdrv4xxx, 0, "Send to ANFM Radio Progress"},
+        {Kdrv4xxx, ModuleSlot, "Send to MDLX K6 Module Progress"},
+        {Kdrv716, 0, "Send to RP25 Radio Progress"},
+        {Kdrv716B, 0, "Send to RP25 Radio Progress"},
     };
     for (const auto& c : cases) {
         Retarget(c.radio, c.band);

@@ -17,23 +17,8 @@
 
 namespace transfertest {
 
-/// Radio indices, for the pages of the tests.
-enum Radio : int {
-    Krv21 = 0,
-    Krv47 = 1,
-    Orv12 = 2,
-    Krv214 = 3,
-    Krv214B = 4,
-    Krv305 = 5,
-    Kdrv716 = 6,
-    Kdrv716B = 7,
-    Kdar2000 = 8,
-    Krv610 = 9,
-    Krv650 = 13,
-    Kdrv8400 = 16,
-    Kdrv4xxx = 17,
-    AskingRadio = 18, ///< no radio of the catalogue: the one that is asked for its information block
-};
+/// No radio of the catalogue: the one that is asked for its information block.
+constexpr int AskingRadio = RadioCatalogue::RadioTotal;
 
 constexpr const char* NoSuchPort = "/dev/no-such-port";
 

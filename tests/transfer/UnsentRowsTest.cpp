@@ -19,7 +19,7 @@ class UnsentRows : public TransferTest {
 protected:
     void SetUp() override {
         TransferTest::SetUp();
-        Retarget(Kdrv4xxx, 5);
+        Retarget(Kdrv4xxx, ModuleSlot);
         ASSERT_EQ(CurrentParameters().Rows, 500);
     }
 

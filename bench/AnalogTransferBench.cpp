@@ -16,7 +16,7 @@
 namespace {
 
 /// KRV-214: 100 channels and two guards.
-constexpr PageCase RadioPage{"ANFM", 3, 0};
+constexpr PageCase RadioPage{"ANFM", Krv214, 0};
 constexpr int Rows = 102;
 
 // What the dialogue prescribes, in seconds.

@@ -23,8 +23,9 @@ namespace {
 
 /// As in the other groups, pages of one type in three sizes, besides the full ones of real radios.
 constexpr PageCase CsvPages[] = {
-    {"NP25", 7, 0, -1, 102}, {"NP25", 7, 0, -1, 232}, {"NP25", 7, 0},
-    {"ANFM", 3, 0},          {"ANFM", 3, 0, -1, 232}, {"ANFM", 3, 0, -1, 502},
+    {"NP25", Kdrv716B, 0, -1, 102}, {"NP25", Kdrv716B, 0, -1, 232},
+    {"NP25", Kdrv716B, 0},          {"ANFM", Krv214, 0},
+    {"ANFM", Krv214, 0, -1, 232},   {"ANFM", Krv214, 0, -1, 502},
 };
 
 wxString ListPath() {

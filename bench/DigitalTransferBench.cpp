@@ -19,7 +19,7 @@
 namespace {
 
 /// KDRV-716B: 500 memories and two guards; the default row travels with them.
-constexpr PageCase RadioPage{"NP25", 7, 0};
+constexpr PageCase RadioPage{"NP25", Kdrv716B, 0};
 constexpr int Records = 503;
 
 /// Told to the radio, so that the floor knows what is on the line: its stamp, which the program knows, so

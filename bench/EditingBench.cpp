@@ -31,8 +31,13 @@ protected:
 /// besides the pages of real radios (NP25 with 502 rows, RP25 with 232, ANFM with 102) these are pages
 /// whose number of rows is set to that of the others.
 constexpr PageCase EditingPages[] = {
-    {"NP25", 7, 0, -1, 102}, {"NP25", 7, 0, -1, 232}, {"NP25", 7, 0},          {"RP25", 6, 0},
-    {"ANFM", 3, 0},          {"ANFM", 3, 0, -1, 232}, {"ANFM", 3, 0, -1, 502},
+    {"NP25", Kdrv716B, 0, -1, 102},
+    {"NP25", Kdrv716B, 0, -1, 232},
+    {"NP25", Kdrv716B, 0},
+    {"RP25", Kdrv716, 0},
+    {"ANFM", Krv214, 0},
+    {"ANFM", Krv214, 0, -1, 232},
+    {"ANFM", Krv214, 0, -1, 502},
 };
 
 int LastRow(const wxGrid* grid) {

@@ -1,6 +1,10 @@
 // A page that is full to its last row.
 #pragma once
 
+#include "catalogue/RadioTables.h"
+
+using enum RadioCatalogue::RadioIndex;
+
 /// The radio of a page to be measured.
 struct PageCase {
     const char* type;
@@ -11,8 +15,10 @@ struct PageCase {
 
 /// One page a radio type.
 inline constexpr PageCase PageCases[] = {
-    {"ANFM", 9, 0}, {"RP25", 6, 0}, {"NP25", 7, 0},  {"MDLX", 17, 5},
-    {"O12", 2, 0},  {"KDAR", 8, 0}, {"ANAM", 16, 1}, {"FXAM", 16, 1, 7},
+    {"ANFM", Krv610, 0},   {"RP25", Kdrv716, 0},
+    {"NP25", Kdrv716B, 0}, {"MDLX", Kdrv4xxx, RadioCatalogue::ModuleSlot},
+    {"O12", Orv12, 0},     {"KDAR", Kdar2000, 0},
+    {"ANAM", Kdrv8400, 1}, {"FXAM", Kdrv8400, 1, RadioCatalogue::FXAM},
 };
 
 /// Makes page 1 (the window's second) for the case; DropPage ends it.

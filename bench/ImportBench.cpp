@@ -21,11 +21,12 @@ namespace {
 
 /// A page of the digital radio as no radio has it: its rows are full without numbers that move.
 constexpr PageCase DigitalPages[] = {
-    {"NP25", 6, 0, RadioCatalogue::NP25, 102},
-    {"RP25", 6, 0},
-    {"NP25", 6, 0, RadioCatalogue::NP25, 502},
+    {"NP25", Kdrv716, 0, RadioCatalogue::NP25, 102},
+    {"RP25", Kdrv716, 0},
+    {"NP25", Kdrv716, 0, RadioCatalogue::NP25, 502},
 };
-constexpr PageCase AnalogPages[] = {{"ANFM", 9, 1, -1, 102}, {"ANFM", 9, 1}, {"ANFM", 9, 1, -1, 502}};
+constexpr PageCase AnalogPages[] = {
+    {"ANFM", Krv610, 1, -1, 102}, {"ANFM", Krv610, 1}, {"ANFM", Krv610, 1, -1, 502}};
 
 using MakeFile = std::string (*)(int rows);
 

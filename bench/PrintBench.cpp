@@ -17,7 +17,7 @@
 namespace {
 
 /// The page with the most rows.
-constexpr PageCase FullestPage = {"NP25", 7, 0};
+constexpr PageCase FullestPage = {"NP25", Kdrv716B, 0};
 
 /// A4 with 150 pixels an inch.
 constexpr int PixelsPerInch = 150;

@@ -15,7 +15,7 @@
 namespace {
 
 /// KDRV-716B, and its rows that both layouts carry.
-constexpr PageCase RadioPage{"NP25", 7, 0};
+constexpr PageCase RadioPage{"NP25", Kdrv716B, 0};
 constexpr int Rows = 230;
 
 using Encoder = void (*)(wxGrid*, int, wxString&);

@@ -10,10 +10,10 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    constexpr int module = 17, threeBands = 5;
-    return FuzzRecord(data, size, module, threeBands, [](const wxString& line) {
-        TransferContext context;
-        ParseInformation(line);
-        decodeAnalogRecord(context, CurrentGrid(), line);
-    });
+    return FuzzRecord(data, size, RadioCatalogue::Kdrv4xxx, RadioCatalogue::ModuleSlot,
+                      [](const wxString& line) {
+                          TransferContext context;
+                          ParseInformation(line);
+                          decodeAnalogRecord(context, CurrentGrid(), line);
+                      });
 }

@@ -9,8 +9,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    constexpr int radio = 6, bandIndex = 0;
-    return FuzzFile(data, size, radio, bandIndex, [](const wxString& path) {
+    return FuzzFile(data, size, RadioCatalogue::Kdrv716, 0, [](const wxString& path) {
         wxFFile file(path, "rb");
         file.Seek(HeaderSize716);
         Import716_Binary(file);

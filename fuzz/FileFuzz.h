@@ -1,6 +1,7 @@
 // What the fuzzers of foreign files share: the input as a file, and one page, which takes many of them.
 #pragma once
 
+#include "catalogue/RadioTables.h"
 #include "files/ZelkFile_ImportExport.h"
 #include "fuzz/FuzzWindow.h"
 

@@ -10,10 +10,10 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    constexpr int radio = 17, bandIndex = 5;
-    return FuzzFile(data, size, radio, bandIndex, [](const wxString& path) {
-        wxTextFile lines;
-        if (lines.Open(path, wxConvAuto(wxFONTENCODING_ISO8859_1)))
-            ImportMultiZEL(lines);
-    });
+    return FuzzFile(data, size, RadioCatalogue::Kdrv4xxx, RadioCatalogue::ModuleSlot,
+                    [](const wxString& path) {
+                        wxTextFile lines;
+                        if (lines.Open(path, wxConvAuto(wxFONTENCODING_ISO8859_1)))
+                            ImportMultiZEL(lines);
+                    });
 }

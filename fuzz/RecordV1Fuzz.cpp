@@ -9,8 +9,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    constexpr int kdrv716B = 7;
-    return FuzzRecord(data, size, kdrv716B, 0, [](const wxString& line) {
+    return FuzzRecord(data, size, RadioCatalogue::Kdrv716B, 0, [](const wxString& line) {
         HasGoodChecksum(line);
         IsGoodConfigText(HexToText(line));
         decodeTrecordV1(CurrentGrid(), line);

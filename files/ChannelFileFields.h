@@ -11,7 +11,6 @@ inline constexpr const char* RootName = "ZelkMem";
 inline constexpr const char* MemoryName = "MEMORY";
 inline constexpr const char* RowAttribute = "row";
 inline constexpr const char* ScanAttribute = "type";
-inline constexpr const char* Version = "1.0.0";
 
 /// Children of the root before the memories, in the order of the file.
 enum HeaderField : int { FieldVersion, FieldDate, FieldTime, FieldType, FieldRadio, FieldBand, FieldTotal };

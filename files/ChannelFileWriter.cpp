@@ -2,6 +2,7 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "catalogue/Version.h"
 #include "files/ChannelFileFields.h"
 
 #include <wx/datetime.h>
@@ -73,7 +74,7 @@ void WriteHeader(int page, wxXmlNode* root) {
     const PageParameterRecord& parameters = PageParameters[page];
     const wxDateTime now = wxDateTime::Now();
     const wxString texts[FieldTotal] = {
-        Version,
+        ProgramVersion,
         now.Format("%d-%b-%Y"),
         now.Format("%X"),
         TypeTextsOf[parameters.Type].fileType,

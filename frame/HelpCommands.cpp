@@ -1,5 +1,6 @@
 #include "frame/HelpCommands.h"
 
+#include "catalogue/Version.h"
 #include "frame/ZelkMain.h"
 #include "resources/ToolImages.h"
 
@@ -11,8 +12,6 @@
 
 namespace {
 
-constexpr const char* VersionTexts[] = {"1", "0", "0"};
-constexpr const char* BuildDate = "10 JUN 2026 \n\n";
 constexpr const char* ToolkitText = "wxWidgets 3.2.5-Windows-Unicode build";
 
 } // namespace
@@ -25,8 +24,9 @@ wxString UserGuidePath() {
 wxAboutDialogInfo MakeAboutInfo() {
     wxAboutDialogInfo info;
     info.SetName("Orv Zelk");
-    info.SetVersion(wxString() << VersionTexts[0] << "." << VersionTexts[1] << "." << VersionTexts[2]);
-    info.SetDescription(wxString("Channel loading software for Orv Radios. \n") << BuildDate << ToolkitText);
+    info.SetVersion(ProgramVersion);
+    info.SetDescription("Channel loading software for Orv Radios. \n" + wxString(ReleaseDay) + " \n\n" +
+                        ToolkitText);
     info.SetCopyright("Copyright 2026 the Zelk developers");
     return info;
 }

@@ -31,7 +31,7 @@ inline void PrintTo(const ExampleFile& file, std::ostream* stream) {
     *stream << file.name;
 }
 
-inline constexpr std::array<ExampleFile, 31> Files{{
+inline constexpr std::array<ExampleFile, 36> Files{{
     {"krv-21-low", "ANFM", "KRV-21", "FM 30-50", 122, 4},
     {"krv-47-mid", "ANFM", "KRV-47", "FM 66-88", 122, 2},
     {"orv-12-airband", "", "ORV-12", "AM 118-138", 6, 6},
@@ -60,6 +60,11 @@ inline constexpr std::array<ExampleFile, 31> Files{{
     {"kdrv-8400-vhf", "ANFM", "KDRV-8400", "FM 138-174", 200, 30},
     {"kdrv-8400-milair", "ANAM", "KDRV-8400", "AM 225-400", 200, 3},
     {"kdrv-8400-uhf", "ANFM", "KDRV-8400", "FM 403-512", 200, 8},
+    {"kdrv-4xxx-low", "ANFM", "KDRV-4xxx", "FM 30-50", 200, 4},
+    {"kdrv-4xxx-airband", "ANAM", "KDRV-4xxx", "AM 118-138", 200, 6},
+    {"kdrv-4xxx-vhf", "ANFM", "KDRV-4xxx", "FM 138-174", 200, 30},
+    {"kdrv-4xxx-milair", "ANAM", "KDRV-4xxx", "AM 225-400", 200, 3},
+    {"kdrv-4xxx-uhf", "ANFM", "KDRV-4xxx", "FM 403-512", 200, 8},
     {"kdrv-4xxx-k6", "MDLX", "KDRV-4xxx", "K6 3-BAND", 500, 13},
     {"kdrv-716-p25", "RP25", "KDRV-716", "FM 136-174", 232, 38},
     {"kdrv-716b-p25", "NP25", "KDRV-716B", "FM 136-174", 502, 38},

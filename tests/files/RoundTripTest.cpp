@@ -113,5 +113,5 @@ TEST_F(RoundTrip, GivesEveryExampleFileBackByteForByte) {
         EXPECT_EQ("Saved saved.zelk", ToolTip()) << entry.path();
         ++files;
     }
-    EXPECT_EQ(31, files);
+    EXPECT_EQ(36, files);
 }

@@ -119,6 +119,11 @@ TEST_F(Installed, OnlyProgramsCanBeRunAndEverybodyCanReadAll) {
     }
 }
 
+TEST_F(Installed, ExamplesAreWhatTheirScriptBesideThemWrites) {
+    NEEDS("python3");
+    EXPECT_EQ(Run({Usr() / "share/doc/zelk/examples/make-examples", "--check"}), "");
+}
+
 TEST_F(Installed, DesktopEntryIsValid) {
     NEEDS("desktop-file-validate");
     EXPECT_EQ(Run({"desktop-file-validate", Usr() / "share/applications/zelk.desktop"}), "");

@@ -1,0 +1,8 @@
+// The program's version, from CMakeLists.txt.
+#pragma once
+
+/// Three numbers with points between them.
+extern const char* const ProgramVersion;
+
+/// The day of the release, such as "10 JUN 2026".
+extern const char* const ReleaseDay;

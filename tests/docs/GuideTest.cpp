@@ -1,5 +1,6 @@
 // The user guide against the program: what the program shows or knows must stand in the guide.
 #include "catalogue/RadioCatalogue.h"
+#include "editing/CommandQuestions.h"
 #include "files/FileKind.h"
 #include "frame/CommandTables.h"
 #include "simulator/Options.h"
@@ -187,6 +188,11 @@ TEST(Guide, HasEveryMenuEntryWithItsHelp) {
     ExpectMenu(DataMenu);
     ExpectMenu(SettingsMenu);
     ExpectMenu(HelpMenu);
+}
+
+TEST(Guide, HasTheQuestionOfEveryCommand) {
+    for (const CommandQuestion& question : CommandQuestions)
+        EXPECT_TRUE(HasMessage(std::string(question.caption) + ' ' + question.message)) << question.caption;
 }
 
 TEST(Guide, HasEveryTool) {

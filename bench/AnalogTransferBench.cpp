@@ -40,8 +40,9 @@ constexpr double WriteFloor = WriteCommands * SlowCharacter + OpeningWait +
 
 double Transfer(benchmark::State& state, const PacedRadio& radio, int mode) {
     TransferContext context;
-    return TimedTransfer(
-        state, [&] { return TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench"); });
+    return TimedTransfer(state, [&] {
+        return AnalogProtocol::TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench");
+    });
 }
 
 /// Fills the radio and reads it back. The radio's time for a read is that of its bytes on the wire.

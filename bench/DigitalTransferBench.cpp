@@ -65,8 +65,9 @@ constexpr double FloorOf(int memoryCharacters) {
 
 double Transfer(benchmark::State& state, const PacedRadio& radio, int mode) {
     TRecordContext context;
-    return TimedTransfer(
-        state, [&] { return TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench"); });
+    return TimedTransfer(state, [&] {
+        return TRecordProtocol::TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench");
+    });
 }
 
 int MemoriesOfRadio() {

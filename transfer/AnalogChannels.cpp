@@ -2,15 +2,14 @@
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
 #include "editing/ZelkEdit.h"
-#include "transfer/AnalogDriver.h"
-#include "transfer/AnalogExchanges.h"
+#include "transfer/AnalogDialogue.h"
 #include "transfer/AnalogLine.h"
 #include "transfer/AnalogRecord.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
 #include "transfer/TransferSession.h"
-#include "transfer/TransferStatus.h"
+#include "transfer/TransferTimes.h"
 #include "transfer/TransferWaits.h"
 
 #include <algorithm>
@@ -23,8 +22,6 @@ namespace {
 
 constexpr wxChar Acknowledgement = 0x05;
 constexpr int EndLineBlanks = 74;
-/// Up to this count of rows a radio knows the short commands and the end line with a number.
-constexpr int ShortCommandRows = 202;
 /// Up to this count of rows "300" in a received line is no channel but the end.
 constexpr int NumberedEndRows = 200;
 
@@ -38,7 +35,7 @@ void DropAcknowledgement(TransferContext& context) {
     context.RxBuffer = context.RxBuffer.Mid(static_cast<std::size_t>(context.FoundAt) + 1);
 }
 
-int WriteChannel(TransferContext& context, wxGrid* grid, int row) {
+TransferStatus WriteChannel(TransferContext& context, wxGrid* grid, int row) {
     if (const int errors = encodeAnalogRecord(context, grid, row, context.TxLine)) {
         WriteTransferLog(context.LogFile,
                          wxString::Format("  Error: %04X on Row %d, Not Sent !", errors, row));
@@ -48,7 +45,8 @@ int WriteChannel(TransferContext& context, wxGrid* grid, int row) {
     SendPaced(context, context.TxLine, false);
     SetMainGauge(context, row);
     context.RxBuffer.clear();
-    const int status = WaitForLine(context, 5000, Acknowledgement, true);
+    const TransferStatus status =
+        WaitForLine(context, TransferTimes::AcknowledgementTimeout, Acknowledgement, true);
     if (status == TransferOk) {
         DropAcknowledgement(context);
         context.RowsSent.insert(row);
@@ -79,7 +77,7 @@ bool IsEndLine(const TransferContext& context, const wxString& line) {
 }
 
 void TakeChannel(TransferContext& context, wxGrid* grid, const wxString& line) {
-    if (decodeAnalogRecord(context, grid, line) == 0)
+    if (TakePlainAnalogRecord(context, grid, line) == 0)
         return;
     context.Index = context.Work1;
     SetMainGauge(context, context.Index);
@@ -89,15 +87,15 @@ void TakeChannel(TransferContext& context, wxGrid* grid, const wxString& line) {
 
 } // namespace
 
-int WriteChannels(TransferContext& context, wxGrid* grid) {
+TransferStatus WriteChannels(TransferContext& context, wxGrid* grid) {
     // Some radios confirm the opening command, others don't: only Cancel counts here.
-    if (WaitForLine(context, 50, Acknowledgement, true) == TransferCancelled)
+    if (WaitForLine(context, TransferTimes::OpeningTimeout, Acknowledgement, true) == TransferCancelled)
         return TransferCancelled;
     const int lastRow = std::min(static_cast<int>(context.RowCapacity), grid->GetNumberRows() - 1);
     for (int row = 1; row <= lastRow; ++row) {
         if (!grid->IsInSelection(row, 1))
             continue;
-        if (const int status = WriteChannel(context, grid, row))
+        if (const TransferStatus status = WriteChannel(context, grid, row))
             return status;
     }
     SendPaced(context,
@@ -105,17 +103,18 @@ int WriteChannels(TransferContext& context, wxGrid* grid) {
     return TransferComplete;
 }
 
-int ReadChannels(TransferContext& context, wxGrid* grid) {
+TransferStatus ReadChannels(TransferContext& context, wxGrid* grid) {
     AskForKey(context, CurrentParameters().Radio);
     bool started = false;
     context.Index = 0;
     while (true) {
-        const int status = WaitForLine(context, 5000, '\r', true);
+        const TransferStatus status = WaitForLine(context, TransferTimes::ChannelTimeout, '\r', true);
         if (status == TransferCancelled)
             return status;
         if (status == TransferTimeout)
             break;
         TakeReceivedLine(context);
+        // Its parity bits were cleared when it came: acknowledgements and line ends have them too.
         context.RxLine = PrintableText(context.RxLine).Trim(false);
         if (!started && !CutToFirstChannel(context.RxLine))
             continue;

@@ -1,13 +1,12 @@
 // Configuration lines from and to analog radios.
 #include "catalogue/TextNumbers.h"
-#include "transfer/AnalogDriver.h"
-#include "transfer/AnalogExchanges.h"
+#include "transfer/AnalogDialogue.h"
 #include "transfer/HexText.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
 #include "transfer/TransferSession.h"
-#include "transfer/TransferStatus.h"
+#include "transfer/TransferTimes.h"
 #include "transfer/TransferWaits.h"
 
 #include <wx/gauge.h>
@@ -23,22 +22,19 @@ bool PrepareGauge(TransferContext& context) {
     return true;
 }
 
-/// The bytes of fields 2 to 5 and one more add up to a whole multiple of 256.
+/// Intentional: unlike a digital radio's text (IsGoodConfigText), a line that lacks fields is good if those
+/// that it has add up.
 bool HasGoodChecksum(const wxString& line) {
-    const wxArrayString fields = wxSplit(line, ':', '\\');
-    int sum = 1;
-    for (std::size_t field = 2; field <= 5 && field < fields.size(); ++field)
-        sum += HexByteSum(fields[field]);
-    return sum % 256 == 0;
+    return HasConfigChecksum(wxSplit(line, ':', '\\'));
 }
 
 /// Sends one line and takes the radio's answer.
-int WriteConfigLine(TransferContext& context, const wxString& line) {
+TransferStatus WriteConfigLine(TransferContext& context, const wxString& line) {
     SendPaced(context, line, false);
     WriteTransferLog(context.LogFile, ">" + line);
     SetMainGauge(context, context.Index);
     context.RxBuffer.clear();
-    const int status = WaitForLine(context, 500, '\r', true);
+    const TransferStatus status = WaitForLine(context, TransferTimes::ConfigAnswerTimeout, '\r', true);
     WriteTransferLog(context.LogFile, "<" + context.RxBuffer.BeforeFirst('\r'));
     if (status == TransferCancelled)
         return status;
@@ -47,12 +43,12 @@ int WriteConfigLine(TransferContext& context, const wxString& line) {
 
 } // namespace
 
-int ReadConfig(TransferContext& context) {
+TransferStatus ReadConfig(TransferContext& context) {
     if (!PrepareGauge(context))
         return TransferComplete;
     context.ConfigLines.clear();
     while (true) {
-        if (const int status = WaitForLine(context, 5000, '\r', true))
+        if (const TransferStatus status = WaitForLine(context, TransferTimes::ConfigLineTimeout, '\r', true))
             return status;
         TakeReceivedLine(context);
         WriteTransferLog(context.LogFile, "<" + context.RxLine);
@@ -65,7 +61,7 @@ int ReadConfig(TransferContext& context) {
     }
 }
 
-int WriteConfig(TransferContext& context) {
+TransferStatus WriteConfig(TransferContext& context) {
     if (!PrepareGauge(context))
         return TransferComplete;
     context.Status = TransferOk;

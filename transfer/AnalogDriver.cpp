@@ -1,38 +1,29 @@
 #include "transfer/AnalogDriver.h"
 
 #include "catalogue/PageModel.h"
-#include "frame/ZelkMain.h"
-#include "transfer/AnalogExchanges.h"
+#include "transfer/AnalogDialogue.h"
 #include "transfer/AnalogInformation.h"
 #include "transfer/AnalogLine.h"
-#include "transfer/ProgressFrame.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
 #include "transfer/TransferMode.h"
 #include "transfer/TransferSession.h"
-#include "transfer/TransferStatus.h"
+#include "transfer/TransferTimes.h"
 #include "transfer/TransferWaits.h"
-#include "transfer/wxAsyncSerial.h"
 
 #include <wx/stdpaths.h>
 
 namespace {
 
-constexpr unsigned LineSpeed = 9600; // baud
-constexpr int SlowPause = 350;       // ms
-constexpr int FastPause = 2;         // ms
-/// Above this count the opening command names the count.
-constexpr std::uint32_t ShortCommandRows = 202;
-
-/// Tells the user and the log how the transfer ended.
-void Report(TransferContext& context, int mode) {
+/// Reports to the user and the log how the transfer ended.
+void Report(TransferContext& context, TransferMode mode) {
     switch (context.Status) {
     case TransferComplete:
         context.Progress->SetStatus("Transfer Complete.");
         WriteTransferLog(context.LogFile, "Transfer Complete.");
         if (mode != ReadInformationMode)
-            Delay(context, 1000, true);
+            Delay(context, TransferTimes::ResultPause, true);
         return;
     case TransferPortError:
         return ShowError(context, "Invalid COM Port (or Port in use)");
@@ -45,7 +36,7 @@ void Report(TransferContext& context, int mode) {
     case TransferNoDataSelected:
         return ShowError(context, "No data selected for transfer to Radio");
     case TransferUnsupported:
-        // The spelling is meant.
+        // Intentional: the spelling.
         return ShowError(context, "The requested function is not supported\nby the firware in the Radio");
     case TransferCancelled:
         return WriteTransferLog(context.LogFile, "Transfer cancelled by user.");
@@ -55,11 +46,11 @@ void Report(TransferContext& context, int mode) {
 }
 
 /// Asks the radio for its information block. TransferOk also when it doesn't answer: it is unknown then.
-int AskForInformation(TransferContext& context, wxString& block) {
+TransferStatus AskForInformation(TransferContext& context, wxString& block) {
     SendPaced(context, "SV", false);
     context.RxLine.clear();
     context.RxBuffer.clear();
-    const int status = WaitForLine(context, 200, '\r', true);
+    const TransferStatus status = WaitForLine(context, TransferTimes::InformationTimeout, '\r', true);
     if (status == TransferCancelled)
         return status;
     if (status == TransferOk) {
@@ -86,7 +77,7 @@ wxString ChannelCommand(std::uint32_t rows, const wxString& shortForm, const wxS
 }
 
 /// Sets TxLine and StatusText for the mode. TransferOk, or the status with which there is nothing to open.
-int ChooseCommand(TransferContext& context, int mode) {
+TransferStatus ChooseCommand(TransferContext& context, TransferMode mode) {
     switch (mode) {
     case WriteChannelsMode:
         context.StatusText = "Sending Memory Data....";
@@ -115,7 +106,7 @@ int ChooseCommand(TransferContext& context, int mode) {
     }
 }
 
-int RunExchange(TransferContext& context, wxGrid* grid, int mode) {
+TransferStatus RunExchange(TransferContext& context, wxGrid* grid, TransferMode mode) {
     switch (mode) {
     case WriteChannelsMode:
         return WriteChannels(context, grid);
@@ -128,20 +119,7 @@ int RunExchange(TransferContext& context, wxGrid* grid, int mode) {
     }
 }
 
-} // namespace
-
-int TransferData(TransferContext& context, wxGrid* grid, int mode, const wxString& portName,
-                 const wxString& title) {
-    MakeProgressFrame(context, grid, title);
-    OpenTransferLog(context.LogFile, wxStandardPaths::Get().GetUserDataDir());
-    context.Port = new wxAsyncSerial(MainFrame, portName, LineSpeed);
-    context.Status = context.Port->isOpen() ? DoTransferData(context, grid, mode) : TransferPortError;
-    Report(context, mode);
-    TakeDown(context);
-    return context.Status;
-}
-
-int DoTransferData(TransferContext& context, wxGrid* grid, int mode) {
+TransferStatus Exchange(TransferContext& context, wxGrid* grid, TransferMode mode) {
     const PageParameterRecord& page = CurrentParameters();
     const int pibNumber = GetPibNumber(page.Radio);
     // Some radios set it on everything, acknowledgements and line ends too.
@@ -157,7 +135,7 @@ int DoTransferData(TransferContext& context, wxGrid* grid, int mode) {
     if (pibNumber != 0)
         context.RowCapacity = static_cast<std::uint32_t>(page.Rows);
 
-    if (const int status = ChooseCommand(context, mode))
+    if (const TransferStatus status = ChooseCommand(context, mode))
         return status;
     if (pibNumber != 0) {
         SendPaced(context, wxString::Format("rt\r%d\r", pibNumber), true);
@@ -170,14 +148,17 @@ int DoTransferData(TransferContext& context, wxGrid* grid, int mode) {
     return RunExchange(context, grid, mode);
 }
 
-wxString CountedCommand(const wxString& word, std::uint32_t count) {
-    return word + wxString::Format("%3u\r", count);
+} // namespace
+
+TransferStatus AnalogProtocol::TransferData(TransferContext& context, wxGrid* grid, int mode,
+                                            const wxString& portName, const wxString& title) {
+    TransferSession session(context, MeansFor(grid, portName, title));
+    OpenTransferLog(context.LogFile, wxStandardPaths::Get().GetUserDataDir());
+    session.Run([&] { return DoTransferData(context, grid, mode); });
+    Report(context, static_cast<TransferMode>(mode));
+    return context.Status;
 }
 
-void SendPaced(TransferContext& context, const wxString& text, bool slow) {
-    const int pause = slow ? SlowPause : FastPause;
-    for (wxUniChar character : slow ? text : text + "\r") {
-        context.Port->write(wxString(character));
-        Delay(context, pause, false);
-    }
+TransferStatus AnalogProtocol::DoTransferData(TransferContext& context, wxGrid* grid, int mode) {
+    return Exchange(context, grid, static_cast<TransferMode>(mode));
 }

@@ -115,7 +115,8 @@ wxString ModeToText(const wxString& mode) {
 
 void AppendAnalogFields(const AnalogTexts& texts, wxString& out) {
     for (const AnalogField& field : std::span(LongAnalogForm).subspan(2)) {
-        // Guards go out under their numbers, so no line begins with their letter; the test is meant to stay.
+        // Guards go out under their numbers, so no line begins with their letter. Intentional: the test
+        // stays.
         if (field.notOnGuards && out.StartsWith("G"))
             continue;
         out += field.part == LiteralPart ? wxString(field.literal) : texts[field.part];
@@ -167,9 +168,7 @@ AnalogTexts SplitAnalogLine(const wxString& line) {
     return texts;
 }
 
-AnalogCells ReadAnalogLine(const wxString& line, int type) {
-    const AnalogTexts texts = SplitAnalogLine(line);
-    const bool isShort = IsShortAnalogForm(line);
+AnalogCells ReadAnalogTexts(const AnalogTexts& texts, bool isShort, int type) {
     AnalogCells cells;
     cells.description = texts[DescriptionPart];
     cells.rxFrequency = IfWhole(texts[RxFrequencyPart], WithoutLeadingZero);
@@ -186,4 +185,8 @@ AnalogCells ReadAnalogLine(const wxString& line, int type) {
     cells.scan = ScanTextToNumber(texts[ScanPart]);
     cells.mode = texts[ModePart].Contains("N") ? "n" : "w";
     return cells;
+}
+
+AnalogCells ReadAnalogLine(const wxString& line, int type) {
+    return ReadAnalogTexts(SplitAnalogLine(line), IsShortAnalogForm(line), type);
 }

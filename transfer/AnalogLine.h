@@ -137,5 +137,8 @@ bool IsShortAnalogForm(const wxString& line);
 /// field it begins where that would.
 AnalogTexts SplitAnalogLine(const wxString& line);
 
+/// The cells of the field texts of a line, of the short form or not, on a page of that radio type.
+AnalogCells ReadAnalogTexts(const AnalogTexts& texts, bool isShort, int type);
+
 /// The cells of a received line, without parity bits, on a page of that radio type.
 AnalogCells ReadAnalogLine(const wxString& line, int type);

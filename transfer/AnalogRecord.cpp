@@ -82,24 +82,28 @@ int encodeAnalogRecord(TransferContext&, wxGrid* grid, int row, wxString& out) {
     if (const int number = NumberToSend(grid, row))
         out = NumberText(number) + " ";
     else
-        ++errors; // meant: the line goes on behind whatever out held
+        ++errors; // Intentional: the line continues whatever out held.
     AppendAnalogFields(TextsOfRow(grid, row), out);
     return errors;
 }
 
 int decodeAnalogRecord(TransferContext& context, wxGrid* grid, const wxString& line) {
-    const wxString plain = StripParity(line);
-    if (!HasAnalogNumber(plain))
+    return TakePlainAnalogRecord(context, grid, StripParity(line));
+}
+
+int TakePlainAnalogRecord(TransferContext& context, wxGrid* grid, const wxString& line) {
+    if (!HasAnalogNumber(line))
         return 0;
-    const wxString number = NumberFieldToCell(grid, plain.Left(3));
+    const AnalogTexts texts = SplitAnalogLine(line);
+    const wxString number = NumberFieldToCell(grid, texts[NumberPart]);
     const int row = ReadDecimal(number);
     if (row < 1 || row >= grid->GetNumberRows())
         return 0;
     const int type = CurrentParameters().Type;
     grid->SetCellValue(row, MNUM, number);
-    WriteCells(grid, row, ReadAnalogLine(plain, type));
+    WriteCells(grid, row, ReadAnalogTexts(texts, IsShortAnalogForm(line), type));
     if (type == MDLX)
-        WriteBand(grid, row, SplitAnalogLine(plain)[RxFrequencyPart]);
+        WriteBand(grid, row, texts[RxFrequencyPart]);
     context.Work1 = row;
     return 1;
 }

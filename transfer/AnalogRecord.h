@@ -22,5 +22,8 @@ int encodeAnalogRecord(TransferContext& context, wxGrid* grid, int row, wxString
 ///         then unchanged
 int decodeAnalogRecord(TransferContext& context, wxGrid* grid, const wxString& line);
 
+/// The same for a line whose parity bits are cleared and in which blanks stand for unprintable characters.
+int TakePlainAnalogRecord(TransferContext& context, wxGrid* grid, const wxString& line);
+
 /// ToneToText of a cell: two decimal digits.
 wxString ToneToCode(wxGrid* grid, int row, int column);

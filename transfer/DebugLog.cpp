@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::uint32_t SampleProtocol = 2;
 
-// Meant: these records are read at odd positions, one behind the place where other records have their
+// Intentional: these records are read at odd positions, one behind the place where other records have their
 // address and data. The first byte of the data is byte 5.
 constexpr size_t AddressPosition = 5, AddressDigits = 4;
 constexpr std::uint32_t FirstDataByte = 5, FirstDataByteOfBlock = 9;
@@ -93,7 +93,8 @@ wxString TakeTrafficByte(TRecordContext& context, std::uint32_t byte, Traffic& t
         written = PairOfLines(context);
         context.Work2 = 1;
         context.DebugRxText = "Msg: ";
-        // Meant: no text is made for this byte, so that the text of the byte before it is added once more.
+        // Intentional: no text is made for this byte, so that the text of the byte before it is added once
+        // more.
     } else {
         traffic.text = TraceCharacter(c);
     }
@@ -162,7 +163,7 @@ void OpenDebugLog(TRecordContext& context, const wxString& serial, const wxStrin
         context.DebugLogFile.Detach();
     if (!context.DebugLogFile.Open("KDRV-716_" + serial + "_Dbg.log", "w"))
         return;
-    // Meant: the heading follows the date on its line.
+    // Intentional: the heading follows the date on its line.
     Write(context.DebugLogFile, "SN," + serial + "\nDate," + now +
                                     "Timestamp,Flags,Main_RxTx_State,Guard_RxTx_State,"
                                     "MB_Temp,MCU_Temp,MainRF_Temp,GuardRF_Temp\n");
@@ -179,7 +180,7 @@ void decodeDebugLog(TRecordContext& context) {
         decodeDebugLog716B(context);
     else
         decodeDebugLog716A(context);
-    context.Phase = 0;
+    context.Phase = LineDone;
 }
 
 void decodeDebugLog716A(TRecordContext& context) {

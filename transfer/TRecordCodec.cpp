@@ -8,6 +8,7 @@
 #include "transfer/HexText.h"
 #include "transfer/TRecord.h"
 #include "transfer/TRecordFields.h"
+#include "transfer/TRecordMessages.h"
 #include "transfer/TransferContext.h"
 
 #include <wx/grid.h>
@@ -125,7 +126,7 @@ void encodeEraseRecord(TRecordContext& context, int row, wxString& out) {
     constexpr int firstRow = 2;
     const int last =
         context.RecordVersion == V2 ? RadioCatalogue::NP25Memories : RadioCatalogue::RP25Memories;
-    out = row >= firstRow && row <= last ? "T204" + HexField(row, 4) + "10" : wxString();
+    out = row >= firstRow && row <= last ? EraseBegin + HexField(row, 4) + EraseEnd : wxString();
 }
 
 void encodeConfigRecord(TRecordContext&, const wxString& text, wxString& out) {
@@ -136,14 +137,10 @@ void encodeConfigRecord(TRecordContext&, const wxString& text, wxString& out) {
 }
 
 bool IsGoodConfigText(const wxString& text) {
-    constexpr size_t firstField = 2, lastField = 5;
+    constexpr size_t fewestFields = 6;
     const wxArrayString fields = wxSplit(text, ':', '\\');
-    if (fields.size() <= lastField)
-        return false;
-    int sum = 1;
-    for (size_t field = firstField; field <= lastField; ++field)
-        sum += HexByteSum(fields[field]);
-    return sum % 256 == 0;
+    // An analog radio's line (AnalogConfig.cpp) may lack fields.
+    return fields.size() >= fewestFields && HasConfigChecksum(fields);
 }
 
 void SetTFlag(wxGrid* grid, int row, int bits) {

@@ -1,29 +1,17 @@
 #include "transfer/TRecordDriver.h"
 
 #include "catalogue/PageModel.h"
-#include "frame/ZelkMain.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/RadioIdentity.h"
-#include "transfer/TRecord.h"
 #include "transfer/TRecordDialogue.h"
-#include "transfer/TRecordExchange.h"
-#include "transfer/TRecordMessages.h"
-#include "transfer/TRecordReport.h"
-#include "transfer/TRecordRows.h"
-#include "transfer/TRecordStates.h"
 #include "transfer/TransferLog.h"
-#include "transfer/TransferMode.h"
 #include "transfer/TransferSession.h"
-#include "transfer/TransferStatus.h"
 #include "transfer/TransferWaits.h"
-#include "transfer/wxAsyncSerial.h"
 
 #include <wx/gauge.h>
 #include <wx/grid.h>
 
 namespace {
-
-constexpr unsigned LineSpeed = 9600; // baud
 
 void SetUp(TRecordContext& context) {
     context.RadioSerial = "UNKNOWN";
@@ -54,7 +42,7 @@ void BeginShadowPass(TRecordDialogue& dialogue) {
     context.XferFlags &= ~NeedsShadowPass;
     context.StatusText = "Sending Shadow Memory Data....";
     SetMainGauge(context, 0);
-    // Meant: the log has one point less than the window.
+    // Intentional: the log has one point less than the window.
     WriteTransferLog(context.LogFile, "Sending Shadow Memory Data...");
     Delay(context, context.ShadowPause, true);
 }
@@ -80,10 +68,10 @@ void FinishRow(TRecordDialogue& dialogue) {
 }
 
 /// Goes through the states, and the rows or lines, until the transfer is over.
-int RunStates(TRecordDialogue& dialogue) {
+TransferStatus RunStates(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     do {
-        if (const int status = ChooseLine(dialogue))
+        if (const TransferStatus status = ChooseLine(dialogue))
             return status;
         if (!context.TxLine.empty()) {
             context.Progress->SetStatus(context.StatusText);
@@ -99,24 +87,7 @@ int RunStates(TRecordDialogue& dialogue) {
     return context.Status;
 }
 
-} // namespace
-
-int TransferData(TRecordContext& context, wxGrid* grid, int mode, const wxString& portName,
-                 const wxString& title) {
-    MakeProgressFrame(context, grid, title);
-    OpenTransferLog(context.LogFile, wxString());
-    context.RxBuffer.clear();
-    context.RxLine.clear();
-    context.Port = new wxAsyncSerial(MainFrame, portName, LineSpeed);
-    context.Status = context.Port->isOpen() ? DoTransferData(context, grid, mode) : TransferPortError;
-    ReportResult(context, mode);
-    CloseTransferLog(context.DebugLogFile);
-    CloseTransferLog(context.HardwareFile); // still open if the radio didn't end its records
-    TakeDown(context);
-    return context.Status;
-}
-
-int DoTransferData(TRecordContext& context, wxGrid* grid, int mode) {
+TransferStatus Converse(TRecordContext& context, wxGrid* grid, TransferMode mode) {
     SetUp(context);
     TRecordDialogue dialogue{context, grid, mode, grid->GetNumberRows()};
     if (mode == WriteChannelsMode) {
@@ -131,6 +102,19 @@ int DoTransferData(TRecordContext& context, wxGrid* grid, int mode) {
     return RunStates(dialogue);
 }
 
-void SendEndRecord(TRecordContext& context) {
-    SendLine(context, WithChecksum(EndRecord));
+} // namespace
+
+TransferStatus TRecordProtocol::TransferData(TRecordContext& context, wxGrid* grid, int mode,
+                                             const wxString& portName, const wxString& title) {
+    TransferSession session(context, MeansFor(grid, portName, title));
+    OpenTransferLog(context.LogFile, wxString());
+    context.RxBuffer.clear();
+    context.RxLine.clear();
+    session.Run([&] { return DoTransferData(context, grid, mode); });
+    ReportResult(context, static_cast<TransferMode>(mode));
+    return context.Status;
+}
+
+TransferStatus TRecordProtocol::DoTransferData(TRecordContext& context, wxGrid* grid, int mode) {
+    return Converse(context, grid, static_cast<TransferMode>(mode));
 }

@@ -1,14 +1,10 @@
-#include "transfer/TRecordExchange.h"
-
+// One line to a digital radio and what comes back.
 #include "catalogue/TextNumbers.h"
 #include "transfer/TRecord.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TRecordMessages.h"
-#include "transfer/TRecordReplies.h"
 #include "transfer/TransferLog.h"
-#include "transfer/TransferMode.h"
 #include "transfer/TransferSession.h"
-#include "transfer/TransferStatus.h"
 #include "transfer/TransferWaits.h"
 #include "transfer/wxAsyncSerial.h"
 
@@ -16,6 +12,11 @@ namespace {
 
 constexpr std::size_t ShortestRecord = 4; // letter, type and checksum
 constexpr std::size_t ChecksumLength = 2;
+
+void SendLine(TRecordContext& context, const wxString& line) {
+    WriteTransferLog(context.LogFile, ">" + line);
+    context.Port->write(line + "\r");
+}
 
 void SendOffer(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
@@ -73,7 +74,6 @@ void ExchangeLine(TRecordDialogue& dialogue) {
     } while (context.Phase != LineDone && context.Status == TransferOk);
 }
 
-void SendLine(TRecordContext& context, const wxString& line) {
-    WriteTransferLog(context.LogFile, ">" + line);
-    context.Port->write(line + "\r");
+void SendEndRecord(TRecordContext& context) {
+    SendLine(context, WithChecksum(EndRecord));
 }

@@ -1,11 +1,9 @@
-#include "transfer/TRecordHardware.h"
-
+// The hardware information that a digital radio gives, and the files made of it.
 #include "transfer/DebugLog.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecord.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TransferLog.h"
-#include "transfer/TransferMode.h"
 
 #include <algorithm>
 #include <wx/filefn.h>

@@ -1,7 +1,15 @@
 // The fixed messages of the protocol of the digital radios, without their checksums.
 #pragma once
 
+#include <cstddef>
+
+/// The byte between HelloBegin and HelloEnd that offers protocol 0; the next protocols have the next bytes.
+inline constexpr int FirstProtocolByte = 0x20;
+
 // clang-format off
+/// Offers a protocol: the byte of its number, and HelloEnd.
+inline constexpr const char* HelloBegin    = "T0070000";
+inline constexpr const char* HelloEnd      = "030000";
 /// Accepted; to the radio: go on.
 inline constexpr const char* AckRecord     = "T204000000";
 /// Refused.
@@ -38,6 +46,14 @@ inline constexpr const char* MSG_UPLDSWCFG = "T204000034";
 inline constexpr const char* ConfigReply   = "T205000034";
 /// Configuration records are about to come.
 inline constexpr const char* ConfigWrite   = "T204000035";
+/// Followed by the grid row in four digits and EraseEnd: erases the memory.
+inline constexpr const char* EraseBegin    = "T204";
+inline constexpr const char* EraseEnd      = "10";
 /// The run of data records is over; to the radio: so is the transfer.
 inline constexpr const char* EndRecord     = "T9030000";
 // clang-format on
+
+/// Where the text behind a message of ten characters begins, counted from 0.
+inline constexpr std::size_t MessageTextAt = 10;
+/// Characters of a firmware version, of an identity stamp, and of a byte.
+inline constexpr std::size_t VersionLength = 6, StampLength = 14, ByteLength = 2;

@@ -1,5 +1,4 @@
-#include "transfer/TRecordReplies.h"
-
+// What a digital radio's lines do.
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "transfer/DebugLog.h"
@@ -9,13 +8,9 @@
 #include "transfer/TRecord.h"
 #include "transfer/TRecordCodec.h"
 #include "transfer/TRecordDialogue.h"
-#include "transfer/TRecordHardware.h"
 #include "transfer/TRecordMessages.h"
-#include "transfer/TRecordRows.h"
-#include "transfer/TRecordStates.h"
-#include "transfer/TransferMode.h"
 #include "transfer/TransferSession.h"
-#include "transfer/TransferStatus.h"
+#include "transfer/TransferTimes.h"
 #include "transfer/TransferWaits.h"
 #include "transfer/wxAsyncSerial.h"
 
@@ -24,10 +19,8 @@
 namespace {
 
 constexpr unsigned FastSpeed = 115200; // baud
-constexpr int SpeedPause = 50;         // ms
-constexpr int RefusalPause = 500;      // ms
+/// A line that is refused so often ends the transfer.
 constexpr std::uint32_t RefusalLimit = 2;
-constexpr std::size_t MessageTextAt = 10;
 
 void SetRadioModes(TRecordContext& context, std::uint32_t modes) {
     context.RadioModes = modes;
@@ -37,9 +30,9 @@ void SetRadioModes(TRecordContext& context, std::uint32_t modes) {
 /// The radio has agreed to the protocol that was offered.
 void KeepProtocol(TRecordContext& context) {
     if (context.Protocol == 0)
-        context.Index = HardwareTextState; // VersionState is next: this protocol has no queries before
+        ContinueAt(context, VersionState); // this protocol has no queries before
     else if (context.Protocol == 1)
-        context.Index = SpeedState; // OpModeState is next: the speed stays
+        ContinueAt(context, OpModeState); // the speed stays
     SetRadioModes(context, context.Protocol <= 1 ? AllModes : context.RadioModes);
 }
 
@@ -48,7 +41,7 @@ void TakeAck(TRecordDialogue& dialogue) {
     if (context.Index == HelloState) {
         KeepProtocol(context);
     } else if (context.Index == SpeedState) {
-        Delay(context, SpeedPause, false);
+        Delay(context, TransferTimes::SpeedPause, false);
         context.Port->setBaudRate(FastSpeed);
     } else if (dialogue.mode == WriteChannelsMode && context.Index >= 0) {
         TakeRowAck(dialogue);
@@ -60,7 +53,7 @@ void TakeAck(TRecordDialogue& dialogue) {
 void TakeNak(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     if (context.Index == HelloState) {
-        // Meant: nothing limits how many protocols are offered.
+        // Intentional: nothing limits how many protocols are offered.
         ++context.Protocol;
         OfferHello(dialogue);
         context.Phase = SendNew;
@@ -68,16 +61,16 @@ void TakeNak(TRecordDialogue& dialogue) {
     }
     context.Phase = SendAgain;
     if (++context.RetryCount < RefusalLimit)
-        Delay(context, RefusalPause, true);
+        Delay(context, TransferTimes::RefusalPause, true);
     else
         context.Status = TransferCommunicationError;
 }
 
 void TakeVersion(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
-    RadioVersion = context.RxLine.Mid(MessageTextAt, 6);
+    RadioVersion = context.RxLine.Mid(MessageTextAt, VersionLength);
     context.RecordVersion = context.Protocol == 2 && RadioVersion.StartsWith("02") ? 2 : 1;
-    // Meant: a version that begins in another way passes, with records of version 1.
+    // Intentional: a version that begins in another way passes, with records of version 1.
     if (!dialogue.Needs(FitsV1) && (context.Protocol < 2 || RadioVersion.StartsWith("01")))
         context.Status = TransferInvalidTransmitData;
     context.Phase = LineDone;
@@ -85,16 +78,16 @@ void TakeVersion(TRecordDialogue& dialogue) {
 
 void TakeOpModes(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
-    SetRadioModes(context, HexNumberAt(context.RxLine, MessageTextAt, 2));
+    SetRadioModes(context, HexNumberAt(context.RxLine, MessageTextAt, ByteLength));
     const bool writesOrConfig = dialogue.mode == WriteChannelsMode || dialogue.mode == ReadConfigMode ||
                                 dialogue.mode == WriteConfigMode;
     if (context.Protocol == 1 || writesOrConfig)
-        context.Index = HardwareTextState; // VersionState is next
+        ContinueAt(context, VersionState);
     context.Phase = LineDone;
 }
 
 void TakeConfigCount(TRecordContext& context) {
-    context.ConfigCount = HexNumberAt(context.RxLine, MessageTextAt, 2);
+    context.ConfigCount = HexNumberAt(context.RxLine, MessageTextAt, ByteLength);
     context.Progress->MainGauge()->SetRange(static_cast<int>(context.ConfigCount));
     context.ConfigLines.clear();
     context.Phase = LineDone;
@@ -102,7 +95,7 @@ void TakeConfigCount(TRecordContext& context) {
 
 void TakeLineInWrite(TRecordContext& context) {
     if (context.RxLine.StartsWith(MSG_SID)) {
-        context.StampTold = context.RxLine.Mid(MessageTextAt, 14);
+        context.StampTold = context.RxLine.Mid(MessageTextAt, StampLength);
         if (RadioStamp.empty() || context.StampTold != RadioStamp)
             context.XferFlags |= OtherRadio;
         if (HeldByRadio.stamp != RadioStamp)
@@ -118,7 +111,7 @@ void TakeEnd(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     if (context.Index == HardwareState || context.Index == HardwareTextState) {
         EndHardware(dialogue);
-        context.Index = HardwareTextState; // VersionState is next
+        ContinueAt(context, VersionState);
         context.Phase = LineDone;
         return;
     }
@@ -158,7 +151,7 @@ void TakeData(TRecordDialogue& dialogue) {
     } else if (context.Index == HardwareTextState) {
         TakeHardwareText(dialogue);
         context.Phase = LineDone;
-        context.Index = HardwareState; // HardwareTextState is next, again
+        ContinueAt(context, HardwareTextState);
     } else if (dialogue.mode == ReadConfigMode) {
         TakeConfigRecord(context);
     } else if (dialogue.mode == ReadChannelsMode) {

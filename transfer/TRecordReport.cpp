@@ -1,17 +1,13 @@
-#include "transfer/TRecordReport.h"
-
+// How a transfer with a digital radio is reported to have ended.
 #include "transfer/ProgressFrame.h"
 #include "transfer/TRecordDialogue.h"
-#include "transfer/TRecordDriver.h"
 #include "transfer/TransferLog.h"
-#include "transfer/TransferMode.h"
 #include "transfer/TransferSession.h"
-#include "transfer/TransferStatus.h"
 #include "transfer/TransferWaits.h"
 
 namespace {
 
-void ReportComplete(TRecordContext& context, int mode) {
+void ReportComplete(TRecordContext& context, TransferMode mode) {
     if (mode == WriteChannelsMode || mode == WriteConfigMode || context.Index == VersionState)
         SendEndRecord(context);
     context.Progress->SetStatus("Transfer Complete.");
@@ -28,7 +24,7 @@ void ReportCancelled(TRecordContext& context) {
 
 } // namespace
 
-void ReportResult(TRecordContext& context, int mode) {
+void ReportResult(TRecordContext& context, TransferMode mode) {
     switch (context.Status) {
     case TransferComplete:
         return ReportComplete(context, mode);

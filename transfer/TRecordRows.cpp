@@ -1,12 +1,10 @@
-#include "transfer/TRecordRows.h"
-
+// Which rows of the page go to a digital radio, and as what.
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecordCodec.h"
 #include "transfer/TRecordDialogue.h"
-#include "transfer/TRecordDriver.h"
 #include "transfer/TRecordFields.h"
 
 #include <algorithm>

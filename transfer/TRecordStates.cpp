@@ -1,17 +1,12 @@
-#include "transfer/TRecordStates.h"
-
+// What a transfer with a digital radio says, state by state.
 #include "transfer/ProgressFrame.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecord.h"
 #include "transfer/TRecordCodec.h"
 #include "transfer/TRecordDialogue.h"
-#include "transfer/TRecordHardware.h"
 #include "transfer/TRecordMessages.h"
-#include "transfer/TRecordRows.h"
 #include "transfer/TransferLog.h"
-#include "transfer/TransferMode.h"
 #include "transfer/TransferSession.h"
-#include "transfer/TransferStatus.h"
 
 #include <wx/gauge.h>
 #include <wx/msgdlg.h>
@@ -19,7 +14,7 @@
 namespace {
 
 constexpr int DebugLogBlocks = 255;
-/// The radios of this protocol tell their hardware before their debug log.
+/// The radios of this protocol give their hardware information before their debug log.
 constexpr std::uint32_t HardwareProtocol = 2;
 
 bool UserAcceptsModes(const TRecordContext& context) {
@@ -47,11 +42,11 @@ bool UserAcceptsPurge(const TRecordDialogue& dialogue) {
     return question.ShowModal() == wxID_OK;
 }
 
-int ChooseVersionQuery(TRecordDialogue& dialogue) {
+TransferStatus ChooseVersionQuery(TRecordDialogue& dialogue) {
     if (dialogue.mode == ReadInformationMode)
         return TransferComplete;
-    // Meant: InvalidModes was found out before this radio told its modes, by those of the radio before.
-    // Meant: to say No counts as a complete transfer.
+    // Intentional: InvalidModes was found out before this radio told its modes, by those of the radio before.
+    // Intentional: to say No counts as a complete transfer.
     if (dialogue.mode == WriteChannelsMode && dialogue.context.InvalidModes != 0 &&
         !UserAcceptsModes(dialogue.context))
         return TransferComplete;
@@ -107,7 +102,7 @@ void OfferPurge(TRecordDialogue& dialogue) {
     HeldByRadio = {};
 }
 
-const char* DataStatus(int mode) {
+const char* DataStatus(TransferMode mode) {
     switch (mode) {
     case WriteChannelsMode:
         return "Sending Primary Memory Data....";
@@ -127,7 +122,7 @@ void BeginData(TRecordDialogue& dialogue) {
     WriteTransferLog(dialogue.context.LogFile, dialogue.context.StatusText);
 }
 
-int OfferConfigLine(TRecordDialogue& dialogue) {
+TransferStatus OfferConfigLine(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     const std::size_t line = static_cast<std::size_t>(context.Index);
     if (line >= context.ConfigLines.size())
@@ -139,7 +134,7 @@ int OfferConfigLine(TRecordDialogue& dialogue) {
     return TransferOk;
 }
 
-int ChooseDataLine(TRecordDialogue& dialogue) {
+TransferStatus ChooseDataLine(TRecordDialogue& dialogue) {
     if (dialogue.mode == WriteConfigMode)
         return OfferConfigLine(dialogue);
     if (dialogue.mode == WriteChannelsMode)
@@ -152,11 +147,11 @@ int ChooseDataLine(TRecordDialogue& dialogue) {
 } // namespace
 
 void OfferHello(TRecordDialogue& dialogue) {
-    dialogue.Offer("T0070000" + HexField(0x20 + static_cast<std::int64_t>(dialogue.context.Protocol), 2) +
-                   "030000");
+    dialogue.Offer(HelloBegin + HexField(FirstProtocolByte + std::int64_t{dialogue.context.Protocol}, 2) +
+                   HelloEnd);
 }
 
-int ChooseLine(TRecordDialogue& dialogue) {
+TransferStatus ChooseLine(TRecordDialogue& dialogue) {
     dialogue.context.TxLine.clear();
     switch (dialogue.context.Index) {
     case HelloState:

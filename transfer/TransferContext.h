@@ -1,6 +1,9 @@
 // What a transfer driver works on.
 #pragma once
 
+#include "transfer/TransferStatus.h"
+#include "transfer/TransferTimes.h"
+
 #include <cstdint>
 #include <set>
 #include <wx/arrstr.h>
@@ -11,6 +14,15 @@
 class ProgressFrame;
 class wxAsyncSerial;
 
+/// Values of TransferContext::Phase.
+enum ExchangePhase : std::uint32_t {
+    LineDone = 0,   ///< go to the next index
+    SendNew = 1,    ///< send TxLine
+    SendAgain = 2,  ///< send TxLine again, as it stands
+    WaitOn = 3,     ///< send nothing, wait for a further line
+    LineFailed = 4, ///< Status tells how
+};
+
 /// State of one transfer. Made anew for each by the handler of the command; the driver fills it.
 struct TransferContext {
     wxString InfoField4, InfoField5;    ///< fields of the radio's information block
@@ -19,8 +31,8 @@ struct TransferContext {
     std::uint32_t ProductCode = 0;      ///< first digit of the information block
     std::uint32_t RowCapacity = 0;      ///< rows that the radio holds
     std::uint32_t ConfigCount = 0;      ///< configuration lines that the radio holds
-    wxAsyncSerial* Port = nullptr;      ///< made and destroyed by the driver
-    ProgressFrame* Progress = nullptr;  ///< made and destroyed by the driver
+    wxAsyncSerial* Port = nullptr;      ///< belongs to the TransferSession
+    ProgressFrame* Progress = nullptr;  ///< belongs to the TransferSession
     wxDateTime WaitStart, WaitNow;      ///< begin and present of the last WaitForLine or Delay
     std::int64_t Elapsed = 0;           ///< milliseconds of that wait so far
     std::int64_t LastPulse = 0;         ///< Elapsed when the pulse gauge last moved
@@ -34,11 +46,11 @@ struct TransferContext {
     wxFFile DebugLogFile, HardwareFile; ///< texts read from the radio, T-record transfers only
     std::int32_t Index = 0;             ///< state or row
     std::int32_t Work1 = 0, Work2 = 0, Work3 = 0; ///< numbers of the moment
-    std::uint32_t Phase = 0;                      ///< state of the exchange of one line
+    std::uint32_t Phase = LineDone;               ///< an ExchangePhase
     std::int32_t FoundAt = -1;                    ///< position of the terminator in RxBuffer, -1 for none
-    std::int32_t Status = 0;                      ///< a TransferStatus
-    std::uint32_t XferFlags = 0;                  ///< what the rows to be sent need of the radio
-    std::set<int> RowsSent;                       ///< memory rows that the radio has acknowledged
+    TransferStatus Status = TransferOk;
+    std::uint32_t XferFlags = 0; ///< what the rows to be sent need of the radio
+    std::set<int> RowsSent;      ///< memory rows that the radio has acknowledged
 
     /// Makes of the text that arrives what RxBuffer gets; null: the text as it is.
     wxString (*Arriving)(const wxString& text) = nullptr;
@@ -55,7 +67,9 @@ struct TRecordContext : TransferContext {
     std::uint32_t LogDataStart = 0;    ///< byte of a debug log record at which its data begin
     std::uint32_t Protocol = 0;        ///< number of the protocol agreed on
     wxString StampTold;                ///< identity stamp that the radio told in a write, empty before
-    int ReplyTimeout = 30000;          ///< milliseconds that an answer is waited for
-    int ShadowPause = 500;             ///< milliseconds between the primaries and the shadows
-    int ResultPause = 1000;            ///< milliseconds that the last word stands in the progress window
+
+    // Milliseconds, as in TransferTimes.h. Tests set shorter ones.
+    int ReplyTimeout = TransferTimes::ReplyTimeout;
+    int ShadowPause = TransferTimes::ShadowPause;
+    int ResultPause = TransferTimes::ResultPause;
 };

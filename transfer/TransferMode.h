@@ -1,7 +1,7 @@
 // What a transfer is to do.
 #pragma once
 
-/// Kinds of transfer, as plain integers in the calls of the drivers. The commands of the window start the
+/// Kinds of transfer. Callers of the drivers name them by their numbers. The commands of the window start the
 /// first two; the others are for direct calls.
 enum TransferMode : int {
     WriteChannelsMode = 0,

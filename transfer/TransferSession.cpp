@@ -1,40 +1,61 @@
 #include "transfer/TransferSession.h"
 
-#include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
-#include "transfer/wxAsyncSerial.h"
+#include "transfer/TransferTimes.h"
 
+#include <utility>
 #include <wx/gauge.h>
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
 
 namespace {
 
-constexpr int LastWordsTime = 200; // ms
+/// At which every radio begins, in baud.
+constexpr unsigned OpeningSpeed = 9600;
+
+std::unique_ptr<ProgressFrame> MakeProgressFrame(wxGrid* grid, const wxString& title) {
+    auto progress = std::make_unique<ProgressFrame>(grid->GetGridWindow(), -1, title, wxDefaultPosition,
+                                                    wxSize(200, 150), wxCAPTION | wxRESIZE_BORDER);
+    progress->MainGauge()->SetRange(grid->GetNumberRows());
+    progress->MainGauge()->SetValue(0);
+    progress->Show();
+    return progress;
+}
 
 } // namespace
 
-void MakeProgressFrame(TransferContext& context, wxGrid* grid, const wxString& title) {
-    context.Progress = new ProgressFrame(grid->GetGridWindow(), -1, title, wxDefaultPosition,
-                                         wxSize(200, 150), wxCAPTION | wxRESIZE_BORDER);
-    context.Progress->MainGauge()->SetRange(grid->GetNumberRows());
-    context.Progress->MainGauge()->SetValue(0);
-    context.Progress->Show();
+TransferMeans MeansFor(wxGrid* grid, const wxString& portName, const wxString& title) {
+    // The window comes first: opening a port can take a while.
+    auto progress = MakeProgressFrame(grid, title);
+    return {std::move(progress),
+            std::make_unique<wxAsyncSerial>(wxGetTopLevelParent(grid), portName, OpeningSpeed)};
 }
 
-void TakeDown(TransferContext& context) {
-    CloseTransferLog(context.LogFile);
+TransferSession::TransferSession(TransferContext& context, TransferMeans means)
+    : m_context(context), m_means(std::move(means)) {
+    m_context.Progress = m_means.progress.get();
+    m_context.Port = m_means.port.get();
+}
+
+TransferSession::~TransferSession() {
+    CloseTransferLog(m_context.LogFile);
+    CloseTransferLog(m_context.DebugLogFile);
+    CloseTransferLog(m_context.HardwareFile); // still open if the radio didn't end its records
     // A close drops what is unsent, on Windows the record on its way too: the radio would miss the end of the
     // transfer. However it ended, there is nothing to wait for unless the line is slow or stuck.
-    context.Port->waitUntilWritten(LastWordsTime);
-    context.Port->close();
-    delete context.Port;
-    context.Port = nullptr;
-    context.Progress->Hide();
+    m_means.port->waitUntilWritten(TransferTimes::LastWordsTimeout);
+    m_means.port->close();
+    m_means.port.reset();
+    m_context.Port = nullptr;
+    m_means.progress->Hide();
     // At once, not when the program is next idle: the other windows are disabled as long as it lives.
-    delete context.Progress;
-    context.Progress = nullptr;
+    m_means.progress.reset();
+    m_context.Progress = nullptr;
+}
+
+void TransferSession::Run(const std::function<TransferStatus()>& exchange) {
+    m_context.Status = m_means.port->isOpen() ? exchange() : TransferPortError;
 }
 
 void ShowError(TransferContext& context, const wxString& text) {

@@ -5,7 +5,7 @@
 #include <wx/arrstr.h>
 #include <wx/string.h>
 
-/// Result of a transfer and of its waits. The numbers are fixed: they travel as plain integers.
+/// Result of a transfer and of its waits. The numbers are fixed: users read them in a box.
 enum TransferStatus : std::int32_t {
     TransferOk = 0,
     TransferComplete = 1,

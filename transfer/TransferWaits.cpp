@@ -3,7 +3,6 @@
 
 #include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
-#include "transfer/TransferStatus.h"
 #include "transfer/wxAsyncSerial.h"
 
 #include <chrono>
@@ -36,7 +35,7 @@ void TakeArrived(TransferContext& context) {
 
 } // namespace
 
-int WaitForLine(TransferContext& context, int timeoutMs, wxChar terminator, bool /*pulse*/) {
+TransferStatus WaitForLine(TransferContext& context, int timeoutMs, wxChar terminator, bool /*pulse*/) {
     auto* gauge = context.Progress->PulseGauge();
     gauge->Pulse();
     context.LastPulse = 0;
@@ -51,7 +50,7 @@ int WaitForLine(TransferContext& context, int timeoutMs, wxChar terminator, bool
             gauge->Pulse();
             context.LastPulse = context.Elapsed;
         }
-        // Meant: a line that comes in the pass in which the time runs out counts as a time-out.
+        // Intentional: a line that comes in the pass in which the time runs out counts as a time-out.
         if (context.Progress->Cancelled)
             return TransferCancelled;
         if (context.Elapsed >= timeoutMs)

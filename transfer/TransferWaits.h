@@ -1,6 +1,8 @@
 // The waits of the transfer drivers.
 #pragma once
 
+#include "transfer/TransferStatus.h"
+
 #include <wx/chartype.h>
 
 struct TransferContext;
@@ -15,7 +17,7 @@ struct TransferContext;
 /// @param pulse      taken and without effect: the gauge pulses in any case
 /// @return TransferOk (0) for a line, TransferTimeout (4), TransferCancelled (10). Cancel goes before
 ///         time-out and time-out before a line that came in the same pass.
-int WaitForLine(TransferContext& context, int timeoutMs, wxChar terminator, bool pulse);
+TransferStatus WaitForLine(TransferContext& context, int timeoutMs, wxChar terminator, bool pulse);
 
 /// Lets time pass, without a look at events: the window doesn't respond meanwhile.
 ///

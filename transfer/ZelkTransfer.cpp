@@ -11,7 +11,6 @@
 #include "transfer/TRecordDriver.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferMode.h"
-#include "transfer/TransferStatus.h"
 #include "transfer/UnsentRows.h"
 
 #include <set>
@@ -35,7 +34,7 @@ bool PortIsChosen() {
     return false;
 }
 
-void ShowResult(int status, const wxString& caption) {
+void ShowResult(TransferStatus status, const wxString& caption) {
     wxMessageBox(GetStatusText(status), caption, wxOK | wxCENTRE);
 }
 
@@ -45,19 +44,20 @@ bool GuardIsSelected(int row) {
 
 /// How a transfer ended, and the memory rows that the radio has acknowledged in it.
 struct TransferResult {
-    int status = TransferUnsupported;
+    TransferStatus status = TransferUnsupported;
     std::set<int> rowsSent = {};
 };
 
-TransferResult RunDriver(TransferDriver driver, int mode, const wxString& title) {
+TransferResult RunDriver(TransferDriver driver, TransferMode mode, const wxString& title) {
     const FocusKeeper focus;
     TransferContext analog;
     TRecordContext digital;
     switch (driver) {
     case TransferDriver::Analog:
-        return {TransferData(analog, CurrentGrid(), mode, PortName, title), analog.RowsSent};
+        return {AnalogProtocol::TransferData(analog, CurrentGrid(), mode, PortName, title), analog.RowsSent};
     case TransferDriver::TRecord:
-        return {TransferData(digital, CurrentGrid(), mode, PortName, title), digital.RowsSent};
+        return {TRecordProtocol::TransferData(digital, CurrentGrid(), mode, PortName, title),
+                digital.RowsSent};
     case TransferDriver::None:
         break;
     }
@@ -92,7 +92,7 @@ void ZelkFrame::OnDownload(wxCommandEvent&) {
     if (!PortIsChosen())
         return;
     const DriverChoice choice = ChooseDriver(page.Type, page.Band, TransferDirection::Read);
-    int status = TransferUnsupported;
+    TransferStatus status = TransferUnsupported;
     if (choice.driver != TransferDriver::None) {
         ResetPage(CurrentPage);
         // What was read must not stand among the memories that such a page begins with.

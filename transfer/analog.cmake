@@ -3,6 +3,7 @@ target_sources(zelk_core PRIVATE
     ${CMAKE_CURRENT_SOURCE_DIR}/AnalogChannels.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/AnalogConfig.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/AnalogDriver.cpp
+    ${CMAKE_CURRENT_SOURCE_DIR}/AnalogExchange.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/AnalogInformation.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/AnalogLine.cpp
     ${CMAKE_CURRENT_SOURCE_DIR}/AnalogRecord.cpp

@@ -18,7 +18,7 @@ protected:
     /// One transfer; also sees to what every transfer must leave.
     int Transfer(int mode, const std::string& port) {
         const auto start = std::chrono::steady_clock::now();
-        const int status = TransferData(m_context, CurrentGrid(), mode, port, "Test");
+        const int status = AnalogProtocol::TransferData(m_context, CurrentGrid(), mode, port, "Test");
         m_took =
             std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
         EXPECT_EQ(m_context.Port, nullptr);

@@ -2,7 +2,7 @@
 #include "tests/support/robot/Hands.h"
 #include "tests/transfer/AnalogDriverTest.h"
 #include "tests/transfer/CancelSpot.h"
-#include "transfer/AnalogExchanges.h"
+#include "transfer/AnalogDialogue.h"
 
 using namespace testbench;
 using namespace transfertest;

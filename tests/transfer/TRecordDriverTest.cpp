@@ -2,7 +2,9 @@
 #include "tests/transfer/TRecordDriverTest.h"
 
 #include <chrono>
+#include <stdexcept>
 #include <thread>
+#include <type_traits>
 
 using namespace testbench;
 using namespace transfertest;
@@ -13,6 +15,12 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 class TRecordDriver : public TRecordDriverTest {};
+
+template <class Context>
+constexpr bool Transfers = std::is_invocable_v<decltype(TRecordProtocol::TransferData)&, Context&, wxGrid*,
+                                               int, const wxString&, const wxString&>;
+static_assert(Transfers<TRecordContext>);
+static_assert(!Transfers<TransferContext>, "a context that is passed by its base can't start this protocol");
 
 std::string Sends(const std::string& line) {
     return ">" + Framed(line) + "\n";
@@ -579,4 +587,25 @@ TEST_F(TRecordDriver, ServesTheReadCommand) {
     EXPECT_EQ(peer.Finish(), "");
     EXPECT_EQ(FilledRows(), 2);
     EXPECT_EQ(CellText(4, RFRQ), "154.12500");
+}
+
+TEST_F(TRecordDriver, ThatThrowsInMidTransferLeavesUsableWindowsAndAFreePort) {
+    AskForWorkingLog();
+    m_context.Arriving = [](const wxString& text) -> wxString {
+        if (!text.empty())
+            throw std::runtime_error("in a wait");
+        return text;
+    };
+    RadioPeer peer([](RadioPeer& radio) {
+        radio.HearLine();
+        radio.Say("T204000000FB\r");
+    });
+    EXPECT_THROW(TransferData(m_context, CurrentGrid(), ReadChannelsMode, peer.PortName(), "Test"),
+                 std::runtime_error);
+    peer.Finish();
+    ExpectOver();
+    EXPECT_EQ(m_context.Port, nullptr);
+    EXPECT_EQ(m_context.Progress, nullptr);
+    EXPECT_FALSE(m_context.LogFile.IsOpened());
+    EXPECT_TRUE(PortIsFree(peer.PortName())) << "the port was not given back";
 }

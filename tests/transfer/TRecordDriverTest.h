@@ -19,6 +19,9 @@
 
 namespace transfertest {
 
+using TRecordProtocol::DoTransferData;
+using TRecordProtocol::TransferData;
+
 constexpr const char* TimeoutText = "Timeout Error\nVerify Radio is in PC Download mode (3-8)\n"
                                     "and correct COM port is selected";
 /// The stamp that radios of the transcripts have.

@@ -1,8 +1,7 @@
 // What each line of a digital radio does.
-#include "transfer/TRecordReplies.h"
+#include "transfer/TRecordDialogue.h"
 
 #include "tests/transfer/TRecordDriverTest.h"
-#include "transfer/TRecordDialogue.h"
 
 using namespace testbench;
 using namespace transfertest;
@@ -26,10 +25,11 @@ protected:
 
     void Take(const std::string& line, int mode, const std::string& standing = "STANDING") {
         m_context.Phase = 1;
-        m_context.Status = 0;
+        m_context.Status = TransferOk;
         m_context.RxLine = line;
         m_context.TxLine = standing;
-        TRecordDialogue dialogue{m_context, CurrentGrid(), mode, CurrentGrid()->GetNumberRows()};
+        TRecordDialogue dialogue{m_context, CurrentGrid(), static_cast<TransferMode>(mode),
+                                 CurrentGrid()->GetNumberRows()};
         TakeReply(dialogue);
         m_offered = dialogue.lacksChecksum ? Text(m_context.TxLine) : "";
     }

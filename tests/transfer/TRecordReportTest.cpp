@@ -1,5 +1,5 @@
 // How a transfer with a digital radio is told to have ended.
-#include "transfer/TRecordReport.h"
+#include "transfer/TRecordDialogue.h"
 
 #include "tests/transfer/TRecordDriverTest.h"
 
@@ -54,11 +54,11 @@ TEST_F(TRecordReport, OfAFailureIsABox) {
     for (const auto& c : cases) {
         SCOPED_TRACE("status " + std::to_string(c.status));
         const std::string before = Log();
-        m_context.Status = c.status;
+        m_context.Status = static_cast<TransferStatus>(c.status);
         m_context.Index = 17;
         DialogScript script;
         ExpectDriverBox(script, c.text);
-        ReportResult(m_context, 0);
+        ReportResult(m_context, WriteChannelsMode);
         EXPECT_EQ(m_port.Read(12, std::chrono::milliseconds(c.endRecord ? 300 : 60)),
                   c.endRecord ? "T9030000FC\r" : "");
         EXPECT_EQ(Log(), before + c.log);
@@ -74,10 +74,10 @@ TEST_F(TRecordReport, OfACompleteTransferEndsItWhereTheRadioWaitsForThat) {
     for (const auto& c : cases) {
         SCOPED_TRACE("mode " + std::to_string(c.mode) + ", index " + std::to_string(c.index));
         const std::string before = Log();
-        m_context.Status = 1;
+        m_context.Status = TransferComplete;
         m_context.Index = c.index;
         const DialogScript noBox;
-        ReportResult(m_context, c.mode);
+        ReportResult(m_context, static_cast<TransferMode>(c.mode));
         EXPECT_EQ(m_port.Read(12, std::chrono::milliseconds(c.endRecord ? 300 : 60)),
                   c.endRecord ? "T9030000FC\r" : "");
         EXPECT_EQ(m_attachment->Label(), "Transfer Complete.");
@@ -87,18 +87,18 @@ TEST_F(TRecordReport, OfACompleteTransferEndsItWhereTheRadioWaitsForThat) {
 
 TEST_F(TRecordReport, OfACompleteTransferStaysForASecond) {
     m_context.Progress->Cancelled = false;
-    m_context.Status = 1;
+    m_context.Status = TransferComplete;
     const auto start = std::chrono::steady_clock::now();
-    ReportResult(m_context, 1);
+    ReportResult(m_context, ReadChannelsMode);
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(1000));
 }
 
 TEST_F(TRecordReport, OfACancelledTransferEndsItInEveryMode) {
     for (int mode = 0; mode <= 5; ++mode) {
         const std::string before = Log();
-        m_context.Status = 10;
+        m_context.Status = TransferCancelled;
         const DialogScript noBox;
-        ReportResult(m_context, mode);
+        ReportResult(m_context, static_cast<TransferMode>(mode));
         EXPECT_EQ(m_port.Read(11, std::chrono::milliseconds(3000)), "T9030000FC\r") << "mode " << mode;
         EXPECT_EQ(m_attachment->Label(), "Transfer Cancelled.");
         EXPECT_EQ(Log(), before + ">T9030000FC\nTransfer cancelled by user.\n");

@@ -1,8 +1,7 @@
 // Which rows go to a digital radio, and as what.
-#include "transfer/TRecordRows.h"
+#include "transfer/TRecordDialogue.h"
 
 #include "tests/transfer/TRecordDriverTest.h"
-#include "transfer/TRecordDialogue.h"
 
 using namespace testbench;
 using namespace transfertest;
@@ -15,7 +14,8 @@ protected:
         TRecordDriverTest::SetUp();
         m_context.XferFlags = 0x30;
         m_context.RadioModes = AllModes;
-        m_dialogue.reset(new TRecordDialogue{m_context, CurrentGrid(), 0, CurrentGrid()->GetNumberRows()});
+        m_dialogue.reset(
+            new TRecordDialogue{m_context, CurrentGrid(), WriteChannelsMode, CurrentGrid()->GetNumberRows()});
     }
 
     /// What is found out about the page as it is.

@@ -1,8 +1,7 @@
 // What the program says to a digital radio in each state.
-#include "transfer/TRecordStates.h"
+#include "transfer/TRecordDialogue.h"
 
 #include "tests/transfer/TRecordDriverTest.h"
-#include "transfer/TRecordDialogue.h"
 
 using namespace testbench;
 using namespace transfertest;
@@ -28,7 +27,8 @@ protected:
     std::string Choose(int index, int mode) {
         m_context.Index = index;
         m_context.TxLine = "a former line";
-        TRecordDialogue dialogue{m_context, CurrentGrid(), mode, CurrentGrid()->GetNumberRows()};
+        TRecordDialogue dialogue{m_context, CurrentGrid(), static_cast<TransferMode>(mode),
+                                 CurrentGrid()->GetNumberRows()};
         m_status = ChooseLine(dialogue);
         EXPECT_EQ(m_context.TxLine.empty(), !dialogue.lacksChecksum);
         return Text(m_context.TxLine);

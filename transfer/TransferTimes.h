@@ -1,0 +1,43 @@
+// Time-outs and pauses of both drivers, in milliseconds.
+#pragma once
+
+namespace TransferTimes {
+
+// ---- Both drivers ----
+
+/// How long the progress window shows that a transfer is complete.
+inline constexpr int ResultPause = 1000;
+/// Limit for sending what is still queued when the port is closed.
+inline constexpr int LastWordsTimeout = 200;
+
+// ---- Analog radios ----
+
+/// Pause behind each character of a command.
+inline constexpr int CommandPause = 350;
+/// Pause behind each character of a line.
+inline constexpr int LinePause = 2;
+/// Answer to the question for the information block. A radio that doesn't answer is an unknown one.
+inline constexpr int InformationTimeout = 200;
+/// Acknowledgement of the opening command, which only some radios send.
+inline constexpr int OpeningTimeout = 50;
+/// Acknowledgement of a channel line.
+inline constexpr int AcknowledgementTimeout = 5000;
+/// Next channel line of a read.
+inline constexpr int ChannelTimeout = 5000;
+/// Next configuration line of a read.
+inline constexpr int ConfigLineTimeout = 5000;
+/// Answer to a configuration line that was sent.
+inline constexpr int ConfigAnswerTimeout = 500;
+
+// ---- Digital radios ----
+
+/// Any answer, from the line that asks for it or from the last sign of life.
+inline constexpr int ReplyTimeout = 30000;
+/// Pause between a refusal and the repetition.
+inline constexpr int RefusalPause = 500;
+/// Pause between the radio's agreement to a speed and the change to it.
+inline constexpr int SpeedPause = 50;
+/// Pause between the primaries and the shadows of a write.
+inline constexpr int ShadowPause = 500;
+
+} // namespace TransferTimes

@@ -72,6 +72,14 @@ int ReadHex(const wxString& text) {
     return ReadNumber(text, 16).value_or(0);
 }
 
+wxString DecimalText(std::uint32_t number, int width) {
+    return Digits(number, false, 10, width);
+}
+
+wxString HexadecimalText(std::uint32_t number, int width) {
+    return Digits(number, false, 16, width);
+}
+
 wxString NumberText(int number) {
     const bool negative = number < 0;
     const auto value = static_cast<uint32_t>(number);
@@ -79,7 +87,7 @@ wxString NumberText(int number) {
 }
 
 wxString FlagText(int flags) {
-    return Digits(static_cast<uint32_t>(flags), false, 16, 2);
+    return HexadecimalText(static_cast<uint32_t>(flags), 2);
 }
 
 wxString NumberList(const std::vector<int>& numbers) {

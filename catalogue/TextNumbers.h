@@ -3,6 +3,7 @@
 
 #include <wx/string.h>
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,12 @@ int ReadDecimal(const wxString& text);
 
 /// ReadNumber in base 16, and 0 where there is no number.
 int ReadHex(const wxString& text);
+
+/// A number in decimal digits, with zeros in front at least so many.
+wxString DecimalText(std::uint32_t number, int width = 1);
+
+/// A number in upper-case hexadecimal digits, with zeros in front at least so many.
+wxString HexadecimalText(std::uint32_t number, int width);
 
 /// A memory or row number as cells hold it: at least three decimal digits.
 wxString NumberText(int number);

@@ -2,6 +2,9 @@
 
 #include "transfer/HexText.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
 #include <wx/datetime.h>
 
 namespace {
@@ -10,14 +13,18 @@ constexpr size_t ChecksumDigits = 2;
 constexpr size_t CountPosition = 2;
 constexpr size_t DataPosition = 8;
 
-bool IsHexDigit(wxUniChar c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+bool IsHexPairAt(std::wstring_view line, size_t at) {
+    return IsHexDigit(line[at]) && IsHexDigit(line[at + 1]);
 }
 
 } // namespace
 
 wxString HexField(std::int64_t value, size_t digits) {
-    return wxString::Format("%08X", static_cast<std::uint32_t>(value)).Right(digits);
+    constexpr size_t most = 8;
+    std::array<wchar_t, most> text;
+    const size_t length = std::min(digits, most);
+    WriteHex(text.data(), length, static_cast<std::uint32_t>(value));
+    return wxString(text.data(), length);
 }
 
 int TRecordChecksum(const wxString& line) {
@@ -32,14 +39,14 @@ bool HasGoodChecksum(const wxString& line) {
     if (line.length() < ChecksumDigits)
         return false;
     const size_t end = line.length() - ChecksumDigits;
-    return IsHexDigit(line[end]) && IsHexDigit(line[end + 1]) &&
+    return IsHexPairAt(line.ToStdWstring(), end) &&
            static_cast<int>(HexNumberAt(line, end, ChecksumDigits)) == TRecordChecksum(line.Left(end));
 }
 
 wxString HexToText(const wxString& line) {
     wxString text;
     for (size_t at = DataPosition; at + 1 < line.length(); at += 2)
-        if (IsHexDigit(line[at]) && IsHexDigit(line[at + 1]))
+        if (IsHexPairAt(line.ToStdWstring(), at))
             text += wxUniChar(HexNumberAt(line, at, 2));
     return text;
 }

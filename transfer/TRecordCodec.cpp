@@ -17,19 +17,29 @@ namespace {
 
 constexpr std::uint32_t V1 = 1, V2 = 2;
 
-wxArrayString TextsOf(wxGrid* grid, int row) {
-    wxArrayString texts;
+/// Puts a cell's text into place without a second copy.
+void TakeCell(wxArrayString& texts, wxGrid* grid, int row, int column) {
+    wxString text = grid->GetCellValue(row, column);
+    texts[static_cast<size_t>(column)].swap(text);
+}
+
+TRecordSource SourceOf(std::span<const TRecordField> layout, wxGrid* grid, int row) {
+    TRecordSource source;
+    source.cells.resize(ColumnTotal);
+    source.defaults.resize(ColumnTotal);
     for (int column = 0; column < ColumnTotal; ++column)
-        texts.push_back(grid->GetCellValue(row, column));
-    return texts;
+        TakeCell(source.cells, grid, row, column);
+    for (const TRecordField& field : layout)
+        if (field.kind == TRecordKind::Letter && source.cells[field.column].empty())
+            TakeCell(source.defaults, grid, 0, field.column);
+    source.row = row;
+    source.gridRows = grid->GetNumberRows();
+    source.type = CurrentParameters().Type;
+    return source;
 }
 
 wxString RecordOf(std::span<const TRecordField> layout, wxGrid* grid, int row) {
-    return MakeTRecord(layout, {.cells = TextsOf(grid, row),
-                                .defaults = TextsOf(grid, 0),
-                                .row = row,
-                                .gridRows = grid->GetNumberRows(),
-                                .type = CurrentParameters().Type});
+    return MakeTRecord(layout, SourceOf(layout, grid, row));
 }
 
 void WriteCell(wxGrid* grid, int row, const TRecordCell& cell) {
@@ -43,7 +53,7 @@ void WriteCell(wxGrid* grid, int row, const TRecordCell& cell) {
     }
 }
 
-/// Tells the row's place among primaries and shadows. A row flagged as both is a shadow.
+/// Writes the row's place among primaries and shadows. A row flagged as both is a shadow.
 void WriteLink(wxGrid* grid, const TRecordValues& values) {
     if (values.flags & ShadowIndexMask) {
         grid->SetCellValue(values.row, SHAD, "S-" + NumberText(values.primary));
@@ -60,12 +70,12 @@ TRecordValues ValuesOf(std::span<const TRecordField> layout, const wxString& lin
     return ReadTRecord(layout, line, CurrentParameters().Radio, CurrentParameters().Type);
 }
 
-/// Rows other than this one that show the zone as their own; a shadow shows that of its primary.
-int CountOthersInZone(const wxGrid* grid, int row, const wxString& zone) {
-    int count = 0;
-    for (int other = 1; other < grid->GetNumberRows(); ++other)
-        count += other != row && grid->GetCellValue(other, ZONE) == zone && !IsShadow(grid, other);
-    return count;
+/// True if so many rows other than this one show the zone as their own; a shadow shows that of its primary.
+bool OthersInZoneReach(int count, const wxGrid* grid, int row, const wxString& zone) {
+    for (int other = 1; count > 0 && other < grid->GetNumberRows(); ++other)
+        if (other != row && grid->GetCellValue(other, ZONE) == zone && !IsShadow(grid, other))
+            --count;
+    return count <= 0;
 }
 
 /// Gives back the slot that the row got when its record came before: it is dealt a zone anew. A row that
@@ -75,7 +85,7 @@ void GiveZoneBack(const wxGrid* grid, int row) {
         return;
     const wxString zone = grid->GetCellValue(row, ZONE);
     const int position = FindZone(zone);
-    if (position >= 0 && ZoneSlotsOf(CurrentPage)[position] > CountOthersInZone(grid, row, zone))
+    if (position >= 0 && !OthersInZoneReach(ZoneSlotsOf(CurrentPage)[position], grid, row, zone))
         ReleaseP25ZonePosition(position);
 }
 

@@ -4,10 +4,12 @@
 #include "catalogue/TextNumbers.h"
 #include "transfer/AnalogLine.h"
 #include "transfer/HexText.h"
-#include "transfer/TRecord.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 using namespace RadioCatalogue;
 
@@ -15,57 +17,49 @@ namespace {
 
 constexpr size_t DescriptionLength = 8, FrequencyLength = 8, HertzTextLength = 9;
 constexpr int MegahertzDecimals = 6;
-constexpr std::uint32_t Megahertz = 1'000'000;
 constexpr int LowFlags = 0xFF & ~GuardFlag, HighFlagsShift = 8;
 constexpr int ZoneShift = 4;
 constexpr int NacMask = 0xFFF, SquelchShift = 12;
 constexpr int NoSquelchValue = 0x0A;
 
+// Cells and lines are read as they are held, and digits are written into one buffer: texts for the single
+// fields would take most of the time of a record.
+
+std::wstring_view CharactersOf(const wxString& text) {
+    return text.ToStdWstring();
+}
+
+wxString TextOf(std::wstring_view characters) {
+    return wxString(characters.data(), characters.length());
+}
+
+std::wstring_view Trimmed(std::wstring_view text) {
+    const auto isBlank = [](wchar_t c) { return c == L' ' || (c >= L'\t' && c <= L'\r'); };
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+wchar_t ShownCharacter(wchar_t c) {
+    return c >= L' ' && c <= L'~' ? c : L' ';
+}
+
 // ---- To the radio ----
-
-wxString Trimmed(const wxString& text) {
-    return wxString(text).Trim(true).Trim(false);
-}
-
-wxUniChar ShownCharacter(wxUniChar c) {
-    return c >= ' ' && c <= '~' ? c : wxUniChar(' ');
-}
-
-/// Each character as two hexadecimal digits.
-wxString CharactersToHex(const wxString& text) {
-    wxString hex;
-    for (const wxUniChar c : text)
-        hex += HexField(ShownCharacter(c).GetValue(), 2);
-    return hex;
-}
-
-wxString DescriptionToHex(const wxString& cell) {
-    return CharactersToHex((Trimmed(cell) + wxString(' ', DescriptionLength)).Left(DescriptionLength));
-}
-
-wxString LetterToHex(const wxString& cell, const wxString& defaultCell) {
-    const wxString& text = cell.empty() ? defaultCell : cell;
-    return CharactersToHex(text.empty() ? wxString(" ") : text.Left(1));
-}
-
-wxString FrequencyToHex(const wxString& cell) {
-    const wxString text = Trimmed(cell);
-    return CharactersToHex(text.length() < FrequencyLength ? PadFrequency(text) : text.Left(FrequencyLength));
-}
 
 /// Hertz of a frequency in MHz: its digits read as one number and brought to six decimals. Without a point
 /// the number is hertz already; more decimals than six count as they stand.
 std::uint32_t FrequencyToHertz(const wxString& cell) {
-    const wxString text = Trimmed(cell);
-    const auto isDigit = [](wxUniChar c) { return c >= '0' && c <= '9'; };
-    if (std::none_of(text.begin(), text.end(), isDigit))
+    const std::wstring_view text = Trimmed(CharactersOf(cell));
+    if (std::none_of(text.begin(), text.end(), [](wchar_t c) { return c >= L'0' && c <= L'9'; }))
         return 0;
     std::uint32_t number = 0;
-    for (const wxUniChar c : text)
-        if (c != '.')
-            number = number * 10 + (c.GetValue() - '0');
-    if (const int point = text.Find('.'); point != wxNOT_FOUND)
-        for (int i = point - static_cast<int>(text.length()) + MegahertzDecimals + 1; i > 0; --i)
+    for (const wchar_t c : text)
+        if (c != L'.')
+            number = number * 10 + (static_cast<std::uint32_t>(c) - L'0');
+    if (const size_t point = text.find(L'.'); point != text.npos)
+        for (size_t decimals = text.length() - point - 1; decimals < MegahertzDecimals; ++decimals)
             number *= 10;
     return number;
 }
@@ -92,97 +86,142 @@ int FlagsOf(const TRecordSource& source) {
     return FlagsToSend(source.cells[MFLG], source.cells[SCAN], source.type);
 }
 
-wxString FieldText(const TRecordField& field, const TRecordSource& source) {
-    if (field.kind == TRecordKind::Literal)
-        return field.literal;
-    if (field.kind == TRecordKind::Shadows)
-        // Meant: a radio learns the links from the shadows' own records.
-        return wxString('0', field.width);
+/// Writes the fields of a row into its line.
+class Writer {
+public:
+    Writer(const TRecordSource& source, size_t length) : m_source(source), m_line(length, L'0') {}
 
-    const wxString& cell = source.cells[field.column];
-    const auto number = [&field](std::int64_t value) { return HexField(value, field.width); };
-    switch (field.kind) {
-    case TRecordKind::Literal:
-    case TRecordKind::Shadows:
-        break;
-    case TRecordKind::GuardAddress:
-    case TRecordKind::GuardNumber:
-        return number(GuardNumber(ReadDecimal(cell), source.row));
-    case TRecordKind::GuardPrimary:
-        return number(GuardNumber(PrimaryOf(source), source.row));
-    case TRecordKind::Primary:
-        return number(PrimaryOf(source));
-    case TRecordKind::RowAddress:
-        return number(source.row);
-    case TRecordKind::FlagsLow:
-        return number((FlagsOf(source) & LowFlags) |
-                      (source.row >= source.gridRows - GuardRowTotal ? GuardFlag : 0));
-    case TRecordKind::FlagsHigh:
-        return number((FlagsOf(source) & HighRadioFlags) >> HighFlagsShift);
-    case TRecordKind::Decimal:
-    case TRecordKind::UnitId:
-    case TRecordKind::PaddedUnitId:
-        return number(ReadDecimal(cell));
-    case TRecordKind::ZoneByte:
-        // Meant: V1 has its guard memories in the last zone, whatever their ZONE.
-        return number(ZoneBits(source.row > NP25Memories ? RP25GuardZone + 1 : ZoneValue(cell, source.type)));
-    case TRecordKind::ZoneWord:
-        return number(ZoneBits(ZoneValue(cell, source.type)));
-    case TRecordKind::Description:
-        return DescriptionToHex(cell);
-    case TRecordKind::Letter:
-        return LetterToHex(cell, source.defaults[field.column]);
-    case TRecordKind::FrequencyText:
-        return FrequencyToHex(cell);
-    case TRecordKind::FrequencyHertz:
-        return number(FrequencyToHertz(cell));
-    case TRecordKind::Tone:
-        return number(GetCtcssIndex(cell) + 1);
-    case TRecordKind::PlainCode:
-        return number(GetCodeIndex(cell, source.type));
-    case TRecordKind::Code:
-        return number(GetCodeIndex(cell, source.type) + 1);
-    case TRecordKind::Flags:
-        return number(FlagsOf(source));
-    case TRecordKind::TalkGroup:
-    case TRecordKind::Nac:
-        return number(ReadHex(cell));
-    case TRecordKind::MaskedNac:
-        return number(ReadHex(cell) & NacMask);
-    case TRecordKind::SquelchNac:
-        return number(static_cast<std::int64_t>(ReadDecimal(source.cells[RNSV])) << SquelchShift |
-                      ReadHex(cell));
-    case TRecordKind::SquelchByte:
-        return number(source.type == NP25 ? ReadDecimal(cell) : NoSquelchValue);
+    wxString Line() const { return TextOf(m_line); }
+
+    void Put(const TRecordField& field) {
+        if (field.kind == TRecordKind::Literal)
+            return PutLiteral(field);
+        if (field.kind == TRecordKind::Shadows)
+            // Intentional: it stays zero. A radio learns the links from the shadows' own records.
+            return;
+
+        const wxString& cell = m_source.cells[field.column];
+        const auto number = [&](std::int64_t value) {
+            WriteHex(&m_line[field.position], field.width, static_cast<std::uint32_t>(value));
+        };
+        switch (field.kind) {
+        case TRecordKind::Literal:
+        case TRecordKind::Shadows:
+            break;
+        case TRecordKind::GuardAddress:
+        case TRecordKind::GuardNumber:
+            return number(GuardNumber(ReadDecimal(cell), m_source.row));
+        case TRecordKind::GuardPrimary:
+            return number(GuardNumber(PrimaryOf(m_source), m_source.row));
+        case TRecordKind::Primary:
+            return number(PrimaryOf(m_source));
+        case TRecordKind::RowAddress:
+            return number(m_source.row);
+        case TRecordKind::FlagsLow:
+            return number((FlagsOf(m_source) & LowFlags) |
+                          (m_source.row >= m_source.gridRows - GuardRowTotal ? GuardFlag : 0));
+        case TRecordKind::FlagsHigh:
+            return number((FlagsOf(m_source) & HighRadioFlags) >> HighFlagsShift);
+        case TRecordKind::Decimal:
+        case TRecordKind::UnitId:
+        case TRecordKind::PaddedUnitId:
+            return number(ReadDecimal(cell));
+        case TRecordKind::ZoneByte:
+            // Intentional: V1 has its guard memories in the last zone, whatever their ZONE.
+            return number(
+                ZoneBits(m_source.row > NP25Memories ? RP25GuardZone + 1 : ZoneValue(cell, m_source.type)));
+        case TRecordKind::ZoneWord:
+            return number(ZoneBits(ZoneValue(cell, m_source.type)));
+        case TRecordKind::Description:
+            return PutCharacters(field, Trimmed(CharactersOf(cell)));
+        case TRecordKind::Letter:
+            return PutCharacters(field, CharactersOf(cell.empty() ? m_source.defaults[field.column] : cell));
+        case TRecordKind::FrequencyText:
+            return PutFrequency(field, Trimmed(CharactersOf(cell)));
+        case TRecordKind::FrequencyHertz:
+            return number(FrequencyToHertz(cell));
+        case TRecordKind::Tone:
+            return number(GetCtcssIndex(cell) + 1);
+        case TRecordKind::PlainCode:
+            return number(GetCodeIndex(cell, m_source.type));
+        case TRecordKind::Code:
+            return number(GetCodeIndex(cell, m_source.type) + 1);
+        case TRecordKind::Flags:
+            return number(FlagsOf(m_source));
+        case TRecordKind::TalkGroup:
+        case TRecordKind::Nac:
+            return number(ReadHex(cell));
+        case TRecordKind::MaskedNac:
+            return number(ReadHex(cell) & NacMask);
+        case TRecordKind::SquelchNac:
+            return number(static_cast<std::int64_t>(ReadDecimal(m_source.cells[RNSV])) << SquelchShift |
+                          ReadHex(cell));
+        case TRecordKind::SquelchByte:
+            return number(m_source.type == NP25 ? ReadDecimal(cell) : NoSquelchValue);
+        }
     }
-    return {};
-}
+
+private:
+    void PutLiteral(const TRecordField& field) {
+        std::copy_n(field.literal, field.width, m_line.begin() + static_cast<std::ptrdiff_t>(field.position));
+    }
+
+    /// Each character as two digits. A text is cut or filled with blanks to the field's width.
+    void PutCharacters(const TRecordField& field, std::wstring_view text) {
+        for (size_t i = 0; i < field.width / 2; ++i) {
+            const wchar_t c = i < text.length() ? ShownCharacter(text[i]) : L' ';
+            WriteHex(&m_line[field.position + 2 * i], 2, static_cast<std::uint32_t>(c));
+        }
+    }
+
+    void PutFrequency(const TRecordField& field, std::wstring_view text) {
+        if (text.length() >= field.width / 2)
+            return PutCharacters(field, text);
+        const wxString padded = PadFrequency(TextOf(text));
+        PutCharacters(field, CharactersOf(padded));
+    }
+
+    const TRecordSource& m_source;
+    std::wstring m_line;
+};
 
 // ---- From the radio ----
 
-wxString HexToCharacters(const wxString& line, size_t position, size_t count) {
-    wxString text;
-    for (size_t i = 0; i < count; ++i)
-        text += ShownCharacter(wxUniChar(HexNumberAt(line, position + 2 * i, 2)));
-    return text;
-}
+/// The characters that stand in the pairs of digits from a position on.
+template <size_t count>
+class Characters {
+public:
+    Characters(std::wstring_view line, size_t position) {
+        for (size_t i = 0; i < count; ++i)
+            m_text[i] = ShownCharacter(static_cast<wchar_t>(HexNumberAt(line, position + 2 * i, 2)));
+    }
+    std::wstring_view Text() const { return {m_text.data(), count}; }
 
-/// Meant: cut to nine characters, so that a frequency below 100 MHz has one decimal more than others.
+private:
+    std::array<wchar_t, count> m_text;
+};
+
+/// Intentional: cut to nine characters, so that a frequency below 100 MHz has one decimal more than others.
 wxString HertzToFrequency(std::uint32_t hertz) {
-    return wxString::Format("%u.%06u", hertz / Megahertz, hertz % Megahertz).Left(HertzTextLength);
+    wxString text = DecimalText(hertz, MegahertzDecimals + 1);
+    text.insert(text.length() - MegahertzDecimals, 1, '.');
+    return text.Left(HertzTextLength);
 }
 
-/// The entry of a list at a position that may lie outside it.
-std::optional<wxString> EntryAt(const wxArrayString& list, std::int64_t position) {
+/// The entry of a list at a position that may lie outside it: null there.
+const wxString* EntryAt(const wxArrayString& list, std::int64_t position) {
     if (position < 0 || position >= static_cast<std::int64_t>(list.size()))
-        return std::nullopt;
-    return list[static_cast<size_t>(position)];
+        return nullptr;
+    return &list[static_cast<size_t>(position)];
 }
 
 /// Takes the fields of one line, in their order, into values.
 class Reader {
 public:
-    Reader(const wxString& line, int radio, int type) : m_line(line), m_radio(radio), m_type(type) {}
+    Reader(const wxString& line, int radio, int type)
+        : m_line(CharactersOf(line)), m_radio(radio), m_type(type) {
+        values.cells.reserve(ColumnTotal);
+    }
 
     TRecordValues values;
 
@@ -216,64 +255,80 @@ public:
             break;
         case TRecordKind::Primary:
             values.primary = static_cast<int>(number);
-            Add(field.column, wxString::Format("%u", number));
+            Add(field.column, DecimalText(number));
             break;
         case TRecordKind::Decimal:
-            Add(field.column, wxString::Format("%u", number));
+            Add(field.column, DecimalText(number));
             break;
         case TRecordKind::ZoneByte:
         case TRecordKind::ZoneWord:
-            Add(field.column, EntryAt(ZoneNames(m_type), number >> ZoneShift).value_or(""));
+            AddZone(field.column, EntryAt(ZoneNames(m_type), number >> ZoneShift));
             break;
         case TRecordKind::Description:
-            Add(field.column, Trimmed(HexToCharacters(m_line, field.position, DescriptionLength)));
+            Add(field.column, TextOf(Trimmed(Characters<DescriptionLength>(m_line, field.position).Text())));
             break;
         case TRecordKind::Letter:
-            Add(field.column, HexToCharacters(m_line, field.position, 1));
+            Add(field.column, TextOf(Characters<1>(m_line, field.position).Text()));
             break;
         case TRecordKind::FrequencyText:
-            Add(field.column, HexToCharacters(m_line, field.position, FrequencyLength));
+            Add(field.column, TextOf(Characters<FrequencyLength>(m_line, field.position).Text()));
             break;
         case TRecordKind::FrequencyHertz:
             Add(field.column, HertzToFrequency(number));
             break;
         case TRecordKind::Tone:
-            Add(field.column, EntryAt(CtcssList, static_cast<std::int64_t>(number) - 1));
+            AddEntry(field.column, EntryAt(CtcssList, static_cast<std::int64_t>(number) - 1));
             break;
         case TRecordKind::PlainCode:
         case TRecordKind::Code:
-            // Meant: a code that went out with the addition comes back one place further down the list.
-            Add(field.column, EntryAt(CodeList, static_cast<std::int64_t>(number) + 1));
+            // Intentional: a code that went out with the addition comes back one place further down the list.
+            AddEntry(field.column, EntryAt(CodeList, static_cast<std::int64_t>(number) + 1));
             break;
         case TRecordKind::TalkGroup:
-            Add(field.column, wxString::Format("%04X", number));
+            Add(field.column, HexadecimalText(number, 4));
             break;
         case TRecordKind::MaskedNac:
         case TRecordKind::Nac:
-            Add(field.column, wxString::Format("%03X", number));
+            Add(field.column, HexadecimalText(number, 3));
             break;
         case TRecordKind::SquelchNac:
-            Add(RNSV, wxString::Format("%u", number >> SquelchShift));
-            Add(field.column, wxString::Format("%03X", number & NacMask));
+            Add(RNSV, DecimalText(number >> SquelchShift));
+            Add(field.column, HexadecimalText(number & NacMask, 3));
             break;
         case TRecordKind::UnitId:
-            Add(field.column, wxString::Format("%u", number));
+            Add(field.column, DecimalText(number));
             break;
         case TRecordKind::PaddedUnitId:
-            Add(field.column, wxString::Format("%07u", number));
+            Add(field.column, DecimalText(number, 7));
             break;
         case TRecordKind::Shadows:
             TakeShadows(field);
             break;
         case TRecordKind::SquelchByte:
-            // Meant: a value of one digit has a blank before it.
-            Add(field.column, wxString::Format("%2u", number & 0x0F));
+            AddSquelchValue(field.column, number & 0x0F);
             break;
         }
     }
 
 private:
-    void Add(Column column, const std::optional<wxString>& text) { values.cells.push_back({column, text}); }
+    /// Moves a text into a cell.
+    void Add(Column column, wxString text) {
+        values.cells.push_back({column, std::make_optional<wxString>()});
+        values.cells.back().text->swap(text);
+    }
+
+    void AddEntry(Column column, const wxString* entry) {
+        values.cells.push_back({column, std::nullopt});
+        if (entry)
+            values.cells.back().text = *entry;
+    }
+
+    void AddZone(Column column, const wxString* name) { Add(column, name ? *name : wxString()); }
+
+    /// Intentional: a value of one digit has a blank before it.
+    void AddSquelchValue(Column column, std::uint32_t value) {
+        Add(column, (value < 10 ? " " : "") + DecimalText(value));
+    }
 
     void TakeShadows(const TRecordField& field) {
         constexpr size_t count = SHD6 - SHD0 + 1;
@@ -281,11 +336,11 @@ private:
         for (size_t i = 0; i < count; ++i) {
             const std::uint32_t number = HexNumberAt(m_line, field.position + i * width, width);
             values.shadows += number != 0;
-            Add(static_cast<Column>(SHD0 + i), wxString::Format("%u", number));
+            Add(static_cast<Column>(SHD0 + i), DecimalText(number));
         }
     }
 
-    const wxString& m_line;
+    std::wstring_view m_line;
     int m_radio, m_type;
     int m_offset = 0;
 };
@@ -314,10 +369,10 @@ bool FitsRecordV1(int type, int row) {
 }
 
 wxString MakeTRecord(std::span<const TRecordField> layout, const TRecordSource& source) {
-    wxString line;
+    Writer writer(source, layout.back().position + layout.back().width);
     for (const TRecordField& field : layout)
-        line += FieldText(field, source);
-    return line;
+        writer.Put(field);
+    return writer.Line();
 }
 
 TRecordValues ReadTRecord(std::span<const TRecordField> layout, const wxString& line, int radio, int type) {

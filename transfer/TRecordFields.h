@@ -54,11 +54,11 @@ struct TRecordField {
 /// Memory record V1.
 inline constexpr TRecordField TRecordV1[] = {
     {  0,  4, TRecordKind::Literal, ColumnTotal, "T143"},
-    {  4,  4, TRecordKind::GuardAddress, MNUM}, // meant: the memory's number goes out, a row comes in
-    {  8,  2, TRecordKind::FlagsLow, MFLG}, // meant: bit 7 isn't MFLG's, and only goes out
+    {  4,  4, TRecordKind::GuardAddress, MNUM}, // intentional: the memory's number goes out, a row comes in
+    {  8,  2, TRecordKind::FlagsLow, MFLG}, // intentional: bit 7 isn't MFLG's, and only goes out
     { 10,  2, TRecordKind::GuardPrimary, PRIM},
-    { 12,  2, TRecordKind::GuardNumber, MNUM}, // meant: not read, the address tells the number
-    { 14,  2, TRecordKind::ZoneByte, ZONE}, // meant: a zone behind the 16th loses its high bit
+    { 12,  2, TRecordKind::GuardNumber, MNUM}, // intentional: not read, the address tells the number
+    { 14,  2, TRecordKind::ZoneByte, ZONE}, // intentional: a zone behind the 16th loses its high bit
     { 16, 16, TRecordKind::Description, DESC},
     { 32,  2, TRecordKind::Literal, ColumnTotal, "20"},
     { 34,  2, TRecordKind::Letter, MODE},
@@ -67,7 +67,7 @@ inline constexpr TRecordField TRecordV1[] = {
     { 54,  2, TRecordKind::Letter, RSQL},
     { 56,  4, TRecordKind::TalkGroup, RTGP},
     { 60,  2, TRecordKind::Tone, RTON},
-    { 62,  2, TRecordKind::PlainCode, RCOD}, // meant: only the transmit code has the addition
+    { 62,  2, TRecordKind::PlainCode, RCOD}, // intentional: only the transmit code has the addition
     { 64,  4, TRecordKind::MaskedNac, RNAC},
     { 68, 16, TRecordKind::FrequencyText, TFRQ},
     { 84,  2, TRecordKind::Literal, ColumnTotal, "54"}, // "T"
@@ -75,10 +75,10 @@ inline constexpr TRecordField TRecordV1[] = {
     { 88,  4, TRecordKind::TalkGroup, TTGP},
     { 92,  2, TRecordKind::Tone, TTON},
     { 94,  2, TRecordKind::Code, TCOD},
-    { 96,  4, TRecordKind::Nac, TNAC}, // meant: unlike the receive NAC it keeps its high digit
+    { 96,  4, TRecordKind::Nac, TNAC}, // intentional: unlike the receive NAC it keeps its high digit
     {100,  8, TRecordKind::UnitId, TIDC},
     {108, 14, TRecordKind::Shadows, SHD0},
-    {122,  2, TRecordKind::SquelchByte, RNSV}, // meant: read on every page, also on those without it
+    {122,  2, TRecordKind::SquelchByte, RNSV}, // intentional: read on every page, also on those without it
     {124,  4, TRecordKind::Literal, ColumnTotal, "0000"},
     {128,  2, TRecordKind::FlagsHigh, MFLG},
     {130,  6, TRecordKind::Literal, ColumnTotal, "000000"},
@@ -87,10 +87,10 @@ inline constexpr TRecordField TRecordV1[] = {
 /// Memory record V2.
 inline constexpr TRecordField TRecordV2[] = {
     {  0,  4, TRecordKind::Literal, ColumnTotal, "T143"},
-    {  4,  4, TRecordKind::RowAddress, MNUM}, // meant: the row, whatever its MNUM
-    {  8,  4, TRecordKind::Flags, MFLG}, // meant: no mark on the last two rows, and bit 7 is read
+    {  4,  4, TRecordKind::RowAddress, MNUM}, // intentional: the row, whatever its MNUM
+    {  8,  4, TRecordKind::Flags, MFLG}, // intentional: no mark on the last two rows, and bit 7 is read
     { 12,  4, TRecordKind::Primary, PRIM},
-    { 16,  4, TRecordKind::Decimal, MNUM}, // meant: read without leading zeros, and so is PRIM
+    { 16,  4, TRecordKind::Decimal, MNUM}, // intentional: read without leading zeros, and so is PRIM
     { 20,  4, TRecordKind::ZoneWord, ZONE},
     { 24, 16, TRecordKind::Description, DESC},
     { 40,  2, TRecordKind::Literal, ColumnTotal, "20"},
@@ -109,7 +109,7 @@ inline constexpr TRecordField TRecordV2[] = {
     { 82,  2, TRecordKind::Code, TCOD},
     { 84,  4, TRecordKind::Nac, TNAC},
     { 88,  4, TRecordKind::TalkGroup, TTGP},
-    { 92,  8, TRecordKind::PaddedUnitId, TIDC}, // meant: V1 doesn't pad it
+    { 92,  8, TRecordKind::PaddedUnitId, TIDC}, // intentional: V1 doesn't pad it
     {100, 28, TRecordKind::Shadows, SHD0},
     {128,  4, TRecordKind::Literal, ColumnTotal, "0000"},
     {132,  4, TRecordKind::Literal, ColumnTotal, "0000"},
@@ -119,7 +119,7 @@ inline constexpr TRecordField TRecordV2[] = {
 /// A memory row to be sent.
 struct TRecordSource {
     wxArrayString cells;    ///< its 32 texts
-    wxArrayString defaults; ///< the 32 texts of the default row
+    wxArrayString defaults; ///< as many of the default row; the texts of letters count where a cell is empty
     int row = 0;            ///< grid row, 0 being the default row
     int gridRows = 0;       ///< rows of the grid, the default row among them
     int type = 0;           ///< radio type of the page

@@ -61,6 +61,16 @@ TEST(TextNumbers, MemoryNumbersHaveAtLeastThreeDigits) {
     EXPECT_EQ("-2147483648", NumberText(INT32_MIN));
 }
 
+TEST(TextNumbers, PlainNumbersHaveZerosInFrontUpToTheirWidth) {
+    EXPECT_EQ("0", DecimalText(0));
+    EXPECT_EQ("4294967295", DecimalText(UINT32_MAX));
+    EXPECT_EQ("0000042", DecimalText(42, 7));
+    EXPECT_EQ("154123400", DecimalText(154123400, 7));
+    EXPECT_EQ("00FF", HexadecimalText(0xFF, 4));
+    EXPECT_EQ("1000", HexadecimalText(0x1000, 3));
+    EXPECT_EQ("FFFFFFFF", HexadecimalText(UINT32_MAX, 3));
+}
+
 TEST(TextNumbers, FlagsAreUpperCaseHexadecimalOfAtLeastTwoDigits) {
     EXPECT_EQ("00", FlagText(0));
     EXPECT_EQ("08", FlagText(8));

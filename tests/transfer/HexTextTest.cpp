@@ -38,3 +38,41 @@ TEST(HexNumberAt, APositionIsTheNumberOfItsDigits) {
     for (const auto& c : cases)
         EXPECT_EQ(HexNumberAt(c.text, c.position, c.digits), c.number) << c.text << " at " << c.position;
 }
+
+TEST(WriteHexOf, ANumberIsItsLastDigits) {
+    struct {
+        std::uint32_t number;
+        size_t digits;
+        const wchar_t* text;
+    } const cases[] = {
+        {0, 2, L"00"},
+        {0xA5, 2, L"A5"},
+        {0x1FF, 2, L"FF"},
+        {0x12AB, 4, L"12AB"},
+        {0xFFFFFFFF, 8, L"FFFFFFFF"},
+        {1, 0, L""},
+        {1, 10, L"0000000001"},
+    };
+    for (const auto& c : cases) {
+        std::wstring text(c.digits, L'#');
+        WriteHex(text.data(), c.digits, c.number);
+        EXPECT_EQ(text, c.text) << c.number << " in " << c.digits;
+    }
+}
+
+TEST(ConfigChecksum, CountsTheFieldsThatAreThere) {
+    struct {
+        const char* text;
+        bool good;
+    } const cases[] = {
+        {"00:x:01:02:03:F9", true},
+        {"00:x:01:02:03:F8", false},
+        {"FF:x:FF", true},
+        {"FF:x:FF::::77", true},
+        {"FF:x", false},
+        {"", false},
+        {"00:x:80:7F", true},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(HasConfigChecksum(wxSplit(c.text, ':', '\\')), c.good) << c.text;
+}

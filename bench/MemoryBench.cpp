@@ -19,8 +19,8 @@
 
 namespace {
 
-/// KDRV-716B: 502 rows.
-constexpr int Radio = 7;
+/// Its pages have 502 rows.
+constexpr int Radio = RadioCatalogue::Kdrv716B;
 
 /// Memory of this process that is backed by no file, in KiB; -1 when the system doesn't tell.
 long AnonymousMemory() {

@@ -58,7 +58,7 @@ TEST_F(PageAttributes, OfCellsThatDifferKeepWhatTheColumnHas) {
 }
 
 TEST_F(PageAttributes, OfAColumnThatIsReadOnlyCanBeLiftedInACell) {
-    AddPage(7, 0);
+    AddPage(RadioCatalogue::Kdrv716B, 0);
     EXPECT_TRUE(Grid()->IsReadOnly(5, SHAD));
     LockCell(Grid(), 5, SHAD, false);
     EXPECT_FALSE(Grid()->IsReadOnly(5, SHAD));

@@ -10,6 +10,9 @@ void RegisterStart(const std::string& self);
 /// Making a page for each radio type.
 void RegisterPages();
 
+/// What six full pages of 502 rows add to the anonymous memory of the window as it starts.
+void RegisterMemory(const std::string& self);
+
 /// Opening a full channel file of each radio type.
 void RegisterChannelFiles();
 
@@ -39,3 +42,6 @@ void RegisterPrint();
 /// The child processes of RegisterStart: run the program's window or the bare one until it answers,
 /// say so on standard output, and end.
 int RunStartChild(bool bare, int argc, char** argv);
+
+/// The child process of RegisterMemory: prints what the pages have added, in KiB, and ends.
+int RunMemoryChild(int argc, char** argv);

@@ -31,11 +31,10 @@ void CellTrace::Replay(wxGrid* grid) const {
     }
 }
 
-TracingTable::TracingTable(wxGridTableBase& other)
-    : wxGridStringTable(other.GetNumberRows(), other.GetNumberCols()) {
+TracingTable::TracingTable(wxGridTableBase& other) : PageTable(other.GetNumberRows()) {
     for (int row = 0; row < other.GetNumberRows(); ++row)
         for (int col = 0; col < other.GetNumberCols(); ++col)
-            wxGridStringTable::SetValue(row, col, other.GetValue(row, col));
+            PageTable::SetValue(row, col, other.GetValue(row, col));
 }
 
 CellTrace TracingTable::TakeTrace() {
@@ -49,7 +48,7 @@ void TracingTable::Note(CellTrace::Kind kind, size_t row, size_t col) {
 
 wxString TracingTable::GetValue(int row, int col) {
     Note(CellTrace::Kind::Read, static_cast<size_t>(row), static_cast<size_t>(col));
-    return wxGridStringTable::GetValue(row, col);
+    return PageTable::GetValue(row, col);
 }
 
 void TracingTable::SetValue(int row, int col, const wxString& text) {
@@ -64,25 +63,25 @@ void TracingTable::SetValue(int row, int col, const wxString& text) {
     if (isNew)
         m_trace.texts.push_back(text);
     m_trace.steps.back().text = position->second;
-    wxGridStringTable::SetValue(row, col, text);
+    PageTable::SetValue(row, col, text);
 }
 
 void TracingTable::Clear() {
     Note(CellTrace::Kind::Clear, 0, 0);
-    wxGridStringTable::Clear();
+    PageTable::Clear();
 }
 
 bool TracingTable::InsertRows(size_t row, size_t count) {
     Note(CellTrace::Kind::InsertRows, row, count);
-    return wxGridStringTable::InsertRows(row, count);
+    return PageTable::InsertRows(row, count);
 }
 
 bool TracingTable::AppendRows(size_t count) {
     Note(CellTrace::Kind::AppendRows, 0, count);
-    return wxGridStringTable::AppendRows(count);
+    return PageTable::AppendRows(count);
 }
 
 bool TracingTable::DeleteRows(size_t row, size_t count) {
     Note(CellTrace::Kind::DeleteRows, row, count);
-    return wxGridStringTable::DeleteRows(row, count);
+    return PageTable::DeleteRows(row, count);
 }

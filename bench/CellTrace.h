@@ -1,6 +1,8 @@
 // What an operation does to the texts and rows of a grid, to be done again on another grid.
 #pragma once
 
+#include "catalogue/PageTable.h"
+
 #include <wx/grid.h>
 
 #include <cstdint>
@@ -25,7 +27,7 @@ struct CellTrace {
 
 /// A grid's table of texts that writes down what is done to it. A text that a cell holds already does
 /// not get as far as the table: the grid only reads the cell, and so it counts as a read.
-class TracingTable : public wxGridStringTable {
+class TracingTable : public PageTable {
 public:
     /// A table with as many rows and columns as the other, and its texts.
     explicit TracingTable(wxGridTableBase& other);

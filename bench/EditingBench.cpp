@@ -91,15 +91,19 @@ void CountSelected(wxGrid* grid, int rows, int cols) {
     benchmark::DoNotOptimize(selected);
 }
 
-void DoBare(wxGrid* grid, const OperationRecord& record) {
+void DoTexts(wxGrid* grid, const OperationRecord& record) {
     record.trace.Replay(grid);
-    WriteObjects(grid, record.made);
+}
+
+void DoTextsAndColumns(wxGrid* grid, const OperationRecord& record) {
+    SetBareColumns(grid, record.before.type);
+    record.trace.Replay(grid);
 }
 
 void InsertRowBare(wxGrid* grid, const OperationRecord& record) {
     AskBare();
     grid->SelectRow(MiddleRow(grid));
-    DoBare(grid, record);
+    DoTextsAndColumns(grid, record);
 }
 
 /// The grid deletes and appends the rows one by one; the guard rows leave before and come back after.
@@ -125,21 +129,21 @@ void DeleteRowsBare(wxGrid* grid, const OperationRecord& record) {
     for (int guard = 0; guard < 2; ++guard)
         for (int col = 0; col < ColumnTotal; ++col)
             grid->SetCellValue(firstGuard + guard, col, guards[guard][col]);
-    DoBare(grid, record);
+    DoTextsAndColumns(grid, record);
 }
 
 void DefaultFileBare(wxGrid* grid, const OperationRecord& record) {
     AskBare();
     grid->SelectRow(MiddleRow(grid), true);
     CountSelected(grid, LastRow(grid), 1);
-    DoBare(grid, record);
+    DoTextsAndColumns(grid, record);
     grid->ClearSelection();
 }
 
 void DefaultColBare(wxGrid* grid, const OperationRecord& record) {
     AskBare();
     CountSelected(grid, 1, RFRQ + 1);
-    DoBare(grid, record);
+    DoTexts(grid, record);
     grid->ClearSelection();
 }
 
@@ -153,8 +157,8 @@ struct Operation {
 
 // clang-format off
 constexpr Operation Operations[] = {
-    {"SetPageEditors",      SelectNothing,       SetEditors,                         SetEditors, DoBare},
-    {"CheckPage",           SelectNothing,       CheckPage,                          CheckPage,  DoBare},
+    {"SetPageEditors",      SelectNothing,       SetEditors,                         SetEditors, DoTextsAndColumns},
+    {"CheckPage",           SelectNothing,       CheckPage,                          CheckPage,  DoTexts},
     {"OnInsertRow",         SelectOneRow,        Command<&ZelkFrame::OnInsertRow>,   Command<&ZelkFrame::OnInsertRow>,   InsertRowBare},
     {"OnDeleteRow/one",     SelectOneRow,        Command<&ZelkFrame::OnDeleteRow>,   SetEditors, DeleteRowsBare},
     {"OnDeleteRow/tenth",   SelectEveryTenthRow, Command<&ZelkFrame::OnDeleteRow>,   SetEditors, DeleteRowsBare},

@@ -1,4 +1,5 @@
-// What an operation of the program does to the current page, counted by watching it once.
+// What an operation of the program does to texts and paint of the current page, written down while it runs
+// once.
 #pragma once
 
 #include "bench/CellTrace.h"
@@ -10,13 +11,10 @@
 struct OperationRecord {
     GridContent before;
     CellTrace trace;
-    /// Without texts: the cells to which the operation gave a new editor or renderer, each once
-    /// however often it did. Their alignments and read-only marks count as given with them.
-    GridContent made;
     /// Cells of memories that are painted when the operation has ended.
     std::vector<wxGridCellCoords> painted;
 
-    /// Does the same on a grid of the same size that has the content before.
+    /// Does the same to the texts and paint of a grid of the same size that has the content before.
     void Redo(wxGrid* grid) const;
 };
 

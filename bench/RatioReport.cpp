@@ -22,6 +22,12 @@ void RatioReport::ReportRuns(const std::vector<Run>& runs) {
             m_rates[pairName] = std::max(m_rates[pairName], run.counters.at("items_per_second").value);
             continue;
         }
+        if (name.substr(slash + 1) == "size") {
+            const double size = run.counters.at("megabytes").value;
+            const auto [known, isNew] = m_sizes.try_emplace(pairName, size);
+            known->second = std::min(known->second, size);
+            continue;
+        }
         if (!m_pairs.contains(pairName))
             m_order.push_back(pairName);
         Pair& pair = m_pairs[pairName];
@@ -46,11 +52,13 @@ bool RatioReport::PrintGrowth() const {
         const Pair& small = m_pairs.at(name);
         const double program = small.program > 0 ? large->second.program / small.program : 0;
         const double floor = small.floor > 0 ? large->second.floor / small.floor : 0;
-        const bool met = program > 0 && program <= m_growth.aim;
+        const auto own = m_growthAims.find(name.substr(0, name.find('/')));
+        const double aim = own == m_growthAims.end() ? m_growth.aim : own->second;
+        const bool met = program > 0 && program <= aim;
         good = good && met;
         std::printf("%-32s %12.2f %12.2f %7s %6.2f%s\n",
                     (series + std::to_string(m_growth.from) + "-" + std::to_string(m_growth.to)).c_str(),
-                    program, floor, "", m_growth.aim, met ? "" : "  above");
+                    program, floor, "", aim, met ? "" : "  above");
     }
     return good;
 }
@@ -60,6 +68,20 @@ void RatioReport::PrintRates() const {
         std::printf("\n%-32s %12s\n", "", "a second");
     for (const std::string& name : m_rateOrder)
         std::printf("%-32s %12.0f\n", name.c_str(), m_rates.at(name));
+}
+
+bool RatioReport::PrintSizes() const {
+    bool good = true;
+    if (!m_sizes.empty())
+        std::printf("\n%-32s %12s %27s\n", "", "MB", "aim");
+    for (const auto& [name, size] : m_sizes) {
+        const auto aim = m_sizeAims.find(name.substr(0, name.find('/')));
+        const bool met = aim != m_sizeAims.end() && size <= aim->second;
+        good = good && met;
+        std::printf("%-32s %12.2f %27.2f%s\n", name.c_str(), size, aim == m_sizeAims.end() ? 0 : aim->second,
+                    met ? "" : "  above");
+    }
+    return good;
 }
 
 bool RatioReport::Print() const {
@@ -77,5 +99,6 @@ bool RatioReport::Print() const {
                     met ? "" : "  above");
     }
     PrintRates();
+    good = PrintSizes() && good;
     return PrintGrowth() && good;
 }

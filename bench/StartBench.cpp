@@ -63,7 +63,7 @@ public:
         auto* frame = new wxFrame(nullptr, wxID_ANY, "Bare", wxDefaultPosition, wxSize(927, 680));
         auto* sizer = new wxBoxSizer(wxVERTICAL);
         wxGrid* grid = MakeBareGrid(frame, content);
-        WriteContent(grid, content);
+        WriteTexts(grid, content);
         sizer->Add(grid, 1, wxEXPAND);
         frame->SetSizer(sizer);
         frame->Layout();

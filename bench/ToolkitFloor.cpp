@@ -13,23 +13,29 @@ using namespace RadioCatalogue;
 
 namespace {
 
-CellObjects::Editor KindOf(wxGridCellEditor* editor) {
-    if (dynamic_cast<wxGridCellChoiceEditor*>(editor))
-        return CellObjects::Editor::Choice;
-    if (dynamic_cast<wxGridCellNumberEditor*>(editor))
-        return CellObjects::Editor::Number;
-    return CellObjects::Editor::Text;
-}
+/// The columns of one kind that pages of a type have.
+struct BareColumns {
+    std::vector<int> numbers, choices, texts, rendered, centred;
+};
 
-CellObjects ObjectsOf(wxGrid* grid, int row, int col) {
-    CellObjects objects{row, col};
-    if (const wxGridCellAttrPtr own = grid->GetTable()->GetAttrPtr(row, col, wxGridCellAttr::Cell)) {
-        if (own->HasEditor())
-            objects.editor = KindOf(own->GetEditorPtr(grid, row, col).get());
-        objects.renderer = own->HasRenderer();
-        objects.alignment = own->HasAlignment();
-    }
-    return objects;
+BareColumns ColumnsOf(int type) {
+    if (IsP25Type(type))
+        return {.numbers = {MNUM, RNSV, TIDC},
+                .choices = {SCAN, ZONE, MODE, RSQL, TSQL, RTON, TTON, RCOD, TCOD},
+                .texts = {SHAD, DESC, RFRQ, TFRQ, RTGP, TTGP, RNAC, TNAC},
+                .rendered = {MNUM, TIDC},
+                .centred = {SHAD, SCAN, ZONE, MODE, RFRQ, RSQL, RNSV, RTON, RCOD, RTGP, RNAC, TFRQ, TSQL,
+                            TTON, TCOD, TTGP, TNAC}};
+    BareColumns columns{.numbers = {MNUM},
+                        .choices = {MODE, RTON, TTON, RCOD, TCOD},
+                        .texts = {DESC, RFRQ, TFRQ},
+                        .rendered = {MNUM, SCAN},
+                        .centred = {MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}};
+    if (type == MDLX)
+        columns.choices.push_back(BAND);
+    if (type == KDAR)
+        columns.choices.insert(columns.choices.end(), {SCAN, RONL});
+    return columns;
 }
 
 /// As many choices as the column's list has.
@@ -49,16 +55,8 @@ GridContent ContentOfCurrentPage() {
     content.type = CurrentParameters().Type;
     content.rows = grid->GetNumberRows();
     content.radioName = PageStrings[CurrentPage].RadioName;
-    for (int row = 0; row < content.rows; ++row) {
+    for (int row = 0; row < content.rows; ++row)
         content.texts.push_back(GetRowValues(CurrentPage, row));
-        for (int col = 0; col < ColumnTotal; ++col) {
-            if (grid->IsReadOnly(row, col))
-                content.readOnly.push_back({row, col});
-            const CellObjects objects = ObjectsOf(grid, row, col);
-            if (objects.editor != CellObjects::Editor::None || objects.renderer || objects.alignment)
-                content.objects.push_back(objects);
-        }
-    }
     return content;
 }
 
@@ -79,31 +77,27 @@ wxGrid* MakeBareGrid(wxWindow* parent, const GridContent& content) {
     return grid;
 }
 
-void WriteObjects(wxGrid* grid, const GridContent& content) {
-    std::array<wxArrayString, ColumnTotal> choices;
-    for (const CellObjects& cell : content.objects) {
-        switch (cell.editor) {
-        case CellObjects::Editor::Choice:
-            if (choices[cell.col].empty())
-                choices[cell.col] = ChoicesOf(content.type, cell.col);
-            grid->SetCellEditor(cell.row, cell.col, new wxGridCellChoiceEditor(choices[cell.col]));
-            break;
-        case CellObjects::Editor::Number:
-            grid->SetCellEditor(cell.row, cell.col, new wxGridCellNumberEditor(0, 1000));
-            break;
-        case CellObjects::Editor::Text:
-            grid->SetCellEditor(cell.row, cell.col, new wxGridCellTextEditor(8));
-            break;
-        case CellObjects::Editor::None:
-            break;
-        }
-        if (cell.renderer)
-            grid->SetCellRenderer(cell.row, cell.col, new wxGridCellStringRenderer);
-        if (cell.alignment)
-            grid->SetCellAlignment(cell.row, cell.col, wxALIGN_CENTRE, wxALIGN_CENTRE);
-    }
-    for (const auto& [row, col] : content.readOnly)
-        grid->SetReadOnly(row, col, true);
+void SetBareColumns(wxGrid* grid, int type) {
+    std::array<wxGridCellAttrPtr, ColumnTotal> attrs;
+    const auto attrOf = [&attrs](int col) {
+        wxGridCellAttrPtr& attr = attrs[static_cast<size_t>(col)];
+        if (!attr)
+            attr.reset(new wxGridCellAttr);
+        return attr.get();
+    };
+    const BareColumns columns = ColumnsOf(type);
+    for (int col : columns.numbers)
+        attrOf(col)->SetEditor(new wxGridCellNumberEditor(0, 1000));
+    for (int col : columns.choices)
+        attrOf(col)->SetEditor(new wxGridCellChoiceEditor(ChoicesOf(type, col)));
+    for (int col : columns.texts)
+        attrOf(col)->SetEditor(new wxGridCellTextEditor(8));
+    for (int col : columns.rendered)
+        attrOf(col)->SetRenderer(new wxGridCellStringRenderer);
+    for (int col : columns.centred)
+        attrOf(col)->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
+    for (int col = 0; col < ColumnTotal; ++col)
+        grid->SetColAttr(col, attrs[static_cast<size_t>(col)].release());
 }
 
 void WriteTexts(wxGrid* grid, const GridContent& content) {
@@ -114,12 +108,6 @@ void WriteTexts(wxGrid* grid, const GridContent& content) {
                 grid->SetCellValue(row, col, content.texts[row][col]);
 }
 
-void WriteContent(wxGrid* grid, const GridContent& content) {
-    wxGridUpdateLocker quiet(grid);
-    WriteTexts(grid, content);
-    WriteObjects(grid, content);
-}
-
 wxGrid* AddBarePage(wxNotebook* notebook, const GridContent& content) {
     auto* panel =
         new wxPanel(notebook, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxBORDER_NONE);
@@ -128,6 +116,7 @@ wxGrid* AddBarePage(wxNotebook* notebook, const GridContent& content) {
     sizer->Add(grid, 1, wxEXPAND | wxALL, 5);
     panel->SetSizer(sizer);
     notebook->AddPage(panel, content.radioName, true);
-    WriteContent(grid, content);
+    SetBareColumns(grid, content.type);
+    WriteTexts(grid, content);
     return grid;
 }

@@ -11,21 +11,11 @@ class wxGrid;
 class wxNotebook;
 class wxWindow;
 
-/// What one cell has of its own besides text and mark.
-struct CellObjects {
-    enum class Editor { None, Text, Number, Choice };
-    int row, col;
-    Editor editor = Editor::None;
-    bool renderer = false, alignment = false;
-};
-
-/// What a page's grid holds: its texts, its read-only marks and its cells' objects.
+/// What a page's grid holds: its type, which says what its columns are edited with, and its texts.
 struct GridContent {
     int type = 0;
     int rows = 0; ///< grid rows, the default row counted
     std::vector<wxArrayString> texts;
-    std::vector<std::pair<int, int>> readOnly; ///< row and column
-    std::vector<CellObjects> objects;
     wxString radioName;
 };
 
@@ -35,15 +25,12 @@ GridContent ContentOfCurrentPage();
 /// A grid of the same size, columns and labels, made bare.
 wxGrid* MakeBareGrid(wxWindow* parent, const GridContent& content);
 
+/// Editor, renderer and alignment of each column that a page of the type edits, of the toolkit's own plain
+/// classes, as a toolkit user would set them.
+void SetBareColumns(wxGrid* grid, int type);
+
 /// The cells that have text.
 void WriteTexts(wxGrid* grid, const GridContent& content);
 
-/// The editors, renderers and alignments of the content, with the toolkit's own plain classes, and the
-/// marks.
-void WriteObjects(wxGrid* grid, const GridContent& content);
-
-/// WriteTexts and WriteObjects, as a toolkit user would.
-void WriteContent(wxGrid* grid, const GridContent& content);
-
-/// Panel, grid, content and tab. The grid.
+/// Panel, grid, columns, texts and tab. The grid.
 wxGrid* AddBarePage(wxNotebook* notebook, const GridContent& content);

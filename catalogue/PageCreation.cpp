@@ -1,5 +1,6 @@
 #include "catalogue/PageCreation.h"
 
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/ZelkEdit.h"
@@ -57,7 +58,7 @@ namespace {
 
 void SetUpGrid(OrvZELFrame* frame, wxGrid* grid, int page) {
     const int rows = PageParameters[page].Rows;
-    grid->CreateGrid(rows + 1, ColumnTotal);
+    grid->SetTable(new PageTable(rows + 1), true);
     grid->EnableEditing(true);
     grid->EnableGridLines(true);
     grid->EnableDragGridSize(false);
@@ -147,7 +148,7 @@ void SetPageDefaults(OrvZELFrame*, int page) {
         FillStartingRows();
         ZoneList = ZoneNames(CurrentParameters().Type);
     }
-    grid->SetReadOnly(0, MNUM, true);
+    LockCell(grid, 0, MNUM);
     grid->ForceRefresh();
 }
 

@@ -1,5 +1,6 @@
 #include "catalogue/PageModel.h"
 
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 
@@ -109,9 +110,8 @@ void SetGuardRows(OrvZELFrame*, int page, int rows) {
 }
 
 void TakePaintOff(wxGrid* grid, int row, int col) {
-    const wxGridCellAttrPtr own = grid->GetTable()->GetAttrPtr(row, col, wxGridCellAttr::Cell);
-    if (own && own->HasBackgroundColour() && own->GetBackgroundColour() == FailColour)
-        grid->SetCellBackgroundColour(row, col, grid->GetCellBackgroundColour(0, 0));
+    if (TableOf(grid).LookOf(row, col).paint == FailColour)
+        PaintCell(grid, row, col, grid->GetCellBackgroundColour(0, 0));
 }
 
 void ClearRowData(int row, bool releaseZone) {
@@ -125,8 +125,8 @@ void ClearRowData(int row, bool releaseZone) {
         grid->SetCellValue(row, col, "");
         TakePaintOff(grid, row, col);
         // The mark on SHAD stays: no one types into that column, whatever the row is.
-        if (col != SHAD && grid->IsReadOnly(row, col))
-            grid->SetReadOnly(row, col, false);
+        if (col != SHAD)
+            LockCell(grid, row, col, false);
     }
 }
 

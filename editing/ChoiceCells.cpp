@@ -1,6 +1,7 @@
 #include "editing/ChoiceCells.h"
 
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "editing/FrequencyRules.h"
 #include "editing/ZelkEditors.h"
 
@@ -15,7 +16,7 @@ static_assert(TCOD - RCOD == TransmitOffset);
 /// Writes what was chosen; a cell that was repaired before has a good value now.
 void WriteChosen(wxGrid* grid, int row, int col, const wxString& text) {
     grid->SetCellValue(row, col, text);
-    grid->SetCellBackgroundColour(row, col, grid->GetCellBackgroundColour(0, 0));
+    PaintCell(grid, row, col, grid->GetCellBackgroundColour(0, 0));
 }
 
 /// The columns that a choice in col turns off where a channel has either a tone or a code.

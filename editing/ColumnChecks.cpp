@@ -2,6 +2,7 @@
 
 #include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/CellChecks.h"
@@ -24,7 +25,7 @@ wxString DefaultText(const wxGrid* grid, int col) {
 /// Puts the default row's text into a cell, in FailColour.
 void Repair(wxGrid* grid, int row, int col) {
     grid->SetCellValue(row, col, DefaultText(grid, col));
-    grid->SetCellBackgroundColour(row, col, FailColour);
+    PaintCell(grid, row, col, FailColour);
     ReplacedCells::Note(row, col);
 }
 

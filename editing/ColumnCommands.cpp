@@ -2,6 +2,7 @@
 #include "editing/ColumnCommands.h"
 
 #include "catalogue/PageCreation.h"
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/ChoiceCells.h"
@@ -186,7 +187,7 @@ void ZelkFrame::OnClearHighlight(wxCommandEvent&) {
     for (int row = 0; row <= CurrentParameters().Rows; ++row)
         for (int col = 0; col < ColumnTotal; ++col)
             if (RadioCatalogue::ColumnWidth[CurrentParameters().Type][col] != 0)
-                grid->SetCellBackgroundColour(row, col, plain);
+                PaintCell(grid, row, col, plain);
     CurrentParameters().Flags &= ~PageHasMarks;
     grid->ForceRefresh();
 }

@@ -1,6 +1,7 @@
 #include "editing/FrequencyCell.h"
 
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/FrequencyRules.h"
 #include "editing/Shadows.h"
@@ -23,7 +24,7 @@ namespace {
 /// Writes a cell and takes the paint of a repair off it.
 void WriteClean(wxGrid* grid, int row, int col, const wxString& text) {
     grid->SetCellValue(row, col, text);
-    grid->SetCellBackgroundColour(row, col, grid->GetCellBackgroundColour(0, 0));
+    PaintCell(grid, row, col, grid->GetCellBackgroundColour(0, 0));
 }
 
 } // namespace

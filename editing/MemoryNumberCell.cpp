@@ -1,6 +1,7 @@
 #include "editing/MemoryNumberCell.h"
 
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/MemoryNumbers.h"
 #include "editing/Shadows.h"
@@ -39,7 +40,7 @@ void ZelkMemoryNumberEditor::ApplyEdit(int row, int, wxGrid* grid) {
             for (int shadow : ShadowRowsOf(grid, row)) {
                 grid->SetCellValue(shadow, PRIM, text);
                 grid->SetCellValue(shadow, SHAD, "S-" + text);
-                grid->SetReadOnly(shadow, SHAD, true);
+                LockCell(grid, shadow, SHAD);
             }
         grid->SetCellValue(row, PRIM, text);
     }

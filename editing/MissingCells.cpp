@@ -1,6 +1,7 @@
 #include "editing/MissingCells.h"
 
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "editing/FrequencyRules.h"
 #include "editing/ReplacedCells.h"
 #include "editing/ZelkEditors.h"
@@ -21,7 +22,7 @@ bool NeedsText(int type, int row, int col) {
 
 void Fill(wxGrid* grid, int row, int col, const wxString& text) {
     grid->SetCellValue(row, col, text);
-    grid->SetCellBackgroundColour(row, col, FailColour);
+    PaintCell(grid, row, col, FailColour);
     ReplacedCells::Note(row, col);
 }
 

@@ -2,6 +2,7 @@
 #include "editing/RowCommands.h"
 
 #include "catalogue/PageCreation.h"
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/CommandQuestions.h"
@@ -31,23 +32,21 @@ std::vector<int> SelectedRows() {
 
 void PaintRow(wxGrid* grid, int row, const wxColour& colour) {
     for (int col = 0; col < ColumnTotal; ++col)
-        grid->SetCellBackgroundColour(row, col, colour);
+        PaintCell(grid, row, col, colour);
 }
 
-/// Texts, editors and looks of a row go into another row.
-void CopyWholeRow(wxGrid* grid, int from, int to) {
-    for (int col = 0; col < ColumnTotal; ++col) {
+/// Texts and looks of a row go into another row.
+void MoveRow(wxGrid* grid, int from, int to) {
+    for (int col = 0; col < ColumnTotal; ++col)
         grid->SetCellValue(to, col, grid->GetCellValue(from, col));
-        grid->SetAttr(to, col, grid->GetTable()->GetAttr(from, col, wxGridCellAttr::Cell));
-    }
+    TableOf(grid).MoveLooks(from, to);
 }
 
 /// Makes a row as it is in a new grid.
 void MakeRowBlank(wxGrid* grid, int row) {
-    for (int col = 0; col < ColumnTotal; ++col) {
+    for (int col = 0; col < ColumnTotal; ++col)
         grid->SetCellValue(row, col, "");
-        grid->SetAttr(row, col, nullptr);
-    }
+    TableOf(grid).ForgetLooks(row);
 }
 
 /// Gives back the zone of the row whose position is the MNUM of the row to be deleted. order holds,
@@ -76,7 +75,7 @@ void DeleteMemoryRows(wxGrid* grid, const std::vector<int>& rows, int last) {
         if (row >= kept)
             MakeRowBlank(grid, row);
         else if (order[static_cast<size_t>(row)] != row)
-            CopyWholeRow(grid, order[static_cast<size_t>(row)], row);
+            MoveRow(grid, order[static_cast<size_t>(row)], row);
     }
 }
 

@@ -1,13 +1,19 @@
 #include "editing/RowLooks.h"
 
-#include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 
 void ForgetLooksOfRows(wxGrid* grid) {
-    ForEachOwnAttribute(grid, [](int row, int col, wxGridCellAttr& attributes) {
-        if (attributes.HasBackgroundColour())
-            attributes.SetBackgroundColour(wxNullColour);
-        if (col != SHAD && !IsGuardRow(row) && attributes.IsReadOnly())
-            attributes.SetReadOnly(false);
+    TableOf(grid).ChangeLooks([](int row, int col, CellLook& look) {
+        look.paint = wxColour();
+        if (col != SHAD && !IsGuardRow(row))
+            look.readOnly = false;
+    });
+}
+
+void MakeCellsWritable(wxGrid* grid) {
+    TableOf(grid).ChangeLooks([](int, int col, CellLook& look) {
+        if (col != SHAD)
+            look.readOnly = false;
     });
 }

@@ -25,8 +25,24 @@ int BoxAt(const wxPoint& position, int col, int width, const wxGrid* grid) {
 
 } // namespace
 
+namespace {
+
+/// Whether the cell, by its column or by itself, is one of boxes.
+bool HasBoxes(const wxGrid* grid, int row, int col) {
+    const wxGridCellRendererPtr renderer(grid->GetCellRenderer(row, col));
+    const wxGridCellEditorPtr editor(grid->GetCellEditor(row, col));
+    return dynamic_cast<ScanlistRenderer*>(renderer.get()) && dynamic_cast<ScanlistEditor*>(editor.get()) &&
+           grid->GetCellFont(row, col) == grid->GetDefaultCellFont();
+}
+
+} // namespace
+
 void SetScanCell(wxGrid* grid, int row, int col, const wxString& text, bool flag) {
     grid->SetCellValue(row, col, text);
+    // The grid may hold an older answer than what the cell's attribute has become.
+    grid->RefreshAttr(row, col);
+    if (HasBoxes(grid, row, col))
+        return;
     const wxGridCellAttrPtr attr = grid->GetOrCreateCellAttrPtr(row, col);
     attr->SetRenderer(new ScanlistRenderer);
     attr->SetEditor(new ScanlistEditor(flag));

@@ -5,7 +5,8 @@
 
 #include <wx/grid.h>
 
-/// Puts text into a scan cell and gives it its editor, renderer and the grid's default font.
+/// Puts text into a scan cell. A cell that hasn't got them by its column gets its editor, renderer and the
+/// grid's default font.
 void SetScanCell(wxGrid* grid, int row, int col, const wxString& text, bool flag);
 
 /// The scan lists of a row, bit 0 being list 1: 0 to 31. -1 when the row has no number; 0 when the

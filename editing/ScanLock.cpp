@@ -1,6 +1,7 @@
 #include "editing/ScanLock.h"
 
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 
 #include <wx/grid.h>
 
@@ -26,5 +27,5 @@ bool IsGuard(int row) {
 } // namespace
 
 void SetScanLock(wxGrid* grid, int row) {
-    grid->SetReadOnly(row, SCAN, IsInUnscannedZone(grid, row) || IsLinked(grid, row) || IsGuard(row));
+    LockCell(grid, row, SCAN, IsInUnscannedZone(grid, row) || IsLinked(grid, row) || IsGuard(row));
 }

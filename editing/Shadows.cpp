@@ -1,6 +1,7 @@
 #include "editing/Shadows.h"
 
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 
 #include <wx/grid.h>
@@ -65,11 +66,11 @@ int GetMnumRow(int number) {
 void LockLinkedRow(int row, int kind) {
     wxGrid* grid = CurrentGrid();
     for (int col : {MNUM, SHAD, SCAN})
-        grid->SetReadOnly(row, col, true);
+        LockCell(grid, row, col);
     grid->SetCellValue(row, SCAN, "N");
     if (kind == ShadowRow)
         for (int col : {ZONE, RFRQ, TFRQ})
-            grid->SetReadOnly(row, col, true);
+            LockCell(grid, row, col);
 }
 
 void HandleP25Shadows(wxGridCellEditor*, int number, const wxString&, wxGrid* grid) {

@@ -1,6 +1,7 @@
 #include "editing/ZelkEditors.h"
 
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "editing/ChoiceCells.h"
 #include "editing/DescriptionCell.h"
 #include "editing/DigitalSquelchCell.h"
@@ -15,10 +16,6 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// Columns that the radio fixes in guard rows, by kind of page.
-constexpr int GuardLocks[] = {MNUM, SCAN, RTON, RCOD};
-constexpr int GuardLocksP25[] = {MNUM, SCAN, ZONE};
-
 /// The entries of a constant list. The lists of RadioCatalogue would not do: the first page is made
 /// before they are filled.
 template <const auto& texts>
@@ -27,29 +24,26 @@ const wxString* Choices() {
     return &list[0];
 }
 
-wxGridCellAttrPtr AttrOf(wxGrid* grid, int row, int col) {
-    return grid->GetOrCreateCellAttrPtr(row, col);
-}
+/// How the texts of a column stand.
+enum class Placed { AsOthers, Centred, AtTheTopLeft };
 
-void SetEditor(wxGrid* grid, int row, int col, wxGridCellEditor* editor) {
-    AttrOf(grid, row, col)->SetEditor(editor);
-}
-
-/// The editor of a cell whose text stands in its middle.
-void SetCentred(wxGrid* grid, int row, int col, wxGridCellEditor* editor) {
-    const wxGridCellAttrPtr attr = AttrOf(grid, row, col);
-    attr->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
+/// Sets up a column of a page. The grid takes editor and renderer over; null stands for its own.
+wxGridCellAttr& SetColumn(wxGrid* grid, int col, Placed placed, wxGridCellEditor* editor = nullptr,
+                          wxGridCellRenderer* renderer = nullptr) {
+    auto* const attr = new wxGridCellAttr;
+    if (placed == Placed::Centred)
+        attr->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
+    else if (placed == Placed::AtTheTopLeft)
+        attr->SetAlignment(wxALIGN_LEFT, wxALIGN_TOP);
     attr->SetEditor(editor);
+    attr->SetRenderer(renderer);
+    grid->SetColAttr(col, attr);
+    return *attr;
 }
 
-void Centre(wxGrid* grid, int row, std::initializer_list<int> cols) {
+void LockCells(wxGrid* grid, int row, std::initializer_list<int> cols, bool readOnly) {
     for (int col : cols)
-        AttrOf(grid, row, col)->SetAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
-}
-
-void SetReadOnly(wxGrid* grid, int row, std::initializer_list<int> cols, bool readOnly) {
-    for (int col : cols)
-        AttrOf(grid, row, col)->SetReadOnly(readOnly);
+        LockCell(grid, row, col, readOnly);
 }
 
 /// Writes texts that are right as they stand, whatever a check has said of the former ones.
@@ -60,23 +54,14 @@ void SetTexts(wxGrid* grid, int row, std::initializer_list<int> cols, const wxSt
     }
 }
 
-void SetYesNoEditor(wxGrid* grid, int row, int col) {
-    SetCentred(grid, row, col, new ListChoiceEditor(std::size(ScanYesNo), Choices<ScanYesNo>(), false));
+template <const auto& texts>
+wxGridCellEditor* NewListEditor() {
+    return new ListChoiceEditor(std::size(texts), Choices<texts>(), false);
 }
 
-/// A SCAN cell that says "Y" or "N": a page of another radio may have left it boxes.
-void SetYesNoScanCell(wxGrid* grid, int row) {
-    SetYesNoEditor(grid, row, SCAN);
-    AttrOf(grid, row, SCAN)->SetRenderer(nullptr);
-}
-
-void SetNumberCell(wxGrid* grid, int row) {
-    const int rows = CurrentParameters().Rows;
-    const wxGridCellAttrPtr attr = AttrOf(grid, row, MNUM);
-    attr->SetEditor(new ZelkMemoryNumberEditor(0, rows));
-    attr->SetRenderer(new MemoryNumberRenderer(rows % 10 != 0));
-    if (row == 0)
-        attr->SetReadOnly(true);
+template <const auto& texts>
+wxGridCellEditor* NewLinkedEditor() {
+    return new ZelkChoiceEditor(std::size(texts), Choices<texts>());
 }
 
 wxGridCellEditor* NewDescriptionEditor(int type) {
@@ -93,11 +78,6 @@ wxGridCellEditor* NewDescriptionEditor(int type) {
     }
 }
 
-void SetToneEditors(wxGrid* grid, int row) {
-    for (int col : {RTON, TTON})
-        SetEditor(grid, row, col, new ZelkChoiceEditor(std::size(ToneTexts), Choices<ToneTexts>()));
-}
-
 wxGridCellEditor* NewBandEditor(int pageBand) {
     if (pageBand == K7Module)
         // The last band of the list isn't offered.
@@ -105,11 +85,156 @@ wxGridCellEditor* NewBandEditor(int pageBand) {
     return new MDLXBandChoiceEditor(std::size(MdlxBands3), Choices<MdlxBands3>());
 }
 
+// The zones of both lists end before that of the guard rows, or the one that isn't scanned.
+wxGridCellEditor* NewZoneEditor(int type) {
+    return type == NP25 ? new P25ZoneEditor(std::size(ZoneNames32) - 1, Choices<ZoneNames32>())
+                        : new P25ZoneEditor(std::size(ZoneNames16) - 1, Choices<ZoneNames16>());
+}
+
+/// Without "OFF", the first.
+wxGridCellEditor* NewCodeEditorWithoutOff() {
+    return new ZelkChoiceEditor(std::size(CodeTexts) - 1, Choices<CodeTexts>() + 1);
+}
+
+/// Editors that cells of several columns or rows share: the keys of PageTable::SharedEditor.
+enum SharedEditorKey {
+    AnalogSquelch,
+    ReceiveDigitalSquelch,
+    TransmitDigitalSquelch,
+    ShadowDigitalSquelch,
+    FrequencyOfBand ///< of band 0; those of the other bands follow
+};
+
+wxGridCellEditorPtr FrequencyEditorOf(wxGrid* grid, int band) {
+    return TableOf(grid).SharedEditor(FrequencyOfBand + band, [band] {
+        const int step = GetChannelStep(CurrentParameters().Radio, band);
+        auto* const editor = new FrequencyEditor(0, band, step);
+        // On an MDLX page that of the row was taken.
+        editor->SetEditorFreqParams(band, step);
+        return editor;
+    });
+}
+
+wxGridCellEditorPtr ReceiveSquelchEditor(wxGrid* grid, bool digital) {
+    return digital ? TableOf(grid).SharedEditor(ReceiveDigitalSquelch, NewLinkedEditor<RxDigitalSquelch>)
+                   : TableOf(grid).SharedEditor(AnalogSquelch, NewLinkedEditor<RxAnalogSquelch>);
+}
+
+wxGridCellEditorPtr TransmitSquelchEditor(wxGrid* grid, bool digital, bool shadow) {
+    if (!digital)
+        return ReceiveSquelchEditor(grid, false);
+    return shadow
+               ? TableOf(grid).SharedEditor(ShadowDigitalSquelch, NewLinkedEditor<TxDigitalSquelchRestricted>)
+               : TableOf(grid).SharedEditor(TransmitDigitalSquelch, NewLinkedEditor<TxDigitalSquelch>);
+}
+
+/// For an attribute, which takes the reference.
+wxGridCellEditor* Referenced(const wxGridCellEditorPtr& editor) {
+    editor->IncRef();
+    return editor.get();
+}
+
+void SetFrequencyColumns(wxGrid* grid, int band) {
+    for (int col : {RFRQ, TFRQ})
+        SetColumn(grid, col, Placed::Centred, Referenced(FrequencyEditorOf(grid, band)));
+}
+
+void SetNumberColumn(wxGrid* grid) {
+    const int rows = CurrentParameters().Rows;
+    SetColumn(grid, MNUM, Placed::AsOthers, new ZelkMemoryNumberEditor(0, rows),
+              new MemoryNumberRenderer(rows % 10 != 0));
+}
+
+/// Whether tones of a page that isn't P25 have a list. Rows of the module have it in every band.
+bool HasToneList(const PageParameterRecord& page) {
+    return page.Type == MDLX ||
+           (page.Band != Am108To138 && page.Band != Am118To138 && page.Band != Am225To400);
+}
+
+void SetScanColumn(wxGrid* grid, int type) {
+    if (type == KDAR) {
+        SetColumn(grid, SCAN, Placed::Centred, NewListEditor<ScanYesNo>());
+        return;
+    }
+    // Clicks find the boxes from the cell's left edge on.
+    SetColumn(grid, SCAN, Placed::AtTheTopLeft, new ScanlistEditor(false), new ScanlistRenderer)
+        .SetFont(grid->GetDefaultCellFont());
+}
+
+void SetColumns(wxGrid* grid) {
+    const PageParameterRecord& page = CurrentParameters();
+    SetNumberColumn(grid);
+    if (page.Type == MDLX)
+        SetColumn(grid, BAND, Placed::Centred, NewBandEditor(page.Band));
+    SetScanColumn(grid, page.Type);
+    SetColumn(grid, DESC, Placed::AsOthers, NewDescriptionEditor(page.Type));
+    SetColumn(grid, MODE, Placed::Centred, NewListEditor<AnalogModes>());
+    // Rows of a module that were never used have the band of the default row.
+    SetFrequencyColumns(grid, page.Type == MDLX ? GetRowBand(grid, 0) : page.Band);
+    for (int col : {RTON, TTON})
+        SetColumn(grid, col, Placed::Centred, HasToneList(page) ? NewLinkedEditor<ToneTexts>() : nullptr);
+    for (int col : {RCOD, TCOD})
+        SetColumn(grid, col, Placed::Centred, NewLinkedEditor<CodeTexts>());
+    if (page.Type == KDAR)
+        SetColumn(grid, RONL, Placed::Centred, NewListEditor<ScanYesNo>());
+}
+
+void SetColumnsP25(wxGrid* grid) {
+    const PageParameterRecord& page = CurrentParameters();
+    SetNumberColumn(grid);
+    SetColumn(grid, SHAD, Placed::Centred, new wxGridCellTextEditor(4)).SetReadOnly();
+    SetColumn(grid, SCAN, Placed::Centred, NewListEditor<ScanYesNo>()).SetFont(grid->GetDefaultCellFont());
+    SetColumn(grid, ZONE, Placed::Centred, NewZoneEditor(page.Type));
+    SetColumn(grid, DESC, Placed::AsOthers, NewDescriptionEditor(page.Type));
+    SetColumn(grid, MODE, Placed::Centred, NewLinkedEditor<P25Modes>());
+    SetFrequencyColumns(grid, page.Band);
+    for (int col : {RSQL, TSQL})
+        SetColumn(grid, col, Placed::Centred, Referenced(ReceiveSquelchEditor(grid, false)));
+    SetColumn(grid, RNSV, Placed::Centred,
+              page.Radio == Kdrv716B ? new wxGridCellNumberEditor(0, 15) : nullptr);
+    for (int col : {RTON, TTON})
+        SetColumn(grid, col, Placed::Centred, NewLinkedEditor<CtcssTexts>());
+    for (int col : {RCOD, TCOD})
+        SetColumn(grid, col, Placed::Centred, NewCodeEditorWithoutOff());
+    for (int col : {RTGP, TTGP})
+        SetColumn(grid, col, Placed::Centred, new DigitalSquelchEditor(4, 0, 65535));
+    for (int col : {RNAC, TNAC})
+        SetColumn(grid, col, Placed::Centred, new DigitalSquelchEditor(3, 0, 4095));
+    SetColumn(grid, TIDC, Placed::AsOthers, new wxGridCellNumberEditor(0, 9999999), new IDCNumberRenderer);
+}
+
+/// What the cells of a row have besides their columns' editors.
+void FitRow(wxGrid* grid, int row) {
+    if (row == 0)
+        LockCell(grid, 0, MNUM);
+    const PageParameterRecord& page = CurrentParameters();
+    if (page.Type != MDLX)
+        return SetBandEditors(grid, row, page.Band);
+    const int band = GetBandOfEdit(grid, row);
+    SetFrequencyEditors(grid, row, band);
+    SetBandEditors(grid, row, band);
+}
+
+void FitRowP25(wxGrid* grid, int row) {
+    if (row == 0)
+        LockCell(grid, 0, MNUM);
+    SetScanLock(grid, row);
+    SetSquelchChoices(grid, row, grid->GetCellValue(row, MODE), false);
+}
+
 /// What a page that was another radio's before, or rows that have moved, may have left read-only.
 void Unlock(wxGrid* grid, int row) {
-    for (int col : {MNUM, SCAN, ZONE, MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD})
-        if (grid->IsReadOnly(row, col))
-            grid->SetReadOnly(row, col, false);
+    LockCells(grid, row, {MNUM, SCAN, ZONE, MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}, false);
+}
+
+void LockGuardRows(wxGrid* grid, bool p25) {
+    const int rows = CurrentParameters().Rows;
+    for (int row : {rows - 1, rows}) {
+        if (p25)
+            LockCells(grid, row, {MNUM, SCAN, ZONE}, true);
+        else
+            LockCells(grid, row, {MNUM, SCAN, RTON, RCOD}, true);
+    }
 }
 
 } // namespace
@@ -119,91 +244,37 @@ void SetPageEditors(int page) {
     wxLogMessage(" > SetPageEditors - Page: %i; Radio: %s; Type: %s", page + 1, PageStrings[page].RadioName,
                  PageStrings[page].TypeName);
     wxGrid* grid = PageGrid[page];
-    const int rows = parameters.Rows;
     const bool p25 = IsP25Type(parameters.Type);
-    wxGridUpdateLocker quiet(grid);
-    for (int row = 0; row <= rows; ++row) {
+    const wxGridUpdateLocker quiet(grid);
+    TableOf(grid).ForgetEditors();
+    for (int col = 0; col < ColumnTotal; ++col)
+        grid->SetColAttr(col, nullptr);
+    p25 ? SetColumnsP25(grid) : SetColumns(grid);
+    for (int row = 0; row <= parameters.Rows; ++row) {
         if (p25) {
-            SetRowEditorsP25(grid, row);
+            FitRowP25(grid, row);
         } else {
             Unlock(grid, row);
-            SetRowEditors(grid, row);
+            FitRow(grid, row);
         }
     }
-    if (!HasGuardRows(page))
-        return;
-    for (int row = rows - 1; row <= rows; ++row) {
-        if (p25)
-            for (int col : GuardLocksP25)
-                grid->SetReadOnly(row, col, true);
-        else
-            for (int col : GuardLocks)
-                grid->SetReadOnly(row, col, true);
-    }
+    if (HasGuardRows(page))
+        LockGuardRows(grid, p25);
 }
 
 void SetRowEditors(wxGrid* grid, int row) {
-    const PageParameterRecord& page = CurrentParameters();
-    const int band = page.Type == MDLX ? GetBandOfEdit(grid, row) : page.Band;
-    SetNumberCell(grid, row);
-    if (page.Type == MDLX)
-        SetCentred(grid, row, BAND, NewBandEditor(page.Band));
-    if (page.Type == KDAR) {
-        SetYesNoScanCell(grid, row);
-    } else {
-        SetScanCell(grid, row, SCAN, grid->GetCellValue(row, SCAN), false);
-        // Clicks find the boxes from the cell's left edge on.
-        AttrOf(grid, row, SCAN)->SetAlignment(wxALIGN_LEFT, wxALIGN_TOP);
-    }
-    SetEditor(grid, row, DESC, NewDescriptionEditor(page.Type));
-    SetCentred(grid, row, MODE, new ListChoiceEditor(std::size(AnalogModes), Choices<AnalogModes>(), false));
-    SetFrequencyEditors(grid, row, band);
-    for (int col : {RCOD, TCOD})
-        SetCentred(grid, row, col, new ZelkChoiceEditor(std::size(CodeTexts), Choices<CodeTexts>()));
-    Centre(grid, row, {RTON, TTON});
-    if (page.Type == KDAR)
-        SetYesNoEditor(grid, row, RONL);
-    SetBandEditors(grid, row, band);
+    TableOf(grid).ForgetEditors(row);
+    FitRow(grid, row);
 }
 
 void SetRowEditorsP25(wxGrid* grid, int row) {
-    const PageParameterRecord& page = CurrentParameters();
-    SetNumberCell(grid, row);
-    SetCentred(grid, row, SHAD, new wxGridCellTextEditor(4));
-    SetReadOnly(grid, row, {SHAD}, true);
-    SetYesNoScanCell(grid, row);
-    AttrOf(grid, row, SCAN)->SetFont(grid->GetDefaultCellFont());
-    SetScanLock(grid, row);
-    // The zones of both lists end before that of the guard rows, or the one that isn't scanned.
-    SetCentred(grid, row, ZONE,
-               page.Type == NP25 ? new P25ZoneEditor(std::size(ZoneNames32) - 1, Choices<ZoneNames32>())
-                                 : new P25ZoneEditor(std::size(ZoneNames16) - 1, Choices<ZoneNames16>()));
-    SetEditor(grid, row, DESC, NewDescriptionEditor(page.Type));
-    SetCentred(grid, row, MODE, new ZelkChoiceEditor(std::size(P25Modes), Choices<P25Modes>()));
-    SetFrequencyEditors(grid, row, page.Band);
-    Centre(grid, row, {RSQL, TSQL});
-    SetSquelchChoices(grid, row, grid->GetCellValue(row, MODE), false);
-    Centre(grid, row, {RNSV});
-    if (page.Radio == Kdrv716B)
-        SetEditor(grid, row, RNSV, new wxGridCellNumberEditor(0, 15));
-    for (int col : {RTON, TTON})
-        SetCentred(grid, row, col, new ZelkChoiceEditor(std::size(CtcssTexts), Choices<CtcssTexts>()));
-    // Without "OFF", the first.
-    for (int col : {RCOD, TCOD})
-        SetCentred(grid, row, col, new ZelkChoiceEditor(std::size(CodeTexts) - 1, Choices<CodeTexts>() + 1));
-    for (int col : {RTGP, TTGP})
-        SetCentred(grid, row, col, new DigitalSquelchEditor(4, 0, 65535));
-    for (int col : {RNAC, TNAC})
-        SetCentred(grid, row, col, new DigitalSquelchEditor(3, 0, 4095));
-    const wxGridCellAttrPtr unitId = AttrOf(grid, row, TIDC);
-    unitId->SetEditor(new wxGridCellNumberEditor(0, 9999999));
-    unitId->SetRenderer(new IDCNumberRenderer);
+    TableOf(grid).ForgetEditors(row);
+    FitRowP25(grid, row);
 }
 
 void SetFrequencyEditors(wxGrid* grid, int row, int band) {
-    const int step = GetChannelStep(CurrentParameters().Radio, band);
     for (int col : {RFRQ, TFRQ})
-        SetCentred(grid, row, col, new FrequencyEditor(row, band, step));
+        TableOf(grid).SetEditor(row, col, FrequencyEditorOf(grid, band));
 }
 
 void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
@@ -215,14 +286,13 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
     if (band == Am225To400) {
         if (type != MDLX)
             return;
-        SetReadOnly(grid, row, {MODE, RCOD, TCOD}, true);
-        SetReadOnly(grid, row, {RTON, TTON}, false);
+        LockCells(grid, row, {MODE, RCOD, TCOD}, true);
+        LockCells(grid, row, {RTON, TTON}, false);
         if (hasTexts)
             SetTexts(grid, row, {MODE, RCOD, TCOD}, "n/a");
         for (int col : {RTON, TTON})
             if (hasTexts && (bandChanged || GetToneIndex(grid->GetCellValue(row, col)) < 0))
                 SetTexts(grid, row, {col}, "OFF");
-        SetToneEditors(grid, row);
         return;
     }
     if (band == Am108To138) {
@@ -230,19 +300,17 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
             return;
         if (hasTexts)
             SetTexts(grid, row, {RTON, TTON, RCOD, TCOD}, "n/a");
-        SetReadOnly(grid, row, {MODE}, false);
-        SetReadOnly(grid, row, {RTON, TTON, RCOD, TCOD}, true);
+        LockCells(grid, row, {MODE}, false);
+        LockCells(grid, row, {RTON, TTON, RCOD, TCOD}, true);
         return;
     }
-    // Meant: TCOD keeps the mark that a former band gave it until the page is set up again.
-    SetReadOnly(grid, row, {MODE, RTON, TTON, RCOD}, false);
-    if (!IsP25Type(type)) {
-        SetToneEditors(grid, row);
+    // Intentional: TCOD keeps the mark that a former band gave it until the page is set up again.
+    LockCells(grid, row, {MODE, RTON, TTON, RCOD}, false);
+    if (!IsP25Type(type))
         return;
-    }
-    // Meant: TTON keeps the editor that it has.
-    SetEditor(grid, row, RTON, new ZelkChoiceEditor(std::size(CtcssTexts), Choices<CtcssTexts>()));
-    SetReadOnly(grid, row, {SCAN}, grid->GetCellValue(row, ZONE) == ZoneNames32[NP25GuardZone]);
+    // Intentional: TTON keeps the editor that it has.
+    TableOf(grid).SetEditor(row, RTON, wxGridCellEditorPtr());
+    LockCell(grid, row, SCAN, grid->GetCellValue(row, ZONE) == ZoneNames32[NP25GuardZone]);
 }
 
 void FitRowToItsBand(wxGrid* grid, int row) {
@@ -266,23 +334,12 @@ void ChangeRowBand(wxGrid* grid, int row, int band) {
 }
 
 void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDefault) {
-    if (mode != "D") {
-        for (int col : {RSQL, TSQL})
-            SetEditor(grid, row, col,
-                      new ZelkChoiceEditor(std::size(RxAnalogSquelch), Choices<RxAnalogSquelch>()));
-        if (applyDefault)
-            SetTexts(grid, row, {RSQL, TSQL}, "x");
+    const bool digital = mode == "D";
+    const bool shadow = digital && IsShadow(grid, row);
+    TableOf(grid).SetEditor(row, RSQL, ReceiveSquelchEditor(grid, digital));
+    TableOf(grid).SetEditor(row, TSQL, TransmitSquelchEditor(grid, digital, shadow));
+    if (!applyDefault)
         return;
-    }
-    SetEditor(grid, row, RSQL,
-              new ZelkChoiceEditor(std::size(RxDigitalSquelch), Choices<RxDigitalSquelch>()));
-    const bool shadow = IsShadow(grid, row);
-    SetEditor(grid, row, TSQL,
-              shadow ? new ZelkChoiceEditor(std::size(TxDigitalSquelchRestricted),
-                                            Choices<TxDigitalSquelchRestricted>())
-                     : new ZelkChoiceEditor(std::size(TxDigitalSquelch), Choices<TxDigitalSquelch>()));
-    if (applyDefault) {
-        SetTexts(grid, row, {RSQL}, "m");
-        SetTexts(grid, row, {TSQL}, "g");
-    }
+    SetTexts(grid, row, {RSQL}, digital ? "m" : "x");
+    SetTexts(grid, row, {TSQL}, digital ? "g" : "x");
 }

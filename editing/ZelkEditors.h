@@ -5,14 +5,15 @@
 #include "editing/ScanListCell.h"
 
 /// Gives all cells of page (0-based), which must be the current one, their editors, renderers,
-/// alignment and read-only state; to be called when the page's target or its rows have changed. On
-/// P25 pages read-only marks of memories stay, as linked rows rely on them.
+/// alignment and read-only state; to be called when the page's target or its rows have changed. Columns have
+/// editors; a row has some of its own where its band, its mode or its links ask for others. On P25 pages
+/// read-only marks of memories stay, as linked rows rely on them.
 void SetPageEditors(int page);
 
-/// SetPageEditors for one row of a current page that isn't P25.
+/// What SetPageEditors does to one row of a current page that isn't P25.
 void SetRowEditors(wxGrid* grid, int row);
 
-/// SetPageEditors for one row of a P25 current page.
+/// What SetPageEditors does to one row of a P25 current page.
 void SetRowEditorsP25(wxGrid* grid, int row);
 
 /// The editors of a row's two frequencies, for a band id (0 to 8).
@@ -25,7 +26,7 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged = false);
 
 /// On an MDLX page: makes locks, choices and texts of a row those of its band, after BAND has come by a
 /// command or a check. A row that is still to be filled takes after the default row, without texts. Nothing
-/// on other pages. Replaces the editors of the row: not for a row that is being edited.
+/// on other pages. May replace the editors of frequencies: not for a row whose frequency is being edited.
 void FitRowToItsBand(wxGrid* grid, int row);
 
 /// FitRowToItsBand for the rows of an MDLX page that were never used, after the default row's band has

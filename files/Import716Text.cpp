@@ -2,6 +2,7 @@
 
 #include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "files/ImportOutcome.h"
 #include "files/ImportText.h"
@@ -111,7 +112,7 @@ void LinkShadow(wxGrid* grid, int row, int primary) {
     const int before = ReadDecimal(grid->GetCellValue(primary, SHAD).Mid(2));
     grid->SetCellValue(primary, SHAD, wxString::Format("P-%d", before + 1));
     grid->SetCellValue(row, ZONE, grid->GetCellValue(primary, ZONE));
-    grid->SetReadOnly(row, ZONE, true);
+    LockCell(grid, row, ZONE);
 }
 
 /// The lines of a list behind its titles, with the numbers that an editor gives them.
@@ -231,7 +232,7 @@ int Import716_Text(wxFFile& file) {
     wxGridUpdateLocker quiet(grid);
     for (int row : unscanned)
         if (row >= 0)
-            grid->SetReadOnly(row, SCAN, true);
+            LockCell(grid, row, SCAN);
     RowWriter716 writer;
     kept.ForEach([&writer](int row, const KeptRecord& from) { writer.Write(row, from->record); });
     LinkShadows(grid, kept);

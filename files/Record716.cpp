@@ -2,6 +2,7 @@
 
 #include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/ColumnChecks.h"
 
@@ -50,14 +51,14 @@ void WriteLinks(wxGrid* grid, int row, const Record716& record) {
     const int flags = ReadHex(record.Mflg);
     if (flags & ShadowLinkFlag) {
         CurrentParameters().Flags |= PageHasShadows;
-        grid->SetReadOnly(row, SCAN, true);
+        LockCell(grid, row, SCAN);
         for (int slot = 0; slot <= SHD6 - SHD0; ++slot)
             grid->SetCellValue(row, SHD0 + slot, record.*Shadows716[slot]);
         const auto used = std::count_if(std::begin(Shadows716), std::end(Shadows716),
                                         [&](Field716 shadow) { return ReadDecimal(record.*shadow) != 0; });
         grid->SetCellValue(row, SHAD, wxString::Format("P-%d", static_cast<int>(used)));
     } else if (flags & ShadowIndexMask) {
-        grid->SetReadOnly(row, SCAN, true);
+        LockCell(grid, row, SCAN);
         grid->SetCellValue(row, SHAD, "S-" + record.Prim);
     } else {
         grid->SetCellValue(row, SHAD, TextOfAscii("N"));

@@ -27,13 +27,6 @@
 
 namespace {
 
-void MakeCellsWritable(wxGrid* grid) {
-    ForEachOwnAttribute(grid, [](int, int, wxGridCellAttr& attributes) {
-        if (attributes.IsReadOnly())
-            attributes.SetReadOnly(false);
-    });
-}
-
 void EmptyRow(wxGrid* grid, int row) {
     for (int col = 0; col < ColumnTotal; ++col)
         grid->SetCellValue(row, col, "");

@@ -114,10 +114,7 @@ int MovePage(OrvZELFrame* frame, const FormerPage& former) {
 void ForgetFormerLocks(const FormerPage& former) {
     if (former.p25 && CurrentPageIsP25())
         return;
-    ForEachOwnAttribute(CurrentGrid(), [](int, int col, wxGridCellAttr& attributes) {
-        if (col != SHAD && attributes.IsReadOnly())
-            attributes.SetReadOnly(false);
-    });
+    MakeCellsWritable(CurrentGrid());
 }
 
 /// Makes the memories those of the new type: locks, numbers, cells that the former type had not, and at last

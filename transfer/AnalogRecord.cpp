@@ -1,6 +1,7 @@
 #include "transfer/AnalogRecord.h"
 
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/FrequencyRules.h"
 #include "editing/ZelkEditors.h"
@@ -50,9 +51,9 @@ wxString NumberFieldToCell(wxGrid* grid, const wxString& field) {
 void WriteField(wxGrid* grid, int row, int column, const std::optional<wxString>& text) {
     grid->SetCellValue(row, column, text ? *text : grid->GetCellValue(0, column));
     if (!text)
-        grid->SetCellBackgroundColour(row, column, FailColour);
-    else if (grid->GetCellBackgroundColour(row, column) == FailColour)
-        grid->SetCellBackgroundColour(row, column, grid->GetCellBackgroundColour(0, 0));
+        PaintCell(grid, row, column, FailColour);
+    else
+        TakePaintOff(grid, row, column);
 }
 
 /// Rows of a module carry a band each, which the line tells by its receive frequency only.

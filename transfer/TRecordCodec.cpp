@@ -1,6 +1,7 @@
 #include "transfer/TRecordCodec.h"
 
 #include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/ColumnChecks.h"
@@ -49,7 +50,7 @@ void WriteCell(wxGrid* grid, int row, const TRecordCell& cell) {
         grid->SetCellValue(row, cell.column, *cell.text);
     } else {
         grid->SetCellValue(row, cell.column, grid->GetCellValue(0, cell.column));
-        grid->SetCellBackgroundColour(row, cell.column, FailColour);
+        PaintCell(grid, row, cell.column, FailColour);
     }
 }
 

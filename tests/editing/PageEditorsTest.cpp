@@ -174,17 +174,40 @@ TEST_F(PageEditors, KeepLocksOfP25MemoriesAndLiftThoseOfOthers) {
     }
 }
 
-TEST_F(PageEditors, NeverShareAnEditor) {
+TEST_F(PageEditors, AreSharedByTheRowsOfAColumn) {
     for (int radio : {Krv47, Kdrv716B}) {
         Retarget(radio, 0);
-        std::map<wxGridCellEditor*, std::pair<int, int>> seen;
-        for (int row = 0; row < Grid()->GetNumberRows(); ++row)
-            for (int col : {1, 5, 7, 8, 9, 12, 13, 16, 18, 19}) {
-                const auto [place, isNew] = seen.insert({EditorAt(row, col), {row, col}});
-                EXPECT_TRUE(isNew) << row << ", " << col << " and " << place->second.first << ", "
-                                   << place->second.second;
-            }
+        std::map<wxGridCellEditor*, int> columns;
+        for (int col : {1, 5, 7, 8, 9, 12, 13, 18, 19}) {
+            const auto [place, isNew] = columns.insert({EditorAt(0, col), col});
+            EXPECT_TRUE(isNew) << "columns " << col << " and " << place->second;
+            for (int row = 1; row < Grid()->GetNumberRows(); ++row)
+                EXPECT_EQ(EditorAt(0, col), EditorAt(row, col)) << row << ", " << col;
+        }
     }
+}
+
+TEST_F(PageEditors, OfRowsThatDifferAlikeAreShared) {
+    Retarget(Kdrv716B, 0);
+    for (int row : {4, 5, 6, 7})
+        SetCell(row, MODE, "D");
+    for (int row : {6, 7})
+        SetCell(row, MFLG, "02");
+    SetPageEditors(CurrentPage);
+    for (int col : {RSQL, TSQL}) {
+        EXPECT_EQ(EditorAt(4, col), EditorAt(5, col)) << col;
+        EXPECT_EQ(EditorAt(6, col), EditorAt(7, col)) << col;
+        EXPECT_NE(EditorAt(3, col), EditorAt(4, col)) << col;
+    }
+    EXPECT_NE(EditorAt(5, TSQL), EditorAt(6, TSQL)) << "a shadow has fewer choices";
+    RetargetModule();
+    for (int row : {4, 5}) {
+        SetCell(row, TFLG, "A0");
+        SetCell(row, BAND, "AM 225-400");
+    }
+    SetPageEditors(CurrentPage);
+    EXPECT_EQ(EditorAt(4, RFRQ), EditorAt(5, TFRQ));
+    EXPECT_NE(EditorAt(3, RFRQ), EditorAt(4, RFRQ));
 }
 
 TEST_F(PageEditors, OfferTheChoicesOfTheRadio) {

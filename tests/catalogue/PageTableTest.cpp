@@ -1,0 +1,168 @@
+// Attributes of columns, and of cells that differ from theirs.
+#include "tests/catalogue/PageTest.h"
+
+#include "catalogue/PageTable.h"
+
+namespace {
+
+class PageAttributes : public PageTest {
+protected:
+    static wxGrid* Grid() { return CurrentGrid(); }
+    static PageTable& Table() { return TableOf(Grid()); }
+
+    /// What the grid sees of a cell; only its address counts.
+    static const wxGridCellAttr* AttrOf(int row, int col) {
+        return Table().GetAttrPtr(row, col, wxGridCellAttr::Any).get();
+    }
+
+    static wxGridCellEditorPtr EditorOf(int row, int col) {
+        return wxGridCellEditorPtr(Grid()->GetCellEditor(row, col));
+    }
+
+    static int CountLooks() {
+        int count = 0;
+        Table().ChangeLooks([&count](int, int, CellLook&) { ++count; });
+        return count;
+    }
+};
+
+} // namespace
+
+TEST_F(PageAttributes, AreThoseOfTheColumnInRowsThatDontDiffer) {
+    for (int col : {DESC, RFRQ, RTON})
+        for (int row : {2, 60, 120})
+            EXPECT_EQ(AttrOf(1, col), AttrOf(row, col)) << row << ", " << col;
+}
+
+TEST_F(PageAttributes, AreOfACellOnlyWhereItDiffers) {
+    const int fixed = CountLooks();
+    EXPECT_EQ(9, fixed) << "the default number, and four cells of each guard row";
+    LockCell(Grid(), 5, RFRQ);
+    PaintCell(Grid(), 6, RFRQ, FailColour);
+    EXPECT_EQ(fixed + 2, CountLooks());
+    LockCell(Grid(), 5, RFRQ, false);
+    PaintCell(Grid(), 6, RFRQ, Grid()->GetDefaultCellBackgroundColour());
+    EXPECT_EQ(fixed, CountLooks());
+}
+
+TEST_F(PageAttributes, OfCellsThatDifferKeepWhatTheColumnHas) {
+    const wxGridCellEditorPtr editor = EditorOf(6, RFRQ);
+    LockCell(Grid(), 5, RFRQ);
+    PaintCell(Grid(), 5, RFRQ, FailColour);
+    EXPECT_EQ(editor.get(), EditorOf(5, RFRQ).get());
+    int horizontal, vertical;
+    Grid()->GetCellAlignment(5, RFRQ, &horizontal, &vertical);
+    EXPECT_EQ(wxALIGN_CENTRE, horizontal);
+    EXPECT_TRUE(Grid()->IsReadOnly(5, RFRQ));
+    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, RFRQ));
+}
+
+TEST_F(PageAttributes, OfAColumnThatIsReadOnlyCanBeLiftedInACell) {
+    AddPage(RadioCatalogue::Kdrv716B, 0);
+    EXPECT_TRUE(Grid()->IsReadOnly(5, SHAD));
+    LockCell(Grid(), 5, SHAD, false);
+    EXPECT_FALSE(Grid()->IsReadOnly(5, SHAD));
+    EXPECT_TRUE(Grid()->IsReadOnly(6, SHAD));
+    LockCell(Grid(), 5, SHAD);
+    EXPECT_TRUE(Grid()->IsReadOnly(5, SHAD));
+}
+
+TEST_F(PageAttributes, AreTheSameObjectInCellsThatDifferAlike) {
+    // Columns without an attribute show that of the cell itself.
+    for (int row : {5, 6, 7})
+        PaintCell(Grid(), row, PRIM, MarkColour);
+    LockCell(Grid(), 7, PRIM);
+    EXPECT_EQ(AttrOf(5, PRIM), AttrOf(6, PRIM));
+    EXPECT_NE(AttrOf(5, PRIM), AttrOf(7, PRIM));
+    LockCell(Grid(), 7, PRIM, false);
+    EXPECT_EQ(AttrOf(5, PRIM), AttrOf(7, PRIM));
+}
+
+TEST_F(PageAttributes, ThatTheGridChangesInOneCellStayInTheOthers) {
+    for (int row : {5, 6})
+        PaintCell(Grid(), row, DESC, MarkColour);
+    Grid()->SetCellBackgroundColour(5, DESC, FailColour);
+    Grid()->SetReadOnly(5, DESC);
+    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, DESC));
+    EXPECT_EQ(MarkColour, Grid()->GetCellBackgroundColour(6, DESC));
+    EXPECT_TRUE(Grid()->IsReadOnly(5, DESC));
+    EXPECT_FALSE(Grid()->IsReadOnly(6, DESC));
+    EXPECT_FALSE(Grid()->IsReadOnly(7, DESC));
+}
+
+TEST_F(PageAttributes, ThatWereJustAskedForAreNotToldWhenTheyHaveChanged) {
+    // The grid keeps the last answer.
+    EXPECT_FALSE(Grid()->IsReadOnly(5, RFRQ));
+    Grid()->SetReadOnly(5, RFRQ);
+    EXPECT_TRUE(Grid()->IsReadOnly(5, RFRQ));
+    LockCell(Grid(), 5, RFRQ, false);
+    EXPECT_FALSE(Grid()->IsReadOnly(5, RFRQ));
+    LockCell(Grid(), 5, RFRQ);
+    EXPECT_TRUE(Grid()->IsReadOnly(5, RFRQ));
+    Grid()->SetReadOnly(5, RFRQ, false);
+    EXPECT_FALSE(Grid()->IsReadOnly(5, RFRQ));
+    Grid()->SetCellBackgroundColour(5, RFRQ, FailColour);
+    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, RFRQ));
+    PaintCell(Grid(), 5, RFRQ, MarkColour);
+    EXPECT_EQ(MarkColour, Grid()->GetCellBackgroundColour(5, RFRQ));
+}
+
+TEST_F(PageAttributes, ThatTheGridGaveKeepTheirFontWhenPaintAndLockChange) {
+    const wxFont large = Grid()->GetDefaultCellFont().Larger();
+    Grid()->SetCellFont(5, DESC, large);
+    LockCell(Grid(), 5, DESC);
+    PaintCell(Grid(), 5, DESC, FailColour);
+    EXPECT_EQ(large, Grid()->GetCellFont(5, DESC));
+    EXPECT_TRUE(Grid()->IsReadOnly(5, DESC));
+    LockCell(Grid(), 5, DESC, false);
+    EXPECT_FALSE(Grid()->IsReadOnly(5, DESC));
+    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, DESC));
+}
+
+TEST_F(PageAttributes, OfRowsMoveWithTheirRows) {
+    PaintCell(Grid(), 5, DESC, FailColour);
+    LockCell(Grid(), 7, RFRQ);
+    Grid()->InsertRows(6, 2);
+    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, DESC));
+    EXPECT_TRUE(Grid()->IsReadOnly(9, RFRQ));
+    EXPECT_FALSE(Grid()->IsReadOnly(7, RFRQ));
+    Grid()->DeleteRows(5, 3);
+    EXPECT_TRUE(Grid()->IsReadOnly(6, RFRQ));
+    for (int row : {4, 5, 6})
+        EXPECT_NE(FailColour, Grid()->GetCellBackgroundColour(row, DESC)) << row;
+}
+
+TEST_F(PageAttributes, OfRowsThatAreAddedOrTakenAwayAtTheEnd) {
+    const int rows = Grid()->GetNumberRows();
+    Grid()->AppendRows(3);
+    LockCell(Grid(), rows + 2, RFRQ);
+    EXPECT_TRUE(Grid()->IsReadOnly(rows + 2, RFRQ));
+    EXPECT_FALSE(Grid()->IsReadOnly(rows + 1, RFRQ));
+    EXPECT_EQ(EditorOf(1, RFRQ).get(), EditorOf(rows + 1, RFRQ).get());
+    Grid()->DeleteRows(rows, 3);
+    Grid()->InsertRows(rows, 3);
+    EXPECT_FALSE(Grid()->IsReadOnly(rows + 2, RFRQ)) << "a new row has nothing of a former one";
+}
+
+TEST_F(PageAttributes, OfARowCanBeMovedAndForgotten) {
+    PaintCell(Grid(), 9, DESC, FailColour);
+    LockCell(Grid(), 3, DESC);
+    Table().MoveLooks(9, 3);
+    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(3, DESC));
+    EXPECT_FALSE(Grid()->IsReadOnly(3, DESC));
+    EXPECT_NE(FailColour, Grid()->GetCellBackgroundColour(9, DESC));
+    Table().ForgetLooks(3);
+    EXPECT_NE(FailColour, Grid()->GetCellBackgroundColour(3, DESC));
+}
+
+TEST_F(PageAttributes, KeepPaintAndLocksWhenEditorsAreForgotten) {
+    wxGridCellEditor* const own = new wxGridCellTextEditor;
+    Grid()->SetCellEditor(5, RFRQ, own);
+    LockCell(Grid(), 5, RFRQ);
+    PaintCell(Grid(), 5, RFRQ, FailColour);
+    EXPECT_EQ(own, EditorOf(5, RFRQ).get());
+    Table().ForgetEditors(5);
+    EXPECT_EQ(EditorOf(6, RFRQ).get(), EditorOf(5, RFRQ).get());
+    EXPECT_TRUE(Grid()->IsReadOnly(5, RFRQ));
+    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, RFRQ));
+}

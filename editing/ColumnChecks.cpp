@@ -4,12 +4,12 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
+#include "commands/ErrorBox.h"
 #include "editing/CellChecks.h"
 #include "editing/FrequencyRules.h"
 #include "editing/MemoryNumbers.h"
 #include "editing/ReplacedCells.h"
 #include "editing/ZelkEditors.h"
-#include "frame/Messages.h"
 
 #include <wx/grid.h>
 

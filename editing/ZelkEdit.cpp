@@ -3,10 +3,11 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
+#include "commands/OpenEditor.h"
+#include "commands/StatusOutcome.h"
 #include "editing/MemoryNumbers.h"
 #include "editing/ReplacedCells.h"
 #include "editing/ZelkEditors.h"
-#include "frame/Messages.h"
 #include "frame/ZelkMain.h"
 
 #include <algorithm>

@@ -2,6 +2,7 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "commands/OpenEditor.h"
 #include "files/CsvFields.h"
 #include "files/CsvWriter.h"
 #include "frame/ZelkMain.h"

@@ -1,6 +1,7 @@
 #include "files/ZelkFile_ImportExport.h"
 
 #include "catalogue/PageModel.h"
+#include "commands/OpenEditor.h"
 #include "editing/ZelkEditors.h"
 #include "files/CsvImport.h"
 #include "files/FilePatterns.h"

@@ -2,6 +2,8 @@
 
 #include "catalogue/PageCreation.h"
 #include "catalogue/ZoneSlots.h"
+#include "commands/OpenEditor.h"
+#include "commands/StatusOutcome.h"
 #include "editing/RowLooks.h"
 #include "editing/ZelkEditors.h"
 #include "files/ChannelFileReader.h"
@@ -10,7 +12,6 @@
 #include "files/SaveOutcome.h"
 #include "files/WholeFile.h"
 #include "files/XmlFile.h"
-#include "frame/Messages.h"
 #include "frame/PageLifecycle.h"
 #include "frame/ZelkMain.h"
 

@@ -2,9 +2,10 @@
 
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
+#include "commands/FocusKeeper.h"
+#include "commands/OpenEditor.h"
+#include "commands/StatusOutcome.h"
 #include "files/PrintLayout.h"
-#include "frame/FocusKeeper.h"
-#include "frame/Messages.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/dc.h>

@@ -2,8 +2,10 @@
 
 #include "catalogue/PageCreation.h"
 #include "catalogue/ZoneSlots.h"
+#include "commands/ErrorBox.h"
+#include "commands/OpenEditor.h"
+#include "commands/StatusOutcome.h"
 #include "editing/ZelkEditors.h"
-#include "frame/Messages.h"
 #include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
 

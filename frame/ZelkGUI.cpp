@@ -1,9 +1,9 @@
 #include "frame/ZelkGUI.h"
 
 #include "catalogue/PageCreation.h"
+#include "commands/StatusOutcome.h"
 #include "files/ZelkPrinting.h"
 #include "frame/CommandTables.h"
-#include "frame/Messages.h"
 #include "transfer/TransferStatus.h"
 #include "transfer/wxAsyncSerial.h"
 

@@ -70,7 +70,3 @@ public:
     /// Reads the files of other programs.
     std::unique_ptr<FileImporter> m_importer;
 };
-
-/// Takes the text of an open cell editor of the current page into its cell and closes the
-/// editor, so that a command works on what the user sees.
-void CommitOpenEditor();

@@ -2,8 +2,8 @@
 #include "tools/GuideScenes.h"
 
 #include "catalogue/PageModel.h"
+#include "commands/CommandIds.h"
 #include "files/ZelkFile_OpenSave.h"
-#include "frame/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
 #include "tests/support/robot/OpenDialogs.h"

@@ -1,6 +1,6 @@
 // The scenes of transfers with simulated radios.
 #include "catalogue/PageModel.h"
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"

@@ -1,9 +1,10 @@
 #include "transfer/ZelkTransfer.h"
 
 #include "catalogue/PageModel.h"
+#include "commands/FocusKeeper.h"
+#include "commands/OpenEditor.h"
 #include "editing/ZelkEditors.h"
 #include "files/ZelkFile_OpenSave.h"
-#include "frame/FocusKeeper.h"
 #include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
 #include "transfer/AnalogDriver.h"

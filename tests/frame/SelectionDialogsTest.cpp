@@ -1,8 +1,7 @@
 // The dialogs for radio, band and port.
 #include "tests/support/ZelkWindowTest.h"
 
-#include "frame/CommandIds.h"
-#include "frame/Messages.h"
+#include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/SerialPorts.h"
 #include "tests/frame/FrameTools.h"

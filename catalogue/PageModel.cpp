@@ -1,7 +1,6 @@
 #include "catalogue/PageModel.h"
 
 #include "catalogue/TextNumbers.h"
-#include "catalogue/ZoneSlots.h"
 
 #include <wx/grid.h>
 
@@ -112,22 +111,6 @@ void TakePaintOff(wxGrid* grid, int row, int col) {
     const wxGridCellAttrPtr own = grid->GetTable()->GetAttrPtr(row, col, wxGridCellAttr::Cell);
     if (own && own->HasBackgroundColour() && own->GetBackgroundColour() == FailColour)
         grid->SetCellBackgroundColour(row, col, grid->GetCellBackgroundColour(0, 0));
-}
-
-void ClearRowData(int row, bool releaseZone) {
-    wxGrid* grid = CurrentGrid();
-    if (releaseZone) {
-        const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
-        if (number >= 1 && number <= CurrentParameters().Rows)
-            ReleaseP25ZonePosition(FindZone(grid->GetCellValue(number, ZONE)));
-    }
-    for (int col = 0; col < ColumnTotal; ++col) {
-        grid->SetCellValue(row, col, "");
-        TakePaintOff(grid, row, col);
-        // The mark on SHAD stays: no one types into that column, whatever the row is.
-        if (col != SHAD && grid->IsReadOnly(row, col))
-            grid->SetReadOnly(row, col, false);
-    }
 }
 
 namespace {

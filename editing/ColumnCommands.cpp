@@ -1,7 +1,7 @@
 // The commands of the column and corner context menus, and of row label 000.
 #include "editing/ColumnCommands.h"
 
-#include "catalogue/PageCreation.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "commands/CommandQuestions.h"

@@ -1,7 +1,7 @@
 // The commands of the row context menu.
 #include "editing/RowCommands.h"
 
-#include "catalogue/PageCreation.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "commands/CommandQuestions.h"

@@ -1,6 +1,7 @@
 #include "editing/Shadows.h"
 
 #include "catalogue/PageModel.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/TextNumbers.h"
 
 #include <wx/grid.h>

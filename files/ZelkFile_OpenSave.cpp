@@ -1,6 +1,7 @@
 #include "files/ZelkFile_OpenSave.h"
 
-#include "catalogue/PageCreation.h"
+#include "catalogue/GridShape.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/ZoneSlots.h"
 #include "commands/OpenEditor.h"
 #include "commands/StatusOutcome.h"

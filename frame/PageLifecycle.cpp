@@ -1,6 +1,8 @@
 #include "frame/PageLifecycle.h"
 
+#include "catalogue/GridShape.h"
 #include "catalogue/PageCreation.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/ZoneSlots.h"
 #include "commands/ErrorBox.h"
 #include "commands/OpenEditor.h"
@@ -14,21 +16,6 @@
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
-
-void FitGridToTarget(int oldRadio, int oldBandIndex) {
-    const int oldRows = RadioCatalogue::RadioRows[oldRadio][oldBandIndex];
-    const int newRows = CurrentParameters().Rows;
-    wxGrid* grid = CurrentGrid();
-    wxGridUpdateLocker quiet(grid);
-    if (newRows > oldRows) {
-        grid->AppendRows(newRows - oldRows);
-        SetGridRowLabels(grid, newRows);
-    } else if (newRows < oldRows) {
-        // Meant: the former last row stays, as the new last one.
-        grid->DeleteRows(newRows, oldRows - newRows);
-    }
-    SetGridColumns(grid, CurrentParameters().Type);
-}
 
 void AdjustEditGrid(OrvZELFrame*, int oldRadio, int oldBandIndex) {
     wxGridUpdateLocker quiet(CurrentGrid());

@@ -1,6 +1,7 @@
 #include "frame/TargetSelection.h"
 
 #include "catalogue/PageCreation.h"
+#include "catalogue/RowFilling.h"
 #include "commands/ErrorBox.h"
 #include "commands/OpenEditor.h"
 #include "commands/StatusOutcome.h"

@@ -1,7 +1,9 @@
 // A test with the program's main window, made afresh for each test.
 #pragma once
 
+#include "catalogue/GridShape.h"
 #include "catalogue/PageCreation.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/ZelkEditors.h"
 #include "frame/TargetSelection.h"

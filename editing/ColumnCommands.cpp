@@ -178,20 +178,6 @@ void ZelkFrame::OnLoadDefault(wxCommandEvent&) {
     TellUnimplemented("Load Radio Default Data");
 }
 
-void ZelkFrame::OnClearHighlight(wxCommandEvent&) {
-    CommitOpenEditor();
-    wxGrid* grid = CurrentGrid();
-    wxGridUpdateLocker quiet(grid);
-    const wxColour plain = grid->GetCellBackgroundColour(0, 0);
-    // Meant: hidden columns keep their marks.
-    for (int row = 0; row <= CurrentParameters().Rows; ++row)
-        for (int col = 0; col < ColumnTotal; ++col)
-            if (RadioCatalogue::ColumnWidth[CurrentParameters().Type][col] != 0)
-                grid->SetCellBackgroundColour(row, col, plain);
-    CurrentParameters().Flags &= ~PageHasMarks;
-    grid->ForceRefresh();
-}
-
 void TellCopyIsMissing() {
     wxMessageBox("Copy selection to clipboard.\n\nNot implemented yet.", "Copy", wxOK | wxCENTRE);
 }

@@ -39,9 +39,9 @@ public:
     void OnPageChanging(wxBookCtrlEvent&) override {}
     void OnPageAdd(wxCommandEvent& event) override;
     void OnPageDelete(wxCommandEvent& event) override;
-    void OnGridCellChanging(wxGridEvent& event) override;
 
     // editing/
+    void OnGridCellChanging(wxGridEvent& event) override;
     void OnValidatePage(wxCommandEvent& event) override;
     void OnSelectAll(wxCommandEvent& event) override;
     void OnDeSelectAll(wxCommandEvent& event) override;

@@ -3,6 +3,7 @@
 
 #include "catalogue/PageModel.h"
 #include "commands/CommandIds.h"
+#include "editing/PageReset.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"

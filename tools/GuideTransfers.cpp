@@ -2,7 +2,6 @@
 #include "catalogue/PageModel.h"
 #include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
-#include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
 #include "tests/support/robot/OpenDialogs.h"
 #include "tests/support/robot/Process.h"

@@ -2,6 +2,7 @@
 // cell.
 #include "tests/editing/ZoneWork.h"
 #include "commands/OpenEditor.h"
+#include "editing/PageReset.h"
 
 #include "catalogue/TextNumbers.h"
 #include "commands/CommandIds.h"

@@ -3,6 +3,7 @@
 
 #include "catalogue/TextNumbers.h"
 #include "commands/CommandIds.h"
+#include "editing/PageReset.h"
 #include "files/XmlFile.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "tests/support/Modals.h"

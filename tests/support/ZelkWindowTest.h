@@ -6,8 +6,8 @@
 #include "catalogue/RowFilling.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/ZelkEditors.h"
-#include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
+#include "transfer/ChosenPort.h"
 
 #include <gtest/gtest.h>
 

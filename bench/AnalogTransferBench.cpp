@@ -3,7 +3,6 @@
 #include "bench/FullPage.h"
 #include "bench/PacedRadio.h"
 #include "catalogue/PageModel.h"
-#include "files/ZelkFile_OpenSave.h"
 #include "frame/ZelkMain.h"
 #include "transfer/AnalogDriver.h"
 #include "transfer/TransferContext.h"

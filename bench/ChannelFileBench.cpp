@@ -3,6 +3,7 @@
 #include "bench/FullPage.h"
 #include "bench/ToolkitFloor.h"
 #include "catalogue/PageModel.h"
+#include "editing/PageReset.h"
 #include "files/XmlFile.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/ZelkMain.h"

@@ -3,7 +3,7 @@
 #include "bench/FullPage.h"
 #include "bench/PacedRadio.h"
 #include "catalogue/PageModel.h"
-#include "files/ZelkFile_OpenSave.h"
+#include "editing/PageReset.h"
 #include "frame/ZelkMain.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecordDriver.h"

@@ -1,6 +1,7 @@
 #include "bench/FullPage.h"
 
 #include "catalogue/PageCreation.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/ZoneSlots.h"
 #include "frame/ZelkMain.h"
 

@@ -2,7 +2,6 @@
 
 #include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
-#include "catalogue/ZoneSlots.h"
 
 #include <wx/grid.h>
 
@@ -112,22 +111,6 @@ void SetGuardRows(OrvZELFrame*, int page, int rows) {
 void TakePaintOff(wxGrid* grid, int row, int col) {
     if (TableOf(grid).LookOf(row, col).paint == FailColour)
         PaintCell(grid, row, col, grid->GetCellBackgroundColour(0, 0));
-}
-
-void ClearRowData(int row, bool releaseZone) {
-    wxGrid* grid = CurrentGrid();
-    if (releaseZone) {
-        const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
-        if (number >= 1 && number <= CurrentParameters().Rows)
-            ReleaseP25ZonePosition(FindZone(grid->GetCellValue(number, ZONE)));
-    }
-    for (int col = 0; col < ColumnTotal; ++col) {
-        grid->SetCellValue(row, col, "");
-        TakePaintOff(grid, row, col);
-        // The mark on SHAD stays: no one types into that column, whatever the row is.
-        if (col != SHAD)
-            LockCell(grid, row, col, false);
-    }
 }
 
 namespace {

@@ -105,12 +105,6 @@ void SetGuardRows(OrvZELFrame* frame, int page, int rows);
 /// stays.
 void TakePaintOff(wxGrid* grid, int row, int col);
 
-/// Empties a row of the current page, takes the paint of repairs off it and makes its read-only cells
-/// writable, SHAD excepted.
-/// With releaseZone the zone of the row that MNUM names is given back; a row without a number
-/// in 1 to Rows gives nothing back.
-void ClearRowData(int row, bool releaseZone);
-
 /// Keeps the cells of both guard rows of the current page.
 void SaveGuardRows(OrvZELFrame* frame);
 

@@ -4,13 +4,13 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
-#include "catalogue/ZoneSlots.h"
+#include "catalogue/ZoneDealing.h"
+#include "commands/ErrorBox.h"
 #include "editing/CellChecks.h"
 #include "editing/FrequencyRules.h"
 #include "editing/MemoryNumbers.h"
 #include "editing/ReplacedCells.h"
-#include "editing/ZelkEditors.h"
-#include "frame/Messages.h"
+#include "editing/ScanListCell.h"
 
 #include <wx/grid.h>
 
@@ -167,44 +167,9 @@ void CheckScan(wxGrid* grid, int row, const wxString& text) {
         Repair(grid, row, SCAN);
 }
 
-namespace {
-
-/// The zone index that a row is to have. The rows behind the ordinary memories, which are the
-/// guard rows, belong to the last zone of their generation.
-int WantedZone(int type, int row, const wxString& text) {
-    if (type == RP25 && row > RP25Memories)
-        return RP25GuardZone;
-    if (type == NP25 && row > NP25Memories)
-        return NP25GuardZone;
-    const int firstFree = FirstFreeZone();
-    const int named = FindZone(text);
-    return named != wxNOT_FOUND && named >= firstFree ? named : firstFree;
-}
-
-} // namespace
-
 void CheckZone(wxGrid* grid, int row, wxString text) {
-    const int type = CurrentParameters().Type;
-    if (!IsP25Type(type)) {
-        grid->SetCellValue(row, ZONE, wxString());
-        return;
-    }
-    if (row != 0) {
-        const int transferFlags = TransferFlags(grid, row);
-        if (transferFlags & ZoneTakenFlag)
-            return;
-        const int wanted = WantedZone(type, row, text);
-        if (IsShadow(grid, row)) {
-            text.clear();
-        } else if (TakeP25ZonePosition(wanted)) {
-            if (!text.empty() && text != GetZoneName(wanted) && !IsGuardRow(row))
-                ReplacedCells::Note(row, ZONE);
-            text = GetZoneName(wanted);
-        }
-        // Meant: the flag is set also when the zone was full and the row got no slot.
-        grid->SetCellValue(row, TFLG, FlagText(transferFlags | ZoneTakenFlag));
-    }
-    grid->SetCellValue(row, ZONE, text);
+    if (DealZone(grid, row, text))
+        ReplacedCells::Note(row, ZONE);
 }
 
 void CheckDesc(wxGrid* grid, int row, const wxString& text) {

@@ -43,10 +43,7 @@ int CheckBand(wxGrid* grid, int row, const wxString& text);
 /// default row's text, unpainted.
 void CheckScan(wxGrid* grid, int row, const wxString& text);
 
-/// Gives a P25 row of the current page its zone slot and writes ZONE and TFLG. text is the zone
-/// wished for; a zone that is unknown or has less room than the first free one gives that one. A
-/// row that holds a slot (ZoneTakenFlag) stays as it is, a shadow row gets an empty ZONE and no
-/// slot. On other pages ZONE becomes empty.
+/// DealZone, and notes a zone that had to give way. text is the name of the zone wished for.
 void CheckZone(wxGrid* grid, int row, wxString text);
 
 /// Description as DescriptionText gives it.

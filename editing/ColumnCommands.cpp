@@ -1,12 +1,12 @@
 // The commands of the column and corner context menus, and of row label 000.
 #include "editing/ColumnCommands.h"
 
-#include "catalogue/PageCreation.h"
-#include "catalogue/PageTable.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
+#include "commands/CommandQuestions.h"
+#include "commands/OpenEditor.h"
 #include "editing/ChoiceCells.h"
-#include "editing/CommandQuestions.h"
 #include "editing/RowCommands.h"
 #include "editing/RowLooks.h"
 #include "editing/ScanLock.h"
@@ -176,20 +176,6 @@ void ZelkFrame::OnSaveDefault(wxCommandEvent&) {
 
 void ZelkFrame::OnLoadDefault(wxCommandEvent&) {
     TellUnimplemented("Load Radio Default Data");
-}
-
-void ZelkFrame::OnClearHighlight(wxCommandEvent&) {
-    CommitOpenEditor();
-    wxGrid* grid = CurrentGrid();
-    wxGridUpdateLocker quiet(grid);
-    const wxColour plain = grid->GetCellBackgroundColour(0, 0);
-    // Meant: hidden columns keep their marks.
-    for (int row = 0; row <= CurrentParameters().Rows; ++row)
-        for (int col = 0; col < ColumnTotal; ++col)
-            if (RadioCatalogue::ColumnWidth[CurrentParameters().Type][col] != 0)
-                PaintCell(grid, row, col, plain);
-    CurrentParameters().Flags &= ~PageHasMarks;
-    grid->ForceRefresh();
 }
 
 void TellCopyIsMissing() {

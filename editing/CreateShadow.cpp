@@ -1,5 +1,6 @@
 // The command that gives a P25 memory a shadow.
 #include "catalogue/TextNumbers.h"
+#include "commands/OpenEditor.h"
 #include "editing/MemoryNumbers.h"
 #include "editing/RowCommands.h"
 #include "editing/ShadowDialog.h"

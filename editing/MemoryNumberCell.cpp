@@ -3,9 +3,9 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
+#include "commands/ErrorBox.h"
 #include "editing/MemoryNumbers.h"
 #include "editing/Shadows.h"
-#include "frame/Messages.h"
 
 #include <wx/msgdlg.h>
 #include <wx/spinctrl.h>

@@ -1,5 +1,6 @@
 // The command that pastes the copied row.
-#include "editing/CommandQuestions.h"
+#include "commands/CommandQuestions.h"
+#include "commands/OpenEditor.h"
 #include "editing/MemoryNumbers.h"
 #include "editing/MissingCells.h"
 #include "editing/RowCommands.h"

@@ -1,11 +1,12 @@
 // The commands of the row context menu.
 #include "editing/RowCommands.h"
 
-#include "catalogue/PageCreation.h"
 #include "catalogue/PageTable.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
-#include "editing/CommandQuestions.h"
+#include "commands/CommandQuestions.h"
+#include "commands/OpenEditor.h"
 #include "editing/Shadows.h"
 #include "editing/ZelkEditors.h"
 #include "frame/ZelkMain.h"

@@ -2,6 +2,7 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/TextNumbers.h"
 
 #include <wx/grid.h>

@@ -4,15 +4,11 @@
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/MemoryNumbers.h"
-#include "editing/ReplacedCells.h"
 #include "editing/ZelkEditors.h"
-#include "frame/Messages.h"
-#include "frame/ZelkMain.h"
 
 #include <algorithm>
 
 #include <wx/grid.h>
-#include <wx/msgdlg.h>
 
 using namespace RadioCatalogue;
 
@@ -112,12 +108,4 @@ void CheckPage() {
     MemoryNumberIndex numbers(rows);
     for (int row = 1; row <= rows; ++row)
         CheckRow(grid, row, numbers);
-}
-
-void ZelkFrame::OnValidatePage(wxCommandEvent&) {
-    CommitOpenEditor();
-    wxMessageBox("Validate row data", "Validate Page", wxOK | wxCENTRE);
-    const ReplacedCells replaced;
-    CheckPage();
-    TellOutcome(replaced.Count() == 0 ? wxString("No cell replaced") : replaced.Text(), replaced.Story());
 }

@@ -4,11 +4,8 @@
 #include "catalogue/TextNumbers.h"
 #include "files/CsvFields.h"
 #include "files/CsvWriter.h"
-#include "frame/ZelkMain.h"
 
-#include <wx/filedlg.h>
 #include <wx/grid.h>
-#include <wx/msgdlg.h>
 #include <wx/textbuf.h>
 
 #include <vector>
@@ -46,22 +43,11 @@ std::vector<int> RowsToList(const wxGrid* grid, int type) {
     return rows;
 }
 
-/// Only whole rows count as selected.
+} // namespace
+
 bool HasRowsToList(const wxGrid* grid, int type) {
     return !grid->GetSelectedRows().empty() && !RowsToList(grid, type).empty();
 }
-
-/// Asks where the list is to go. Empty when the user cancelled.
-wxString AskForExportFile(wxWindow* parent) {
-    const wxString every = wxFileSelectorDefaultWildcardStr;
-    wxFileDialog dialog(parent, "Export CSV file", "", PageStrings[CurrentPage].RadioName + ".csv",
-                        wxString::Format("CSV files (*.csv)|*.csv|All files (%s)|%s", every, every),
-                        wxFD_SAVE | wxFD_OVERWRITE_PROMPT | wxFD_CHANGE_DIR);
-    dialog.CentreOnScreen();
-    return dialog.ShowModal() == wxID_OK ? dialog.GetPath() : wxString();
-}
-
-} // namespace
 
 bool CsvExport::OpenCsvWrite(const wxString& path, int type) {
     const int flags = TransferFlags(CurrentGrid(), 1);
@@ -104,31 +90,4 @@ void CsvExport::ExportCSV_KDAR(wxGrid* grid, int) {
 
 bool CsvExport::CloseCsv() {
     return !m_file.IsOpened() || !m_file.Finish(InSystemLineEnds(m_text));
-}
-
-void ZelkFrame::OnExport(wxCommandEvent& event) {
-    CommitOpenEditor();
-    wxGrid* grid = CurrentGrid();
-    const int type = CurrentParameters().Type;
-    if (!HasRowsToList(grid, type)) {
-        wxMessageBox("No data selected!", "Export CSV - Error!", wxOK | wxCENTRE | wxICON_ERROR);
-        return;
-    }
-    const wxString path = AskForExportFile(this);
-    if (path.empty())
-        return;
-    CsvExport list;
-    bool written = list.OpenCsvWrite(path, type);
-    if (written) {
-        if (type == KDAR)
-            list.ExportCSV_KDAR(grid, type);
-        else
-            list.ExportCSV(grid, type);
-        written = list.CloseCsv();
-    }
-    if (!written) {
-        wxMessageBox("Unable to write to selected File", "Export file", wxOK | wxCENTRE | wxICON_ERROR);
-        return;
-    }
-    event.Skip();
 }

@@ -8,6 +8,9 @@
 class wxArrayString;
 class wxGrid;
 
+/// Whether whole rows of the grid, the current page's, are selected that a list of the radio type can hold.
+bool HasRowsToList(const wxGrid* grid, int type);
+
 /// One list on its way into a file. The file takes its place when the list is closed; until then a
 /// former one stands.
 class CsvExport {

@@ -1,6 +1,6 @@
 #include "files/CsvImport.h"
 
-#include "catalogue/PageCreation.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/MemoryNumbers.h"

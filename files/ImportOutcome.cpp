@@ -1,7 +1,7 @@
 #include "files/ImportOutcome.h"
 
 #include "catalogue/TextNumbers.h"
-#include "frame/Messages.h"
+#include "commands/StatusOutcome.h"
 
 #include <wx/grid.h>
 

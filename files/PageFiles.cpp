@@ -1,9 +1,9 @@
 #include "files/PageFiles.h"
 
 #include "catalogue/PageModel.h"
-#include "frame/ZelkMain.h"
 
 #include <wx/filename.h>
+#include <wx/grid.h>
 #include <wx/msgdlg.h>
 
 #include <algorithm>
@@ -23,7 +23,7 @@ bool MayReplaceFile(int page, const wxString& path) {
     if (!wxFileName::FileExists(path) || IsOwnFile(page, path))
         return true;
     wxMessageDialog question(
-        MainFrame,
+        wxGetTopLevelParent(PageGrid[page]),
         wxString::Format("%s exists and was not opened on this page!", wxFileName(path).GetFullName()),
         "Replace file?", wxOK | wxCANCEL);
     return question.ShowModal() == wxID_OK;

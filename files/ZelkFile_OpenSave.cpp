@@ -1,17 +1,16 @@
 #include "files/ZelkFile_OpenSave.h"
 
-#include "catalogue/PageCreation.h"
-#include "catalogue/ZoneSlots.h"
+#include "catalogue/GridShape.h"
+#include "catalogue/RowFilling.h"
+#include "commands/StatusOutcome.h"
+#include "editing/PageReset.h"
 #include "editing/RowLooks.h"
-#include "editing/ZelkEditors.h"
 #include "files/ChannelFileReader.h"
 #include "files/ChannelFileWriter.h"
 #include "files/PageFiles.h"
 #include "files/SaveOutcome.h"
 #include "files/WholeFile.h"
 #include "files/XmlFile.h"
-#include "frame/Messages.h"
-#include "frame/PageLifecycle.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/filedlg.h>
@@ -27,14 +26,9 @@
 
 namespace {
 
-void EmptyRow(wxGrid* grid, int row) {
-    for (int col = 0; col < ColumnTotal; ++col)
-        grid->SetCellValue(row, col, "");
-}
-
 /// The page holds its default row and nothing else.
 void WriteDefaultRow(int page) {
-    SetPageDefaults(MainFrame, page);
+    SetPageDefaults(nullptr, page);
     EmptyDefaultMemories(page);
 }
 
@@ -105,35 +99,7 @@ void MakeUserFolder() {
         wxFileName::Mkdir(folder, 0777, wxPATH_MKDIR_FULL);
 }
 
-void SaveCurrentPage(bool saveAs) {
-    CommitOpenEditor();
-    if (CountRowsWithData(CurrentPage) == 0) {
-        wxMessageBox("Empty Grid - No data to Save", "Error", wxOK | wxCENTRE | wxICON_ERROR);
-        return;
-    }
-    SaveZelkFile(CurrentPage, saveAs);
-}
-
 } // namespace
-
-void EmptyDefaultMemories(int page) {
-    if (!RadioCatalogue::IsP25Type(PageParameters[page].Type))
-        return;
-    for (int row : {1, GD1, GD2})
-        if (row >= 0)
-            EmptyRow(PageGrid[page], row);
-    ClearZoneSlots(page);
-}
-
-void ResetPage(int page) {
-    wxGrid* grid = PageGrid[page];
-    wxGridUpdateLocker quiet(grid);
-    grid->ClearGrid();
-    PageParameters[page].Flags = 0;
-    ForgetLooksOfRows(grid);
-    SetPageDefaults(MainFrame, page);
-    ClearZoneSlots(page);
-}
 
 int OpenZelkFile(const wxXmlDocument& document, int page) {
     wxGrid* grid = PageGrid[page];
@@ -195,27 +161,4 @@ void SaveZelkFile(int page, bool saveAs) {
     const Outcome outcome = result.error ? NotSavedOutcome(path, result.error, result.damaged)
                                          : SavedOutcome(file.name + ".zelk", leftOut);
     TellOutcome(outcome.verdict, outcome.story);
-}
-
-void ZelkFrame::OnOpen(wxCommandEvent&) {
-    CommitOpenEditor();
-    wxMessageDialog question(nullptr, "This will overwrite all data on this page! Continue?", "Open File?",
-                             wxOK | wxCANCEL);
-    if (question.ShowModal() != wxID_OK)
-        return;
-    const PageStringRecord& strings = PageStrings[CurrentPage];
-    wxFileDialog dialog(this, "Select Zelk file",
-                        strings.FileDir.empty() ? PageStrings[0].FileDir : strings.FileDir, "",
-                        "Zelk files|*.zelk|All files|*.*", wxFD_OPEN);
-    if (dialog.ShowModal() != wxID_OK)
-        return;
-    OpenChannelFile(dialog.GetPath());
-}
-
-void ZelkFrame::OnSave(wxCommandEvent&) {
-    SaveCurrentPage(false);
-}
-
-void ZelkFrame::OnSaveAs(wxCommandEvent&) {
-    SaveCurrentPage(true);
 }

@@ -3,17 +3,9 @@
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
 #include "files/PrintLayout.h"
-#include "frame/FocusKeeper.h"
-#include "frame/Messages.h"
-#include "frame/ZelkMain.h"
 
 #include <wx/dc.h>
-#include <wx/generic/prntdlgg.h>
 #include <wx/grid.h>
-#include <wx/log.h>
-#include <wx/printdlg.h>
-#include <wx/utils.h>
-#include <wx/weakref.h>
 
 #include <algorithm>
 
@@ -91,27 +83,6 @@ PageMargins MarginsInMillimetres() {
 /// A point of the device in coordinates of the scale.
 wxPoint Unscaled(int x, int y, double scale) {
     return {static_cast<int>(x / scale), static_cast<int>(y / scale)};
-}
-
-/// Keeps all commands away while it lives, and gives the keyboard back: sheets are drawn between events,
-/// and neither grid nor printout may go before the last one.
-class CommandsOff {
-    const FocusKeeper m_focus; // first: a disabled window can't have it
-    const wxWindowDisabler m_disabler;
-};
-
-/// A preview that can't be closed while it prints.
-class SteadyPreview : public wxPrintPreview {
-public:
-    using wxPrintPreview::wxPrintPreview;
-    bool Print(bool interactive) override {
-        const CommandsOff quiet;
-        return wxPrintPreview::Print(interactive);
-    }
-};
-
-std::unique_ptr<ZelkPrintout> MakePrintout(ZelkFrame* frame) {
-    return std::make_unique<ZelkPrintout>(frame, CurrentGrid(), PageStrings[CurrentPage].RadioName);
 }
 
 } // namespace
@@ -216,50 +187,4 @@ void ZelkPrintout::DrawHeading(wxDC& dc, double scale, int page) const {
     dc.DrawText(pageText, right.x - text.x, right.y);
     dc.SetPen(*wxBLACK_PEN);
     dc.DrawLine(left.x, left.y + text.y, right.x, right.y + text.y);
-}
-
-void ZelkFrame::OnPrint(wxCommandEvent&) {
-    CommitOpenEditor();
-    wxPrintDialogData dialogData(*PrintData);
-    wxPrinter printer(&dialogData);
-    const std::unique_ptr<ZelkPrintout> printout = MakePrintout(this);
-    const CommandsOff quiet;
-    wxString outcome;
-    if (printer.Print(this, printout.get(), true))
-        *PrintData = printer.GetPrintDialogData().GetPrintData();
-    else if (wxPrinter::GetLastError() == wxPRINTER_ERROR)
-        outcome = "There was a problem printing. Perhaps your current printer is not set correctly?";
-    // The log is off in the program: who printed reads the status bar.
-    if (!outcome.empty())
-        wxLogMessage("%s", outcome);
-    TellOutcome(outcome.empty() ? wxString() : wxString("There was a problem printing."), outcome);
-}
-
-// Meant: nothing asks whether the preview is usable.
-void ZelkFrame::OnPrintPreview(wxCommandEvent&) {
-    CommitOpenEditor();
-    wxPrintDialogData dialogData(*PrintData);
-    auto* preview =
-        new SteadyPreview(MakePrintout(this).release(), MakePrintout(this).release(), &dialogData);
-    auto* frame = new wxPreviewFrame(preview, this, "Print Preview", wxDefaultPosition, wxDefaultSize,
-                                     wxDEFAULT_FRAME_STYLE | wxFRAME_FLOAT_ON_PARENT);
-    // The preview takes the keyboard and gives it back.
-    frame->Bind(wxEVT_DESTROY, [frame, focus = wxWindowRef(FindFocus())](wxWindowDestroyEvent& event) {
-        event.Skip();
-        if (event.GetWindow() == frame && focus && !frame->GetParent()->IsBeingDeleted())
-            focus->SetFocus();
-    });
-    frame->Initialize();
-    frame->CentreOnScreen();
-    frame->Show();
-    // Else a window manager may leave the keyboard with the main window, which takes no keys now.
-    frame->Raise();
-}
-
-void ZelkFrame::OnPageSetup(wxCommandEvent&) {
-    wxGenericPageSetupDialog dialog(this, PageSetupData.get());
-    dialog.ShowModal();
-    // Meant: whatever button closed it.
-    *PrintData = dialog.GetPageSetupDialogData().GetPrintData();
-    *PageSetupData = dialog.GetPageSetupDialogData();
 }

@@ -1,7 +1,7 @@
 // Menus, context menu and tool bar as tables. House for their labels and help strings.
 #pragma once
 
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 #include "resources/ToolImages.h"
 
 /// An entry of a menu; an entry without a label is a separator.

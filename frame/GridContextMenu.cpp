@@ -1,5 +1,6 @@
 // The context menu of the grids, made afresh for the place of each click.
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
+#include "commands/OpenEditor.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/menu.h>

@@ -2,7 +2,7 @@
 
 #include "catalogue/PageModel.h"
 #include "frame/SerialPorts.h"
-#include "frame/TargetSelection.h"
+#include "transfer/ChosenPort.h"
 
 #include <wx/button.h>
 #include <wx/event.h>

@@ -1,10 +1,10 @@
 // The three small dialogs that ask for port, radio and band.
 #pragma once
 
+#include <wx/arrstr.h>
 #include <wx/choice.h>
 #include <wx/dialog.h>
 
-class wxArrayString;
 class wxUpdateUIEvent;
 
 /// The choices of the dialogs. A pointer stays set when its dialog is gone: it is good only while
@@ -12,6 +12,11 @@ class wxUpdateUIEvent;
 extern wxChoice* PortChoice;
 extern wxChoice* RadioChoice;
 extern wxChoice* BandChoice;
+
+/// The choices of PortDialog while it lives.
+extern wxArrayString PortList;
+/// The choices of BandDialog while it lives.
+extern wxArrayString BandList;
 
 /// A label with a choice, and OK and Cancel under it. OK can be pressed only while something is
 /// chosen.

@@ -1,23 +1,15 @@
 #include "frame/TargetSelection.h"
 
+#include "catalogue/GridShape.h"
 #include "catalogue/PageCreation.h"
-#include "editing/MemoryNumbers.h"
-#include "editing/MissingCells.h"
-#include "editing/ReplacedCells.h"
-#include "editing/RowLooks.h"
-#include "editing/ZelkEdit.h"
+#include "commands/ErrorBox.h"
 #include "editing/ZelkEditors.h"
-#include "frame/Messages.h"
-#include "frame/PageLifecycle.h"
 #include "frame/SelectionDialogs.h"
-#include "frame/ZelkMain.h"
+#include "frame/ZelkGUI.h"
 
 #include <wx/grid.h>
-#include <wx/msgdlg.h>
 
 using namespace RadioCatalogue;
-
-wxString PortName = "none";
 
 namespace {
 
@@ -53,129 +45,15 @@ int UserSelectRadioAndBand(OrvZELFrame* frame, int page) {
     return 0;
 }
 
-void ZelkFrame::OnSetPort(wxCommandEvent&) {
-    PortDialog dialog(this, "<-- Select Serial Port -->");
-    if (dialog.ShowModal() == wxID_OK) {
-        PortName = dialog.GetValue();
-        SetStatusText(PortName, 4);
-    }
-    PortList.clear();
-}
-
-namespace {
-
-/// What a change of target has to know of the page as it was.
-struct FormerPage {
-    PageParameterRecord parameters = CurrentParameters();
-    bool p25 = CurrentPageIsP25();
-    bool hadGuards = HasGuardRows(CurrentPage);
-    int guards[2] = {GD1, GD2};
-    bool guardUsed[2] = {hadGuards && RowHasData(GD1), hadGuards&& RowHasData(GD2)};
-
-    bool GuardsUsed() const { return guardUsed[0] || guardUsed[1]; }
-    bool IsOfOtherTarget() const {
-        return parameters.Radio != CurrentParameters().Radio ||
-               parameters.BandIndex != CurrentParameters().BandIndex;
-    }
-};
-
-int CountMemories() {
-    int count = 0;
-    for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
-        count += RowHasData(row);
-    return count;
-}
-
-/// How many used guard rows of the former target come back without taking another memory's row.
-int CountGuardsThatComeBack(const FormerPage& former) {
-    if (!HasGuardRows(CurrentPage))
-        return 0;
-    return (former.guardUsed[0] && !RowHasData(GD1)) + (former.guardUsed[1] && !RowHasData(GD2));
-}
-
-/// Grid, default row and guard rows become those of the new target. Gives the number of memories that find no
-/// row in it.
-int MovePage(OrvZELFrame* frame, const FormerPage& former) {
-    const int memories = CountMemories();
-    if (former.hadGuards)
-        for (int row : former.guards)
-            ClearRowData(row, former.p25);
-    if (former.IsOfOtherTarget())
-        AdjustEditGrid(frame, former.parameters.Radio, former.parameters.BandIndex);
-    const int kept = CountMemories() + CountGuardsThatComeBack(former);
-    SetPageDefaults(frame, CurrentPage);
-    if (former.GuardsUsed() && HasGuardRows(CurrentPage))
-        RestoreGuardRows(frame, true);
-    return memories - kept;
-}
-
-/// Takes away read-only marks that the rules of the former type have left. Marks of linked rows stay where
-/// both types have links.
-void ForgetFormerLocks(const FormerPage& former) {
-    if (former.p25 && CurrentPageIsP25())
-        return;
-    MakeCellsWritable(CurrentGrid());
-}
-
-/// Makes the memories those of the new type: locks, numbers, cells that the former type had not, and at last
-/// whatever the checks find.
-void FitMemories(const FormerPage& former) {
-    wxGrid* grid = CurrentGrid();
-    ForgetFormerLocks(former);
-    MemoryNumberIndex numbers(CurrentParameters().Rows);
-    for (int row = 1; row <= CurrentParameters().Rows; ++row) {
-        if (!RowHasData(row))
-            continue;
-        ReplaceImpossibleNumber(grid, row, numbers);
-        FillMissingCells(grid, row);
-    }
-    CheckPage();
+void AdjustEditGrid(OrvZELFrame*, int oldRadio, int oldBandIndex) {
+    wxGridUpdateLocker quiet(CurrentGrid());
+    FitGridToTarget(oldRadio, oldBandIndex);
     SetPageEditors(CurrentPage);
+    CurrentGrid()->ForceRefresh();
 }
 
-wxString Joined(const wxString& first, const wxString& second, const wxString& between) {
-    return first.empty() || second.empty() ? first + second : first + between + second;
-}
-
-void TellTargetChange(int lost, const ReplacedCells& replaced) {
-    wxString verdict, story;
-    if (lost > 0) {
-        verdict.Printf(lost == 1 ? "%d row LOST" : "%d rows LOST", lost);
-        story.Printf(lost == 1 ? "%d row found no place in the smaller page"
-                               : "%d rows found no place in the smaller page",
-                     lost);
-    }
-    TellOutcome(Joined(verdict, replaced.Text(), ", "), Joined(story, replaced.Story(), "; "));
-}
-
-} // namespace
-
-void ZelkFrame::OnSetTarget(wxCommandEvent&) {
-    CommitOpenEditor();
-    wxMessageDialog question(this,
-                             "If there is data on this page,\nthis may result in invalid configuration!",
-                             "Change Target?", wxOK | wxCANCEL);
-    if (question.ShowModal() != wxID_OK)
-        return;
-
-    const FormerPage former;
-    if (former.GuardsUsed())
-        SaveGuardRows(this);
-    const int result = UserSelectRadioAndBand(this, CurrentPage);
-    if (result == ResultCancelled)
-        return;
-    if (result != 0) {
-        DisplayError(result, 0);
-        return;
-    }
-
-    const ReplacedCells replaced;
-    int lost = 0;
-    {
-        wxGridUpdateLocker quiet(CurrentGrid());
-        lost = MovePage(this, former);
-        UpdateStatus(this, CurrentPage);
-        FitMemories(former);
-    }
-    TellTargetChange(lost, replaced);
+void UpdatePage(OrvZELFrame* frame, int page, int oldRadio, int oldBandIndex) {
+    if (PageParameters[page].Radio != oldRadio || PageParameters[page].BandIndex != oldBandIndex)
+        AdjustEditGrid(frame, oldRadio, oldBandIndex);
+    UpdateStatus(frame, page);
 }

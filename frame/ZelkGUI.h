@@ -95,8 +95,6 @@ public:
     wxPanel* m_lastPanel = nullptr;
     std::array<wxPanel*, PageLimit> m_pagePanels{};
     wxStatusBar* m_statusBar = nullptr;
-    /// Whether the first status field holds an outcome that TellOutcome put there.
-    bool m_outcomeIsTold = false;
     /// Made at start-up; transfers make ports of their own.
     std::unique_ptr<wxAsyncSerial> m_serialPort;
 

@@ -1,11 +1,13 @@
 #include "frame/ZelkMain.h"
 
+#include "commands/StatusOutcome.h"
 #include "files/ZelkFile_ImportExport.h"
 
 #include <wx/statusbr.h>
 
 ZelkFrame::ZelkFrame(wxWindow* parent) : OrvZELFrame(parent), m_importer(std::make_unique<FileImporter>()) {
     m_statusBar->SetStatusText("Select function", 0);
+    ShowOutcomesIn(m_statusBar);
 }
 
 ZelkFrame::~ZelkFrame() = default;
@@ -17,9 +19,4 @@ void ZelkFrame::OnClose(wxCloseEvent&) {
 
 void ZelkFrame::OnQuit(wxCommandEvent&) {
     Destroy();
-}
-
-void CommitOpenEditor() {
-    if (wxGrid* grid = CurrentGrid())
-        grid->DisableCellEditControl();
 }

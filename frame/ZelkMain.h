@@ -39,9 +39,9 @@ public:
     void OnPageChanging(wxBookCtrlEvent&) override {}
     void OnPageAdd(wxCommandEvent& event) override;
     void OnPageDelete(wxCommandEvent& event) override;
-    void OnGridCellChanging(wxGridEvent& event) override;
 
     // editing/
+    void OnGridCellChanging(wxGridEvent& event) override;
     void OnValidatePage(wxCommandEvent& event) override;
     void OnSelectAll(wxCommandEvent& event) override;
     void OnDeSelectAll(wxCommandEvent& event) override;
@@ -70,7 +70,3 @@ public:
     /// Reads the files of other programs.
     std::unique_ptr<FileImporter> m_importer;
 };
-
-/// Takes the text of an open cell editor of the current page into its cell and closes the
-/// editor, so that a command works on what the user sees.
-void CommitOpenEditor();

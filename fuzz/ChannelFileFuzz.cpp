@@ -1,5 +1,6 @@
 // The channel file: what Open reads.
 #include "catalogue/PageModel.h"
+#include "editing/PageReset.h"
 #include "files/XmlFile.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "fuzz/FuzzWindow.h"

@@ -2,8 +2,8 @@
 
 #include "catalogue/PageCreation.h"
 #include "catalogue/ZoneSlots.h"
-#include "files/ZelkFile_OpenSave.h"
-#include "frame/PageLifecycle.h"
+#include "editing/PageReset.h"
+#include "frame/TargetSelection.h"
 #include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
 

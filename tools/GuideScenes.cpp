@@ -2,8 +2,9 @@
 #include "tools/GuideScenes.h"
 
 #include "catalogue/PageModel.h"
+#include "commands/CommandIds.h"
+#include "editing/PageReset.h"
 #include "files/ZelkFile_OpenSave.h"
-#include "frame/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
 #include "tests/support/robot/OpenDialogs.h"

@@ -1,8 +1,7 @@
 // The scenes of transfers with simulated radios.
 #include "catalogue/PageModel.h"
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
-#include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
 #include "tests/support/robot/OpenDialogs.h"
 #include "tests/support/robot/Process.h"

@@ -1,7 +1,7 @@
 // The memories of P25 radios, for the lists of channels.
 #pragma once
 
-#include "tools/ChannelList.h"
+#include "tools/Channel.h"
 
 #include <map>
 #include <string>
@@ -28,5 +28,12 @@ void AddP25Record(const std::string& line, ChannelList& channels);
 void LinkP25Shadows(ChannelList& channels);
 
 std::string Describe(const P25Facts& facts);
+
+/// The channels of a P25 page as the page shows them when the radio has sent them back: every code comes
+/// one place further down the list, and where that has an end, the default row's stands. The default row
+/// came from the radio too.
+///
+/// @param defaultCode the default row's code before it was sent; "023" on a new page
+ChannelList AsReadBack(ChannelList channels, const std::string& defaultCode);
 
 } // namespace Tour

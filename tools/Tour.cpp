@@ -7,6 +7,7 @@
 #include "tests/support/robot/RunScript.h"
 #include "tests/support/robot/TempFolder.h"
 #include "tools/ChannelList.h"
+#include "tools/P25Channels.h"
 #include "tools/TourHand.h"
 #include "tools/TourJob.h"
 

@@ -1,11 +1,11 @@
 #include "tools/TourJob.h"
 
 #include "frame/SelectionDialogs.h"
-#include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
 #include "tests/support/robot/OpenDialogs.h"
 #include "tests/support/robot/Process.h"
 #include "tests/support/robot/ScreenSpots.h"
+#include "transfer/ChosenPort.h"
 
 #include <wx/choice.h>
 #include <wx/grid.h>

@@ -1,7 +1,7 @@
 #include "transfer/UnsentRows.h"
 
 #include "catalogue/PageModel.h"
-#include "frame/Messages.h"
+#include "commands/StatusOutcome.h"
 
 #include <algorithm>
 #include <iterator>

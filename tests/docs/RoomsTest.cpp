@@ -1,4 +1,4 @@
-// The table of rooms on the developer's page against the tree and its #include lines.
+// The tables of rooms and circles on the developer's page against the tree and its #include lines.
 #include "tests/docs/Markdown.h"
 
 #include <algorithm>
@@ -48,6 +48,69 @@ std::vector<Include> IncludesOf(const fs::path& file) {
     return includes;
 }
 
+/// The unit that a file belongs to: a header and its sources, one of them for each operating system where the
+/// systems differ.
+std::string UnitOf(const std::string& path) {
+    std::string unit = path.substr(0, path.rfind('.'));
+    for (const char* system : {"_linux", "_gtk", "_windows"})
+        if (unit.ends_with(system))
+            unit.erase(unit.rfind('_'));
+    return unit;
+}
+
+using Units = std::set<std::string>;
+/// The units that each unit includes.
+using Arrows = std::map<std::string, Units>;
+
+Arrows ArrowsOf(const std::vector<Include>& includes) {
+    Arrows arrows;
+    for (const Include& include : includes)
+        if (UnitOf(include.file) != UnitOf(include.header))
+            arrows[UnitOf(include.file)].insert(UnitOf(include.header));
+    return arrows;
+}
+
+/// The units that a unit reaches, itself only if it is in a circle.
+Units ReachOf(const std::string& unit, const Arrows& arrows) {
+    Units reached;
+    std::vector<std::string> waiting{unit};
+    while (!waiting.empty()) {
+        const auto from = arrows.find(waiting.back());
+        waiting.pop_back();
+        if (from == arrows.end())
+            continue;
+        for (const std::string& next : from->second)
+            if (reached.insert(next).second)
+                waiting.push_back(next);
+    }
+    return reached;
+}
+
+/// The largest sets of units in which each one includes each other one, directly or over others.
+std::set<Units> CirclesAmong(const std::vector<Include>& includes) {
+    const Arrows arrows = ArrowsOf(includes);
+    std::map<std::string, Units> reach;
+    for (const auto& [unit, direct] : arrows)
+        reach[unit] = ReachOf(unit, arrows);
+    std::set<Units> circles;
+    for (const auto& [unit, reached] : reach) {
+        Units circle;
+        for (const std::string& other : reached)
+            if (reach.count(other) && reach.at(other).count(unit))
+                circle.insert(other);
+        if (!circle.empty())
+            circles.insert(circle);
+    }
+    return circles;
+}
+
+std::string TextOf(const Units& circle) {
+    std::string text;
+    for (const std::string& unit : circle)
+        text += (text.empty() ? "" : ", ") + unit;
+    return text;
+}
+
 class Rooms : public testing::Test {
 protected:
     Rooms() {
@@ -60,6 +123,9 @@ protected:
         for (const auto& row : TableBelow(page, "Exceptions"))
             if (row.size() == 3)
                 m_exceptions.push_back({ListIn(row[0]), ListIn(row[1])});
+        for (const auto& row : TableBelow(page, "Circles that stay"))
+            if (row.size() == 2)
+                m_circles.insert(ListIn(row[0]));
     }
 
     struct Exception {
@@ -103,6 +169,7 @@ protected:
 
     std::map<std::string, std::set<std::string>> m_rooms; ///< the rooms that each may include
     std::vector<Exception> m_exceptions;
+    std::set<Units> m_circles; ///< those that the page excuses
 };
 
 } // namespace
@@ -143,4 +210,30 @@ TEST_F(Rooms, HaveNoExceptionThatNoFileNeeds) {
                     [&](const Include& include) { return Covers(one, include) && !RoomAllows(include); }))
                     << who << " doesn't include " << header;
             }
+}
+
+TEST_F(Rooms, HoldNoCircleOfUnitsButThoseOnThePage) {
+    const std::set<Units> circles = CirclesAmong(AllIncludes());
+    for (const Units& circle : circles)
+        EXPECT_TRUE(m_circles.count(circle)) << "include each other: " << TextOf(circle);
+    for (const Units& circle : m_circles)
+        EXPECT_TRUE(circles.count(circle)) << "no circle any more: " << TextOf(circle);
+}
+
+TEST(Circles, JoinAHeaderAndItsSources) {
+    const std::vector<Include> arrows = {{"a/One.cpp", "a/One.h"}, {"a/One.cpp", "b/Two.h"}};
+    EXPECT_EQ(CirclesAmong(arrows), std::set<Units>{});
+    std::vector<Include> back = arrows;
+    back.push_back({"b/Two_linux.cpp", "a/One.h"});
+    EXPECT_EQ(CirclesAmong(back), (std::set<Units>{{"a/One", "b/Two"}}));
+}
+
+TEST(Circles, AreFoundOverOtherUnits) {
+    EXPECT_EQ(CirclesAmong({{"a/One.cpp", "a/Two.h"},
+                            {"a/Two.h", "a/Three.h"},
+                            {"a/Three.cpp", "a/One.h"},
+                            {"a/Four.cpp", "a/One.h"},
+                            {"b/Five.h", "b/Six.h"},
+                            {"b/Six.cpp", "b/Five.h"}}),
+              (std::set<Units>{{"a/One", "a/Three", "a/Two"}, {"b/Five", "b/Six"}}));
 }

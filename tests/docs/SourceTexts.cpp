@@ -138,7 +138,7 @@ template <class Take>
 std::vector<SourceText> OfProgram(const fs::path& folder, Take take) {
     std::vector<SourceText> texts;
     for (const char* room :
-         {"catalogue", "editing", "files", "transfer", "frame", "diagnostics", "resources"}) {
+         {"catalogue", "commands", "editing", "files", "transfer", "frame", "diagnostics", "resources"}) {
         if (!fs::exists(folder / room))
             continue;
         for (const auto& entry : fs::directory_iterator(folder / room)) {

@@ -1,7 +1,7 @@
 // The paint of repaired cells: where it goes, and where it stays.
+#include "commands/CommandIds.h"
 #include "editing/Shadows.h"
 #include "editing/ZelkEdit.h"
-#include "frame/CommandIds.h"
 #include "tests/editing/CellTools.h"
 #include "tests/frame/FrameTools.h"
 

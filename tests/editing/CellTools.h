@@ -1,6 +1,7 @@
 // Cells of the page, edited as by a person, and what the grid says about them.
 #pragma once
 
+#include "commands/OpenEditor.h"
 #include "tests/support/ZelkWindowTest.h"
 
 #include "tests/support/Keys.h"

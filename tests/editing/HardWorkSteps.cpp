@@ -1,4 +1,5 @@
 // The steps that random work on a page can take.
+#include "commands/OpenEditor.h"
 #include "tests/editing/HardWork.h"
 
 #include "catalogue/TextNumbers.h"

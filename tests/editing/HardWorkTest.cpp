@@ -2,8 +2,9 @@
 #include "tests/editing/HardWork.h"
 
 #include "catalogue/TextNumbers.h"
+#include "commands/CommandIds.h"
+#include "commands/OpenEditor.h"
 #include "editing/ZelkEdit.h"
-#include "frame/CommandIds.h"
 
 #include <wx/notebook.h>
 

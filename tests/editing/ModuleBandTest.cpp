@@ -1,9 +1,9 @@
 // Rows of the module page: what their cells accept is what their band says.
 #include "tests/editing/CellTools.h"
 
+#include "commands/CommandIds.h"
 #include "editing/FrequencyCell.h"
 #include "editing/ZelkEdit.h"
-#include "frame/CommandIds.h"
 #include "tests/frame/FrameTools.h"
 
 #include <wx/menu.h>

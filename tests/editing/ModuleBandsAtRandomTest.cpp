@@ -1,10 +1,11 @@
 // Random work on the module page: what a frequency cell accepts is the band that its row shows, and the locks
 // are those of that band.
+#include "commands/OpenEditor.h"
 #include "tests/editing/HardWork.h"
 
+#include "commands/CommandIds.h"
 #include "editing/FrequencyCell.h"
 #include "editing/FrequencyRules.h"
-#include "frame/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 
 #include <wx/choice.h>

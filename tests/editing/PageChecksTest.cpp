@@ -1,7 +1,7 @@
 // Checks of a whole page, from the menu and after a change of target.
 #include "editing/ZelkEdit.h"
 
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 #include "tests/catalogue/PageTest.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"

@@ -1,8 +1,8 @@
 // Which cells count as replaced when a row is checked: losses do, another form of the same value doesn't.
 #include "editing/ReplacedCells.h"
 
+#include "commands/CommandIds.h"
 #include "editing/ZelkEdit.h"
-#include "frame/CommandIds.h"
 #include "tests/editing/CommandTest.h"
 
 #include <wx/statusbr.h>

@@ -1,11 +1,13 @@
 // Pages of both P25 generations under thousands of random steps: the zone in the record is the zone in the
 // cell.
 #include "tests/editing/ZoneWork.h"
+#include "commands/OpenEditor.h"
+#include "editing/PageReset.h"
 
 #include "catalogue/TextNumbers.h"
+#include "commands/CommandIds.h"
 #include "editing/ZelkEdit.h"
 #include "files/ZelkFile_OpenSave.h"
-#include "frame/CommandIds.h"
 #include "tests/support/robot/Files.h"
 #include "transfer/TRecordCodec.h"
 

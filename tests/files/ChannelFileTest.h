@@ -2,9 +2,10 @@
 #pragma once
 
 #include "catalogue/TextNumbers.h"
+#include "commands/CommandIds.h"
+#include "editing/PageReset.h"
 #include "files/XmlFile.h"
 #include "files/ZelkFile_OpenSave.h"
-#include "frame/CommandIds.h"
 #include "tests/support/Modals.h"
 #include "tests/support/ZelkWindowTest.h"
 #include "tests/support/robot/Files.h"

@@ -1,6 +1,8 @@
 // What is exported and imported again comes back, but for what the dialects can't hold.
 #include "tests/files/CsvTest.h"
 
+#include "editing/PageReset.h"
+
 namespace {
 
 class CsvRoundTrip : public CsvTest {

@@ -1,6 +1,7 @@
 // What tests of comma-separated lists have in common.
 #pragma once
 
+#include "editing/PageReset.h"
 #include "editing/RowLooks.h"
 #include "files/CsvImport.h"
 #include "tests/files/ChannelFileTest.h"

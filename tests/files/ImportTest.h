@@ -1,6 +1,7 @@
 // What tests of the import have in common.
 #pragma once
 
+#include "editing/PageReset.h"
 #include "files/Import716.h"
 #include "files/ImportMultiZEL.h"
 #include "files/ZelkFile_ImportExport.h"

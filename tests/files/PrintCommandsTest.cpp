@@ -2,7 +2,7 @@
 #include "tests/files/PrintTest.h"
 #include "tests/support/LogKeeper.h"
 
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 #include "tests/files/PdfText.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/AssertsOff.h"

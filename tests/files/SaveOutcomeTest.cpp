@@ -1,6 +1,6 @@
 #include "files/SaveOutcome.h"
 
-#include "frame/Messages.h"
+#include "commands/StatusOutcome.h"
 #include "tests/files/ChannelFileTest.h"
 
 #include <wx/statusbr.h>

@@ -1,4 +1,5 @@
 // A blank row becomes a memory as soon as somebody types into it.
+#include "commands/OpenEditor.h"
 #include "tests/support/ZelkWindowTest.h"
 
 #include "tests/frame/FrameTools.h"

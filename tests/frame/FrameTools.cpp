@@ -1,6 +1,6 @@
 #include "tests/frame/FrameTools.h"
 
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
 #include "tests/support/Keys.h"

@@ -1,7 +1,7 @@
 // A page's grid follows its target.
+#include "frame/TargetSelection.h"
 #include "tests/support/ZelkWindowTest.h"
 
-#include "frame/PageLifecycle.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"

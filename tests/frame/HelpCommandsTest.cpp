@@ -1,7 +1,7 @@
 // User guide and About box.
 #include "frame/HelpCommands.h"
 
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/frame/ToolkitLabels.h"
 #include "tests/support/Keys.h"

@@ -1,14 +1,15 @@
 // The dialogs for radio, band and port.
 #include "tests/support/ZelkWindowTest.h"
 
-#include "frame/CommandIds.h"
-#include "frame/Messages.h"
+#include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/SerialPorts.h"
+#include "frame/TargetSelection.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/PseudoTerminal.h"
 #include "tests/support/RunWithRobot.h"
+#include "transfer/ChosenPort.h"
 
 #include <wx/button.h>
 #include <wx/stattext.h>

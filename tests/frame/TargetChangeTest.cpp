@@ -1,9 +1,9 @@
 // Another target for a page that holds data.
 #include "tests/support/ZelkWindowTest.h"
 
+#include "commands/CommandIds.h"
 #include "editing/Shadows.h"
 #include "files/ZelkFile_OpenSave.h"
-#include "frame/CommandIds.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"

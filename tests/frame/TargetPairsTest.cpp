@@ -2,9 +2,9 @@
 #include "tests/support/ZelkWindowTest.h"
 
 #include "catalogue/TextNumbers.h"
+#include "commands/CommandIds.h"
 #include "editing/FrequencyRules.h"
 #include "files/ChannelFileWriter.h"
-#include "frame/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "tests/editing/HardWork.h"
 #include "tests/frame/FrameTools.h"

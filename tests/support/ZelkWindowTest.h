@@ -1,11 +1,13 @@
 // A test with the program's main window, made afresh for each test.
 #pragma once
 
+#include "catalogue/GridShape.h"
 #include "catalogue/PageCreation.h"
+#include "catalogue/RowFilling.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/ZelkEditors.h"
-#include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
+#include "transfer/ChosenPort.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // Random work with two radios: what the program put into one stays there as long as the page shows it.
+#include "editing/PageReset.h"
 #include "tests/transfer/BenchRadio.h"
 #include "tests/transfer/TRecordDriverTest.h"
 
 #include "catalogue/TextNumbers.h"
 #include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
-#include "files/ZelkFile_OpenSave.h"
 #include "frame/SelectionDialogs.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecordDialogue.h"

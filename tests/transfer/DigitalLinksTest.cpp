@@ -1,7 +1,7 @@
 // Links of shadows and scan marks on their whole way: into the page, through a check, to a radio and back.
 #include "catalogue/TextNumbers.h"
+#include "commands/CommandIds.h"
 #include "files/ZelkFile_OpenSave.h"
-#include "frame/CommandIds.h"
 #include "tests/support/Keys.h"
 #include "tests/support/robot/Files.h"
 #include "tests/support/robot/Pump.h"

@@ -1,7 +1,7 @@
 // Selected rows that a write didn't send, as the status bar tells them.
 #include "transfer/UnsentRows.h"
 
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 #include "tests/transfer/CancelFromPeer.h"
 #include "tests/transfer/RadioPeer.h"
 #include "tests/transfer/TransferTest.h"

@@ -1,7 +1,7 @@
 // What the row and column commands ask before they begin: none of them can be undone.
 #pragma once
 
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 
 struct CommandQuestion {
     int id; ///< the command, a CommandId

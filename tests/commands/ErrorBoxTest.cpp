@@ -1,5 +1,5 @@
 // Message boxes of result codes.
-#include "frame/Messages.h"
+#include "commands/ErrorBox.h"
 
 #include "tests/frame/FrameTools.h"
 

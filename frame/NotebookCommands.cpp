@@ -1,45 +1,17 @@
-#include "frame/PageLifecycle.h"
-
+// Adding, deleting and changing pages.
 #include "catalogue/PageCreation.h"
 #include "catalogue/ZoneSlots.h"
-#include "editing/ZelkEditors.h"
-#include "frame/Messages.h"
+#include "commands/ErrorBox.h"
+#include "commands/OpenEditor.h"
+#include "commands/StatusOutcome.h"
 #include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
-
-#include <algorithm>
 
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
 
-void FitGridToTarget(int oldRadio, int oldBandIndex) {
-    const int oldRows = RadioCatalogue::RadioRows[oldRadio][oldBandIndex];
-    const int newRows = CurrentParameters().Rows;
-    wxGrid* grid = CurrentGrid();
-    wxGridUpdateLocker quiet(grid);
-    if (newRows > oldRows) {
-        grid->AppendRows(newRows - oldRows);
-        SetGridRowLabels(grid, newRows);
-    } else if (newRows < oldRows) {
-        // Meant: the former last row stays, as the new last one.
-        grid->DeleteRows(newRows, oldRows - newRows);
-    }
-    SetGridColumns(grid, CurrentParameters().Type);
-}
-
-void AdjustEditGrid(OrvZELFrame*, int oldRadio, int oldBandIndex) {
-    wxGridUpdateLocker quiet(CurrentGrid());
-    FitGridToTarget(oldRadio, oldBandIndex);
-    SetPageEditors(CurrentPage);
-    CurrentGrid()->ForceRefresh();
-}
-
-void UpdatePage(OrvZELFrame* frame, int page, int oldRadio, int oldBandIndex) {
-    if (PageParameters[page].Radio != oldRadio || PageParameters[page].BandIndex != oldBandIndex)
-        AdjustEditGrid(frame, oldRadio, oldBandIndex);
-    UpdateStatus(frame, page);
-}
+#include <algorithm>
 
 void ZelkFrame::OnPageAdd(wxCommandEvent&) {
     CommitOpenEditor();
@@ -120,17 +92,4 @@ void ZelkFrame::OnPageChanged(wxBookCtrlEvent&) {
     ForgetOutcome();
     CurrentPage = selection;
     UpdateStatus(this, CurrentPage);
-}
-
-void ZelkFrame::OnGridCellChanging(wxGridEvent& event) {
-    wxGrid* grid = CurrentGrid();
-    const int row = event.GetRow();
-    // Every kind of cell announces its new value here; editors see to the cells that they carry it to.
-    TakePaintOff(grid, row, event.GetCol());
-    if (!grid->GetCellValue(row, TFLG).empty())
-        return;
-    // The typed value comes into its cell after this event, over the default.
-    wxGridUpdateLocker quiet(grid);
-    FillRowsFromDefault({row});
-    grid->SelectRow(row, false);
 }

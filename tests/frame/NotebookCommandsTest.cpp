@@ -1,7 +1,7 @@
 // Adding, deleting and changing pages.
 #include "tests/support/ZelkWindowTest.h"
 
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"

@@ -1,3 +1,5 @@
+#include "editing/PageReset.h"
+
 #include "tests/files/ChannelFileTest.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // Commands that are given while a cell is being edited: what was typed counts.
 #include "tests/editing/GridHabits.h"
 
-#include "frame/CommandIds.h"
+#include "commands/CommandIds.h"
 #include "tests/support/robot/Files.h"
 #include "tests/support/robot/TempFolder.h"
 

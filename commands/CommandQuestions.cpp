@@ -1,4 +1,4 @@
-#include "editing/CommandQuestions.h"
+#include "commands/CommandQuestions.h"
 
 #include <wx/msgdlg.h>
 

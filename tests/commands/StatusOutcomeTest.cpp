@@ -1,6 +1,6 @@
-#include "frame/CommandIds.h"
-#include "frame/Messages.h"
+#include "commands/StatusOutcome.h"
 
+#include "commands/CommandIds.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/Modals.h"

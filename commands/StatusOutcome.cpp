@@ -1,36 +1,17 @@
-#include "frame/Messages.h"
-
-#include "frame/ZelkMain.h"
+#include "commands/StatusOutcome.h"
 
 #include <wx/control.h>
 #include <wx/dcclient.h>
-#include <wx/msgdlg.h>
 #include <wx/statusbr.h>
+#include <wx/weakref.h>
 
 #include <algorithm>
 
-void DisplayError(int code, int value) {
-    wxString message;
-    switch (code) {
-    case ResultBadRadio:
-        message = "Invalid Radio selection";
-        break;
-    case ResultBadBand:
-        message = "Invalid Band selection";
-        break;
-    case ResultNumberUsed:
-        message.Printf("Number already used at row: %03d", value);
-        break;
-    case ResultDuplicateNumbers:
-        message.Printf("%d Duplicate memory number(s) found.", value);
-        break;
-    default:
-        message = "Unknown Error";
-    }
-    wxMessageBox(message, "Error", wxOK | wxCENTRE);
-}
-
 namespace {
+
+wxWeakRef<wxStatusBar> outcomeBar;
+/// Whether the first field of outcomeBar holds an outcome.
+bool outcomeIsTold = false;
 
 constexpr int StatusFields = 5;
 
@@ -56,25 +37,30 @@ wxString MakeRoomFor(wxStatusBar* statusBar, const wxString& text) {
 
 } // namespace
 
+void ShowOutcomesIn(wxStatusBar* statusBar) {
+    outcomeBar = statusBar;
+    outcomeIsTold = false;
+}
+
 void TellOutcome(const wxString& verdict, const wxString& story) {
     if (verdict.empty())
         return ForgetOutcome();
-    wxStatusBar* statusBar = MainFrame->m_statusBar;
-    statusBar->SetStatusText(MakeRoomFor(statusBar, verdict), 0);
-    statusBar->SetToolTip(story.empty() ? verdict : story);
-    MainFrame->m_outcomeIsTold = true;
+    if (!outcomeBar)
+        return;
+    outcomeBar->SetStatusText(MakeRoomFor(outcomeBar, verdict), 0);
+    outcomeBar->SetToolTip(story.empty() ? verdict : story);
+    outcomeIsTold = true;
 }
 
 void ForgetOutcome() {
     if (!OutcomeIsTold())
         return;
-    wxStatusBar* statusBar = MainFrame->m_statusBar;
-    statusBar->SetStatusWidths(StatusFields, nullptr);
-    statusBar->SetStatusText("Select function", 0);
-    statusBar->UnsetToolTip();
-    MainFrame->m_outcomeIsTold = false;
+    outcomeBar->SetStatusWidths(StatusFields, nullptr);
+    outcomeBar->SetStatusText("Select function", 0);
+    outcomeBar->UnsetToolTip();
+    outcomeIsTold = false;
 }
 
 bool OutcomeIsTold() {
-    return MainFrame && MainFrame->m_outcomeIsTold;
+    return outcomeBar && outcomeIsTold;
 }

@@ -1,0 +1,74 @@
+#include "catalogue/GridShape.h"
+
+#include "catalogue/PageModel.h"
+#include "catalogue/PageTable.h"
+#include "catalogue/TextNumbers.h"
+
+#include <wx/grid.h>
+
+#include <algorithm>
+
+using namespace RadioCatalogue;
+
+void SetUpGrid(wxGrid* grid, int page) {
+    const int rows = PageParameters[page].Rows;
+    grid->SetTable(new PageTable(rows + 1), true);
+    grid->EnableEditing(true);
+    grid->EnableGridLines(true);
+    grid->EnableDragGridSize(false);
+    grid->SetMargins(0, 0);
+    grid->EnableDragColMove(false);
+    grid->EnableDragColSize(true);
+    grid->SetColLabelAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
+    SetGridColumns(grid, PageParameters[page].Type);
+
+    grid->SetDefaultRowSize(23, true);
+    grid->EnableDragRowSize(false);
+    // Scrolling by whole rows keeps the first row whole, on which the row menu counts.
+    grid->SetScrollLineY(grid->GetDefaultRowSize());
+    grid->SetRowLabelSize(wxGRID_AUTOSIZE);
+    grid->SetRowLabelAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
+    // Meant: one label more than there are rows.
+    SetGridRowLabels(grid, rows + 1);
+    grid->SetRowLabelSize(wxGRID_AUTOSIZE);
+    grid->SetColLabelSize(grid->GetRowSize(1));
+    grid->SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_TOP);
+    // A page is often selected as a whole while it is read: dark text on a light colour, also
+    // where the window has no focus and the toolkit takes a grey.
+    grid->SetSelectionForeground(*wxBLACK);
+    grid->SetSelectionBackground(wxColour(178, 208, 240));
+}
+
+void SetGridColumns(wxGrid* grid, int type) {
+    for (int col = 0; col < ColumnTotal; ++col) {
+        // The minimal width goes first: a column never becomes narrower than its minimum. The
+        // same width as a minimum keeps a hidden column from being dragged open.
+        grid->SetColMinimalWidth(col, ColumnWidth[type][col]);
+        grid->SetColSize(col, ColumnWidth[type][col]);
+        grid->SetColLabelValue(col, ColumnHeading[type][col]);
+    }
+    // The toolkit begins in the first column, which is always hidden, and a page of another type
+    // may have left the cursor in one that is hidden now: typing would go into a cell unseen.
+    if (const int col = grid->GetGridCursorCol(); col < 0 || !grid->IsColShown(col))
+        grid->SetGridCursor(std::max(grid->GetGridCursorRow(), 0), MNUM);
+}
+
+void SetGridRowLabels(wxGrid* grid, int last) {
+    for (int row = 0; row <= last; ++row)
+        grid->SetRowLabelValue(row, NumberText(row));
+}
+
+void FitGridToTarget(int oldRadio, int oldBandIndex) {
+    const int oldRows = RadioRows[oldRadio][oldBandIndex];
+    const int newRows = CurrentParameters().Rows;
+    wxGrid* grid = CurrentGrid();
+    wxGridUpdateLocker quiet(grid);
+    if (newRows > oldRows) {
+        grid->AppendRows(newRows - oldRows);
+        SetGridRowLabels(grid, newRows);
+    } else if (newRows < oldRows) {
+        // Meant: the former last row stays, as the new last one.
+        grid->DeleteRows(newRows, oldRows - newRows);
+    }
+    SetGridColumns(grid, CurrentParameters().Type);
+}

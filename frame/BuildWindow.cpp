@@ -1,0 +1,229 @@
+// Builds the window: its controls, its first page and the way from events to commands.
+#include "catalogue/PageCreation.h"
+#include "commands/StatusOutcome.h"
+#include "files/ZelkPrinting.h"
+#include "frame/CommandTables.h"
+#include "frame/ZelkGUI.h"
+#include "transfer/TransferStatus.h"
+#include "transfer/wxAsyncSerial.h"
+
+#include <wx/log.h>
+#include <wx/menu.h>
+#include <wx/notebook.h>
+#include <wx/panel.h>
+#include <wx/sizer.h>
+#include <wx/statusbr.h>
+#include <wx/toolbar.h>
+
+#include <span>
+
+namespace {
+
+using CommandHandler = void (OrvZELFrame::*)(wxCommandEvent&);
+
+/// Which operation a command id runs, whether it comes from a menu, a tool or the context menu.
+struct CommandEntry {
+    int id;
+    CommandHandler handler;
+};
+
+constexpr CommandEntry MenuCommands[] = {
+    {IdOpen, &OrvZELFrame::OnOpen},
+    {IdSave, &OrvZELFrame::OnSave},
+    {IdSaveAs, &OrvZELFrame::OnSaveAs},
+    {IdImport, &OrvZELFrame::OnImport},
+    {IdExport, &OrvZELFrame::OnExport},
+    {IdPrint, &OrvZELFrame::OnPrint},
+    {IdPrintPreview, &OrvZELFrame::OnPrintPreview},
+    {IdPageSetup, &OrvZELFrame::OnPageSetup},
+    {IdQuit, &OrvZELFrame::OnQuit},
+    {IdPageAdd, &OrvZELFrame::OnPageAdd},
+    {IdPageDelete, &OrvZELFrame::OnPageDelete},
+    {IdUpload, &OrvZELFrame::OnUpload},
+    {IdDownload, &OrvZELFrame::OnDownload},
+    {IdValidatePage, &OrvZELFrame::OnValidatePage},
+    {IdSelectAll, &OrvZELFrame::OnSelectAll},
+    {IdDeSelectAll, &OrvZELFrame::OnDeSelectAll},
+    {IdClearHighlight, &OrvZELFrame::OnClearHighlight},
+    {IdSetPort, &OrvZELFrame::OnSetPort},
+    {IdSetTarget, &OrvZELFrame::OnSetTarget},
+    {IdHelp, &OrvZELFrame::OnHelp},
+    {IdAbout, &OrvZELFrame::OnAbout},
+};
+
+constexpr CommandEntry ContextCommands[] = {
+    {IdDefaultRow, &OrvZELFrame::OnDefaultRow},
+    {IdCreateShadow, &OrvZELFrame::OnCreateShadow},
+    {IdCopyRow, &OrvZELFrame::OnCopyRow},
+    {IdPasteRow, &OrvZELFrame::OnPasteRow},
+    {IdClearRow, &OrvZELFrame::OnClearRow},
+    {IdInsertRow, &OrvZELFrame::OnInsertRow},
+    {IdDeleteRow, &OrvZELFrame::OnDeleteRow},
+    {IdMarkRow, &OrvZELFrame::OnMarkRow},
+    {IdDefaultCol, &OrvZELFrame::OnDefaultCol},
+    {IdDefaultMarked, &OrvZELFrame::OnDefaultMarked},
+    {IdRenumberToRowNum, &OrvZELFrame::OnRenumberToRowNum},
+    {IdRenumberSequencial, &OrvZELFrame::OnRenumberSequencial},
+    {IdDefaultFile, &OrvZELFrame::OnDefaultFile},
+    {IdSaveDefault, &OrvZELFrame::OnSaveDefault},
+    {IdLoadDefault, &OrvZELFrame::OnLoadDefault},
+};
+
+wxMenu* MakeMenu(std::span<const MenuEntry> entries) {
+    auto* menu = new wxMenu;
+    for (const MenuEntry& entry : entries) {
+        if (entry.label)
+            menu->Append(entry.id, entry.label, entry.help);
+        else
+            menu->AppendSeparator();
+    }
+    return menu;
+}
+
+/// Connects or disconnects one event of a source.
+template <class Tag, class Handler>
+void Link(bool connect, wxEvtHandler* source, const Tag& tag, Handler handler, OrvZELFrame* frame,
+          int id = wxID_ANY) {
+    if (connect)
+        source->Bind(tag, handler, frame, id);
+    else
+        source->Unbind(tag, handler, frame, id);
+}
+
+/// Null for an id that is no command's.
+CommandHandler HandlerOf(int id) {
+    for (const std::span<const CommandEntry> commands :
+         {std::span<const CommandEntry>(MenuCommands), std::span<const CommandEntry>(ContextCommands)})
+        for (const CommandEntry& command : commands)
+            if (command.id == id)
+                return command.handler;
+    return nullptr;
+}
+
+} // namespace
+
+OrvZELFrame::OrvZELFrame(wxWindow* parent)
+    : wxFrame(parent, wxID_ANY, "Orv Zelk", wxDefaultPosition, wxSize(927, 680),
+              wxDEFAULT_FRAME_STYLE | wxHSCROLL | wxVSCROLL | wxTAB_TRAVERSAL) {
+    wxLog::EnableLogging(false);
+    SetIcon(GetZelkIcon());
+    BuildMenus();
+    BuildContextMenu();
+
+    auto* sizer = new wxBoxSizer(wxHORIZONTAL);
+    BuildToolBar();
+    sizer->Add(m_toolBar, 0, wxEXPAND, 5);
+    m_notebook = new wxNotebook(this, wxID_ANY);
+    BuildFirstPage();
+    sizer->Add(m_notebook, 1, wxEXPAND | wxALL, 5);
+    SetSizer(sizer);
+    Layout();
+    m_statusBar = CreateStatusBar(5, wxSTB_SIZEGRIP);
+    UpdateStatus(this, CurrentPage);
+    ConnectEvents(true);
+    InitPrinting();
+
+    // Where this device exists it is only tried: held open, it would stand in the way of the
+    // first transfer.
+    m_serialPort = std::make_unique<wxAsyncSerial>(this, "/dev/ttyUSB0", 9600);
+    m_serialPort->close();
+
+    RadioCatalogue::FillChoiceLists();
+    FillStatusList();
+    RowCopyBuffer.clear();
+}
+
+OrvZELFrame::~OrvZELFrame() {
+    ConnectEvents(false);
+    // Entries that no menu holds at this moment belong to the frame alone.
+    for (wxMenuItem* item : m_contextItems) {
+        if (m_contextMenu->FindItem(item->GetId()))
+            m_contextMenu->Remove(item);
+        delete item;
+    }
+}
+
+void OrvZELFrame::BuildMenus() {
+    m_menuBar = new wxMenuBar;
+    m_menuBar->Append(MakeMenu(FileMenu), "File");
+    m_menuBar->Append(MakeMenu(PageMenu), "Page");
+    m_menuBar->Append(MakeMenu(DataMenu), "Data");
+    m_menuBar->Append(MakeMenu(SettingsMenu), "Settings");
+    m_helpMenu = MakeMenu(HelpMenu);
+    m_menuBar->Append(m_helpMenu, "Help");
+    SetMenuBar(m_menuBar);
+}
+
+void OrvZELFrame::BuildContextMenu() {
+    m_contextMenu = std::make_unique<wxMenu>();
+    for (size_t i = 0; i < m_contextItems.size(); ++i)
+        m_contextItems[i] =
+            new wxMenuItem(m_contextMenu.get(), ContextMenu[i].id, ContextMenu[i].label, ContextMenu[i].help);
+}
+
+void OrvZELFrame::BuildToolBar() {
+    m_toolBar = new wxToolBar(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTB_RIGHT);
+    m_toolBar->SetToolBitmapSize(wxSize(32, 32));
+    size_t count = 0;
+    for (const ToolEntry& tool : Tools) {
+        if (tool.label)
+            m_tools[count++] = m_toolBar->AddTool(tool.id, tool.label, GetToolBitmap(tool.image),
+                                                  wxNullBitmap, wxITEM_NORMAL, tool.shortHelp, tool.longHelp);
+        else
+            m_toolBar->AddSeparator();
+    }
+    m_toolBar->Realize();
+}
+
+void OrvZELFrame::BuildFirstPage() {
+    PageCount = 0;
+    CurrentPage = 0;
+    // Stands for the page until there is one.
+    auto* placeholder = new wxPanel(this, wxID_ANY, wxDefaultPosition, wxSize(0, 0));
+    placeholder->Hide();
+    m_lastPanel = placeholder;
+    SetPageParameters(this, 0, 1, 0);
+    CreateNewPage(this, 0);
+    placeholder->Destroy();
+}
+
+void OrvZELFrame::ConnectEvents(bool connect) {
+    Link(connect, this, wxEVT_CLOSE_WINDOW, &OrvZELFrame::OnClose, this);
+    for (const CommandEntry& command : MenuCommands) {
+        wxMenu* menu = nullptr;
+        if (m_menuBar->FindItem(command.id, &menu))
+            Link(connect, menu, wxEVT_MENU, &OrvZELFrame::OnCommand, this, command.id);
+    }
+    for (const CommandEntry& command : ContextCommands)
+        Link(connect, m_contextMenu.get(), wxEVT_MENU, &OrvZELFrame::OnCommand, this, command.id);
+    Link(connect, m_notebook, wxEVT_NOTEBOOK_PAGE_CHANGED, &OrvZELFrame::OnPageChanged, this);
+    Link(connect, m_notebook, wxEVT_NOTEBOOK_PAGE_CHANGING, &OrvZELFrame::OnPageChanging, this);
+    for (const ToolEntry& tool : Tools)
+        if (tool.label)
+            Link(connect, this, wxEVT_TOOL, &OrvZELFrame::OnCommand, this, tool.id);
+    Link(connect, this, wxEVT_MENU_OPEN, &OrvZELFrame::OnMenuOpen, this);
+    Link(connect, this, wxEVT_MENU_CLOSE, &OrvZELFrame::OnMenuClose, this);
+}
+
+void OrvZELFrame::OnCommand(wxCommandEvent& event) {
+    ForgetOutcome();
+    if (const CommandHandler handler = HandlerOf(event.GetId()))
+        (this->*handler)(event);
+}
+
+void OrvZELFrame::OnMenuOpen(wxMenuEvent& event) {
+    m_menuIsOpen = true;
+    event.Skip();
+}
+
+void OrvZELFrame::OnMenuClose(wxMenuEvent& event) {
+    m_menuIsOpen = false;
+    event.Skip();
+}
+
+void OrvZELFrame::DoGiveHelp(const wxString& text, bool show) {
+    // The pointer still stands on the tool that was clicked; its help would cover what became of the click.
+    if (show && OutcomeIsTold() && !m_menuIsOpen)
+        return;
+    wxFrame::DoGiveHelp(text, show);
+}

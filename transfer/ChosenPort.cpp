@@ -1,0 +1,3 @@
+#include "transfer/ChosenPort.h"
+
+wxString PortName = "none";

@@ -1,0 +1,7 @@
+// The serial port that transfers use.
+#pragma once
+
+#include <wx/string.h>
+
+/// The chosen serial port, "none" until one has been chosen.
+extern wxString PortName;

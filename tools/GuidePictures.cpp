@@ -1,10 +1,10 @@
 // Takes all pictures of the user guide from the running program, with simulated radios.
 #include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/Robot.h"
-#include "tests/support/robot/RunScript.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/OpenDialogs.h"
+#include "robot/Robot.h"
+#include "robot/RunScript.h"
+#include "robot/TempFolder.h"
 #include "tools/GuideScenes.h"
 
 #include <cstdio>

@@ -6,8 +6,8 @@
 #include "frame/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/ScreenSpots.h"
+#include "robot/OpenDialogs.h"
+#include "robot/ScreenSpots.h"
 
 #include <fstream>
 #include <sstream>

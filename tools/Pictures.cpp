@@ -3,10 +3,10 @@
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/Robot.h"
-#include "tests/support/robot/RunScript.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/OpenDialogs.h"
+#include "robot/Robot.h"
+#include "robot/RunScript.h"
+#include "robot/TempFolder.h"
 
 #include <wx/xml/xml.h>
 

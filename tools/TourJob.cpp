@@ -3,9 +3,9 @@
 #include "frame/SelectionDialogs.h"
 #include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/Process.h"
-#include "tests/support/robot/ScreenSpots.h"
+#include "robot/OpenDialogs.h"
+#include "robot/Process.h"
+#include "robot/ScreenSpots.h"
 
 #include <wx/choice.h>
 #include <wx/grid.h>

@@ -1,9 +1,9 @@
 // Copying, the menu key, column widths and rows of a page, under real keys and the mouse.
 #include "tests/editing/GridHabits.h"
 
+#include "robot/Hands.h"
+#include "robot/XDesk.h"
 #include "tests/support/RunWithRobot.h"
-#include "tests/support/robot/Hands.h"
-#include "tests/support/robot/XDesk.h"
 
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>

@@ -2,8 +2,8 @@
 #include "tests/editing/GridHabits.h"
 
 #include "frame/CommandIds.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 
 #include <wx/notebook.h>
 #include <wx/print.h>

@@ -6,7 +6,7 @@
 #include "editing/ZelkEdit.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/CommandIds.h"
-#include "tests/support/robot/Files.h"
+#include "robot/Files.h"
 #include "transfer/TRecordCodec.h"
 
 #include <wx/combobox.h>

@@ -5,11 +5,11 @@
 #include "files/XmlFile.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/CommandIds.h"
+#include "robot/Files.h"
+#include "robot/Pump.h"
+#include "robot/TempFolder.h"
 #include "tests/support/Modals.h"
 #include "tests/support/ZelkWindowTest.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/Pump.h"
-#include "tests/support/robot/TempFolder.h"
 
 #include <wx/menu.h>
 #include <wx/msgdlg.h>

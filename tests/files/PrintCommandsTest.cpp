@@ -3,12 +3,12 @@
 #include "tests/support/LogKeeper.h"
 
 #include "frame/CommandIds.h"
+#include "robot/XDesk.h"
 #include "tests/files/PdfText.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/AssertsOff.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
-#include "tests/support/robot/XDesk.h"
 
 #include <wx/combobox.h>
 #include <wx/generic/prntdlgg.h>

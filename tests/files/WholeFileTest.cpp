@@ -1,9 +1,9 @@
 #include "files/WholeFile.h"
 
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 #include "tests/files/AsAnyUser.h"
 #include "tests/files/FileSizeLimit.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
 
 #include <gtest/gtest.h>
 

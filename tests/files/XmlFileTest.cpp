@@ -1,8 +1,8 @@
 #include "files/XmlFile.h"
 
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 #include "tests/files/HangLimit.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
 
 #include <gtest/gtest.h>
 

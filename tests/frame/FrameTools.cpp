@@ -3,8 +3,8 @@
 #include "frame/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
+#include "robot/Hands.h"
 #include "tests/support/Keys.h"
-#include "tests/support/robot/Hands.h"
 
 #include <gtest/gtest.h>
 

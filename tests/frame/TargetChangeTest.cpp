@@ -4,10 +4,10 @@
 #include "editing/Shadows.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/CommandIds.h"
+#include "robot/TempFolder.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
-#include "tests/support/robot/TempFolder.h"
 
 #include <wx/notebook.h>
 #include <wx/statusbr.h>

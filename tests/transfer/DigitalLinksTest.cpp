@@ -2,9 +2,9 @@
 #include "catalogue/TextNumbers.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/CommandIds.h"
+#include "robot/Files.h"
+#include "robot/Pump.h"
 #include "tests/support/Keys.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/Pump.h"
 #include "tests/transfer/RadioUnderTest.h"
 #include "tests/transfer/TRecordDriverTest.h"
 

@@ -1,7 +1,7 @@
 // Whole transfers between the window and simulated digital radios.
 #include "tests/transfer/DigitalRadioTest.h"
 
-#include "tests/support/robot/Hands.h"
+#include "robot/Hands.h"
 #include "tests/transfer/CancelSpot.h"
 
 #include <chrono>

@@ -1,8 +1,8 @@
 // A simulated radio that runs as a program of its own.
 #pragma once
 
-#include "tests/support/robot/Process.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/Process.h"
+#include "robot/TempFolder.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,7 +1,7 @@
 // The digital driver against radios that the test plays.
 #pragma once
 
-#include "tests/support/robot/TempFolder.h"
+#include "robot/TempFolder.h"
 #include "tests/transfer/CancelFromPeer.h"
 #include "tests/transfer/Transcript.h"
 #include "tests/transfer/TransferTest.h"

@@ -1,4 +1,4 @@
-#include "tests/support/robot/Files.h"
+#include "robot/Files.h"
 
 #include <fstream>
 #include <iterator>

@@ -1,6 +1,7 @@
 // The example channel files, held against the list of channels they are made from.
 // No code of the program takes part: limits and forms are typed here.
 #include "tests/examples/ExampleFiles.h"
+#include "robot/Files.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +9,6 @@
 #include <wx/xml/xml.h>
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 #include <set>
 #include <sstream>
@@ -16,6 +16,8 @@
 #include <vector>
 
 using namespace exampletest;
+using testbench::ReadFile;
+using testbench::ReadLines;
 
 namespace {
 
@@ -71,11 +73,6 @@ struct Source {
     std::string service, name, receive, transmit, receiveTone, transmitTone, mode, note;
 };
 
-std::string ReadFile(const fs::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 std::vector<std::string> Split(const std::string& text, char separator) {
     std::vector<std::string> parts;
     std::istringstream stream(text);
@@ -87,11 +84,10 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 
 std::vector<Source> ReadSources() {
     std::vector<Source> sources;
-    std::ifstream stream(fs::path(ZELK_EXAMPLES_DIR) / "public-channels.csv");
-    std::string line;
-    std::getline(stream, line);
-    while (std::getline(stream, line)) {
-        std::vector<std::string> f = Split(line, ',');
+    const std::vector<std::string> lines = ReadLines(fs::path(ZELK_EXAMPLES_DIR) / "public-channels.csv");
+    // The first line has the headings.
+    for (size_t k = 1; k < lines.size(); ++k) {
+        std::vector<std::string> f = Split(lines[k], ',');
         f.resize(8);
         sources.push_back({f[0], f[1], f[2], f[3], f[4], f[5], f[6], f[7]});
     }

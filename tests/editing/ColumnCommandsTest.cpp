@@ -46,7 +46,7 @@ TEST_F(DefaultColumn, WritesTheDefaultIntoRowsWithDataOnly) {
     SetCell(0, DESC, "NEW");
     RunOnColumn(DefaultCol, DESC);
     EXPECT_EQ(Column(DESC, {1, 2, 3, 4, 122}), (Texts{"", "NEW", "NEW", "", "NEW"}));
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{2, 3, 122}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{2, 3, 122}));
     EXPECT_FALSE(CurrentGrid()->IsInSelection(1, DESC));
 }
 
@@ -111,9 +111,9 @@ TEST_F(DefaultColumn, OfTheModulesBandEmptiesTheFrequenciesOfRowsThatWereOnAnoth
     SetPageEditors(CurrentPage);
     ASSERT_TRUE(IsReadOnly(3, MODE));
     SetCell(3, RTON, "67.0");
-    const Texts same = Row(2);
+    const Texts same = RowTexts(2);
     RunOnColumn(DefaultCol, BAND);
-    EXPECT_EQ(Row(2), same) << "the band stays";
+    EXPECT_EQ(RowTexts(2), same) << "the band stays";
     EXPECT_EQ(Column(BAND, {1, 2, 3, 4}), (Texts{"", "FM 30-50", "FM 30-50", "FM 30-50"}));
     EXPECT_EQ(Column(RFRQ, {2, 3}), (Texts{"31.0000", ""}));
     EXPECT_EQ(Column(TFRQ, {2, 3}), (Texts{"31.0000", ""}));
@@ -236,15 +236,15 @@ TEST_F(DefaultMarkedRows, AreThoseWhoseNumberIsPainted) {
 TEST_F(DefaultMarkedRows, WithoutAMarkChangeNothingButTheZoneCounters) {
     Retarget(Kdrv716, 0);
     Fill({2, 3});
-    const Texts second = Row(2), guard = Row(231);
+    const Texts second = RowTexts(2), guard = RowTexts(231);
     SetCell(0, DESC, "NEW");
     const auto slots = ZoneSlots;
     RunOnColumn(DefaultMarked, DESC);
     EXPECT_EQ(ZoneSlots, slots);
-    EXPECT_EQ(Row(2), second);
+    EXPECT_EQ(RowTexts(2), second);
     RunOnColumn(DefaultMarked, ZONE);
-    EXPECT_EQ(Row(2), second);
-    EXPECT_EQ(Row(231), guard);
+    EXPECT_EQ(RowTexts(2), second);
+    EXPECT_EQ(RowTexts(231), guard);
     for (int zone = 0; zone < 33; ++zone)
         EXPECT_EQ(SlotsTaken(zone), 0) << zone;
 }
@@ -306,7 +306,7 @@ TEST_F(Renumbering, InSequenceCountsRowsWithDataOnly) {
     RunOnColumn(InSequence, MNUM);
     EXPECT_EQ(Column(MNUM, {1, 5, 9}), (Texts{"1", "2", "3"}));
     EXPECT_EQ((Texts{Shown(1), Shown(5), Shown(9)}), (Texts{"001", "002", "003"}));
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 5, 9}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 5, 9}));
     EXPECT_FALSE(CurrentGrid()->IsInSelection(1, MNUM));
 }
 
@@ -317,7 +317,7 @@ TEST_F(Renumbering, ToRowNumbersGivesEveryRowItsOwn) {
     RunOnColumn(ToRowNum, MNUM);
     EXPECT_EQ(Column(MNUM, {1, 5, 9, 122}), (Texts{"1", "5", "9", "122"}));
     EXPECT_EQ(Column(PRIM, {1, 5}), (Texts{"", ""}));
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 5, 9, 122}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 5, 9, 122}));
     EXPECT_FALSE(CurrentGrid()->IsInSelection(1, MNUM));
 }
 
@@ -350,12 +350,12 @@ TEST_F(Renumbering, FromTheMenuOfTheNumberColumn) {
 TEST_F(DefaultFileCommand, FillsEveryRowFromTheDefaultRow) {
     Fill({3, 4});
     SetCell(0, RFRQ, "70.0000");
-    const Texts defaults = Row(0);
+    const Texts defaults = RowTexts(0);
     CurrentParameters().Flags = 0x1A;
     CurrentGrid()->SelectAll();
     Run(DefaultFile);
-    EXPECT_EQ(Row(0), defaults);
-    EXPECT_EQ(testbench::RowsWithData().size(), 122u);
+    EXPECT_EQ(RowTexts(0), defaults);
+    EXPECT_EQ(FilledRows().size(), 122u);
     EXPECT_EQ(Column(DESC, {1, 3, 122}), (Texts{"LOW   001", "LOW   003", "LOW   122"}));
     EXPECT_EQ(Column(RFRQ, {1, 122}), (Texts{"70.0000", "70.0000"}));
     EXPECT_EQ(CurrentParameters().Flags, 0);
@@ -367,14 +367,14 @@ TEST_F(DefaultFileCommand, FillsOnlySelectedRowsAndTheContextRow) {
     SelectRows({7});
     ContextRow = 9;
     Run(DefaultFile);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{7, 9}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{7, 9}));
 }
 
 TEST_F(DefaultFileCommand, WithAContextRowOfALongerPageFillsTheSelection) {
     SelectRows({7});
     ContextRow = 400;
     Run(DefaultFile);
-    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{7});
+    EXPECT_EQ(FilledRows(), std::vector<int>{7});
 }
 
 TEST_F(DefaultFileCommand, DealsTheZonesOfAP25PageAfresh) {
@@ -431,12 +431,12 @@ TEST_F(DefaultFileCommand, FromTheMenuOfTheCornerReachesTheWholePage) {
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, DefaultFile);
     ClickCommand([] { return testbench::CornerSpot(*CurrentGrid()); }, DefaultFile);
-    EXPECT_EQ(testbench::RowsWithData().size(), 122u);
+    EXPECT_EQ(FilledRows().size(), 122u);
 }
 
 TEST_F(DefaultsCommands, TellThatTheyAreMissing) {
     testbench::ShowAndFocus(*MainFrame);
-    const Texts before = Row(0);
+    const Texts before = RowTexts(0);
     testbench::DialogScript dialogs;
     dialogs.ExpectMessage("Save Radio Default Data?", " ! Currently UnImplemented !")
         .Style(testbench::plainBox);
@@ -444,8 +444,8 @@ TEST_F(DefaultsCommands, TellThatTheyAreMissing) {
         .Style(testbench::plainBox);
     ClickRowCommand(0, SaveDefault);
     ClickRowCommand(0, LoadDefault);
-    EXPECT_EQ(Row(0), before);
-    EXPECT_TRUE(testbench::RowsWithData().empty());
+    EXPECT_EQ(RowTexts(0), before);
+    EXPECT_TRUE(FilledRows().empty());
 }
 
 TEST_F(ClearHighlight, TakesPaintOfShownColumnsAwayMarksIncluded) {

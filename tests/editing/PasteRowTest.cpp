@@ -22,14 +22,14 @@ protected:
 
 TEST_F(PasteRowCommand, WithoutACopyTellsThatThereIsNone) {
     Fill({3});
-    const Texts before = Row(3);
+    const Texts before = RowTexts(3);
     ContextRow = 3;
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, PasteRow);
     dialogs.ExpectMessage("Error - Empty paste buffer!", "Cannot paste empty row.")
         .Style(testbench::plainBox);
     MainFrame->m_contextMenu->SendEvent(PasteRow);
-    EXPECT_EQ(Row(3), before);
+    EXPECT_EQ(RowTexts(3), before);
 }
 
 TEST_F(PasteRowCommand, WritesColumns0To29AndKeepsTheTransferFlags) {
@@ -38,12 +38,12 @@ TEST_F(PasteRowCommand, WritesColumns0To29AndKeepsTheTransferFlags) {
     SetCell(3, TFLG, "A1");
     SetCell(5, TFLG, "C0");
     CopyToWithNumber(3, 5);
-    Texts expected = Row(3);
+    Texts expected = RowTexts(3);
     expected[MNUM] = "005";
     expected[BAND] = "";
     expected[DESC] = "ROW3";
     expected[TFLG] = "C0";
-    EXPECT_EQ(Row(5), expected);
+    EXPECT_EQ(RowTexts(5), expected);
 }
 
 // A departure: with an empty number the pasted row would not be saved.
@@ -108,7 +108,7 @@ TEST_F(PasteRowCommand, PastesOneRowWhateverIsSelected) {
     SelectRows({5, 6, 7});
     ContextRow = 5;
     Run(PasteRow);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{3, 5}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{3, 5}));
 }
 
 TEST_F(PasteRowCommand, OfZoneXLocksScanAndAPasteOfAnotherZoneMakesItWritableAgain) {
@@ -205,10 +205,10 @@ TEST_F(PasteRowCommand, WorksOnAnotherPageAndItsTypeIsChecked) {
 TEST_F(PasteRowCommand, NeverTouchesTheDefaultRow) {
     Fill({3});
     RunOnRow(CopyRow, 3);
-    const Texts before = Row(0);
+    const Texts before = RowTexts(0);
     ContextRow = 0;
     MainFrame->m_contextMenu->SendEvent(PasteRow);
-    EXPECT_EQ(Row(0), before);
+    EXPECT_EQ(RowTexts(0), before);
 }
 
 TEST_F(PasteRowCommand, FromTheMenuPastesIntoTheRowThatWasClicked) {
@@ -219,5 +219,5 @@ TEST_F(PasteRowCommand, FromTheMenuPastesIntoTheRowThatWasClicked) {
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, PasteRow);
     ClickRowCommand(6, PasteRow);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{3, 6}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{3, 6}));
 }

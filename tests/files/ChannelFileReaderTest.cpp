@@ -190,7 +190,7 @@ TEST_F(ChannelFileReader, ChangesTheColumnsWhenOnlyTheTypeDiffers) {
 TEST_F(ChannelFileReader, LoadsAHeaderWithoutMemoriesAsAnEmptyPage) {
     for (const TypedTarget& target : Targets) {
         ASSERT_EQ(0, Open(FileOf(target.type, ""))) << target.type;
-        EXPECT_EQ(std::vector<int>{0}, RowsWithText()) << target.type;
+        EXPECT_EQ(std::vector<int>{0}, FilledRows(0)) << target.type;
     }
 }
 
@@ -218,7 +218,7 @@ TEST_F(ChannelFileReader, ReplacesTheDefaultRowByThatOfTheFile) {
 TEST_F(ChannelFileReader, TakesTheRowFromItsAttributeWhateverTheNumber) {
     ASSERT_EQ(0, Open(FileOf("ANFM", Memory(40, "<MN>007</MN>"))));
     EXPECT_EQ("007", Text(40, MNUM));
-    EXPECT_EQ((std::vector<int>{0, 40}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 40}), FilledRows(0));
 }
 
 TEST_F(ChannelFileReader, ReadsAMemoryWithoutRowIntoRowZero) {
@@ -233,7 +233,7 @@ TEST_F(ChannelFileReader, PassesOverRowsOutsideTheGrid) {
         ASSERT_EQ(0, Open(FileOf("ANFM", "<MEMORY row=\"" + std::string(row) + "\"><DS>GONE</DS></MEMORY>" +
                                              Memory(102, "<DS>LAST</DS>"))))
             << row;
-        EXPECT_EQ((std::vector<int>{0, 102}), RowsWithText()) << "\"" << row << "\"";
+        EXPECT_EQ((std::vector<int>{0, 102}), FilledRows(0)) << "\"" << row << "\"";
         EXPECT_EQ(isZero ? "GONE" : "VHF   138", Text(0, DESC)) << "\"" << row << "\"";
     }
 }
@@ -371,7 +371,7 @@ TEST_F(ChannelFileReader, LeavesRowsOfAP25PageThatTheFileLacksEmpty) {
         for (const bool fromP25 : {false, true}) {
             fromP25 ? RetargetTo(type) : RetargetTo("ANFM");
             ASSERT_EQ(0, Open(FileOf(type, P25Memory(9, "0", "N", "4"))));
-            EXPECT_EQ((std::vector<int>{0, 9}), RowsWithText()) << type << " from P25: " << fromP25;
+            EXPECT_EQ((std::vector<int>{0, 9}), FilledRows(0)) << type << " from P25: " << fromP25;
             EXPECT_EQ(1, TakenSlots()) << type << " from P25: " << fromP25;
         }
 }
@@ -533,7 +533,7 @@ TEST_F(ChannelFileReader, AnswersWhatTheHeaderLacksAndStoresNothingOfIt) {
             EXPECT_EQ(TargetOf(former).radio, PageStrings[0].RadioName);
             EXPECT_EQ(TargetOf(former).band, PageStrings[0].BandName);
             EXPECT_EQ(former, PageStrings[0].TypeName);
-            EXPECT_EQ(std::vector<int>{0}, RowsWithText()) << "the former content is gone";
+            EXPECT_EQ(std::vector<int>{0}, FilledRows(0)) << "the former content is gone";
             EXPECT_EQ(std::string(former) == "RP25" ? "VHF  136" : "UHFAM 225", Text(0, DESC));
             EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
             EXPECT_EQ(0, TakenSlots());
@@ -549,7 +549,7 @@ TEST_F(ChannelFileReader, AnswersThatADocumentHasNoRoot) {
 TEST_F(ChannelFileReader, StopsAtAnElementThatIsNoMemoryAndKeepsTheRowsBeforeIt) {
     ASSERT_EQ(109, Open(FileOf("NP25", P25Memory(0, "0", "N", "1") + P25Memory(5, "10", "P-1", "2") +
                                            "<Other/>" + P25Memory(6, "0", "N", "2"))));
-    EXPECT_EQ((std::vector<int>{0, 5}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 5}), FilledRows(0));
     EXPECT_EQ("MEM", Text(0, DESC)) << "the file's own default row";
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(5, SCAN));
     EXPECT_EQ("KDRV-716B", Status(1));

@@ -144,15 +144,6 @@ protected:
 
     static std::string ToolTip() { return MainFrame->m_statusBar->GetToolTipText().utf8_string(); }
 
-    /// Rows of the grid that have a text.
-    static std::vector<int> RowsWithText() {
-        std::vector<int> rows;
-        for (int row = 0; row < CurrentGrid()->GetNumberRows(); ++row)
-            if (RowHasData(row))
-                rows.push_back(row);
-        return rows;
-    }
-
     static std::string Status(int field) {
         return MainFrame->m_statusBar->GetStatusText(field).utf8_string();
     }

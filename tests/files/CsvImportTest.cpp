@@ -48,7 +48,7 @@ TEST_F(CsvImport, FillsARowFromTheDefaultRowAndNumbersIt) {
     expected[MNUM] = "005";
     expected[DESC] = "VHF   005";
     EXPECT_EQ(expected, RowTexts(5));
-    EXPECT_EQ((std::vector<int>{0, 5}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 5}), FilledRows(0));
 }
 
 TEST_F(CsvImport, PutsEachFieldOfTheTableIntoItsCell) {
@@ -231,7 +231,7 @@ TEST_F(CsvImport, AddressesTheDefaultRowAndTheLastTwoByName) {
     EXPECT_EQ("101", Text(101, MNUM));
     EXPECT_EQ("TWO", Text(102, DESC));
     EXPECT_EQ("102", Text(102, MNUM));
-    EXPECT_EQ((std::vector<int>{0, 101, 102}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 101, 102}), FilledRows(0));
 }
 
 TEST_F(CsvImport, OfADefaultRowIsWhatLaterLinesAreFilledFrom) {
@@ -247,7 +247,7 @@ TEST_F(CsvImport, OfADefaultRowIsWhatLaterLinesAreFilledFrom) {
 TEST_F(CsvImport, PassesLinesOverThatNameNoRow) {
     EmptyPageOf("ANFM");
     ASSERT_EQ(2, Import("MNUM,DESC\n5,A\n103,B\n+6,C\n-7,D\nx,E\n,F\n8.,G\n9,H\n"));
-    EXPECT_EQ((std::vector<int>{0, 5, 9}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 5, 9}), FilledRows(0));
 }
 
 TEST_F(CsvImport, LosesLinesBehindThePagesRowCount) {
@@ -259,7 +259,7 @@ TEST_F(CsvImport, LosesLinesBehindThePagesRowCount) {
     EXPECT_EQ("", Text(6, RFRQ)) << "the seventh line";
     EmptyPageOf("O12");
     ASSERT_EQ(6, Import("MNUM\n1\n1\n1\n1\n1\n1\n2\n")) << "lines count, not rows";
-    EXPECT_EQ((std::vector<int>{0, 1}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 1}), FilledRows(0));
 }
 
 TEST_F(CsvImport, OfARowTwiceLeavesTheLaterOne) {
@@ -274,7 +274,7 @@ TEST_F(CsvImport, FillsOnlyTheRowsThatItNames) {
     SetCell(7, DESC, "KEPT");
     Select({7, 8});
     ASSERT_EQ(1, Import("MNUM,DESC\n5,A"));
-    EXPECT_EQ((std::vector<int>{0, 5, 7}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 5, 7}), FilledRows(0));
     EXPECT_EQ("", Text(7, MNUM));
     EXPECT_FALSE(CurrentGrid()->IsSelection());
 }
@@ -485,13 +485,13 @@ TEST_F(CsvImport, WithoutAHeadingSaysSoAndLeavesThePage) {
             .Style(wxOK | wxCENTRE | wxICON_ERROR);
         EXPECT_EQ(0, Import(bytes)) << bytes;
     }
-    EXPECT_EQ((std::vector<int>{0, 5}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 5}), FilledRows(0));
 }
 
 TEST_F(CsvImport, WithoutANumberColumnWritesNothing) {
     EmptyPageOf("ANFM");
     EXPECT_EQ(0, Import("DESC,MODE\nA,W\nB,N\n"));
-    EXPECT_EQ(std::vector<int>{0}, RowsWithText());
+    EXPECT_EQ(std::vector<int>{0}, FilledRows(0));
 }
 
 TEST_F(CsvImport, WorksOnThePageThatIsSelected) {
@@ -511,7 +511,7 @@ TEST_F(KdarImport, PutsEachFieldIntoItsCell) {
                                               {TFLG, "A0"}};
     for (const auto& [col, text] : shown)
         EXPECT_EQ(text, Text(1, col)) << col;
-    EXPECT_EQ((std::vector<int>{0, 1}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 1}), FilledRows(0));
 }
 
 TEST_F(KdarImport, FillsThePageFromItsFirstMemoryWhateverTheNumbers) {
@@ -521,7 +521,7 @@ TEST_F(KdarImport, FillsThePageFromItsFirstMemoryWhateverTheNumbers) {
         EXPECT_EQ(name, Text(row, DESC));
         EXPECT_EQ("00" + std::to_string(row), Text(row, MNUM));
     }
-    EXPECT_EQ((std::vector<int>{0, 1, 2, 3}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 1, 2, 3}), FilledRows(0));
 }
 
 TEST_F(KdarImport, PassesLinesOverWithoutUsingUpARow) {
@@ -529,7 +529,7 @@ TEST_F(KdarImport, PassesLinesOverWithoutUsingUpARow) {
     ASSERT_EQ(2, ImportLines("1,A\nx,B\n101,C\n-1,D\n2,E\n"));
     EXPECT_EQ("A", Text(1, DESC));
     EXPECT_EQ("E", Text(2, DESC));
-    EXPECT_EQ((std::vector<int>{0, 1, 2}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 1, 2}), FilledRows(0));
 }
 
 TEST_F(KdarImport, OfALineWithoutANumberTakesTheRowsNumberAway) {
@@ -616,7 +616,7 @@ TEST_F(KdarImport, WithoutASecondLineSaysSoAndLeavesThePage) {
             .Style(wxOK | wxCENTRE | wxICON_ERROR);
         EXPECT_EQ(0, ImportKdar(bytes)) << bytes;
     }
-    EXPECT_EQ(std::vector<int>{0}, RowsWithText());
+    EXPECT_EQ(std::vector<int>{0}, FilledRows(0));
 }
 
 TEST_F(KdarImport, TakesAnyLineForTheHeading) {
@@ -630,6 +630,6 @@ TEST_F(KdarImport, FillsOnlyItsRows) {
     SetCell(9, DESC, "KEPT");
     Select({9});
     ASSERT_EQ(1, ImportLines("1,A"));
-    EXPECT_EQ((std::vector<int>{0, 1, 9}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 1, 9}), FilledRows(0));
     EXPECT_EQ("", Text(9, MNUM));
 }

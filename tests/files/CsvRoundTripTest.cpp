@@ -331,7 +331,7 @@ TEST_F(CsvRoundTrip, OfANarrowListHasTooFewCommasToBeRecognised) {
     Select({1, 2, 3, 4, 5, 6});
     Export("list.csv");
     ImportByMenu("list.csv", "Error: Unknown File Type.");
-    EXPECT_EQ(std::vector<int>{0}, RowsWithText());
+    EXPECT_EQ(std::vector<int>{0}, FilledRows(0));
 }
 
 TEST_F(CsvRoundTrip, OfFewerThanThreeRowsIsNotRecognised) {
@@ -346,7 +346,7 @@ TEST_F(CsvRoundTrip, OfFewerThanThreeRowsIsNotRecognised) {
             Export("list.csv");
             ImportByMenu("list.csv",
                          rows < 3 ? "Error: Unknown File Type." : "Imported 3 Lines from CSV file.");
-            EXPECT_EQ(rows < 3 ? 1u : 4u, RowsWithText().size()) << rows;
+            EXPECT_EQ(rows < 3 ? 1u : 4u, FilledRows(0).size()) << rows;
         }
     }
 }

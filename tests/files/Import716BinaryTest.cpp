@@ -257,7 +257,7 @@ TEST_F(Binary716, EveryFieldReachesItsCell) {
                     {TFLG, "A8"}});
     for (int col = 0; col < ColumnTotal; ++col)
         EXPECT_FALSE(IsPainted(9, col)) << ColumnTag[col];
-    EXPECT_EQ(Rows({0, 9}), RowsWithText());
+    EXPECT_EQ(Rows({0, 9}), FilledRows(0));
 }
 
 TEST_F(Binary716, AnEmptySquelchIsFilledByTheCode) {
@@ -277,7 +277,7 @@ TEST_F(Binary716, NumbersFrom231OnMoveTo501OnTheLargerRadio) {
     RetargetTo("NP25");
     EXPECT_EQ(
         3, Import(BinaryFile({BinaryRecord(230), BinaryRecord(231), BinaryRecord(232), BinaryRecord(233)})));
-    EXPECT_EQ(Rows({0, 230, 501, 502}), RowsWithText());
+    EXPECT_EQ(Rows({0, 230, 501, 502}), FilledRows(0));
     ExpectCells(501, {{MNUM, "501"}, {PRIM, "501"}, {RNSV, "10"}});
     ExpectCells(502, {{MNUM, "502"}, {PRIM, "502"}});
     ExpectCells(230, {{MNUM, "230"}, {RNSV, "10"}});
@@ -330,19 +330,19 @@ TEST_F(Binary716, TheWriterChecksZoneTonesAndCodesAndLeavesTheOtherTexts) {
 
 TEST_F(Binary716, OnTheSmallerRadioNumbersStay) {
     EXPECT_EQ(2, Import(BinaryFile({BinaryRecord(231), BinaryRecord(232)})));
-    EXPECT_EQ(Rows({0, 231, 232}), RowsWithText());
+    EXPECT_EQ(Rows({0, 231, 232}), FilledRows(0));
     ExpectCells(231, {{ZONE, "16"}, {RNSV, ""}});
 }
 
 TEST_F(Binary716, NumbersPastTheGridAreDroppedAndNotCounted) {
     EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(233), BinaryRecord(5), BinaryRecord(65535)})));
-    EXPECT_EQ(Rows({0, 5}), RowsWithText());
+    EXPECT_EQ(Rows({0, 5}), FilledRows(0));
 }
 
 TEST_F(Binary716, NumberZeroIsTheDefaultRow) {
     EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(0).Text(10, 8, "DEFAULT")})));
     ExpectCells(0, {{MNUM, "000"}, {DESC, "DEFAULT"}});
-    EXPECT_EQ(Rows({0}), RowsWithText());
+    EXPECT_EQ(Rows({0}), FilledRows(0));
 }
 
 TEST_F(Binary716, APrimaryBringsItsShadows) {
@@ -392,7 +392,7 @@ TEST_F(Binary716, ARowThatComesAgainHoldsItsLastRecordAndOneZoneSlot) {
 
 TEST_F(Binary716, AFileOfTheHeaderAloneHasNoRecord) {
     EXPECT_EQ(0, Import(BinaryHeader()));
-    EXPECT_EQ(Rows({0}), RowsWithText());
+    EXPECT_EQ(Rows({0}), FilledRows(0));
 }
 
 TEST_F(Binary716, ALastRecordThatIsCutCountsFromItsNumberOn) {
@@ -441,7 +441,7 @@ TEST_F(Binary716, TheSampleHoldsItsChannels) {
     ExpectCells(34, {{SHAD, "P-2"}, {SHD0, "035"}, {SHD1, "036"}});
     ExpectCells(36, {{SHAD, "S-034"}, {MFLG, "02"}});
     ExpectCells(232, {{DESC, "AIRGUARD"}, {ZONE, "16"}, {RFRQ, "168.6250"}});
-    for (int row : RowsWithText())
+    for (int row : FilledRows(0))
         for (int col = 0; col < ColumnTotal; ++col)
             EXPECT_FALSE(IsPainted(row, col)) << row << " " << ColumnTag[col];
 }

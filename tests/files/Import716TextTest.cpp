@@ -86,7 +86,7 @@ TEST_F(List716, DefIsNumberZero) {
     EXPECT_EQ("000", Read(ListLine("DEF")).Mnum);
     EXPECT_EQ(1, ImportLines({ListLine("DEF", {{13, "DEFAULT "}})}));
     ExpectCells(0, {{MNUM, "000"}, {DESC, "DEFAULT"}});
-    EXPECT_EQ(Rows({0}), RowsWithText());
+    EXPECT_EQ(Rows({0}), FilledRows(0));
 }
 
 TEST_F(List716, GuardNamesAreTheLastTwoRows) {
@@ -148,7 +148,7 @@ TEST_F(List716, ALineOfFewerThan50CharactersEndsTheList) {
     EXPECT_EQ(ListLine716::Memory, Read716TextLine(std::string(50, ' '), 233, record));
     EXPECT_EQ(1, ImportLines({ListLine("007"), "", ListLine("008")}));
     EXPECT_EQ(1, ImportLines({ListLine("007"), std::string(49, 'x'), ListLine("008")}));
-    EXPECT_EQ(Rows({0, 7}), RowsWithText());
+    EXPECT_EQ(Rows({0, 7}), FilledRows(0));
 }
 
 TEST_F(List716, ThreeTitleLinesAreSkippedWhateverTheyHold) {
@@ -156,7 +156,7 @@ TEST_F(List716, ThreeTitleLinesAreSkippedWhateverTheyHold) {
     lines[2] = ListLine("006");
     lines.push_back(ListLine("007"));
     EXPECT_EQ(1, Import(Joined(lines)));
-    EXPECT_EQ(Rows({0, 7}), RowsWithText());
+    EXPECT_EQ(Rows({0, 7}), FilledRows(0));
 }
 
 TEST_F(List716, EveryFieldReachesItsCell) {
@@ -185,7 +185,7 @@ TEST_F(List716, EveryFieldReachesItsCell) {
 
 TEST_F(List716, AnUndefinedLineRepeatsTheRecordBeforeIt) {
     EXPECT_EQ(3, ImportLines({ListLine("007"), UndefinedLine("008"), ErasedLine("009")}));
-    EXPECT_EQ(Rows({0, 7}), RowsWithText());
+    EXPECT_EQ(Rows({0, 7}), FilledRows(0));
     EXPECT_EQ(1, TakenSlots());
     EXPECT_EQ("1", Text(7, ZONE));
 }
@@ -201,21 +201,21 @@ TEST_F(List716, RepeatedRecordsDoNotFillTheirZone) {
 
 TEST_F(List716, AnUndefinedLineInFrontHasNothingToRepeat) {
     EXPECT_EQ(1, ImportLines({UndefinedLine("001"), ListLine("007")}));
-    EXPECT_EQ(Rows({0, 7}), RowsWithText());
+    EXPECT_EQ(Rows({0, 7}), FilledRows(0));
 }
 
 TEST_F(List716, ARepeatedRecordThatHasMovedMovesAgainAndIsDropped) {
     RetargetTo("NP25");
     EXPECT_EQ(1, ImportLines({ListLine("231"), UndefinedLine("232")}));
-    EXPECT_EQ(Rows({0, 501}), RowsWithText());
+    EXPECT_EQ(Rows({0, 501}), FilledRows(0));
     EXPECT_EQ(2, ImportLines({ListLine("230"), UndefinedLine("231")}));
-    EXPECT_EQ(Rows({0, 230}), RowsWithText());
+    EXPECT_EQ(Rows({0, 230}), FilledRows(0));
 }
 
 TEST_F(List716, NumbersFrom231OnMoveTo501OnTheLargerRadio) {
     RetargetTo("NP25");
     EXPECT_EQ(3, ImportLines({ListLine("230"), ListLine("231"), ListLine("232"), ListLine("233")}));
-    EXPECT_EQ(Rows({0, 230, 501, 502}), RowsWithText());
+    EXPECT_EQ(Rows({0, 230, 501, 502}), FilledRows(0));
     ExpectCells(502, {{MNUM, "502"}, {PRIM, "502"}, {RNSV, "10"}});
 }
 
@@ -225,7 +225,7 @@ TEST_F(List716, GuardsLandInTheGuardRowsOfThePage) {
         SCOPED_TRACE(type);
         RetargetTo(type);
         EXPECT_EQ(2, ImportLines({ListLine("GD1", {{13, "GUARD 1 "}}), ListLine("GD2", {{13, "GUARD 2 "}})}));
-        EXPECT_EQ(Rows({0, first, first + 1}), RowsWithText());
+        EXPECT_EQ(Rows({0, first, first + 1}), FilledRows(0));
         EXPECT_EQ("GUARD 1", Text(first, DESC));
         EXPECT_EQ("GUARD 2", Text(first + 1, DESC));
         EXPECT_EQ(wxString::Format("%d", first), Text(first, MNUM));
@@ -238,7 +238,7 @@ TEST_F(List716, GuardsLandInTheGuardRowsOfThePage) {
 TEST_F(List716, AnUndefinedLineBehindAGuardRepeatsItAsItWas) {
     RetargetTo("NP25");
     EXPECT_EQ(3, ImportLines({ListLine("GD1"), UndefinedLine("008"), ListLine("GD2")}));
-    EXPECT_EQ(Rows({0, 501, 502}), RowsWithText());
+    EXPECT_EQ(Rows({0, 501, 502}), FilledRows(0));
 }
 
 TEST_F(List716, GuardsArePassedOverWhereThePageHasNone) {
@@ -246,18 +246,18 @@ TEST_F(List716, GuardsArePassedOverWhereThePageHasNone) {
         SCOPED_TRACE(type);
         RetargetTo(type);
         EXPECT_EQ(1, ImportLines({ListLine("GD1"), UndefinedLine("001"), ListLine("002"), ListLine("GD2")}));
-        EXPECT_EQ(Rows({0, 2}), RowsWithText());
+        EXPECT_EQ(Rows({0, 2}), FilledRows(0));
     }
 }
 
 TEST_F(List716, NumbersPastTheGridAreDroppedAndNotCounted) {
     EXPECT_EQ(1, ImportLines({ListLine("233"), ListLine("007"), ListLine("999"), ListLine("-01")}));
-    EXPECT_EQ(Rows({0, 7}), RowsWithText());
+    EXPECT_EQ(Rows({0, 7}), FilledRows(0));
 }
 
 TEST_F(List716, ALineWithoutANumberIsPassedOver) {
     EXPECT_EQ(1, ImportLines({ListLine("   "), ListLine("007")}));
-    EXPECT_EQ(Rows({0, 7}), RowsWithText());
+    EXPECT_EQ(Rows({0, 7}), FilledRows(0));
     EXPECT_EQ("VHF  136", Text(0, DESC));
 }
 
@@ -314,7 +314,7 @@ TEST_F(List716, AShadowOfAFullPrimaryKeepsItsFlagsAndHasNoSlot) {
 TEST_F(List716, AShadowWhosePrimaryIsNoRowStaysUnlinked) {
     for (const char* primary : {"000", "GD1", "233", "999", "-05", "abc", "   "}) {
         EXPECT_EQ(1, ImportLines({ShadowLine("006", primary)})) << primary;
-        EXPECT_EQ(Rows({0, 6}), RowsWithText()) << primary;
+        EXPECT_EQ(Rows({0, 6}), FilledRows(0)) << primary;
         EXPECT_EQ("01", Text(6, MFLG)) << primary;
     }
 }
@@ -349,7 +349,7 @@ TEST_F(List716, CharactersBehindThe100thAreDropped) {
     const std::string longLine = ListLine("007", {{86, std::string(1 << 20, '9')}});
     EXPECT_EQ(2, ImportLines({longLine, ListLine("008")}));
     EXPECT_EQ("293", Text(7, TNAC));
-    EXPECT_EQ(Rows({0, 7, 8}), RowsWithText());
+    EXPECT_EQ(Rows({0, 7, 8}), FilledRows(0));
 }
 
 TEST_F(List716, NamesAreUtf8OrLatin1) {
@@ -383,8 +383,8 @@ TEST_F(List716, TheSamplesHoldTheirChannels) {
         ExpectCells(34, {{SHAD, "P-2"}, {SHD0, "35"}, {SHD1, "36"}});
         ExpectCells(36, {{SHAD, "S-034"}, {MFLG, "02"}, {ZONE, "3"}});
         ExpectCells(232, {{DESC, "AIRGUARD"}, {ZONE, "16"}});
-        EXPECT_EQ(39u, RowsWithText().size());
-        for (int row : RowsWithText())
+        EXPECT_EQ(39u, FilledRows(0).size());
+        for (int row : FilledRows(0))
             for (int col = 0; col < ColumnTotal; ++col)
                 EXPECT_FALSE(IsPainted(row, col)) << row << " " << ColumnTag[col];
     }

@@ -50,7 +50,7 @@ TEST_F(ImportCommand, PutsA716BinaryFileIntoPagesOfEveryType) {
         RetargetTo(page.type);
         SetCell(4, DESC, "FORMER");
         ImportByMenu("list.716", "Imported 2 Lines from 716 Binary file.");
-        EXPECT_EQ(Rows({0, 5, 6}), RowsWithText());
+        EXPECT_EQ(Rows({0, 5, 6}), FilledRows(0));
         ExpectCells(5, {{MNUM, "005"}, {DESC, "VCALL10"}, {RFRQ, page.checked}, {RTON, page.checkedTone}});
         ExpectCells(6, {{MNUM, "006"}, {DESC, "SECOND"}});
         EXPECT_EQ(page.isPainted, IsPainted(5, RFRQ));
@@ -64,7 +64,7 @@ TEST_F(ImportCommand, PutsA716ListIntoPagesOfEveryType) {
         SCOPED_TRACE(page.type);
         RetargetTo(page.type);
         ImportByMenu("list.txt", "Imported 2 Lines from 716 Text file.");
-        EXPECT_EQ(Rows({0, 5, 6}), RowsWithText());
+        EXPECT_EQ(Rows({0, 5, 6}), FilledRows(0));
         ExpectCells(5, {{MNUM, "005"}, {DESC, "VCALL10"}, {RFRQ, page.checked}, {RTON, page.checkedTone}});
         ExpectCells(6, {{MNUM, "006"}, {DESC, "SECOND"}});
         EXPECT_EQ(page.isPainted, IsPainted(5, RFRQ));
@@ -78,7 +78,7 @@ TEST_F(ImportCommand, PutsAMultiZELFileIntoPagesOfEveryType) {
         SCOPED_TRACE(page.type);
         RetargetTo(page.type);
         ImportByMenu("list.630", "Imported 3 Lines from MultiZEL file.");
-        EXPECT_EQ(Rows({0, 1, 2, 6}), RowsWithText());
+        EXPECT_EQ(Rows({0, 1, 2, 6}), FilledRows(0));
         ExpectCells(6, {{MNUM, "006"}, {DESC, "SECOND   "}, {RFRQ, page.replaced}, {RTON, page.checkedTone}});
         EXPECT_FALSE(IsPainted(6, RFRQ));
         EXPECT_EQ(0x02, CurrentParameters().Flags);
@@ -93,7 +93,7 @@ TEST_F(ImportCommand, PutsACsvFileIntoPagesOfEveryType) {
         SCOPED_TRACE(page.type);
         RetargetTo(page.type);
         ImportByMenu("list.csv", "Imported 3 Lines from CSV file.");
-        EXPECT_EQ(Rows({0, 3, 5, 6}), RowsWithText());
+        EXPECT_EQ(Rows({0, 3, 5, 6}), FilledRows(0));
         ExpectCells(5, {{MNUM, "005"}, {DESC, "FIRST"}, {RFRQ, page.checked}});
         EXPECT_EQ(page.isPainted, IsPainted(5, RFRQ));
     }
@@ -106,7 +106,7 @@ TEST_F(ImportCommand, PutsAKdarListIntoPagesOfEveryType) {
         SCOPED_TRACE(page.type);
         RetargetTo(page.type);
         ImportByMenu("list.csv", "Imported 2 Lines from KDAR file.");
-        EXPECT_EQ(Rows({0, 1, 2}), RowsWithText());
+        EXPECT_EQ(Rows({0, 1, 2}), FilledRows(0));
         EXPECT_EQ("GUARD", Text(1, DESC));
     }
 }
@@ -153,7 +153,7 @@ TEST_F(ImportCommand, ClearsThePageForAFileOfNoKind) {
         CurrentParameters().Flags = PageHasMarks;
         WriteToFolder("file.716", "something else\n");
         ImportByMenu("file.716", UnknownType);
-        EXPECT_EQ(Rows({0}), RowsWithText());
+        EXPECT_EQ(Rows({0}), FilledRows(0));
         EXPECT_NE("FORMER", Text(0, DESC));
         EXPECT_FALSE(IsPainted(5, RFRQ));
         EXPECT_EQ(0, TakenSlots());
@@ -170,7 +170,7 @@ TEST_F(ImportCommand, ClearsThePageForAFileThatIsNotThere) {
     });
     script.ExpectMessage("Import File", UnknownType);
     Choose(IdImport);
-    EXPECT_EQ(Rows({0}), RowsWithText());
+    EXPECT_EQ(Rows({0}), FilledRows(0));
 }
 
 TEST_F(ImportCommand, SaysTheSameOfAKindThatHoldsNothing) {
@@ -179,7 +179,7 @@ TEST_F(ImportCommand, SaysTheSameOfAKindThatHoldsNothing) {
         SetCell(5, DESC, "FORMER");
         WriteToFolder(name, bytes);
         ImportByMenu(name, UnknownType);
-        EXPECT_EQ(Rows({0}), RowsWithText());
+        EXPECT_EQ(Rows({0}), FilledRows(0));
     }
 }
 
@@ -270,7 +270,7 @@ TEST_F(ImportCommand, ADigitalPageHoldsNoRowsButTheFiles) {
         RetargetTo(type);
         WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));
         ImportByMenu("list.716", "Imported 1 Lines from 716 Binary file.");
-        EXPECT_EQ(Rows({0, 5}), RowsWithText()) << type;
+        EXPECT_EQ(Rows({0, 5}), FilledRows(0)) << type;
         EXPECT_EQ(1, TakenSlots()) << type;
     }
 }
@@ -335,5 +335,5 @@ TEST_F(ImportCommand, ReadsAFileByItsContentsWhateverItsName) {
     ImportByMenu("list.csv", "Imported 1 Lines from 716 Binary file.");
     WriteToFolder("list.716", ListFile({ListLine("006")}));
     ImportByMenu("list.716", "Imported 1 Lines from 716 Text file.");
-    EXPECT_EQ(Rows({0, 6}), RowsWithText()) << "the former file has gone with its import";
+    EXPECT_EQ(Rows({0, 6}), FilledRows(0)) << "the former file has gone with its import";
 }

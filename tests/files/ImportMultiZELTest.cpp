@@ -273,7 +273,7 @@ TEST_F(MultiZEL, AllLinesCount) {
     RetargetTo("ANFM");
     EXPECT_EQ(9, Import(MultiZELFileOf({MultiZELLine("007"), "", "   ", MultiZELLine("   "),
                                         MultiZELLine("103"), MultiZELLine("-01"), MultiZELLine("999")})));
-    EXPECT_EQ(Rows({0, 1, 2, 7}), RowsWithText());
+    EXPECT_EQ(Rows({0, 1, 2, 7}), FilledRows(0));
     EXPECT_EQ("VHF   138", Text(0, DESC)) << "a line without a number writes nothing";
 }
 
@@ -281,7 +281,7 @@ TEST_F(MultiZEL, ATextThatIsNoNumberIsRowZero) {
     RetargetTo("ANFM");
     EXPECT_EQ(3, Import(MultiZELFileOf({MultiZELLine("abc", {{4, "HERE     "}})})));
     EXPECT_EQ("HERE     ", Text(0, DESC));
-    EXPECT_EQ(Rows({0, 1, 2}), RowsWithText());
+    EXPECT_EQ(Rows({0, 1, 2}), FilledRows(0));
 }
 
 TEST_F(MultiZEL, AShortLineIsReadAsFarAsItGoes) {
@@ -305,7 +305,7 @@ TEST_F(MultiZEL, LinesMayEndInAnyWayAndTheLastInNone) {
         EXPECT_EQ(3, Import(bytes));
         bytes.resize(bytes.size() - std::string(end).size());
         EXPECT_EQ(3, Import(bytes));
-        EXPECT_EQ(Rows({0, 1, 2, 3}), RowsWithText());
+        EXPECT_EQ(Rows({0, 1, 2, 3}), FilledRows(0));
     }
 }
 
@@ -333,7 +333,7 @@ TEST_F(MultiZEL, TheSamplesHoldTheirChannels) {
         SCOPED_TRACE(name);
         Retarget(radio, slot);
         EXPECT_EQ(lines, Import(SampleFile(name)));
-        EXPECT_EQ(static_cast<size_t>(lines) + 1, RowsWithText().size());
+        EXPECT_EQ(static_cast<size_t>(lines) + 1, FilledRows(0).size());
         ExpectCells(row,
                     {{DESC, description}, {RFRQ, receive}, {TFRQ, transmit}, {TCOD, "023"}, {RCOD, "754"}});
     }

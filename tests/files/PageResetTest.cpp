@@ -12,7 +12,7 @@ TEST_F(PageReset, LeavesAnAnalogPageWithItsDefaultRowAlone) {
     SetCell(7, DESC, "OLD");
     SetCell(102, TFLG, "A0");
     ResetPage(0);
-    EXPECT_EQ(std::vector<int>{0}, RowsWithText());
+    EXPECT_EQ(std::vector<int>{0}, FilledRows(0));
     EXPECT_EQ("VHF   138", Text(0, DESC));
 }
 
@@ -20,7 +20,7 @@ TEST_F(PageReset, FillsTheStartingRowsOfAP25PageAndGivesAllSlotsBack) {
     RetargetTo("RP25");
     FillRowsFromDefault({5, 6, 7});
     ResetPage(0);
-    EXPECT_EQ((std::vector<int>{0, 1, 231, 232}), RowsWithText());
+    EXPECT_EQ((std::vector<int>{0, 1, 231, 232}), FilledRows(0));
     EXPECT_EQ(0, TakenSlots());
 }
 
@@ -74,7 +74,7 @@ TEST_F(PageReset, CanBeFollowedByEmptyingTheStartingRows) {
     RetargetTo("NP25");
     EXPECT_EQ(3, TakenSlots());
     EmptyDefaultMemories(0);
-    EXPECT_EQ(std::vector<int>{0}, RowsWithText());
+    EXPECT_EQ(std::vector<int>{0}, FilledRows(0));
     EXPECT_EQ(0, TakenSlots());
     RetargetTo("ANFM");
     SetCell(1, DESC, "KEPT");

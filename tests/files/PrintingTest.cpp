@@ -120,7 +120,7 @@ TEST_F(Printing, CountsNothingBeforeThePageInfo) {
 }
 
 TEST_F(Printing, APageOfFewRowsIsPrintedWholeAllTheSame) {
-    ASSERT_EQ(std::vector<int>{0}, RowsWithText());
+    ASSERT_EQ(std::vector<int>{0}, FilledRows(0));
     ZelkPrintout printout = Printout();
     EXPECT_EQ(4, Pages(printout)) << "123 rows, blank ones too";
     EXPECT_EQ(39, printout.RowsPerPage());

@@ -15,7 +15,7 @@ protected:
     /// the type.
     static Cells Rows(const std::vector<int>& columns) {
         Cells rows;
-        for (int row : RowsWithText())
+        for (int row : FilledRows(0))
             for (int col : columns)
                 rows[row].push_back(Text(row, col));
         return rows;

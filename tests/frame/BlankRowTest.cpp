@@ -34,7 +34,7 @@ TEST_F(TypingInto, ABlankRowFillsItFromTheDefaultRow) {
                             "OFF", "OFF", "", "", "70.0000",  "",  "OFF", "OFF",       "",  "",        "", "",
                             "",    "",    "", "", "",         "",  "",    "A0"};
     EXPECT_EQ(RowTexts(5), expected);
-    EXPECT_EQ(RowsWithData(), std::vector<int>{5});
+    EXPECT_EQ(FilledRows(), std::vector<int>{5});
 }
 
 TEST_F(TypingInto, TheDescriptionOfABlankRowKeepsWhatWasTyped) {
@@ -93,7 +93,7 @@ TEST_F(TypingInto, TheDefaultRowChangesJustThatCell) {
     TypeIntoCell(*CurrentGrid(), 0, DESC, "DELTA 1");
     expected[DESC] = "DELTA 1";
     EXPECT_EQ(RowTexts(0), expected);
-    EXPECT_EQ(RowsWithData(), std::vector<int>{});
+    EXPECT_EQ(FilledRows(), std::vector<int>{});
 }
 
 TEST_F(TypingInto, ABlankRowSelectsItAlone) {
@@ -118,7 +118,7 @@ TEST_F(TypingInto, ABlankRowLeavesOtherSelectedRowsAsTheyAre_Departure) {
     CommitOpenEditor();
     EXPECT_EQ(Cell(5, DESC), "ALPHA");
     EXPECT_EQ(RowTexts(2), kept);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{2, 5}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{2, 5}));
     EXPECT_EQ(SelectedRows(), std::vector<int>{5});
 }
 
@@ -137,7 +137,7 @@ TEST_F(TypingInto, ABlankGuardRowFillsIt) {
     TypeIntoCell(*CurrentGrid(), 122, DESC, "GUARD");
     EXPECT_EQ(Cell(122, MNUM), "122");
     EXPECT_EQ(Cell(122, DESC), "GUARD");
-    EXPECT_EQ(RowsWithData(), std::vector<int>{122});
+    EXPECT_EQ(FilledRows(), std::vector<int>{122});
 }
 
 TEST_F(TypingInto, ABlankRowAndEscapeLeaveItBlank) {

@@ -118,19 +118,4 @@ void FillRow(wxGrid* grid, int row, const std::string& text) {
         grid->SetCellValue(row, col, text);
 }
 
-std::vector<std::string> RowTexts(int row) {
-    std::vector<std::string> texts;
-    for (const wxString& text : GetRowValues(CurrentPage, row))
-        texts.push_back(text.utf8_string());
-    return texts;
-}
-
-std::vector<int> RowsWithData() {
-    std::vector<int> rows;
-    for (int row = 1; row <= CurrentParameters().Rows; ++row)
-        if (RowHasData(row))
-            rows.push_back(row);
-    return rows;
-}
-
 } // namespace testbench

@@ -183,7 +183,7 @@ TEST_F(ChangingTheTarget, MovesGuardsToTheirNewPlace) {
     FillRow(CurrentGrid(), 120, "ordinary");
     ChangeTarget(Krv610, 0);
     ASSERT_EQ(CurrentGrid()->GetNumberRows(), 203);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{120, 201, 202}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{120, 201, 202}));
     EXPECT_EQ(Cell(201, DESC), "FIRST");
     EXPECT_EQ(Cell(201, MNUM), "201");
     EXPECT_EQ(Cell(202, DESC), "SECOND");
@@ -200,7 +200,7 @@ TEST_F(ChangingTheTarget, OfOneP25GenerationToTheOtherMovesTheGuards) {
     SetCell(232, DESC, "SECOND");
     ChangeTarget(Kdrv716B);
     ASSERT_EQ(CurrentGrid()->GetNumberRows(), 503);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 501, 502}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 501, 502}));
     EXPECT_EQ(Cell(501, DESC), "FIRST");
     EXPECT_EQ(Cell(501, MNUM), "501");
     EXPECT_EQ(Cell(502, DESC), "SECOND");
@@ -216,7 +216,7 @@ TEST_F(ChangingTheTarget, KeepsMemoryRowsAndTheirHiddenCells) {
     SetCell(5, MNUM, "005");
     for (int radio : {Orv12, Kdar2000, Krv47}) {
         ChangeTarget(radio);
-        EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 5})) << "radio " << radio;
+        EXPECT_EQ(FilledRows(), (std::vector<int>{1, 5})) << "radio " << radio;
         ExpectKept(1, "ONE");
         ExpectKept(5, "FIVE");
         EXPECT_EQ(Cell(1, MNUM), "001") << "radio " << radio;
@@ -251,7 +251,7 @@ TEST_F(ChangingTheTarget, ToAP25RadioFillsOnlyBlankStartingRows_Departure) {
     SetCell(2, TFLG, "A0");
     SetCell(2, MNUM, "2");
     ChangeTarget(Kdrv716);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 2, 231, 232}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 2, 231, 232}));
     EXPECT_EQ(Cell(1, DESC), "one");
     EXPECT_EQ(Cell(231, MNUM), "231");
     EXPECT_EQ(Cell(232, PRIM), "232");
@@ -339,7 +339,7 @@ TEST_F(ChangingTheTarget, ToTheSecondP25GenerationSavesEveryMemory_Departure) {
     EXPECT_EQ(Cell(2, RNSV), "10");
     EXPECT_TRUE(IsPainted(2, RNSV));
     EXPECT_FALSE(IsPainted(2, DESC));
-    EXPECT_EQ(RowsWithData().size(), 40u);
+    EXPECT_EQ(FilledRows().size(), 40u);
 }
 
 TEST_F(ChangingTheTarget, ToKdar2000SavesEveryMemory_Departure) {
@@ -411,7 +411,7 @@ TEST_F(ChangingTheTarget, ToASmallerGridGivesTheLastRowItsNewNumber_Departure) {
     SetCell(200, DESC, "LAST");
     SetCell(150, MNUM, "");
     ChangeTarget(Krv214);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{7, 102}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{7, 102}));
     EXPECT_EQ(Cell(102, DESC), "LAST");
     EXPECT_EQ(Cell(102, MNUM), "102");
     EXPECT_EQ(Cell(7, MNUM), "007");

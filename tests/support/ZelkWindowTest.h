@@ -6,6 +6,7 @@
 #include "editing/ZelkEditors.h"
 #include "frame/TargetSelection.h"
 #include "frame/ZelkMain.h"
+#include "tests/support/PageTexts.h"
 
 #include <gtest/gtest.h>
 
@@ -14,6 +15,8 @@
 
 using enum RadioCatalogue::RadioIndex;
 using RadioCatalogue::ModuleSlot;
+using testbench::FilledRows;
+using testbench::RowTexts;
 
 /// Shows the window with its first page (KRV-47) before each test and destroys it after it.
 class ZelkWindowTest : public ::testing::Test {

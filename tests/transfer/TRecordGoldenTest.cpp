@@ -49,7 +49,7 @@ TEST_P(TRecordGeneration, IsWrittenTo) {
 
 TEST_P(TRecordGeneration, IsReadFrom) {
     EXPECT_EQ(TransferBy(Name("read"), ReadChannelsMode), TransferComplete);
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(2u, FilledRows().size());
     for (const int row : {1, 4}) {
         EXPECT_EQ(CellText(row, MNUM), IsLatest() ? std::to_string(row) : "00" + std::to_string(row));
         EXPECT_EQ(CellText(row, DESC), "HILL");
@@ -193,7 +193,7 @@ TEST_F(TRecordGolden, WriteSurvivesTrouble) {
 
 TEST_F(TRecordGolden, ReadSurvivesTrouble) {
     EXPECT_EQ(TransferBy("read_trouble", ReadChannelsMode), TransferComplete);
-    EXPECT_EQ(FilledRows(), 3);
+    EXPECT_EQ(3u, FilledRows().size());
 }
 
 TEST_F(TRecordGolden, UserSaysYesToDisabledModes) {
@@ -266,7 +266,7 @@ TEST_F(TRecordGolden, SecondGarbledRecordEndsARead) {
     DialogScript script;
     ExpectDriverBox(script, "Checksum Error on channel 0");
     EXPECT_EQ(TransferBy("read_garbled_twice", ReadChannelsMode), TransferChecksumError);
-    EXPECT_EQ(FilledRows(), 0);
+    EXPECT_EQ(0u, FilledRows().size());
 }
 
 TEST_F(TRecordGolden, OldFirmwareIsFoundOutBeforeAnyMemoryIsTouched) {

@@ -98,14 +98,6 @@ protected:
         return all;
     }
 
-    /// Memory rows that hold anything.
-    static int FilledRows() {
-        int filled = 0;
-        for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
-            filled += RowHasData(row);
-        return filled;
-    }
-
     /// What every transfer must leave: a window that can be used, and nothing of its own.
     static void ExpectOver() {
         EXPECT_EQ(OpenProgress(), nullptr) << "the progress window is still there";

@@ -105,9 +105,8 @@ TEST_F(DefaultColumn, OfTheModuleSwitchesToneAndCodeOffToo) {
 TEST_F(DefaultColumn, OfTheModulesBandEmptiesTheFrequenciesOfRowsThatWereOnAnother) {
     Retarget(Kdrv4xxx, ModuleSlot);
     Fill({2, 3, 4});
-    SetCell(3, BAND, "AM 225-400");
-    SetCell(3, RFRQ, "230.0000");
-    SetCell(0, BAND, "FM 30-50");
+    SetCells(3, {{BAND, "AM 225-400"}, {RFRQ, "230.0000"}});
+    SetCells(0, {{BAND, "FM 30-50"}});
     SetPageEditors(CurrentPage);
     ASSERT_TRUE(IsReadOnly(3, MODE));
     SetCell(3, RTON, "67.0");
@@ -516,14 +515,9 @@ TEST_F(DefaultMarkedRows, ForReceiveOnlySetThatColumn) {
 TEST_F(DefaultColumn, OfTheModeBringsP25RowsTheSquelchesOfTheNewMode) {
     Retarget(Kdrv716, 0);
     Fill({2, 3, 4});
-    SetCell(2, MODE, "D");
-    SetCell(2, RSQL, "m");
-    SetCell(2, TSQL, "g");
-    SetCell(3, MODE, "w");
-    SetCell(3, RSQL, "t");
-    SetCell(3, TSQL, "t");
-    SetCell(4, RSQL, "c");
-    SetCell(4, TSQL, "c");
+    SetCells(2, {{MODE, "D"}, {RSQL, "m"}, {TSQL, "g"}});
+    SetCells(3, {{MODE, "w"}, {RSQL, "t"}, {TSQL, "t"}});
+    SetCells(4, {{RSQL, "c"}, {TSQL, "c"}});
     RunOnColumn(DefaultCol, MODE);
     EXPECT_EQ(Column(MODE, {2, 3, 4}), (Texts{"n", "n", "n"}));
     EXPECT_EQ(Column(RSQL, {2, 3, 4}), (Texts{"x", "x", "c"}))

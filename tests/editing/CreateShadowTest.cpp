@@ -68,6 +68,17 @@ protected:
         return offered;
     }
 
+    /// Enters each of the numbers for a shadow of row 10, and expects that it is in use.
+    static void TryNumbersInUse(std::initializer_list<const char*> numbers) {
+        for (const char* number : numbers) {
+            SCOPED_TRACE(number);
+            testbench::DialogScript dialogs;
+            ExpectEntry(dialogs, 10, 1, number);
+            ExpectRefusal(dialogs, "Selected memory is already in use.");
+            RunOn(10);
+        }
+    }
+
     static void ExpectRefusal(testbench::DialogScript& dialogs, const char* message) {
         dialogs.ExpectMessage(Caption, message).Style(testbench::plainBox);
     }
@@ -181,13 +192,7 @@ TEST_F(CreateShadowCommand, RefusesANumberInUse) {
     Complete(30);
     SetCell(0, MNUM, "044");
     const Texts before = RowTexts(10), used = RowTexts(30);
-    for (const char* number : {"30", "030", "10", "1", "231", "232", "44"}) {
-        SCOPED_TRACE(number);
-        testbench::DialogScript dialogs;
-        ExpectEntry(dialogs, 10, 1, number);
-        ExpectRefusal(dialogs, "Selected memory is already in use.");
-        RunOn(10);
-    }
+    TryNumbersInUse({"30", "030", "10", "1", "231", "232", "44"});
     EXPECT_EQ(RowTexts(10), before);
     EXPECT_EQ(RowTexts(30), used);
 }
@@ -199,13 +204,7 @@ TEST_F(CreateShadowCommand, ComparesNumbersAndNotTheirTextsSoThatNoMemoryIsOverw
     SetCell(30, MNUM, "13");
     SetCell(31, MNUM, "0014");
     const Texts first = RowTexts(30), second = RowTexts(31);
-    for (const char* number : {"13", "013", "14"}) {
-        SCOPED_TRACE(number);
-        testbench::DialogScript dialogs;
-        ExpectEntry(dialogs, 10, 1, number);
-        ExpectRefusal(dialogs, "Selected memory is already in use.");
-        RunOn(10);
-    }
+    TryNumbersInUse({"13", "013", "14"});
     EXPECT_EQ(RowTexts(30), first);
     EXPECT_EQ(RowTexts(31), second);
     EXPECT_EQ(RowTexts(13), Blank());

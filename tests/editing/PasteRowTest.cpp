@@ -163,10 +163,7 @@ TEST_F(PasteRowCommand, OfACopiedPrimaryKeepsItsFlagButNoLinks) {
     EXPECT_EQ(Cell(20, SHAD), "N");
     for (int col = SHD0; col <= SHD6; ++col)
         EXPECT_EQ(Cell(20, col), "0") << col;
-    EXPECT_EQ(Cell(20, MFLG), "10");
-    EXPECT_EQ(Cell(20, PRIM), "020");
-    EXPECT_EQ(Cell(20, ZONE), "1");
-    EXPECT_EQ(Cell(20, TFLG), "A8");
+    ExpectCells(20, {{MFLG, "10"}, {PRIM, "020"}, {ZONE, "1"}, {TFLG, "A8"}});
 }
 
 TEST_F(PasteRowCommand, OfACopiedShadowKeepsItsIndex) {
@@ -194,12 +191,7 @@ TEST_F(PasteRowCommand, WorksOnAnotherPageAndItsTypeIsChecked) {
     RunOnRow(CopyRow, 10);
     testbench::AddPage(Krv47);
     RunOnRow(PasteRow, 10);
-    EXPECT_EQ(Cell(10, MNUM), "010");
-    EXPECT_EQ(Cell(10, SHAD), "");
-    EXPECT_EQ(Cell(10, ZONE), "");
-    EXPECT_EQ(Cell(10, MODE), "N");
-    EXPECT_EQ(Cell(10, RFRQ), "66.0000");
-    EXPECT_EQ(Cell(10, RTGP), "");
+    ExpectCells(10, {{MNUM, "010"}, {SHAD, ""}, {ZONE, ""}, {MODE, "N"}, {RFRQ, "66.0000"}, {RTGP, ""}});
 }
 
 TEST_F(PasteRowCommand, NeverTouchesTheDefaultRow) {

@@ -130,11 +130,6 @@ protected:
         Choose(IdImport);
     }
 
-    static void FillRow(int row, const std::vector<std::pair<int, const char*>>& cells) {
-        for (const auto& [col, text] : cells)
-            SetCell(row, col, text);
-    }
-
     static void EmptyRow(int row) {
         for (int col = 0; col < ColumnTotal; ++col)
             SetCell(row, col, "");

@@ -12,16 +12,16 @@ namespace {
 class ChannelFileWriter : public ChannelFileTest {
 protected:
     static void MakeAnalogRow(int row, const char* number) {
-        FillRow(row, {{MNUM, number},
-                      {SCAN, "3"},
-                      {DESC, "VHF   138"},
-                      {MODE, "W"},
-                      {RFRQ, "150.0000"},
-                      {RTON, "OFF"},
-                      {RCOD, "OFF"},
-                      {TFRQ, "150.0000"},
-                      {TTON, "OFF"},
-                      {TCOD, "OFF"}});
+        SetCells(row, {{MNUM, number},
+                       {SCAN, "3"},
+                       {DESC, "VHF   138"},
+                       {MODE, "W"},
+                       {RFRQ, "150.0000"},
+                       {RTON, "OFF"},
+                       {RCOD, "OFF"},
+                       {TFRQ, "150.0000"},
+                       {TTON, "OFF"},
+                       {TCOD, "OFF"}});
     }
 
     /// Start tag and text of each child of the last memory, as "SC type=\"ANFM\"=3".

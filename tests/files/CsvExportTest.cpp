@@ -76,9 +76,9 @@ TEST_F(CsvExportCommand, WritesTheFieldsOfEachTypeOfPage) {
 
 TEST_F(CsvExportCommand, WritesAKdarRowInItsOwnWords) {
     EmptyPageOf("KDAR");
-    FillRow(1,
-            {{MNUM, "001"}, {DESC, "TOWER"}, {RFRQ, "118.000"}, {TFRQ, "121.5"}, {SCAN, "Y"}, {RONL, "N"}});
-    FillRow(2, {{MNUM, "020"}, {DESC, "A,\"B\"C"}, {RFRQ, "99.5"}, {TFRQ, ""}, {SCAN, "N"}, {RONL, "Y"}});
+    SetCells(1,
+             {{MNUM, "001"}, {DESC, "TOWER"}, {RFRQ, "118.000"}, {TFRQ, "121.5"}, {SCAN, "Y"}, {RONL, "N"}});
+    SetCells(2, {{MNUM, "020"}, {DESC, "A,\"B\"C"}, {RFRQ, "99.5"}, {TFRQ, ""}, {SCAN, "N"}, {RONL, "Y"}});
     Select({1, 2});
     EXPECT_EQ("KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n"
               "1,TOWER,118000,1215,Yes,No,\n"
@@ -102,7 +102,7 @@ TEST_F(CsvExportCommand, OfAKdarPageAsksForAPurgeIfItsFirstRowDoes) {
 
 TEST_F(CsvExportCommand, OfAnotherPageKnowsNoPurge) {
     EmptyPageOf("O12");
-    FillRow(1, {{MNUM, "001"}, {RFRQ, "121.500"}, {TFLG, "A2"}});
+    SetCells(1, {{MNUM, "001"}, {RFRQ, "121.500"}, {TFLG, "A2"}});
     Select({1});
     EXPECT_EQ("MNUM,RFRQ,\n001,121.500,\n", Export());
 }
@@ -110,7 +110,7 @@ TEST_F(CsvExportCommand, OfAnotherPageKnowsNoPurge) {
 TEST_F(CsvExportCommand, WritesTheSelectedRowsInTheirOrder) {
     EmptyPageOf("O12");
     for (int row = 1; row <= 6; ++row)
-        FillRow(row, {{MNUM, "x"}, {RFRQ, std::string(static_cast<size_t>(row), 'r').c_str()}});
+        SetCells(row, {{MNUM, "x"}, {RFRQ, std::string(static_cast<size_t>(row), 'r').c_str()}});
     Select({5, 2, 0});
     EXPECT_EQ("MNUM,RFRQ,\n0,118.000,\nx,rr,\nx,rrrrr,\n", Export());
     CurrentGrid()->SelectAll();
@@ -126,7 +126,7 @@ TEST_F(CsvExportCommand, WritesEmptyRowsToo) {
 TEST_F(CsvExportCommand, TakesCellsThatAreSelectedInTheNumberColumnBesideAWholeRow) {
     EmptyPageOf("O12");
     for (int row = 1; row <= 3; ++row)
-        FillRow(row, {{MNUM, wxString::Format("%d", row).utf8_string().c_str()}});
+        SetCells(row, {{MNUM, wxString::Format("%d", row).utf8_string().c_str()}});
     Select({1});
     CurrentGrid()->SelectBlock(2, MNUM, 2, MNUM, true);
     CurrentGrid()->SelectBlock(3, RFRQ, 3, RFRQ, true);
@@ -135,8 +135,8 @@ TEST_F(CsvExportCommand, TakesCellsThatAreSelectedInTheNumberColumnBesideAWholeR
 
 TEST_F(CsvExportCommand, QuotesOnlyAFieldWithAQuoteAndCutsItBehindTheLast) {
     EmptyPageOf("ANFM");
-    FillRow(1, {{MNUM, "001"}, {DESC, "A,B"}});
-    FillRow(2, {{MNUM, "002"}, {DESC, "A\"B\"C"}});
+    SetCells(1, {{MNUM, "001"}, {DESC, "A,B"}});
+    SetCells(2, {{MNUM, "002"}, {DESC, "A\"B\"C"}});
     Select({1, 2});
     const std::string bytes = Export();
     EXPECT_NE(std::string::npos, bytes.find("\n001,,A,B,,"));
@@ -145,7 +145,7 @@ TEST_F(CsvExportCommand, QuotesOnlyAFieldWithAQuoteAndCutsItBehindTheLast) {
 
 TEST_F(CsvExportCommand, WritesUtf8) {
     EmptyPageOf("KDAR");
-    FillRow(1, {{MNUM, "001"}});
+    SetCells(1, {{MNUM, "001"}});
     SetCell(1, DESC, wxString::FromUTF8("K\xC3\xB6ln"));
     Select({1});
     EXPECT_NE(std::string::npos, Export().find("\n1,K\xC3\xB6ln,"));
@@ -167,7 +167,7 @@ TEST_F(CsvExportCommand, WithoutWholeRowsSelectedSaysSo) {
 
 TEST_F(CsvExportCommand, OfAKdarPageLeavesBlankRowsAndTheDefaultRowOutSoThatNoMemoriesAreInvented) {
     EmptyPageOf("KDAR");
-    FillRow(2, {{MNUM, "002"}, {DESC, "TOWER"}, {RFRQ, "118.300"}, {TFRQ, "118.300"}, {RONL, "N"}});
+    SetCells(2, {{MNUM, "002"}, {DESC, "TOWER"}, {RFRQ, "118.300"}, {TFRQ, "118.300"}, {RONL, "N"}});
     const char* expected = "KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n"
                            "2,TOWER,118300,118300,No,No,\n";
     Choose(IdSelectAll);
@@ -178,7 +178,7 @@ TEST_F(CsvExportCommand, OfAKdarPageLeavesBlankRowsAndTheDefaultRowOutSoThatNoMe
 
 TEST_F(CsvExportCommand, OfAKdarPageWithBlankRowsSelectedOnlySaysThatNothingIs) {
     EmptyPageOf("KDAR");
-    FillRow(2, {{MNUM, "002"}});
+    SetCells(2, {{MNUM, "002"}});
     for (const auto& rows : {std::initializer_list<int>{0}, {1}, {0, 1, 100}}) {
         Select(rows);
         DialogScript script;
@@ -191,7 +191,7 @@ TEST_F(CsvExportCommand, OfAKdarPageWithBlankRowsSelectedOnlySaysThatNothingIs) 
 
 TEST_F(CsvExportCommand, OffersTheRadiosNameAndAsksBeforeItOverwrites) {
     EmptyPageOf("KDAR");
-    FillRow(1, {{MNUM, "001"}});
+    SetCells(1, {{MNUM, "001"}});
     Select({1});
     DialogScript script;
     script.Expect(DialogKind::File, "Export CSV file").Answer(wxID_CANCEL).Set([](wxDialog* dialog) {
@@ -280,7 +280,7 @@ TEST_F(CsvExportCommand, WritesUnderTheNameThatWasChosen) {
 
 TEST_F(CsvExportCommand, TakesTheTextOfAnOpenEditor) {
     EmptyPageOf("ANFM");
-    FillRow(1, {{MNUM, "001"}, {TFLG, "A0"}});
+    SetCells(1, {{MNUM, "001"}, {TFLG, "A0"}});
     wxGrid* grid = CurrentGrid();
     testbench::ShowAndFocus(*MainFrame);
     grid->GoToCell(1, DESC);
@@ -295,7 +295,7 @@ TEST_F(CsvExportCommand, TakesTheTextOfAnOpenEditor) {
 
 TEST_F(CsvExportCommand, KeepsPageAndSelection) {
     EmptyPageOf("ANFM");
-    FillRow(1, {{MNUM, "x"}, {DESC, "A"}});
+    SetCells(1, {{MNUM, "x"}, {DESC, "A"}});
     const auto before = RowTexts(1);
     Select({1});
     Export();

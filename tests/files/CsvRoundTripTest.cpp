@@ -66,7 +66,7 @@ protected:
     /// A memory as the program fills it, with these cells.
     static void MakeRow(int row, const std::vector<std::pair<int, const char*>>& cells) {
         FillRowsFromDefault({row});
-        FillRow(row, cells);
+        SetCells(row, cells);
     }
 };
 

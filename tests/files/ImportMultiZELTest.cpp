@@ -220,14 +220,14 @@ TEST_F(MultiZEL, ADigitalPageTakesItsDefaultRowsDigitalFields) {
     for (const char* type : {"RP25", "NP25"}) {
         SCOPED_TRACE(type);
         RetargetTo(type);
-        FillRow(0, {{RSQL, "t"},
-                    {RNSV, "7"},
-                    {RTGP, "1234"},
-                    {RNAC, "F7E"},
-                    {TSQL, "t"},
-                    {TTGP, "4321"},
-                    {TNAC, "68A"},
-                    {TIDC, "0000042"}});
+        SetCells(0, {{RSQL, "t"},
+                     {RNSV, "7"},
+                     {RTGP, "1234"},
+                     {RNAC, "F7E"},
+                     {TSQL, "t"},
+                     {TTGP, "4321"},
+                     {TNAC, "68A"},
+                     {TIDC, "0000042"}});
         Write({});
         ExpectCells(5, {{MNUM, "005"},
                         {PRIM, "005"},

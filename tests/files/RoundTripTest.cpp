@@ -85,9 +85,9 @@ TEST_F(RoundTrip, KeepsPrimariesAndShadows) {
         RetargetTo(type);
         RetargetTo(type); // the first rows get their zones by the list that stood before
         FillRowsFromDefault({10, 20, 21});
-        FillRow(10, {{MFLG, "10"}, {SHAD, "P-2"}, {SCAN, "N"}, {SHD0, "20"}, {SHD1, "21"}});
-        FillRow(20, {{MFLG, "01"}, {SHAD, "S-010"}, {SCAN, "N"}, {PRIM, "010"}, {ZONE, ""}});
-        FillRow(21, {{MFLG, "62"}, {SHAD, "S-010"}, {SCAN, "N"}, {PRIM, "010"}, {ZONE, ""}});
+        SetCells(10, {{MFLG, "10"}, {SHAD, "P-2"}, {SCAN, "N"}, {SHD0, "20"}, {SHD1, "21"}});
+        SetCells(20, {{MFLG, "01"}, {SHAD, "S-010"}, {SCAN, "N"}, {PRIM, "010"}, {ZONE, ""}});
+        SetCells(21, {{MFLG, "62"}, {SHAD, "S-010"}, {SCAN, "N"}, {PRIM, "010"}, {ZONE, ""}});
         SetCell(0, MNUM, "000");
         const Cells before = Rows(Columns(type));
         const std::string saved = Save();

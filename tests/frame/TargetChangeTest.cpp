@@ -71,6 +71,11 @@ protected:
 
     static std::string Status() { return MainFrame->m_statusBar->GetStatusText(0).utf8_string(); }
 
+    static void ExpectTold(const char* verdict, const char* story) {
+        EXPECT_EQ(Status(), verdict);
+        EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(), story);
+    }
+
     static bool IsLocked(int row, std::initializer_list<int> cols) {
         for (int col : cols)
             if (!CurrentGrid()->IsReadOnly(row, col))
@@ -391,12 +396,9 @@ TEST_F(ChangingTheTarget, FromTheModuleToAP25RadioUnlocksWhatTheModuleLocked_Dep
 TEST_F(ChangingTheTarget, BetweenP25RadiosKeepsTheLocksOfLinkedRows) {
     Retarget(Kdrv716, 0);
     FillRowsFromDefault({2, 3});
-    SetCell(2, MFLG, "10");
-    SetCell(2, SHAD, "P-1");
-    SetCell(2, SHD0, "003");
+    SetCells(2, {{MFLG, "10"}, {SHAD, "P-1"}, {SHD0, "003"}});
     LockLinkedRow(2, PrimaryRow);
-    SetCell(3, MFLG, "01");
-    SetCell(3, SHAD, "S-002");
+    SetCells(3, {{MFLG, "01"}, {SHAD, "S-002"}});
     LockLinkedRow(3, ShadowRow);
     ChangeTarget(Kdrv716B);
     EXPECT_TRUE(IsLocked(2, {MNUM, SHAD, SCAN}));
@@ -407,14 +409,13 @@ TEST_F(ChangingTheTarget, BetweenP25RadiosKeepsTheLocksOfLinkedRows) {
 TEST_F(ChangingTheTarget, ToASmallerGridGivesTheLastRowItsNewNumber_Departure) {
     Retarget(Krv650, 1);
     FillRowsFromDefault({7, 150, 200});
-    SetCell(7, MNUM, "150");
-    SetCell(200, DESC, "LAST");
-    SetCell(150, MNUM, "");
+    SetCells(7, {{MNUM, "150"}});
+    SetCells(150, {{MNUM, ""}});
+    SetCells(200, {{DESC, "LAST"}});
     ChangeTarget(Krv214);
     EXPECT_EQ(FilledRows(), (std::vector<int>{7, 102}));
-    EXPECT_EQ(Cell(102, DESC), "LAST");
-    EXPECT_EQ(Cell(102, MNUM), "102");
-    EXPECT_EQ(Cell(7, MNUM), "007");
+    ExpectCells(102, {{DESC, "LAST"}, {MNUM, "102"}});
+    ExpectCells(7, {{MNUM, "007"}});
     EXPECT_EQ(MemoriesSaved(), 2);
 }
 
@@ -441,9 +442,8 @@ TEST_F(ChangingTheTarget, OfANumberThatAGuardTakesGivesTheRowItsOwn) {
 TEST_F(ChangingTheTarget, TellsHowManyCellsWereReplacedAndTheFirstRow) {
     FillRowsFromDefault({5, 9});
     ChangeTarget(Krv305);
-    EXPECT_EQ(Status(), "4 cells replaced from row 5");
-    EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(),
-              "4 cells were replaced: row 5 RxFreq, TxFreq; row 9 RxFreq, TxFreq");
+    ExpectTold("4 cells replaced from row 5",
+               "4 cells were replaced: row 5 RxFreq, TxFreq; row 9 RxFreq, TxFreq");
 }
 
 TEST_F(ChangingTheTarget, CountsTheCellsThatItFills) {
@@ -463,9 +463,8 @@ TEST_F(ChangingTheTarget, TellsOfMemoriesThatFindNoRow) {
     Retarget(Krv650, 1);
     FillRowsFromDefault({7, 150, 151, 200});
     ChangeTarget(Krv214);
-    EXPECT_EQ(Status(), "2 rows LOST, 1 cell replaced, row 102");
-    EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(),
-              "2 rows found no place in the smaller page; 1 cell was replaced: row 102 Chan");
+    ExpectTold("2 rows LOST, 1 cell replaced, row 102",
+               "2 rows found no place in the smaller page; 1 cell was replaced: row 102 Chan");
 }
 
 // A departure: on the default row's band the frequencies could not stand.

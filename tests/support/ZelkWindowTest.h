@@ -13,6 +13,9 @@
 #include <wx/app.h>
 #include <wx/grid.h>
 
+#include <utility>
+#include <vector>
+
 using enum RadioCatalogue::RadioIndex;
 using RadioCatalogue::ModuleSlot;
 using testbench::FilledRows;
@@ -56,6 +59,19 @@ protected:
     static wxString Cell(int row, int col) { return CurrentGrid()->GetCellValue(row, col); }
     static void SetCell(int row, int col, const wxString& text) {
         CurrentGrid()->SetCellValue(row, col, text);
+    }
+
+    /// Texts of cells by their columns.
+    using CellList = std::vector<std::pair<int, const char*>>;
+
+    static void SetCells(int row, const CellList& cells) {
+        for (const auto& [col, text] : cells)
+            SetCell(row, col, text);
+    }
+    /// Expects these texts; a failure names the row and the column.
+    static void ExpectCells(int row, const CellList& cells) {
+        for (const auto& [col, text] : cells)
+            EXPECT_EQ(Cell(row, col).utf8_string(), text) << "row " << row << ", " << ColumnTag[col];
     }
 
 private:

@@ -194,7 +194,7 @@ TEST_F(DefaultColumn, OfTheZoneMakesScanOfARowThatWasInXWritable) {
     SetPageEditors(0);
     ASSERT_TRUE(IsReadOnly(10, SCAN));
     RunOnColumn(DefaultCol, ZONE);
-    EXPECT_EQ("1", Cell(10, ZONE));
+    EXPECT_EQ(Cell(10, ZONE), "1");
     EXPECT_FALSE(IsReadOnly(10, SCAN));
     for (int row : {11, 12, 501, 502})
         EXPECT_TRUE(IsReadOnly(row, SCAN)) << row;

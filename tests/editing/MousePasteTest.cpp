@@ -91,9 +91,9 @@ TEST_F(MousePaste, ThatIsRefusedLeavesWhatWasSelected) {
         PressKey("F2");
         PressKey("Ctrl+A");
         PasteWithMouse(text, false);
-        EXPECT_EQ("KEPT", Typed()) << text;
+        EXPECT_EQ(Typed(), "KEPT") << text;
         PressKey("Return");
-        EXPECT_EQ("KEPT", Text(5, DESC)) << text;
+        EXPECT_EQ(Text(5, DESC), "KEPT") << text;
     }
 }
 
@@ -108,7 +108,7 @@ TEST_F(MousePaste, LeavesTheEditUsable) {
     PressKey("BackSpace");
     TypeText("y");
     PressKey("Return");
-    EXPECT_EQ("QUAY", Text(5, DESC));
+    EXPECT_EQ(Text(5, DESC), "QUAY");
 }
 
 TEST_F(MousePaste, OfATextThatAFileBroughtMayBeEditedOn) {
@@ -117,12 +117,12 @@ TEST_F(MousePaste, OfATextThatAFileBroughtMayBeEditedOn) {
     SetCell(5, DESC, "A~B");
     GoTo(5, DESC);
     PressKey("F2");
-    EXPECT_EQ("A~B", Typed());
+    EXPECT_EQ(Typed(), "A~B");
     PressKey("End");
     TypeText("c");
-    EXPECT_EQ("A~BC", Typed());
+    EXPECT_EQ(Typed(), "A~BC");
     PressKey("Escape");
-    EXPECT_EQ("A~B", Text(5, DESC));
+    EXPECT_EQ(Text(5, DESC), "A~B");
 }
 
 // Dragged inside the edit: a drag from another window would end the edit before the drop.
@@ -148,8 +148,8 @@ TEST_F(MousePaste, DroppedTextPassesTheSameRules) {
         PressKey("Escape");
         return typed;
     };
-    EXPECT_EQ("BCA", dragFirstToEnd("ABC"));
-    EXPECT_EQ("~BC", dragFirstToEnd("~BC"));
+    EXPECT_EQ(dragFirstToEnd("ABC"), "BCA");
+    EXPECT_EQ(dragFirstToEnd("~BC"), "~BC");
 }
 
 TEST_F(MousePaste, InsertedBehindTheToolkitsBackPassesTheSameRules) {
@@ -158,8 +158,8 @@ TEST_F(MousePaste, InsertedBehindTheToolkitsBackPassesTheSameRules) {
     OpenEmpty(5, DESC);
     TypeText("ab");
     Control()->WriteText("~");
-    EXPECT_EQ("AB", Typed());
+    EXPECT_EQ(Typed(), "AB");
     Control()->WriteText("c");
-    EXPECT_EQ("ABC", Typed());
+    EXPECT_EQ(Typed(), "ABC");
     PressKey("Escape");
 }

@@ -118,11 +118,11 @@ TEST_F(PasteRowCommand, OfZoneXLocksScanAndAPasteOfAnotherZoneMakesItWritableAga
     SetPageEditors(0);
     SetCell(5, TFLG, "A0"); // its zone is to be dealt anew
     CopyToWithNumber(3, 5);
-    ASSERT_EQ("X", Cell(5, ZONE));
+    ASSERT_EQ(Cell(5, ZONE), "X");
     EXPECT_TRUE(IsReadOnly(5, SCAN));
     SetCell(5, TFLG, "A0");
     CopyToWithNumber(4, 5);
-    ASSERT_EQ("1", Cell(5, ZONE));
+    ASSERT_EQ(Cell(5, ZONE), "1");
     EXPECT_FALSE(IsReadOnly(5, SCAN));
     CopyToWithNumber(4, 501);
     EXPECT_TRUE(IsReadOnly(501, SCAN)) << "a guard row's stays locked";

@@ -114,7 +114,7 @@ protected:
     /// Chooses a command of the menus.
     static void Choose(int command) {
         wxMenu* menu = nullptr;
-        ASSERT_NE(nullptr, MainFrame->GetMenuBar()->FindItem(command, &menu));
+        ASSERT_NE(MainFrame->GetMenuBar()->FindItem(command, &menu), nullptr);
         menu->SendEvent(command);
         testbench::PumpUntilIdle();
     }

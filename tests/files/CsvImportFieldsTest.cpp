@@ -29,11 +29,11 @@ TEST_F(CsvImport, PutsEachFieldOfTheTableIntoItsCell) {
     };
     for (const auto& [name, field, changes] : cases) {
         EmptyPageOf("NP25");
-        ASSERT_EQ(1, Import("RCOD,TTGP,MNUM\n,,5\n"));
+        ASSERT_EQ(Import("RCOD,TTGP,MNUM\n,,5\n"), 1);
         const std::vector<std::string> before = RowTexts(5);
         EmptyPageOf("NP25");
-        ASSERT_EQ(1, Import(std::string("RCOD,TTGP,MNUM,") + name + "\n,,5," + field + "\n"));
-        EXPECT_EQ(changes, Changes(5, before)) << name;
+        ASSERT_EQ(Import(std::string("RCOD,TTGP,MNUM,") + name + "\n,,5," + field + "\n"), 1);
+        EXPECT_EQ(Changes(5, before), changes) << name;
         for (int col = 0; col < ColumnTotal; ++col)
             EXPECT_FALSE(IsPainted(5, col)) << name << ' ' << col;
     }
@@ -73,9 +73,9 @@ TEST_F(CsvImport, ChecksEachFieldOfTheTable) {
         EmptyPageOf("NP25");
         ForgetLooks();
         const std::string quoted = std::string("\"") + field + '"';
-        ASSERT_EQ(1, Import(std::string("RCOD,TTGP,MNUM,") + name + "\n,,5," + quoted + "\n"));
-        EXPECT_EQ(text, Text(5, column)) << name << ' ' << field;
-        EXPECT_EQ(painted, IsPainted(5, column)) << name << ' ' << field;
+        ASSERT_EQ(Import(std::string("RCOD,TTGP,MNUM,") + name + "\n,,5," + quoted + "\n"), 1);
+        EXPECT_EQ(Text(5, column), text) << name << ' ' << field;
+        EXPECT_EQ(IsPainted(5, column), painted) << name << ' ' << field;
     }
 }
 
@@ -93,9 +93,9 @@ TEST_F(CsvImport, WithoutRcodEmptiesRsqlAndWithoutTtgpEmptiesTsql) {
     };
     for (const auto& [heading, line, rsql, tsql] : cases) {
         EmptyPageOf("RP25");
-        ASSERT_EQ(1, Import(std::string(heading) + "\n" + line + "\n"));
-        EXPECT_EQ(rsql, Text(5, RSQL)) << heading << ' ' << line;
-        EXPECT_EQ(tsql, Text(5, TSQL)) << heading << ' ' << line;
+        ASSERT_EQ(Import(std::string(heading) + "\n" + line + "\n"), 1);
+        EXPECT_EQ(Text(5, RSQL), rsql) << heading << ' ' << line;
+        EXPECT_EQ(Text(5, TSQL), tsql) << heading << ' ' << line;
     }
 }
 
@@ -111,10 +111,10 @@ TEST_F(CsvImport, LooksTonesUpInTheListOfTheOtherKindOfPage) {
     for (const auto& [type, field, text, painted] : cases) {
         EmptyPageOf(type);
         ForgetLooks();
-        ASSERT_EQ(1, Import(std::string("MNUM,RTON,TTON\n5,") + field + "," + field));
+        ASSERT_EQ(Import(std::string("MNUM,RTON,TTON\n5,") + field + "," + field), 1);
         for (const int col : {RTON, TTON}) {
-            EXPECT_EQ(text, Text(5, col)) << type << ' ' << field;
-            EXPECT_EQ(painted, IsPainted(5, col)) << type << ' ' << field;
+            EXPECT_EQ(Text(5, col), text) << type << ' ' << field;
+            EXPECT_EQ(IsPainted(5, col), painted) << type << ' ' << field;
         }
     }
 }
@@ -131,57 +131,58 @@ TEST_F(CsvImport, LooksCodesUpInTheListOfThePage) {
     for (const auto& [type, field, text, painted] : cases) {
         EmptyPageOf(type);
         ForgetLooks();
-        ASSERT_EQ(1, Import(std::string("MNUM,RCOD,TCOD\n5,") + field + "," + field));
+        ASSERT_EQ(Import(std::string("MNUM,RCOD,TCOD\n5,") + field + "," + field), 1);
         for (const int col : {RCOD, TCOD}) {
-            EXPECT_EQ(text, Text(5, col)) << type << ' ' << field;
-            EXPECT_EQ(painted, IsPainted(5, col)) << type << ' ' << field;
+            EXPECT_EQ(Text(5, col), text) << type << ' ' << field;
+            EXPECT_EQ(IsPainted(5, col), painted) << type << ' ' << field;
         }
     }
 }
 
 TEST_F(CsvImport, LeavesTheDefaultTextWhereAFieldIsEmptyOrBlank) {
     EmptyPageOf("ANFM");
-    ASSERT_EQ(1, Import("MNUM,SCAN,DESC,MODE,RFRQ,TFRQ\n5,,\"\",  , ,\n"));
+    ASSERT_EQ(Import("MNUM,SCAN,DESC,MODE,RFRQ,TFRQ\n5,,\"\",  , ,\n"), 1);
     std::vector<std::string> expected = RowTexts(0);
     expected[MNUM] = "005";
     expected[DESC] = "VHF   005";
-    EXPECT_EQ(expected, RowTexts(5));
+    EXPECT_EQ(RowTexts(5), expected);
     EXPECT_FALSE(IsPainted(5, RFRQ));
 }
 
 TEST_F(CsvImport, TrimsFields) {
     EmptyPageOf("ANFM");
-    ASSERT_EQ(1, Import(" MNUM , RFRQ,DESC \n 5 , 150.0000 ,\" A,B \"\n"));
-    EXPECT_EQ("150.0000", Text(5, RFRQ));
-    EXPECT_EQ("A B", Text(5, DESC)) << "a description has no comma";
+    ASSERT_EQ(Import(" MNUM , RFRQ,DESC \n 5 , 150.0000 ,\" A,B \"\n"), 1);
+    EXPECT_EQ(Text(5, RFRQ), "150.0000");
+    EXPECT_EQ(Text(5, DESC), "A B") << "a description has no comma";
 }
 
 TEST_F(CsvImport, NumbersTheDescriptionOfRowsThatHaveNone) {
     EmptyPageOf("ANFM");
     SetCell(0, DESC, "MEM001");
-    ASSERT_EQ(2, Import("MNUM,DESC\n5,\n7,TOWER"));
-    EXPECT_EQ("MEM005", Text(5, DESC));
-    EXPECT_EQ("TOWER", Text(7, DESC));
+    ASSERT_EQ(Import("MNUM,DESC\n5,\n7,TOWER"), 2);
+    EXPECT_EQ(Text(5, DESC), "MEM005");
+    EXPECT_EQ(Text(7, DESC), "TOWER");
 }
 
 TEST_F(CsvImport, ChecksFrequenciesByTheBandOfTheLine) {
     EmptyPageOf("MDLX");
     ForgetLooks();
-    ASSERT_EQ(4, Import("RFRQ,TFRQ,MNUM,BAND\n300.0000,301.0000,1,AM 225-400\n120.000,55.000,2,AM 108-138\n"
-                        "300.0000,31.5000,3,FM 30-50\n31.5000,31.5000,4,FM 99-100\n"));
-    EXPECT_EQ("AM 225-400", Text(1, BAND));
-    EXPECT_EQ("300.0000", Text(1, RFRQ));
-    EXPECT_EQ("301.0000", Text(1, TFRQ));
-    EXPECT_EQ("AM 108-138", Text(2, BAND));
-    EXPECT_EQ("120.000", Text(2, RFRQ));
-    EXPECT_EQ("55.000", Text(2, TFRQ)) << "never refused in this band";
-    EXPECT_EQ("FM 30-50", Text(3, BAND));
-    EXPECT_EQ("31.0000", Text(3, RFRQ));
+    ASSERT_EQ(Import("RFRQ,TFRQ,MNUM,BAND\n300.0000,301.0000,1,AM 225-400\n120.000,55.000,2,AM 108-138\n"
+                     "300.0000,31.5000,3,FM 30-50\n31.5000,31.5000,4,FM 99-100\n"),
+              4);
+    EXPECT_EQ(Text(1, BAND), "AM 225-400");
+    EXPECT_EQ(Text(1, RFRQ), "300.0000");
+    EXPECT_EQ(Text(1, TFRQ), "301.0000");
+    EXPECT_EQ(Text(2, BAND), "AM 108-138");
+    EXPECT_EQ(Text(2, RFRQ), "120.000");
+    EXPECT_EQ(Text(2, TFRQ), "55.000") << "never refused in this band";
+    EXPECT_EQ(Text(3, BAND), "FM 30-50");
+    EXPECT_EQ(Text(3, RFRQ), "31.0000");
     EXPECT_TRUE(IsPainted(3, RFRQ));
-    EXPECT_EQ("31.5000", Text(3, TFRQ));
-    EXPECT_EQ("FM 30-50", Text(4, BAND)) << "the default row's";
+    EXPECT_EQ(Text(3, TFRQ), "31.5000");
+    EXPECT_EQ(Text(4, BAND), "FM 30-50") << "the default row's";
     EXPECT_TRUE(IsPainted(4, BAND));
-    EXPECT_EQ("31.5000", Text(4, RFRQ));
+    EXPECT_EQ(Text(4, RFRQ), "31.5000");
 }
 
 TEST_F(CsvImport, OfABandThatCanNotBeTheDefaultKeepsTheDefaultRowsBandSoThatOtherRowsKeepTheirFrequencies) {
@@ -203,18 +204,18 @@ TEST_F(CsvImport, OfABandThatCanNotBeTheDefaultKeepsTheDefaultRowsBandSoThatOthe
                                      ",,,,\n5,FM 30-50,A,39.4600,39.4600,N\n6,,B,39.4600,39.4600,N\n"
                                      "7,FM 99-100,C,39.4600,39.4600,N\n");
             ImportByMenu("list.csv", "Imported 4 Lines from CSV file.");
-            EXPECT_EQ(kept, Text(0, BAND));
-            EXPECT_EQ(painted, IsPainted(0, BAND));
-            EXPECT_EQ("FM 30-50", Text(5, BAND));
-            EXPECT_EQ("39.4600", Text(5, RFRQ));
-            EXPECT_EQ("39.4600", Text(5, TFRQ));
+            EXPECT_EQ(Text(0, BAND), kept);
+            EXPECT_EQ(IsPainted(0, BAND), painted);
+            EXPECT_EQ(Text(5, BAND), "FM 30-50");
+            EXPECT_EQ(Text(5, RFRQ), "39.4600");
+            EXPECT_EQ(Text(5, TFRQ), "39.4600");
             // Rows without a band of their own, or with one that can't stand, go by the default row's.
             for (int row : {6, 7}) {
-                EXPECT_EQ(kept, Text(row, BAND)) << row;
-                EXPECT_EQ(row == 7, IsPainted(row, BAND)) << row;
+                EXPECT_EQ(Text(row, BAND), kept) << row;
+                EXPECT_EQ(IsPainted(row, BAND), row == 7) << row;
                 if (std::string(kept) == "FM 30-50") {
-                    EXPECT_EQ("39.4600", Text(row, RFRQ)) << row;
-                    EXPECT_EQ("39.4600", Text(row, TFRQ)) << row;
+                    EXPECT_EQ(Text(row, RFRQ), "39.4600") << row;
+                    EXPECT_EQ(Text(row, TFRQ), "39.4600") << row;
                     EXPECT_FALSE(IsPainted(row, RFRQ)) << row;
                 }
             }
@@ -226,22 +227,22 @@ TEST_F(CsvImport, ReadsScanListsInAllTheirForms) {
         {"0", "0"}, {"31", "31"}, {"32", "0"}, {"1_3__", "5"}, {"L____", "0"}, {"031", "0"}, {"_____", "0"}};
     for (const auto& [field, text] : cases) {
         EmptyPageOf("ANFM");
-        ASSERT_EQ(1, Import(std::string("MNUM,SCAN\n5,") + field));
-        EXPECT_EQ(text, Text(5, SCAN)) << field;
+        ASSERT_EQ(Import(std::string("MNUM,SCAN\n5,") + field), 1);
+        EXPECT_EQ(Text(5, SCAN), text) << field;
     }
 }
 
 TEST_F(CsvImport, OfNamesInUtf8AndLatin1KeepsTheirLetters) {
     EmptyPageOf("KDAR");
-    ASSERT_EQ(2, ImportKdar("KDAR-2000\nMemory\n1,K\xC3\xB6ln\n2,K\xF6ln\n"));
-    EXPECT_EQ("K\xC3\xB6ln", Text(1, DESC));
-    EXPECT_EQ("K\xC3\xB6ln", Text(2, DESC));
+    ASSERT_EQ(ImportKdar("KDAR-2000\nMemory\n1,K\xC3\xB6ln\n2,K\xF6ln\n"), 2);
+    EXPECT_EQ(Text(1, DESC), "K\xC3\xB6ln");
+    EXPECT_EQ(Text(2, DESC), "K\xC3\xB6ln");
 }
 
 TEST_F(CsvImport, OfADecimalCommaPutsTheDefaultFrequencyAndPaintsIt) {
     EmptyPageOf("ANFM");
     ForgetLooks();
-    ASSERT_EQ(1, Import("MNUM,RFRQ\n5,\"150,0000\"\n"));
-    EXPECT_EQ("138.0000", Text(5, RFRQ));
+    ASSERT_EQ(Import("MNUM,RFRQ\n5,\"150,0000\"\n"), 1);
+    EXPECT_EQ(Text(5, RFRQ), "138.0000");
     EXPECT_TRUE(IsPainted(5, RFRQ));
 }

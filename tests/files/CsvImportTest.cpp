@@ -6,76 +6,76 @@ using testbench::DialogScript;
 
 TEST_F(CsvImport, FillsARowFromTheDefaultRowAndNumbersIt) {
     EmptyPageOf("ANFM");
-    ASSERT_EQ(1, Import("MNUM\n5\n"));
+    ASSERT_EQ(Import("MNUM\n5\n"), 1);
     std::vector<std::string> expected = RowTexts(0);
     expected[MNUM] = "005";
     expected[DESC] = "VHF   005";
-    EXPECT_EQ(expected, RowTexts(5));
-    EXPECT_EQ((std::vector<int>{0, 5}), FilledRows(0));
+    EXPECT_EQ(RowTexts(5), expected);
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 5}));
 }
 
 TEST_F(CsvImport, GivesRowsTheFlagsOfRowsMadeInTheProgram) {
     for (const TypedTarget& target : Targets) {
         EmptyPageOf(target.type);
-        ASSERT_EQ(1, Import("MNUM\n5"));
-        EXPECT_EQ("A0", Text(5, TFLG)) << target.type;
+        ASSERT_EQ(Import("MNUM\n5"), 1);
+        EXPECT_EQ(Text(5, TFLG), "A0") << target.type;
     }
 }
 
 TEST_F(CsvImport, AddressesTheDefaultRowAndTheLastTwoByName) {
     EmptyPageOf("ANFM");
-    ASSERT_EQ(3, Import("MNUM,DESC\nGD2,TWO\nGD1,ONE\nDEF,NEW\n"));
-    EXPECT_EQ("NEW", Text(0, DESC));
-    EXPECT_EQ("000", Text(0, MNUM));
-    EXPECT_EQ("ONE", Text(101, DESC));
-    EXPECT_EQ("101", Text(101, MNUM));
-    EXPECT_EQ("TWO", Text(102, DESC));
-    EXPECT_EQ("102", Text(102, MNUM));
-    EXPECT_EQ((std::vector<int>{0, 101, 102}), FilledRows(0));
+    ASSERT_EQ(Import("MNUM,DESC\nGD2,TWO\nGD1,ONE\nDEF,NEW\n"), 3);
+    EXPECT_EQ(Text(0, DESC), "NEW");
+    EXPECT_EQ(Text(0, MNUM), "000");
+    EXPECT_EQ(Text(101, DESC), "ONE");
+    EXPECT_EQ(Text(101, MNUM), "101");
+    EXPECT_EQ(Text(102, DESC), "TWO");
+    EXPECT_EQ(Text(102, MNUM), "102");
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 101, 102}));
 }
 
 TEST_F(CsvImport, OfADefaultRowIsWhatLaterLinesAreFilledFrom) {
     EmptyPageOf("ANFM");
-    ASSERT_EQ(3, Import("MNUM,MODE,RFRQ\n4\nDEF,W,150.0000\n5\n"));
-    EXPECT_EQ("N", Text(4, MODE));
-    EXPECT_EQ("138.0000", Text(4, RFRQ));
-    EXPECT_EQ("W", Text(5, MODE));
-    EXPECT_EQ("150.0000", Text(5, RFRQ));
-    EXPECT_EQ("174.0000", Text(0, TFRQ)) << "a default row keeps what the line doesn't name";
+    ASSERT_EQ(Import("MNUM,MODE,RFRQ\n4\nDEF,W,150.0000\n5\n"), 3);
+    EXPECT_EQ(Text(4, MODE), "N");
+    EXPECT_EQ(Text(4, RFRQ), "138.0000");
+    EXPECT_EQ(Text(5, MODE), "W");
+    EXPECT_EQ(Text(5, RFRQ), "150.0000");
+    EXPECT_EQ(Text(0, TFRQ), "174.0000") << "a default row keeps what the line doesn't name";
 }
 
 TEST_F(CsvImport, PassesLinesOverThatNameNoRow) {
     EmptyPageOf("ANFM");
-    ASSERT_EQ(2, Import("MNUM,DESC\n5,A\n103,B\n+6,C\n-7,D\nx,E\n,F\n8.,G\n9,H\n"));
-    EXPECT_EQ((std::vector<int>{0, 5, 9}), FilledRows(0));
+    ASSERT_EQ(Import("MNUM,DESC\n5,A\n103,B\n+6,C\n-7,D\nx,E\n,F\n8.,G\n9,H\n"), 2);
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 5, 9}));
 }
 
 TEST_F(CsvImport, LosesLinesBehindThePagesRowCount) {
     EmptyPageOf("O12");
     ASSERT_EQ(
-        6,
-        Import("MNUM,RFRQ\nDEF,120.000\n1,121.000\n2,122.000\n3,123.000\n4,124.000\n5,125.000\n6,126.000"));
-    EXPECT_EQ("125.000", Text(5, RFRQ));
-    EXPECT_EQ("", Text(6, RFRQ)) << "the seventh line";
+        Import("MNUM,RFRQ\nDEF,120.000\n1,121.000\n2,122.000\n3,123.000\n4,124.000\n5,125.000\n6,126.000"),
+        6);
+    EXPECT_EQ(Text(5, RFRQ), "125.000");
+    EXPECT_EQ(Text(6, RFRQ), "") << "the seventh line";
     EmptyPageOf("O12");
-    ASSERT_EQ(6, Import("MNUM\n1\n1\n1\n1\n1\n1\n2\n")) << "lines count, not rows";
-    EXPECT_EQ((std::vector<int>{0, 1}), FilledRows(0));
+    ASSERT_EQ(Import("MNUM\n1\n1\n1\n1\n1\n1\n2\n"), 6) << "lines count, not rows";
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 1}));
 }
 
 TEST_F(CsvImport, OfARowTwiceLeavesTheLaterOne) {
     EmptyPageOf("ANFM");
-    ASSERT_EQ(2, Import("MNUM,DESC,MODE\n5,A,W\n5,B\n"));
-    EXPECT_EQ("B", Text(5, DESC));
-    EXPECT_EQ("N", Text(5, MODE)) << "nothing of the former line stays";
+    ASSERT_EQ(Import("MNUM,DESC,MODE\n5,A,W\n5,B\n"), 2);
+    EXPECT_EQ(Text(5, DESC), "B");
+    EXPECT_EQ(Text(5, MODE), "N") << "nothing of the former line stays";
 }
 
 TEST_F(CsvImport, FillsOnlyTheRowsThatItNames) {
     EmptyPageOf("ANFM");
     SetCell(7, DESC, "KEPT");
     Select({7, 8});
-    ASSERT_EQ(1, Import("MNUM,DESC\n5,A"));
-    EXPECT_EQ((std::vector<int>{0, 5, 7}), FilledRows(0));
-    EXPECT_EQ("", Text(7, MNUM));
+    ASSERT_EQ(Import("MNUM,DESC\n5,A"), 1);
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 5, 7}));
+    EXPECT_EQ(Text(7, MNUM), "");
     EXPECT_FALSE(CurrentGrid()->IsSelection());
 }
 
@@ -84,40 +84,40 @@ TEST_F(CsvImport, TellsANumberThatAnotherRowHasAndLeavesItOut) {
     SetCell(9, MNUM, "5");
     DialogScript script;
     script.ExpectMessage("Error", "Number already used at row: 009");
-    ASSERT_EQ(2, Import("MNUM,DESC\n5,A\n6,B\n"));
-    EXPECT_EQ("", Text(5, MNUM));
-    EXPECT_EQ("006", Text(6, MNUM));
+    ASSERT_EQ(Import("MNUM,DESC\n5,A\n6,B\n"), 2);
+    EXPECT_EQ(Text(5, MNUM), "");
+    EXPECT_EQ(Text(6, MNUM), "006");
 }
 
 TEST_F(CsvImport, TakesANumberBackThatTheListItselfHasFreed) {
     EmptyPageOf("ANFM");
     SetCell(9, MNUM, "5");
-    ASSERT_EQ(2, Import("MNUM,DESC\n9,B\n5,A\n"));
-    EXPECT_EQ("005", Text(5, MNUM));
-    EXPECT_EQ("009", Text(9, MNUM));
+    ASSERT_EQ(Import("MNUM,DESC\n9,B\n5,A\n"), 2);
+    EXPECT_EQ(Text(5, MNUM), "005");
+    EXPECT_EQ(Text(9, MNUM), "009");
 }
 
 TEST_F(CsvImport, GivesARowTheZoneOfItsLineAndOneSlot) {
     EmptyPageOf("NP25");
-    ASSERT_EQ(5, Import("MNUM,ZONE\n5,C\n6,\n7,nowhere\n8,C\n5,E\n"));
-    EXPECT_EQ("E", Text(5, ZONE));
-    EXPECT_EQ("1", Text(6, ZONE));
-    EXPECT_EQ("1", Text(7, ZONE)) << "the first one with room";
-    EXPECT_EQ("C", Text(8, ZONE));
-    EXPECT_EQ(4, TakenSlots());
-    EXPECT_EQ(2, CountTakenSlotsOf("1"));
-    EXPECT_EQ(1, CountTakenSlotsOf("C"));
-    EXPECT_EQ(1, CountTakenSlotsOf("E"));
+    ASSERT_EQ(Import("MNUM,ZONE\n5,C\n6,\n7,nowhere\n8,C\n5,E\n"), 5);
+    EXPECT_EQ(Text(5, ZONE), "E");
+    EXPECT_EQ(Text(6, ZONE), "1");
+    EXPECT_EQ(Text(7, ZONE), "1") << "the first one with room";
+    EXPECT_EQ(Text(8, ZONE), "C");
+    EXPECT_EQ(TakenSlots(), 4);
+    EXPECT_EQ(CountTakenSlotsOf("1"), 2);
+    EXPECT_EQ(CountTakenSlotsOf("C"), 1);
+    EXPECT_EQ(CountTakenSlotsOf("E"), 1);
 }
 
 TEST_F(CsvImport, OfRowsThatThePageHeldLeavesThemOneSlot) {
     RetargetTo("RP25");
-    ASSERT_EQ(3, TakenSlots());
-    ASSERT_EQ(3, Import("MNUM,ZONE\n1,4\n231,2\nGD2,2\n"));
-    EXPECT_EQ("4", Text(1, ZONE));
-    EXPECT_EQ("16", Text(231, ZONE)) << "guard rows belong to the last zone";
-    EXPECT_EQ("16", Text(232, ZONE));
-    EXPECT_EQ(3, TakenSlots());
+    ASSERT_EQ(TakenSlots(), 3);
+    ASSERT_EQ(Import("MNUM,ZONE\n1,4\n231,2\nGD2,2\n"), 3);
+    EXPECT_EQ(Text(1, ZONE), "4");
+    EXPECT_EQ(Text(231, ZONE), "16") << "guard rows belong to the last zone";
+    EXPECT_EQ(Text(232, ZONE), "16");
+    EXPECT_EQ(TakenSlots(), 3);
 }
 
 TEST_F(CsvImport, IntoAFullZoneLeavesItsNameWithoutASlot) {
@@ -125,19 +125,19 @@ TEST_F(CsvImport, IntoAFullZoneLeavesItsNameWithoutASlot) {
     std::string list = "MNUM,ZONE\n";
     for (int row = 1; row <= 18; ++row)
         list += std::to_string(row) + ",3\n";
-    ASSERT_EQ(19, Import(list + "17,5\n"));
-    EXPECT_EQ(16, CountTakenSlotsOf("3"));
-    EXPECT_EQ("5", Text(17, ZONE));
-    EXPECT_EQ("3", Text(18, ZONE));
-    EXPECT_EQ(17, TakenSlots()) << "row 17 gave back nothing that it didn't hold";
+    ASSERT_EQ(Import(list + "17,5\n"), 19);
+    EXPECT_EQ(CountTakenSlotsOf("3"), 16);
+    EXPECT_EQ(Text(17, ZONE), "5");
+    EXPECT_EQ(Text(18, ZONE), "3");
+    EXPECT_EQ(TakenSlots(), 17) << "row 17 gave back nothing that it didn't hold";
 }
 
 TEST_F(CsvImport, OfZonesOnAnotherPageLeavesThemEmpty) {
     EmptyPageOf("ANFM");
-    ASSERT_EQ(1, Import("MNUM,ZONE,RTGP\n5,3,1234"));
-    EXPECT_EQ("", Text(5, ZONE));
-    EXPECT_EQ("", Text(5, RTGP));
-    EXPECT_EQ(0, TakenSlots());
+    ASSERT_EQ(Import("MNUM,ZONE,RTGP\n5,3,1234"), 1);
+    EXPECT_EQ(Text(5, ZONE), "");
+    EXPECT_EQ(Text(5, RTGP), "");
+    EXPECT_EQ(TakenSlots(), 0);
 }
 
 TEST_F(CsvImport, OfAFullPageGivesEachRowItsSlot) {
@@ -145,19 +145,19 @@ TEST_F(CsvImport, OfAFullPageGivesEachRowItsSlot) {
     std::string list = "MNUM,ZONE\n";
     for (int row = 1; row <= 502; ++row)
         list += std::to_string(row) + "\n";
-    ASSERT_EQ(502, Import(list));
-    EXPECT_EQ(502, TakenSlots());
-    EXPECT_EQ("X", Text(501, ZONE));
+    ASSERT_EQ(Import(list), 502);
+    EXPECT_EQ(TakenSlots(), 502);
+    EXPECT_EQ(Text(501, ZONE), "X");
 }
 
 TEST_F(CsvImport, LeavesGuardRowsWhatTheyMayHold) {
     EmptyPageOf("ANFM");
-    ASSERT_EQ(1, Import("MNUM,SCAN,RTON,RCOD,TTON,TCOD\nGD1,7,71.9,023,74.4,025\n"));
-    EXPECT_EQ("0", Text(101, SCAN));
-    EXPECT_EQ("n/a", Text(101, RTON));
-    EXPECT_EQ("n/a", Text(101, RCOD));
-    EXPECT_EQ("74.4", Text(101, TTON));
-    EXPECT_EQ("025", Text(101, TCOD));
+    ASSERT_EQ(Import("MNUM,SCAN,RTON,RCOD,TTON,TCOD\nGD1,7,71.9,023,74.4,025\n"), 1);
+    EXPECT_EQ(Text(101, SCAN), "0");
+    EXPECT_EQ(Text(101, RTON), "n/a");
+    EXPECT_EQ(Text(101, RCOD), "n/a");
+    EXPECT_EQ(Text(101, TTON), "74.4");
+    EXPECT_EQ(Text(101, TCOD), "025");
 }
 
 TEST_F(CsvImport, ReadsAListInAnyForm) {
@@ -189,7 +189,7 @@ TEST_F(CsvImport, ReadsAListInAnyForm) {
     for (const auto& [name, bytes, desc] : cases) {
         EmptyPageOf("ANFM");
         EXPECT_LE(1, Import(bytes)) << name;
-        EXPECT_EQ(desc, Text(5, DESC)) << name;
+        EXPECT_EQ(Text(5, DESC), desc) << name;
     }
 }
 
@@ -201,22 +201,22 @@ TEST_F(CsvImport, WithoutAHeadingSaysSoAndLeavesThePage) {
         script.Expect(DialogKind::Message, "Import CSV")
             .Message(HeaderMissing)
             .Style(wxOK | wxCENTRE | wxICON_ERROR);
-        EXPECT_EQ(0, Import(bytes)) << bytes;
+        EXPECT_EQ(Import(bytes), 0) << bytes;
     }
-    EXPECT_EQ((std::vector<int>{0, 5}), FilledRows(0));
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 5}));
 }
 
 TEST_F(CsvImport, WithoutANumberColumnWritesNothing) {
     EmptyPageOf("ANFM");
-    EXPECT_EQ(0, Import("DESC,MODE\nA,W\nB,N\n"));
-    EXPECT_EQ(std::vector<int>{0}, FilledRows(0));
+    EXPECT_EQ(Import("DESC,MODE\nA,W\nB,N\n"), 0);
+    EXPECT_EQ(FilledRows(0), std::vector<int>{0});
 }
 
 TEST_F(CsvImport, WorksOnThePageThatIsSelected) {
     EmptyPageOf("ANFM");
     SetPageParameters(MainFrame, 1, Krv214, 0);
     CreateNewPage(MainFrame, 1);
-    ASSERT_EQ(1, Import("MNUM,DESC\n5,A"));
-    EXPECT_EQ("A", PageGrid[1]->GetCellValue(5, DESC));
-    EXPECT_EQ("", PageGrid[0]->GetCellValue(5, DESC));
+    ASSERT_EQ(Import("MNUM,DESC\n5,A"), 1);
+    EXPECT_EQ(PageGrid[1]->GetCellValue(5, DESC), "A");
+    EXPECT_EQ(PageGrid[0]->GetCellValue(5, DESC), "");
 }

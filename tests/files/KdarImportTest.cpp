@@ -18,45 +18,45 @@ protected:
 
 TEST_F(KdarImport, PutsEachFieldIntoItsCell) {
     EmptyPageOf("KDAR");
-    ASSERT_EQ(1, ImportLines("1,TOWER,121500,122000,Yes,Yes,\n"));
+    ASSERT_EQ(ImportLines("1,TOWER,121500,122000,Yes,Yes,\n"), 1);
     const std::map<int, const char*> shown = {{MNUM, "001"},     {DESC, "TOWER"}, {RFRQ, "121.500"},
                                               {TFRQ, "122.000"}, {SCAN, "Y"},     {RONL, "Y"},
                                               {TFLG, "A0"}};
     for (const auto& [col, text] : shown)
-        EXPECT_EQ(text, Text(1, col)) << col;
-    EXPECT_EQ((std::vector<int>{0, 1}), FilledRows(0));
+        EXPECT_EQ(Text(1, col), text) << col;
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 1}));
 }
 
 TEST_F(KdarImport, FillsThePageFromItsFirstMemoryWhateverTheNumbers) {
     EmptyPageOf("KDAR");
-    ASSERT_EQ(3, ImportLines("7,A\nDEF,B\n007,C"));
+    ASSERT_EQ(ImportLines("7,A\nDEF,B\n007,C"), 3);
     for (const auto& [row, name] : {std::pair(1, "A"), {2, "B"}, {3, "C"}}) {
-        EXPECT_EQ(name, Text(row, DESC));
-        EXPECT_EQ("00" + std::to_string(row), Text(row, MNUM));
+        EXPECT_EQ(Text(row, DESC), name);
+        EXPECT_EQ(Text(row, MNUM), "00" + std::to_string(row));
     }
-    EXPECT_EQ((std::vector<int>{0, 1, 2, 3}), FilledRows(0));
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 1, 2, 3}));
 }
 
 TEST_F(KdarImport, PassesLinesOverWithoutUsingUpARow) {
     EmptyPageOf("KDAR");
-    ASSERT_EQ(2, ImportLines("1,A\nx,B\n101,C\n-1,D\n2,E\n"));
-    EXPECT_EQ("A", Text(1, DESC));
-    EXPECT_EQ("E", Text(2, DESC));
-    EXPECT_EQ((std::vector<int>{0, 1, 2}), FilledRows(0));
+    ASSERT_EQ(ImportLines("1,A\nx,B\n101,C\n-1,D\n2,E\n"), 2);
+    EXPECT_EQ(Text(1, DESC), "A");
+    EXPECT_EQ(Text(2, DESC), "E");
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 1, 2}));
 }
 
 TEST_F(KdarImport, OfALineWithoutANumberTakesTheRowsNumberAway) {
     EmptyPageOf("KDAR");
-    ASSERT_EQ(2, ImportLines(",A\n1,B\n"));
-    EXPECT_EQ("", Text(1, MNUM));
-    EXPECT_EQ("A", Text(1, DESC));
-    EXPECT_EQ("002", Text(2, MNUM));
+    ASSERT_EQ(ImportLines(",A\n1,B\n"), 2);
+    EXPECT_EQ(Text(1, MNUM), "");
+    EXPECT_EQ(Text(1, DESC), "A");
+    EXPECT_EQ(Text(2, MNUM), "002");
 }
 
 TEST_F(KdarImport, LosesLinesBehindTheLastRow) {
     EmptyPageOf("KDAR");
-    EXPECT_EQ(100, ImportLines(Repeat("1,A\n", 130)));
-    EXPECT_EQ("100", Text(100, MNUM));
+    EXPECT_EQ(ImportLines(Repeat("1,A\n", 130)), 100);
+    EXPECT_EQ(Text(100, MNUM), "100");
 }
 
 TEST_F(KdarImport, PutsAPointBehindThreeDigitsWhereThereIsNone) {
@@ -75,9 +75,9 @@ TEST_F(KdarImport, PutsAPointBehindThreeDigitsWhereThereIsNone) {
     };
     for (const auto& [receive, transmit, rfrq, tfrq] : cases) {
         EmptyPageOf("KDAR");
-        ASSERT_EQ(1, ImportLines(std::string("1,A,") + receive + "," + transmit + ",No,No,"));
-        EXPECT_EQ(rfrq, Text(1, RFRQ)) << receive << " / " << transmit;
-        EXPECT_EQ(tfrq, Text(1, TFRQ)) << receive << " / " << transmit;
+        ASSERT_EQ(ImportLines(std::string("1,A,") + receive + "," + transmit + ",No,No,"), 1);
+        EXPECT_EQ(Text(1, RFRQ), rfrq) << receive << " / " << transmit;
+        EXPECT_EQ(Text(1, TFRQ), tfrq) << receive << " / " << transmit;
     }
 }
 
@@ -90,9 +90,9 @@ TEST_F(KdarImport, ReadsScanAndReceiveOnly) {
     };
     for (const auto& [scan, rxOnly, scanCell, ronl] : cases) {
         EmptyPageOf("KDAR");
-        ASSERT_EQ(1, ImportLines(std::string("1,A,118000,118000,") + scan + "," + rxOnly));
-        EXPECT_EQ(scanCell, Text(1, SCAN)) << scan;
-        EXPECT_EQ(ronl, Text(1, RONL)) << rxOnly;
+        ASSERT_EQ(ImportLines(std::string("1,A,118000,118000,") + scan + "," + rxOnly), 1);
+        EXPECT_EQ(Text(1, SCAN), scanCell) << scan;
+        EXPECT_EQ(Text(1, RONL), ronl) << rxOnly;
     }
 }
 
@@ -100,11 +100,11 @@ TEST_F(KdarImport, OfEmptyFieldsKeepsTheDefaultTexts) {
     EmptyPageOf("KDAR");
     SetCell(0, SCAN, "Y");
     SetCell(0, RONL, "Y");
-    ASSERT_EQ(1, ImportLines("1,,,,,"));
+    ASSERT_EQ(ImportLines("1,,,,,"), 1);
     std::vector<std::string> expected = RowTexts(0);
     expected[MNUM] = "001";
     expected[DESC] = "VHFAM001";
-    EXPECT_EQ(expected, RowTexts(1));
+    EXPECT_EQ(RowTexts(1), expected);
 }
 
 TEST_F(KdarImport, OfAPurgeListMarksItsRowsForErasing) {
@@ -114,9 +114,9 @@ TEST_F(KdarImport, OfAPurgeListMarksItsRowsForErasing) {
     };
     for (const auto& [banner, flags] : cases) {
         EmptyPageOf("KDAR");
-        ASSERT_EQ(2, ImportLines("1,A\n2,B", banner));
-        EXPECT_EQ(flags, Text(1, TFLG)) << banner;
-        EXPECT_EQ(flags, Text(2, TFLG)) << banner;
+        ASSERT_EQ(ImportLines("1,A\n2,B", banner), 2);
+        EXPECT_EQ(Text(1, TFLG), flags) << banner;
+        EXPECT_EQ(Text(2, TFLG), flags) << banner;
     }
 }
 
@@ -127,22 +127,22 @@ TEST_F(KdarImport, WithoutASecondLineSaysSoAndLeavesThePage) {
         script.Expect(DialogKind::Message, "Import CSV")
             .Message(HeaderMissing)
             .Style(wxOK | wxCENTRE | wxICON_ERROR);
-        EXPECT_EQ(0, ImportKdar(bytes)) << bytes;
+        EXPECT_EQ(ImportKdar(bytes), 0) << bytes;
     }
-    EXPECT_EQ(std::vector<int>{0}, FilledRows(0));
+    EXPECT_EQ(FilledRows(0), std::vector<int>{0});
 }
 
 TEST_F(KdarImport, TakesAnyLineForTheHeading) {
     EmptyPageOf("KDAR");
-    EXPECT_EQ(1, ImportKdar("KDAR-2000,,,,,\n1,A,118000\n2,B,119000\n")) << "a list without it loses a line";
-    EXPECT_EQ("B", Text(1, DESC));
+    EXPECT_EQ(ImportKdar("KDAR-2000,,,,,\n1,A,118000\n2,B,119000\n"), 1) << "a list without it loses a line";
+    EXPECT_EQ(Text(1, DESC), "B");
 }
 
 TEST_F(KdarImport, FillsOnlyItsRows) {
     EmptyPageOf("KDAR");
     SetCell(9, DESC, "KEPT");
     Select({9});
-    ASSERT_EQ(1, ImportLines("1,A"));
-    EXPECT_EQ((std::vector<int>{0, 1, 9}), FilledRows(0));
-    EXPECT_EQ("", Text(9, MNUM));
+    ASSERT_EQ(ImportLines("1,A"), 1);
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 1, 9}));
+    EXPECT_EQ(Text(9, MNUM), "");
 }

@@ -11,11 +11,11 @@ using testbench::DialogScript;
 TEST_F(OpenSaveCommands, OpenReadsTheChosenFile) {
     WriteToFolder("a.zelk", FileOf("KDAR", Memory(7, "<MN>007</MN><DS>TOWER</DS>")));
     OpenByMenu("a.zelk");
-    EXPECT_EQ("TOWER", Text(7, DESC));
-    EXPECT_EQ("KDAR-2000", Status(1));
-    EXPECT_EQ("a", PageStrings[0].FileName);
-    EXPECT_EQ(FolderText(), PageStrings[0].FileDir);
-    EXPECT_EQ(0x02, CurrentParameters().Flags);
+    EXPECT_EQ(Text(7, DESC), "TOWER");
+    EXPECT_EQ(Status(1), "KDAR-2000");
+    EXPECT_EQ(PageStrings[0].FileName, "a");
+    EXPECT_EQ(PageStrings[0].FileDir, FolderText());
+    EXPECT_EQ(CurrentParameters().Flags, 0x02);
 }
 
 TEST_F(OpenSaveCommands, AFileNamedByTheCommandLineBelongsToItsFolderWhateverTheWorkingFolderIs) {
@@ -24,10 +24,10 @@ TEST_F(OpenSaveCommands, AFileNamedByTheCommandLineBelongsToItsFolderWhateverThe
     fs::current_path(m_folder.Path());
     EXPECT_TRUE(OpenChannelFile("a.zelk"));
     fs::current_path(workingFolder);
-    EXPECT_EQ("TOWER", Text(7, DESC));
-    EXPECT_EQ("a", PageStrings[0].FileName);
-    EXPECT_EQ(FolderText(), PageStrings[0].FileDir);
-    EXPECT_EQ(0x02, CurrentParameters().Flags);
+    EXPECT_EQ(Text(7, DESC), "TOWER");
+    EXPECT_EQ(PageStrings[0].FileName, "a");
+    EXPECT_EQ(PageStrings[0].FileDir, FolderText());
+    EXPECT_EQ(CurrentParameters().Flags, 0x02);
 }
 
 TEST_F(OpenSaveCommands, AFileNamedByTheCommandLineThatCanNotBeReadIsToldLikeAnyOther) {
@@ -37,8 +37,8 @@ TEST_F(OpenSaveCommands, AFileNamedByTheCommandLineThatCanNotBeReadIsToldLikeAny
     script.ExpectMessage("Error", testbench::Matching("Open File returned: 1[0-9]+"));
     EXPECT_FALSE(OpenChannelFile((m_folder / "missing.zelk").string()));
     EXPECT_FALSE(OpenChannelFile((m_folder / "empty.zelk").string()));
-    EXPECT_EQ("", PageStrings[0].FileName);
-    EXPECT_EQ(0, CurrentParameters().Flags);
+    EXPECT_EQ(PageStrings[0].FileName, "");
+    EXPECT_EQ(CurrentParameters().Flags, 0);
 }
 
 TEST_F(OpenSaveCommands, OpenAsksFirstAndLeavesThePageWhenThePersonDoesNotWantTo) {
@@ -49,7 +49,7 @@ TEST_F(OpenSaveCommands, OpenAsksFirstAndLeavesThePageWhenThePersonDoesNotWantTo
         .Style(wxOK | wxCANCEL)
         .Answer(wxID_CANCEL);
     Choose(IdOpen);
-    EXPECT_EQ("KEPT", Text(5, DESC));
+    EXPECT_EQ(Text(5, DESC), "KEPT");
 }
 
 TEST_F(OpenSaveCommands, OpenLeavesThePageWhenNoFileIsChosen) {
@@ -58,8 +58,8 @@ TEST_F(OpenSaveCommands, OpenLeavesThePageWhenNoFileIsChosen) {
     script.ExpectMessage("Open File?", OpenQuestion);
     script.Expect(DialogKind::File, "Select Zelk file").Answer(wxID_CANCEL);
     Choose(IdOpen);
-    EXPECT_EQ("KEPT", Text(5, DESC));
-    EXPECT_EQ("", PageStrings[0].FileName);
+    EXPECT_EQ(Text(5, DESC), "KEPT");
+    EXPECT_EQ(PageStrings[0].FileName, "");
 }
 
 TEST_F(OpenSaveCommands, OpenOffersChannelFiles) {
@@ -67,11 +67,11 @@ TEST_F(OpenSaveCommands, OpenOffersChannelFiles) {
     script.ExpectMessage("Open File?", OpenQuestion);
     script.Expect(DialogKind::File, "Select Zelk file").Answer(wxID_CANCEL).Set([](wxDialog* dialog) {
         auto* file = dynamic_cast<wxFileDialog*>(dialog);
-        ASSERT_NE(nullptr, file);
-        EXPECT_EQ("Zelk files|*.zelk|All files|*.*", file->GetWildcard());
-        EXPECT_EQ("", file->GetFilename());
+        ASSERT_NE(file, nullptr);
+        EXPECT_EQ(file->GetWildcard(), "Zelk files|*.zelk|All files|*.*");
+        EXPECT_EQ(file->GetFilename(), "");
         EXPECT_TRUE(file->HasFlag(wxFD_OPEN));
-        EXPECT_EQ(MainFrame, file->GetParent());
+        EXPECT_EQ(file->GetParent(), MainFrame);
     });
     Choose(IdOpen);
 }
@@ -81,7 +81,7 @@ TEST_F(OpenSaveCommands, OpenBeginsInTheFolderOfThePageOrElseOfTheFirstPage) {
     fs::create_directories(m_folder / "second");
     SetPageParameters(MainFrame, 1, Krv214, 0);
     CreateNewPage(MainFrame, 1);
-    ASSERT_EQ(1, CurrentPage);
+    ASSERT_EQ(CurrentPage, 1);
     PageStrings[0].FileDir = FolderText() + "first/";
     for (const std::string own : {"", "second"}) {
         PageStrings[1].FileDir = own.empty() ? "" : FolderText() + own + "/";
@@ -109,8 +109,8 @@ TEST_F(OpenSaveCommands, OpenTellsWhatIsNoDocumentAndLeavesThePage) {
         .Message("Not valid XML Document")
         .Style(wxOK | wxCENTRE | wxICON_ERROR);
     Choose(IdOpen);
-    EXPECT_EQ("KEPT", Text(5, DESC));
-    EXPECT_EQ("", PageStrings[0].FileName);
+    EXPECT_EQ(Text(5, DESC), "KEPT");
+    EXPECT_EQ(PageStrings[0].FileName, "");
 }
 
 TEST_F(OpenSaveCommands, OpenTellsTheCodeOfWhatAFileLacks) {
@@ -124,23 +124,23 @@ TEST_F(OpenSaveCommands, OpenTellsTheCodeOfWhatAFileLacks) {
         .Message("Open File returned: 103")
         .Style(wxOK | wxCENTRE | wxICON_INFORMATION);
     Choose(IdOpen);
-    EXPECT_EQ("former", PageStrings[0].FileName) << "the page keeps its file";
-    EXPECT_EQ("", PageStrings[0].FileDir);
-    EXPECT_EQ(0, CurrentParameters().Flags);
+    EXPECT_EQ(PageStrings[0].FileName, "former") << "the page keeps its file";
+    EXPECT_EQ(PageStrings[0].FileDir, "");
+    EXPECT_EQ(CurrentParameters().Flags, 0);
 }
 
 TEST_F(OpenSaveCommands, OpenKeepsTheRowsBeforeAnElementThatIsNoMemory) {
     WriteToFolder("other.zelk", FileOf("ANFM", Memory(5, "<DS>READ</DS>") + "<Other/>"));
     OpenByMenu("other.zelk", "Open File returned: 109");
-    EXPECT_EQ("READ", Text(5, DESC));
-    EXPECT_EQ("", PageStrings[0].FileName);
+    EXPECT_EQ(Text(5, DESC), "READ");
+    EXPECT_EQ(PageStrings[0].FileName, "");
 }
 
 TEST_F(OpenSaveCommands, OpenForgetsTheFormerFlagsOfThePage) {
     CurrentParameters().Flags = PageHasMarks;
     WriteToFolder("a.zelk", FileOf("RP25", Memory(5, "<MF>10</MF>")));
     OpenByMenu("a.zelk");
-    EXPECT_EQ(0x02 | 0x08, CurrentParameters().Flags);
+    EXPECT_EQ(CurrentParameters().Flags, 0x02 | 0x08);
 }
 
 TEST_F(OpenSaveCommands, OpenWorksOnTheSelectedPageOnly) {
@@ -150,9 +150,9 @@ TEST_F(OpenSaveCommands, OpenWorksOnTheSelectedPageOnly) {
     UpdateStatus(MainFrame, 1);
     WriteToFolder("a.zelk", FileOf("KDAR", Memory(7, "<DS>TOWER</DS>")));
     OpenByMenu("a.zelk");
-    EXPECT_EQ("TOWER", Text(7, DESC));
-    EXPECT_EQ("FIRST", PageGrid[0]->GetCellValue(5, DESC));
-    EXPECT_EQ("KRV-47", PageStrings[0].RadioName);
-    EXPECT_EQ("a", PageStrings[1].FileName);
-    EXPECT_EQ("", PageStrings[0].FileName);
+    EXPECT_EQ(Text(7, DESC), "TOWER");
+    EXPECT_EQ(PageGrid[0]->GetCellValue(5, DESC), "FIRST");
+    EXPECT_EQ(PageStrings[0].RadioName, "KRV-47");
+    EXPECT_EQ(PageStrings[1].FileName, "a");
+    EXPECT_EQ(PageStrings[0].FileName, "");
 }

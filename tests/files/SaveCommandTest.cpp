@@ -28,13 +28,13 @@ TEST_F(OpenSaveCommands, SaveAsksForANameOnceAndThenWritesWithoutAsking) {
         script.ExpectFile("Save .zelk file...", (m_folder / "mine.zelk").string());
         Choose(IdSave);
     }
-    EXPECT_EQ(std::vector<std::string>{"mine.zelk"}, Entries());
-    EXPECT_EQ("mine", PageStrings[0].FileName);
-    EXPECT_EQ(FolderText(), PageStrings[0].FileDir);
+    EXPECT_EQ(Entries(), std::vector<std::string>{"mine.zelk"});
+    EXPECT_EQ(PageStrings[0].FileName, "mine");
+    EXPECT_EQ(PageStrings[0].FileDir, FolderText());
     SetCell(0, DESC, "CHANGED");
     Choose(IdSave);
     EXPECT_NE(std::string::npos, ReadFromFolder("mine.zelk").find("<DS>CHANGED</DS>"));
-    EXPECT_EQ(0, CurrentParameters().Flags) << "a save touches no flags";
+    EXPECT_EQ(CurrentParameters().Flags, 0) << "a save touches no flags";
 }
 
 TEST_F(OpenSaveCommands, SaveAfterOpenWritesTheOpenedFile) {
@@ -53,14 +53,14 @@ TEST_F(OpenSaveCommands, SaveAsAlwaysAsksAndStartsFromThePagesFile) {
         .Path((m_folder / "new.zelk").string())
         .Set([&](wxDialog* dialog) {
             auto* file = dynamic_cast<wxFileDialog*>(dialog);
-            ASSERT_NE(nullptr, file);
-            EXPECT_EQ("Zelk Files|*.zelk|All files|*.*", file->GetWildcard());
+            ASSERT_NE(file, nullptr);
+            EXPECT_EQ(file->GetWildcard(), "Zelk Files|*.zelk|All files|*.*");
             EXPECT_TRUE(file->HasFlag(wxFD_SAVE));
             EXPECT_FALSE(file->HasFlag(wxFD_OVERWRITE_PROMPT));
         });
     Choose(IdSaveAs);
-    EXPECT_EQ(std::vector<std::string>{"new.zelk"}, Entries());
-    EXPECT_EQ("new", PageStrings[0].FileName);
+    EXPECT_EQ(Entries(), std::vector<std::string>{"new.zelk"});
+    EXPECT_EQ(PageStrings[0].FileName, "new");
 }
 
 TEST_F(OpenSaveCommands, SaveAsOffersThePagesNameAndFolder) {
@@ -69,8 +69,8 @@ TEST_F(OpenSaveCommands, SaveAsOffersThePagesNameAndFolder) {
     DialogScript script;
     script.Expect(DialogKind::File, "Save .zelk file...").Answer(wxID_CANCEL).Set([&](wxDialog* dialog) {
         auto* file = dynamic_cast<wxFileDialog*>(dialog);
-        EXPECT_EQ("old", file->GetFilename());
-        EXPECT_EQ(wxFileName::DirName(FolderText()), wxFileName::DirName(file->GetDirectory()));
+        EXPECT_EQ(file->GetFilename(), "old");
+        EXPECT_EQ(wxFileName::DirName(file->GetDirectory()), wxFileName::DirName(FolderText()));
     });
     Choose(IdSaveAs);
 }
@@ -81,9 +81,9 @@ TEST_F(OpenSaveCommands, SaveThatIsCancelledWritesNothing) {
         script.Expect(DialogKind::File, "Save .zelk file...").Answer(wxID_CANCEL);
         Choose(command);
     }
-    EXPECT_EQ(std::vector<std::string>{}, Entries());
-    EXPECT_EQ("", PageStrings[0].FileName);
-    EXPECT_EQ("", PageStrings[0].FileDir);
+    EXPECT_EQ(Entries(), std::vector<std::string>{});
+    EXPECT_EQ(PageStrings[0].FileName, "");
+    EXPECT_EQ(PageStrings[0].FileDir, "");
 }
 
 TEST_F(OpenSaveCommands, SaveMakesTheUsersDataFolderEvenWhenItIsCancelled) {
@@ -112,8 +112,8 @@ TEST_F(OpenSaveCommands, SaveGivesEveryNameTheExtension) {
         DialogScript script;
         script.ExpectFile("Save .zelk file...", (m_folder / chosen).string());
         Choose(IdSaveAs);
-        EXPECT_EQ(wxString::FromUTF8(name), PageStrings[0].FileName);
-        EXPECT_EQ(std::vector<std::string>{file}, Entries());
+        EXPECT_EQ(PageStrings[0].FileName, wxString::FromUTF8(name));
+        EXPECT_EQ(Entries(), std::vector<std::string>{file});
         fs::remove(m_folder / file);
     }
 }
@@ -121,9 +121,9 @@ TEST_F(OpenSaveCommands, SaveGivesEveryNameTheExtension) {
 TEST_F(OpenSaveCommands, AFileWithDotsInItsNameIsSavedBackUnderIt) {
     WriteToFolder("a.b.zelk", FileOf("ANFM", ""));
     OpenByMenu("a.b.zelk");
-    EXPECT_EQ("a.b", PageStrings[0].FileName);
+    EXPECT_EQ(PageStrings[0].FileName, "a.b");
     Choose(IdSave);
-    EXPECT_EQ(std::vector<std::string>{"a.b.zelk"}, Entries());
+    EXPECT_EQ(Entries(), std::vector<std::string>{"a.b.zelk"});
     EXPECT_NE(std::string::npos, ReadFromFolder("a.b.zelk").find("<MEMORY row=\"0\">"));
 }
 
@@ -147,6 +147,6 @@ TEST_F(OpenSaveCommands, SaveKeepsThePageItself) {
     PageStrings[0].FileName = "a";
     SetCells(5, {{MNUM, "x"}, {RTON, "64"}, {DESC, "A"}});
     Choose(IdSave);
-    EXPECT_EQ("x", Text(5, MNUM)) << "conversions are for the file alone";
-    EXPECT_EQ("64", Text(5, RTON));
+    EXPECT_EQ(Text(5, MNUM), "x") << "conversions are for the file alone";
+    EXPECT_EQ(Text(5, RTON), "64");
 }

@@ -16,7 +16,7 @@ protected:
         FillRowsFromDefault({1, 2, 3, 4, 5, 6, 7, 8});
         Choose(IdSave);
         m_former = ReadFromFolder("a.zelk");
-        ASSERT_EQ(0, chmod((m_folder / "a.zelk").c_str(), 0666));
+        ASSERT_EQ(chmod((m_folder / "a.zelk").c_str(), 0666), 0);
         for (const int row : {1, 2, 3})
             SetCell(row, DESC, "NEW");
         Choose(IdSave);
@@ -34,13 +34,13 @@ protected:
 
     /// The file is the former one or the new one, whole, and the status bar tells which.
     void ExpectWholeFileAsTold() {
-        EXPECT_EQ(std::vector<std::string>{"a.zelk"}, Entries());
+        EXPECT_EQ(Entries(), std::vector<std::string>{"a.zelk"});
         const std::string bytes = ReadFromFolder("a.zelk");
         if (Status(0).starts_with("NOT SAVED: "))
-            EXPECT_EQ(m_former, bytes) << Status(0);
+            EXPECT_EQ(bytes, m_former) << Status(0);
         else {
-            EXPECT_EQ("Saved a.zelk", Status(0));
-            EXPECT_EQ(m_fresh, Masked(bytes));
+            EXPECT_EQ(Status(0), "Saved a.zelk");
+            EXPECT_EQ(Masked(bytes), m_fresh);
         }
     }
 
@@ -56,8 +56,8 @@ protected:
                 break;
             }
         }
-        EXPECT_EQ("Saved a.zelk", Status(0)) << "without a failure";
-        EXPECT_EQ(m_fresh, Masked(ReadFromFolder("a.zelk")));
+        EXPECT_EQ(Status(0), "Saved a.zelk") << "without a failure";
+        EXPECT_EQ(Masked(ReadFromFolder("a.zelk")), m_fresh);
         return which - 1;
     }
 
@@ -77,12 +77,12 @@ TEST_F(SaveFaults, LeaveTheFormerFileOrTheNewOneWholeWhicheverCallFails) {
 }
 
 TEST_F(SaveFaults, OfAFileThatIsOverwrittenInItsPlaceAreUndone) {
-    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0555));
+    ASSERT_EQ(chmod(m_folder.Path().c_str(), 0555), 0);
     {
         const AsAnyUser user;
         const int calls = SaveWithEachFailure(ENOSPC);
         EXPECT_GT(calls, 5) << "opening, several writes, flushing, closing";
         EXPECT_GT(m_refused, calls - 3) << "of opening one beside it, and of closing, nothing is told";
     }
-    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0755));
+    ASSERT_EQ(chmod(m_folder.Path().c_str(), 0755), 0);
 }

@@ -11,11 +11,11 @@ TEST_F(OpenSaveCommands, SaveAsksBeforeItReplacesAFileThatThePageDoesNotKnow) {
     WriteToFolder("a.zelk", "other");
     NamePage("a");
     SaveOver("a.zelk", wxID_CANCEL);
-    EXPECT_EQ("other", ReadFromFolder("a.zelk"));
-    EXPECT_EQ("Select function", Status(0));
+    EXPECT_EQ(ReadFromFolder("a.zelk"), "other");
+    EXPECT_EQ(Status(0), "Select function");
     SaveOver("a.zelk", wxID_OK);
     EXPECT_NE(std::string::npos, ReadFromFolder("a.zelk").find("<ZelkMem>"));
-    EXPECT_EQ("Saved a.zelk", Status(0));
+    EXPECT_EQ(Status(0), "Saved a.zelk");
     Choose(IdSave); // it is the page's own now
 }
 
@@ -28,9 +28,9 @@ TEST_F(OpenSaveCommands, SaveAsAsksBeforeItReplacesAFileThatThePageDoesNotKnow) 
         script.ExpectFile("Save .zelk file...", (m_folder / "other.txt").string());
         ExpectReplaceQuestion(script, "other.zelk", answer);
         Choose(IdSaveAs);
-        EXPECT_EQ(answer == wxID_CANCEL, ReadFromFolder("other.zelk") == "other");
-        EXPECT_EQ(answer == wxID_CANCEL ? "mine" : "other", PageStrings[0].FileName);
-        EXPECT_EQ(FolderText(), PageStrings[0].FileDir);
+        EXPECT_EQ(ReadFromFolder("other.zelk") == "other", answer == wxID_CANCEL);
+        EXPECT_EQ(PageStrings[0].FileName, answer == wxID_CANCEL ? "mine" : "other");
+        EXPECT_EQ(PageStrings[0].FileDir, FolderText());
     }
     // Both are the page's own now.
     SaveAs("mine.zelk");
@@ -43,8 +43,8 @@ TEST_F(OpenSaveCommands, SaveThatIsCancelledAtTheQuestionLeavesAPageWithoutAName
     script.ExpectFile("Save .zelk file...", (m_folder / "other.zelk").string());
     ExpectReplaceQuestion(script, "other.zelk", wxID_CANCEL);
     Choose(IdSave);
-    EXPECT_EQ("", PageStrings[0].FileName);
-    EXPECT_EQ("", PageStrings[0].FileDir);
+    EXPECT_EQ(PageStrings[0].FileName, "");
+    EXPECT_EQ(PageStrings[0].FileDir, "");
 }
 
 TEST_F(OpenSaveCommands, SaveOverTheOpenedFileAsksNothingAndOverAnotherOneDoes) {
@@ -56,7 +56,7 @@ TEST_F(OpenSaveCommands, SaveOverTheOpenedFileAsksNothingAndOverAnotherOneDoes) 
     SaveAs("a.zelk");
     OpenByMenu("b.xml");
     SaveOver("b.zelk", wxID_CANCEL);
-    EXPECT_EQ("other", ReadFromFolder("b.zelk")) << "b.xml is another file";
+    EXPECT_EQ(ReadFromFolder("b.zelk"), "other") << "b.xml is another file";
 }
 
 TEST_F(OpenSaveCommands, AFileIsKnownUnderEveryNameThatItHas) {
@@ -67,7 +67,7 @@ TEST_F(OpenSaveCommands, AFileIsKnownUnderEveryNameThatItHas) {
     Choose(IdSave);
     PageStrings[0].FileDir = FolderText() + "link/../link/";
     Choose(IdSave);
-    EXPECT_EQ("Saved a.zelk", Status(0));
+    EXPECT_EQ(Status(0), "Saved a.zelk");
 }
 
 TEST_F(OpenSaveCommands, AFileOfAnotherPageIsAskedAbout) {
@@ -90,9 +90,9 @@ TEST_F(OpenSaveCommands, FilesStayWithTheirPageWhenAPageBeforeItIsDeleted) {
         script.ExpectMessage("Delete Page?", "This will delete ALL data on this page! Continue?");
         Choose(IdPageDelete);
     }
-    ASSERT_EQ("second", PageStrings[0].FileName);
+    ASSERT_EQ(PageStrings[0].FileName, "second");
     Choose(IdSave);
-    EXPECT_EQ("Saved second.zelk", Status(0));
+    EXPECT_EQ(Status(0), "Saved second.zelk");
     NamePage("first");
     SaveOver("first.zelk", wxID_CANCEL);
     // A page that is made anew in a former page's place knows none of its files.
@@ -105,7 +105,7 @@ TEST_F(OpenSaveCommands, FilesAreForgottenWithTheTarget) {
     NamePage("a");
     Choose(IdSave);
     RetargetTo("KDAR");
-    EXPECT_EQ("", PageStrings[0].FileName);
+    EXPECT_EQ(PageStrings[0].FileName, "");
     DialogScript script;
     script.ExpectFile("Save .zelk file...", (m_folder / "a.zelk").string());
     ExpectReplaceQuestion(script, "a.zelk", wxID_CANCEL);
@@ -119,6 +119,6 @@ TEST_F(OpenSaveCommands, AFileThatCouldNotBeSavedIsNotThePagesOwn) {
         const FileSizeLimit full(10);
         SaveOver("a.zelk", wxID_OK);
     }
-    EXPECT_EQ("other", ReadFromFolder("a.zelk"));
+    EXPECT_EQ(ReadFromFolder("a.zelk"), "other");
     SaveOver("a.zelk", wxID_CANCEL);
 }

@@ -16,8 +16,8 @@ TEST_F(OpenSaveCommands, SaveTellsThatItWasDone) {
         else
             Choose(command);
         const std::string file = command == IdSave ? "a.zelk" : "b.zelk";
-        EXPECT_EQ("Saved " + file, Status(0));
-        EXPECT_EQ("Saved " + file, ToolTip());
+        EXPECT_EQ(Status(0), "Saved " + file);
+        EXPECT_EQ(ToolTip(), "Saved " + file);
     }
 }
 
@@ -25,19 +25,18 @@ TEST_F(OpenSaveCommands, SaveTellsHowManyRowsItLeftOutAndWhich) {
     NamePage("a");
     SetCell(3, DESC, "A");
     Choose(IdSave);
-    EXPECT_EQ("1 row NOT SAVED: a.zelk", Status(0));
-    EXPECT_EQ("Saved a.zelk; 1 row is incomplete and was not saved: 3", ToolTip());
+    EXPECT_EQ(Status(0), "1 row NOT SAVED: a.zelk");
+    EXPECT_EQ(ToolTip(), "Saved a.zelk; 1 row is incomplete and was not saved: 3");
     SetCell(4, DESC, "A");
     SetCell(CurrentParameters().Rows, RFRQ, "67.0000");
     Choose(IdSave);
-    EXPECT_EQ("3 rows NOT SAVED: a.zelk", Status(0));
-    EXPECT_EQ("Saved a.zelk; 3 rows are incomplete and were not saved: 3, 4, " +
-                  std::to_string(CurrentParameters().Rows),
-              ToolTip());
+    EXPECT_EQ(Status(0), "3 rows NOT SAVED: a.zelk");
+    EXPECT_EQ(ToolTip(), "Saved a.zelk; 3 rows are incomplete and were not saved: 3, 4, " +
+                             std::to_string(CurrentParameters().Rows));
     for (int row : {3, 4, CurrentParameters().Rows})
         EmptyRow(row);
     Choose(IdSave);
-    EXPECT_EQ("Saved a.zelk", Status(0)) << "what an earlier save told is no longer so";
+    EXPECT_EQ(Status(0), "Saved a.zelk") << "what an earlier save told is no longer so";
 }
 
 TEST_F(OpenSaveCommands, SaveNamesADefaultRowThatItLeftOutInTheToolTip) {
@@ -45,18 +44,18 @@ TEST_F(OpenSaveCommands, SaveNamesADefaultRowThatItLeftOutInTheToolTip) {
     FillRowsFromDefault({5});
     SetCell(0, RFRQ, "");
     Choose(IdSave);
-    EXPECT_EQ("Saved a.zelk", Status(0)) << "the default row is no memory";
-    EXPECT_EQ("Saved a.zelk; the default row is incomplete and was not saved", ToolTip());
+    EXPECT_EQ(Status(0), "Saved a.zelk") << "the default row is no memory";
+    EXPECT_EQ(ToolTip(), "Saved a.zelk; the default row is incomplete and was not saved");
     SetCell(6, DESC, "A");
     Choose(IdSave);
-    EXPECT_EQ("1 row NOT SAVED: a.zelk", Status(0));
-    EXPECT_EQ("Saved a.zelk; 1 row is incomplete and was not saved: 6; the default row is incomplete and was "
-              "not saved",
-              ToolTip());
+    EXPECT_EQ(Status(0), "1 row NOT SAVED: a.zelk");
+    EXPECT_EQ(ToolTip(),
+              "Saved a.zelk; 1 row is incomplete and was not saved: 6; the default row is incomplete and was "
+              "not saved");
     EmptyRow(0);
     EmptyRow(6);
     Choose(IdSave);
-    EXPECT_EQ("Saved a.zelk", ToolTip()) << "a blank one had nothing to lose";
+    EXPECT_EQ(ToolTip(), "Saved a.zelk") << "a blank one had nothing to lose";
 }
 
 TEST_F(OpenSaveCommands, TheDefaultRowOfAFreshPageOfEveryTypeIsSaved) {
@@ -64,7 +63,7 @@ TEST_F(OpenSaveCommands, TheDefaultRowOfAFreshPageOfEveryTypeIsSaved) {
         SCOPED_TRACE(target.type);
         RetargetTo(target.type);
         SaveAs(std::string(target.type) + ".zelk");
-        EXPECT_EQ(std::string("Saved ") + target.type + ".zelk", ToolTip());
+        EXPECT_EQ(ToolTip(), std::string("Saved ") + target.type + ".zelk");
     }
 }
 
@@ -85,9 +84,9 @@ TEST_F(OpenSaveCommands, OutcomeOfASaveGoesWithThePage) {
     AddPageOf(1, Krv214);
     NamePage("a");
     Choose(IdSave);
-    EXPECT_EQ("Saved a.zelk", Status(0));
+    EXPECT_EQ(Status(0), "Saved a.zelk");
     MainFrame->m_notebook->SetSelection(0);
-    EXPECT_EQ("Select function", Status(0));
+    EXPECT_EQ(Status(0), "Select function");
 }
 
 TEST_F(OpenSaveCommands, SaveThatIsCancelledTellsNothingOfRows) {
@@ -95,28 +94,28 @@ TEST_F(OpenSaveCommands, SaveThatIsCancelledTellsNothingOfRows) {
     DialogScript script;
     script.Expect(DialogKind::File, "Save .zelk file...").Answer(wxID_CANCEL);
     Choose(IdSave);
-    EXPECT_EQ("Select function", Status(0));
+    EXPECT_EQ(Status(0), "Select function");
 }
 
 TEST_F(OpenSaveCommands, SaveThatFailsOpensNoBoxButTellsItInTheStatusBar) {
     PageStrings[0].FileDir = FolderText() + "missing/";
     PageStrings[0].FileName = "a";
     Choose(IdSave);
-    EXPECT_EQ("NOT SAVED: folder not found", Status(0));
-    EXPECT_EQ("NOT SAVED: " + FolderText() + "missing/a.zelk: No such file or directory", ToolTip());
-    EXPECT_EQ(std::vector<std::string>{}, Entries());
+    EXPECT_EQ(Status(0), "NOT SAVED: folder not found");
+    EXPECT_EQ(ToolTip(), "NOT SAVED: " + FolderText() + "missing/a.zelk: No such file or directory");
+    EXPECT_EQ(Entries(), std::vector<std::string>{});
 
     fs::create_directories(m_folder / "a.zelk/inside");
     PageStrings[0].FileDir = FolderText();
     Choose(IdSave);
-    EXPECT_EQ("NOT SAVED: a folder has this name", Status(0));
-    EXPECT_EQ("NOT SAVED: " + FolderText() + "a.zelk: Is a directory", ToolTip());
+    EXPECT_EQ(Status(0), "NOT SAVED: a folder has this name");
+    EXPECT_EQ(ToolTip(), "NOT SAVED: " + FolderText() + "a.zelk: Is a directory");
     EXPECT_TRUE(fs::exists(m_folder / "a.zelk/inside"));
 
     PageStrings[0].FileName = "b";
     Choose(IdSave);
-    EXPECT_EQ("Saved b.zelk", Status(0));
-    EXPECT_EQ((std::vector<std::string>{"a.zelk", "b.zelk"}), Entries());
+    EXPECT_EQ(Status(0), "Saved b.zelk");
+    EXPECT_EQ(Entries(), (std::vector<std::string>{"a.zelk", "b.zelk"}));
 }
 
 TEST_F(OpenSaveCommands, SaveThatFailsLeavesTheFormerFileAndThePagesName) {
@@ -125,10 +124,10 @@ TEST_F(OpenSaveCommands, SaveThatFailsLeavesTheFormerFileAndThePagesName) {
     WriteToFolder(name + ".zelk", "former");
     NamePage(name);
     SaveOver(name + ".zelk", wxID_OK);
-    EXPECT_EQ("NOT SAVED: name too long", Status(0));
-    EXPECT_EQ("NOT SAVED: " + FolderText() + name + ".zelk: File name too long", ToolTip());
-    EXPECT_EQ("former", ReadFromFolder(name + ".zelk"));
-    EXPECT_EQ(name, PageStrings[0].FileName);
+    EXPECT_EQ(Status(0), "NOT SAVED: name too long");
+    EXPECT_EQ(ToolTip(), "NOT SAVED: " + FolderText() + name + ".zelk: File name too long");
+    EXPECT_EQ(ReadFromFolder(name + ".zelk"), "former");
+    EXPECT_EQ(PageStrings[0].FileName, name);
 }
 
 TEST_F(OpenSaveCommands, SaveOnAFullDiskLeavesTheFormerFile) {
@@ -140,7 +139,7 @@ TEST_F(OpenSaveCommands, SaveOnAFullDiskLeavesTheFormerFile) {
         const FileSizeLimit full(100);
         Choose(IdSave);
     }
-    EXPECT_EQ("NOT SAVED: File too large", Status(0));
-    EXPECT_EQ(former, ReadFromFolder("a.zelk"));
-    EXPECT_EQ(std::vector<std::string>{"a.zelk"}, Entries());
+    EXPECT_EQ(Status(0), "NOT SAVED: File too large");
+    EXPECT_EQ(ReadFromFolder("a.zelk"), former);
+    EXPECT_EQ(Entries(), std::vector<std::string>{"a.zelk"});
 }

@@ -63,7 +63,7 @@ TEST(XmlFile, RefusesWhatIsNoDocument) {
 
 TEST(XmlFile, RefusesFoldersPipesAndWhatIsNotThere) {
     const testbench::TempFolder folder("zelk-xml");
-    ASSERT_EQ(0, mkfifo((folder / "pipe").c_str(), 0600));
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     wxXmlDocument document;
     EXPECT_FALSE(LoadXmlFile(folder.Path().string(), document));
     EXPECT_FALSE(LoadXmlFile((folder / "pipe").string(), document));

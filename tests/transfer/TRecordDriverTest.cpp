@@ -461,7 +461,7 @@ TEST_F(TRecordDriver, KeepsWhatIsReadBeforeAFailure) {
     EXPECT_EQ(Converse(Transcript(UpToProgramLine(Transcript::FromFile("protocol0_read"), 6) + "@cancel\n"),
                        ReadChannelsMode),
               TransferCancelled);
-    EXPECT_EQ(2u, FilledRows().size());
+    EXPECT_EQ(FilledRows().size(), 2u);
 }
 
 TEST_F(TRecordDriver, HardwareWithoutALogHasNoSerialNumberAndNoFile) {
@@ -577,6 +577,6 @@ TEST_F(TRecordDriver, ServesTheReadCommand) {
     ExpectBox(script, "Read from Radio Status", "Complete");
     Download();
     EXPECT_EQ(peer.Finish(), "");
-    EXPECT_EQ(2u, FilledRows().size());
+    EXPECT_EQ(FilledRows().size(), 2u);
     EXPECT_EQ(CellText(4, RFRQ), "154.12500");
 }

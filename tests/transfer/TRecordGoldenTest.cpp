@@ -49,7 +49,7 @@ TEST_P(TRecordGeneration, IsWrittenTo) {
 
 TEST_P(TRecordGeneration, IsReadFrom) {
     EXPECT_EQ(TransferBy(Name("read"), ReadChannelsMode), TransferComplete);
-    EXPECT_EQ(2u, FilledRows().size());
+    EXPECT_EQ(FilledRows().size(), 2u);
     for (const int row : {1, 4}) {
         EXPECT_EQ(CellText(row, MNUM), IsLatest() ? std::to_string(row) : "00" + std::to_string(row));
         EXPECT_EQ(CellText(row, DESC), "HILL");
@@ -193,7 +193,7 @@ TEST_F(TRecordGolden, WriteSurvivesTrouble) {
 
 TEST_F(TRecordGolden, ReadSurvivesTrouble) {
     EXPECT_EQ(TransferBy("read_trouble", ReadChannelsMode), TransferComplete);
-    EXPECT_EQ(3u, FilledRows().size());
+    EXPECT_EQ(FilledRows().size(), 3u);
 }
 
 TEST_F(TRecordGolden, UserSaysYesToDisabledModes) {
@@ -266,7 +266,7 @@ TEST_F(TRecordGolden, SecondGarbledRecordEndsARead) {
     DialogScript script;
     ExpectDriverBox(script, "Checksum Error on channel 0");
     EXPECT_EQ(TransferBy("read_garbled_twice", ReadChannelsMode), TransferChecksumError);
-    EXPECT_EQ(0u, FilledRows().size());
+    EXPECT_EQ(FilledRows().size(), 0u);
 }
 
 TEST_F(TRecordGolden, OldFirmwareIsFoundOutBeforeAnyMemoryIsTouched) {

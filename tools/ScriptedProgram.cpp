@@ -34,8 +34,6 @@ public:
 
 } // namespace
 
-wxIMPLEMENT_APP_NO_MAIN(ScriptedApp);
-
 namespace Tour {
 
 int RunScripted(const char* program, const std::filesystem::path& home,
@@ -45,6 +43,7 @@ int RunScripted(const char* program, const std::filesystem::path& home,
         setenv(name, home.c_str(), 1);
     // Without a session bus the toolkit's settings service only complains.
     setenv("GSETTINGS_BACKEND", "memory", 1);
+    wxApp::SetInstance(new ScriptedApp);
     std::string name = program;
     char* arguments[] = {name.data(), nullptr};
     int noArguments = 1;

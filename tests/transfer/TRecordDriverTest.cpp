@@ -498,7 +498,7 @@ TEST_F(TRecordDriver, SerialNumberLeadsToNoOtherFolder) {
     m_context.LogFile.Open("Zelk.log", "w");
     std::filesystem::create_directories("Logs/deep");
     std::filesystem::create_directory("KDRV-716_..");
-    std::ofstream("precious.txt") << "precious";
+    WriteFile("precious.txt", "precious");
     for (const char* serial : {"../precious", "deep/new", "../new", "..\\new", "a\nb"}) {
         SCOPED_TRACE(serial);
         EXPECT_EQ(

@@ -88,7 +88,7 @@ TEST_P(TRecordGeneration, TakesAConfigurationOnlyIfItIsTheLatest) {
 
 TEST_P(TRecordGeneration, TellsItsHardwareOnlyIfItIsTheLatest) {
     std::filesystem::create_directory("Logs");
-    std::ofstream("Logs/K7A42.txt") << "a former text that is longer than the one that takes its place";
+    WriteFile("Logs/K7A42.txt", "a former text that is longer than the one that takes its place");
     EXPECT_EQ(TransferBy(Name("hardware"), ReadInformationMode), TransferComplete);
     if (!IsLatest()) {
         EXPECT_EQ(Text(m_context.RadioSerial), "UNKNOWN");
@@ -107,7 +107,7 @@ TEST_P(TRecordGeneration, TellsItsHardwareOnlyIfItIsTheLatest) {
 
 TEST_P(TRecordGeneration, GivesItsDebugLog) {
     const std::string file = IsLatest() ? "KDRV-716_K7A42_Dbg.log" : "KDRV-716_UNKNOWN_Dbg.log";
-    std::ofstream(file) << "a former log";
+    WriteFile(file, "a former log");
     EXPECT_EQ(TransferBy(Name("debug_log"), ReadDebugLogMode), TransferComplete);
     const std::string heading =
         std::string("SN,") + (IsLatest() ? "K7A42" : "UNKNOWN") + "\nDate," + Date +

@@ -50,7 +50,7 @@ void Run(benchmark::State& state, bool read) {
     FillPage();
     CurrentGrid()->SelectAll();
     {
-        const PacedRadio radio("KRV-214", "--banner=");
+        const PacedRadio radio("KRV-214", {"--banner="});
         for ([[maybe_unused]] auto _ : state) {
             double seconds = Transfer(state, radio, WriteChannelsMode);
             if (read)

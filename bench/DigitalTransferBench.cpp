@@ -86,8 +86,8 @@ void Run(benchmark::State& state, bool read) {
     const auto hardware = PacedRadio::Folder() / "hardware";
     std::ofstream(hardware) << HardwareText << '\n';
     {
-        const PacedRadio radio("KDRV-716B", std::string("--stamp ") + Stamp + " --serial " + Serial +
-                                                " --hardware " + hardware.string());
+        const PacedRadio radio("KDRV-716B",
+                               {"--stamp", Stamp, "--serial", Serial, "--hardware", hardware.string()});
         for ([[maybe_unused]] auto _ : state) {
             RadioStamp = Stamp;
             double seconds = Transfer(state, radio, WriteChannelsMode);

@@ -3,7 +3,6 @@
 #include "bench/FullPage.h"
 #include "catalogue/PageCreation.h"
 #include "catalogue/PageModel.h"
-#include "frame/PageLifecycle.h"
 #include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
 

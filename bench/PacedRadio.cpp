@@ -1,32 +1,35 @@
 #include "bench/PacedRadio.h"
 
-#include <wx/process.h>
-#include <wx/utils.h>
-
-#include <thread>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
 
-PacedRadio::PacedRadio(const std::string& model, const std::string& options) {
-    m_pid =
-        wxExecute(wxString(ZELK_RADIO) + " --model " + model + " --name radio --pace --ports-dir " +
-                      Folder().string() + " --memories " + (Folder() / "memories").string() + " " + options,
-                  wxEXEC_ASYNC);
-    for (int tries = 0; tries < 200 && !fs::exists(Port()); ++tries)
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+namespace {
+
+std::vector<std::string> Arguments(const std::string& model, const std::vector<std::string>& options) {
+    std::vector<std::string> arguments{"--model",
+                                       model,
+                                       "--name",
+                                       "radio",
+                                       "--pace",
+                                       "--ports-dir",
+                                       PacedRadio::Folder(),
+                                       "--memories",
+                                       PacedRadio::Folder() / "memories"};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return arguments;
+}
+
+} // namespace
+
+PacedRadio::PacedRadio(const std::string& model, const std::vector<std::string>& options)
+    : m_process(ZELK_RADIO, Arguments(model, options)) {
+    m_process.RequireReady();
 }
 
 PacedRadio::~PacedRadio() {
-    if (m_pid > 0)
-        wxProcess::Kill(static_cast<int>(m_pid), wxSIGTERM);
-    for (int tries = 0; tries < 100 && fs::is_symlink(Port()); ++tries)
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    m_process.Terminate();
     fs::remove(Folder() / "memories");
-}
-
-fs::path PacedRadio::Port() const {
-    return Folder() / "radio";
 }
 
 fs::path PacedRadio::Folder() {

@@ -1,7 +1,7 @@
 #include "tools/GuideCamera.h"
 
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/Robot.h"
+#include "robot/Robot.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,14 +1,11 @@
 // Takes all pictures of the user guide from the running program, with simulated radios.
-#include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/Robot.h"
-#include "tests/support/robot/RunScript.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/Robot.h"
+#include "robot/TempFolder.h"
 #include "tools/GuideScenes.h"
+#include "tools/ScriptedProgram.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <memory>
 
@@ -19,7 +16,6 @@ namespace {
 
 Guide::Places places;
 fs::path pictures;
-int exitCode = 1;
 
 void TakeAll(Robot& robot) {
     Tour::TourHand hand(robot, places.scratch / "steps");
@@ -32,23 +28,6 @@ void TakeAll(Robot& robot) {
     Guide::TakePrinting(hand, camera, places);
     Guide::TakeTransferBoxes(hand, camera, places);
 }
-
-class GuideApp : public ZelkApp {
-public:
-    bool OnInit() override {
-        if (!ZelkApp::OnInit())
-            return false;
-        WatchDialogs();
-        CallAfter([] {
-            const auto troubles = RunScript(TakeAll);
-            for (const std::string& trouble : troubles)
-                std::printf("FAILED: %s\n", trouble.c_str());
-            exitCode = troubles.empty() ? 0 : 1;
-            MainFrame->Destroy();
-        });
-        return true;
-    }
-};
 
 /// The home folder that the pictures show: short, and the same each time, where that can be had.
 class PicturedHome {
@@ -77,8 +56,6 @@ private:
 
 } // namespace
 
-wxIMPLEMENT_APP_NO_MAIN(GuideApp);
-
 int main(int argc, char** argv) {
     if (argc != 4) {
         std::fprintf(stderr, "usage: %s ZELK-RADIO EXAMPLES PICTURES\n", argv[0]);
@@ -90,10 +67,5 @@ int main(int argc, char** argv) {
     const PicturedHome home;
     const TempFolder scratch("zelk-guide");
     places.scratch = scratch.Path();
-    for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-        setenv(name, home.Path().c_str(), 1);
-    setenv("GSETTINGS_BACKEND", "memory", 1);
-    int noArguments = 1;
-    wxEntry(noArguments, argv);
-    return exitCode;
+    return Tour::RunScripted(argv[0], home.Path(), TakeAll);
 }

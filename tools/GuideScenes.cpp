@@ -7,11 +7,10 @@
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/ScreenSpots.h"
+#include "robot/Files.h"
+#include "robot/OpenDialogs.h"
+#include "robot/ScreenSpots.h"
 
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 #include <wx/grid.h>
 #include <wx/menu.h>
@@ -60,12 +59,6 @@ wxRect CellsWithLabels(int lastRow, int lastColumn) {
     return corner.Union(last);
 }
 
-std::string TextOf(const fs::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file, std::ios::binary).rdbuf();
-    return text.str();
-}
-
 void Replace(std::string& text, const std::string& what, const std::string& by) {
     const std::size_t at = text.find(what);
     if (at == std::string::npos)
@@ -75,24 +68,24 @@ void Replace(std::string& text, const std::string& what, const std::string& by) 
 
 /// An example with mistakes as a file from elsewhere may have them.
 fs::path FileWithMistakes(const Places& places) {
-    std::string text = TextOf(places.examples / "krv-650-vhf.zelk");
+    std::string text = ReadFile(places.examples / "krv-650-vhf.zelk");
     Replace(text, "<RF>151.1375</RF>", "<RF>251.1375</RF>");
     Replace(text, "<RT>156.7</RT>", "<RT>156.8</RT>");
     Replace(text, "<MD>N</MD>\n    <RF>154.4525", "<MD>X</MD>\n    <RF>154.4525");
     const fs::path file = places.scratch / "mistakes.zelk";
-    std::ofstream(file, std::ios::binary) << text;
+    WriteFile(file, text);
     return file;
 }
 
 /// An example without the memories behind the row.
 fs::path FirstMemories(const Places& places, const std::string& example, int lastRow) {
-    std::string text = TextOf(places.examples / example);
+    std::string text = ReadFile(places.examples / example);
     const std::string next = "  <MEMORY row=\"" + std::to_string(lastRow + 1) + '"';
     if (text.find(next) == std::string::npos)
         throw std::runtime_error("the example has no row behind " + std::to_string(lastRow));
     text = text.substr(0, text.find(next)) + "</ZelkMem>\n";
     const fs::path file = places.scratch / example;
-    std::ofstream(file, std::ios::binary) << text;
+    WriteFile(file, text);
     return file;
 }
 
@@ -191,10 +184,10 @@ void TakePages(Tour::TourHand& hand, Camera& camera, const Places& places) {
 void TakeImport(Tour::TourHand& hand, Camera& camera, const Places& places) {
     Robot& robot = hand.TheRobot();
     OpenOnPage(robot, places.examples / "krv-650-vhf.zelk");
-    std::ofstream(places.scratch / "channels.csv") << "MNUM,DESC,RFRQ,TFRQ,MODE,TTON\n"
-                                                      "1,TOWER 1,155.7525,155.7525,N,156.7\n"
-                                                      "2,TOWER 2,151.1375,151.1375,N,156.7\n"
-                                                      "3,HARBOUR,156.8000,156.8000,W,67.0\n";
+    WriteFile(places.scratch / "channels.csv", "MNUM,DESC,RFRQ,TFRQ,MODE,TTON\n"
+                                               "1,TOWER 1,155.7525,155.7525,N,156.7\n"
+                                               "2,TOWER 2,151.1375,151.1375,N,156.7\n"
+                                               "3,HARBOUR,156.8000,156.8000,W,67.0\n");
     RunCommand(IdImport);
     if (!robot.WaitForDialog("Import file"))
         throw std::runtime_error("no file dialog");

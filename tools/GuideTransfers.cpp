@@ -3,13 +3,12 @@
 #include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/Process.h"
-#include "tests/support/robot/ScreenSpots.h"
+#include "robot/OpenDialogs.h"
+#include "robot/RadioProcess.h"
+#include "robot/ScreenSpots.h"
 #include "tools/GuideScenes.h"
 
 #include <memory>
-#include <stdexcept>
 #include <wx/dialog.h>
 #include <wx/grid.h>
 
@@ -24,20 +23,13 @@ constexpr const char* BandQuestion = "<-- Select Frequency Band -->";
 constexpr const char* PortQuestion = "<-- Select Serial Port -->";
 
 /// A simulated radio, which is there as long as the object.
-std::unique_ptr<Process> StartRadio(const Places& places, const std::string& model, const std::string& name,
-                                    const std::vector<std::string>& more = {}) {
-    std::vector<std::string> command{places.radio.string(),
-                                     "--model",
-                                     model,
-                                     "--name",
-                                     name,
-                                     "--memories",
-                                     (places.scratch / (name + ".txt")).string(),
-                                     "--pace"};
-    command.insert(command.end(), more.begin(), more.end());
-    auto radio = std::make_unique<Process>(command);
-    if (!radio->WaitForLine(name))
-        throw std::runtime_error("the simulated radio does not start: " + radio->Output());
+std::unique_ptr<RadioProcess> StartRadio(const Places& places, const std::string& model,
+                                         const std::string& name, const std::vector<std::string>& more = {}) {
+    std::vector<std::string> arguments{
+        "--model", model, "--name", name, "--memories", places.scratch / (name + ".txt"), "--pace"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    auto radio = std::make_unique<RadioProcess>(places.radio, arguments);
+    radio->RequireReady();
     return radio;
 }
 

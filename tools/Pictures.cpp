@@ -1,17 +1,14 @@
 // Opens channel files one after another and pictures the window with each, for documents and for looking at.
 #include "catalogue/PageModel.h"
 #include "files/ZelkFile_OpenSave.h"
-#include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/Robot.h"
-#include "tests/support/robot/RunScript.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/Robot.h"
+#include "robot/TempFolder.h"
+#include "tools/ScriptedProgram.h"
 
 #include <wx/xml/xml.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
 #include <vector>
@@ -23,7 +20,6 @@ namespace {
 
 fs::path pictures;
 std::vector<fs::path> files;
-int exitCode = 1;
 
 void OpenOnFirstPage(const fs::path& file) {
     wxXmlDocument document;
@@ -43,26 +39,7 @@ void TakePictures(Robot& robot) {
     }
 }
 
-class PicturesApp : public ZelkApp {
-public:
-    bool OnInit() override {
-        if (!ZelkApp::OnInit())
-            return false;
-        WatchDialogs();
-        CallAfter([] {
-            const auto troubles = RunScript(TakePictures);
-            for (const std::string& trouble : troubles)
-                std::printf("FAILED: %s\n", trouble.c_str());
-            exitCode = troubles.empty() ? 0 : 1;
-            MainFrame->Destroy();
-        });
-        return true;
-    }
-};
-
 } // namespace
-
-wxIMPLEMENT_APP_NO_MAIN(PicturesApp);
 
 int main(int argc, char** argv) {
     if (argc < 3) {
@@ -72,10 +49,5 @@ int main(int argc, char** argv) {
     pictures = argv[1];
     files.assign(argv + 2, argv + argc);
     const TempFolder home("zelk-pictures-home");
-    for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-        setenv(name, home.Path().c_str(), 1);
-    setenv("GSETTINGS_BACKEND", "memory", 1);
-    int noArguments = 1;
-    wxEntry(noArguments, argv);
-    return exitCode;
+    return Tour::RunScripted(argv[0], home.Path(), TakePictures);
 }

@@ -1,18 +1,15 @@
 // Plays a day's first jobs on a display of its own: for an analog and for a digital radio a channel file
 // into the radio, and the radio back into an empty page, by real keys and clicks.
-#include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/Robot.h"
-#include "tests/support/robot/RunScript.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/Robot.h"
+#include "robot/TempFolder.h"
 #include "tools/ChannelList.h"
 #include "tools/P25Channels.h"
+#include "tools/ScriptedProgram.h"
 #include "tools/TourHand.h"
 #include "tools/TourJob.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <utility>
 
@@ -26,7 +23,6 @@ struct TourOptions {
 };
 
 TourOptions options;
-int exitCode = 1;
 
 constexpr Tour::Job AnalogJob{
     .model = "KRV-214",
@@ -70,26 +66,6 @@ void PlayTour(Robot& robot) {
     digital.Play();
 }
 
-/// The program itself, and somebody who uses it.
-class TourApp : public ZelkApp {
-public:
-    bool OnInit() override {
-        if (!ZelkApp::OnInit())
-            return false;
-        WatchDialogs();
-        CallAfter([] {
-            const auto troubles = RunScript(PlayTour);
-            for (const std::string& trouble : troubles)
-                std::printf("FAILED: %s\n", trouble.c_str());
-            exitCode = troubles.empty() ? 0 : 1;
-            std::printf("%s\n", troubles.empty() ? "Both radios hold the channels of their files."
-                                                 : "The tour did not come to its end.");
-            MainFrame->Destroy();
-        });
-        return true;
-    }
-};
-
 bool ReadOptions(int argc, char** argv) {
     for (int i = 1; i + 1 < argc; i += 2) {
         const std::string name = argv[i];
@@ -105,20 +81,14 @@ bool ReadOptions(int argc, char** argv) {
 
 } // namespace
 
-wxIMPLEMENT_APP_NO_MAIN(TourApp);
-
 int main(int argc, char** argv) {
     if (!ReadOptions(argc, argv)) {
         std::fprintf(stderr, "usage: %s --radio PROGRAM --examples FOLDER --pictures FOLDER\n", argv[0]);
         return 2;
     }
-    // The tour has a home of its own: it neither sees nor touches the user's ports and settings.
     const TempFolder home("zelk-tour-home");
-    for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-        setenv(name, home.Path().c_str(), 1);
-    // Without a session bus the toolkit's settings service only complains.
-    setenv("GSETTINGS_BACKEND", "memory", 1);
-    int noArguments = 1;
-    wxEntry(noArguments, argv);
+    const int exitCode = Tour::RunScripted(argv[0], home.Path(), PlayTour);
+    std::printf("%s\n", exitCode == 0 ? "Both radios hold the channels of their files."
+                                      : "The tour did not come to its end.");
     return exitCode;
 }

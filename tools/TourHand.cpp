@@ -1,8 +1,8 @@
 #include "tools/TourHand.h"
 
 #include "frame/SelectionDialogs.h"
-#include "tests/support/robot/PictureSpot.h"
-#include "tests/support/robot/ScreenSpots.h"
+#include "robot/PictureSpot.h"
+#include "robot/ScreenSpots.h"
 
 #include <wx/choice.h>
 #include <wx/dialog.h>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "resources/ToolImages.h"
-#include "tests/support/robot/Robot.h"
+#include "robot/Robot.h"
 
 #include <filesystem>
 #include <string>

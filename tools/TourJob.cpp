@@ -2,16 +2,16 @@
 
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/Process.h"
-#include "tests/support/robot/ScreenSpots.h"
+#include "robot/OpenDialogs.h"
+#include "robot/Process.h"
+#include "robot/RadioProcess.h"
+#include "robot/ScreenSpots.h"
 #include "transfer/ChosenPort.h"
 
 #include <wx/choice.h>
 #include <wx/grid.h>
 
 #include <cstdio>
-#include <stdexcept>
 #include <utility>
 
 using namespace testbench;
@@ -51,10 +51,9 @@ TourJob::TourJob(TourHand& hand, const Job& job, fs::path radioProgram, fs::path
       m_examples(std::move(examples)) {}
 
 void TourJob::Play() {
-    Process radio({m_radioProgram.string(), "--model", m_job.model, "--name", m_job.model, "--memories",
-                   Memories().string(), "--pace"});
-    if (!radio.WaitForLine(m_job.model))
-        throw std::runtime_error("the simulated radio does not start: " + radio.Output());
+    const RadioProcess radio(
+        m_radioProgram, {"--model", m_job.model, "--name", m_job.model, "--memories", Memories(), "--pace"});
+    radio.RequireReady();
     OpenExample();
     PickPort();
     SelectAll();

@@ -1,7 +1,7 @@
 // One job of the tour: a channel file into a radio, and the radio back into an empty page.
 #pragma once
 
-#include "tests/support/robot/TempFolder.h"
+#include "robot/TempFolder.h"
 #include "tools/ChannelList.h"
 #include "tools/TourHand.h"
 

@@ -22,8 +22,8 @@ TEST(AsciiText, IsTheSameOnlyWholeAndInItsCase) {
         {wxString::FromUTF8("N\xC3\xA9"), "N", false, true},
     };
     for (const Line& line : lines) {
-        EXPECT_EQ(line.same, IsText(line.text, line.ascii)) << line.text << " and " << line.ascii;
-        EXPECT_EQ(line.begins, BeginsWith(line.text, line.ascii)) << line.text << " and " << line.ascii;
+        EXPECT_EQ(IsText(line.text, line.ascii), line.same) << line.text << " and " << line.ascii;
+        EXPECT_EQ(BeginsWith(line.text, line.ascii), line.begins) << line.text << " and " << line.ascii;
     }
 }
 
@@ -33,7 +33,7 @@ TEST(AsciiText, IsMadeOfAnyNumberOfCharacters) {
         for (size_t i = 0; i < length; ++i)
             ascii += static_cast<char>('0' + i % 64);
         const wxString text = TextOfAscii(ascii);
-        EXPECT_EQ(length, text.length());
+        EXPECT_EQ(text.length(), length);
         EXPECT_TRUE(IsText(text, ascii)) << length;
     }
 }

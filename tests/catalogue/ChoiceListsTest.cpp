@@ -71,122 +71,121 @@ protected:
 } // namespace
 
 TEST_F(ChoiceLists, HoldTonesAndCodesInTheOrderOfTheRadioRecords) {
-    ASSERT_EQ(65u, Tones.size());
-    ASSERT_EQ(42u, CtcssTones.size());
-    ASSERT_EQ(84u, Codes.size());
-    EXPECT_EQ(Tones, TextsOf(ToneList));
-    EXPECT_EQ(CtcssTones, TextsOf(CtcssList));
-    EXPECT_EQ(Codes, TextsOf(CodeList));
-    EXPECT_EQ(Tones, TextsOf(ToneTexts));
-    EXPECT_EQ(CtcssTones, TextsOf(CtcssTexts));
-    EXPECT_EQ(Codes, TextsOf(CodeTexts));
+    ASSERT_EQ(Tones.size(), 65u);
+    ASSERT_EQ(CtcssTones.size(), 42u);
+    ASSERT_EQ(Codes.size(), 84u);
+    EXPECT_EQ(TextsOf(ToneList), Tones);
+    EXPECT_EQ(TextsOf(CtcssList), CtcssTones);
+    EXPECT_EQ(TextsOf(CodeList), Codes);
+    EXPECT_EQ(TextsOf(ToneTexts), Tones);
+    EXPECT_EQ(TextsOf(CtcssTexts), CtcssTones);
+    EXPECT_EQ(TextsOf(CodeTexts), Codes);
 }
 
 TEST_F(ChoiceLists, HoldTheZonesOfBothGenerations) {
-    EXPECT_EQ(Zones16, TextsOf(ZoneNames16));
-    EXPECT_EQ(Zones32, TextsOf(ZoneNames32));
+    EXPECT_EQ(TextsOf(ZoneNames16), Zones16);
+    EXPECT_EQ(TextsOf(ZoneNames32), Zones32);
 }
 
 TEST_F(ChoiceLists, EndWithTheZonesOfTheGuardRows) {
-    EXPECT_EQ(15, RP25GuardZone);
-    EXPECT_EQ(31, NP25GuardZone);
+    EXPECT_EQ(RP25GuardZone, 15);
+    EXPECT_EQ(NP25GuardZone, 31);
 }
 
 TEST_F(ChoiceLists, ZoneListStartsWithAll32Zones) {
-    EXPECT_EQ(Zones32, TextsOf(ZoneList));
+    EXPECT_EQ(TextsOf(ZoneList), Zones32);
 }
 
 TEST_F(ChoiceLists, FillingThemAgainDoublesNothing) {
     FillChoiceLists();
-    EXPECT_EQ(65u, ToneList.size());
-    EXPECT_EQ(42u, CtcssList.size());
-    EXPECT_EQ(84u, CodeList.size());
-    EXPECT_EQ(32u, ZoneList.size());
+    EXPECT_EQ(ToneList.size(), 65u);
+    EXPECT_EQ(CtcssList.size(), 42u);
+    EXPECT_EQ(CodeList.size(), 84u);
+    EXPECT_EQ(ZoneList.size(), 32u);
 }
 
 TEST_F(ChoiceLists, HoldTheLettersOfScanModeAndSquelch) {
-    EXPECT_EQ((Texts{"Y", "N"}), TextsOf(ScanYesNo));
-    EXPECT_EQ((Texts{"W", "N"}), TextsOf(AnalogModes));
-    EXPECT_EQ((Texts{"w", "n", "D"}), TextsOf(P25Modes));
-    EXPECT_EQ((Texts{"x", "t", "c"}), TextsOf(RxAnalogSquelch));
-    EXPECT_EQ((Texts{"x", "t", "c", "-"}), TextsOf(TxAnalogSquelch));
-    EXPECT_EQ((Texts{"m", "n", "g"}), TextsOf(RxDigitalSquelch));
-    EXPECT_EQ((Texts{"g", "i", "-"}), TextsOf(TxDigitalSquelch));
-    EXPECT_EQ((Texts{"g", "-"}), TextsOf(TxDigitalSquelchRestricted));
+    EXPECT_EQ(TextsOf(ScanYesNo), (Texts{"Y", "N"}));
+    EXPECT_EQ(TextsOf(AnalogModes), (Texts{"W", "N"}));
+    EXPECT_EQ(TextsOf(P25Modes), (Texts{"w", "n", "D"}));
+    EXPECT_EQ(TextsOf(RxAnalogSquelch), (Texts{"x", "t", "c"}));
+    EXPECT_EQ(TextsOf(TxAnalogSquelch), (Texts{"x", "t", "c", "-"}));
+    EXPECT_EQ(TextsOf(RxDigitalSquelch), (Texts{"m", "n", "g"}));
+    EXPECT_EQ(TextsOf(TxDigitalSquelch), (Texts{"g", "i", "-"}));
+    EXPECT_EQ(TextsOf(TxDigitalSquelchRestricted), (Texts{"g", "-"}));
 }
 
 TEST_F(ChoiceLists, HoldTheBandsOfBothModules) {
-    EXPECT_EQ((Texts{"FM 30-50", "AM 108-138", "AM 225-400"}), TextsOf(MdlxBands3));
-    EXPECT_EQ((Texts{"FM 30-50", "FM 66-88", "AM 108-138", "FM 136-174", "AM 225-400", "FM_403-512",
-                     "FM 7xx-8xx", "FM 896-960"}),
-              TextsOf(MdlxBands8));
+    EXPECT_EQ(TextsOf(MdlxBands3), (Texts{"FM 30-50", "AM 108-138", "AM 225-400"}));
+    EXPECT_EQ(TextsOf(MdlxBands8), (Texts{"FM 30-50", "FM 66-88", "AM 108-138", "FM 136-174", "AM 225-400",
+                                          "FM_403-512", "FM 7xx-8xx", "FM 896-960"}));
 }
 
 TEST_F(ChoiceLists, ToneIndexIsTheFirstPositionOfTheText) {
     for (size_t i = 0; i + 1 < Tones.size(); ++i)
-        EXPECT_EQ(static_cast<int>(i), GetToneIndex(Tones[i])) << Tones[i];
+        EXPECT_EQ(GetToneIndex(Tones[i]), static_cast<int>(i)) << Tones[i];
 }
 
 TEST_F(ChoiceLists, ToneIndexOfOffIsZeroAndNever64) {
-    EXPECT_EQ(0, GetToneIndex("OFF"));
+    EXPECT_EQ(GetToneIndex("OFF"), 0);
 }
 
 TEST_F(ChoiceLists, ToneAndCtcssIndexOfAnyOtherTextIsMinusOne) {
     for (const char* text : {"", "off", "67", "67.00", " 67.0", "67.0 ", "n/a", "254.9"}) {
-        EXPECT_EQ(-1, GetToneIndex(text)) << '"' << text << '"';
-        EXPECT_EQ(-1, GetCtcssIndex(text)) << '"' << text << '"';
+        EXPECT_EQ(GetToneIndex(text), -1) << '"' << text << '"';
+        EXPECT_EQ(GetCtcssIndex(text), -1) << '"' << text << '"';
     }
-    EXPECT_EQ(-1, GetToneIndex("254.8")) << "a tone of P25 radios only";
-    EXPECT_EQ(-1, GetCtcssIndex("OFF"));
-    EXPECT_EQ(-1, GetCtcssIndex("33.0")) << "a tone of analog radios only";
+    EXPECT_EQ(GetToneIndex("254.8"), -1) << "a tone of P25 radios only";
+    EXPECT_EQ(GetCtcssIndex("OFF"), -1);
+    EXPECT_EQ(GetCtcssIndex("33.0"), -1) << "a tone of analog radios only";
 }
 
 TEST_F(ChoiceLists, CtcssIndexIsThePositionOfTheText) {
     for (size_t i = 0; i < CtcssTones.size(); ++i)
-        EXPECT_EQ(static_cast<int>(i), GetCtcssIndex(CtcssTones[i])) << CtcssTones[i];
+        EXPECT_EQ(GetCtcssIndex(CtcssTones[i]), static_cast<int>(i)) << CtcssTones[i];
 }
 
 TEST_F(ChoiceLists, ToneAndCtcssTextsAreTheEntriesAndEmptyPastTheEnds) {
     for (size_t i = 0; i < Tones.size(); ++i)
-        EXPECT_EQ(Tones[i], GetToneText(static_cast<int>(i)).utf8_string()) << i;
+        EXPECT_EQ(GetToneText(static_cast<int>(i)).utf8_string(), Tones[i]) << i;
     for (size_t i = 0; i < CtcssTones.size(); ++i)
-        EXPECT_EQ(CtcssTones[i], GetCtcssText(static_cast<int>(i)).utf8_string()) << i;
+        EXPECT_EQ(GetCtcssText(static_cast<int>(i)).utf8_string(), CtcssTones[i]) << i;
     for (int i : {-1, 65, 66, Most, Least})
-        EXPECT_EQ("", GetToneText(i)) << i;
+        EXPECT_EQ(GetToneText(i), "") << i;
     for (int i : {-1, 42, 43, Most, Least})
-        EXPECT_EQ("", GetCtcssText(i)) << i;
+        EXPECT_EQ(GetCtcssText(i), "") << i;
 }
 
 TEST_F(ChoiceLists, CodeIndexCountsFromOffOnAnalogPagesAndFrom023OnP25Pages) {
     for (int type = 0; type < 8; ++type) {
         const int shift = type == 1 || type == 2 ? 1 : 0;
         for (size_t i = 0; i < Codes.size(); ++i)
-            EXPECT_EQ(static_cast<int>(i) - shift, GetCodeIndex(Codes[i], type))
+            EXPECT_EQ(GetCodeIndex(Codes[i], type), static_cast<int>(i) - shift)
                 << Codes[i] << " type " << type;
         for (const char* text : {"", "off", "23", "0023", "000", "024", "n/a"})
-            EXPECT_EQ(-1, GetCodeIndex(text, type)) << '"' << text << "\" type " << type;
+            EXPECT_EQ(GetCodeIndex(text, type), -1) << '"' << text << "\" type " << type;
     }
-    EXPECT_EQ(0, GetCodeIndex("023", 1));
-    EXPECT_EQ(-1, GetCodeIndex("OFF", 2));
+    EXPECT_EQ(GetCodeIndex("023", 1), 0);
+    EXPECT_EQ(GetCodeIndex("OFF", 2), -1);
 }
 
 TEST_F(ChoiceLists, CodeTextOfZeroIsOffOnAnalogPagesAnd023OnP25Pages) {
     for (int type : {0, 3, 4, 5, 6, 7})
-        EXPECT_EQ("OFF", GetCodeText(0, type)) << "type " << type;
+        EXPECT_EQ(GetCodeText(0, type), "OFF") << "type " << type;
     for (int type : {1, 2})
-        EXPECT_EQ("023", GetCodeText(0, type)) << "type " << type;
+        EXPECT_EQ(GetCodeText(0, type), "023") << "type " << type;
 }
 
 TEST_F(ChoiceLists, CodeTextIsTheEntryAndEmptyPastTheEnds) {
     for (size_t i = 0; i < Codes.size(); ++i)
-        EXPECT_EQ(Codes[i], GetCodeText(static_cast<int>(i), 0).utf8_string()) << i;
+        EXPECT_EQ(GetCodeText(static_cast<int>(i), 0).utf8_string(), Codes[i]) << i;
     for (size_t i = 0; i + 1 < Codes.size(); ++i)
         for (int type : {1, 2})
-            EXPECT_EQ(Codes[i + 1], GetCodeText(static_cast<int>(i), type).utf8_string()) << i;
+            EXPECT_EQ(GetCodeText(static_cast<int>(i), type).utf8_string(), Codes[i + 1]) << i;
     for (int i : {84, 85, Most, Least})
         for (int type = 0; type < 8; ++type)
-            EXPECT_EQ("", GetCodeText(i, type)) << i << " type " << type;
-    EXPECT_EQ("", GetCodeText(83, 1));
-    EXPECT_EQ("", GetCodeText(83, 2));
-    EXPECT_EQ("", GetCodeText(-1, 0));
+            EXPECT_EQ(GetCodeText(i, type), "") << i << " type " << type;
+    EXPECT_EQ(GetCodeText(83, 1), "");
+    EXPECT_EQ(GetCodeText(83, 2), "");
+    EXPECT_EQ(GetCodeText(-1, 0), "");
 }

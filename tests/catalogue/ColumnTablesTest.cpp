@@ -9,9 +9,9 @@
 using namespace RadioCatalogue;
 
 TEST(Columns, StandAtTheirPositionsUnderTheirTags) {
-    ASSERT_EQ(32, ColumnTotal);
+    ASSERT_EQ(ColumnTotal, 32);
     for (const printed::ColumnLine& line : printed::Columns)
-        EXPECT_STREQ(line.tag, ColumnTag[line.column]) << "column " << line.column;
+        EXPECT_STREQ(ColumnTag[line.column], line.tag) << "column " << line.column;
 }
 
 TEST(Columns, AreNamedByTheirTags) {
@@ -19,61 +19,61 @@ TEST(Columns, AreNamedByTheirTags) {
                                RNSV, RTON, RCOD, RTGP, RNAC, TFRQ, TSQL, TTON, TCOD, TTGP, TNAC,
                                TIDC, SHD0, SHD1, SHD2, SHD3, SHD4, SHD5, SHD6, RONL, TFLG};
     for (int i = 0; i < 32; ++i)
-        EXPECT_EQ(i, columns[i]) << printed::Columns[static_cast<size_t>(i)].tag;
+        EXPECT_EQ(columns[i], i) << printed::Columns[static_cast<size_t>(i)].tag;
 }
 
 TEST(Columns, HaveHeadingAndWidthOfEachType) {
-    ASSERT_EQ(8u, ColumnHeading.size());
-    ASSERT_EQ(8u, ColumnWidth.size());
+    ASSERT_EQ(ColumnHeading.size(), 8u);
+    ASSERT_EQ(ColumnWidth.size(), 8u);
     for (const printed::ColumnLine& line : printed::Columns)
         for (const printed::TypeLine& type : printed::Types) {
             SCOPED_TRACE(std::string(line.tag) + " of " + type.tag);
             const printed::Look& look = line.looks[type.type];
-            EXPECT_STREQ(look.heading, ColumnHeading[type.type][static_cast<size_t>(line.column)]);
-            EXPECT_EQ(look.width, ColumnWidth[type.type][static_cast<size_t>(line.column)]);
+            EXPECT_STREQ(ColumnHeading[type.type][static_cast<size_t>(line.column)], look.heading);
+            EXPECT_EQ(ColumnWidth[type.type][static_cast<size_t>(line.column)], look.width);
         }
 }
 
 TEST(DefaultRows, HoldAll32CellsOfEachRow) {
-    ASSERT_EQ(11u, std::size(PageDefault));
+    ASSERT_EQ(std::size(PageDefault), 11u);
     for (int row = 0; row < 11; ++row) {
         const auto texts = printed::DefaultRow(row);
         for (size_t col = 0; col < 32; ++col)
-            EXPECT_STREQ(texts[col], PageDefault[row][col])
+            EXPECT_STREQ(PageDefault[row][col], texts[col])
                 << "row " << row << " " << printed::Columns[col].tag;
     }
 }
 
 TEST(MemoryFlags, HaveTheBitsOfTheRadioRecords) {
-    EXPECT_EQ(0x007, ShadowIndexMask);
-    EXPECT_EQ(0x008, ScanFlag);
-    EXPECT_EQ(0x010, ShadowLinkFlag);
-    EXPECT_EQ(0x017, LinkFlags);
-    EXPECT_EQ(0x060, RadioFlags);
-    EXPECT_EQ(0x080, GuardFlag);
-    EXPECT_EQ(0x300, HighRadioFlags);
+    EXPECT_EQ(ShadowIndexMask, 0x007);
+    EXPECT_EQ(ScanFlag, 0x008);
+    EXPECT_EQ(ShadowLinkFlag, 0x010);
+    EXPECT_EQ(LinkFlags, 0x017);
+    EXPECT_EQ(RadioFlags, 0x060);
+    EXPECT_EQ(GuardFlag, 0x080);
+    EXPECT_EQ(HighRadioFlags, 0x300);
 }
 
 TEST(TransferFlags, HaveTheirBitsAndStartTexts) {
-    EXPECT_EQ(0x80, DEF);
-    EXPECT_EQ(0x40, InRadioFlag);
-    EXPECT_EQ(0x20, MadeFlag);
-    EXPECT_EQ(0x08, ZoneTakenFlag);
-    EXPECT_EQ(0x04, MarkedFlag);
-    EXPECT_EQ(0x02, EraseFlag);
-    EXPECT_EQ(0x01, SEL);
-    EXPECT_STREQ("A0", TflgMade);
-    EXPECT_STREQ("C0", TflgRead);
+    EXPECT_EQ(DEF, 0x80);
+    EXPECT_EQ(InRadioFlag, 0x40);
+    EXPECT_EQ(MadeFlag, 0x20);
+    EXPECT_EQ(ZoneTakenFlag, 0x08);
+    EXPECT_EQ(MarkedFlag, 0x04);
+    EXPECT_EQ(EraseFlag, 0x02);
+    EXPECT_EQ(SEL, 0x01);
+    EXPECT_STREQ(TflgMade, "A0");
+    EXPECT_STREQ(TflgRead, "C0");
 }
 
 TEST(TransferFlags, OfRowsMadeAndReadAreTheirStartTexts) {
-    EXPECT_EQ(FlagText(DEF | MadeFlag), TflgMade);
-    EXPECT_EQ(FlagText(DEF | InRadioFlag), TflgRead);
+    EXPECT_EQ(TflgMade, FlagText(DEF | MadeFlag));
+    EXPECT_EQ(TflgRead, FlagText(DEF | InRadioFlag));
 }
 
 TEST(OperatingModes, HaveTheBitsOfTheRadiosAnswer) {
-    EXPECT_EQ(0x40u, WideMode);
-    EXPECT_EQ(0x20u, NarrowMode);
-    EXPECT_EQ(0x10u, DigitalMode);
-    EXPECT_EQ(0x70u, AllModes);
+    EXPECT_EQ(WideMode, 0x40u);
+    EXPECT_EQ(NarrowMode, 0x20u);
+    EXPECT_EQ(DigitalMode, 0x10u);
+    EXPECT_EQ(AllModes, 0x70u);
 }

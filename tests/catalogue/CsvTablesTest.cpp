@@ -22,11 +22,11 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 } // namespace
 
 TEST(CsvTables, HaveTheHeadersAndTheBanner) {
-    EXPECT_STREQ("MNUM,BAND,SCAN,ZONE,DESC,MODE,RFRQ,RSQL,RNSV,RTON,RCOD,RTGP,RNAC,TFRQ,TSQL,TTON,TCOD,TTGP,"
-                 "TNAC,TIDC,",
-                 CsvHeader);
-    EXPECT_STREQ("Memory,Name,Receive,Transmit,Scan,Rx Only", KdarCsvHeader);
-    EXPECT_STREQ("KDAR-2000,Purge,,,,", KdarCsvBanner);
+    EXPECT_STREQ(CsvHeader,
+                 "MNUM,BAND,SCAN,ZONE,DESC,MODE,RFRQ,RSQL,RNSV,RTON,RCOD,RTGP,RNAC,TFRQ,TSQL,TTON,TCOD,TTGP,"
+                 "TNAC,TIDC,");
+    EXPECT_STREQ(KdarCsvHeader, "Memory,Name,Receive,Transmit,Scan,Rx Only");
+    EXPECT_STREQ(KdarCsvBanner, "KDAR-2000,Purge,,,,");
 }
 
 TEST(CsvTables, MarkTheFieldsThatEachTypeHas) {
@@ -50,13 +50,13 @@ TEST(CsvTables, MarkTheFieldsThatEachTypeHas) {
     const std::vector<std::string> header = {"MNUM", "BAND", "SCAN", "ZONE", "DESC", "MODE", "RFRQ",
                                              "RSQL", "RNSV", "RTON", "RCOD", "RTGP", "RNAC", "TFRQ",
                                              "TSQL", "TTON", "TCOD", "TTGP", "TNAC", "TIDC"};
-    ASSERT_EQ(20, CsvFieldTotal);
-    ASSERT_EQ(8u, std::size(CsvFieldMask));
+    ASSERT_EQ(CsvFieldTotal, 20);
+    ASSERT_EQ(std::size(CsvFieldMask), 8u);
     for (const Fields& line : lines) {
         const std::vector<std::string> tags = Split(line.tags, ' ');
         for (size_t i = 0; i < header.size(); ++i) {
             const bool has = std::find(tags.begin(), tags.end(), header[i]) != tags.end();
-            EXPECT_EQ(has ? 1 : 0, CsvFieldMask[line.type][i]) << line.name << " " << header[i];
+            EXPECT_EQ(CsvFieldMask[line.type][i], has ? 1 : 0) << line.name << " " << header[i];
         }
     }
 }

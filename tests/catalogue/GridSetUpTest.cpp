@@ -54,38 +54,38 @@ std::string LabelOf(int row) {
 } // namespace
 
 TEST_P(GridSetUpOfType, HasADefaultRowTheMemoryRowsAnd32Columns) {
-    EXPECT_EQ(GetParam().rows + 1, m_grid->GetNumberRows());
-    EXPECT_EQ(32, m_grid->GetNumberCols());
+    EXPECT_EQ(m_grid->GetNumberRows(), GetParam().rows + 1);
+    EXPECT_EQ(m_grid->GetNumberCols(), 32);
 }
 
 TEST_P(GridSetUpOfType, ShowsTheColumnsOfItsTypeAndHidesTheOthers) {
     for (const printed::ColumnLine& line : printed::Columns) {
         SCOPED_TRACE(line.tag);
         const printed::Look& look = line.looks[GetParam().type];
-        EXPECT_EQ(look.width, m_grid->GetColSize(line.column));
-        EXPECT_EQ(look.width > 0, m_grid->IsColShown(line.column));
-        EXPECT_EQ(look.heading, m_grid->GetColLabelValue(line.column).utf8_string());
+        EXPECT_EQ(m_grid->GetColSize(line.column), look.width);
+        EXPECT_EQ(m_grid->IsColShown(line.column), look.width > 0);
+        EXPECT_EQ(m_grid->GetColLabelValue(line.column).utf8_string(), look.heading);
     }
 }
 
 TEST_P(GridSetUpOfType, LabelsItsRowsWithThreeDigitsUpToOnePastTheLast) {
     for (int row = 0; row <= GetParam().rows + 1; ++row)
-        EXPECT_EQ(LabelOf(row), m_grid->GetRowLabelValue(row).utf8_string());
+        EXPECT_EQ(m_grid->GetRowLabelValue(row).utf8_string(), LabelOf(row));
     EXPECT_NE(LabelOf(GetParam().rows + 2), m_grid->GetRowLabelValue(GetParam().rows + 2).utf8_string());
 }
 
 TEST_P(GridSetUpOfType, HasRowsOf23PixelsAndAHeadAsHigh) {
-    EXPECT_EQ(23, m_grid->GetDefaultRowSize());
+    EXPECT_EQ(m_grid->GetDefaultRowSize(), 23);
     for (int row : {0, 1, GetParam().rows})
-        EXPECT_EQ(23, m_grid->GetRowSize(row)) << "row " << row;
-    EXPECT_EQ(23, m_grid->GetColLabelSize());
+        EXPECT_EQ(m_grid->GetRowSize(row), 23) << "row " << row;
+    EXPECT_EQ(m_grid->GetColLabelSize(), 23);
 }
 
 TEST_P(GridSetUpOfType, LetsNoShownColumnBecomeNarrowerThanItStarts) {
     for (const printed::ColumnLine& line : printed::Columns) {
         const int width = line.looks[GetParam().type].width;
         if (width > 0) {
-            EXPECT_EQ(width, MinimalWidth::Of(*m_grid, line.column)) << line.tag;
+            EXPECT_EQ(MinimalWidth::Of(*m_grid, line.column), width) << line.tag;
         }
     }
 }
@@ -94,7 +94,7 @@ TEST_F(GridSetUp, EditsCellsAndSelectsThemSingly) {
     const wxGrid* grid = CurrentGrid();
     EXPECT_TRUE(grid->IsEditable());
     EXPECT_TRUE(grid->GridLinesEnabled());
-    EXPECT_EQ(wxGrid::wxGridSelectCells, grid->GetSelectionMode());
+    EXPECT_EQ(grid->GetSelectionMode(), wxGrid::wxGridSelectCells);
 }
 
 TEST_F(GridSetUp, LetsColumnsBeWidenedAndNothingElseBeDragged) {
@@ -108,14 +108,14 @@ TEST_F(GridSetUp, LetsColumnsBeWidenedAndNothingElseBeDragged) {
 TEST_F(GridSetUp, CentresItsLabelsAndPutsCellsTopLeft) {
     int across = 0, down = 0;
     CurrentGrid()->GetColLabelAlignment(&across, &down);
-    EXPECT_EQ(wxALIGN_CENTRE, across);
-    EXPECT_EQ(wxALIGN_CENTRE, down);
+    EXPECT_EQ(across, wxALIGN_CENTRE);
+    EXPECT_EQ(down, wxALIGN_CENTRE);
     CurrentGrid()->GetRowLabelAlignment(&across, &down);
-    EXPECT_EQ(wxALIGN_CENTRE, across);
-    EXPECT_EQ(wxALIGN_CENTRE, down);
+    EXPECT_EQ(across, wxALIGN_CENTRE);
+    EXPECT_EQ(down, wxALIGN_CENTRE);
     CurrentGrid()->GetDefaultCellAlignment(&across, &down);
-    EXPECT_EQ(wxALIGN_LEFT, across);
-    EXPECT_EQ(wxALIGN_TOP, down);
+    EXPECT_EQ(across, wxALIGN_LEFT);
+    EXPECT_EQ(down, wxALIGN_TOP);
 }
 
 TEST_F(GridSetUp, GivesTheRowLabelsTheWidthOfTheirText) {
@@ -125,45 +125,45 @@ TEST_F(GridSetUp, GivesTheRowLabelsTheWidthOfTheirText) {
     const int made = grid->GetRowLabelSize();
     EXPECT_GE(made, dc.GetTextExtent("122").x);
     grid->SetRowLabelSize(wxGRID_AUTOSIZE);
-    EXPECT_EQ(grid->GetRowLabelSize(), made);
+    EXPECT_EQ(made, grid->GetRowLabelSize());
 }
 
 TEST_F(GridSetUp, FillsItsPanelWithABorderOfFive) {
     AddPage(Krv214, 0);
     wxWindow* panel = CurrentGrid()->GetParent();
-    EXPECT_EQ(MainFrame->m_pagePanels[1], panel);
-    EXPECT_EQ(MainFrame->m_notebook, panel->GetParent());
+    EXPECT_EQ(panel, MainFrame->m_pagePanels[1]);
+    EXPECT_EQ(panel->GetParent(), MainFrame->m_notebook);
     EXPECT_TRUE(panel->HasFlag(wxTAB_TRAVERSAL));
-    ASSERT_NE(nullptr, panel->GetSizer());
+    ASSERT_NE(panel->GetSizer(), nullptr);
     const wxSizerItem* item = panel->GetSizer()->GetItem(CurrentGrid());
-    ASSERT_NE(nullptr, item);
-    EXPECT_EQ(1, item->GetProportion());
-    EXPECT_EQ(5, item->GetBorder());
-    EXPECT_EQ(wxEXPAND | wxALL, item->GetFlag());
+    ASSERT_NE(item, nullptr);
+    EXPECT_EQ(item->GetProportion(), 1);
+    EXPECT_EQ(item->GetBorder(), 5);
+    EXPECT_EQ(item->GetFlag(), wxEXPAND | wxALL);
 }
 
 TEST_F(GridSetUp, FillsABlankRowWhenACellOfItIsAboutToChange) {
     AddPage(Krv214, 0);
     wxGridEvent event(CurrentGrid()->GetId(), wxEVT_GRID_CELL_CHANGING, CurrentGrid(), 7, DESC);
     CurrentGrid()->GetEventHandler()->ProcessEvent(event);
-    EXPECT_EQ("007", Cell(7, MNUM));
-    EXPECT_EQ("A0", Cell(7, TFLG));
+    EXPECT_EQ(Cell(7, MNUM), "007");
+    EXPECT_EQ(Cell(7, TFLG), "A0");
 }
 
 TEST_F(GridSetUp, OfANewPageBecomesTheCurrentTabUnderTheRadioName) {
-    ASSERT_EQ(1, PageCount);
+    ASSERT_EQ(PageCount, 1);
     AddPage(Krv630Qnt, 1);
-    EXPECT_EQ(2, PageCount);
-    EXPECT_EQ(1, CurrentPage);
-    ASSERT_EQ(2u, MainFrame->m_notebook->GetPageCount());
-    EXPECT_EQ(1, MainFrame->m_notebook->GetSelection());
-    EXPECT_EQ("KRV-630_QNT", MainFrame->m_notebook->GetPageText(1));
-    EXPECT_EQ("KRV-47", MainFrame->m_notebook->GetPageText(0));
+    EXPECT_EQ(PageCount, 2);
+    EXPECT_EQ(CurrentPage, 1);
+    ASSERT_EQ(MainFrame->m_notebook->GetPageCount(), 2u);
+    EXPECT_EQ(MainFrame->m_notebook->GetSelection(), 1);
+    EXPECT_EQ(MainFrame->m_notebook->GetPageText(1), "KRV-630_QNT");
+    EXPECT_EQ(MainFrame->m_notebook->GetPageText(0), "KRV-47");
     EXPECT_NE(PageGrid[0], PageGrid[1]);
 }
 
 TEST_F(GridSetUp, OfANewPageClearsTheFlagsOfThePageBefore) {
     PageParameters[0].Flags = 0x12;
     AddPage(Krv214, 0);
-    EXPECT_EQ(0, PageParameters[0].Flags);
+    EXPECT_EQ(PageParameters[0].Flags, 0);
 }

@@ -30,10 +30,10 @@ TEST_F(GuardRows, StandWhereTheRowCountEndsInTwo) {
                                                         {0, false},
                                                         {220, false}}) {
         PageParameters[0].Rows = line.rows;
-        EXPECT_EQ(line.guards, HasGuardRows(0)) << line.rows;
+        EXPECT_EQ(HasGuardRows(0), line.guards) << line.rows;
         SetGuardRows(MainFrame, 0, line.rows);
-        EXPECT_EQ(line.guards ? line.rows - 1 : -1, GD1) << line.rows;
-        EXPECT_EQ(line.guards ? line.rows : -1, GD2) << line.rows;
+        EXPECT_EQ(GD1, line.guards ? line.rows - 1 : -1) << line.rows;
+        EXPECT_EQ(GD2, line.guards ? line.rows : -1) << line.rows;
     }
 }
 
@@ -48,12 +48,12 @@ TEST_F(GuardRows, AreAskedForByPage) {
 TEST_F(GuardRows, AppearWhenTheKrv610ChangesFromFM403ToFM138) {
     Retarget(Krv610, 1);
     EXPECT_FALSE(HasGuardRows(0));
-    EXPECT_EQ(-1, GD1);
+    EXPECT_EQ(GD1, -1);
     EXPECT_FALSE(IsGuardRow(200));
     Retarget(Krv610, 0);
     EXPECT_TRUE(HasGuardRows(0));
-    EXPECT_EQ(201, GD1);
-    EXPECT_EQ(202, GD2);
+    EXPECT_EQ(GD1, 201);
+    EXPECT_EQ(GD2, 202);
 }
 
 TEST_F(GuardRows, AreTheLastTwoRows) {
@@ -120,8 +120,8 @@ TEST_F(GuardRows, ComeBackCellByCellAsTheyWereSaved) {
     FillRow(121, "x");
     FillRow(122, "y");
     RestoreGuardRows(MainFrame, false);
-    EXPECT_EQ(first, RowTexts(121));
-    EXPECT_EQ(second, RowTexts(122));
+    EXPECT_EQ(RowTexts(121), first);
+    EXPECT_EQ(RowTexts(122), second);
     EXPECT_TRUE(FilledRows() == (std::vector<int>{121, 122})) << "no other row was written";
 }
 
@@ -131,11 +131,11 @@ TEST_F(GuardRows, ComeBackAtTheGuardRowsOfANewTargetWithTheirNumbers) {
     SaveGuardRows(MainFrame);
     Retarget(Krv610, 0);
     RestoreGuardRows(MainFrame, true);
-    EXPECT_EQ("201", Cell(201, MNUM));
-    EXPECT_EQ("202", Cell(202, MNUM));
-    EXPECT_EQ("a7", Cell(201, DESC));
-    EXPECT_EQ("b31", Cell(202, TFLG));
-    EXPECT_EQ("", Cell(121, DESC));
+    EXPECT_EQ(Cell(201, MNUM), "201");
+    EXPECT_EQ(Cell(202, MNUM), "202");
+    EXPECT_EQ(Cell(201, DESC), "a7");
+    EXPECT_EQ(Cell(202, TFLG), "b31");
+    EXPECT_EQ(Cell(121, DESC), "");
 }
 
 TEST_F(GuardRows, KeepTheirOldNumbersWhenTheyAreNotRenumbered) {
@@ -143,7 +143,7 @@ TEST_F(GuardRows, KeepTheirOldNumbersWhenTheyAreNotRenumbered) {
     SaveGuardRows(MainFrame);
     SetCell(121, MNUM, "");
     RestoreGuardRows(MainFrame, false);
-    EXPECT_EQ("007", Cell(121, MNUM));
+    EXPECT_EQ(Cell(121, MNUM), "007");
 }
 
 TEST_F(GuardRows, ComeBackBlankWhenTheyWereBlank) {

@@ -27,15 +27,15 @@ std::vector<std::string> ChoicesOf(int radio) {
 } // namespace
 
 TEST(RadioType, IsKeptOnAmBandsByRadiosWithATypeOfTheirOwn) {
-    EXPECT_EQ(printed::O12, GetRadioType(2, 3));
-    EXPECT_EQ(printed::KDAR, GetRadioType(8, 3));
-    EXPECT_EQ(printed::ANAM, GetRadioType(17, 3));
-    EXPECT_EQ(printed::MDLX, GetRadioType(17, 8));
-    EXPECT_EQ(printed::ANAM, GetRadioType(10, 6));
+    EXPECT_EQ(GetRadioType(2, 3), printed::O12);
+    EXPECT_EQ(GetRadioType(8, 3), printed::KDAR);
+    EXPECT_EQ(GetRadioType(17, 3), printed::ANAM);
+    EXPECT_EQ(GetRadioType(17, 8), printed::MDLX);
+    EXPECT_EQ(GetRadioType(10, 6), printed::ANAM);
 }
 
 TEST(RadioType, OfTheModuleIsAlsoGivenToItsSecondGeneration) {
-    EXPECT_EQ(printed::MDLX, GetRadioType(17, 9));
+    EXPECT_EQ(GetRadioType(17, 9), printed::MDLX);
     for (int radio = 0; radio < 17; ++radio)
         EXPECT_NE(printed::MDLX, GetRadioType(radio, 9)) << "radio " << radio;
 }
@@ -58,7 +58,7 @@ TEST(RadioType, OfEachRadioAndBandFollowsTheRule) {
     for (const Line& line : lines)
         for (int radio : line.radios)
             for (int band = 0; band <= 9; ++band)
-                EXPECT_EQ(line.types[band], letters[static_cast<size_t>(GetRadioType(radio, band))])
+                EXPECT_EQ(letters[static_cast<size_t>(GetRadioType(radio, band))], line.types[band])
                     << "radio " << radio << " band " << band;
 }
 
@@ -70,16 +70,16 @@ TEST(RadioType, IsNeverTheAmTypeWithTones) {
 
 TEST(RadioType, OfARadioThatDoesNotExistGoesByTheBandAlone) {
     for (int radio : {-1, 18, 99, Most, Least}) {
-        EXPECT_EQ(printed::ANFM, GetRadioType(radio, 5)) << radio;
-        EXPECT_EQ(printed::ANAM, GetRadioType(radio, 3)) << radio;
-        EXPECT_EQ(printed::ANFM, GetRadioType(radio, -1)) << radio;
-        EXPECT_EQ(printed::ANFM, GetRadioType(radio, 9)) << radio;
+        EXPECT_EQ(GetRadioType(radio, 5), printed::ANFM) << radio;
+        EXPECT_EQ(GetRadioType(radio, 3), printed::ANAM) << radio;
+        EXPECT_EQ(GetRadioType(radio, -1), printed::ANFM) << radio;
+        EXPECT_EQ(GetRadioType(radio, 9), printed::ANFM) << radio;
     }
 }
 
 TEST(ChannelStep, OfRadio16OnBand2Is8333ThoughItLacksThatBand) {
-    EXPECT_EQ(8333, GetChannelStep(16, 2));
-    EXPECT_EQ(8333, GetChannelStep(17, 2));
+    EXPECT_EQ(GetChannelStep(16, 2), 8333);
+    EXPECT_EQ(GetChannelStep(17, 2), 8333);
 }
 
 TEST(ChannelStep, OfEachRadioAndBandFollowsTheRule) {
@@ -92,41 +92,41 @@ TEST(ChannelStep, OfEachRadioAndBandFollowsTheRule) {
                 expected = 1250;
             if ((radio == 16 || radio == 17) && (band == 2 || band == 3))
                 expected = 8333;
-            EXPECT_EQ(expected, GetChannelStep(radio, band)) << "radio " << radio << " band " << band;
+            EXPECT_EQ(GetChannelStep(radio, band), expected) << "radio " << radio << " band " << band;
         }
 }
 
 TEST(P25Type, IsTheFirstAndSecondGenerationAlone) {
     for (int type = -1; type <= 9; ++type)
-        EXPECT_EQ(type == 1 || type == 2, IsP25Type(type)) << type;
+        EXPECT_EQ(IsP25Type(type), type == 1 || type == 2) << type;
 }
 
 TEST(FindRadio, TakesTheInternalNameExactly) {
     for (const printed::Radio& radio : printed::Radios)
-        EXPECT_EQ(radio.index, FindRadio(radio.name)) << radio.name;
+        EXPECT_EQ(FindRadio(radio.name), radio.index) << radio.name;
     for (const char* text :
          {"", "krv-21", "KRV-21 ", " KRV-21", "KRV-2", "KDRV-716[A|B]", "KDRV-716B-V2", "KRV-630QNT", "none"})
-        EXPECT_EQ(-1, FindRadio(text)) << '"' << text << '"';
+        EXPECT_EQ(FindRadio(text), -1) << '"' << text << '"';
 }
 
 TEST(FindRadioType, TakesTheTagExactly) {
     for (const printed::TypeLine& type : printed::Types)
-        EXPECT_EQ(type.type, FindRadioType(type.tag)) << type.tag;
+        EXPECT_EQ(FindRadioType(type.tag), type.type) << type.tag;
     for (const char* text : {"", "anfm", "ANFM ", "ANF", "P25", "o12"})
-        EXPECT_EQ(-1, FindRadioType(text)) << '"' << text << '"';
+        EXPECT_EQ(FindRadioType(text), -1) << '"' << text << '"';
 }
 
 TEST(FindBand, TakesTheNameExactly) {
     for (const printed::Band& band : printed::Bands)
-        EXPECT_EQ(band.id, FindBand(band.name)) << band.name;
+        EXPECT_EQ(FindBand(band.name), band.id) << band.name;
     for (const char* text : {"", "fm 30-50", "FM 30-50 ", "FM: 30-50 MHz", "FM_403-512", "FM 7xx-8xx", "K7"})
-        EXPECT_EQ(-1, FindBand(text)) << '"' << text << '"';
+        EXPECT_EQ(FindBand(text), -1) << '"' << text << '"';
 }
 
 TEST(FindBandIndex, IsTheSlotOfEachBandThatARadioHas) {
     for (const printed::Radio& radio : printed::Radios)
         for (const printed::Slot& slot : radio.slots)
-            EXPECT_EQ(slot.slot, FindBandIndex(radio.index, slot.band)) << radio.name << " " << slot.bandName;
+            EXPECT_EQ(FindBandIndex(radio.index, slot.band), slot.slot) << radio.name << " " << slot.bandName;
 }
 
 TEST(FindBandIndex, IsMinusOneForABandThatTheRadioLacks) {
@@ -136,17 +136,17 @@ TEST(FindBandIndex, IsMinusOneForABandThatTheRadioLacks) {
             for (const printed::Slot& slot : radio.slots)
                 has = has || slot.band == band;
             if (!has) {
-                EXPECT_EQ(-1, FindBandIndex(radio.index, band)) << radio.name << " band " << band;
+                EXPECT_EQ(FindBandIndex(radio.index, band), -1) << radio.name << " band " << band;
             }
         }
-    EXPECT_EQ(-1, FindBandIndex(17, 1)) << "all six slots filled";
-    EXPECT_EQ(-1, FindBandIndex(0, 5)) << "a single slot filled";
-    EXPECT_EQ(-1, FindBandIndex(0, -1)) << "what marks an empty slot is no band";
+    EXPECT_EQ(FindBandIndex(17, 1), -1) << "all six slots filled";
+    EXPECT_EQ(FindBandIndex(0, 5), -1) << "a single slot filled";
+    EXPECT_EQ(FindBandIndex(0, -1), -1) << "what marks an empty slot is no band";
 }
 
 TEST(FindBandIndex, IsMinusOneForARadioThatDoesNotExist) {
     for (int radio : {-1, 18, 99, Most, Least})
-        EXPECT_EQ(-1, FindBandIndex(radio, 0)) << radio;
+        EXPECT_EQ(FindBandIndex(radio, 0), -1) << radio;
 }
 
 TEST(BandChoices, AreThoseOfTheRadioInTheOrderOfItsSlots) {
@@ -168,24 +168,24 @@ TEST(BandChoices, AreThoseOfTheRadioInTheOrderOfItsSlots) {
           "K6: 3-BAND"}},
     };
     for (const Line& line : lines)
-        EXPECT_EQ(line.texts, ChoicesOf(line.radio)) << "radio " << line.radio;
+        EXPECT_EQ(ChoicesOf(line.radio), line.texts) << "radio " << line.radio;
 }
 
 TEST(BandChoices, OfRadiosWithOneBandAndOfUnknownOnesIsAnErrorText) {
     for (int radio : {0, 1, 2, 3, 4, 5, 6, 7, 8, -1, 18, 99, Most, Least})
-        EXPECT_EQ(std::vector<std::string>{"Error Bad Band Config"}, ChoicesOf(radio)) << radio;
+        EXPECT_EQ(ChoicesOf(radio), std::vector<std::string>{"Error Bad Band Config"}) << radio;
 }
 
 TEST(BandChoices, AreAppendedToWhatTheListHolds) {
     wxArrayString list;
     list.push_back("before");
     MakeBandList(15, list);
-    ASSERT_EQ(3u, list.size());
-    EXPECT_EQ("before", list[0]);
-    EXPECT_EQ("FM: 66-88 MHz", list[1]);
+    ASSERT_EQ(list.size(), 3u);
+    EXPECT_EQ(list[0], "before");
+    EXPECT_EQ(list[1], "FM: 66-88 MHz");
     MakeBandList(0, list);
-    ASSERT_EQ(4u, list.size());
-    EXPECT_EQ("Error Bad Band Config", list[3]);
+    ASSERT_EQ(list.size(), 4u);
+    EXPECT_EQ(list[3], "Error Bad Band Config");
 }
 
 TEST(ModeIndex, TakesBothCasesOfWideAndNarrowAndDigitalInCapitals) {
@@ -204,7 +204,7 @@ TEST(ModeIndex, TakesBothCasesOfWideAndNarrowAndDigitalInCapitals) {
                                                         {"n ", -1},
                                                         {" w", -1},
                                                         {"n/a", -1}})
-        EXPECT_EQ(line.index, GetModeIndex(line.text)) << '"' << line.text << '"';
+        EXPECT_EQ(GetModeIndex(line.text), line.index) << '"' << line.text << '"';
 }
 
 TEST(SquelchLetters, AreThoseOfTheColumn) {
@@ -223,12 +223,12 @@ TEST(SquelchLetters, AreThoseOfTheColumn) {
     };
     for (const Line& line : lines) {
         SCOPED_TRACE(line.text);
-        EXPECT_EQ(line.analogRx, IsAnalogSquelch(line.text, 10));
-        EXPECT_EQ(line.digitalRx, IsDigitalSquelch(line.text, 10));
+        EXPECT_EQ(IsAnalogSquelch(line.text, 10), line.analogRx);
+        EXPECT_EQ(IsDigitalSquelch(line.text, 10), line.digitalRx);
         // Any column but RSQL counts as the transmit one.
         for (int column : {17, 0, -1, 11, 99, Most, Least}) {
-            EXPECT_EQ(line.analogTx, IsAnalogSquelch(line.text, column)) << column;
-            EXPECT_EQ(line.digitalTx, IsDigitalSquelch(line.text, column)) << column;
+            EXPECT_EQ(IsAnalogSquelch(line.text, column), line.analogTx) << column;
+            EXPECT_EQ(IsDigitalSquelch(line.text, column), line.digitalTx) << column;
         }
     }
 }

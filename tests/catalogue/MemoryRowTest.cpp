@@ -11,16 +11,16 @@ class MemoryRow : public PageTest {};
 TEST_F(MemoryRow, GivesItsFlagsAsNumbers) {
     SetCell(3, MFLG, "317");
     SetCell(3, TFLG, "A8");
-    EXPECT_EQ(0x317, MemoryFlags(CurrentGrid(), 3));
-    EXPECT_EQ(0xA8, TransferFlags(CurrentGrid(), 3));
+    EXPECT_EQ(MemoryFlags(CurrentGrid(), 3), 0x317);
+    EXPECT_EQ(TransferFlags(CurrentGrid(), 3), 0xA8);
 }
 
 TEST_F(MemoryRow, HasNoFlagsInCellsWithoutANumber) {
     for (const char* text : {"", "x"}) {
         SetCell(3, MFLG, text);
         SetCell(3, TFLG, text);
-        EXPECT_EQ(0, MemoryFlags(CurrentGrid(), 3)) << text;
-        EXPECT_EQ(0, TransferFlags(CurrentGrid(), 3)) << text;
+        EXPECT_EQ(MemoryFlags(CurrentGrid(), 3), 0) << text;
+        EXPECT_EQ(TransferFlags(CurrentGrid(), 3), 0) << text;
     }
 }
 
@@ -40,7 +40,7 @@ TEST_F(MemoryRow, IsAShadowOrAPrimaryByItsMemoryFlags) {
                                                         {"300", false, false}}) {
         SetCell(3, MFLG, line.flags);
         SetCell(3, TFLG, "17"); // counts for neither
-        EXPECT_EQ(line.shadow, IsShadow(CurrentGrid(), 3)) << line.flags;
-        EXPECT_EQ(line.primary, IsPrimary(CurrentGrid(), 3)) << line.flags;
+        EXPECT_EQ(IsShadow(CurrentGrid(), 3), line.shadow) << line.flags;
+        EXPECT_EQ(IsPrimary(CurrentGrid(), 3), line.primary) << line.flags;
     }
 }

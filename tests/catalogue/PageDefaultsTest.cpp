@@ -20,7 +20,7 @@ protected:
                 expected = "VHF  " + number;
             else if (col == 31)
                 expected = "A8";
-            EXPECT_EQ(expected, Cell(row, col).utf8_string())
+            EXPECT_EQ(Cell(row, col).utf8_string(), expected)
                 << "row " << row << " " << printed::Columns[static_cast<size_t>(col)].tag;
         }
     }
@@ -36,7 +36,7 @@ TEST_F(PageDefaults, OfEveryRadioAndBandSlotStandInRowZero) {
             const int defaultRow = radio.index == 7 ? 9 : radio.index == 8 ? 10 : slot.band;
             const auto texts = printed::DefaultRow(defaultRow);
             for (int col = 0; col < 32; ++col)
-                EXPECT_EQ(texts[static_cast<size_t>(col)], Cell(0, col).utf8_string())
+                EXPECT_EQ(Cell(0, col).utf8_string(), texts[static_cast<size_t>(col)])
                     << printed::Columns[static_cast<size_t>(col)].tag;
             EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
             EXPECT_FALSE(CurrentGrid()->IsReadOnly(0, DESC));
@@ -55,43 +55,43 @@ TEST_F(PageDefaults, OfAnAnalogPageLeaveAllMemoryRowsBlank) {
 
 TEST_F(PageDefaults, OfAFirstGenerationP25PageFillRow1AndBothGuards) {
     AddPage(Kdrv716, 0);
-    EXPECT_EQ((std::vector<int>{1, 231, 232}), FilledRows());
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 231, 232}));
     ExpectStartingRow(1, 4, "1");
     ExpectStartingRow(231, 4, "16");
     ExpectStartingRow(232, 4, "16");
-    EXPECT_EQ(1, SlotsTaken(1, 0));
-    EXPECT_EQ(2, SlotsTaken(1, 15));
+    EXPECT_EQ(SlotsTaken(1, 0), 1);
+    EXPECT_EQ(SlotsTaken(1, 15), 2);
 }
 
 TEST_F(PageDefaults, OfASecondGenerationP25PageFillRow1AndBothGuards) {
     AddPage(Kdrv716B, 0);
-    EXPECT_EQ((std::vector<int>{1, 501, 502}), FilledRows());
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 501, 502}));
     ExpectStartingRow(1, 9, "1");
     ExpectStartingRow(501, 9, "X");
     ExpectStartingRow(502, 9, "X");
-    EXPECT_EQ(1, SlotsTaken(1, 0));
-    EXPECT_EQ(2, SlotsTaken(1, 31));
+    EXPECT_EQ(SlotsTaken(1, 0), 1);
+    EXPECT_EQ(SlotsTaken(1, 31), 2);
 }
 
 TEST_F(PageDefaults, SetTheZoneListForTheGenerationOfTheP25Page) {
     AddPage(Kdrv716, 0);
-    ASSERT_EQ(16u, RadioCatalogue::ZoneList.size());
-    EXPECT_EQ("16", RadioCatalogue::ZoneList.Last());
+    ASSERT_EQ(RadioCatalogue::ZoneList.size(), 16u);
+    EXPECT_EQ(RadioCatalogue::ZoneList.Last(), "16");
     AddPage(Kdrv716B, 0);
-    ASSERT_EQ(32u, RadioCatalogue::ZoneList.size());
-    EXPECT_EQ("X", RadioCatalogue::ZoneList.Last());
+    ASSERT_EQ(RadioCatalogue::ZoneList.size(), 32u);
+    EXPECT_EQ(RadioCatalogue::ZoneList.Last(), "X");
     AddPage(Krv214, 0);
-    EXPECT_EQ(32u, RadioCatalogue::ZoneList.size()) << "an analog page leaves the list alone";
+    EXPECT_EQ(RadioCatalogue::ZoneList.size(), 32u) << "an analog page leaves the list alone";
     AddPage(Kdrv716, 0);
-    EXPECT_EQ(16u, RadioCatalogue::ZoneList.size());
+    EXPECT_EQ(RadioCatalogue::ZoneList.size(), 16u);
 }
 
 TEST_F(PageDefaults, NameZonesByTheirOwnTypeSoThatGuardsNeverLoseTheirZoneToAnEarlierPage) {
     AddPage(Kdrv716, 0);
     AddPage(Kdrv716B, 0);
-    EXPECT_EQ("1", Cell(1, ZONE));
-    EXPECT_EQ("X", Cell(501, ZONE)) << "the page before has 16 zones";
-    EXPECT_EQ("X", Cell(502, ZONE));
+    EXPECT_EQ(Cell(1, ZONE), "1");
+    EXPECT_EQ(Cell(501, ZONE), "X") << "the page before has 16 zones";
+    EXPECT_EQ(Cell(502, ZONE), "X");
 }
 
 TEST_F(PageDefaults, LeaveNothingSelected) {
@@ -105,17 +105,17 @@ TEST_F(PageDefaults, FillNoRowThatIsSelectedAtThatMoment) {
     SetCell(7, DESC, "KEEP ME");
     SelectRows({7});
     SetPageDefaults(MainFrame, CurrentPage);
-    EXPECT_EQ("KEEP ME", Cell(7, DESC));
-    EXPECT_EQ("", Cell(7, MNUM));
+    EXPECT_EQ(Cell(7, DESC), "KEEP ME");
+    EXPECT_EQ(Cell(7, MNUM), "");
 }
 
 TEST_F(PageDefaults, ReplaceWhatTheDefaultRowHeld) {
     for (int col = 0; col < 32; ++col)
         SetCell(0, col, "other");
     SetPageDefaults(MainFrame, CurrentPage);
-    EXPECT_EQ("LOW    66", Cell(0, DESC));
-    EXPECT_EQ("", Cell(0, RSQL));
-    EXPECT_EQ("A0", Cell(0, TFLG));
+    EXPECT_EQ(Cell(0, DESC), "LOW    66");
+    EXPECT_EQ(Cell(0, RSQL), "");
+    EXPECT_EQ(Cell(0, TFLG), "A0");
 }
 
 TEST_F(PageDefaults, LockTheNumberOfTheDefaultRow) {

@@ -15,26 +15,6 @@ protected:
         CreateNewPage(MainFrame, PageCount);
     }
 
-    /// The 32 cell texts of a row of the current page.
-    static std::vector<std::string> RowTexts(int row) {
-        std::vector<std::string> texts;
-        for (int col = 0; col < 32; ++col)
-            texts.push_back(Cell(row, col).utf8_string());
-        return texts;
-    }
-
-    /// The memory rows of the current page that have any text, from row 1 on.
-    static std::vector<int> FilledRows() {
-        std::vector<int> rows;
-        for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
-            for (int col = 0; col < 32; ++col)
-                if (!Cell(row, col).empty()) {
-                    rows.push_back(row);
-                    break;
-                }
-        return rows;
-    }
-
     static void SelectRows(std::initializer_list<int> rows) {
         CurrentGrid()->ClearSelection();
         for (int row : rows)

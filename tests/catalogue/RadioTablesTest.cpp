@@ -9,31 +9,31 @@
 using namespace RadioCatalogue;
 
 TEST(RadioTable, HoldsEachRadioUnderItsNameAndLabel) {
-    ASSERT_EQ(18, RadioTotal);
-    ASSERT_EQ(18u, printed::Radios.size());
+    ASSERT_EQ(RadioTotal, 18);
+    ASSERT_EQ(printed::Radios.size(), 18u);
     for (const printed::Radio& radio : printed::Radios) {
-        EXPECT_STREQ(radio.name, RadioName[radio.index]) << "radio " << radio.index;
-        EXPECT_STREQ(radio.label, RadioLabel[radio.index]) << "radio " << radio.index;
+        EXPECT_STREQ(RadioName[radio.index], radio.name) << "radio " << radio.index;
+        EXPECT_STREQ(RadioLabel[radio.index], radio.label) << "radio " << radio.index;
     }
 }
 
 TEST(RadioTable, GivesEachBandSlotItsBandAndRows) {
-    ASSERT_EQ(6, BandSlotTotal);
+    ASSERT_EQ(BandSlotTotal, 6);
     for (const printed::Radio& radio : printed::Radios)
         for (const printed::Slot& slot : radio.slots) {
             SCOPED_TRACE(std::string(radio.name) + " slot " + std::to_string(slot.slot));
             const int band = RadioBands[radio.index][slot.slot];
-            ASSERT_EQ(slot.band, band);
-            EXPECT_STREQ(slot.bandName, BandName[band]);
-            EXPECT_EQ(slot.rows, RadioRows[radio.index][slot.slot]);
+            ASSERT_EQ(band, slot.band);
+            EXPECT_STREQ(BandName[band], slot.bandName);
+            EXPECT_EQ(RadioRows[radio.index][slot.slot], slot.rows);
         }
 }
 
 TEST(RadioTable, LeavesTheSlotsBehindTheLastBandEmpty) {
     for (const printed::Radio& radio : printed::Radios)
         for (int slot = static_cast<int>(radio.slots.size()); slot < 6; ++slot) {
-            EXPECT_EQ(-1, RadioBands[radio.index][slot]) << radio.name << " slot " << slot;
-            EXPECT_EQ(0, RadioRows[radio.index][slot]) << radio.name << " slot " << slot;
+            EXPECT_EQ(RadioBands[radio.index][slot], -1) << radio.name << " slot " << slot;
+            EXPECT_EQ(RadioRows[radio.index][slot], 0) << radio.name << " slot " << slot;
         }
 }
 
@@ -41,39 +41,39 @@ TEST(RadioTable, GivesEachBandSlotItsTypeAndStep) {
     for (const printed::Radio& radio : printed::Radios)
         for (const printed::Slot& slot : radio.slots) {
             SCOPED_TRACE(std::string(radio.name) + " band " + slot.bandName);
-            EXPECT_EQ(slot.type, GetRadioType(radio.index, slot.band));
-            EXPECT_EQ(slot.step, GetChannelStep(radio.index, slot.band));
+            EXPECT_EQ(GetRadioType(radio.index, slot.band), slot.type);
+            EXPECT_EQ(GetChannelStep(radio.index, slot.band), slot.step);
         }
 }
 
 TEST(BandTable, HoldsNamesLimitsAndStartFrequencies) {
-    ASSERT_EQ(9, BandTotal);
+    ASSERT_EQ(BandTotal, 9);
     for (const printed::Band& band : printed::Bands) {
         SCOPED_TRACE(band.name);
-        EXPECT_STREQ(band.name, BandName[band.id]);
-        EXPECT_EQ(band.low, BandLimit[band.id][0]);
-        EXPECT_EQ(band.high, BandLimit[band.id][1]);
-        EXPECT_STREQ(band.start, BandStart[band.id]);
+        EXPECT_STREQ(BandName[band.id], band.name);
+        EXPECT_EQ(BandLimit[band.id][0], band.low);
+        EXPECT_EQ(BandLimit[band.id][1], band.high);
+        EXPECT_STREQ(BandStart[band.id], band.start);
     }
 }
 
 TEST(TypeTable, HoldsTagsAndColumnCounts) {
-    ASSERT_EQ(8, TypeTotal);
+    ASSERT_EQ(TypeTotal, 8);
     for (const printed::TypeLine& line : printed::Types) {
-        EXPECT_STREQ(line.tag, RadioTypeName[line.type]);
-        EXPECT_EQ(line.columns, ColumnCount[line.type]) << line.tag;
+        EXPECT_STREQ(RadioTypeName[line.type], line.tag);
+        EXPECT_EQ(ColumnCount[line.type], line.columns) << line.tag;
     }
 }
 
 TEST(TypeTable, NumbersTheTypesInTheirOrder) {
-    EXPECT_EQ(0, ANFM);
-    EXPECT_EQ(1, RP25);
-    EXPECT_EQ(2, NP25);
-    EXPECT_EQ(3, MDLX);
-    EXPECT_EQ(4, O12);
-    EXPECT_EQ(5, KDAR);
-    EXPECT_EQ(6, ANAM);
-    EXPECT_EQ(7, FXAM);
+    EXPECT_EQ(ANFM, 0);
+    EXPECT_EQ(RP25, 1);
+    EXPECT_EQ(NP25, 2);
+    EXPECT_EQ(MDLX, 3);
+    EXPECT_EQ(O12, 4);
+    EXPECT_EQ(KDAR, 5);
+    EXPECT_EQ(ANAM, 6);
+    EXPECT_EQ(FXAM, 7);
 }
 
 TEST(RadioIndices, AreThePositionsOfTheirNames) {
@@ -84,10 +84,10 @@ TEST(RadioIndices, AreThePositionsOfTheirNames) {
         {Krv630Qnt, "KRV-630_QNT"}, {Krv650, "KRV-650"},     {Krv656, "KRV-656"},   {Krv666, "KRV-666"},
         {Kdrv8400, "KDRV-8400"},    {Kdrv4xxx, "KDRV-4xxx"},
     };
-    ASSERT_EQ(18u, std::size(indices));
+    ASSERT_EQ(std::size(indices), 18u);
     for (int i = 0; i < 18; ++i) {
-        EXPECT_EQ(i, indices[i].first) << indices[i].second;
-        EXPECT_STREQ(indices[i].second, RadioName[i]);
+        EXPECT_EQ(indices[i].first, i) << indices[i].second;
+        EXPECT_STREQ(RadioName[i], indices[i].second);
     }
 }
 
@@ -97,29 +97,29 @@ TEST(BandIds, AreThePositionsOfTheirNames) {
         {Am118To138, "AM 118-138"}, {Fm136To174, "FM 136-174"}, {Fm138To174, "FM 138-174"},
         {Am225To400, "AM 225-400"}, {Fm403To512, "FM 403-512"}, {K6Module, "K6 3-BAND"},
     };
-    ASSERT_EQ(9u, std::size(ids));
+    ASSERT_EQ(std::size(ids), 9u);
     for (int i = 0; i < 9; ++i) {
-        EXPECT_EQ(i, ids[i].first) << ids[i].second;
-        EXPECT_STREQ(ids[i].second, BandName[i]);
+        EXPECT_EQ(ids[i].first, i) << ids[i].second;
+        EXPECT_STREQ(BandName[i], ids[i].second);
     }
-    EXPECT_EQ(9, K7Module) << "one past the tables";
+    EXPECT_EQ(K7Module, 9) << "one past the tables";
 }
 
 TEST(BandIds, OfTheFirstModuleAreThree) {
     for (int band = -1; band <= 9; ++band)
-        EXPECT_EQ(band == 0 || band == 2 || band == 6, IsK6Band(band)) << band;
+        EXPECT_EQ(IsK6Band(band), band == 0 || band == 2 || band == 6) << band;
 }
 
 TEST(BandChoice, BelongsToRadios9To17) {
     for (int radio = -1; radio <= 20; ++radio)
-        EXPECT_EQ(radio >= 9 && radio <= 17, HasBandChoice(radio)) << radio;
+        EXPECT_EQ(HasBandChoice(radio), radio >= 9 && radio <= 17) << radio;
 }
 
 TEST(MemoryCounts, AreThoseOfBothP25Generations) {
-    EXPECT_EQ(230, RP25Memories);
-    EXPECT_EQ(500, NP25Memories);
-    EXPECT_EQ(2, GuardRowTotal);
-    EXPECT_EQ(270, NP25GuardShift);
+    EXPECT_EQ(RP25Memories, 230);
+    EXPECT_EQ(NP25Memories, 500);
+    EXPECT_EQ(GuardRowTotal, 2);
+    EXPECT_EQ(NP25GuardShift, 270);
 }
 
 TEST(AnalogRadioCodes, AreThoseOfTheRadios) {
@@ -145,7 +145,7 @@ TEST(AnalogRadioCodes, AreThoseOfTheRadios) {
         0x00800A00, // 18
         0x00800A00, // 19
     };
-    ASSERT_EQ(20u, std::size(AnalogRadioCode));
+    ASSERT_EQ(std::size(AnalogRadioCode), 20u);
     for (size_t i = 0; i < std::size(codes); ++i)
-        EXPECT_EQ(codes[i], AnalogRadioCode[i]) << "entry " << i;
+        EXPECT_EQ(AnalogRadioCode[i], codes[i]) << "entry " << i;
 }

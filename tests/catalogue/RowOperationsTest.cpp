@@ -44,11 +44,11 @@ TEST_F(RowOperations, ReadAllCellsOfARowOfThePageNamed) {
         SetCell(5, col, wxString::Format("c%d", col));
     AddPage(Krv214, 0);
     const wxArrayString values = GetRowValues(0, 5);
-    ASSERT_EQ(32u, values.size());
+    ASSERT_EQ(values.size(), 32u);
     for (size_t col = 0; col < 32; ++col)
-        EXPECT_EQ("c" + std::to_string(col), values[col].utf8_string());
+        EXPECT_EQ(values[col].utf8_string(), "c" + std::to_string(col));
     for (const wxString& text : GetRowValues(1, 5))
-        EXPECT_EQ("", text);
+        EXPECT_EQ(text, "");
 }
 
 TEST_F(RowOperations, ARowHasDataAsSoonAsOneOfItsCellsHasText) {
@@ -72,15 +72,15 @@ TEST_F(RowOperations, TheDefaultRowHasData) {
 }
 
 TEST_F(RowOperations, CountingTakesRow0AndLeavesTheLastRowOut) {
-    EXPECT_EQ(1, CountRowsWithData(0)) << "the default row alone";
+    EXPECT_EQ(CountRowsWithData(0), 1) << "the default row alone";
     SetCell(1, DESC, "A");
     SetCell(121, DESC, "B");
-    EXPECT_EQ(3, CountRowsWithData(0));
+    EXPECT_EQ(CountRowsWithData(0), 3);
     SetCell(122, DESC, "C");
-    EXPECT_EQ(3, CountRowsWithData(0));
+    EXPECT_EQ(CountRowsWithData(0), 3);
     for (int col = 0; col < 32; ++col)
         SetCell(0, col, "");
-    EXPECT_EQ(2, CountRowsWithData(0));
+    EXPECT_EQ(CountRowsWithData(0), 2);
 }
 
 TEST_F(CopyValues, WritesColumns0To31WithAllColumns) {
@@ -88,9 +88,9 @@ TEST_F(CopyValues, WritesColumns0To31WithAllColumns) {
     CopyValuesToSelection(0, Image("LETTERS"), false, true);
     for (int row : {3, 5})
         for (int col = 0; col < 32; ++col)
-            EXPECT_EQ(col == DESC ? "LETTERS" : "v" + std::to_string(col), Cell(row, col).utf8_string())
+            EXPECT_EQ(Cell(row, col).utf8_string(), col == DESC ? "LETTERS" : "v" + std::to_string(col))
                 << "row " << row << " column " << col;
-    EXPECT_EQ((std::vector<int>{3, 5}), FilledRows());
+    EXPECT_EQ(FilledRows(), (std::vector<int>{3, 5}));
 }
 
 TEST_F(CopyValues, WritesColumns0To29WithoutAllColumns) {
@@ -98,24 +98,24 @@ TEST_F(CopyValues, WritesColumns0To29WithoutAllColumns) {
     SetCell(3, TFLG, "C0");
     SelectRows({3});
     CopyValuesToSelection(0, Image("LETTERS"), false, false);
-    EXPECT_EQ("v29", Cell(3, SHD6));
-    EXPECT_EQ("old", Cell(3, RONL));
-    EXPECT_EQ("C0", Cell(3, TFLG));
+    EXPECT_EQ(Cell(3, SHD6), "v29");
+    EXPECT_EQ(Cell(3, RONL), "old");
+    EXPECT_EQ(Cell(3, TFLG), "C0");
 }
 
 TEST_F(CopyValues, NeverWritesTheDefaultRow) {
     const auto before = RowTexts(0);
     SelectRows({0, 1});
     CopyValuesToSelection(0, Image("LETTERS"), true, true);
-    EXPECT_EQ(before, RowTexts(0));
-    EXPECT_EQ((std::vector<int>{1}), FilledRows());
+    EXPECT_EQ(RowTexts(0), before);
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1}));
 }
 
 TEST_F(CopyValues, ReachesTheLastRow) {
     CurrentGrid()->SelectAll();
     CopyValuesToSelection(0, Image("LETTERS"), true, true);
-    EXPECT_EQ(122u, FilledRows().size());
-    EXPECT_EQ("122", Cell(122, MNUM));
+    EXPECT_EQ(FilledRows().size(), 122u);
+    EXPECT_EQ(Cell(122, MNUM), "122");
 }
 
 TEST_F(CopyValues, LeavesNothingSelected) {
@@ -134,17 +134,17 @@ TEST_F(CopyValues, TakesARowAsSelectedWhenItsFirstCellIs) {
     CurrentGrid()->SelectBlock(3, 0, 4, 2);
     CurrentGrid()->SelectBlock(8, 1, 9, 31, true);
     CopyValuesToSelection(0, Image("LETTERS"), false, true);
-    EXPECT_EQ((std::vector<int>{3, 4}), FilledRows());
+    EXPECT_EQ(FilledRows(), (std::vector<int>{3, 4}));
 }
 
 TEST_F(CopyValues, NumbersRowsOnlyWhenAskedTo) {
     SelectRows({7});
     CopyValuesToSelection(0, Image("LETTERS"), true, true);
-    EXPECT_EQ("007", Cell(7, MNUM));
-    EXPECT_EQ("v2", Cell(7, PRIM)) << "an analog row has no primary";
+    EXPECT_EQ(Cell(7, MNUM), "007");
+    EXPECT_EQ(Cell(7, PRIM), "v2") << "an analog row has no primary";
     SelectRows({8});
     CopyValuesToSelection(0, Image("LETTERS"), false, true);
-    EXPECT_EQ("v1", Cell(8, MNUM));
+    EXPECT_EQ(Cell(8, MNUM), "v1");
 }
 
 TEST_F(CopyValues, NumbersDescriptionsThatEndInADigit) {
@@ -172,7 +172,7 @@ TEST_F(CopyValues, NumbersDescriptionsThatEndInADigit) {
         {"LONGERTHAN99", 4, "LONGER004"},
     };
     for (const Line& line : lines)
-        EXPECT_EQ(line.expected, Numbered(line.text, line.row)) << '"' << line.text << "\" row " << line.row;
+        EXPECT_EQ(Numbered(line.text, line.row), line.expected) << '"' << line.text << "\" row " << line.row;
 }
 
 TEST_F(CopyValues, NumbersDescriptionsWithin8CharactersOnP25Pages) {
@@ -190,22 +190,22 @@ TEST_F(CopyValues, NumbersDescriptionsWithin8CharactersOnP25Pages) {
     for (const Line& line : lines) {
         if (CurrentParameters().Radio != line.radio)
             AddPage(line.radio, 0);
-        EXPECT_EQ(line.expected, Numbered(line.text, line.row)) << line.text;
+        EXPECT_EQ(Numbered(line.text, line.row), line.expected) << line.text;
     }
 }
 
 TEST_F(CopyValues, NumbersDescriptionsWithin9CharactersOnTheKdar) {
     Retarget(Kdar2000, 0);
-    EXPECT_EQ("ABCDEF020", Numbered("ABCDEFGH1", 20));
+    EXPECT_EQ(Numbered("ABCDEFGH1", 20), "ABCDEF020");
 }
 
 TEST_F(CopyValues, NumbersEachRowOfTheSelectionByItself) {
     SelectRows({1, 2, 100});
     CopyValuesToSelection(0, Image("MEM001"), true, true);
-    EXPECT_EQ("MEM001", Cell(1, DESC));
-    EXPECT_EQ("MEM002", Cell(2, DESC));
-    EXPECT_EQ("MEM100", Cell(100, DESC));
-    EXPECT_EQ("100", Cell(100, MNUM));
+    EXPECT_EQ(Cell(1, DESC), "MEM001");
+    EXPECT_EQ(Cell(2, DESC), "MEM002");
+    EXPECT_EQ(Cell(100, DESC), "MEM100");
+    EXPECT_EQ(Cell(100, MNUM), "100");
 }
 
 TEST_F(CopyValues, GivesP25RowsTheirPrimaryAndAZoneWithRoom) {
@@ -215,14 +215,14 @@ TEST_F(CopyValues, GivesP25RowsTheirPrimaryAndAZoneWithRoom) {
     values[ZONE] = "9";
     SelectRows({2, 3, 231});
     CopyValuesToSelection(1, values, true, true);
-    EXPECT_EQ("002", Cell(2, PRIM));
-    EXPECT_EQ("002", Cell(2, MNUM));
-    EXPECT_EQ("1", Cell(2, ZONE)) << "the image's zone doesn't count";
-    EXPECT_EQ("1", Cell(3, ZONE));
-    EXPECT_EQ("16", Cell(231, ZONE));
-    EXPECT_EQ("A8", Cell(2, TFLG));
-    EXPECT_EQ(2, SlotsTaken(1, 0));
-    EXPECT_EQ(1, SlotsTaken(1, 15));
+    EXPECT_EQ(Cell(2, PRIM), "002");
+    EXPECT_EQ(Cell(2, MNUM), "002");
+    EXPECT_EQ(Cell(2, ZONE), "1") << "the image's zone doesn't count";
+    EXPECT_EQ(Cell(3, ZONE), "1");
+    EXPECT_EQ(Cell(231, ZONE), "16");
+    EXPECT_EQ(Cell(2, TFLG), "A8");
+    EXPECT_EQ(SlotsTaken(1, 0), 2);
+    EXPECT_EQ(SlotsTaken(1, 15), 1);
 }
 
 TEST_F(CopyValues, KeepsThePrimaryOfP25RowsThatAreNotRenumbered) {
@@ -231,9 +231,9 @@ TEST_F(CopyValues, KeepsThePrimaryOfP25RowsThatAreNotRenumbered) {
     values[PRIM] = "017";
     SelectRows({2});
     CopyValuesToSelection(1, values, false, true);
-    EXPECT_EQ("017", Cell(2, PRIM));
-    EXPECT_EQ("0", Cell(2, MNUM));
-    EXPECT_EQ("1", Cell(2, ZONE));
+    EXPECT_EQ(Cell(2, PRIM), "017");
+    EXPECT_EQ(Cell(2, MNUM), "0");
+    EXPECT_EQ(Cell(2, ZONE), "1");
 }
 
 TEST_F(CopyValues, LeavesAP25RowTheZoneSlotThatItHoldsWhenTflgStays) {
@@ -242,8 +242,8 @@ TEST_F(CopyValues, LeavesAP25RowTheZoneSlotThatItHoldsWhenTflgStays) {
     SetCell(2, TFLG, "C8");
     SelectRows({2});
     CopyValuesToSelection(1, GetRowValues(1, 0), true, false);
-    EXPECT_EQ("C8", Cell(2, TFLG));
-    EXPECT_EQ(before, SlotsTaken(1, 0));
+    EXPECT_EQ(Cell(2, TFLG), "C8");
+    EXPECT_EQ(SlotsTaken(1, 0), before);
 }
 
 TEST_F(CopyValues, FillsZonesOneAfterTheOther) {
@@ -251,13 +251,13 @@ TEST_F(CopyValues, FillsZonesOneAfterTheOther) {
     ClearZoneSlots(1);
     CurrentGrid()->SelectBlock(1, 0, 40, 31);
     CopyValuesToSelection(1, GetRowValues(1, 0), true, true);
-    EXPECT_EQ("1", Cell(16, ZONE));
-    EXPECT_EQ("2", Cell(17, ZONE));
-    EXPECT_EQ("2", Cell(32, ZONE));
-    EXPECT_EQ("3", Cell(33, ZONE));
-    EXPECT_EQ(16, SlotsTaken(1, 0));
-    EXPECT_EQ(16, SlotsTaken(1, 1));
-    EXPECT_EQ(8, SlotsTaken(1, 2));
+    EXPECT_EQ(Cell(16, ZONE), "1");
+    EXPECT_EQ(Cell(17, ZONE), "2");
+    EXPECT_EQ(Cell(32, ZONE), "2");
+    EXPECT_EQ(Cell(33, ZONE), "3");
+    EXPECT_EQ(SlotsTaken(1, 0), 16);
+    EXPECT_EQ(SlotsTaken(1, 1), 16);
+    EXPECT_EQ(SlotsTaken(1, 2), 8);
 }
 
 TEST_F(ClearRow, EmptiesAllCells) {
@@ -267,7 +267,7 @@ TEST_F(ClearRow, EmptiesAllCells) {
     }
     ClearRowData(5, false);
     EXPECT_FALSE(RowHasData(5));
-    EXPECT_EQ(std::vector<std::string>(32, "y"), RowTexts(6));
+    EXPECT_EQ(RowTexts(6), std::vector<std::string>(32, "y"));
 }
 
 TEST_F(ClearRow, MakesReadOnlyCellsWritableButNotThatOfShad) {
@@ -277,7 +277,7 @@ TEST_F(ClearRow, MakesReadOnlyCellsWritableButNotThatOfShad) {
     }
     ClearRowData(5, false);
     for (int col = 0; col < 32; ++col) {
-        EXPECT_EQ(col == SHAD, CurrentGrid()->IsReadOnly(5, col)) << "column " << col;
+        EXPECT_EQ(CurrentGrid()->IsReadOnly(5, col), col == SHAD) << "column " << col;
         EXPECT_TRUE(CurrentGrid()->IsReadOnly(6, col)) << "column " << col;
     }
 }
@@ -290,9 +290,9 @@ TEST_F(ClearRow, GivesTheZoneOfTheNumberedRowBack) {
     SetCell(5, ZONE, "2");
     SetCell(9, ZONE, "3");
     ClearRowData(5, true);
-    EXPECT_EQ(3, SlotsTaken(1, 2));
-    EXPECT_EQ(4, SlotsTaken(1, 1));
-    EXPECT_EQ("3", Cell(9, ZONE));
+    EXPECT_EQ(SlotsTaken(1, 2), 3);
+    EXPECT_EQ(SlotsTaken(1, 1), 4);
+    EXPECT_EQ(Cell(9, ZONE), "3");
 }
 
 TEST_F(ClearRow, KeepsTheZoneSlotWhenNotAskedToReleaseIt) {
@@ -300,7 +300,7 @@ TEST_F(ClearRow, KeepsTheZoneSlotWhenNotAskedToReleaseIt) {
     ZoneSlots.fill(4);
     ClearRowData(1, false);
     for (int32_t taken : ZoneSlots)
-        ASSERT_EQ(4, taken);
+        ASSERT_EQ(taken, 4);
 }
 
 TEST_F(ClearRow, WithoutANumberGivesNoZoneSlotBack) {
@@ -311,10 +311,10 @@ TEST_F(ClearRow, WithoutANumberGivesNoZoneSlotBack) {
         SetCell(5, ZONE, "1");
         ClearRowData(5, true);
         for (int32_t taken : ZoneSlots)
-            ASSERT_EQ(4, taken) << '"' << number << '"';
+            ASSERT_EQ(taken, 4) << '"' << number << '"';
         EXPECT_FALSE(RowHasData(5));
     }
-    EXPECT_EQ("1", Cell(0, ZONE)) << "the default row's zone is no slot";
+    EXPECT_EQ(Cell(0, ZONE), "1") << "the default row's zone is no slot";
 }
 
 TEST_F(ClearRow, OfAShadowRowGivesNoZoneSlotBack) {
@@ -324,14 +324,14 @@ TEST_F(ClearRow, OfAShadowRowGivesNoZoneSlotBack) {
     SetCell(5, ZONE, "");
     ClearRowData(5, true);
     for (int32_t taken : ZoneSlots)
-        ASSERT_EQ(4, taken);
+        ASSERT_EQ(taken, 4);
 }
 
 TEST_F(ClearRow, OfAnEmptyZoneLeavesItsCounterAtZero) {
     AddPage(Kdrv716, 0);
     ZoneSlots.fill(0);
     ClearRowData(1, true);
-    EXPECT_EQ(0, SlotsTaken(1, 0));
+    EXPECT_EQ(SlotsTaken(1, 0), 0);
 }
 
 TEST_F(RowCompleteness, NeedsTextInEveryColumnThatTheTypeShows) {
@@ -364,7 +364,7 @@ TEST_F(RowCompleteness, IsFalseForABlankRow) {
 TEST_F(RowCompleteness, OfAKdarRowLooksAtRonlAndNotAtMode) {
     Retarget(Kdar2000, 0);
     FillShownCells(printed::KDAR);
-    EXPECT_EQ("", Cell(1, MODE));
+    EXPECT_EQ(Cell(1, MODE), "");
     EXPECT_TRUE(RowIsComplete(1));
     SetCell(1, RONL, "");
     EXPECT_FALSE(RowIsComplete(1));
@@ -407,26 +407,26 @@ TEST_F(RowCompleteness, OfAShadowRowDoesNotCountItsEmptyZoneADeparture) {
 }
 
 TEST_F(RowOperations, CodesAreCountedByTheTypeOfTheCurrentPage) {
-    EXPECT_EQ(1, GetCodeIndex("023"));
-    EXPECT_EQ(0, GetCodeIndex("OFF"));
-    EXPECT_EQ("OFF", GetCodeText(0));
+    EXPECT_EQ(GetCodeIndex("023"), 1);
+    EXPECT_EQ(GetCodeIndex("OFF"), 0);
+    EXPECT_EQ(GetCodeText(0), "OFF");
     AddPage(Kdrv716, 0);
-    EXPECT_EQ(0, GetCodeIndex("023"));
-    EXPECT_EQ(-1, GetCodeIndex("OFF"));
-    EXPECT_EQ("023", GetCodeText(0));
+    EXPECT_EQ(GetCodeIndex("023"), 0);
+    EXPECT_EQ(GetCodeIndex("OFF"), -1);
+    EXPECT_EQ(GetCodeText(0), "023");
 }
 
 TEST_F(RowOperations, ColoursAreThoseOfRepairedCellsAndMarkedRows) {
-    EXPECT_EQ(wxColour(235, 125, 50), FailColour);
-    EXPECT_EQ(wxColour(105, 160, 170), MarkColour);
+    EXPECT_EQ(FailColour, wxColour(235, 125, 50));
+    EXPECT_EQ(MarkColour, wxColour(105, 160, 170));
 }
 
 TEST_F(RowOperations, SixPagesCanStand) {
-    EXPECT_EQ(6, PageLimit);
+    EXPECT_EQ(PageLimit, 6);
     for (int page = 1; page < 6; ++page)
         AddPage(page % 2 ? 7 : 6, 0);
-    EXPECT_EQ(6, PageCount);
-    EXPECT_EQ(5, CurrentPage);
-    EXPECT_EQ("1", Cell(1, ZONE)) << "the sixth page has zone counters of its own";
-    EXPECT_EQ(1, SlotsTaken(5, 0));
+    EXPECT_EQ(PageCount, 6);
+    EXPECT_EQ(CurrentPage, 5);
+    EXPECT_EQ(Cell(1, ZONE), "1") << "the sixth page has zone counters of its own";
+    EXPECT_EQ(SlotsTaken(5, 0), 1);
 }

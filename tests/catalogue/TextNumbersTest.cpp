@@ -16,8 +16,8 @@ TEST(TextNumbers, DecimalIsReadAsFarAsItParses) {
         {"- 5", {}},   {"0x10", 0}, {".5", {}}, {"OFF", {}}, {"n/a", {}},  {"-2147483648", INT32_MIN},
     };
     for (const Line& line : lines) {
-        EXPECT_EQ(line.number, ReadNumber(line.text)) << '"' << line.text << '"';
-        EXPECT_EQ(line.number.value_or(0), ReadDecimal(line.text)) << '"' << line.text << '"';
+        EXPECT_EQ(ReadNumber(line.text), line.number) << '"' << line.text << '"';
+        EXPECT_EQ(ReadDecimal(line.text), line.number.value_or(0)) << '"' << line.text << '"';
     }
 }
 
@@ -32,33 +32,33 @@ TEST(TextNumbers, HexadecimalIsReadAsFarAsItParses) {
         {"1G", 1},    {"A0 ", 0xA0},  {"", {}},  {"G", {}},      {"-", {}},
     };
     for (const Line& line : lines) {
-        EXPECT_EQ(line.number, ReadNumber(line.text, 16)) << '"' << line.text << '"';
-        EXPECT_EQ(line.number.value_or(0), ReadHex(line.text)) << '"' << line.text << '"';
+        EXPECT_EQ(ReadNumber(line.text, 16), line.number) << '"' << line.text << '"';
+        EXPECT_EQ(ReadHex(line.text), line.number.value_or(0)) << '"' << line.text << '"';
     }
 }
 
 TEST(TextNumbers, MoreThan32BitsStayOutOfEveryRange) {
     for (const char* text : {"2147483648", "4294967297", "18446744073709551617", "99999999999999999999999"})
-        EXPECT_EQ(INT32_MAX, ReadDecimal(text)) << text;
+        EXPECT_EQ(ReadDecimal(text), INT32_MAX) << text;
     for (const char* text : {"-2147483649", "-4294967295", "-99999999999999999999999"})
-        EXPECT_EQ(INT32_MIN, ReadDecimal(text)) << text;
+        EXPECT_EQ(ReadDecimal(text), INT32_MIN) << text;
     for (const char* text : {"80000000", "100000000", "FFFFFFFFFFFFFFFFFF"})
-        EXPECT_EQ(INT32_MAX, ReadHex(text)) << text;
+        EXPECT_EQ(ReadHex(text), INT32_MAX) << text;
 }
 
 TEST(TextNumbers, CharactersOutsideAsciiAreNoDigits) {
-    EXPECT_EQ(std::nullopt, ReadNumber(wxString::FromUTF8("\xEF\xBC\x91"))) << "a full-width one";
-    EXPECT_EQ(4, ReadDecimal(wxString::FromUTF8("4\xC2\xB2")));
+    EXPECT_EQ(ReadNumber(wxString::FromUTF8("\xEF\xBC\x91")), std::nullopt) << "a full-width one";
+    EXPECT_EQ(ReadDecimal(wxString::FromUTF8("4\xC2\xB2")), 4);
 }
 
 TEST(TextNumbers, MemoryNumbersHaveAtLeastThreeDigits) {
-    EXPECT_EQ("000", NumberText(0));
-    EXPECT_EQ("001", NumberText(1));
-    EXPECT_EQ("042", NumberText(42));
-    EXPECT_EQ("502", NumberText(502));
-    EXPECT_EQ("1000", NumberText(1000));
-    EXPECT_EQ("-05", NumberText(-5));
-    EXPECT_EQ("-2147483648", NumberText(INT32_MIN));
+    EXPECT_EQ(NumberText(0), "000");
+    EXPECT_EQ(NumberText(1), "001");
+    EXPECT_EQ(NumberText(42), "042");
+    EXPECT_EQ(NumberText(502), "502");
+    EXPECT_EQ(NumberText(1000), "1000");
+    EXPECT_EQ(NumberText(-5), "-05");
+    EXPECT_EQ(NumberText(INT32_MIN), "-2147483648");
 }
 
 TEST(TextNumbers, PlainNumbersHaveZerosInFrontUpToTheirWidth) {
@@ -72,10 +72,10 @@ TEST(TextNumbers, PlainNumbersHaveZerosInFrontUpToTheirWidth) {
 }
 
 TEST(TextNumbers, FlagsAreUpperCaseHexadecimalOfAtLeastTwoDigits) {
-    EXPECT_EQ("00", FlagText(0));
-    EXPECT_EQ("08", FlagText(8));
-    EXPECT_EQ("A0", FlagText(0xA0));
-    EXPECT_EQ("CB", FlagText(0xCB));
-    EXPECT_EQ("3FF", FlagText(0x3FF));
-    EXPECT_EQ("FFFFFFFF", FlagText(-1));
+    EXPECT_EQ(FlagText(0), "00");
+    EXPECT_EQ(FlagText(8), "08");
+    EXPECT_EQ(FlagText(0xA0), "A0");
+    EXPECT_EQ(FlagText(0xCB), "CB");
+    EXPECT_EQ(FlagText(0x3FF), "3FF");
+    EXPECT_EQ(FlagText(-1), "FFFFFFFF");
 }

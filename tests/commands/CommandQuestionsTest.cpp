@@ -28,14 +28,14 @@ TEST_F(CommandQuestion, WhenCancelledChangesNothing) {
         Run(CopyRow);
         std::vector<Texts> before;
         for (int row = 0; row <= CurrentParameters().Rows; ++row)
-            before.push_back(Row(row));
+            before.push_back(RowTexts(row));
         const auto slots = ZoneSlots;
         for (const Question& question : Questions()) {
             SCOPED_TRACE(question.caption);
             CurrentGrid()->SelectAll();
             Run(question.command, wxID_CANCEL);
             for (int row = 0; row <= CurrentParameters().Rows; ++row)
-                ASSERT_EQ(Row(row), before[static_cast<size_t>(row)]) << "row " << row;
+                ASSERT_EQ(RowTexts(row), before[static_cast<size_t>(row)]) << "row " << row;
             EXPECT_EQ(ZoneSlots, slots);
             EXPECT_EQ(CurrentParameters().Flags, 0x1A);
             EXPECT_TRUE(CurrentGrid()->IsInSelection(7, 7)) << "the selection stays";

@@ -2,8 +2,8 @@
 #include "tests/editing/GridHabits.h"
 
 #include "commands/CommandIds.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 
 #include <wx/notebook.h>
 #include <wx/print.h>
@@ -57,10 +57,10 @@ protected:
             {
                 DialogScript dialogs;
                 command(dialogs);
-                EXPECT_EQ(0u, dialogs.Missing());
+                EXPECT_EQ(dialogs.Missing(), 0u);
             }
             EXPECT_FALSE(IsOpen());
-            EXPECT_EQ(edit.taken, Text(5, edit.col));
+            EXPECT_EQ(Text(5, edit.col), edit.taken);
         }
     }
 
@@ -191,10 +191,10 @@ TEST_F(OpenEditor, IsTakenOnItsPageWhenAnotherPageIsShown) {
         const wxPoint corner = PageGrid[0]->GetScreenPosition();
         for (int x = 20; x < 300 && CurrentPage == 0; x += 20)
             ClickAt(wxPoint(corner.x + x, corner.y - 20));
-        ASSERT_EQ(1, CurrentPage);
+        ASSERT_EQ(CurrentPage, 1);
         EXPECT_FALSE(PageGrid[0]->IsCellEditControlShown());
-        EXPECT_EQ(edit.taken, PageGrid[0]->GetCellValue(5, edit.col).utf8_string());
-        EXPECT_EQ("", Text(5, edit.col)) << "the other page";
+        EXPECT_EQ(PageGrid[0]->GetCellValue(5, edit.col).utf8_string(), edit.taken);
+        EXPECT_EQ(Text(5, edit.col), "") << "the other page";
     }
 }
 
@@ -202,7 +202,7 @@ TEST_F(OpenEditor, IsClosedWhenItsPageIsDeleted) {
     for (const Edit& edit : Edits()) {
         SCOPED_TRACE(edit.name);
         AddPage(Krv47);
-        ASSERT_EQ(1, CurrentPage);
+        ASSERT_EQ(CurrentPage, 1);
         Fill({5});
         Type(5, edit);
         const PageState first = [] {
@@ -212,8 +212,8 @@ TEST_F(OpenEditor, IsClosedWhenItsPageIsDeleted) {
             return state;
         }();
         DeletePage();
-        ASSERT_EQ(0, CurrentPage);
-        EXPECT_EQ("", ChangesSince(first));
+        ASSERT_EQ(CurrentPage, 0);
+        EXPECT_EQ(ChangesSince(first), "");
     }
 }
 
@@ -245,7 +245,7 @@ TEST_F(OpenEditor, IsTakenByEveryRowAndColumnCommand) {
         Fill({5});
         Type(5, edit);
         ChooseRowCommand(IdCopyRow);
-        EXPECT_EQ(edit.taken, RowCopyBuffer[static_cast<size_t>(edit.col)].utf8_string()) << edit.name;
+        EXPECT_EQ(RowCopyBuffer[static_cast<size_t>(edit.col)].utf8_string(), edit.taken) << edit.name;
     }
 }
 
@@ -260,8 +260,8 @@ TEST_F(OpenEditor, IsTakenBeforeAShadowIsMade) {
         ClickButton(dialog, wxID_OK);
     });
     ChooseRowCommand(IdCreateShadow);
-    EXPECT_EQ("Quay", Text(5, DESC));
-    EXPECT_EQ("Quay", Text(8, DESC)) << "the shadow has what was typed";
+    EXPECT_EQ(Text(5, DESC), "Quay");
+    EXPECT_EQ(Text(8, DESC), "Quay") << "the shadow has what was typed";
 }
 
 TEST_F(OpenEditor, MovesWithItsTextWhenItsRowMoves) {
@@ -271,8 +271,8 @@ TEST_F(OpenEditor, MovesWithItsTextWhenItsRowMoves) {
     ContextRow = 5;
     dialogs.ExpectMessage("Insert row above Selected row?", AnyText(), wxID_OK);
     ChooseRowCommand(IdInsertRow);
-    EXPECT_EQ("QUAY", Text(6, DESC));
-    EXPECT_EQ("", Text(5, DESC));
+    EXPECT_EQ(Text(6, DESC), "QUAY");
+    EXPECT_EQ(Text(5, DESC), "");
     EXPECT_FALSE(IsOpen());
 }
 
@@ -286,7 +286,7 @@ TEST_F(OpenEditor, IsTakenByAClickElsewhereOnThePage) {
             Type(5, edit);
             ClickAt(spot());
             EXPECT_FALSE(IsOpen());
-            EXPECT_EQ(edit.taken, Text(5, edit.col));
+            EXPECT_EQ(Text(5, edit.col), edit.taken);
             Grid()->ClearSelection();
             PumpFor(300); // the next click is no second half of a double click
         }

@@ -34,11 +34,6 @@ protected:
         CreateNewPage(MainFrame, PageCount);
     }
 
-    static void SetCells(int row, const std::vector<std::pair<int, const char*>>& cells) {
-        for (const auto& [col, text] : cells)
-            SetCell(row, col, text);
-    }
-
     static void Select(std::initializer_list<int> rows) {
         CurrentGrid()->ClearSelection();
         for (int row : rows)

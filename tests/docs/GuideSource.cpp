@@ -1,24 +1,15 @@
 #include "tests/docs/GuideSource.h"
 
-#include <fstream>
+#include "robot/Files.h"
+
 #include <regex>
 #include <sstream>
-#include <stdexcept>
 
 namespace fs = std::filesystem;
 
 namespace docstest {
 
 namespace {
-
-std::string TextOf(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    if (!in)
-        throw std::runtime_error("can't read " + file.string());
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
 
 void ReplaceAll(std::string& text, const std::string& what, const std::string& by) {
     for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size())
@@ -35,12 +26,12 @@ std::string ExpressionOf(const std::string& message) {
 } // namespace
 
 std::string GuideSource(const fs::path& folder) {
-    std::istringstream lines(TextOf(folder / "ZelkUserGuide.adoc"));
+    std::istringstream lines(testbench::ReadFile(folder / "ZelkUserGuide.adoc"));
     const std::string include = "include::";
     std::string all;
     for (std::string line; std::getline(lines, line);) {
         if (line.starts_with(include))
-            all += TextOf(folder / line.substr(include.size(), line.find('[') - include.size()));
+            all += testbench::ReadFile(folder / line.substr(include.size(), line.find('[') - include.size()));
         all += line + '\n';
     }
     return all;

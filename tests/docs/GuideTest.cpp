@@ -1,6 +1,6 @@
 // The user guide against the program: what the program shows or knows must stand in the guide.
 #include "catalogue/RadioCatalogue.h"
-#include "editing/CommandQuestions.h"
+#include "commands/CommandQuestions.h"
 #include "files/FileKind.h"
 #include "frame/CommandTables.h"
 #include "simulator/Options.h"

@@ -1,8 +1,8 @@
 #include "tests/docs/Markdown.h"
 
+#include "robot/Files.h"
+
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
 namespace fs = std::filesystem;
@@ -52,8 +52,7 @@ void AddPagesIn(const fs::path& tree, const fs::path& folder, std::vector<Page>&
 } // namespace
 
 Page PageAt(const fs::path& tree, const fs::path& path) {
-    std::ifstream file(tree / path);
-    return {path, {std::istreambuf_iterator<char>(file), {}}};
+    return {path, testbench::ReadFile(tree / path)};
 }
 
 std::vector<Page> PagesOf(const fs::path& tree) {

@@ -1,9 +1,9 @@
 // The project's pages name files, folders, commands and tests: they must be there.
+#include "robot/Files.h"
 #include "tests/docs/Markdown.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <set>
 #include <sstream>
@@ -48,8 +48,7 @@ std::set<std::string> TestNames() {
     for (const auto& entry : fs::recursive_directory_iterator(Tree / "tests")) {
         if (entry.path().extension() != ".cpp")
             continue;
-        std::ifstream file(entry.path());
-        for (std::string line; std::getline(file, line);) {
+        for (const std::string& line : testbench::ReadLines(entry.path())) {
             const auto open = line.find('('), comma = line.find(", "), close = line.find(')');
             if (line.starts_with("TEST") && open < comma && comma < close && close != line.npos)
                 names.insert(line.substr(open + 1, comma - open - 1) + '.' +

@@ -1,11 +1,11 @@
 #include "tests/docs/SourceTexts.h"
 
+#include "robot/Files.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <fstream>
 #include <set>
-#include <sstream>
 #include <string_view>
 
 namespace fs = std::filesystem;
@@ -128,12 +128,6 @@ void TakeUntil(const std::vector<Token>& tokens, std::size_t at, bool call, std:
     }
 }
 
-std::string TextOf(const fs::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file, std::ios::binary).rdbuf();
-    return text.str();
-}
-
 template <class Take>
 std::vector<SourceText> OfProgram(const fs::path& folder, Take take) {
     std::vector<SourceText> texts;
@@ -145,7 +139,7 @@ std::vector<SourceText> OfProgram(const fs::path& folder, Take take) {
             const std::string extension = entry.path().extension();
             if (extension != ".cpp" && extension != ".h")
                 continue;
-            for (std::string& text : take(TextOf(entry.path())))
+            for (std::string& text : take(testbench::ReadFile(entry.path())))
                 texts.push_back({entry.path().filename(), std::move(text)});
         }
     }

@@ -20,7 +20,7 @@ protected:
     static void GoToPage(int page) {
         MainFrame->m_notebook->SetSelection(static_cast<size_t>(page));
         PumpUntilIdle();
-        ASSERT_EQ(page, CurrentPage);
+        ASSERT_EQ(CurrentPage, page);
     }
 
     /// The zone field of the row's record in the layout that has room for all zones.
@@ -34,7 +34,7 @@ protected:
         SetCell(row, MNUM, wxString::Format("%03d", row));
         SetCell(row, TFLG, "A0");
         CheckZone(CurrentGrid(), row, zone);
-        ASSERT_EQ(zone, Cell(row, ZONE));
+        ASSERT_EQ(Cell(row, ZONE), zone);
     }
 };
 
@@ -45,8 +45,8 @@ TEST_F(BothGenerations, ZoneXStaysZone32OfTheRecordBesideAFirstGenerationPage) {
     PutIntoZone(6, "A");
     AddPage(Kdrv716);
     GoToPage(0);
-    EXPECT_EQ("01F0", ZoneInRecord(5));
-    EXPECT_EQ("0100", ZoneInRecord(6));
+    EXPECT_EQ(ZoneInRecord(5), "01F0");
+    EXPECT_EQ(ZoneInRecord(6), "0100");
 }
 
 TEST_F(BothGenerations, AZoneOfTheSecondIsReadFromARecordBesideAFirstGenerationPage) {
@@ -56,8 +56,8 @@ TEST_F(BothGenerations, AZoneOfTheSecondIsReadFromARecordBesideAFirstGenerationP
     AddPage(Kdrv716);
     GoToPage(0);
     ClearRowData(5, true);
-    ASSERT_EQ(1, decodeTrecordV2(CurrentGrid(), line));
-    EXPECT_EQ("W", Cell(5, ZONE));
+    ASSERT_EQ(decodeTrecordV2(CurrentGrid(), line), 1);
+    EXPECT_EQ(Cell(5, ZONE), "W");
 }
 
 TEST_F(BothGenerations, ValidatingTheFirstPageLeavesRecordsOfTheSecondAlone) {
@@ -65,11 +65,11 @@ TEST_F(BothGenerations, ValidatingTheFirstPageLeavesRecordsOfTheSecondAlone) {
     AddPage(Kdrv716);
     CheckPage();
     GoToPage(0);
-    EXPECT_EQ("01F0", ZoneInRecord(5));
+    EXPECT_EQ(ZoneInRecord(5), "01F0");
     GoToPage(1);
     CheckPage();
-    EXPECT_EQ("16", Cell(232, ZONE));
-    EXPECT_EQ("00F0", ZoneInRecord(232));
+    EXPECT_EQ(Cell(232, ZONE), "16");
+    EXPECT_EQ(ZoneInRecord(232), "00F0");
 }
 
 TEST_F(BothGenerations, TheZoneCellTakesZonesOfTheSecondBesideAFirstGenerationPage) {
@@ -77,20 +77,20 @@ TEST_F(BothGenerations, TheZoneCellTakesZonesOfTheSecondBesideAFirstGenerationPa
     AddPage(Kdrv716);
     GoToPage(0);
     Choose(5, ZONE, "K");
-    EXPECT_EQ("K", Cell(5, ZONE));
-    EXPECT_EQ(1, ZoneSlotsOf(0)[22]);
-    EXPECT_EQ(0, ZoneSlotsOf(0)[1]);
+    EXPECT_EQ(Cell(5, ZONE), "K");
+    EXPECT_EQ(ZoneSlotsOf(0)[22], 1);
+    EXPECT_EQ(ZoneSlotsOf(0)[1], 0);
 }
 
 TEST_F(BothGenerations, GuardsOfANewPageAreInTheLastZoneOfTheirOwnWhateverPageWasMadeBefore) {
     AddPage(Kdrv716);
-    EXPECT_EQ((Texts{"16", "16"}), (Texts{Text(231, ZONE), Text(232, ZONE)}));
+    EXPECT_EQ((Texts{Text(231, ZONE), Text(232, ZONE)}), (Texts{"16", "16"}));
     AddPage(Kdrv716B);
-    EXPECT_EQ((Texts{"X", "X"}), (Texts{Text(501, ZONE), Text(502, ZONE)}));
-    EXPECT_EQ(2, ZoneSlotsOf(2)[31]);
+    EXPECT_EQ((Texts{Text(501, ZONE), Text(502, ZONE)}), (Texts{"X", "X"}));
+    EXPECT_EQ(ZoneSlotsOf(2)[31], 2);
     AddPage(Kdrv716);
-    EXPECT_EQ((Texts{"16", "16"}), (Texts{Text(231, ZONE), Text(232, ZONE)}));
-    EXPECT_EQ(2, ZoneSlotsOf(3)[15]);
+    EXPECT_EQ((Texts{Text(231, ZONE), Text(232, ZONE)}), (Texts{"16", "16"}));
+    EXPECT_EQ(ZoneSlotsOf(3)[15], 2);
 }
 
 TEST_F(BothGenerations, AClearedRowGivesItsZoneBackBesideAFirstGenerationPage) {
@@ -98,9 +98,9 @@ TEST_F(BothGenerations, AClearedRowGivesItsZoneBackBesideAFirstGenerationPage) {
     PutIntoZone(6, "K");
     AddPage(Kdrv716);
     GoToPage(0);
-    ASSERT_EQ(2, ZoneSlotsOf(0)[22]);
+    ASSERT_EQ(ZoneSlotsOf(0)[22], 2);
     ClearRowData(5, true);
-    EXPECT_EQ(1, ZoneSlotsOf(0)[22]);
+    EXPECT_EQ(ZoneSlotsOf(0)[22], 1);
 }
 
 TEST_F(BothGenerations, AFirstGenerationPageKnowsNoZoneXBesideASecond) {
@@ -109,7 +109,7 @@ TEST_F(BothGenerations, AFirstGenerationPageKnowsNoZoneXBesideASecond) {
     GoToPage(1);
     SetCell(7, TFLG, "A0");
     CheckZone(CurrentGrid(), 7, "X");
-    EXPECT_EQ("1", Cell(7, ZONE));
+    EXPECT_EQ(Cell(7, ZONE), "1");
     SetCell(7, ZONE, "X");
-    EXPECT_EQ("0000", ZoneInRecord(7));
+    EXPECT_EQ(ZoneInRecord(7), "0000");
 }

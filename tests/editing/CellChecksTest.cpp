@@ -21,18 +21,18 @@ TEST(ScanText, AddsTheBitOfEveryMark) {
                                                         {"     ", "31"},
                                                         {"lllll", "31"},
                                                         {"____567", "16"}})
-        EXPECT_EQ(line.mask, ScanTextToMask(line.text).utf8_string()) << '"' << line.text << '"';
+        EXPECT_EQ(ScanTextToMask(line.text).utf8_string(), line.mask) << '"' << line.text << '"';
 }
 
 TEST(ScanText, WithALockOutIsNoListAtAll) {
     for (const char* text : {"L", "L2345", "12L45", "1234L", "_L"})
-        EXPECT_EQ("0", ScanTextToMask(text)) << '"' << text << '"';
+        EXPECT_EQ(ScanTextToMask(text), "0") << '"' << text << '"';
 }
 
 TEST(ScanText, OfFourCharactersAddsNothingForTheFifth) {
-    EXPECT_EQ("15", ScanTextToMask("1234"));
-    EXPECT_EQ("0", ScanTextToMask("____"));
-    EXPECT_EQ("0", ScanTextToMask(""));
+    EXPECT_EQ(ScanTextToMask("1234"), "15");
+    EXPECT_EQ(ScanTextToMask("____"), "0");
+    EXPECT_EQ(ScanTextToMask(""), "0");
 }
 
 TEST(DescriptionCharacters, OfAllTypesAreLettersDigitsAndAFewSigns) {
@@ -40,23 +40,23 @@ TEST(DescriptionCharacters, OfAllTypesAreLettersDigitsAndAFewSigns) {
     for (int type : {0, 3, 4, 5, 6, 7})
         for (int code = 0; code < 400; ++code) {
             const bool expected = code > 0 && code < 128 && good.find(static_cast<char>(code)) != good.npos;
-            EXPECT_EQ(expected, IsDescChar(wxUniChar(code), type)) << "type " << type << ", code " << code;
+            EXPECT_EQ(IsDescChar(wxUniChar(code), type), expected) << "type " << type << ", code " << code;
         }
 }
 
 TEST(DescriptionCharacters, OfP25AreEveryCodeFromBlankToZ) {
     for (int type : {1, 2})
         for (int code = 0; code < 400; ++code)
-            EXPECT_EQ(code >= 32 && code <= 122, IsDescChar(wxUniChar(code), type))
+            EXPECT_EQ(IsDescChar(wxUniChar(code), type), code >= 32 && code <= 122)
                 << "type " << type << ", code " << code;
 }
 
 TEST(HexDigits, OfAShorterTextArePaddedWithZeros) {
-    EXPECT_EQ("00ab", HexDigitsText("ab", 4).value());
-    EXPECT_EQ("0001", HexDigitsText("1", 4).value());
-    EXPECT_EQ("0F3", HexDigitsText("F3", 3).value());
-    EXPECT_EQ("293", HexDigitsText("293", 3).value());
-    EXPECT_EQ("FFFF", HexDigitsText("FFFF", 4).value());
+    EXPECT_EQ(HexDigitsText("ab", 4).value(), "00ab");
+    EXPECT_EQ(HexDigitsText("1", 4).value(), "0001");
+    EXPECT_EQ(HexDigitsText("F3", 3).value(), "0F3");
+    EXPECT_EQ(HexDigitsText("293", 3).value(), "293");
+    EXPECT_EQ(HexDigitsText("FFFF", 4).value(), "FFFF");
 }
 
 TEST(HexDigits, AreNothingElse) {

@@ -142,9 +142,8 @@ TEST_F(CellPaint, GoesFromTheBandAndTheCellsThatItWrites) {
 TEST_F(CellPaint, GoesFromTheFrequenciesOfShadowsThatAPrimaryCarries) {
     Retarget(Kdrv716, 0);
     Fill({5, 6});
-    SetCell(5, MFLG, "10");
-    SetCell(5, SHD0, "006");
-    SetCell(6, MFLG, "01");
+    SetCells(5, {{MFLG, "10"}, {SHD0, "006"}});
+    SetCells(6, {{MFLG, "01"}});
     PaintAll(6);
     TypeIntoCell(*Grid(), 5, RFRQ, "155.0125");
     EXPECT_EQ(PlainOf(6), (std::set<std::string>{"RFRQ", "TFRQ"}));

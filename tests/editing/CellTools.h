@@ -91,7 +91,7 @@ protected:
         ASSERT_NE(wanted, wxNOT_FOUND) << text << " isn't offered";
         for (int at = combo->GetSelection(); at != wanted; at += at < wanted ? 1 : -1)
             testbench::PressKey(at < wanted ? "Down" : "Up");
-        ASSERT_EQ(text, combo->GetValue().utf8_string()) << row << ", " << col;
+        ASSERT_EQ(combo->GetValue().utf8_string(), text) << row << ", " << col;
         testbench::PressKey("Return");
         EXPECT_FALSE(Grid()->IsCellEditControlShown()) << row << ", " << col;
     }

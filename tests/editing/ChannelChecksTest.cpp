@@ -66,7 +66,7 @@ TEST_F(ChannelChecks, ScanOfAGuardRowIsTheDefaultUnpainted) {
         for (int guard : {GD1, GD2})
             for (const char* text : {"Y", "7", "1_3__", "", "junk"}) {
                 CheckScan(CurrentGrid(), guard, text);
-                EXPECT_EQ("dflt", Cell(guard, SCAN)) << "page " << page << ", " << text;
+                EXPECT_EQ(Cell(guard, SCAN), "dflt") << "page " << page << ", " << text;
                 EXPECT_FALSE(IsPainted(SCAN, guard)) << "page " << page << ", " << text;
             }
     }

@@ -21,7 +21,7 @@ TEST_F(CheckBandTest, EmptiesTheBandWithoutPaintOnPagesWithoutABandColumn) {
         Retarget(radio, slot);
         SetCell(3, BAND, "FM 30-50");
         Check(3, "FM 30-50");
-        EXPECT_EQ("", Cell(3, BAND)) << "radio " << radio;
+        EXPECT_EQ(Cell(3, BAND), "") << "radio " << radio;
         EXPECT_FALSE(IsPainted(3)) << "radio " << radio;
     }
 }
@@ -31,7 +31,7 @@ TEST_F(CheckBandTest, LeavesTheBandsOfTheFirstModuleAsTheyAre) {
     for (const char* text : {"FM 30-50", "AM 108-138", "AM 225-400"}) {
         SetCell(3, BAND, text);
         Check(3, text);
-        EXPECT_EQ(text, Cell(3, BAND).utf8_string());
+        EXPECT_EQ(Cell(3, BAND).utf8_string(), text);
         EXPECT_FALSE(IsPainted(3)) << text;
     }
 }
@@ -40,7 +40,7 @@ TEST_F(CheckBandTest, DoesNotWriteABandThatCanStand) {
     Retarget(Kdrv4xxx, ModuleSlot);
     SetCell(3, BAND, "before");
     Check(3, "AM 225-400");
-    EXPECT_EQ("before", Cell(3, BAND));
+    EXPECT_EQ(Cell(3, BAND), "before");
     EXPECT_FALSE(IsPainted(3));
 }
 
@@ -51,7 +51,7 @@ TEST_F(CheckBandTest, PutsTheDefaultRowsBandInPlaceOfAnyOther) {
                              "FM_403-512", "FM 7xx-8xx", "FM 896-960", "", "fm 30-50", "FM 30-50 "}) {
         SetCell(row, BAND, text);
         Check(row, text);
-        EXPECT_EQ("FM 30-50", Cell(row, BAND)) << '"' << text << '"';
+        EXPECT_EQ(Cell(row, BAND), "FM 30-50") << '"' << text << '"';
         EXPECT_TRUE(IsPainted(row)) << '"' << text << '"';
         ++row;
     }
@@ -61,7 +61,7 @@ TEST_F(CheckBandTest, RepairsByWhatTheDefaultRowHoldsNow) {
     Retarget(Kdrv4xxx, ModuleSlot);
     SetCell(0, BAND, "AM 225-400");
     Check(3, "nonsense");
-    EXPECT_EQ("AM 225-400", Cell(3, BAND));
+    EXPECT_EQ(Cell(3, BAND), "AM 225-400");
 }
 
 TEST_F(CheckBandTest, LeavesEveryKnownBandOnAPageOfTheSecondModule) {
@@ -71,13 +71,13 @@ TEST_F(CheckBandTest, LeavesEveryKnownBandOnAPageOfTheSecondModule) {
                              "AM 225-400", "FM 403-512", "K6 3-BAND"}) {
         SetCell(3, BAND, text);
         Check(3, text);
-        EXPECT_EQ(text, Cell(3, BAND).utf8_string());
+        EXPECT_EQ(Cell(3, BAND).utf8_string(), text);
         EXPECT_FALSE(IsPainted(3)) << text;
     }
     for (const char* text : {"FM_403-512", "FM 7xx-8xx", "FM 896-960", ""}) {
         SetCell(4, BAND, text);
         Check(4, text);
-        EXPECT_EQ("FM 30-50", Cell(4, BAND)) << '"' << text << '"';
+        EXPECT_EQ(Cell(4, BAND), "FM 30-50") << '"' << text << '"';
         EXPECT_TRUE(IsPainted(4)) << '"' << text << '"';
     }
 }
@@ -87,7 +87,7 @@ TEST_F(CheckBandTest, LeavesTheDefaultRowItsFormerBandPaintedWhenAnotherCanNotSt
     for (const char* text : {"FM 99-100", "fm 30-50", "FM 138-174", ""}) {
         SetCell(0, BAND, "AM 225-400");
         Check(0, text);
-        EXPECT_EQ("AM 225-400", Cell(0, BAND)) << '"' << text << '"';
+        EXPECT_EQ(Cell(0, BAND), "AM 225-400") << '"' << text << '"';
         EXPECT_TRUE(IsPainted(0)) << '"' << text << '"';
         CurrentGrid()->SetCellBackgroundColour(0, BAND, *wxWHITE);
     }
@@ -95,10 +95,10 @@ TEST_F(CheckBandTest, LeavesTheDefaultRowItsFormerBandPaintedWhenAnotherCanNotSt
 
 TEST_F(CheckBandTest, AnswersWhetherTheBandCanStand) {
     wxGrid* grid = CurrentGrid();
-    EXPECT_EQ(CheckNotApplicable, CheckBand(grid, 3, "FM 30-50"));
+    EXPECT_EQ(CheckBand(grid, 3, "FM 30-50"), CheckNotApplicable);
     Retarget(Kdrv4xxx, ModuleSlot);
     for (int row : {0, 3}) {
-        EXPECT_EQ(CheckGood, CheckBand(grid, row, "AM 225-400"));
-        EXPECT_EQ(CheckBadValue, CheckBand(grid, row, "am 225-400"));
+        EXPECT_EQ(CheckBand(grid, row, "AM 225-400"), CheckGood);
+        EXPECT_EQ(CheckBand(grid, row, "am 225-400"), CheckBadValue);
     }
 }

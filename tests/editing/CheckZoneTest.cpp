@@ -35,9 +35,9 @@ TEST_F(CheckZoneTest, EmptiesTheZoneOnPagesThatAreNotP25) {
         SetCell(1, ZONE, "5");
         SetCell(1, TFLG, "A0");
         Check(1, "5");
-        EXPECT_EQ("", Cell(1, ZONE)) << "radio " << radio;
-        EXPECT_EQ("A0", Cell(1, TFLG)) << "radio " << radio;
-        EXPECT_EQ(0, TakenInAll()) << "radio " << radio;
+        EXPECT_EQ(Cell(1, ZONE), "") << "radio " << radio;
+        EXPECT_EQ(Cell(1, TFLG), "A0") << "radio " << radio;
+        EXPECT_EQ(TakenInAll(), 0) << "radio " << radio;
     }
 }
 
@@ -45,20 +45,20 @@ TEST_F(CheckZoneTest, GivesARowTheZoneThatItNames) {
     AddP25Page(7);
     SetCell(2, TFLG, "A0");
     Check(2, "K");
-    EXPECT_EQ("K", Cell(2, ZONE));
-    EXPECT_EQ("A8", Cell(2, TFLG));
-    EXPECT_EQ(1, Taken(22));
-    EXPECT_EQ(1, TakenInAll());
+    EXPECT_EQ(Cell(2, ZONE), "K");
+    EXPECT_EQ(Cell(2, TFLG), "A8");
+    EXPECT_EQ(Taken(22), 1);
+    EXPECT_EQ(TakenInAll(), 1);
 }
 
 TEST_F(CheckZoneTest, KeepsTheOtherTransferFlags) {
     AddP25Page(7);
     SetCell(2, TFLG, "C5");
     Check(2, "1");
-    EXPECT_EQ("CD", Cell(2, TFLG));
+    EXPECT_EQ(Cell(2, TFLG), "CD");
     SetCell(3, TFLG, "");
     Check(3, "1");
-    EXPECT_EQ("08", Cell(3, TFLG));
+    EXPECT_EQ(Cell(3, TFLG), "08");
 }
 
 TEST_F(CheckZoneTest, TakesOneSlotHoweverOftenItRuns) {
@@ -67,9 +67,9 @@ TEST_F(CheckZoneTest, TakesOneSlotHoweverOftenItRuns) {
     Check(2, "3");
     Check(2, "3");
     Check(2, "4");
-    EXPECT_EQ("3", Cell(2, ZONE));
-    EXPECT_EQ(1, Taken(2));
-    EXPECT_EQ(1, TakenInAll());
+    EXPECT_EQ(Cell(2, ZONE), "3");
+    EXPECT_EQ(Taken(2), 1);
+    EXPECT_EQ(TakenInAll(), 1);
 }
 
 TEST_F(CheckZoneTest, WritesNothingInARowThatHoldsItsSlot) {
@@ -77,9 +77,9 @@ TEST_F(CheckZoneTest, WritesNothingInARowThatHoldsItsSlot) {
     SetCell(2, TFLG, "A8");
     SetCell(2, ZONE, "anything");
     Check(2, "3");
-    EXPECT_EQ("anything", Cell(2, ZONE));
-    EXPECT_EQ("A8", Cell(2, TFLG));
-    EXPECT_EQ(0, TakenInAll());
+    EXPECT_EQ(Cell(2, ZONE), "anything");
+    EXPECT_EQ(Cell(2, TFLG), "A8");
+    EXPECT_EQ(TakenInAll(), 0);
 }
 
 TEST_F(CheckZoneTest, FallsToTheFirstFreeZoneForATextThatIsNoZone) {
@@ -89,17 +89,17 @@ TEST_F(CheckZoneTest, FallsToTheFirstFreeZoneForATextThatIsNoZone) {
     for (const char* text : {"", "17", "B", "x", "None"}) {
         SetCell(2, TFLG, "A0");
         Check(2, text);
-        EXPECT_EQ("3", Cell(2, ZONE)) << '"' << text << '"';
+        EXPECT_EQ(Cell(2, ZONE), "3") << '"' << text << '"';
     }
-    EXPECT_EQ(5, Taken(2));
+    EXPECT_EQ(Taken(2), 5);
 }
 
 TEST_F(CheckZoneTest, FallsToTheFirstFreeZoneForZoneXOnAFirstGenerationPage) {
     AddP25Page(6);
     SetCell(2, TFLG, "A0");
     Check(2, "X");
-    EXPECT_EQ("1", Cell(2, ZONE));
-    EXPECT_EQ(1, Taken(0));
+    EXPECT_EQ(Cell(2, ZONE), "1");
+    EXPECT_EQ(Taken(0), 1);
 }
 
 TEST_F(CheckZoneTest, FallsToTheFirstFreeZoneForAZoneBelowIt) {
@@ -108,8 +108,8 @@ TEST_F(CheckZoneTest, FallsToTheFirstFreeZoneForAZoneBelowIt) {
         FillZone(zone);
     SetCell(2, TFLG, "A0");
     Check(2, "2");
-    EXPECT_EQ("5", Cell(2, ZONE));
-    EXPECT_EQ(1, Taken(4));
+    EXPECT_EQ(Cell(2, ZONE), "5");
+    EXPECT_EQ(Taken(4), 1);
 }
 
 TEST_F(CheckZoneTest, KeepsTheTextAndSetsTheFlagWhenTheNamedZoneIsFull) {
@@ -117,10 +117,10 @@ TEST_F(CheckZoneTest, KeepsTheTextAndSetsTheFlagWhenTheNamedZoneIsFull) {
     FillZone(9);
     SetCell(2, TFLG, "A0");
     Check(2, "10");
-    EXPECT_EQ("10", Cell(2, ZONE));
-    EXPECT_EQ("A8", Cell(2, TFLG));
-    EXPECT_EQ(16, Taken(9));
-    EXPECT_EQ(16, TakenInAll()) << "no other zone was taken in its place";
+    EXPECT_EQ(Cell(2, ZONE), "10");
+    EXPECT_EQ(Cell(2, TFLG), "A8");
+    EXPECT_EQ(Taken(9), 16);
+    EXPECT_EQ(TakenInAll(), 16) << "no other zone was taken in its place";
 }
 
 TEST_F(CheckZoneTest, KeepsTheTextAndSetsTheFlagWhenEveryZoneIsFull) {
@@ -129,10 +129,10 @@ TEST_F(CheckZoneTest, KeepsTheTextAndSetsTheFlagWhenEveryZoneIsFull) {
     for (const char* text : {"2", "nowhere", ""}) {
         SetCell(2, TFLG, "A0");
         Check(2, text);
-        EXPECT_EQ(text, Cell(2, ZONE).utf8_string());
-        EXPECT_EQ("A8", Cell(2, TFLG));
+        EXPECT_EQ(Cell(2, ZONE).utf8_string(), text);
+        EXPECT_EQ(Cell(2, TFLG), "A8");
     }
-    EXPECT_EQ(16, Taken(1));
+    EXPECT_EQ(Taken(1), 16);
 }
 
 TEST_F(CheckZoneTest, NamesTheFirstZoneOfTheNextPageNoneWhenAll32AreFull) {
@@ -141,8 +141,8 @@ TEST_F(CheckZoneTest, NamesTheFirstZoneOfTheNextPageNoneWhenAll32AreFull) {
         FillZone(zone);
     SetCell(2, TFLG, "A0");
     Check(2, "");
-    EXPECT_EQ("None", Cell(2, ZONE));
-    EXPECT_EQ(1, Taken(32));
+    EXPECT_EQ(Cell(2, ZONE), "None");
+    EXPECT_EQ(Taken(32), 1);
 }
 
 TEST_F(CheckZoneTest, EmptiesTheZoneOfAShadowAndTakesNoSlot) {
@@ -152,10 +152,10 @@ TEST_F(CheckZoneTest, EmptiesTheZoneOfAShadowAndTakesNoSlot) {
         SetCell(2, MFLG, flags);
         SetCell(2, ZONE, "3");
         Check(2, "3");
-        EXPECT_EQ("", Cell(2, ZONE)) << flags;
-        EXPECT_EQ("A8", Cell(2, TFLG)) << flags;
+        EXPECT_EQ(Cell(2, ZONE), "") << flags;
+        EXPECT_EQ(Cell(2, TFLG), "A8") << flags;
     }
-    EXPECT_EQ(0, TakenInAll());
+    EXPECT_EQ(TakenInAll(), 0);
 }
 
 TEST_F(CheckZoneTest, GivesAPrimaryItsSlot) {
@@ -163,17 +163,17 @@ TEST_F(CheckZoneTest, GivesAPrimaryItsSlot) {
     SetCell(2, TFLG, "A0");
     SetCell(2, MFLG, "10");
     Check(2, "3");
-    EXPECT_EQ("3", Cell(2, ZONE));
-    EXPECT_EQ(1, Taken(2));
+    EXPECT_EQ(Cell(2, ZONE), "3");
+    EXPECT_EQ(Taken(2), 1);
 }
 
 TEST_F(CheckZoneTest, WritesTheTextOfTheDefaultRowBackUnchanged) {
     AddP25Page(6);
     SetCell(0, ZONE, "other");
     Check(0, "W");
-    EXPECT_EQ("W", Cell(0, ZONE));
-    EXPECT_EQ("A0", Cell(0, TFLG));
-    EXPECT_EQ(0, TakenInAll());
+    EXPECT_EQ(Cell(0, ZONE), "W");
+    EXPECT_EQ(Cell(0, TFLG), "A0");
+    EXPECT_EQ(TakenInAll(), 0);
 }
 
 TEST_F(CheckZoneTest, PutsRowsAbove230OfTheFirstGenerationIntoZone16) {
@@ -185,9 +185,9 @@ TEST_F(CheckZoneTest, PutsRowsAbove230OfTheFirstGenerationIntoZone16) {
     for (const Line& line : std::initializer_list<Line>{{229, "2"}, {230, "2"}, {231, "16"}, {232, "16"}}) {
         SetCell(line.row, TFLG, "A0");
         Check(line.row, "2");
-        EXPECT_EQ(line.zone, Cell(line.row, ZONE).utf8_string()) << "row " << line.row;
+        EXPECT_EQ(Cell(line.row, ZONE).utf8_string(), line.zone) << "row " << line.row;
     }
-    EXPECT_EQ(2, Taken(15));
+    EXPECT_EQ(Taken(15), 2);
 }
 
 TEST_F(CheckZoneTest, PutsRowsAbove500OfTheSecondGenerationIntoZoneX) {
@@ -199,9 +199,9 @@ TEST_F(CheckZoneTest, PutsRowsAbove500OfTheSecondGenerationIntoZoneX) {
     for (const Line& line : std::initializer_list<Line>{{231, "2"}, {500, "2"}, {501, "X"}, {502, "X"}}) {
         SetCell(line.row, TFLG, "A0");
         Check(line.row, "2");
-        EXPECT_EQ(line.zone, Cell(line.row, ZONE).utf8_string()) << "row " << line.row;
+        EXPECT_EQ(Cell(line.row, ZONE).utf8_string(), line.zone) << "row " << line.row;
     }
-    EXPECT_EQ(2, Taken(31));
+    EXPECT_EQ(Taken(31), 2);
 }
 
 TEST_F(CheckZoneTest, CountsOnTheCurrentPage) {
@@ -209,6 +209,6 @@ TEST_F(CheckZoneTest, CountsOnTheCurrentPage) {
     AddP25Page(6);
     SetCell(2, TFLG, "A0");
     Check(2, "7");
-    EXPECT_EQ(1, SlotsTaken(2, 6));
-    EXPECT_EQ(0, SlotsTaken(1, 6));
+    EXPECT_EQ(SlotsTaken(2, 6), 1);
+    EXPECT_EQ(SlotsTaken(1, 6), 0);
 }

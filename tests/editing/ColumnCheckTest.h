@@ -40,7 +40,7 @@ protected:
         Retarget(targets[page][0], targets[page][1]);
         if (page == Fxam) // no radio has it, files may
             CurrentParameters().Type = RadioCatalogue::FXAM;
-        ASSERT_EQ(page, CurrentParameters().Type);
+        ASSERT_EQ(CurrentParameters().Type, page);
     }
 
     static void Check(int column, const wxString& text, const wxString& squelch) {
@@ -130,8 +130,8 @@ protected:
         const std::string what = std::string("page ") +
                                  RadioCatalogue::RadioTypeName[CurrentParameters().Type] + ", " +
                                  ColumnTag[column] + " \"" + c.text + "\"";
-        EXPECT_EQ(c.expected, Cell(row, column).utf8_string()) << what;
-        EXPECT_EQ(c.painted, IsPainted(column)) << what;
+        EXPECT_EQ(Cell(row, column).utf8_string(), c.expected) << what;
+        EXPECT_EQ(IsPainted(column), c.painted) << what;
     }
 
     static void ExpectAll(const Pages& pages, const std::vector<Case>& cases) {

@@ -46,7 +46,7 @@ TEST_F(DefaultColumn, WritesTheDefaultIntoRowsWithDataOnly) {
     SetCell(0, DESC, "NEW");
     RunOnColumn(DefaultCol, DESC);
     EXPECT_EQ(Column(DESC, {1, 2, 3, 4, 122}), (Texts{"", "NEW", "NEW", "", "NEW"}));
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{2, 3, 122}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{2, 3, 122}));
     EXPECT_FALSE(CurrentGrid()->IsInSelection(1, DESC));
 }
 
@@ -105,15 +105,14 @@ TEST_F(DefaultColumn, OfTheModuleSwitchesToneAndCodeOffToo) {
 TEST_F(DefaultColumn, OfTheModulesBandEmptiesTheFrequenciesOfRowsThatWereOnAnother) {
     Retarget(Kdrv4xxx, ModuleSlot);
     Fill({2, 3, 4});
-    SetCell(3, BAND, "AM 225-400");
-    SetCell(3, RFRQ, "230.0000");
-    SetCell(0, BAND, "FM 30-50");
+    SetCells(3, {{BAND, "AM 225-400"}, {RFRQ, "230.0000"}});
+    SetCells(0, {{BAND, "FM 30-50"}});
     SetPageEditors(CurrentPage);
     ASSERT_TRUE(IsReadOnly(3, MODE));
     SetCell(3, RTON, "67.0");
-    const Texts same = Row(2);
+    const Texts same = RowTexts(2);
     RunOnColumn(DefaultCol, BAND);
-    EXPECT_EQ(Row(2), same) << "the band stays";
+    EXPECT_EQ(RowTexts(2), same) << "the band stays";
     EXPECT_EQ(Column(BAND, {1, 2, 3, 4}), (Texts{"", "FM 30-50", "FM 30-50", "FM 30-50"}));
     EXPECT_EQ(Column(RFRQ, {2, 3}), (Texts{"31.0000", ""}));
     EXPECT_EQ(Column(TFRQ, {2, 3}), (Texts{"31.0000", ""}));
@@ -195,7 +194,7 @@ TEST_F(DefaultColumn, OfTheZoneMakesScanOfARowThatWasInXWritable) {
     SetPageEditors(0);
     ASSERT_TRUE(IsReadOnly(10, SCAN));
     RunOnColumn(DefaultCol, ZONE);
-    EXPECT_EQ("1", Cell(10, ZONE));
+    EXPECT_EQ(Cell(10, ZONE), "1");
     EXPECT_FALSE(IsReadOnly(10, SCAN));
     for (int row : {11, 12, 501, 502})
         EXPECT_TRUE(IsReadOnly(row, SCAN)) << row;
@@ -236,15 +235,15 @@ TEST_F(DefaultMarkedRows, AreThoseWhoseNumberIsPainted) {
 TEST_F(DefaultMarkedRows, WithoutAMarkChangeNothingButTheZoneCounters) {
     Retarget(Kdrv716, 0);
     Fill({2, 3});
-    const Texts second = Row(2), guard = Row(231);
+    const Texts second = RowTexts(2), guard = RowTexts(231);
     SetCell(0, DESC, "NEW");
     const auto slots = ZoneSlots;
     RunOnColumn(DefaultMarked, DESC);
     EXPECT_EQ(ZoneSlots, slots);
-    EXPECT_EQ(Row(2), second);
+    EXPECT_EQ(RowTexts(2), second);
     RunOnColumn(DefaultMarked, ZONE);
-    EXPECT_EQ(Row(2), second);
-    EXPECT_EQ(Row(231), guard);
+    EXPECT_EQ(RowTexts(2), second);
+    EXPECT_EQ(RowTexts(231), guard);
     for (int zone = 0; zone < 33; ++zone)
         EXPECT_EQ(SlotsTaken(zone), 0) << zone;
 }
@@ -306,7 +305,7 @@ TEST_F(Renumbering, InSequenceCountsRowsWithDataOnly) {
     RunOnColumn(InSequence, MNUM);
     EXPECT_EQ(Column(MNUM, {1, 5, 9}), (Texts{"1", "2", "3"}));
     EXPECT_EQ((Texts{Shown(1), Shown(5), Shown(9)}), (Texts{"001", "002", "003"}));
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 5, 9}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 5, 9}));
     EXPECT_FALSE(CurrentGrid()->IsInSelection(1, MNUM));
 }
 
@@ -317,7 +316,7 @@ TEST_F(Renumbering, ToRowNumbersGivesEveryRowItsOwn) {
     RunOnColumn(ToRowNum, MNUM);
     EXPECT_EQ(Column(MNUM, {1, 5, 9, 122}), (Texts{"1", "5", "9", "122"}));
     EXPECT_EQ(Column(PRIM, {1, 5}), (Texts{"", ""}));
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 5, 9, 122}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 5, 9, 122}));
     EXPECT_FALSE(CurrentGrid()->IsInSelection(1, MNUM));
 }
 
@@ -350,12 +349,12 @@ TEST_F(Renumbering, FromTheMenuOfTheNumberColumn) {
 TEST_F(DefaultFileCommand, FillsEveryRowFromTheDefaultRow) {
     Fill({3, 4});
     SetCell(0, RFRQ, "70.0000");
-    const Texts defaults = Row(0);
+    const Texts defaults = RowTexts(0);
     CurrentParameters().Flags = 0x1A;
     CurrentGrid()->SelectAll();
     Run(DefaultFile);
-    EXPECT_EQ(Row(0), defaults);
-    EXPECT_EQ(testbench::RowsWithData().size(), 122u);
+    EXPECT_EQ(RowTexts(0), defaults);
+    EXPECT_EQ(FilledRows().size(), 122u);
     EXPECT_EQ(Column(DESC, {1, 3, 122}), (Texts{"LOW   001", "LOW   003", "LOW   122"}));
     EXPECT_EQ(Column(RFRQ, {1, 122}), (Texts{"70.0000", "70.0000"}));
     EXPECT_EQ(CurrentParameters().Flags, 0);
@@ -367,14 +366,14 @@ TEST_F(DefaultFileCommand, FillsOnlySelectedRowsAndTheContextRow) {
     SelectRows({7});
     ContextRow = 9;
     Run(DefaultFile);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{7, 9}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{7, 9}));
 }
 
 TEST_F(DefaultFileCommand, WithAContextRowOfALongerPageFillsTheSelection) {
     SelectRows({7});
     ContextRow = 400;
     Run(DefaultFile);
-    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{7});
+    EXPECT_EQ(FilledRows(), std::vector<int>{7});
 }
 
 TEST_F(DefaultFileCommand, DealsTheZonesOfAP25PageAfresh) {
@@ -431,12 +430,12 @@ TEST_F(DefaultFileCommand, FromTheMenuOfTheCornerReachesTheWholePage) {
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, DefaultFile);
     ClickCommand([] { return testbench::CornerSpot(*CurrentGrid()); }, DefaultFile);
-    EXPECT_EQ(testbench::RowsWithData().size(), 122u);
+    EXPECT_EQ(FilledRows().size(), 122u);
 }
 
 TEST_F(DefaultsCommands, TellThatTheyAreMissing) {
     testbench::ShowAndFocus(*MainFrame);
-    const Texts before = Row(0);
+    const Texts before = RowTexts(0);
     testbench::DialogScript dialogs;
     dialogs.ExpectMessage("Save Radio Default Data?", " ! Currently UnImplemented !")
         .Style(testbench::plainBox);
@@ -444,8 +443,8 @@ TEST_F(DefaultsCommands, TellThatTheyAreMissing) {
         .Style(testbench::plainBox);
     ClickRowCommand(0, SaveDefault);
     ClickRowCommand(0, LoadDefault);
-    EXPECT_EQ(Row(0), before);
-    EXPECT_TRUE(testbench::RowsWithData().empty());
+    EXPECT_EQ(RowTexts(0), before);
+    EXPECT_TRUE(FilledRows().empty());
 }
 
 TEST_F(ClearHighlight, TakesPaintOfShownColumnsAwayMarksIncluded) {
@@ -516,14 +515,9 @@ TEST_F(DefaultMarkedRows, ForReceiveOnlySetThatColumn) {
 TEST_F(DefaultColumn, OfTheModeBringsP25RowsTheSquelchesOfTheNewMode) {
     Retarget(Kdrv716, 0);
     Fill({2, 3, 4});
-    SetCell(2, MODE, "D");
-    SetCell(2, RSQL, "m");
-    SetCell(2, TSQL, "g");
-    SetCell(3, MODE, "w");
-    SetCell(3, RSQL, "t");
-    SetCell(3, TSQL, "t");
-    SetCell(4, RSQL, "c");
-    SetCell(4, TSQL, "c");
+    SetCells(2, {{MODE, "D"}, {RSQL, "m"}, {TSQL, "g"}});
+    SetCells(3, {{MODE, "w"}, {RSQL, "t"}, {TSQL, "t"}});
+    SetCells(4, {{RSQL, "c"}, {TSQL, "c"}});
     RunOnColumn(DefaultCol, MODE);
     EXPECT_EQ(Column(MODE, {2, 3, 4}), (Texts{"n", "n", "n"}));
     EXPECT_EQ(Column(RSQL, {2, 3, 4}), (Texts{"x", "x", "c"}))

@@ -100,7 +100,6 @@ protected:
             CurrentGrid()->SelectRow(row, true);
     }
 
-    static Texts Row(int row) { return testbench::RowTexts(row); }
     static const Texts& Blank() {
         static const Texts blank(32);
         return blank;

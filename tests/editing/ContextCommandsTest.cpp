@@ -73,14 +73,14 @@ protected:
     static Cells AllCells() {
         Cells cells;
         for (int row = 0; row <= GetParam().rows; ++row)
-            cells.push_back(Row(row));
+            cells.push_back(RowTexts(row));
         return cells;
     }
 
     /// What a row is after it has been set to its defaults.
     static Texts DefaultsOf(int row) {
         const Page& page = GetParam();
-        Texts texts = Row(0);
+        Texts texts = RowTexts(0);
         texts[MNUM] = ThreeDigits(row);
         texts[DESC] = page.base + ThreeDigits(row);
         if (page.p25) {
@@ -93,7 +93,7 @@ protected:
 
     static void ExpectCells(const Cells& expected) {
         for (size_t row = 0; row < expected.size(); ++row)
-            EXPECT_EQ(Row(static_cast<int>(row)), expected[row]) << "row " << row;
+            EXPECT_EQ(RowTexts(static_cast<int>(row)), expected[row]) << "row " << row;
     }
 
     /// Rows of which all cells are painted as marked ones are; others have no paint at all.
@@ -440,7 +440,7 @@ TEST_P(ContextCommands, DefaultFileFillsTheWholePage) {
     SelectRows({3});
     Run(MarkRow);
     SetCell(0, RFRQ, "71.0000");
-    Cells expected{Row(0)};
+    Cells expected{RowTexts(0)};
     for (int row = 1; row <= page.rows; ++row) {
         expected.push_back(DefaultsOf(row));
         // Sixteen rows go into a zone; the last zone is the guard rows'.

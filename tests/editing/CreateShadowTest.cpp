@@ -68,6 +68,17 @@ protected:
         return offered;
     }
 
+    /// Enters each of the numbers for a shadow of row 10, and expects that it is in use.
+    static void TryNumbersInUse(std::initializer_list<const char*> numbers) {
+        for (const char* number : numbers) {
+            SCOPED_TRACE(number);
+            testbench::DialogScript dialogs;
+            ExpectEntry(dialogs, 10, 1, number);
+            ExpectRefusal(dialogs, "Selected memory is already in use.");
+            RunOn(10);
+        }
+    }
+
     static void ExpectRefusal(testbench::DialogScript& dialogs, const char* message) {
         dialogs.ExpectMessage(Caption, message).Style(testbench::plainBox);
     }
@@ -142,11 +153,11 @@ TEST_F(CreateShadowCommand, LeavesAShadowTheTransmitSquelchesOfShadows) {
 
 TEST_F(CreateShadowCommand, RefusesARowWithAnEmptyShownCell) {
     SetCell(10, DESC, "");
-    const Texts before = Row(10);
+    const Texts before = RowTexts(10);
     testbench::DialogScript dialogs;
     ExpectRefusal(dialogs, "Cannot Create Shadow!\nMemory record is empty or incomplete.");
     RunOn(10);
-    EXPECT_EQ(Row(10), before);
+    EXPECT_EQ(RowTexts(10), before);
 }
 
 TEST_F(CreateShadowCommand, RefusesAPrimaryWithSevenShadowsWithoutADialog) {
@@ -154,11 +165,11 @@ TEST_F(CreateShadowCommand, RefusesAPrimaryWithSevenShadowsWithoutADialog) {
         Create(10, slot, 20 + slot);
     EXPECT_EQ(Cell(10, SHAD), "P-7");
     EXPECT_EQ(Cell(26, MFLG), "07");
-    const Texts before = Row(10);
+    const Texts before = RowTexts(10);
     testbench::DialogScript dialogs;
     ExpectRefusal(dialogs, "Cannot Create Shadow!\nShadow List is full for selected primary.");
     RunOn(10);
-    EXPECT_EQ(Row(10), before);
+    EXPECT_EQ(RowTexts(10), before);
 }
 
 TEST_F(CreateShadowCommand, AfterTheSecondShadowHasGoneTakesItsSlot) {
@@ -180,16 +191,10 @@ TEST_F(CreateShadowCommand, TakesASlotOf000ForFree) {
 TEST_F(CreateShadowCommand, RefusesANumberInUse) {
     Complete(30);
     SetCell(0, MNUM, "044");
-    const Texts before = Row(10), used = Row(30);
-    for (const char* number : {"30", "030", "10", "1", "231", "232", "44"}) {
-        SCOPED_TRACE(number);
-        testbench::DialogScript dialogs;
-        ExpectEntry(dialogs, 10, 1, number);
-        ExpectRefusal(dialogs, "Selected memory is already in use.");
-        RunOn(10);
-    }
-    EXPECT_EQ(Row(10), before);
-    EXPECT_EQ(Row(30), used);
+    const Texts before = RowTexts(10), used = RowTexts(30);
+    TryNumbersInUse({"30", "030", "10", "1", "231", "232", "44"});
+    EXPECT_EQ(RowTexts(10), before);
+    EXPECT_EQ(RowTexts(30), used);
 }
 
 // A departure: texts that differ in their zeros would let a memory be overwritten in silence.
@@ -198,18 +203,12 @@ TEST_F(CreateShadowCommand, ComparesNumbersAndNotTheirTextsSoThatNoMemoryIsOverw
     Complete(31);
     SetCell(30, MNUM, "13");
     SetCell(31, MNUM, "0014");
-    const Texts first = Row(30), second = Row(31);
-    for (const char* number : {"13", "013", "14"}) {
-        SCOPED_TRACE(number);
-        testbench::DialogScript dialogs;
-        ExpectEntry(dialogs, 10, 1, number);
-        ExpectRefusal(dialogs, "Selected memory is already in use.");
-        RunOn(10);
-    }
-    EXPECT_EQ(Row(30), first);
-    EXPECT_EQ(Row(31), second);
-    EXPECT_EQ(Row(13), Blank());
-    EXPECT_EQ(Row(14), Blank());
+    const Texts first = RowTexts(30), second = RowTexts(31);
+    TryNumbersInUse({"13", "013", "14"});
+    EXPECT_EQ(RowTexts(30), first);
+    EXPECT_EQ(RowTexts(31), second);
+    EXPECT_EQ(RowTexts(13), Blank());
+    EXPECT_EQ(RowTexts(14), Blank());
 }
 
 // A departure: the shadow stands in the row of its number, whatever number that row has now.
@@ -223,7 +222,7 @@ TEST_F(CreateShadowCommand, RefusesARowWithDataWhateverItsNumberSoThatNoMemoryIs
         if (col == MNUM)
             Complete(30);
         SetCell(30, col, text);
-        const Texts before = Row(10), used = Row(30);
+        const Texts before = RowTexts(10), used = RowTexts(30);
         testbench::DialogScript dialogs;
         dialogs.Expect(testbench::DialogKind::Other, TitleFor(10, 1)).Do([](wxDialog* dialog) {
             testbench::TypeText("30");
@@ -231,13 +230,13 @@ TEST_F(CreateShadowCommand, RefusesARowWithDataWhateverItsNumberSoThatNoMemoryIs
         });
         ExpectRefusal(dialogs, "Selected memory is already in use.");
         ClickRowCommand(10, CreateShadow);
-        EXPECT_EQ(Row(10), before);
-        EXPECT_EQ(Row(30), used);
+        EXPECT_EQ(RowTexts(10), before);
+        EXPECT_EQ(RowTexts(30), used);
     }
 }
 
 TEST_F(CreateShadowCommand, RefusesANumberOutsideThePage) {
-    const Texts before = Row(10);
+    const Texts before = RowTexts(10);
     for (const char* number : {"0", "233", "99999999999", "abc", "1a", "-5", " 5"}) {
         SCOPED_TRACE(number);
         testbench::DialogScript dialogs;
@@ -245,8 +244,8 @@ TEST_F(CreateShadowCommand, RefusesANumberOutsideThePage) {
         ExpectRefusal(dialogs, "Cannot Create Shadow!\nMemory number must be from 1 to 232.");
         RunOn(10);
     }
-    EXPECT_EQ(Row(10), before);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 10, 231, 232}));
+    EXPECT_EQ(RowTexts(10), before);
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 10, 231, 232}));
 }
 
 TEST_F(CreateShadowCommand, RefusesARowWhoseOwnNumberIsOutsideThePage) {
@@ -257,16 +256,16 @@ TEST_F(CreateShadowCommand, RefusesARowWhoseOwnNumberIsOutsideThePage) {
         ExpectRefusal(dialogs, "Cannot Create Shadow!\nMemory number must be from 1 to 232.");
         RunOn(10);
     }
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 10, 231, 232}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 10, 231, 232}));
 }
 
 TEST_F(CreateShadowCommand, WhenCancelledChangesNothing) {
-    const Texts before = Row(10);
+    const Texts before = RowTexts(10);
     testbench::DialogScript dialogs;
     ExpectEntry(dialogs, 10, 1, "17", wxID_CANCEL);
     RunOn(10);
-    EXPECT_EQ(Row(10), before);
-    EXPECT_EQ(Row(17), Blank());
+    EXPECT_EQ(RowTexts(10), before);
+    EXPECT_EQ(RowTexts(17), Blank());
     EXPECT_FALSE(CurrentGrid()->IsInSelection(10, 0));
 }
 
@@ -296,12 +295,12 @@ TEST_F(CreateShadowCommand, FromTheMenuMakesSevenShadowsAndRefusesTheEighth) {
         EXPECT_EQ(Cell(20 + slot, SHAD), "S-010");
         EXPECT_EQ(Cell(20 + slot, MFLG), wxString::Format("%02X", slot + 1));
     }
-    const Texts before = Row(10);
+    const Texts before = RowTexts(10);
     testbench::DialogScript dialogs;
     ExpectRefusal(dialogs, "Cannot Create Shadow!\nShadow List is full for selected primary.");
     ClickRowCommand(10, CreateShadow);
-    EXPECT_EQ(Row(10), before);
-    EXPECT_EQ(Row(27), Blank());
+    EXPECT_EQ(RowTexts(10), before);
+    EXPECT_EQ(RowTexts(27), Blank());
 }
 
 TEST_F(CreateShadowCommand, LetsAFrequencyEditOfThePrimaryReachItsShadows) {

@@ -30,7 +30,7 @@ TEST_F(DescriptionCell, TakesTheCharactersOfItsMode) {
         for (int code = 0; code < 1000; ++code) {
             const bool expected =
                 code > 0 && code < 128 && byMode[mode].find(static_cast<char>(code)) != std::string::npos;
-            EXPECT_EQ(expected, validator.IsValidChar(code)) << "mode " << mode << " code " << code;
+            EXPECT_EQ(validator.IsValidChar(code), expected) << "mode " << mode << " code " << code;
         }
     }
 }

@@ -201,7 +201,7 @@ TEST_F(EditorParameters, AreThoseOfTheRadioInEveryCell) {
         for (int row : {0, 1, rows / 2, rows - 1, rows})
             for (int col = 0; col < 32; ++col) {
                 const auto found = page.editors.find(col);
-                EXPECT_EQ(found == page.editors.end() ? "text" : found->second, Describe(row, col))
+                EXPECT_EQ(Describe(row, col), found == page.editors.end() ? "text" : found->second)
                     << row << ", " << col;
             }
     }
@@ -218,13 +218,13 @@ TEST_F(EditorParameters, OfFrequenciesOfTheModuleAreThoseOfTheRowsBand) {
     SetCell(6, BAND, "no band");
     SetPageEditors(CurrentPage);
     for (int col : {9, 16}) {
-        EXPECT_EQ("frequency of 7, band 0, step 2500", Describe(3, col));
-        EXPECT_EQ("frequency of 7, band 2, step 8333", Describe(4, col));
-        EXPECT_EQ("frequency of 8, band 6, step 2500", Describe(5, col));
-        EXPECT_EQ("frequency of 7, band 0, step 2500", Describe(6, col));
+        EXPECT_EQ(Describe(3, col), "frequency of 7, band 0, step 2500");
+        EXPECT_EQ(Describe(4, col), "frequency of 7, band 2, step 8333");
+        EXPECT_EQ(Describe(5, col), "frequency of 8, band 6, step 2500");
+        EXPECT_EQ(Describe(6, col), "frequency of 7, band 0, step 2500");
     }
-    EXPECT_EQ(Linked(Tones), Describe(5, 12));
-    EXPECT_EQ(Linked(Tones), Describe(5, 18));
+    EXPECT_EQ(Describe(5, 12), Linked(Tones));
+    EXPECT_EQ(Describe(5, 18), Linked(Tones));
 }
 
 TEST_F(EditorParameters, OfTheSecondModuleOfferSevenBands) {
@@ -232,8 +232,8 @@ TEST_F(EditorParameters, OfTheSecondModuleOfferSevenBands) {
     CurrentParameters().Band = RadioCatalogue::K7Module;
     SetPageEditors(CurrentPage);
     for (int row : {0, 1, 500})
-        EXPECT_EQ("band: FM 30-50|FM 66-88|AM 108-138|FM 136-174|AM 225-400|FM_403-512|FM 7xx-8xx",
-                  Describe(row, 4))
+        EXPECT_EQ(Describe(row, 4),
+                  "band: FM 30-50|FM 66-88|AM 108-138|FM 136-174|AM 225-400|FM_403-512|FM 7xx-8xx")
             << row;
 }
 
@@ -246,11 +246,11 @@ TEST_F(EditorParameters, OfDigitalRowsAreDigitalSquelches) {
         SetCell(5, MFLG, "03");
         SetCell(6, MFLG, "03");
         SetPageEditors(CurrentPage);
-        EXPECT_EQ(Linked("m n g"), Describe(4, 10)) << radio;
-        EXPECT_EQ(Linked("g i -"), Describe(4, 17)) << radio;
-        EXPECT_EQ(Linked("m n g"), Describe(5, 10)) << radio;
-        EXPECT_EQ(Linked("g -"), Describe(5, 17)) << radio;
-        EXPECT_EQ(Linked("x t c"), Describe(6, 10)) << radio;
-        EXPECT_EQ(Linked("x t c"), Describe(6, 17)) << radio;
+        EXPECT_EQ(Describe(4, 10), Linked("m n g")) << radio;
+        EXPECT_EQ(Describe(4, 17), Linked("g i -")) << radio;
+        EXPECT_EQ(Describe(5, 10), Linked("m n g")) << radio;
+        EXPECT_EQ(Describe(5, 17), Linked("g -")) << radio;
+        EXPECT_EQ(Describe(6, 10), Linked("x t c")) << radio;
+        EXPECT_EQ(Describe(6, 17), Linked("x t c")) << radio;
     }
 }

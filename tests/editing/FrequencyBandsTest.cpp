@@ -262,7 +262,7 @@ TEST(EveryBandAtEveryStep, TakesTheTextsOfItsRasterAndNoOthers) {
 
 TEST(EveryBandAtEveryStep, HasTheWidthOfItsCell) {
     for (const Line& line : Lines)
-        EXPECT_EQ(line.width, FrequencyWidth(line.band, line.step)) << Where(line);
+        EXPECT_EQ(FrequencyWidth(line.band, line.step), line.width) << Where(line);
 }
 
 TEST(EveryBandAtEveryStep, CompletesToTheWidthOfItsCell) {
@@ -271,7 +271,7 @@ TEST(EveryBandAtEveryStep, CompletesToTheWidthOfItsCell) {
             const size_t arrow = pair.find('>');
             wxString text = pair.substr(0, arrow);
             EXPECT_TRUE(FormatFreq(text, line.band, line.step, line.width)) << pair << Where(line);
-            EXPECT_EQ(pair.substr(arrow + 1), text.utf8_string()) << pair << Where(line);
+            EXPECT_EQ(text.utf8_string(), pair.substr(arrow + 1)) << pair << Where(line);
         });
 }
 
@@ -280,6 +280,6 @@ TEST(EveryBandAtEveryStep, LeavesWhatItRefusesAsItIs) {
         ForEachWord(line.refused, [&](const std::string& refused) {
             wxString text = refused;
             EXPECT_FALSE(FormatFreq(text, line.band, line.step, line.width)) << refused << Where(line);
-            EXPECT_EQ(refused, text.utf8_string()) << Where(line);
+            EXPECT_EQ(text.utf8_string(), refused) << Where(line);
         });
 }

@@ -56,15 +56,15 @@ TEST_F(FrequencyChecks, ATransmitFrequencyOfAnAm108RowOfTheModuleIsNeverRefused)
             Become(Mdlx);
             SetCell(row, BAND, "AM 108-138");
             SetCell(row, RFRQ, receive);
-            EXPECT_EQ(0, CheckFreq(CurrentGrid(), row, TFRQ, text)) << '"' << text << '"';
-            EXPECT_EQ(text, Cell(row, TFRQ).utf8_string());
+            EXPECT_EQ(CheckFreq(CurrentGrid(), row, TFRQ, text), 0) << '"' << text << '"';
+            EXPECT_EQ(Cell(row, TFRQ).utf8_string(), text);
             EXPECT_FALSE(IsPainted(TFRQ)) << '"' << text << '"';
         }
 }
 
 TEST_F(FrequencyChecks, FrequenciesAnswerWhetherTheyStand) {
-    EXPECT_EQ(0, CheckFreq(CurrentGrid(), row, RFRQ, "70.0000"));
-    EXPECT_EQ(-1, CheckFreq(CurrentGrid(), row, RFRQ, "89.0000"));
+    EXPECT_EQ(CheckFreq(CurrentGrid(), row, RFRQ, "70.0000"), 0);
+    EXPECT_EQ(CheckFreq(CurrentGrid(), row, RFRQ, "89.0000"), -1);
 }
 
 TEST_F(FrequencyChecks, FrequenciesOfOtherPagesDoNotDependOnTheirRowsBand) {

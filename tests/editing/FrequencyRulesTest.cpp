@@ -20,7 +20,7 @@ TEST(InBand, IsFromTheLowLimitToTheHighOneWithoutAFraction) {
         {960, 0, 8, true},    {960, 1, 8, false}, {31, 0, 8, false},
     };
     for (const Line& line : lines)
-        EXPECT_EQ(line.expected, IsInBand(line.mhz, line.fraction, line.band))
+        EXPECT_EQ(IsInBand(line.mhz, line.fraction, line.band), line.expected)
             << line.mhz << "." << line.fraction << " band " << line.band;
 }
 
@@ -83,14 +83,14 @@ TEST(FreqInBand, AnswersTheFirstFaultOfTheText) {
         {"900.0", 8, 0},
     };
     for (const Line& line : lines)
-        EXPECT_EQ(line.expected, CheckFreqInBand(line.text, line.band))
+        EXPECT_EQ(CheckFreqInBand(line.text, line.band), line.expected)
             << '"' << line.text << "\" band " << line.band;
 }
 
 TEST(FreqInBand, ComparesTheFractionAsANumberOnTheHighLimit) {
-    EXPECT_EQ(0, CheckFreqInBand("174.0000", 5));
-    EXPECT_EQ(-5, CheckFreqInBand("174.0001", 5));
-    EXPECT_EQ(-5, CheckFreqInBand("174.1", 5));
+    EXPECT_EQ(CheckFreqInBand("174.0000", 5), 0);
+    EXPECT_EQ(CheckFreqInBand("174.0001", 5), -5);
+    EXPECT_EQ(CheckFreqInBand("174.1", 5), -5);
 }
 
 TEST(FreqBand, IsTheFirstBandThatHoldsTheFrequency) {
@@ -108,9 +108,9 @@ TEST(FreqBand, IsTheFirstBandThatHoldsTheFrequency) {
     };
     for (const Line& line : lines) {
         for (int type : {0, 3, 4, 5, 6, 7})
-            EXPECT_EQ(line.analog, GetFreqBand(line.text, type)) << line.text << " type " << type;
+            EXPECT_EQ(GetFreqBand(line.text, type), line.analog) << line.text << " type " << type;
         for (int type : {1, 2})
-            EXPECT_EQ(line.p25, GetFreqBand(line.text, type)) << line.text << " type " << type;
+            EXPECT_EQ(GetFreqBand(line.text, type), line.p25) << line.text << " type " << type;
     }
 }
 
@@ -125,5 +125,5 @@ TEST(FreqBand, AnswersTheFaultOfATextThatIsNoFrequency) {
     };
     for (const Line& line : lines)
         for (int type : {0, 1})
-            EXPECT_EQ(line.expected, GetFreqBand(line.text, type)) << '"' << line.text << '"';
+            EXPECT_EQ(GetFreqBand(line.text, type), line.expected) << '"' << line.text << '"';
 }

@@ -22,7 +22,7 @@ void ExpectNextDigits(int step, int band, const NextDigits (&lines)[count]) {
     for (const NextDigits& line : lines)
         for (char digit = '0'; digit <= '9'; ++digit) {
             const std::string text = line.text + std::string(1, digit);
-            EXPECT_EQ(std::string(line.digits).find(digit) != std::string::npos, IsOkFreq(text, band, step))
+            EXPECT_EQ(IsOkFreq(text, band, step), std::string(line.digits).find(digit) != std::string::npos)
                 << text << " band " << band << " step " << step;
         }
 }
@@ -31,7 +31,7 @@ void ExpectEach(const std::string& texts, bool expected, int step, int band) {
     for (size_t begin = 0; begin < texts.size();) {
         const size_t end = std::min(texts.find(' ', begin), texts.size());
         const std::string text = texts.substr(begin, end - begin);
-        EXPECT_EQ(expected, IsOkFreq(text, band, step)) << text << " band " << band << " step " << step;
+        EXPECT_EQ(IsOkFreq(text, band, step), expected) << text << " band " << band << " step " << step;
         begin = end + 1;
     }
 }
@@ -46,9 +46,9 @@ template <size_t count>
 void ExpectCompleted(int step, int band, int width, const Completed (&lines)[count]) {
     for (const Completed& line : lines) {
         wxString text = line.text;
-        EXPECT_EQ(line.expected != nullptr, FormatFreq(text, band, step, width))
+        EXPECT_EQ(FormatFreq(text, band, step, width), line.expected != nullptr)
             << line.text << " band " << band << " step " << step;
-        EXPECT_EQ(line.expected ? line.expected : line.text, text.utf8_string())
+        EXPECT_EQ(text.utf8_string(), line.expected ? line.expected : line.text)
             << line.text << " band " << band << " step " << step;
     }
 }
@@ -64,16 +64,15 @@ TEST(StepTables, HoldTheDigitsOfTheChannelRaster) {
     constexpr int next25[10] = {0, -1, 5, -1, -1, 0, -1, 5, -1, -1};
     for (int digit = 0; digit < 10; ++digit) {
         for (int i = 0; i < 2; ++i) {
-            EXPECT_EQ(pairs833[digit][i], StepPairs833[digit][i]) << digit;
-            EXPECT_EQ(pairs625[digit][i], StepPairs625[digit][i]) << digit;
+            EXPECT_EQ(StepPairs833[digit][i], pairs833[digit][i]) << digit;
+            EXPECT_EQ(StepPairs625[digit][i], pairs625[digit][i]) << digit;
         }
-        EXPECT_EQ(next125[digit], StepNext125[digit]) << digit;
-        EXPECT_EQ(next25[digit], StepNext25[digit]) << digit;
+        EXPECT_EQ(StepNext125[digit], next125[digit]) << digit;
+        EXPECT_EQ(StepNext25[digit], next25[digit]) << digit;
     }
-    EXPECT_STREQ("0050000500"
-                 "0257002570"
-                 "0251302513",
-                 StepComplete);
+    EXPECT_STREQ(StepComplete, "0050000500"
+                               "0257002570"
+                               "0251302513");
 }
 
 TEST(CellWidth, IsThatOfTheBandAndTheStep) {
@@ -88,7 +87,7 @@ TEST(CellWidth, IsThatOfTheBandAndTheStep) {
     };
     for (const Line& line : lines)
         for (int band = 0; band < 9; ++band)
-            EXPECT_EQ(line.widths[band], FrequencyWidth(band, line.step)) << band << " step " << line.step;
+            EXPECT_EQ(FrequencyWidth(band, line.step), line.widths[band]) << band << " step " << line.step;
 }
 
 TEST(TypedFrequency, WithoutAPointIsAlwaysAccepted) {
@@ -421,5 +420,5 @@ TEST(ReceiveOnlyFrequency, EndsBelow117975AsItsDigitsRead) {
         {"", false},         {"138.000", false}, {"155.0000", false},
     };
     for (const Line& line : lines)
-        EXPECT_EQ(line.expected, CheckRxOnlyFreq(line.text)) << '"' << line.text << '"';
+        EXPECT_EQ(CheckRxOnlyFreq(line.text), line.expected) << '"' << line.text << '"';
 }

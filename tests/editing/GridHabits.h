@@ -62,6 +62,6 @@ protected:
         ContextRow = 5;
         MainFrame->m_contextMenu->SendEvent(6025);
         testbench::ShowAndFocus(*MainFrame);
-        EXPECT_EQ("S-005", Text(8, SHAD));
+        EXPECT_EQ(Text(8, SHAD), "S-005");
     }
 };

@@ -1,9 +1,9 @@
 // Copying, the menu key, column widths and rows of a page, under real keys and the mouse.
 #include "tests/editing/GridHabits.h"
 
+#include "robot/Hands.h"
+#include "robot/XDesk.h"
 #include "tests/support/RunWithRobot.h"
-#include "tests/support/robot/Hands.h"
-#include "tests/support/robot/XDesk.h"
 
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
@@ -93,7 +93,7 @@ protected:
             for (int side : {-1, 1}) {
                 const wxPoint edge = EdgeOf(col) + wxPoint(side, 0);
                 Drag(edge, edge + wxPoint(25, 0));
-                EXPECT_EQ("", HiddenOnesOpened(before)) << "behind " << ColumnTag[col] << ", " << side;
+                EXPECT_EQ(HiddenOnesOpened(before), "") << "behind " << ColumnTag[col] << ", " << side;
                 widened += Grid()->GetColSize(col) > before[static_cast<size_t>(col)];
                 Restore(before);
             }
@@ -101,9 +101,9 @@ protected:
         const wxPoint left = EdgeOf(MNUM) - wxPoint(Grid()->GetColSize(MNUM), 0);
         for (int side : {0, 1}) {
             Drag(left + wxPoint(side, 0), left + wxPoint(40, 0));
-            EXPECT_EQ("", HiddenOnesOpened(before)) << "before the first column";
+            EXPECT_EQ(HiddenOnesOpened(before), "") << "before the first column";
         }
-        EXPECT_EQ(2 * shown - 1, widened) << "each border is taken hold of at both sides, but the last one";
+        EXPECT_EQ(widened, 2 * shown - 1) << "each border is taken hold of at both sides, but the last one";
     }
 
     /// The first pixel behind a shown column, in the middle of the labels.
@@ -145,11 +145,11 @@ TEST_F(GridCopy, OfOneCellIsItsTextAndALineEnd) {
     SetCell(5, DESC, "HARBOUR 5");
     GoTo(5, DESC);
     PutOnClipboard("before");
-    EXPECT_EQ(Lines({"HARBOUR 5"}), Copied());
+    EXPECT_EQ(Copied(), Lines({"HARBOUR 5"}));
     GoTo(5, RFRQ);
-    EXPECT_EQ(Lines({"66.0000"}), Copied());
+    EXPECT_EQ(Copied(), Lines({"66.0000"}));
     GoTo(7, DESC);
-    EXPECT_EQ(Lines({""}), Copied()) << "a blank cell";
+    EXPECT_EQ(Copied(), Lines({""})) << "a blank cell";
 }
 
 TEST_F(GridCopy, OfABlockHasTabsBetweenColumnsAndALineForEachRow) {
@@ -158,7 +158,7 @@ TEST_F(GridCopy, OfABlockHasTabsBetweenColumnsAndALineForEachRow) {
     GoTo(5, DESC);
     for (const char* key : {"Shift+Right", "Shift+Right", "Shift+Down"})
         PressKey(key);
-    EXPECT_EQ(Lines({"LOW   005\tW\t66.0000", "LOW   006\tN\t66.0000"}), Copied());
+    EXPECT_EQ(Copied(), Lines({"LOW   005\tW\t66.0000", "LOW   006\tN\t66.0000"}));
 }
 
 TEST_F(GridCopy, OfRowsHoldsAllTheirCells) {
@@ -172,9 +172,9 @@ TEST_F(GridCopy, OfRowsHoldsAllTheirCells) {
             line += "\t" + Text(row, col);
         rows.push_back(line);
     }
-    EXPECT_EQ(Lines({rows[0]}), Copied());
+    EXPECT_EQ(Copied(), Lines({rows[0]}));
     PressKey("Shift+Down");
-    EXPECT_EQ(Lines({rows[0], rows[1]}), Copied());
+    EXPECT_EQ(Copied(), Lines({rows[0], rows[1]}));
 }
 
 TEST_F(GridCopy, WithAnOpenEditorIsItsSelectedText) {
@@ -182,7 +182,7 @@ TEST_F(GridCopy, WithAnOpenEditorIsItsSelectedText) {
     GoTo(5, DESC);
     TypeText("abc");
     PressKey("Ctrl+A");
-    EXPECT_EQ("ABC", Copied());
+    EXPECT_EQ(Copied(), "ABC");
     PressKey("Escape");
 }
 
@@ -198,7 +198,7 @@ TEST_F(GridCopy, ChangesNothingOnThePageNorDoesPastingWithoutAnEditor) {
             EXPECT_FALSE(IsOpen()) << ColumnTag[col] << ", " << key;
         }
     }
-    EXPECT_EQ("", ChangesSince(before));
+    EXPECT_EQ(ChangesSince(before), "");
 }
 
 TEST_F(GridMouse, MenuKeyOpensTheRowMenuBelowTheCursor) {
@@ -234,10 +234,9 @@ TEST_F(GridMouse, MenuKeyOpensTheRowMenuBelowTheCursor) {
                 }
                 CloseMenu(robot);
             });
-            EXPECT_EQ(
-                (std::vector<int>{DefaultRow, CopyRow, PasteRow, ClearRow, MarkRow, InsertRow, DeleteRow}),
-                ids);
-            EXPECT_EQ(row, ContextRow);
+            EXPECT_EQ(ids, (std::vector<int>{DefaultRow, CopyRow, PasteRow, ClearRow, MarkRow, InsertRow,
+                                             DeleteRow}));
+            EXPECT_EQ(ContextRow, row);
             EXPECT_NEAR(corner.x, menu.x, 6);
             EXPECT_NEAR(corner.y, menu.y, 6);
         }
@@ -254,7 +253,7 @@ TEST_F(GridMouse, MenuKeyWithAnOpenEditorTakesNothingAway) {
         robot.Settle();
     });
     PressKey("Return");
-    EXPECT_EQ("ABC", Text(5, DESC));
+    EXPECT_EQ(Text(5, DESC), "ABC");
 }
 
 TEST_F(GridMouse, MenuKeyAfterSelectingThePageIsStillThatOfTheRow) {
@@ -273,8 +272,8 @@ TEST_F(GridMouse, MenuKeyAfterSelectingThePageIsStillThatOfTheRow) {
         });
         CloseMenu(robot);
     });
-    EXPECT_EQ((std::vector<int>{DefaultRow, CopyRow, PasteRow, ClearRow, MarkRow, InsertRow, DeleteRow}),
-              ids);
+    EXPECT_EQ(ids,
+              (std::vector<int>{DefaultRow, CopyRow, PasteRow, ClearRow, MarkRow, InsertRow, DeleteRow}));
 }
 
 TEST_F(GridMouse, ADraggedLabelEdgeWidensItsColumn) {
@@ -290,7 +289,7 @@ TEST_F(GridMouse, ADraggedLabelEdgeWidensItsColumn) {
             EXPECT_NEAR(expected[static_cast<size_t>(col)], after[static_cast<size_t>(col)], 3)
                 << radio << ", " << ColumnTag[col];
             expected[static_cast<size_t>(col)] = after[static_cast<size_t>(col)];
-            EXPECT_EQ(expected, after) << "another column of radio " << radio;
+            EXPECT_EQ(after, expected) << "another column of radio " << radio;
         }
     }
 }
@@ -300,7 +299,7 @@ TEST_F(GridMouse, ALabelEdgeDraggedToTheLeftLeavesTheColumnItsWidth) {
     for (int col : {MNUM, DESC, TCOD}) {
         const wxPoint edge = EdgeOf(col) - wxPoint(1, 0);
         Drag(edge, edge - wxPoint(35, 0));
-        EXPECT_EQ(before, Widths()) << ColumnTag[col];
+        EXPECT_EQ(Widths(), before) << ColumnTag[col];
     }
 }
 
@@ -327,7 +326,7 @@ TEST_F(GridMouse, ADoubleClickOnALabelEdgeOpensNoHiddenColumn) {
                 for (int side : {-2, 2}) {
                     const wxPoint edge = EdgeOf(col) + wxPoint(side, 0);
                     DoubleClickAt(edge);
-                    EXPECT_EQ("", HiddenOnesOpened(before))
+                    EXPECT_EQ(HiddenOnesOpened(before), "")
                         << "radio " << radio << ", behind " << ColumnTag[col] << ", " << side;
                 }
     }
@@ -347,9 +346,9 @@ TEST_F(GridMouse, RowsAndColumnsCannotBeDraggedAway) {
     const wxPoint cell = CellSpot(*Grid(), 3, DESC);
     Drag(cell, cell + wxPoint(0, 70));
     Drag(cell + wxPoint(0, 11), cell + wxPoint(0, 70));
-    EXPECT_EQ(heights, Heights());
-    EXPECT_EQ("", ChangesSince(before));
+    EXPECT_EQ(Heights(), heights);
+    EXPECT_EQ(ChangesSince(before), "");
     for (int col = 0; col < ColumnTotal; ++col)
-        EXPECT_EQ(col, Grid()->GetColPos(col));
-    EXPECT_EQ("003", Grid()->GetRowLabelValue(3).utf8_string());
+        EXPECT_EQ(Grid()->GetColPos(col), col);
+    EXPECT_EQ(Grid()->GetRowLabelValue(3).utf8_string(), "003");
 }

@@ -92,14 +92,14 @@ TEST_F(GridKeys, TabGoesRightAndShiftTabLeftOverShownColumnsOnly) {
             PressKey("Tab");
             right.push_back(Cursor().second);
         }
-        EXPECT_EQ(page.shown, right);
+        EXPECT_EQ(right, page.shown);
         left.push_back(Cursor().second);
         for (size_t i = 1; i < page.shown.size(); ++i) {
             PressKey("Shift+Tab");
             left.insert(left.begin(), Cursor().second);
         }
-        EXPECT_EQ(page.shown, left);
-        EXPECT_EQ(5, Cursor().first);
+        EXPECT_EQ(left, page.shown);
+        EXPECT_EQ(Cursor().first, 5);
     }
 }
 
@@ -107,16 +107,16 @@ TEST_F(GridKeys, TypingWorksInTheColumnThatTabReachesBehindHiddenOnes) {
     Fill({5});
     GoTo(5, RCOD);
     PressKey("Tab");
-    ASSERT_EQ(Place(5, TFRQ), Cursor());
+    ASSERT_EQ(Cursor(), Place(5, TFRQ));
     TypeText("77.5\t");
-    EXPECT_EQ("77.5000", Text(5, TFRQ));
+    EXPECT_EQ(Text(5, TFRQ), "77.5000");
     PressKey("Shift+Tab");
     PressKey("Shift+Tab");
     PressKey("Shift+Tab");
     PressKey("Shift+Tab");
-    ASSERT_EQ(Place(5, RFRQ), Cursor());
+    ASSERT_EQ(Cursor(), Place(5, RFRQ));
     TypeText("78.5\t");
-    EXPECT_EQ("78.5000", Text(5, RFRQ));
+    EXPECT_EQ(Text(5, RFRQ), "78.5000");
 }
 
 TEST_F(GridKeys, NoKeyBringsTheCursorToAHiddenColumn) {
@@ -145,7 +145,7 @@ TEST_F(GridKeys, TheCursorOfAFreshPageStandsInAShownColumn) {
     const PageState before = StateOfPage();
     TypeText("7");
     PressKey("Return");
-    EXPECT_EQ("", ChangesSince(before)) << "the number of the default row is fixed";
+    EXPECT_EQ(ChangesSince(before), "") << "the number of the default row is fixed";
 }
 
 TEST_F(GridKeys, TheCursorLeavesAColumnThatANewTargetHides) {
@@ -153,10 +153,10 @@ TEST_F(GridKeys, TheCursorLeavesAColumnThatANewTargetHides) {
     GoTo(5, RTGP);
     ChangeTarget(Krv47);
     GoTo(Cursor().first, Cursor().second);
-    EXPECT_EQ(Place(5, MNUM), Cursor());
+    EXPECT_EQ(Cursor(), Place(5, MNUM));
     GoTo(5, RFRQ);
     ChangeTarget(Krv214);
-    EXPECT_EQ(Place(5, RFRQ), Cursor()) << "a column that both show";
+    EXPECT_EQ(Cursor(), Place(5, RFRQ)) << "a column that both show";
 }
 
 TEST_F(GridKeys, TabWithAnOpenEditorTakesTheTextAndGoesRight) {
@@ -170,8 +170,8 @@ TEST_F(GridKeys, TabWithAnOpenEditorTakesTheTextAndGoesRight) {
         Begin(5, edit);
         PressKey("Tab");
         EXPECT_FALSE(IsOpen());
-        EXPECT_EQ(edit.text, Text(5, edit.col));
-        EXPECT_EQ(Place(5, Neighbour(Pages()[2].shown, edit.col, 1)), Cursor());
+        EXPECT_EQ(Text(5, edit.col), edit.text);
+        EXPECT_EQ(Cursor(), Place(5, Neighbour(Pages()[2].shown, edit.col, 1)));
     }
 }
 
@@ -186,8 +186,8 @@ TEST_F(GridKeys, ShiftTabWithAnOpenEditorTakesTheTextAndGoesLeft) {
         Begin(5, edit);
         PressKey("Shift+Tab");
         EXPECT_FALSE(IsOpen());
-        EXPECT_EQ(edit.text, Text(5, edit.col));
-        EXPECT_EQ(Place(5, Neighbour(Pages()[2].shown, edit.col, -1)), Cursor());
+        EXPECT_EQ(Text(5, edit.col), edit.text);
+        EXPECT_EQ(Cursor(), Place(5, Neighbour(Pages()[2].shown, edit.col, -1)));
     }
 }
 
@@ -200,8 +200,8 @@ TEST_F(GridKeys, ReturnWithAnOpenEditorTakesTheTextAndGoesDown) {
         Begin(5, edit);
         PressKey("Return");
         EXPECT_FALSE(IsOpen());
-        EXPECT_EQ(edit.text, Text(5, edit.col));
-        EXPECT_EQ(Place(6, edit.col), Cursor());
+        EXPECT_EQ(Text(5, edit.col), edit.text);
+        EXPECT_EQ(Cursor(), Place(6, edit.col));
     }
 }
 
@@ -210,8 +210,8 @@ TEST_F(GridKeys, ReturnWithoutAnEditorGoesDown) {
     const PageState before = StateOfPage();
     GoTo(5, DESC);
     PressKey("Return");
-    EXPECT_EQ(Place(6, DESC), Cursor());
-    EXPECT_EQ("", ChangesSince(before));
+    EXPECT_EQ(Cursor(), Place(6, DESC));
+    EXPECT_EQ(ChangesSince(before), "");
 }
 
 TEST_F(GridKeys, TabAtTheEndsOfARowStaysAndKeepsTheEditorOpen) {
@@ -221,10 +221,10 @@ TEST_F(GridKeys, TabAtTheEndsOfARowStaysAndKeepsTheEditorOpen) {
         PressKey("Escape");
         GoTo(5, col);
         PressKey(key);
-        EXPECT_EQ(Place(5, col), Cursor());
+        EXPECT_EQ(Cursor(), Place(5, col));
         PressKey("F2");
         PressKey(key);
-        EXPECT_EQ(Place(5, col), Cursor());
+        EXPECT_EQ(Cursor(), Place(5, col));
         EXPECT_TRUE(IsOpen());
     }
     PressKey("Escape");
@@ -232,7 +232,7 @@ TEST_F(GridKeys, TabAtTheEndsOfARowStaysAndKeepsTheEditorOpen) {
     TypeText("99");
     PressKey("Shift+Tab");
     PressKey("Return");
-    EXPECT_EQ("099", Text(5, MNUM));
+    EXPECT_EQ(Text(5, MNUM), "099");
 }
 
 TEST_F(GridKeys, ANumberInUseIsRefusedOnceWhicheverKeyEndsTheEdit) {
@@ -245,10 +245,10 @@ TEST_F(GridKeys, ANumberInUseIsRefusedOnceWhicheverKeyEndsTheEdit) {
         GoTo(5, MNUM);
         TypeText("17");
         PressKey(key);
-        EXPECT_EQ(1u, dialogs.Shown().size());
+        EXPECT_EQ(dialogs.Shown().size(), 1u);
         EXPECT_FALSE(IsOpen());
     }
-    EXPECT_EQ("", ChangesSince(before));
+    EXPECT_EQ(ChangesSince(before), "");
 }
 
 TEST_F(GridKeys, EscapeLeavesThePageAsItWasInEveryKindOfCell) {
@@ -265,9 +265,9 @@ TEST_F(GridKeys, EscapeLeavesThePageAsItWasInEveryKindOfCell) {
         Begin(5, edit);
         PressKey("Escape");
         EXPECT_FALSE(IsOpen());
-        EXPECT_EQ("", ChangesSince(before));
-        EXPECT_EQ(Place(5, edit.col), Cursor());
-        EXPECT_EQ(slots, ZoneSlots);
+        EXPECT_EQ(ChangesSince(before), "");
+        EXPECT_EQ(Cursor(), Place(5, edit.col));
+        EXPECT_EQ(ZoneSlots, slots);
     }
 }
 
@@ -280,8 +280,8 @@ TEST_F(GridKeys, EscapeLeavesABlankRowBlankInEveryKindOfCell) {
         Begin(20, edit);
         PressKey("Escape");
         EXPECT_FALSE(IsOpen());
-        EXPECT_EQ("", ChangesSince(before));
-        EXPECT_EQ(slots, ZoneSlots);
+        EXPECT_EQ(ChangesSince(before), "");
+        EXPECT_EQ(ZoneSlots, slots);
     }
 }
 
@@ -295,17 +295,17 @@ TEST_F(GridKeys, EscapeLeavesAnAnalogPageAsItWas) {
                              Edit{"description", DESC, "abc", ""}, Edit{"number", MNUM, "77", ""}}) {
         Begin(5, edit);
         PressKey("Escape");
-        EXPECT_EQ("", ChangesSince(before)) << edit.name;
+        EXPECT_EQ(ChangesSince(before), "") << edit.name;
     }
     GoTo(5, SCAN);
     PressKey("Escape");
-    EXPECT_EQ("", ChangesSince(before)) << "scan boxes";
+    EXPECT_EQ(ChangesSince(before), "") << "scan boxes";
     Retarget(Kdrv4xxx, ModuleSlot);
     Fill({5});
     const PageState module = StateOfPage();
     Begin(5, {"band", BAND, "<Down>", ""});
     PressKey("Escape");
-    EXPECT_EQ("", ChangesSince(module)) << "band";
+    EXPECT_EQ(ChangesSince(module), "") << "band";
 }
 
 TEST_F(GridKeys, FixedCellsAreHarmedByNoKey) {
@@ -320,8 +320,8 @@ TEST_F(GridKeys, FixedCellsAreHarmedByNoKey) {
                 EXPECT_FALSE(IsOpen()) << page << ", row " << row << " " << ColumnTag[col] << ", " << key;
             }
         }
-        EXPECT_EQ("", ChangesSince(before)) << page;
-        EXPECT_EQ(slots, ZoneSlots) << page;
+        EXPECT_EQ(ChangesSince(before), "") << page;
+        EXPECT_EQ(ZoneSlots, slots) << page;
     };
     Fill({121, 122});
     press({{0, MNUM}, {121, MNUM}, {121, SCAN}, {121, RTON}, {121, RCOD}, {122, MNUM}, {122, SCAN}},
@@ -378,14 +378,14 @@ TEST_F(GridKeys, DeleteAndBackspaceOpenAnEditorThatLeavesTheCellUsable) {
             PressKey(key);
             PressKey("Return");
             EXPECT_FALSE(IsOpen());
-            EXPECT_EQ(after, Text(5, line.col));
+            EXPECT_EQ(Text(5, line.col), after);
         }
     for (const char* key : {"Delete", "BackSpace"}) {
         Fill({5});
         GoTo(5, MNUM);
         PressKey(key);
         PressKey("Escape");
-        EXPECT_EQ("005", Text(5, MNUM)) << key;
+        EXPECT_EQ(Text(5, MNUM), "005") << key;
     }
 }
 
@@ -397,7 +397,7 @@ TEST_F(GridKeys, DeleteAndBackspaceLeaveScanBoxesAlone) {
         GoTo(5, SCAN);
         PressKey(key);
         EXPECT_FALSE(IsOpen()) << key;
-        EXPECT_EQ("", ChangesSince(before)) << key;
+        EXPECT_EQ(ChangesSince(before), "") << key;
     }
 }
 
@@ -411,11 +411,11 @@ TEST_F(GridKeys, F2OpensTheEditorOfEveryCellThatHasOne) {
             GoTo(5, col);
             PressKey("F2");
             const bool boxes = EditorClass(5, col) == "ScanlistEditor";
-            EXPECT_EQ(!boxes && !IsLocked(5, col), IsOpen()) << ColumnTag[col];
+            EXPECT_EQ(IsOpen(), !boxes && !IsLocked(5, col)) << ColumnTag[col];
             if (IsOpen())
                 PressKey("Escape");
         }
-        EXPECT_EQ("", ChangesSince(before));
+        EXPECT_EQ(ChangesSince(before), "");
     }
 }
 
@@ -434,14 +434,14 @@ TEST_F(GridKeys, TheNumberPadTypesFrequenciesNumbersAndScanLists) {
         return Text(5, col);
     };
     Fill({5});
-    EXPECT_EQ("77.5000", type(RFRQ, {seven, seven, point, five, enter}));
-    EXPECT_EQ(Place(6, RFRQ), Cursor());
-    EXPECT_EQ("099", type(MNUM, {nine, nine, enter}));
-    EXPECT_EQ("5-2", type(DESC, {five, "KP_Subtract", two, enter}));
-    EXPECT_EQ("17", type(SCAN, {one, five}));
+    EXPECT_EQ(type(RFRQ, {seven, seven, point, five, enter}), "77.5000");
+    EXPECT_EQ(Cursor(), Place(6, RFRQ));
+    EXPECT_EQ(type(MNUM, {nine, nine, enter}), "099");
+    EXPECT_EQ(type(DESC, {five, "KP_Subtract", two, enter}), "5-2");
+    EXPECT_EQ(type(SCAN, {one, five}), "17");
     Retarget(Kdrv716B, 0);
     Fill({5});
-    EXPECT_EQ("0012", type(RTGP, {one, two, enter}));
+    EXPECT_EQ(type(RTGP, {one, two, enter}), "0012");
 }
 
 TEST_F(GridKeys, ADoubleClickOpensTheEditorAndTypingReplacesTheText) {
@@ -453,7 +453,7 @@ TEST_F(GridKeys, ADoubleClickOpensTheEditorAndTypingReplacesTheText) {
         PressKey("Ctrl+A");
         TypeText(typed);
         PressKey("Return");
-        EXPECT_EQ(text, Text(5, col));
+        EXPECT_EQ(Text(5, col), text);
     }
 }
 
@@ -472,5 +472,5 @@ TEST_F(GridKeys, ARefusedKeyOpensNothing) {
         EXPECT_FALSE(IsOpen()) << ColumnTag[col] << ", " << key;
         PressKey("Escape");
     }
-    EXPECT_EQ("", ChangesSince(before));
+    EXPECT_EQ(ChangesSince(before), "");
 }

@@ -200,7 +200,7 @@ void HardWork::NameSelectedRows() {
 int HardWork::PickRow() {
     const int rows = CurrentParameters().Rows;
     if (m_dice.Chance(60))
-        if (const std::vector<int> used = testbench::RowsWithData(); !used.empty())
+        if (const std::vector<int> used = FilledRows(); !used.empty())
             return m_dice.Pick(used);
     return m_dice.Chance(5) ? m_dice.Between(rows - 1, rows) : m_dice.Between(0, rows);
 }
@@ -208,7 +208,7 @@ int HardWork::PickRow() {
 /// A complete memory that a shadow can be made of, likely a primary; any row where there is none.
 int HardWork::PickGoodRow() {
     std::vector<int> complete, primaries;
-    for (int row : testbench::RowsWithData()) {
+    for (int row : FilledRows()) {
         if (!RowIsComplete(row) || IsShadow(CurrentGrid(), row))
             continue;
         complete.push_back(row);

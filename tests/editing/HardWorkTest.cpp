@@ -138,7 +138,7 @@ void HardWork::Work(uint32_t seed, int steps) {
         Step();
         if (m_step % 10 == 0)
             wxYield(); // whatever stands in the cells gets painted
-        m_rowsSeen = std::max(m_rowsSeen, testbench::RowsWithData().size());
+        m_rowsSeen = std::max(m_rowsSeen, FilledRows().size());
         size_t shadows = 0;
         for (int row = 1; row <= CurrentParameters().Rows; ++row)
             shadows += IsShadow(CurrentGrid(), row);

@@ -91,9 +91,9 @@ protected:
         const wxString wanted = expected == Same                  ? TextOf(text)
                                 : repaired || expected == Default ? wxString("dflt")
                                                                   : wxString(expected);
-        EXPECT_EQ(wanted.Left(50), Cell(row, column).Left(50)) << Names[text] << ", " << ColumnTag[column];
-        EXPECT_EQ(wanted.length(), Cell(row, column).length()) << Names[text] << ", " << ColumnTag[column];
-        EXPECT_EQ(repaired, IsPainted(column)) << Names[text] << ", " << ColumnTag[column];
+        EXPECT_EQ(Cell(row, column).Left(50), wanted.Left(50)) << Names[text] << ", " << ColumnTag[column];
+        EXPECT_EQ(Cell(row, column).length(), wanted.length()) << Names[text] << ", " << ColumnTag[column];
+        EXPECT_EQ(IsPainted(column), repaired) << Names[text] << ", " << ColumnTag[column];
     }
 };
 
@@ -112,7 +112,7 @@ TEST_F(HostileTexts, BecomeWhatTheCheckOfTheirColumnAllows) {
                         ExpectCell(column, text, line.expected[text]);
                 }
         for (int column = MNUM; column <= RONL; ++column)
-            EXPECT_EQ(column < SHD0 || column > SHD6 ? 1 : 0, seen[static_cast<size_t>(column)])
+            EXPECT_EQ(seen[static_cast<size_t>(column)], column < SHD0 || column > SHD6 ? 1 : 0)
                 << "lines for " << ColumnTag[column];
     }
 }
@@ -123,7 +123,7 @@ TEST_F(HostileTexts, ThatAreRepairedBecomeADefaultOfAnyKind) {
         PrepareRow(RFRQ);
         SetCell(0, RFRQ, TextOf(defaults));
         Check(RFRQ, "junk", "");
-        EXPECT_EQ(TextOf(defaults), Cell(row, RFRQ)) << Names[defaults];
+        EXPECT_EQ(Cell(row, RFRQ), TextOf(defaults)) << Names[defaults];
         EXPECT_TRUE(IsPainted(RFRQ)) << Names[defaults];
     }
 }
@@ -135,7 +135,7 @@ TEST_F(HostileTexts, InASquelchCellTurnToneAndCodeOffAndDoNoMore) {
             for (int squelch = 0; squelch < TextTotal; ++squelch) {
                 PrepareRow(column);
                 Check(column, column == RTON || column == TTON ? "67.0" : "023", TextOf(squelch));
-                EXPECT_EQ("OFF", Cell(row, column)) << Names[squelch] << ", " << ColumnTag[column];
+                EXPECT_EQ(Cell(row, column), "OFF") << Names[squelch] << ", " << ColumnTag[column];
                 EXPECT_FALSE(IsPainted(column)) << Names[squelch] << ", " << ColumnTag[column];
             }
     }

@@ -124,13 +124,13 @@ TEST_F(ListCells, TakeTheChoiceWhoseBeginningWasTyped) {
         Fill({5});
         if (*line.cell.mode)
             Choose(5, MODE, line.cell.mode);
-        EXPECT_EQ(line.chosen, After(5, line.cell.col, std::string(line.typed) + "\n"));
-        EXPECT_EQ(5 + 1, Grid()->GetGridCursorRow()) << "Return went on to the next row";
+        EXPECT_EQ(After(5, line.cell.col, std::string(line.typed) + "\n"), line.chosen);
+        EXPECT_EQ(Grid()->GetGridCursorRow(), 5 + 1) << "Return went on to the next row";
         if (!*line.cell.mode) {
             CurrentGrid()->GetTable()->Clear();
             SetPageDefaults(MainFrame, CurrentPage);
-            EXPECT_EQ(line.chosen, After(5, line.cell.col, std::string(line.typed) + "\n")) << "blank row";
-            EXPECT_EQ("005", Text(5, MNUM));
+            EXPECT_EQ(After(5, line.cell.col, std::string(line.typed) + "\n"), line.chosen) << "blank row";
+            EXPECT_EQ(Text(5, MNUM), "005");
         }
     }
 }
@@ -139,16 +139,16 @@ TEST_F(ListCells, TakeWhatWasTypedInAnOpenEditToo) {
     Fill({5});
     OpenChoice(5, RTON);
     TypeText("156.7\n");
-    EXPECT_EQ("156.7", Text(5, RTON));
+    EXPECT_EQ(Text(5, RTON), "156.7");
     OpenChoice(5, RTON);
     TypeText("2033");
     PressKey("BackSpace");
     PressKey("Tab");
-    EXPECT_EQ("203.5", Text(5, RTON)) << "Backspace took the last key back";
+    EXPECT_EQ(Text(5, RTON), "203.5") << "Backspace took the last key back";
     OpenChoice(5, RCOD);
     TypeText("411");
     ClickAt(CellSpot(*Grid(), 9, DESC));
-    EXPECT_EQ("411", Text(5, RCOD));
+    EXPECT_EQ(Text(5, RCOD), "411");
 }
 
 TEST_F(ListCells, LeaveTheCellWhenWhatWasTypedBeginsNoChoice) {
@@ -156,38 +156,38 @@ TEST_F(ListCells, LeaveTheCellWhenWhatWasTypedBeginsNoChoice) {
     SetCell(5, RTON, "67.0");
     SetCell(5, TTON, "67.0");
     // "1567" isn't 156.7, and 7 alone isn't meant.
-    EXPECT_EQ("67.0", After(5, RTON, "1567\n"));
-    EXPECT_EQ("67.0", After(5, RTON, "x\n"));
-    EXPECT_EQ("67.0", After(5, RTON, "156.77\n"));
+    EXPECT_EQ(After(5, RTON, "1567\n"), "67.0");
+    EXPECT_EQ(After(5, RTON, "x\n"), "67.0");
+    EXPECT_EQ(After(5, RTON, "156.77\n"), "67.0");
     GoTo(5, RTON);
     TypeText("1567");
     PressKey("BackSpace");
     TypeText(".");
     PressKey("Return");
-    EXPECT_EQ("156.7", Text(5, RTON));
+    EXPECT_EQ(Text(5, RTON), "156.7");
     // Three digits, as the list has them.
     SetCell(5, RCOD, "411");
-    EXPECT_EQ("411", After(5, RCOD, "23\n"));
+    EXPECT_EQ(After(5, RCOD, "23\n"), "411");
     // A blank row stays blank.
-    EXPECT_EQ("", After(9, RTON, "1567\n"));
+    EXPECT_EQ(After(9, RTON, "1567\n"), "");
     EXPECT_TRUE(IsBlank(9));
 }
 
 TEST_F(ListCells, OfSingleCharactersChooseAnewWithEachKey) {
-    EXPECT_EQ("W", After(9, MODE, "nw\n"));
-    EXPECT_EQ("N", After(9, MODE, "wwn\n"));
+    EXPECT_EQ(After(9, MODE, "nw\n"), "W");
+    EXPECT_EQ(After(9, MODE, "wwn\n"), "N");
     Retarget(Kdar2000, 0);
-    EXPECT_EQ("N", After(9, SCAN, "yn\n"));
+    EXPECT_EQ(After(9, SCAN, "yn\n"), "N");
     EXPECT_TRUE(IsBlank(10));
-    EXPECT_EQ("", After(10, SCAN, "yx\n")) << "the last key fits nothing";
+    EXPECT_EQ(After(10, SCAN, "yx\n"), "") << "the last key fits nothing";
     EXPECT_TRUE(IsBlank(10));
 }
 
 TEST_F(ListCells, TakeLettersOfEitherCase) {
     Retarget(Kdrv716B, 0);
-    EXPECT_EQ("N", After(9, ZONE, "N\n"));
-    EXPECT_EQ("E", After(9, ZONE, "e\n"));
-    EXPECT_EQ("n", After(9, MODE, "N\n"));
+    EXPECT_EQ(After(9, ZONE, "N\n"), "N");
+    EXPECT_EQ(After(9, ZONE, "e\n"), "E");
+    EXPECT_EQ(After(9, MODE, "N\n"), "n");
 }
 
 TEST_F(ListCells, AnArrowKeyIsAChoiceAndForgetsWhatWasTyped) {
@@ -196,11 +196,11 @@ TEST_F(ListCells, AnArrowKeyIsAChoiceAndForgetsWhatWasTyped) {
     TypeText("156.7");
     PressKey("Down");
     PressKey("Return");
-    EXPECT_EQ("162.2", Text(5, RTON));
+    EXPECT_EQ(Text(5, RTON), "162.2");
     OpenChoice(9, MODE);
     PressKey("Down");
     PressKey("Return");
-    EXPECT_EQ("W", Text(9, MODE)) << "the first, as none was shown";
+    EXPECT_EQ(Text(9, MODE), "W") << "the first, as none was shown";
 }
 
 TEST_F(ListCells, OfABlankRowShowNoChoice) {
@@ -208,11 +208,11 @@ TEST_F(ListCells, OfABlankRowShowNoChoice) {
         SCOPED_TRACE(cell.name);
         Become(cell);
         const wxComboBox* combo = OpenChoice(9, cell.col);
-        EXPECT_EQ(wxNOT_FOUND, combo->GetSelection());
-        EXPECT_EQ("", combo->GetValue());
+        EXPECT_EQ(combo->GetSelection(), wxNOT_FOUND);
+        EXPECT_EQ(combo->GetValue(), "");
         PressKey("Down");
         PressKey("Escape");
-        EXPECT_EQ("", OpenChoice(9, cell.col)->GetValue()) << "once more";
+        EXPECT_EQ(OpenChoice(9, cell.col)->GetValue(), "") << "once more";
         PressKey("Escape");
     }
 }
@@ -243,7 +243,7 @@ TEST_F(ListCells, LookedIntoLeaveABlankRowBlankSoThatNoChannelIsMade_Departure) 
                 PumpUntilIdle();
                 EXPECT_FALSE(IsOpen());
                 EXPECT_TRUE(IsBlank(9));
-                EXPECT_EQ(slots, AllSlots());
+                EXPECT_EQ(AllSlots(), slots);
             }
     }
 }
@@ -264,7 +264,7 @@ TEST_F(ListCells, PoppedUpAndLeftLeaveABlankRowBlank) {
                 PressKey(key);
             EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
             EXPECT_TRUE(IsBlank(9));
-            EXPECT_EQ(slots, AllSlots());
+            EXPECT_EQ(AllSlots(), slots);
         }
     }
 }
@@ -294,8 +294,8 @@ TEST_F(ListCells, PoppedUpTakeTheChoiceWhoseBeginningIsTyped) {
             TypeText(line.typed);
             PressKey(key);
             EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
-            EXPECT_EQ(line.chosen, Text(9, line.cell.col));
-            EXPECT_EQ("009", Text(9, MNUM));
+            EXPECT_EQ(Text(9, line.cell.col), line.chosen);
+            EXPECT_EQ(Text(9, MNUM), "009");
         }
 }
 
@@ -306,13 +306,13 @@ TEST_F(ListCells, PoppedUpTakeKeysBackAndLeaveTheCellWhenNothingFits) {
     TypeText("1567");
     PressKey("Return");
     EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
-    EXPECT_EQ("67.0", Text(5, RTON));
+    EXPECT_EQ(Text(5, RTON), "67.0");
     PopUp(5, RTON);
     TypeText("1567");
     PressKey("BackSpace");
     PressKey("Return");
     EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
-    EXPECT_EQ("156.7", Text(5, RTON));
+    EXPECT_EQ(Text(5, RTON), "156.7");
     for (const char* key : {"Escape", "click"}) {
         SCOPED_TRACE(key);
         PopUp(5, RTON);
@@ -322,7 +322,7 @@ TEST_F(ListCells, PoppedUpTakeKeysBackAndLeaveTheCellWhenNothingFits) {
         else
             PressKey(key);
         EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
-        EXPECT_EQ("156.7", Text(5, RTON));
+        EXPECT_EQ(Text(5, RTON), "156.7");
     }
 }
 
@@ -334,19 +334,19 @@ TEST_F(ListCells, PoppedUpTakeArrowKeysAndClicks) {
     PressKey("Down");
     PressKey("Return");
     EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
-    EXPECT_EQ("162.2", Text(5, RTON));
+    EXPECT_EQ(Text(5, RTON), "162.2");
     PopUp(9, MODE);
     PressKey("Down");
     PressKey("Down");
     PressKey("Return");
     EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
-    EXPECT_EQ("N", Text(9, MODE));
+    EXPECT_EQ(Text(9, MODE), "N");
     // The list stands below its cell; the first entry is near its upper edge.
     PopUp(10, MODE);
     const wxWindow& control = *EditorAt(10, MODE)->GetControl();
     ClickAt(control.ClientToScreen(wxPoint(20, control.GetClientSize().y + 14)));
     EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
-    EXPECT_EQ("W", Text(10, MODE));
+    EXPECT_EQ(Text(10, MODE), "W");
 }
 
 TEST_F(ListCells, AnsweredWithTheirOwnTextChangeNoTextAndTakeThePaintOff) {
@@ -367,9 +367,9 @@ TEST_F(ListCells, AnsweredWithTheirOwnTextChangeNoTextAndTakeThePaintOff) {
         Grid()->Bind(wxEVT_GRID_CELL_CHANGED, count);
         After(5, col, std::string(typed) + "\n");
         Grid()->Unbind(wxEVT_GRID_CELL_CHANGED, count);
-        EXPECT_EQ(before, RowTexts(5));
+        EXPECT_EQ(RowTexts(5), before);
         EXPECT_NE(FailColour, Grid()->GetCellBackgroundColour(5, col));
-        EXPECT_EQ(1, changes);
+        EXPECT_EQ(changes, 1);
     }
 }
 
@@ -384,7 +384,7 @@ TEST_F(ListCells, TheWheelOverAnOpenEditChoosesNothing) {
         PumpUntilIdle();
     }
     PressKey("Return");
-    EXPECT_EQ(before, RowTexts(5));
+    EXPECT_EQ(RowTexts(5), before);
 }
 
 TEST_F(ListCells, OfAZoneKeepTheirSlotHoweverTheEditIsLeft_Departure) {
@@ -400,19 +400,19 @@ TEST_F(ListCells, OfAZoneKeepTheirSlotHoweverTheEditIsLeft_Departure) {
             PressKey(key);
         PumpUntilIdle();
         EXPECT_FALSE(IsOpen());
-        EXPECT_EQ("1", Text(5, ZONE));
-        EXPECT_EQ(slots, ZoneSlots);
+        EXPECT_EQ(Text(5, ZONE), "1");
+        EXPECT_EQ(ZoneSlots, slots);
     }
     OpenChoice(5, ZONE);
     PressKey("Down");
     PressKey("Escape");
-    EXPECT_EQ(slots, ZoneSlots);
+    EXPECT_EQ(ZoneSlots, slots);
     PopUp(5, ZONE);
     PressKey("Escape");
     EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
-    EXPECT_EQ(slots, ZoneSlots);
-    EXPECT_EQ("1", After(5, ZONE, "1\n"));
-    EXPECT_EQ(slots, ZoneSlots) << "chosen again";
+    EXPECT_EQ(ZoneSlots, slots);
+    EXPECT_EQ(After(5, ZONE, "1\n"), "1");
+    EXPECT_EQ(ZoneSlots, slots) << "chosen again";
 }
 
 TEST_F(ListCells, OfAnotherPageAreLeftAsTheyAreWhenThePageChanges) {
@@ -424,6 +424,6 @@ TEST_F(ListCells, OfAnotherPageAreLeftAsTheyAreWhenThePageChanges) {
     const auto slots = ZoneSlots;
     MainFrame->m_notebook->SetSelection(1);
     PumpUntilIdle();
-    EXPECT_EQ("", PageGrid[0]->GetCellValue(9, TFLG));
-    EXPECT_EQ(slots, ZoneSlots);
+    EXPECT_EQ(PageGrid[0]->GetCellValue(9, TFLG), "");
+    EXPECT_EQ(ZoneSlots, slots);
 }

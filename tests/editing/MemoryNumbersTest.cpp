@@ -12,17 +12,17 @@ TEST_F(MemoryNumbers, OfAnotherRowAreFoundByWhatTheyRead) {
     SetCell(3, MNUM, "7");
     SetCell(5, MNUM, "007");
     SetCell(8, MNUM, "x");
-    EXPECT_EQ(3, FindDuplicateMNum(1, 9, 122, 7));
-    EXPECT_EQ(5, FindDuplicateMNum(1, 3, 122, 7)) << "the row itself doesn't count";
-    EXPECT_EQ(5, FindDuplicateMNum(4, 9, 122, 7)) << "from the start row on";
-    EXPECT_EQ(8, FindDuplicateMNum(1, 9, 122, 0)) << "a text without digits reads 0";
+    EXPECT_EQ(FindDuplicateMNum(1, 9, 122, 7), 3);
+    EXPECT_EQ(FindDuplicateMNum(1, 3, 122, 7), 5) << "the row itself doesn't count";
+    EXPECT_EQ(FindDuplicateMNum(4, 9, 122, 7), 5) << "from the start row on";
+    EXPECT_EQ(FindDuplicateMNum(1, 9, 122, 0), 8) << "a text without digits reads 0";
 }
 
 TEST_F(MemoryNumbers, ThatNobodyHoldsAreFoundBehindTheLastRow) {
     SetCell(5, MNUM, "7");
-    EXPECT_EQ(123, FindDuplicateMNum(1, 5, 122, 7));
-    EXPECT_EQ(5, FindDuplicateMNum(1, 9, 4, 7)) << "rows behind the last aren't looked at";
-    EXPECT_EQ(123, FindDuplicateMNum(1, 9, 122, 0)) << "an empty number is none";
+    EXPECT_EQ(FindDuplicateMNum(1, 5, 122, 7), 123);
+    EXPECT_EQ(FindDuplicateMNum(1, 9, 4, 7), 5) << "rows behind the last aren't looked at";
+    EXPECT_EQ(FindDuplicateMNum(1, 9, 122, 0), 123) << "an empty number is none";
 }
 
 TEST_F(MemoryNumbers, InAnIndexAreThoseOfTheSearch) {
@@ -34,7 +34,7 @@ TEST_F(MemoryNumbers, InAnIndexAreThoseOfTheSearch) {
     const auto expectSame = [&] {
         for (int number : {0, 12, 121, 122, 13, -1})
             for (int row = 1; row <= 122; ++row)
-                ASSERT_EQ(FindDuplicateMNum(1, row, 122, number), index.FindDuplicate(row, number))
+                ASSERT_EQ(index.FindDuplicate(row, number), FindDuplicateMNum(1, row, 122, number))
                     << "number " << number << ", row " << row;
     };
     expectSame();

@@ -122,7 +122,7 @@ TEST_F(ModuleRow, WhoseBandWasRepairedHasTheLocksOfTheNewOneAndKeepsItsTones_Dep
     EXPECT_EQ(Text(5, BAND), "AM 225-400");
     EXPECT_EQ(Text(5, RFRQ), "300.0000");
     EXPECT_EQ(LocksOf(5), m_militaryLocks);
-    EXPECT_EQ((Texts{"n/a", "67.0", "n/a"}), TextsOf(5, {MODE, RTON, RCOD}));
+    EXPECT_EQ(TextsOf(5, {MODE, RTON, RCOD}), (Texts{"n/a", "67.0", "n/a"}));
     TypeIntoCell(*Grid(), 5, RFRQ, "255.0");
     EXPECT_EQ(Text(5, RFRQ), "255.0000");
 }

@@ -34,14 +34,20 @@ protected:
         PumpFor(50);
     }
 
-    /// What the cell's edit holds after the text was pasted behind the typed one.
-    static std::string After(int col, const std::string& typed, const std::string& pasted) {
-        OpenEmpty(5, col);
-        TypeText(typed);
-        PasteWithMouse(pasted);
-        const std::string text = Typed();
-        PressKey("Escape");
-        return text;
+    /// A text typed into an empty cell, one pasted behind it, and what the cell's edit then holds.
+    struct Paste {
+        const char *typed, *pasted, *text;
+    };
+
+    static void ExpectTexts(int col, wxGridCellEditor* editor, std::initializer_list<Paste> pastes) {
+        Install(5, col, editor);
+        for (const Paste& paste : pastes) {
+            OpenEmpty(5, col);
+            TypeText(paste.typed);
+            PasteWithMouse(paste.pasted);
+            EXPECT_EQ(Typed(), paste.text) << '"' << paste.typed << "\" and \"" << paste.pasted << '"';
+            PressKey("Escape");
+        }
     }
 };
 
@@ -49,36 +55,31 @@ protected:
 
 TEST_F(MousePaste, OfADescriptionIsTakenWholeOrNotAtAll) {
     UseRow(5);
-    Install(5, DESC, new ZelkDescriptionEditor(9, 0));
-    EXPECT_EQ("", After(DESC, "", "a~\u00e9|b"));
-    EXPECT_EQ("QU", After(DESC, "qu", "a~b"));
-    EXPECT_EQ("QUAY 3", After(DESC, "qu", "ay 3"));
-    EXPECT_EQ("QU", After(DESC, "qu", "a text that is too long"));
-    Install(5, DESC, new ZelkDescriptionEditor(8, 5));
-    EXPECT_EQ("qu~|", After(DESC, "qu", "~|"));
-    EXPECT_EQ("qu", After(DESC, "qu", "\u00e9"));
+    ExpectTexts(DESC, new ZelkDescriptionEditor(9, 0),
+                {{"", "a~\u00e9|b", ""},
+                 {"qu", "a~b", "QU"},
+                 {"qu", "ay 3", "QUAY 3"},
+                 {"qu", "a text that is too long", "QU"}});
+    ExpectTexts(DESC, new ZelkDescriptionEditor(8, 5), {{"qu", "~|", "qu~|"}, {"qu", "\u00e9", "qu"}});
 }
 
 TEST_F(MousePaste, OfATalkGroupOrNacTakesHexadecimalDigitsAlone) {
     UseRow(5);
-    Install(5, RTGP, new DigitalSquelchEditor(4, 0, 65535));
-    EXPECT_EQ("", After(RTGP, "", "x.y"));
-    EXPECT_EQ("1", After(RTGP, "1", "2g"));
-    EXPECT_EQ("12AF", After(RTGP, "1", "2af"));
-    EXPECT_EQ("12", After(RTGP, "12", "345"));
+    ExpectTexts(RTGP, new DigitalSquelchEditor(4, 0, 65535),
+                {{"", "x.y", ""}, {"1", "2g", "1"}, {"1", "2af", "12AF"}, {"12", "345", "12"}});
 }
 
 TEST_F(MousePaste, OfAFrequencyIsThatOfTheKeyboard) {
     UseRow(5);
-    Install(5, RFRQ, new FrequencyEditor(5, 5, 2500));
-    EXPECT_EQ("155", After(RFRQ, "", "155"));
-    EXPECT_EQ("155", After(RFRQ, "1", "55"));
-    EXPECT_EQ("155.2", After(RFRQ, "", "155.2")) << "keys could have typed it";
-    EXPECT_EQ("155.2", After(RFRQ, "155.", "2"));
-    EXPECT_EQ("155.0", After(RFRQ, "155.0", "13")) << "off the channel step";
-    EXPECT_EQ("", After(RFRQ, "", "199.5")) << "out of band";
-    EXPECT_EQ("", After(RFRQ, "", "155.2c"));
-    EXPECT_EQ("1", After(RFRQ, "1", "x"));
+    ExpectTexts(RFRQ, new FrequencyEditor(5, 5, 2500),
+                {{"", "155", "155"},
+                 {"1", "55", "155"},
+                 {"", "155.2", "155.2"}, // keys could have typed it
+                 {"155.", "2", "155.2"},
+                 {"155.0", "13", "155.0"}, // off the channel step
+                 {"", "199.5", ""},        // out of band
+                 {"", "155.2c", ""},
+                 {"1", "x", "1"}});
 }
 
 TEST_F(MousePaste, ThatIsRefusedLeavesWhatWasSelected) {
@@ -90,9 +91,9 @@ TEST_F(MousePaste, ThatIsRefusedLeavesWhatWasSelected) {
         PressKey("F2");
         PressKey("Ctrl+A");
         PasteWithMouse(text, false);
-        EXPECT_EQ("KEPT", Typed()) << text;
+        EXPECT_EQ(Typed(), "KEPT") << text;
         PressKey("Return");
-        EXPECT_EQ("KEPT", Text(5, DESC)) << text;
+        EXPECT_EQ(Text(5, DESC), "KEPT") << text;
     }
 }
 
@@ -107,7 +108,7 @@ TEST_F(MousePaste, LeavesTheEditUsable) {
     PressKey("BackSpace");
     TypeText("y");
     PressKey("Return");
-    EXPECT_EQ("QUAY", Text(5, DESC));
+    EXPECT_EQ(Text(5, DESC), "QUAY");
 }
 
 TEST_F(MousePaste, OfATextThatAFileBroughtMayBeEditedOn) {
@@ -116,12 +117,12 @@ TEST_F(MousePaste, OfATextThatAFileBroughtMayBeEditedOn) {
     SetCell(5, DESC, "A~B");
     GoTo(5, DESC);
     PressKey("F2");
-    EXPECT_EQ("A~B", Typed());
+    EXPECT_EQ(Typed(), "A~B");
     PressKey("End");
     TypeText("c");
-    EXPECT_EQ("A~BC", Typed());
+    EXPECT_EQ(Typed(), "A~BC");
     PressKey("Escape");
-    EXPECT_EQ("A~B", Text(5, DESC));
+    EXPECT_EQ(Text(5, DESC), "A~B");
 }
 
 // Dragged inside the edit: a drag from another window would end the edit before the drop.
@@ -147,8 +148,8 @@ TEST_F(MousePaste, DroppedTextPassesTheSameRules) {
         PressKey("Escape");
         return typed;
     };
-    EXPECT_EQ("BCA", dragFirstToEnd("ABC"));
-    EXPECT_EQ("~BC", dragFirstToEnd("~BC"));
+    EXPECT_EQ(dragFirstToEnd("ABC"), "BCA");
+    EXPECT_EQ(dragFirstToEnd("~BC"), "~BC");
 }
 
 TEST_F(MousePaste, InsertedBehindTheToolkitsBackPassesTheSameRules) {
@@ -157,8 +158,8 @@ TEST_F(MousePaste, InsertedBehindTheToolkitsBackPassesTheSameRules) {
     OpenEmpty(5, DESC);
     TypeText("ab");
     Control()->WriteText("~");
-    EXPECT_EQ("AB", Typed());
+    EXPECT_EQ(Typed(), "AB");
     Control()->WriteText("c");
-    EXPECT_EQ("ABC", Typed());
+    EXPECT_EQ(Typed(), "ABC");
     PressKey("Escape");
 }

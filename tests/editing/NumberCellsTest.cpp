@@ -79,22 +79,22 @@ TEST_F(NumberCells, AreShownByNumberAndRow) {
                                                         {"502", 0, "GD2"},
                                                         {"503", 3, "503"},
                                                         {"1234", 3, "1234"}})
-        EXPECT_EQ(line.shown, MemoryNumberText(line.text, line.row).utf8_string())
+        EXPECT_EQ(MemoryNumberText(line.text, line.row).utf8_string(), line.shown)
             << line.text << " in row " << line.row;
     Retarget(Kdar2000, 0);
-    EXPECT_EQ("099", MemoryNumberText("99", 99)) << "a page without guard rows";
-    EXPECT_EQ("100", MemoryNumberText("100", 100));
+    EXPECT_EQ(MemoryNumberText("99", 99), "099") << "a page without guard rows";
+    EXPECT_EQ(MemoryNumberText("100", 100), "100");
     Retarget(Krv47, 0);
-    EXPECT_EQ("GD1", MemoryNumberText("121", 121));
-    EXPECT_EQ("GD2", MemoryNumberText("122", 122));
-    EXPECT_EQ("502", MemoryNumberText("502", 2));
+    EXPECT_EQ(MemoryNumberText("121", 121), "GD1");
+    EXPECT_EQ(MemoryNumberText("122", 122), "GD2");
+    EXPECT_EQ(MemoryNumberText("502", 2), "502");
 }
 
 TEST_F(NumberCells, OfUnitIdsAreShownWithSevenDigits) {
     const std::pair<const char*, const char*> lines[] = {
         {"", ""}, {"42", "0000042"}, {"00000001", "0000001"}, {"9999999", "9999999"}, {"x", "0000000"}};
     for (const auto& [text, shown] : lines)
-        EXPECT_EQ(shown, IdcNumberText(text).utf8_string()) << text;
+        EXPECT_EQ(IdcNumberText(text).utf8_string(), shown) << text;
 }
 
 TEST_F(NumberCells, AreDrawnAsTheyAreShown) {
@@ -124,7 +124,7 @@ TEST_F(NumberCells, AreAsWideAsTheirText) {
         const wxGridCellAttrPtr attr = Grid()->GetOrCreateCellAttrPtr(row, col);
         const wxSize best = RendererAt(row, col)->GetBestSize(*Grid(), *attr, dc, row, col);
         dc.SetFont(Grid()->GetCellFont(row, col));
-        EXPECT_EQ(dc.GetTextExtent(text), best) << text;
+        EXPECT_EQ(best, dc.GetTextExtent(text)) << text;
     }
 }
 
@@ -136,19 +136,19 @@ TEST_F(NumberCells, OfDefaultRowsAreReadOnlyAndShowDEFOnEveryPage) {
             Retarget(radio, slot);
             EXPECT_TRUE(IsLocked(0, MNUM)) << radio << ", " << slot;
             EXPECT_FALSE(IsLocked(1, MNUM)) << radio << ", " << slot;
-            EXPECT_EQ("DEF", MemoryNumberText(Cell(0, MNUM), 0)) << radio << ", " << slot;
+            EXPECT_EQ(MemoryNumberText(Cell(0, MNUM), 0), "DEF") << radio << ", " << slot;
         }
 }
 
 TEST_F(NumberCells, TakeTypedNumbersWithThreeDigits) {
     Fill({5});
     TypeIntoCell(*Grid(), 5, MNUM, "9");
-    EXPECT_EQ("009", Text(5, MNUM));
+    EXPECT_EQ(Text(5, MNUM), "009");
     TypeIntoCell(*Grid(), 5, MNUM, "110");
-    EXPECT_EQ("110", Text(5, MNUM));
+    EXPECT_EQ(Text(5, MNUM), "110");
     TypeIntoCell(*Grid(), 5, MNUM, "0");
-    EXPECT_EQ("000", Text(5, MNUM)) << "0 is a number like any other";
-    EXPECT_EQ("", Text(5, PRIM));
+    EXPECT_EQ(Text(5, MNUM), "000") << "0 is a number like any other";
+    EXPECT_EQ(Text(5, PRIM), "");
 }
 
 // A departure: the toolkit's editor would take the highest number, which is a guard memory.
@@ -163,11 +163,11 @@ TEST_F(NumberCells, AboveThePagesRowsAreRefusedWithABoxSoThatNoGuardMemoryIsTake
             dialogs.ExpectMessage("Error", "Memory number must be from 0 to " + std::to_string(rows) + ".")
                 .Style(wxOK | wxCENTRE | wxICON_INFORMATION);
             TypeIntoCell(*Grid(), 5, MNUM, typed);
-            EXPECT_EQ("005", Text(5, MNUM));
+            EXPECT_EQ(Text(5, MNUM), "005");
             EXPECT_FALSE(Grid()->IsCellEditControlShown());
         }
         TypeIntoCell(*Grid(), 5, MNUM, std::to_string(rows - 2));
-        EXPECT_EQ(std::to_string(rows - 2), Text(5, MNUM));
+        EXPECT_EQ(Text(5, MNUM), std::to_string(rows - 2));
     }
 }
 
@@ -179,7 +179,7 @@ TEST_F(NumberCells, Below0AreRefusedAlike) {
     PressKey("F2");
     PressKey("Ctrl+A");
     TypeText("-5\n");
-    EXPECT_EQ("005", Text(5, MNUM));
+    EXPECT_EQ(Text(5, MNUM), "005");
 }
 
 TEST_F(NumberCells, AboveThePagesRowsLeaveABlankRowBlank) {
@@ -199,8 +199,8 @@ TEST_F(NumberCells, AboveThePagesRowsAreRefusedOnceWhateverEndsTheEdit) {
         TypeText("200");
         PressKey(key);
         PumpUntilIdle();
-        EXPECT_EQ("005", Text(5, MNUM));
-        EXPECT_EQ(1u, dialogs.Shown().size());
+        EXPECT_EQ(Text(5, MNUM), "005");
+        EXPECT_EQ(dialogs.Shown().size(), 1u);
     }
     {
         DialogScript dialogs;
@@ -209,17 +209,17 @@ TEST_F(NumberCells, AboveThePagesRowsAreRefusedOnceWhateverEndsTheEdit) {
         TypeText("200");
         ClickAt(CellSpot(*Grid(), 9, DESC));
         PumpUntilIdle();
-        EXPECT_EQ("005", Text(5, MNUM));
+        EXPECT_EQ(Text(5, MNUM), "005");
         EXPECT_FALSE(Grid()->IsCellEditControlShown());
     }
     GoTo(5, MNUM);
     TypeText("200");
     PressKey("Escape");
-    EXPECT_EQ("005", Text(5, MNUM)) << "no box for what is given up";
+    EXPECT_EQ(Text(5, MNUM), "005") << "no box for what is given up";
     GoTo(5, MNUM);
     TypeText("77");
     PressKey("Return");
-    EXPECT_EQ("077", Text(5, MNUM));
+    EXPECT_EQ(Text(5, MNUM), "077");
 }
 
 TEST_F(NumberCells, OfAnotherRowAreRefusedWithABoxThatNamesIt) {
@@ -230,9 +230,9 @@ TEST_F(NumberCells, OfAnotherRowAreRefusedWithABoxThatNamesIt) {
         DialogScript dialogs;
         dialogs.ExpectMessage("Error", "Number already used at row: 017");
         TypeIntoCell(*Grid(), 5, MNUM, "21");
-        EXPECT_EQ(0u, dialogs.Missing());
-        EXPECT_EQ("005", Text(5, MNUM));
-        EXPECT_EQ("21", Text(17, MNUM));
+        EXPECT_EQ(dialogs.Missing(), 0u);
+        EXPECT_EQ(Text(5, MNUM), "005");
+        EXPECT_EQ(Text(17, MNUM), "21");
     }
 }
 
@@ -240,19 +240,19 @@ TEST_F(NumberCells, OfP25RowsAreTheirPrimaryNumberToo) {
     Retarget(Kdrv716, 0);
     Fill({5});
     TypeIntoCell(*Grid(), 5, MNUM, "99");
-    EXPECT_EQ((Texts{"099", "099"}), TextsOf(5, {MNUM, PRIM}));
+    EXPECT_EQ(TextsOf(5, {MNUM, PRIM}), (Texts{"099", "099"}));
 }
 
 TEST_F(NumberCells, OfAPrimaryAreToldToItsShadows) {
     MakePrimaryOfTwo();
     for (const char* number : {"099", "123"}) {
         TypeIntoCell(*Grid(), 5, MNUM, number);
-        EXPECT_EQ((Texts{number, number, "P-3"}), TextsOf(5, {MNUM, PRIM, SHAD}));
+        EXPECT_EQ(TextsOf(5, {MNUM, PRIM, SHAD}), (Texts{number, number, "P-3"}));
         for (int row : {8, 9}) {
-            EXPECT_EQ((Texts{number, std::string("S-") + number}), TextsOf(row, {PRIM, SHAD})) << row;
+            EXPECT_EQ(TextsOf(row, {PRIM, SHAD}), (Texts{number, std::string("S-") + number})) << row;
             EXPECT_TRUE(IsLocked(row, SHAD)) << row;
         }
-        EXPECT_EQ("008", Text(8, MNUM));
+        EXPECT_EQ(Text(8, MNUM), "008");
     }
 }
 
@@ -262,15 +262,15 @@ TEST_F(NumberCells, OfAPrimaryReachNoRowThatIsNoShadow) {
     SetCell(5, SHD4, "503");
     SetCell(5, SHD5, "-3");
     TypeIntoCell(*Grid(), 5, MNUM, "099");
-    EXPECT_EQ((Texts{"004", "N"}), TextsOf(4, {PRIM, SHAD}));
-    EXPECT_EQ("S-099", Text(9, SHAD));
+    EXPECT_EQ(TextsOf(4, {PRIM, SHAD}), (Texts{"004", "N"}));
+    EXPECT_EQ(Text(9, SHAD), "S-099");
 }
 
 TEST_F(NumberCells, OfARowWithoutShadowsTouchNoOther) {
     MakePrimaryOfTwo();
     SetCell(5, MFLG, "00");
     TypeIntoCell(*Grid(), 5, MNUM, "099");
-    EXPECT_EQ((Texts{"005", "S-005"}), TextsOf(8, {PRIM, SHAD}));
+    EXPECT_EQ(TextsOf(8, {PRIM, SHAD}), (Texts{"005", "S-005"}));
 }
 
 TEST_F(NumberCells, AreSearchedByValueFromRowToRow) {
@@ -291,6 +291,6 @@ TEST_F(NumberCells, AreSearchedByValueFromRowToRow) {
                                                         {1, 0, 122, 0, 123},
                                                         {0, 9, 122, 0, 0},
                                                         {1, 0, 122, 99, 123}})
-        EXPECT_EQ(line.found, FindDuplicateMNum(line.start, line.row, line.last, line.number))
+        EXPECT_EQ(FindDuplicateMNum(line.start, line.row, line.last, line.number), line.found)
             << line.start << " " << line.row << " " << line.last << " " << line.number;
 }

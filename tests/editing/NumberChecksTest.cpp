@@ -30,9 +30,9 @@ TEST_F(NumberChecks, ANumberAboveThePagesRowsGoes) {
         Become(page);
         SetCell(rows, MNUM, "");
         CheckMNum(CurrentGrid(), row, wxString::Format("%d", rows));
-        EXPECT_EQ(wxString::Format("%03d", rows), Cell(row, MNUM)) << "page " << page;
+        EXPECT_EQ(Cell(row, MNUM), wxString::Format("%03d", rows)) << "page " << page;
         CheckMNum(CurrentGrid(), row, wxString::Format("%d", rows + 1));
-        EXPECT_EQ("", Cell(row, MNUM)) << "page " << page;
+        EXPECT_EQ(Cell(row, MNUM), "") << "page " << page;
     }
 }
 
@@ -42,20 +42,20 @@ TEST_F(NumberChecks, ANumberThatAnotherRowHoldsIsToldAndGoes) {
         testbench::DialogScript dialogs;
         dialogs.ExpectMessage("Error", "Number already used at row: 012")
             .Style(wxOK | wxCENTRE | wxICON_INFORMATION);
-        EXPECT_EQ(-1, CheckMNum(CurrentGrid(), row, "007"));
+        EXPECT_EQ(CheckMNum(CurrentGrid(), row, "007"), -1);
     }
-    EXPECT_EQ("", Cell(row, MNUM));
+    EXPECT_EQ(Cell(row, MNUM), "");
     EXPECT_FALSE(IsPainted(MNUM));
-    EXPECT_EQ("7", Cell(12, MNUM)) << "the other row keeps its number";
-    EXPECT_EQ(0, CheckMNum(CurrentGrid(), 12, "7")) << "a row is no rival to itself";
+    EXPECT_EQ(Cell(12, MNUM), "7") << "the other row keeps its number";
+    EXPECT_EQ(CheckMNum(CurrentGrid(), 12, "7"), 0) << "a row is no rival to itself";
 }
 
 TEST_F(NumberChecks, ANumberAboveTheRowsIsStillSearchedFor) {
     SetCell(12, MNUM, "9999");
     testbench::DialogScript dialogs;
     dialogs.ExpectMessage("Error", "Number already used at row: 012");
-    EXPECT_EQ(-1, CheckMNum(CurrentGrid(), row, "9999"));
-    EXPECT_EQ("", Cell(row, MNUM));
+    EXPECT_EQ(CheckMNum(CurrentGrid(), row, "9999"), -1);
+    EXPECT_EQ(Cell(row, MNUM), "");
 }
 
 TEST_F(NumberChecks, ThePrimaryIsTheRowsOwnNumber) {
@@ -83,11 +83,11 @@ TEST_F(NumberChecks, ShadowTextsArePlainPrimaryOrShadow) {
 
 TEST_F(NumberChecks, ShadowTextsAnswerWhatTheyAre) {
     Become(Rp25);
-    EXPECT_EQ(0, CheckShad(CurrentGrid(), row, "N"));
-    EXPECT_EQ(0, CheckShad(CurrentGrid(), row, "P-1"));
-    EXPECT_EQ(-1, CheckShad(CurrentGrid(), row, "Q"));
+    EXPECT_EQ(CheckShad(CurrentGrid(), row, "N"), 0);
+    EXPECT_EQ(CheckShad(CurrentGrid(), row, "P-1"), 0);
+    EXPECT_EQ(CheckShad(CurrentGrid(), row, "Q"), -1);
     Become(Anfm);
-    EXPECT_EQ(-2, CheckShad(CurrentGrid(), row, "N"));
+    EXPECT_EQ(CheckShad(CurrentGrid(), row, "N"), -2);
 }
 
 TEST_F(NumberChecks, SquelchValuesBelongToTheSecondGeneration) {

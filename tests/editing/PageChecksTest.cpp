@@ -55,7 +55,7 @@ TEST_F(CheckingAPage, ThatIsEmptyChangesNothing) {
         Retarget(radio, 0);
         const auto before = AllRows();
         CheckPage();
-        EXPECT_EQ(before, AllRows()) << "radio " << radio;
+        EXPECT_EQ(AllRows(), before) << "radio " << radio;
     }
 }
 
@@ -64,7 +64,7 @@ TEST_F(CheckingAPage, NeverChecksTheDefaultRow) {
         SetCell(0, col, "junk");
     const auto before = RowTexts(0);
     CheckPage();
-    EXPECT_EQ(before, RowTexts(0));
+    EXPECT_EQ(RowTexts(0), before);
     EXPECT_FALSE(IsPainted(0, RFRQ));
 }
 
@@ -73,19 +73,19 @@ TEST_F(CheckingAPage, ChecksFirstLastAndGuardRows) {
         SetCell(row, DESC, "low");
     CheckPage();
     for (int row : {1, 60, 120, 121, 122}) {
-        EXPECT_EQ("LOW", Cell(row, DESC)) << row;
-        EXPECT_EQ("66.0000", Cell(row, RFRQ)) << row;
+        EXPECT_EQ(Cell(row, DESC), "LOW") << row;
+        EXPECT_EQ(Cell(row, RFRQ), "66.0000") << row;
         EXPECT_TRUE(IsPainted(row, RFRQ)) << row;
     }
-    EXPECT_EQ("n/a", Cell(121, RTON));
-    EXPECT_EQ("OFF", Cell(120, RTON));
-    EXPECT_EQ((std::vector<int>{1, 60, 120, 121, 122}), FilledRows());
+    EXPECT_EQ(Cell(121, RTON), "n/a");
+    EXPECT_EQ(Cell(120, RTON), "OFF");
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 60, 120, 121, 122}));
 }
 
 TEST_F(CheckingAPage, ChecksARowWhoseOnlyTextIsAFlag) {
     SetCell(4, TFLG, "A0");
     CheckPage();
-    EXPECT_EQ("66.0000", Cell(4, RFRQ));
+    EXPECT_EQ(Cell(4, RFRQ), "66.0000");
 }
 
 TEST_F(CheckingAPage, ShowsOneBoxForEveryRowWhoseNumberIsTaken) {
@@ -97,9 +97,9 @@ TEST_F(CheckingAPage, ShowsOneBoxForEveryRowWhoseNumberIsTaken) {
     dialogs.ExpectMessage("Error", "Number already used at row: 005");
     dialogs.ExpectMessage("Error", "Number already used at row: 009");
     CheckPage();
-    EXPECT_EQ("", Cell(2, MNUM));
-    EXPECT_EQ("", Cell(5, MNUM));
-    EXPECT_EQ("007", Cell(9, MNUM)) << "the last of them is alone by then";
+    EXPECT_EQ(Cell(2, MNUM), "");
+    EXPECT_EQ(Cell(5, MNUM), "");
+    EXPECT_EQ(Cell(9, MNUM), "007") << "the last of them is alone by then";
 }
 
 TEST_F(CheckingAPage, CountsTheZonesAnewFromTheRows) {
@@ -111,16 +111,16 @@ TEST_F(CheckingAPage, CountsTheZonesAnewFromTheRows) {
     AddMemory(501, "1");
     std::fill_n(ZoneSlotsOf(CurrentPage), ZonesPerPage, 13); // what lost edits and deletions leave
     CheckPage();
-    EXPECT_EQ(2, SlotsTaken(CurrentPage, 4));
-    EXPECT_EQ(1, SlotsTaken(CurrentPage, 22));
-    EXPECT_EQ(1, SlotsTaken(CurrentPage, 31));
-    EXPECT_EQ(4, TakenInAll(CurrentPage));
-    EXPECT_EQ("5", Cell(3, ZONE));
-    EXPECT_EQ("5", Cell(4, ZONE));
-    EXPECT_EQ("K", Cell(5, ZONE));
-    EXPECT_EQ("X", Cell(501, ZONE));
+    EXPECT_EQ(SlotsTaken(CurrentPage, 4), 2);
+    EXPECT_EQ(SlotsTaken(CurrentPage, 22), 1);
+    EXPECT_EQ(SlotsTaken(CurrentPage, 31), 1);
+    EXPECT_EQ(TakenInAll(CurrentPage), 4);
+    EXPECT_EQ(Cell(3, ZONE), "5");
+    EXPECT_EQ(Cell(4, ZONE), "5");
+    EXPECT_EQ(Cell(5, ZONE), "K");
+    EXPECT_EQ(Cell(501, ZONE), "X");
     for (int row : {3, 4, 5, 501})
-        EXPECT_EQ("A8", Cell(row, TFLG)) << row;
+        EXPECT_EQ(Cell(row, TFLG), "A8") << row;
 }
 
 TEST_F(CheckingAPage, LeavesTheFirstZoneOfTheNextPageAlone) {
@@ -128,10 +128,10 @@ TEST_F(CheckingAPage, LeavesTheFirstZoneOfTheNextPageAlone) {
     AddPage(Kdrv716, 0);
     MainFrame->m_notebook->SetSelection(1);
     testbench::PumpUntilIdle();
-    ASSERT_EQ(1, CurrentPage);
+    ASSERT_EQ(CurrentPage, 1);
     ZoneSlotsOf(2)[0] = 9;
     CheckPage();
-    EXPECT_EQ(9, SlotsTaken(2, 0));
+    EXPECT_EQ(SlotsTaken(2, 0), 9);
 }
 
 TEST_F(CheckingAPage, KeepsZonesOfTheSecondGenerationAfterAPageOfTheFirstWasMade) {
@@ -139,13 +139,13 @@ TEST_F(CheckingAPage, KeepsZonesOfTheSecondGenerationAfterAPageOfTheFirstWasMade
     ClearMemories();
     AddMemory(3, "W");
     AddPage(Kdrv716, 0);
-    ASSERT_EQ(16u, RadioCatalogue::ZoneList.size());
+    ASSERT_EQ(RadioCatalogue::ZoneList.size(), 16u);
     MainFrame->m_notebook->SetSelection(0);
     testbench::PumpUntilIdle();
-    ASSERT_EQ(0, CurrentPage);
+    ASSERT_EQ(CurrentPage, 0);
     CheckPage();
-    EXPECT_EQ("W", Cell(3, ZONE));
-    EXPECT_EQ(1, SlotsTaken(0, 30));
+    EXPECT_EQ(Cell(3, ZONE), "W");
+    EXPECT_EQ(SlotsTaken(0, 30), 1);
 }
 
 TEST_F(CheckingAPage, PutsNoMoreThan16RowsIntoAZoneAsLongAsTheFirstIsNotFull) {
@@ -154,11 +154,11 @@ TEST_F(CheckingAPage, PutsNoMoreThan16RowsIntoAZoneAsLongAsTheFirstIsNotFull) {
     for (int row = 1; row <= 18; ++row)
         AddMemory(row, "1");
     CheckPage();
-    EXPECT_EQ(16, SlotsTaken(CurrentPage, 0));
-    EXPECT_EQ(2, SlotsTaken(CurrentPage, 1));
-    EXPECT_EQ("1", Cell(16, ZONE));
-    EXPECT_EQ("2", Cell(17, ZONE));
-    EXPECT_EQ("2", Cell(18, ZONE));
+    EXPECT_EQ(SlotsTaken(CurrentPage, 0), 16);
+    EXPECT_EQ(SlotsTaken(CurrentPage, 1), 2);
+    EXPECT_EQ(Cell(16, ZONE), "1");
+    EXPECT_EQ(Cell(17, ZONE), "2");
+    EXPECT_EQ(Cell(18, ZONE), "2");
 }
 
 TEST_F(CheckingAPage, GivesNoSlotToShadows) {
@@ -170,10 +170,10 @@ TEST_F(CheckingAPage, GivesNoSlotToShadows) {
     SetCell(4, MFLG, "01");
     SetCell(4, SHAD, "S-003");
     CheckPage();
-    EXPECT_EQ("4", Cell(3, ZONE));
-    EXPECT_EQ("", Cell(4, ZONE));
-    EXPECT_EQ("S-003", Cell(4, SHAD));
-    EXPECT_EQ(1, TakenInAll(CurrentPage));
+    EXPECT_EQ(Cell(3, ZONE), "4");
+    EXPECT_EQ(Cell(4, ZONE), "");
+    EXPECT_EQ(Cell(4, SHAD), "S-003");
+    EXPECT_EQ(TakenInAll(CurrentPage), 1);
 }
 
 TEST_F(CheckingAPage, TwiceChangesNothing) {
@@ -194,8 +194,8 @@ TEST_F(CheckingAPage, TwiceChangesNothing) {
         const auto once = AllRows();
         const auto counters = Counters(CurrentPage);
         CheckPage();
-        EXPECT_EQ(once, AllRows()) << "radio " << radio;
-        EXPECT_EQ(counters, Counters(CurrentPage)) << "radio " << radio;
+        EXPECT_EQ(AllRows(), once) << "radio " << radio;
+        EXPECT_EQ(Counters(CurrentPage), counters) << "radio " << radio;
     }
 }
 
@@ -208,10 +208,10 @@ TEST_F(CheckingAPage, FromTheMenuSaysSoFirst) {
             .Style(testbench::plainBox)
             .Set([&](wxDialog*) { whileShown = Cell(4, DESC); });
         testbench::RunCommand(IdValidatePage);
-        EXPECT_EQ(1u, dialogs.Shown().size());
+        EXPECT_EQ(dialogs.Shown().size(), 1u);
     }
-    EXPECT_EQ("low", whileShown) << "checked only when the box is closed";
-    EXPECT_EQ("LOW", Cell(4, DESC));
+    EXPECT_EQ(whileShown, "low") << "checked only when the box is closed";
+    EXPECT_EQ(Cell(4, DESC), "LOW");
     EXPECT_TRUE(IsPainted(4, RFRQ));
 }
 
@@ -225,7 +225,7 @@ TEST_F(CheckingAPage, FromTheMenuTakesTheTextOfAnOpenEditorFirst) {
     dialogs.ExpectMessage("Validate Page", "Validate row data");
     testbench::RunCommand(IdValidatePage);
     EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
-    EXPECT_EQ("HALF", Cell(3, DESC));
+    EXPECT_EQ(Cell(3, DESC), "HALF");
 }
 
 TEST_F(CheckingAPage, FollowsAChangeOfTarget) {
@@ -233,36 +233,36 @@ TEST_F(CheckingAPage, FollowsAChangeOfTarget) {
     SetCell(4, MNUM, "4");
     SetCell(4, MODE, "n");
     testbench::ChangeTarget(Krv305);
-    EXPECT_EQ("004", Cell(4, MNUM));
-    EXPECT_EQ("N", Cell(4, MODE));
-    EXPECT_EQ("403.0000", Cell(4, RFRQ));
-    EXPECT_EQ("512.0000", Cell(4, TFRQ));
+    EXPECT_EQ(Cell(4, MNUM), "004");
+    EXPECT_EQ(Cell(4, MODE), "N");
+    EXPECT_EQ(Cell(4, RFRQ), "403.0000");
+    EXPECT_EQ(Cell(4, TFRQ), "512.0000");
     EXPECT_TRUE(IsPainted(4, RFRQ));
     EXPECT_TRUE(IsPainted(4, TFRQ));
     EXPECT_FALSE(IsPainted(4, MODE));
-    EXPECT_EQ((std::vector<int>{4}), FilledRows());
+    EXPECT_EQ(FilledRows(), (std::vector<int>{4}));
 }
 
 TEST_F(CheckingAPage, AfterAChangeToAP25TargetGivesEveryKeptRowAZone) {
     for (int row : {2, 3, 40})
         FillRowsFromDefault({row});
     testbench::ChangeTarget(Kdrv716);
-    EXPECT_EQ((std::vector<int>{1, 2, 3, 40, 231, 232}), FilledRows());
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 2, 3, 40, 231, 232}));
     for (int row : {1, 2, 3, 40}) {
-        EXPECT_EQ("1", Cell(row, ZONE)) << row;
-        EXPECT_EQ("A8", Cell(row, TFLG)) << row;
+        EXPECT_EQ(Cell(row, ZONE), "1") << row;
+        EXPECT_EQ(Cell(row, TFLG), "A8") << row;
     }
-    EXPECT_EQ(4, SlotsTaken(CurrentPage, 0));
-    EXPECT_EQ(2, SlotsTaken(CurrentPage, 15));
-    EXPECT_EQ("002", Cell(2, PRIM));
-    EXPECT_EQ("136.0000", Cell(2, RFRQ));
+    EXPECT_EQ(SlotsTaken(CurrentPage, 0), 4);
+    EXPECT_EQ(SlotsTaken(CurrentPage, 15), 2);
+    EXPECT_EQ(Cell(2, PRIM), "002");
+    EXPECT_EQ(Cell(2, RFRQ), "136.0000");
 }
 
 TEST_F(CheckingAPage, AfterAChangeFromOneP25TargetToTheOtherKeepsTheZones) {
     Retarget(Kdrv716, 0);
     AddMemory(3, "7", "A8");
     testbench::ChangeTarget(Kdrv716B);
-    EXPECT_EQ("7", Cell(3, ZONE));
-    EXPECT_EQ(1, SlotsTaken(CurrentPage, 6));
-    EXPECT_EQ(4, TakenInAll(CurrentPage)) << "rows 1, 3 and the guards";
+    EXPECT_EQ(Cell(3, ZONE), "7");
+    EXPECT_EQ(SlotsTaken(CurrentPage, 6), 1);
+    EXPECT_EQ(TakenInAll(CurrentPage), 4) << "rows 1, 3 and the guards";
 }

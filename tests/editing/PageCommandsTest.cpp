@@ -44,10 +44,10 @@ TEST_F(SelectionCommands, WorkOnTheCurrentPage) {
 
 TEST_F(SelectionCommands, ChangeNoCell) {
     Fill({3});
-    const Texts before = Row(3), defaults = Row(0);
+    const Texts before = RowTexts(3), defaults = RowTexts(0);
     testbench::RunCommand(All);
     testbench::RunCommand(None);
-    EXPECT_EQ(Row(3), before);
-    EXPECT_EQ(Row(0), defaults);
-    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{3});
+    EXPECT_EQ(RowTexts(3), before);
+    EXPECT_EQ(RowTexts(0), defaults);
+    EXPECT_EQ(FilledRows(), std::vector<int>{3});
 }

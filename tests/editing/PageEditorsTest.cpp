@@ -88,12 +88,12 @@ const std::vector<Page>& Pages() {
 class PageEditors : public CellTest {
 protected:
     static void CheckCell(int row, int col, const Look& look) {
-        EXPECT_EQ(look.editor, EditorClass(row, col)) << row << ", " << col;
-        EXPECT_EQ(look.renderer, RendererClass(row, col)) << row << ", " << col;
+        EXPECT_EQ(EditorClass(row, col), look.editor) << row << ", " << col;
+        EXPECT_EQ(RendererClass(row, col), look.renderer) << row << ", " << col;
         int horizontal, vertical;
         Grid()->GetCellAlignment(row, col, &horizontal, &vertical);
-        EXPECT_EQ(look.centred ? wxALIGN_CENTRE : wxALIGN_LEFT, horizontal) << row << ", " << col;
-        EXPECT_EQ(look.centred ? wxALIGN_CENTRE : wxALIGN_TOP, vertical) << row << ", " << col;
+        EXPECT_EQ(horizontal, look.centred ? wxALIGN_CENTRE : wxALIGN_LEFT) << row << ", " << col;
+        EXPECT_EQ(vertical, look.centred ? wxALIGN_CENTRE : wxALIGN_TOP) << row << ", " << col;
     }
 
     static void CheckPage(const Page& page) {
@@ -134,8 +134,8 @@ TEST_F(PageEditors, GiveEachCellItsEditorRendererAndAlignment) {
 
 TEST_F(PageEditors, OfTheFirstPageAreWholeAtTheStart) {
     CheckPage(Pages()[0]);
-    EXPECT_EQ(65u, OfferedIn(1, RTON).size());
-    EXPECT_EQ(84u, OfferedIn(1, RCOD).size());
+    EXPECT_EQ(OfferedIn(1, RTON).size(), 65u);
+    EXPECT_EQ(OfferedIn(1, RCOD).size(), 84u);
 }
 
 TEST_F(PageEditors, LockTheDefaultNumberAndWhatTheRadioFixes) {
@@ -154,7 +154,7 @@ TEST_F(PageEditors, LockTheDefaultNumberAndWhatTheRadioFixes) {
             for (int row : {rows - 1, rows})
                 for (int col : p25 ? std::vector<int>{1, 5, 6} : std::vector<int>{1, 5, 12, 13})
                     expected.insert({row, col});
-        EXPECT_EQ(expected, Locks());
+        EXPECT_EQ(Locks(), expected);
     }
 }
 
@@ -241,9 +241,9 @@ TEST_F(PageEditors, OfferTheChoicesOfTheRadio) {
         Grid()->SetColMinimalWidth(line.col, 60);
         Grid()->SetColSize(line.col, 60);
         const Texts offered = OfferedIn(3, line.col);
-        ASSERT_EQ(line.count, offered.size()) << line.radio << ", " << line.col;
-        EXPECT_EQ(line.first, offered.front()) << line.radio << ", " << line.col;
-        EXPECT_EQ(line.last, offered.back()) << line.radio << ", " << line.col;
+        ASSERT_EQ(offered.size(), line.count) << line.radio << ", " << line.col;
+        EXPECT_EQ(offered.front(), line.first) << line.radio << ", " << line.col;
+        EXPECT_EQ(offered.back(), line.last) << line.radio << ", " << line.col;
     }
 }
 
@@ -252,11 +252,11 @@ TEST_F(PageEditors, OfDigitalRowsOfferDigitalSquelches) {
     Fill({4});
     SetCell(4, MODE, "D");
     SetPageEditors(CurrentPage);
-    EXPECT_EQ((Texts{"m", "n", "g"}), OfferedIn(4, RSQL));
-    EXPECT_EQ((Texts{"g", "i", "-"}), OfferedIn(4, TSQL));
+    EXPECT_EQ(OfferedIn(4, RSQL), (Texts{"m", "n", "g"}));
+    EXPECT_EQ(OfferedIn(4, TSQL), (Texts{"g", "i", "-"}));
     SetCell(4, MFLG, "02");
     SetRowEditorsP25(Grid(), 4);
-    EXPECT_EQ((Texts{"g", "-"}), OfferedIn(4, TSQL));
+    EXPECT_EQ(OfferedIn(4, TSQL), (Texts{"g", "-"}));
 }
 
 TEST_F(PageEditors, KeepTheTextsOfTheCells) {
@@ -268,9 +268,9 @@ TEST_F(PageEditors, KeepTheTextsOfTheCells) {
             SetCell(3, SCAN, "21");
         const wxArrayString before[] = {GetRowValues(0, 0), GetRowValues(0, 1), GetRowValues(0, 3)};
         SetPageEditors(CurrentPage);
-        EXPECT_EQ(before[0], GetRowValues(0, 0));
-        EXPECT_EQ(before[1], GetRowValues(0, 1));
-        EXPECT_EQ(before[2], GetRowValues(0, 3));
+        EXPECT_EQ(GetRowValues(0, 0), before[0]);
+        EXPECT_EQ(GetRowValues(0, 1), before[1]);
+        EXPECT_EQ(GetRowValues(0, 3), before[2]);
     }
 }
 
@@ -278,22 +278,22 @@ TEST_F(PageEditors, LimitNumbersToWhatTheRadioKnows) {
     Retarget(Kdrv716B, 0);
     Fill({4});
     testbench::TypeIntoCell(*Grid(), 4, RNSV, "99");
-    EXPECT_EQ("15", Text(4, RNSV));
+    EXPECT_EQ(Text(4, RNSV), "15");
     testbench::TypeIntoCell(*Grid(), 4, TIDC, "42");
-    EXPECT_EQ("42", Text(4, TIDC));
+    EXPECT_EQ(Text(4, TIDC), "42");
     testbench::TypeIntoCell(*Grid(), 4, TIDC, "99999999");
-    EXPECT_EQ("9999999", Text(4, TIDC));
+    EXPECT_EQ(Text(4, TIDC), "9999999");
 }
 
 TEST_F(PageEditors, ShowTheScanOfYesAndNoAsTextInTheDefaultFont) {
     for (int radio : {Kdar2000, Kdrv716, Kdrv716B}) {
         Retarget(Krv47, 0);
-        EXPECT_EQ("ScanlistRenderer", RendererClass(3, SCAN)) << radio;
+        EXPECT_EQ(RendererClass(3, SCAN), "ScanlistRenderer") << radio;
         Grid()->SetCellFont(3, SCAN, Grid()->GetDefaultCellFont().Larger());
         Retarget(radio, 0);
-        EXPECT_EQ(Plain, RendererClass(3, SCAN)) << radio;
+        EXPECT_EQ(RendererClass(3, SCAN), Plain) << radio;
         if (radio != Kdar2000) {
-            EXPECT_EQ(Grid()->GetDefaultCellFont(), Grid()->GetCellFont(3, SCAN)) << radio;
+            EXPECT_EQ(Grid()->GetCellFont(3, SCAN), Grid()->GetDefaultCellFont()) << radio;
         }
     }
 }
@@ -307,6 +307,6 @@ TEST_F(PageEditors, MakeTheCellsOfAnAnalogPageWritableInEveryRowButTheDefault) {
     for (int row : {0, 1, 60, 120, 121, 122})
         for (int col : {MNUM, SCAN, ZONE, RFRQ, TFRQ}) {
             const bool guard = row > 120 && (col == MNUM || col == SCAN);
-            EXPECT_EQ(guard || (row == 0 && col == MNUM), IsLocked(row, col)) << row << ", " << col;
+            EXPECT_EQ(IsLocked(row, col), guard || (row == 0 && col == MNUM)) << row << ", " << col;
         }
 }

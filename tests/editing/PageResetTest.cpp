@@ -14,22 +14,22 @@ TEST_F(PageReset, LeavesAnAnalogPageWithItsDefaultRowAlone) {
     SetCell(7, DESC, "OLD");
     SetCell(102, TFLG, "A0");
     ResetPage(0);
-    EXPECT_EQ(std::vector<int>{0}, RowsWithText());
-    EXPECT_EQ("VHF   138", Text(0, DESC));
+    EXPECT_EQ(FilledRows(0), std::vector<int>{0});
+    EXPECT_EQ(Text(0, DESC), "VHF   138");
 }
 
 TEST_F(PageReset, FillsTheStartingRowsOfAP25PageAndGivesAllSlotsBack) {
     RetargetTo("RP25");
     FillRowsFromDefault({5, 6, 7});
     ResetPage(0);
-    EXPECT_EQ((std::vector<int>{0, 1, 231, 232}), RowsWithText());
-    EXPECT_EQ(0, TakenSlots());
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 1, 231, 232}));
+    EXPECT_EQ(TakenSlots(), 0);
 }
 
 TEST_F(PageReset, ZeroesTheFlagsOfThePage) {
     CurrentParameters().Flags = PageFromFile | PageHasShadows | PageHasMarks;
     ResetPage(0);
-    EXPECT_EQ(0, CurrentParameters().Flags);
+    EXPECT_EQ(CurrentParameters().Flags, 0);
 }
 
 TEST_F(PageReset, TakesLocksAndPaintOfFormerRowsAway) {
@@ -43,10 +43,10 @@ TEST_F(PageReset, TakesLocksAndPaintOfFormerRowsAway) {
     ResetPage(0);
     for (int col : {MODE, RTON, RCOD, TTON, TCOD}) {
         EXPECT_FALSE(grid->IsReadOnly(40, col)) << ColumnTag[col];
-        EXPECT_EQ(grid->GetDefaultCellBackgroundColour(), grid->GetCellBackgroundColour(40, col))
+        EXPECT_EQ(grid->GetCellBackgroundColour(40, col), grid->GetDefaultCellBackgroundColour())
             << ColumnTag[col];
     }
-    EXPECT_EQ(grid->GetDefaultCellBackgroundColour(), grid->GetCellBackgroundColour(41, RFRQ));
+    EXPECT_EQ(grid->GetCellBackgroundColour(41, RFRQ), grid->GetDefaultCellBackgroundColour());
 }
 
 TEST_F(PageReset, KeepsTheLocksThatThePageNeeds) {
@@ -74,12 +74,12 @@ TEST_F(PageReset, LetsNoRowOfASelectionBeFilled) {
 
 TEST_F(PageReset, CanBeFollowedByEmptyingTheStartingRows) {
     RetargetTo("NP25");
-    EXPECT_EQ(3, TakenSlots());
+    EXPECT_EQ(TakenSlots(), 3);
     EmptyDefaultMemories(0);
-    EXPECT_EQ(std::vector<int>{0}, RowsWithText());
-    EXPECT_EQ(0, TakenSlots());
+    EXPECT_EQ(FilledRows(0), std::vector<int>{0});
+    EXPECT_EQ(TakenSlots(), 0);
     RetargetTo("ANFM");
     SetCell(1, DESC, "KEPT");
     EmptyDefaultMemories(0);
-    EXPECT_EQ("KEPT", Text(1, DESC)) << "only a P25 page has filled rows";
+    EXPECT_EQ(Text(1, DESC), "KEPT") << "only a P25 page has filled rows";
 }

@@ -22,14 +22,14 @@ protected:
 
 TEST_F(PasteRowCommand, WithoutACopyTellsThatThereIsNone) {
     Fill({3});
-    const Texts before = Row(3);
+    const Texts before = RowTexts(3);
     ContextRow = 3;
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, PasteRow);
     dialogs.ExpectMessage("Error - Empty paste buffer!", "Cannot paste empty row.")
         .Style(testbench::plainBox);
     MainFrame->m_contextMenu->SendEvent(PasteRow);
-    EXPECT_EQ(Row(3), before);
+    EXPECT_EQ(RowTexts(3), before);
 }
 
 TEST_F(PasteRowCommand, WritesColumns0To29AndKeepsTheTransferFlags) {
@@ -38,12 +38,12 @@ TEST_F(PasteRowCommand, WritesColumns0To29AndKeepsTheTransferFlags) {
     SetCell(3, TFLG, "A1");
     SetCell(5, TFLG, "C0");
     CopyToWithNumber(3, 5);
-    Texts expected = Row(3);
+    Texts expected = RowTexts(3);
     expected[MNUM] = "005";
     expected[BAND] = "";
     expected[DESC] = "ROW3";
     expected[TFLG] = "C0";
-    EXPECT_EQ(Row(5), expected);
+    EXPECT_EQ(RowTexts(5), expected);
 }
 
 // A departure: with an empty number the pasted row would not be saved.
@@ -108,7 +108,7 @@ TEST_F(PasteRowCommand, PastesOneRowWhateverIsSelected) {
     SelectRows({5, 6, 7});
     ContextRow = 5;
     Run(PasteRow);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{3, 5}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{3, 5}));
 }
 
 TEST_F(PasteRowCommand, OfZoneXLocksScanAndAPasteOfAnotherZoneMakesItWritableAgain) {
@@ -118,11 +118,11 @@ TEST_F(PasteRowCommand, OfZoneXLocksScanAndAPasteOfAnotherZoneMakesItWritableAga
     SetPageEditors(0);
     SetCell(5, TFLG, "A0"); // its zone is to be dealt anew
     CopyToWithNumber(3, 5);
-    ASSERT_EQ("X", Cell(5, ZONE));
+    ASSERT_EQ(Cell(5, ZONE), "X");
     EXPECT_TRUE(IsReadOnly(5, SCAN));
     SetCell(5, TFLG, "A0");
     CopyToWithNumber(4, 5);
-    ASSERT_EQ("1", Cell(5, ZONE));
+    ASSERT_EQ(Cell(5, ZONE), "1");
     EXPECT_FALSE(IsReadOnly(5, SCAN));
     CopyToWithNumber(4, 501);
     EXPECT_TRUE(IsReadOnly(501, SCAN)) << "a guard row's stays locked";
@@ -163,10 +163,7 @@ TEST_F(PasteRowCommand, OfACopiedPrimaryKeepsItsFlagButNoLinks) {
     EXPECT_EQ(Cell(20, SHAD), "N");
     for (int col = SHD0; col <= SHD6; ++col)
         EXPECT_EQ(Cell(20, col), "0") << col;
-    EXPECT_EQ(Cell(20, MFLG), "10");
-    EXPECT_EQ(Cell(20, PRIM), "020");
-    EXPECT_EQ(Cell(20, ZONE), "1");
-    EXPECT_EQ(Cell(20, TFLG), "A8");
+    ExpectCells(20, {{MFLG, "10"}, {PRIM, "020"}, {ZONE, "1"}, {TFLG, "A8"}});
 }
 
 TEST_F(PasteRowCommand, OfACopiedShadowKeepsItsIndex) {
@@ -194,21 +191,16 @@ TEST_F(PasteRowCommand, WorksOnAnotherPageAndItsTypeIsChecked) {
     RunOnRow(CopyRow, 10);
     testbench::AddPage(Krv47);
     RunOnRow(PasteRow, 10);
-    EXPECT_EQ(Cell(10, MNUM), "010");
-    EXPECT_EQ(Cell(10, SHAD), "");
-    EXPECT_EQ(Cell(10, ZONE), "");
-    EXPECT_EQ(Cell(10, MODE), "N");
-    EXPECT_EQ(Cell(10, RFRQ), "66.0000");
-    EXPECT_EQ(Cell(10, RTGP), "");
+    ExpectCells(10, {{MNUM, "010"}, {SHAD, ""}, {ZONE, ""}, {MODE, "N"}, {RFRQ, "66.0000"}, {RTGP, ""}});
 }
 
 TEST_F(PasteRowCommand, NeverTouchesTheDefaultRow) {
     Fill({3});
     RunOnRow(CopyRow, 3);
-    const Texts before = Row(0);
+    const Texts before = RowTexts(0);
     ContextRow = 0;
     MainFrame->m_contextMenu->SendEvent(PasteRow);
-    EXPECT_EQ(Row(0), before);
+    EXPECT_EQ(RowTexts(0), before);
 }
 
 TEST_F(PasteRowCommand, FromTheMenuPastesIntoTheRowThatWasClicked) {
@@ -219,5 +211,5 @@ TEST_F(PasteRowCommand, FromTheMenuPastesIntoTheRowThatWasClicked) {
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, PasteRow);
     ClickRowCommand(6, PasteRow);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{3, 6}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{3, 6}));
 }

@@ -36,7 +36,7 @@ protected:
 
     static void ExpectCells(const Cells& cells, int ofRow = row) {
         for (const auto& [column, text] : cells)
-            EXPECT_EQ(text, Cell(ofRow, column).utf8_string()) << ColumnTag[column];
+            EXPECT_EQ(Cell(ofRow, column).utf8_string(), text) << ColumnTag[column];
     }
 };
 
@@ -47,7 +47,7 @@ TEST_F(CheckingARow, ThatIsBlankLeavesItBlank) {
         Retarget(radio, 0);
         CheckRow(CurrentGrid(), row);
         EXPECT_FALSE(RowHasData(row)) << "radio " << radio;
-        EXPECT_EQ(std::vector<int>{}, PaintedColumns()) << "radio " << radio;
+        EXPECT_EQ(PaintedColumns(), std::vector<int>{}) << "radio " << radio;
     }
 }
 
@@ -134,8 +134,8 @@ TEST_F(CheckingARow, ThatIsGoodChangesNothing) {
         SetCells(line.cells);
         const auto before = RowTexts(row);
         CheckRow(CurrentGrid(), row);
-        EXPECT_EQ(before, RowTexts(row)) << "radio " << line.radio;
-        EXPECT_EQ(std::vector<int>{}, PaintedColumns()) << "radio " << line.radio;
+        EXPECT_EQ(RowTexts(row), before) << "radio " << line.radio;
+        EXPECT_EQ(PaintedColumns(), std::vector<int>{}) << "radio " << line.radio;
     }
 }
 
@@ -160,7 +160,7 @@ TEST_F(CheckingARow, LeavesFlagsAndShadowSlotsAlone) {
                  {SHD5, "\n"},
                  {SHD6, "z"},
                  {TFLG, "A8"}});
-    EXPECT_EQ(std::vector<int>{}, PaintedColumns());
+    EXPECT_EQ(PaintedColumns(), std::vector<int>{});
 }
 
 TEST_F(CheckingARow, WithOnlyADescriptionRepairsTheFrequencies) {
@@ -174,7 +174,7 @@ TEST_F(CheckingARow, WithOnlyADescriptionRepairsTheFrequencies) {
                  {RTON, "OFF"},
                  {TCOD, "OFF"},
                  {TFLG, ""}});
-    EXPECT_EQ((std::vector<int>{MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}), PaintedColumns());
+    EXPECT_EQ(PaintedColumns(), (std::vector<int>{MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}));
 }
 
 TEST_F(CheckingARow, RepairsByWhatTheDefaultRowHoldsHoweverBad) {
@@ -197,7 +197,7 @@ TEST_F(CheckingARow, OfTheModuleAllowsAnyTransmitFrequencyInAm108) {
                      {RCOD, "n/a"},
                      {TTON, "n/a"},
                      {TCOD, "n/a"}});
-        EXPECT_EQ(std::vector<int>{}, PaintedColumns()) << text;
+        EXPECT_EQ(PaintedColumns(), std::vector<int>{}) << text;
     }
 }
 
@@ -205,12 +205,12 @@ TEST_F(CheckingARow, ReplacesAScanOf031AndKeeps31) {
     FillFromDefault();
     SetCell(row, SCAN, "031");
     CheckRow(CurrentGrid(), row);
-    EXPECT_EQ("0", Cell(row, SCAN));
+    EXPECT_EQ(Cell(row, SCAN), "0");
     EXPECT_TRUE(IsPainted(SCAN));
     FillFromDefault(7);
     SetCell(7, SCAN, "31");
     CheckRow(CurrentGrid(), 7);
-    EXPECT_EQ("31", Cell(7, SCAN));
+    EXPECT_EQ(Cell(7, SCAN), "31");
     EXPECT_FALSE(IsPainted(SCAN, 7));
 }
 
@@ -220,7 +220,7 @@ TEST_F(CheckingARow, TurnsLegacyScanMarksIntoAMask) {
          std::map<const char*, const char*>{{"1_3__", "5"}, {"L____", "0"}, {"L234", "0"}}) {
         SetCell(row, SCAN, text);
         CheckRow(CurrentGrid(), row);
-        EXPECT_EQ(mask, Cell(row, SCAN).utf8_string()) << text;
+        EXPECT_EQ(Cell(row, SCAN).utf8_string(), mask) << text;
         EXPECT_FALSE(IsPainted(SCAN)) << text;
     }
 }
@@ -231,7 +231,7 @@ TEST_F(CheckingARow, InZoneXOfTheFirstGenerationFallsToTheFirstFreeZone) {
     SetCells({{DESC, "X"}, {ZONE, "X"}, {TFLG, "A0"}});
     CheckRow(CurrentGrid(), row);
     ExpectCells({{ZONE, "2"}, {TFLG, "A8"}});
-    EXPECT_EQ(1, SlotsTaken(CurrentPage, 1));
+    EXPECT_EQ(SlotsTaken(CurrentPage, 1), 1);
 }
 
 TEST_F(CheckingARow, TwiceTakesOneZoneSlotOnly) {
@@ -240,8 +240,8 @@ TEST_F(CheckingARow, TwiceTakesOneZoneSlotOnly) {
     SetCells({{DESC, "X"}, {ZONE, "3"}, {TFLG, "A0"}});
     CheckRow(CurrentGrid(), row);
     CheckRow(CurrentGrid(), row);
-    EXPECT_EQ(before + 1, SlotsTaken(CurrentPage, 2));
-    EXPECT_EQ("3", Cell(row, ZONE));
+    EXPECT_EQ(SlotsTaken(CurrentPage, 2), before + 1);
+    EXPECT_EQ(Cell(row, ZONE), "3");
 }
 
 TEST_F(CheckingARow, InAZoneThatHasJustBeenFilledKeepsItsTextAndIsFlagged) {
@@ -250,7 +250,7 @@ TEST_F(CheckingARow, InAZoneThatHasJustBeenFilledKeepsItsTextAndIsFlagged) {
     SetCells({{DESC, "X"}, {ZONE, "5"}, {TFLG, "A0"}});
     CheckRow(CurrentGrid(), row);
     ExpectCells({{ZONE, "5"}, {TFLG, "A8"}});
-    EXPECT_EQ(16, SlotsTaken(CurrentPage, 4));
+    EXPECT_EQ(SlotsTaken(CurrentPage, 4), 16);
 }
 
 TEST_F(CheckingARow, OfAShadowEmptiesItsZoneAndPointsPrimToItself) {
@@ -267,7 +267,7 @@ TEST_F(CheckingARow, WithNumber9999On200RowsEmptiesItWithoutABox) {
     SetCell(row, MNUM, "9999");
     testbench::DialogScript dialogs;
     CheckRow(CurrentGrid(), row);
-    EXPECT_EQ("", Cell(row, MNUM));
+    EXPECT_EQ(Cell(row, MNUM), "");
     EXPECT_TRUE(dialogs.Shown().empty());
 }
 
@@ -297,7 +297,7 @@ TEST_F(CheckingARow, LooksAtTheBandBeforeTheFrequencies) {
     SetCells({{BAND, "FM 66-88"}, {RFRQ, "40.0000"}, {TFRQ, "70.0000"}});
     CheckRow(CurrentGrid(), row);
     ExpectCells({{BAND, "FM 30-50"}, {RFRQ, "40.0000"}, {TFRQ, "31.0000"}});
-    EXPECT_EQ((std::vector<int>{BAND, TFRQ}), PaintedColumns());
+    EXPECT_EQ(PaintedColumns(), (std::vector<int>{BAND, TFRQ}));
 }
 
 TEST_F(CheckingARow, LooksAtTheModeBeforeTheSquelch) {
@@ -306,7 +306,7 @@ TEST_F(CheckingARow, LooksAtTheModeBeforeTheSquelch) {
     SetCells({{MODE, "digital"}, {RSQL, "m"}, {TSQL, "g"}});
     CheckRow(CurrentGrid(), row);
     ExpectCells({{MODE, "n"}, {RSQL, "x"}, {TSQL, "x"}});
-    EXPECT_EQ((std::vector<int>{MODE, RSQL, TSQL}), PaintedColumns());
+    EXPECT_EQ(PaintedColumns(), (std::vector<int>{MODE, RSQL, TSQL}));
 }
 
 TEST_F(CheckingARow, OfP25WithoutASquelchEndsWithTheCodesLetter) {
@@ -315,7 +315,7 @@ TEST_F(CheckingARow, OfP25WithoutASquelchEndsWithTheCodesLetter) {
     SetCells({{RSQL, ""}, {TSQL, ""}});
     CheckRow(CurrentGrid(), row);
     ExpectCells({{RSQL, "c"}, {TSQL, "c"}, {RTON, "67.0"}, {RCOD, "023"}});
-    EXPECT_EQ((std::vector<int>{RSQL, TSQL}), PaintedColumns());
+    EXPECT_EQ(PaintedColumns(), (std::vector<int>{RSQL, TSQL}));
 }
 
 TEST_F(CheckingARow, OfP25WithoutASquelchAndCodeEndsWithTheTonesLetter) {
@@ -324,7 +324,7 @@ TEST_F(CheckingARow, OfP25WithoutASquelchAndCodeEndsWithTheTonesLetter) {
     SetCells({{RSQL, ""}, {RCOD, "OFF"}, {TSQL, "x"}});
     CheckRow(CurrentGrid(), row);
     ExpectCells({{RSQL, "t"}, {RTON, "67.0"}, {RCOD, "023"}, {TSQL, "x"}});
-    EXPECT_EQ((std::vector<int>{RSQL, RCOD}), PaintedColumns());
+    EXPECT_EQ(PaintedColumns(), (std::vector<int>{RSQL, RCOD}));
 }
 
 TEST_F(CheckingARow, OfAnFmRadioTakesToneAndCodeByTheSquelchThatItHeld) {
@@ -342,7 +342,7 @@ TEST_F(CheckingARow, OfAnFmRadioTakesToneAndCodeByTheSquelchThatItHeld) {
         SetCells({{RTON, "67.0"}, {RCOD, "023"}, {TSQL, line.squelch}, {TTON, "67.0"}, {TCOD, "023"}});
         CheckRow(CurrentGrid(), row);
         ExpectCells({{TSQL, ""}, {RTON, "67.0"}, {RCOD, "023"}, {TTON, line.tone}, {TCOD, line.code}});
-        EXPECT_EQ(std::vector<int>{}, PaintedColumns()) << '"' << line.squelch << '"';
+        EXPECT_EQ(PaintedColumns(), std::vector<int>{}) << '"' << line.squelch << '"';
     }
 }
 
@@ -352,7 +352,7 @@ TEST_F(CheckingARow, OfFxamLosesItsTonesAndKeepsItsCodes) {
     SetCells({{RTON, "67.0"}, {TTON, "67.0"}, {RCOD, "023"}, {TCOD, "000"}});
     CheckRow(CurrentGrid(), row);
     ExpectCells({{RTON, ""}, {TTON, ""}, {RCOD, "023"}, {TCOD, "OFF"}});
-    EXPECT_EQ(std::vector<int>{}, PaintedColumns());
+    EXPECT_EQ(PaintedColumns(), std::vector<int>{});
 }
 
 TEST_F(CheckingARow, AgainChangesNothingWhateverTheTextsWere) {
@@ -384,6 +384,6 @@ TEST_F(CheckingARow, AgainChangesNothingWhateverTheTextsWere) {
             CheckRow(CurrentGrid(), row);
             const auto once = RowTexts(row);
             CheckRow(CurrentGrid(), row);
-            EXPECT_EQ(once, RowTexts(row)) << "radio " << target.radio << ", " << text.Left(30);
+            EXPECT_EQ(RowTexts(row), once) << "radio " << target.radio << ", " << text.Left(30);
         }
 }

@@ -13,11 +13,11 @@ class MarkRowCommand : public CommandTest {};
 
 TEST_F(DefaultRowCommand, WritesTheDefaultRowIntoTheRow) {
     RunOnRow(DefaultRow, 7);
-    Texts expected = Row(0);
+    Texts expected = RowTexts(0);
     expected[MNUM] = "007";
     expected[DESC] = "LOW   007";
-    EXPECT_EQ(Row(7), expected);
-    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{7});
+    EXPECT_EQ(RowTexts(7), expected);
+    EXPECT_EQ(FilledRows(), std::vector<int>{7});
     EXPECT_FALSE(CurrentGrid()->IsInSelection(7, 0)) << "the selection is cleared";
 }
 
@@ -55,8 +55,8 @@ TEST_F(DefaultRowCommand, OnAPrimaryEmptiesItsShadows) {
     Fill({10, 20});
     Link(10, {11, 12});
     RunOnRow(DefaultRow, 10);
-    EXPECT_EQ(Row(11), Blank());
-    EXPECT_EQ(Row(12), Blank());
+    EXPECT_EQ(RowTexts(11), Blank());
+    EXPECT_EQ(RowTexts(12), Blank());
     EXPECT_EQ(Cell(10, MFLG), "0");
     EXPECT_EQ(Cell(10, SHAD), "N");
     EXPECT_EQ(Cell(10, SHD0), "0");
@@ -104,11 +104,11 @@ TEST_F(DefaultRowCommand, LeavesWhatTheRadioFixesInGuardRowsLocked) {
 
 TEST_F(DefaultRowCommand, NeverTouchesTheDefaultRow) {
     Retarget(Kdrv716, 0);
-    const Texts before = Row(0);
+    const Texts before = RowTexts(0);
     CurrentGrid()->ClearSelection();
     ContextRow = 0;
     Run(DefaultRow);
-    EXPECT_EQ(Row(0), before);
+    EXPECT_EQ(RowTexts(0), before);
 }
 
 TEST_F(DefaultRowCommand, FromTheMenuWorksOnTheRowThatWasClicked) {
@@ -116,7 +116,7 @@ TEST_F(DefaultRowCommand, FromTheMenuWorksOnTheRowThatWasClicked) {
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, DefaultRow);
     ClickRowCommand(4, DefaultRow);
-    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{4});
+    EXPECT_EQ(FilledRows(), std::vector<int>{4});
 }
 
 TEST_F(CopyRowCommand, KeepsAll32CellsAndSelectsTheRowAlone) {
@@ -146,7 +146,7 @@ TEST_F(DefaultRowCommand, WithAContextRowOfALongerPageWorksOnTheSelection) {
     SelectRows({3});
     ContextRow = 400;
     Run(DefaultRow);
-    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{3});
+    EXPECT_EQ(FilledRows(), std::vector<int>{3});
 }
 
 TEST_F(CopyRowCommand, TakesTheLinksOutOfACopiedPrimaryOrShadowButNotTheirFlags) {
@@ -196,8 +196,8 @@ TEST_F(ClearRowCommand, EmptiesTheSelectedRows) {
     Fill({2, 3, 4, 5, 121, 122});
     SelectRows({0, 3, 5, 122});
     Run(ClearRow);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{2, 4, 121}));
-    EXPECT_NE(Row(0), Blank());
+    EXPECT_EQ(FilledRows(), (std::vector<int>{2, 4, 121}));
+    EXPECT_NE(RowTexts(0), Blank());
     EXPECT_FALSE(CurrentGrid()->IsInSelection(3, 0));
 }
 
@@ -206,7 +206,7 @@ TEST_F(ClearRowCommand, TakesARowAsSelectedWhenItsFirstCellIs) {
     CurrentGrid()->SelectBlock(2, 1, 3, 31);
     CurrentGrid()->SelectBlock(4, 0, 5, 0, true);
     Run(ClearRow);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{2, 3}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{2, 3}));
 }
 
 TEST_F(ClearRowCommand, GivesTheZonesOfP25RowsBack) {
@@ -216,7 +216,7 @@ TEST_F(ClearRowCommand, GivesTheZonesOfP25RowsBack) {
     SelectRows({2, 4});
     Run(ClearRow);
     EXPECT_EQ(SlotsTaken(0), 2);
-    EXPECT_EQ(Row(4), Blank());
+    EXPECT_EQ(RowTexts(4), Blank());
 }
 
 TEST_F(ClearRowCommand, OnAPrimaryEmptiesItsShadowsToo) {
@@ -225,7 +225,7 @@ TEST_F(ClearRowCommand, OnAPrimaryEmptiesItsShadowsToo) {
     Link(10, {11, 12});
     RunOnRow(ClearRow, 10);
     for (int row : {10, 11, 12})
-        EXPECT_EQ(Row(row), Blank()) << row;
+        EXPECT_EQ(RowTexts(row), Blank()) << row;
     EXPECT_EQ(Cell(14, DESC), "row14");
     EXPECT_FALSE(IsReadOnly(12, RFRQ));
     EXPECT_TRUE(IsReadOnly(12, SHAD));
@@ -236,7 +236,7 @@ TEST_F(ClearRowCommand, OnAShadowFreesItsSlotAndKeepsThePrimary) {
     Fill({10});
     Link(10, {11, 12});
     RunOnRow(ClearRow, 11);
-    EXPECT_EQ(Row(11), Blank());
+    EXPECT_EQ(RowTexts(11), Blank());
     EXPECT_EQ(Column(SHD0, {10}), Texts{"0"});
     EXPECT_EQ(Column(SHD1, {10}), Texts{"012"});
     EXPECT_EQ(Cell(10, SHAD), "P-2");
@@ -258,7 +258,7 @@ TEST_F(ClearRowCommand, LeavesWhatTheRadioFixesInGuardRowsLocked) {
         CurrentGrid()->SetReadOnly(5, DESC, true);
         SelectRows({5, GD2});
         Run(ClearRow);
-        EXPECT_EQ(Row(GD2), Blank());
+        EXPECT_EQ(RowTexts(GD2), Blank());
         EXPECT_EQ(Locked(GD2), page.locked);
         EXPECT_EQ(Locked(GD1), page.locked);
         EXPECT_FALSE(IsReadOnly(5, DESC));
@@ -271,7 +271,7 @@ TEST_F(ClearRowCommand, OnAnalogPagesKnowsNoLinks) {
     SetCell(5, SHD0, "006");
     SetCell(6, MFLG, "01");
     RunOnRow(ClearRow, 5);
-    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{6});
+    EXPECT_EQ(FilledRows(), std::vector<int>{6});
 }
 
 TEST_F(ClearRowCommand, FromTheMenuClearsTheRowThatWasClicked) {
@@ -281,7 +281,7 @@ TEST_F(ClearRowCommand, FromTheMenuClearsTheRowThatWasClicked) {
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, ClearRow);
     ClickRowCommand(3, ClearRow);
-    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{4});
+    EXPECT_EQ(FilledRows(), std::vector<int>{4});
 }
 
 TEST_F(InsertRowCommand, MovesTheRowsDownAndNumbersThem) {
@@ -290,7 +290,7 @@ TEST_F(InsertRowCommand, MovesTheRowsDownAndNumbersThem) {
     SetCell(2, SHAD, "kept");
     SetCell(3, PRIM, "kept");
     RunOnRow(InsertRow, 2);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 3, 4, 6, 100}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 3, 4, 6, 100}));
     EXPECT_EQ(Column(DESC, {1, 3, 4, 6, 100}), (Texts{"row1", "row2", "row3", "row5", "row99"}));
     EXPECT_EQ(Column(MNUM, {1, 3, 4, 6, 100}), (Texts{"001", "3", "4", "6", "100"})) << "no leading zeros";
     EXPECT_EQ(Cell(3, SHAD), "kept");
@@ -310,7 +310,7 @@ TEST_F(InsertRowCommand, OnAFullPageLosesTheLastMemoryAndKeepsItsZoneSlot) {
     SetCell(229, DESC, "new last");
     SetCell(230, DESC, "lost");
     RunOnRow(InsertRow, 5);
-    EXPECT_EQ(Row(5), Blank());
+    EXPECT_EQ(RowTexts(5), Blank());
     EXPECT_EQ(Cell(230, DESC), "new last");
     EXPECT_EQ(Cell(230, MNUM), "230");
     EXPECT_EQ(Cell(230, PRIM), "229") << "links hold the former numbers";
@@ -322,11 +322,11 @@ TEST_F(InsertRowCommand, OnAPageWithGuardsLeavesThemInPlace) {
         SCOPED_TRACE(radio);
         Retarget(radio, 0);
         Fill({GD1, GD2, GD1 - 1, GD1 - 2});
-        const Texts first = Row(GD1), second = Row(GD2);
+        const Texts first = RowTexts(GD1), second = RowTexts(GD2);
         RunOnRow(InsertRow, 1);
-        EXPECT_EQ(Row(1), Blank());
-        EXPECT_EQ(Row(GD1), first);
-        EXPECT_EQ(Row(GD2), second);
+        EXPECT_EQ(RowTexts(1), Blank());
+        EXPECT_EQ(RowTexts(GD1), first);
+        EXPECT_EQ(RowTexts(GD2), second);
         EXPECT_EQ(Cell(GD1 - 1, DESC), wxString::Format("row%d", GD1 - 2));
         EXPECT_TRUE(IsReadOnly(GD1, MNUM));
         EXPECT_TRUE(IsReadOnly(GD2, SCAN));
@@ -359,11 +359,11 @@ TEST_F(InsertRowCommand, AtTheLastRowEmptiesIt) {
     Retarget(Kdar2000, 0);
     Fill({99, 100});
     RunOnRow(InsertRow, 100);
-    EXPECT_EQ(testbench::RowsWithData(), std::vector<int>{99});
+    EXPECT_EQ(FilledRows(), std::vector<int>{99});
     Retarget(Krv47, 0);
     Fill({119, 120, 121});
     RunOnRow(InsertRow, 120);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{119, 121}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{119, 121}));
 }
 
 TEST_F(InsertRowCommand, MovesPaintWithItsRow) {
@@ -376,13 +376,13 @@ TEST_F(InsertRowCommand, MovesPaintWithItsRow) {
 
 TEST_F(InsertRowCommand, IsNotCarriedOutAboveTheDefaultRowOrAtAGuardRow) {
     Fill({1, 120, 121});
-    const Texts defaults = Row(0);
+    const Texts defaults = RowTexts(0);
     for (int row : {0, 121, 122}) {
         ContextRow = row;
         MainFrame->m_contextMenu->SendEvent(InsertRow);
     }
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 120, 121}));
-    EXPECT_EQ(Row(0), defaults);
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 120, 121}));
+    EXPECT_EQ(RowTexts(0), defaults);
 }
 
 TEST_F(InsertRowCommand, FromTheMenuInsertsAboveTheRowThatWasClicked) {
@@ -412,22 +412,22 @@ TEST_F(DeleteRowCommand, WithOnlyRow1SelectedLeavesItInPlace) {
     for (int radio : {Krv47, Kdrv716, Kdar2000}) {
         Retarget(radio, 0);
         Fill({1, 2});
-        const Texts first = Row(1), second = Row(2);
+        const Texts first = RowTexts(1), second = RowTexts(2);
         RunOnRow(DeleteRow, 1);
-        EXPECT_EQ(Row(1), first);
-        EXPECT_EQ(Row(2), second);
+        EXPECT_EQ(RowTexts(1), first);
+        EXPECT_EQ(RowTexts(2), second);
     }
 }
 
 TEST_F(DeleteRowCommand, OfTheWholePageLeavesRow1AndTheGuards) {
     Fill({1, 2, 3, 120, 121, 122});
-    const Texts first = Row(121), second = Row(122);
+    const Texts first = RowTexts(121), second = RowTexts(122);
     CurrentGrid()->SelectAll();
     Run(DeleteRow);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 121, 122}));
-    EXPECT_EQ(Row(121), first);
-    EXPECT_EQ(Row(122), second);
-    EXPECT_NE(Row(0), Blank());
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 121, 122}));
+    EXPECT_EQ(RowTexts(121), first);
+    EXPECT_EQ(RowTexts(122), second);
+    EXPECT_NE(RowTexts(0), Blank());
 }
 
 TEST_F(DeleteRowCommand, OnAPageWithGuardsLeavesThemInPlace) {
@@ -435,13 +435,13 @@ TEST_F(DeleteRowCommand, OnAPageWithGuardsLeavesThemInPlace) {
         SCOPED_TRACE(radio);
         Retarget(radio, 0);
         Fill({GD1, GD2, GD1 - 1, 5});
-        const Texts first = Row(GD1), second = Row(GD2);
+        const Texts first = RowTexts(GD1), second = RowTexts(GD2);
         SelectRows({5, GD1});
         Run(DeleteRow);
-        EXPECT_EQ(Row(GD1), first);
-        EXPECT_EQ(Row(GD2), second);
+        EXPECT_EQ(RowTexts(GD1), first);
+        EXPECT_EQ(RowTexts(GD2), second);
         EXPECT_EQ(Cell(GD1 - 2, DESC), wxString::Format("row%d", GD1 - 1));
-        EXPECT_EQ(Row(GD1 - 1), Blank());
+        EXPECT_EQ(RowTexts(GD1 - 1), Blank());
         EXPECT_TRUE(IsReadOnly(GD1, MNUM));
         EXPECT_FALSE(IsReadOnly(GD1 - 1, MNUM));
     }
@@ -452,8 +452,8 @@ TEST_F(DeleteRowCommand, OnAPrimaryEmptiesItsShadowsRowsButKeepsThemInThePage) {
     Fill({10, 15});
     Link(10, {12, 13});
     RunOnRow(DeleteRow, 10);
-    EXPECT_EQ(Row(11), Blank());
-    EXPECT_EQ(Row(12), Blank());
+    EXPECT_EQ(RowTexts(11), Blank());
+    EXPECT_EQ(RowTexts(12), Blank());
     EXPECT_EQ(Column(DESC, {14}), Texts{"row15"}) << "one row has gone, not three";
 }
 
@@ -475,7 +475,7 @@ TEST_F(DeleteRowCommand, OfAPrimaryWithItsShadowsLeavesNothingOfThem) {
     Link(10, {11, 12});
     SelectRows({10, 11, 12});
     Run(DeleteRow);
-    EXPECT_EQ(testbench::RowsWithData(), (std::vector<int>{1, 2, 12, 231, 232}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 2, 12, 231, 232}));
     EXPECT_EQ(Cell(12, DESC), "row15");
 }
 

@@ -55,16 +55,16 @@ protected:
 } // namespace
 
 TEST_F(ScanCells, DrawABoxForEachList) {
-    EXPECT_EQ(Empty + Empty + Empty + Empty + Empty, ScanMaskText(0));
-    EXPECT_EQ(Crossed + Crossed + Crossed + Crossed + Crossed, ScanMaskText(31));
-    EXPECT_EQ(Crossed + Empty + Empty + Empty + Empty, ScanMaskText(1));
-    EXPECT_EQ(Empty + Empty + Empty + Empty + Crossed, ScanMaskText(16));
-    EXPECT_EQ(Crossed + Empty + Crossed + Empty + Empty, ScanMaskText(5));
-    EXPECT_EQ("", ScanMaskText(-1));
-    EXPECT_EQ("", ScanMaskText(-2));
+    EXPECT_EQ(ScanMaskText(0), Empty + Empty + Empty + Empty + Empty);
+    EXPECT_EQ(ScanMaskText(31), Crossed + Crossed + Crossed + Crossed + Crossed);
+    EXPECT_EQ(ScanMaskText(1), Crossed + Empty + Empty + Empty + Empty);
+    EXPECT_EQ(ScanMaskText(16), Empty + Empty + Empty + Empty + Crossed);
+    EXPECT_EQ(ScanMaskText(5), Crossed + Empty + Crossed + Empty + Empty);
+    EXPECT_EQ(ScanMaskText(-1), "");
+    EXPECT_EQ(ScanMaskText(-2), "");
     for (int mask = 0; mask < 32; ++mask)
         for (int list = 0; list < 5; ++list)
-            EXPECT_EQ(mask / (1 << list) % 2 ? Crossed : Empty, wxString(ScanMaskText(mask)[list]))
+            EXPECT_EQ(wxString(ScanMaskText(mask)[list]), mask / (1 << list) % 2 ? Crossed : Empty)
                 << mask << ", list " << list + 1;
 }
 
@@ -74,7 +74,7 @@ TEST_F(ScanCells, HoldANumberFrom0To31) {
                                                  {"N", 0},   {"007", 7}, {"99999999999", 0}};
     for (const auto& [text, mask] : lines) {
         SetCell(5, SCAN, text);
-        EXPECT_EQ(mask, GetScanMask(Grid(), 5, SCAN)) << text;
+        EXPECT_EQ(GetScanMask(Grid(), 5, SCAN), mask) << text;
     }
 }
 
@@ -82,25 +82,25 @@ TEST_F(ScanCells, OfARowWithoutANumberHaveNoBoxes) {
     SetCell(5, MNUM, "");
     for (const char* text : {"0", "31", ""}) {
         SetCell(5, SCAN, text);
-        EXPECT_EQ(-1, GetScanMask(Grid(), 5, SCAN)) << text;
+        EXPECT_EQ(GetScanMask(Grid(), 5, SCAN), -1) << text;
     }
 }
 
 TEST_F(ScanCells, AreDrawnByTheirRenderer) {
     auto* renderer = dynamic_cast<ScanlistRenderer*>(RendererAt(5, SCAN));
-    ASSERT_NE(nullptr, renderer);
+    ASSERT_NE(renderer, nullptr);
     wxBitmap bitmap(10, 10);
     wxMemoryDC dc(bitmap);
     const wxGridCellAttrPtr attr = Grid()->GetOrCreateCellAttrPtr(5, SCAN);
     const std::pair<const char*, int> lines[] = {{"31", 31}, {"0", 0}, {"", 0}, {"6", 6}};
     for (const auto& [text, mask] : lines) {
         SetCell(5, SCAN, text);
-        EXPECT_EQ(ScanMaskText(mask), renderer->TextOf(*Grid(), 5, SCAN)) << text;
+        EXPECT_EQ(renderer->TextOf(*Grid(), 5, SCAN), ScanMaskText(mask)) << text;
         const wxSize best = renderer->GetBestSize(*Grid(), *attr, dc, 5, SCAN);
-        EXPECT_EQ(dc.GetTextExtent(ScanMaskText(mask)), best) << text;
+        EXPECT_EQ(best, dc.GetTextExtent(ScanMaskText(mask))) << text;
     }
     SetCell(5, MNUM, "");
-    EXPECT_EQ("", renderer->TextOf(*Grid(), 5, SCAN));
+    EXPECT_EQ(renderer->TextOf(*Grid(), 5, SCAN), "");
 }
 
 TEST_F(ScanCells, AreSetUpWithTheirText) {
@@ -109,12 +109,12 @@ TEST_F(ScanCells, AreSetUpWithTheirText) {
     before->IncRef();
     attr->SetFont(wxFont(wxFontInfo(30)));
     SetScanCell(Grid(), 5, SCAN, "21", false);
-    EXPECT_EQ("21", Text(5, SCAN));
+    EXPECT_EQ(Text(5, SCAN), "21");
     EXPECT_NE(before, EditorAt(5, SCAN));
     before->DecRef();
-    EXPECT_EQ("ScanlistEditor", EditorClass(5, SCAN));
-    EXPECT_EQ("ScanlistRenderer", RendererClass(5, SCAN));
-    EXPECT_EQ(Grid()->GetDefaultCellFont(), Grid()->GetCellFont(5, SCAN));
+    EXPECT_EQ(EditorClass(5, SCAN), "ScanlistEditor");
+    EXPECT_EQ(RendererClass(5, SCAN), "ScanlistRenderer");
+    EXPECT_EQ(Grid()->GetCellFont(5, SCAN), Grid()->GetDefaultCellFont());
 }
 
 TEST_F(ScanCells, TurnABoxOverByKey) {
@@ -131,39 +131,39 @@ TEST_F(ScanCells, TurnABoxOverByKey) {
                                                         {"31", "5", "15"},
                                                         {"", "2", "2"},
                                                         {"99", "2", "2"}})
-        EXPECT_EQ(line.to, KeyedFrom(line.from, line.key)) << line.from << ", key " << line.key;
+        EXPECT_EQ(KeyedFrom(line.from, line.key), line.to) << line.from << ", key " << line.key;
 }
 
 TEST_F(ScanCells, IgnoreOtherKeys) {
     for (const char* key : {"6", "0", "9", "x", "space", "F2", "plus"})
-        EXPECT_EQ("5", KeyedFrom("5", key)) << key;
+        EXPECT_EQ(KeyedFrom("5", key), "5") << key;
 }
 
 TEST_F(ScanCells, TurnABoxOverByClick) {
     const int box = BoxesWidth() / 5;
     ASSERT_GT(box, 3);
     ASSERT_GT(Grid()->GetColSize(SCAN), 5 * box + 2) << "there is room behind the boxes";
-    EXPECT_EQ("1", ClickedFrom("0", box / 2)) << "the first box";
-    EXPECT_EQ("0", ClickedFrom("1", box / 2)) << "the first box";
-    EXPECT_EQ("2", ClickedFrom("0", box + box / 2));
-    EXPECT_EQ("4", ClickedFrom("0", 2 * box + box / 2));
-    EXPECT_EQ("23", ClickedFrom("31", 3 * box + box / 2));
-    EXPECT_EQ("16", ClickedFrom("0", 4 * box + 1)) << "the last box";
-    EXPECT_EQ("15", ClickedFrom("31", 5 * box - 1)) << "the last box, at its right edge";
+    EXPECT_EQ(ClickedFrom("0", box / 2), "1") << "the first box";
+    EXPECT_EQ(ClickedFrom("1", box / 2), "0") << "the first box";
+    EXPECT_EQ(ClickedFrom("0", box + box / 2), "2");
+    EXPECT_EQ(ClickedFrom("0", 2 * box + box / 2), "4");
+    EXPECT_EQ(ClickedFrom("31", 3 * box + box / 2), "23");
+    EXPECT_EQ(ClickedFrom("0", 4 * box + 1), "16") << "the last box";
+    EXPECT_EQ(ClickedFrom("31", 5 * box - 1), "15") << "the last box, at its right edge";
 }
 
 TEST_F(ScanCells, OnlyTakeTheCursorAtTheFirstClick) {
     SetCell(5, SCAN, "5");
     GoTo(2, DESC);
     ClickAt(CellSpot(*Grid(), 5, SCAN));
-    EXPECT_EQ("5", Text(5, SCAN));
-    EXPECT_EQ(wxGridCellCoords(5, SCAN), Grid()->GetGridCursorCoords());
+    EXPECT_EQ(Text(5, SCAN), "5");
+    EXPECT_EQ(Grid()->GetGridCursorCoords(), wxGridCellCoords(5, SCAN));
 }
 
 TEST_F(ScanCells, IgnoreAClickBehindTheBoxes) {
     const int boxes = BoxesWidth() / 5 * 5;
-    EXPECT_EQ("5", ClickedFrom("5", boxes));
-    EXPECT_EQ("5", ClickedFrom("5", Grid()->GetColSize(SCAN) - 2));
+    EXPECT_EQ(ClickedFrom("5", boxes), "5");
+    EXPECT_EQ(ClickedFrom("5", Grid()->GetColSize(SCAN) - 2), "5");
 }
 
 TEST_F(ScanCells, AreFoundByClicksOnAScrolledPage) {
@@ -173,7 +173,7 @@ TEST_F(ScanCells, AreFoundByClicksOnAScrolledPage) {
     PumpUntilIdle();
     ASSERT_GT(Grid()->CalcUnscrolledPosition(wxPoint(0, 0)).x, 0);
     const int box = BoxesWidth() / 5;
-    EXPECT_EQ("8", ClickedFrom("0", 3 * box + box / 2));
+    EXPECT_EQ(ClickedFrom("0", 3 * box + box / 2), "8");
 }
 
 TEST_F(ScanCells, OfARowWithoutANumberRefuseTheMouseWithABox) {
@@ -181,15 +181,15 @@ TEST_F(ScanCells, OfARowWithoutANumberRefuseTheMouseWithABox) {
     DialogScript dialogs;
     dialogs.ExpectMessage("ERROR", "Chan number cannot be empty!")
         .Style(wxOK | wxCENTRE | wxICON_INFORMATION);
-    EXPECT_EQ("5", ClickedFrom("5", 5));
-    EXPECT_EQ(0u, dialogs.Missing());
-    EXPECT_EQ("", Text(5, MNUM));
+    EXPECT_EQ(ClickedFrom("5", 5), "5");
+    EXPECT_EQ(dialogs.Missing(), 0u);
+    EXPECT_EQ(Text(5, MNUM), "");
 }
 
 TEST_F(ScanCells, OfARowWithoutANumberTurnOverABitOfMinusOneByKey) {
     SetCell(5, MNUM, "");
-    EXPECT_EQ("-2", KeyedFrom("5", "1"));
-    EXPECT_EQ("-17", KeyedFrom("5", "5"));
+    EXPECT_EQ(KeyedFrom("5", "1"), "-2");
+    EXPECT_EQ(KeyedFrom("5", "5"), "-17");
 }
 
 TEST_F(ScanCells, TakeNoOrderFromTheProgram) {
@@ -197,7 +197,7 @@ TEST_F(ScanCells, TakeNoOrderFromTheProgram) {
     GoTo(5, SCAN);
     Grid()->EnableCellEditControl();
     PumpUntilIdle();
-    EXPECT_EQ("5", Text(5, SCAN));
+    EXPECT_EQ(Text(5, SCAN), "5");
     EXPECT_FALSE(Grid()->IsCellEditControlShown());
 }
 
@@ -206,18 +206,18 @@ TEST_F(ScanCells, OfGuardRowsAreFixed) {
     SetCell(121, SCAN, "5");
     Grid()->GoToCell(121, SCAN);
     ClickScan(121, 5);
-    EXPECT_EQ("5", Text(121, SCAN));
+    EXPECT_EQ(Text(121, SCAN), "5");
     PressKey("3");
-    EXPECT_EQ("5", Text(121, SCAN));
+    EXPECT_EQ(Text(121, SCAN), "5");
 }
 
 TEST_F(ScanCells, StandLeftAfterAPageOfYesAndNo) {
     Retarget(Kdar2000, 0);
-    EXPECT_EQ((Texts{"Y", "N"}), OfferedIn(1, SCAN));
-    EXPECT_EQ("wxGridCellStringRenderer", RendererClass(1, SCAN));
+    EXPECT_EQ(OfferedIn(1, SCAN), (Texts{"Y", "N"}));
+    EXPECT_EQ(RendererClass(1, SCAN), "wxGridCellStringRenderer");
     Retarget(Krv47, 0);
     Fill({5});
-    EXPECT_EQ("2", ClickedFrom("0", BoxesWidth() / 5 + 3));
+    EXPECT_EQ(ClickedFrom("0", BoxesWidth() / 5 + 3), "2");
     Retarget(Kdar2000, 0);
-    EXPECT_EQ("wxGridCellStringRenderer", RendererClass(1, SCAN));
+    EXPECT_EQ(RendererClass(1, SCAN), "wxGridCellStringRenderer");
 }

@@ -111,7 +111,7 @@ TEST_F(ShadowRows, AreNotTakenForOthersAfterRowsHaveMoved) {
     for (int number : {0, -1, 233, 99999})
         HandleP25Shadows(nullptr, number, "", CurrentGrid());
     RemovePrimary(10);
-    EXPECT_EQ(Row(11), Blank());
+    EXPECT_EQ(RowTexts(11), Blank());
     EXPECT_EQ(Cell(20, DESC), "row20");
 }
 
@@ -130,14 +130,14 @@ TEST_F(ShadowRows, OfARemovedPrimaryAreEmptiedButKeepTheirLockOnShad) {
     Fill({10, 20});
     Link(10, {11, 12});
     const auto slots = ZoneSlots;
-    const Texts primary = Row(10);
+    const Texts primary = RowTexts(10);
     RemovePrimary(10);
     for (int row : {11, 12}) {
-        EXPECT_EQ(Row(row), Blank());
+        EXPECT_EQ(RowTexts(row), Blank());
         for (int col = 0; col < 32; ++col)
             EXPECT_EQ(IsReadOnly(row, col), col == SHAD) << "row " << row << " column " << col;
     }
-    EXPECT_EQ(Row(10), primary) << "the primary is left to the caller";
+    EXPECT_EQ(RowTexts(10), primary) << "the primary is left to the caller";
     EXPECT_EQ(ZoneSlots, slots);
     EXPECT_EQ(Cell(20, DESC), "row20");
 }
@@ -147,9 +147,9 @@ TEST_F(ShadowRows, OfAListThatNamesAVanishedNumberArePassedOver) {
     Link(10, {11, 12, 13});
     SetCell(12, MNUM, "");
     RemovePrimary(10);
-    EXPECT_EQ(Row(11), Blank());
-    EXPECT_NE(Row(12), Blank());
-    EXPECT_EQ(Row(13), Blank());
+    EXPECT_EQ(RowTexts(11), Blank());
+    EXPECT_NE(RowTexts(12), Blank());
+    EXPECT_EQ(RowTexts(13), Blank());
 }
 
 TEST_F(ShadowRows, AreFoundByNumberWhereverTheyStand) {
@@ -160,7 +160,7 @@ TEST_F(ShadowRows, AreFoundByNumberWhereverTheyStand) {
         SetCell(30, col, Cell(11, col));
     ClearRowData(11, false);
     RemovePrimary(10);
-    EXPECT_EQ(Row(30), Blank());
+    EXPECT_EQ(RowTexts(30), Blank());
 }
 
 TEST_F(ShadowRows, WhenRemovedFreeTheirSlotAndLeaveThePrimaryAsItIs) {
@@ -168,11 +168,11 @@ TEST_F(ShadowRows, WhenRemovedFreeTheirSlotAndLeaveThePrimaryAsItIs) {
     Link(10, {11, 12, 13});
     SetCell(10, SHD6, "012");
     RemoveShadow(12);
-    EXPECT_EQ(Row(12), Blank());
-    EXPECT_EQ(Row(10)[SHD0], "011");
-    EXPECT_EQ(Row(10)[SHD1], "0");
-    EXPECT_EQ(Row(10)[SHD2], "013");
-    EXPECT_EQ(Row(10)[SHD6], "0") << "every slot is looked at";
+    EXPECT_EQ(RowTexts(12), Blank());
+    EXPECT_EQ(RowTexts(10)[SHD0], "011");
+    EXPECT_EQ(RowTexts(10)[SHD1], "0");
+    EXPECT_EQ(RowTexts(10)[SHD2], "013");
+    EXPECT_EQ(RowTexts(10)[SHD6], "0") << "every slot is looked at";
     RemoveShadow(11);
     RemoveShadow(13);
     EXPECT_EQ(Cell(10, MFLG), "10");
@@ -186,7 +186,7 @@ TEST_F(ShadowRows, ThatNameThemselvesAfterACheckStayInTheirPrimarysList) {
     SetCell(11, PRIM, "011");
     SetCell(11, SHD3, "011");
     RemoveShadow(11);
-    EXPECT_EQ(Row(11), Blank());
+    EXPECT_EQ(RowTexts(11), Blank());
     EXPECT_EQ(Cell(10, SHD0), "011");
 }
 
@@ -198,7 +198,7 @@ TEST_F(ShadowRows, OfNoPrimaryAreStillEmptied) {
     SetCell(13, PRIM, "999");
     for (int row : {11, 12, 13}) {
         RemoveShadow(row);
-        EXPECT_EQ(Row(row), Blank());
+        EXPECT_EQ(RowTexts(row), Blank());
     }
     EXPECT_EQ(Cell(10, SHD0), "011");
 }
@@ -209,12 +209,12 @@ TEST_F(ShadowRows, AreUndoneByTheFlagsOfTheRow) {
     Link(20, {21});
     SetCell(10, MFLG, "08");
     UndoShadowLinks(10);
-    EXPECT_NE(Row(11), Blank()) << "no flag, no links";
+    EXPECT_NE(RowTexts(11), Blank()) << "no flag, no links";
     SetCell(10, MFLG, "11");
     SetCell(10, PRIM, "020");
     UndoShadowLinks(10);
-    EXPECT_EQ(Row(11), Blank()) << "a primary first of all";
-    EXPECT_NE(Row(10), Blank());
+    EXPECT_EQ(RowTexts(11), Blank()) << "a primary first of all";
+    EXPECT_NE(RowTexts(10), Blank());
     UndoShadowLinks(21);
     EXPECT_EQ(Cell(20, SHD0), "0");
     CurrentParameters().Type = 0;

@@ -138,12 +138,12 @@ TEST_F(SquelchChecks, AToneOrCodeSetsAnEmptySquelchOfAP25Row) {
         SetCell(row, line.squelchColumn, "was");
         SetCell(row, other, "other");
         Check(line.column, line.text, "");
-        EXPECT_EQ(line.expected, Cell(row, line.squelchColumn).utf8_string())
+        EXPECT_EQ(Cell(row, line.squelchColumn).utf8_string(), line.expected)
             << ColumnTag[line.column] << " " << line.text;
-        EXPECT_EQ("other", Cell(row, other)) << ColumnTag[line.column] << " " << line.text;
+        EXPECT_EQ(Cell(row, other), "other") << ColumnTag[line.column] << " " << line.text;
         SetCell(row, line.squelchColumn, "was");
         Check(line.column, line.text, "x");
-        EXPECT_EQ("was", Cell(row, line.squelchColumn)) << ColumnTag[line.column] << " " << line.text;
+        EXPECT_EQ(Cell(row, line.squelchColumn), "was") << ColumnTag[line.column] << " " << line.text;
     }
 }
 
@@ -153,16 +153,16 @@ TEST_F(SquelchChecks, ReceiveToneAndCodeOfAnalogGuardRowsAreAbsent) {
         CheckCode(CurrentGrid(), guard, RCOD, "023", "x");
         CheckTone(CurrentGrid(), guard, TTON, "67.0", "");
         CheckCode(CurrentGrid(), guard, TCOD, "023", "");
-        EXPECT_EQ("n/a", Cell(guard, RTON));
-        EXPECT_EQ("n/a", Cell(guard, RCOD));
-        EXPECT_EQ("67.0", Cell(guard, TTON));
-        EXPECT_EQ("023", Cell(guard, TCOD));
+        EXPECT_EQ(Cell(guard, RTON), "n/a");
+        EXPECT_EQ(Cell(guard, RCOD), "n/a");
+        EXPECT_EQ(Cell(guard, TTON), "67.0");
+        EXPECT_EQ(Cell(guard, TCOD), "023");
         EXPECT_FALSE(IsPainted(RTON, guard));
         EXPECT_FALSE(IsPainted(RCOD, guard));
     }
     Become(Np25);
     CheckTone(CurrentGrid(), GD1, RTON, "67.0", "t");
-    EXPECT_EQ("67.0", Cell(GD1, RTON));
+    EXPECT_EQ(Cell(GD1, RTON), "67.0");
 }
 
 TEST_F(SquelchChecks, TalkGroupsAreFourHexadecimalDigits) {

@@ -40,9 +40,9 @@ protected:
         PressKey("F2");
         ASSERT_TRUE(IsOpen()) << col;
         EditorOf(1, col)->ApplyEdit(1, col, CurrentGrid());
-        EXPECT_EQ(text, Text(1, col)) << col;
+        EXPECT_EQ(Text(1, col), text) << col;
         EditorOf(1, col)->ApplyEdit(1, col, CurrentGrid());
-        EXPECT_EQ("", Text(1, col)) << col;
+        EXPECT_EQ(Text(1, col), "") << col;
         PressKey("Escape");
     }
 };
@@ -73,8 +73,8 @@ TEST_F(TextCellPhases, TakeCharactersThatACheckBlanksAfterwards) {
                                                         {Kdrv716, 0, "a#b(c", "a#b(c"}}) {
         Retarget(line.radio, line.slot);
         TypeIntoCell(*CurrentGrid(), 3, DESC, line.typed);
-        EXPECT_EQ(line.typed, Text(3, DESC)) << line.radio;
+        EXPECT_EQ(Text(3, DESC), line.typed) << line.radio;
         CheckRow(CurrentGrid(), 3);
-        EXPECT_EQ(line.checked, Text(3, DESC)) << line.radio;
+        EXPECT_EQ(Text(3, DESC), line.checked) << line.radio;
     }
 }

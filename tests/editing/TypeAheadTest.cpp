@@ -27,43 +27,43 @@ int After(const char* typed, const wxArrayString& choices) {
 } // namespace
 
 TEST(TypeAhead, ChoosesTheFirstChoiceThatBeginsSo) {
-    EXPECT_EQ(2, After("1", Tones));
-    EXPECT_EQ(3, After("15", Tones));
-    EXPECT_EQ(4, After("156", Tones));
-    EXPECT_EQ(4, After("156.7", Tones));
-    EXPECT_EQ(0, After("off", Tones));
-    EXPECT_EQ(wxNOT_FOUND, After("", Tones));
+    EXPECT_EQ(After("1", Tones), 2);
+    EXPECT_EQ(After("15", Tones), 3);
+    EXPECT_EQ(After("156", Tones), 4);
+    EXPECT_EQ(After("156.7", Tones), 4);
+    EXPECT_EQ(After("off", Tones), 0);
+    EXPECT_EQ(After("", Tones), wxNOT_FOUND);
 }
 
 TEST(TypeAhead, PrefersTheSameCase) {
     const wxArrayString both = List({"n", "N", "aX", "ax"});
-    EXPECT_EQ(0, After("n", both));
-    EXPECT_EQ(1, After("N", both));
-    EXPECT_EQ(0, ChoiceBeginningWith(List({"n"}), "N"));
-    EXPECT_EQ(3, ChoiceBeginningWith(both, "ax"));
-    EXPECT_EQ(2, ChoiceBeginningWith(both, "AX"));
+    EXPECT_EQ(After("n", both), 0);
+    EXPECT_EQ(After("N", both), 1);
+    EXPECT_EQ(ChoiceBeginningWith(List({"n"}), "N"), 0);
+    EXPECT_EQ(ChoiceBeginningWith(both, "ax"), 3);
+    EXPECT_EQ(ChoiceBeginningWith(both, "AX"), 2);
 }
 
 TEST(TypeAhead, FindsNothingUntilWhatFitsNothingIsTakenBack) {
     TypeAhead ahead;
     for (char character : {'1', '5', '6'})
         ahead.Type(character, Tones);
-    EXPECT_EQ(wxNOT_FOUND, ahead.Type('7', Tones));
-    EXPECT_EQ(wxNOT_FOUND, ahead.Type('6', Tones)) << "67.0 is not meant";
-    EXPECT_EQ(wxNOT_FOUND, ahead.TakeBack(Tones));
-    EXPECT_EQ(4, ahead.TakeBack(Tones));
-    EXPECT_EQ(3, ahead.TakeBack(Tones));
-    EXPECT_EQ(2, ahead.TakeBack(Tones));
+    EXPECT_EQ(ahead.Type('7', Tones), wxNOT_FOUND);
+    EXPECT_EQ(ahead.Type('6', Tones), wxNOT_FOUND) << "67.0 is not meant";
+    EXPECT_EQ(ahead.TakeBack(Tones), wxNOT_FOUND);
+    EXPECT_EQ(ahead.TakeBack(Tones), 4);
+    EXPECT_EQ(ahead.TakeBack(Tones), 3);
+    EXPECT_EQ(ahead.TakeBack(Tones), 2);
     EXPECT_FALSE(ahead.IsEmpty());
-    EXPECT_EQ(wxNOT_FOUND, ahead.TakeBack(Tones));
+    EXPECT_EQ(ahead.TakeBack(Tones), wxNOT_FOUND);
     EXPECT_TRUE(ahead.IsEmpty());
-    EXPECT_EQ(wxNOT_FOUND, ahead.TakeBack(Tones));
+    EXPECT_EQ(ahead.TakeBack(Tones), wxNOT_FOUND);
 }
 
 TEST(TypeAhead, BeginsAnewWithEachCharacterWhereChoicesHaveOne) {
-    EXPECT_EQ(0, After("nw", Modes));
-    EXPECT_EQ(2, After("nnd", Modes));
-    EXPECT_EQ(wxNOT_FOUND, After("nx", Modes));
+    EXPECT_EQ(After("nw", Modes), 0);
+    EXPECT_EQ(After("nnd", Modes), 2);
+    EXPECT_EQ(After("nx", Modes), wxNOT_FOUND);
 }
 
 TEST(TypeAhead, KnowsWhetherACharacterFits) {
@@ -78,5 +78,5 @@ TEST(TypeAhead, KnowsWhetherACharacterFits) {
 }
 
 TEST(TypeAhead, FindsNothingInAnEmptyList) {
-    EXPECT_EQ(wxNOT_FOUND, After("1", wxArrayString()));
+    EXPECT_EQ(After("1", wxArrayString()), wxNOT_FOUND);
 }

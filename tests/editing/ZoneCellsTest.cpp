@@ -39,13 +39,13 @@ protected:
 } // namespace
 
 TEST_F(ZoneCells, OfTheSecondGenerationOfferAllZones) {
-    EXPECT_EQ(AllZones(), OfferedIn(2, ZONE));
+    EXPECT_EQ(OfferedIn(2, ZONE), AllZones());
 }
 
 TEST_F(ZoneCells, OfTheFirstGenerationOfferZones1To15) {
     Retarget(Kdrv716, 0);
-    EXPECT_EQ(Texts(AllZones().begin(), AllZones().begin() + 15), OfferedIn(2, ZONE));
-    EXPECT_EQ((Texts{"16", "16"}), (Texts{Text(231, ZONE), Text(232, ZONE)}))
+    EXPECT_EQ(OfferedIn(2, ZONE), Texts(AllZones().begin(), AllZones().begin() + 15));
+    EXPECT_EQ((Texts{Text(231, ZONE), Text(232, ZONE)}), (Texts{"16", "16"}))
         << "zone 16 belongs to the guard rows";
     EXPECT_TRUE(IsLocked(231, ZONE));
     EXPECT_TRUE(IsLocked(232, ZONE));
@@ -54,31 +54,31 @@ TEST_F(ZoneCells, OfTheFirstGenerationOfferZones1To15) {
 TEST_F(ZoneCells, OfAScannedRowNeverOfferX) {
     Fill({2});
     SetCell(2, SCAN, "Y");
-    EXPECT_EQ(ZonesBut({"X"}), OfferedIn(2, ZONE));
+    EXPECT_EQ(OfferedIn(2, ZONE), ZonesBut({"X"}));
     SetCell(2, SCAN, "N");
-    EXPECT_EQ(AllZones(), OfferedIn(2, ZONE));
+    EXPECT_EQ(OfferedIn(2, ZONE), AllZones());
 }
 
 TEST_F(ZoneCells, TakeTheChosenZonesSlotAndGiveBackTheOld) {
     Fill({2, 3});
     const int before = AllSlots();
-    ASSERT_EQ(3, SlotsOf(0)) << "rows 1, 2 and 3";
+    ASSERT_EQ(SlotsOf(0), 3) << "rows 1, 2 and 3";
     Choose(2, ZONE, "3");
-    EXPECT_EQ("3", Text(2, ZONE));
-    EXPECT_EQ(2, SlotsOf(0));
-    EXPECT_EQ(1, SlotsOf(2));
-    EXPECT_EQ(before, AllSlots());
+    EXPECT_EQ(Text(2, ZONE), "3");
+    EXPECT_EQ(SlotsOf(0), 2);
+    EXPECT_EQ(SlotsOf(2), 1);
+    EXPECT_EQ(AllSlots(), before);
 }
 
 TEST_F(ZoneCells, KeepTheirSlotWhenTheSameZoneIsChosen) {
     Fill({2});
     const int before = AllSlots();
     OpenChoice(2, ZONE);
-    EXPECT_EQ(before - 1, AllSlots()) << "no slot while the edit runs";
+    EXPECT_EQ(AllSlots(), before - 1) << "no slot while the edit runs";
     PressKey("Return");
-    EXPECT_EQ("1", Text(2, ZONE));
-    EXPECT_EQ(before, AllSlots());
-    EXPECT_EQ(2, SlotsOf(0));
+    EXPECT_EQ(Text(2, ZONE), "1");
+    EXPECT_EQ(AllSlots(), before);
+    EXPECT_EQ(SlotsOf(0), 2);
 }
 
 // A departure: a lost slot would leave room for a seventeenth memory.
@@ -87,9 +87,9 @@ TEST_F(ZoneCells, KeepTheirSlotWhenTheEditIsGivenUp_Departure) {
     const int before = AllSlots();
     OpenChoice(2, ZONE);
     PressKey("Escape");
-    EXPECT_EQ("1", Text(2, ZONE));
-    EXPECT_EQ(before, AllSlots());
-    EXPECT_EQ(2, SlotsOf(0));
+    EXPECT_EQ(Text(2, ZONE), "1");
+    EXPECT_EQ(AllSlots(), before);
+    EXPECT_EQ(SlotsOf(0), 2);
 }
 
 TEST_F(ZoneCells, OfABlankRowLeaveItBlankWhenTheEditIsGivenUp) {
@@ -97,56 +97,56 @@ TEST_F(ZoneCells, OfABlankRowLeaveItBlankWhenTheEditIsGivenUp) {
     OpenChoice(20, ZONE);
     PressKey("Down");
     PressKey("Escape");
-    EXPECT_EQ((Texts{"", ""}), TextsOf(20, {MNUM, ZONE}));
-    EXPECT_EQ(before, AllSlots());
+    EXPECT_EQ(TextsOf(20, {MNUM, ZONE}), (Texts{"", ""}));
+    EXPECT_EQ(AllSlots(), before);
     Choose(20, ZONE, "3");
-    EXPECT_EQ("3", Text(20, ZONE));
+    EXPECT_EQ(Text(20, ZONE), "3");
 }
 
 TEST_F(ZoneCells, FillAZoneUpTo16Memories) {
     for (int row = 2; row <= 17; ++row)
         Fill({row});
-    ASSERT_EQ("1", Text(16, ZONE));
-    ASSERT_EQ("2", Text(17, ZONE)) << "the seventeenth falls to the next zone";
-    ASSERT_EQ(16, SlotsOf(0));
-    EXPECT_EQ(ZonesBut({"1"}), OfferedIn(17, ZONE)) << "a full zone isn't offered";
+    ASSERT_EQ(Text(16, ZONE), "1");
+    ASSERT_EQ(Text(17, ZONE), "2") << "the seventeenth falls to the next zone";
+    ASSERT_EQ(SlotsOf(0), 16);
+    EXPECT_EQ(OfferedIn(17, ZONE), ZonesBut({"1"})) << "a full zone isn't offered";
     SetCell(17, ZONE, "");
     EXPECT_FALSE(TakeP25ZonePosition(0)) << "and takes no more";
     // A row of the full zone is offered its own, and comes back into it.
-    EXPECT_EQ("1", OpenChoice(9, ZONE)->GetString(0));
+    EXPECT_EQ(OpenChoice(9, ZONE)->GetString(0), "1");
     PressKey("Return");
-    EXPECT_EQ("1", Text(9, ZONE));
-    EXPECT_EQ(16, SlotsOf(0));
+    EXPECT_EQ(Text(9, ZONE), "1");
+    EXPECT_EQ(SlotsOf(0), 16);
     // Room for one: the next row may come in.
     Choose(9, ZONE, "5");
-    EXPECT_EQ(15, SlotsOf(0));
+    EXPECT_EQ(SlotsOf(0), 15);
     Choose(17, ZONE, "1");
-    EXPECT_EQ(16, SlotsOf(0));
-    EXPECT_EQ("1", Text(17, ZONE));
-    EXPECT_EQ(ZonesBut({"1"}), OfferedIn(9, ZONE));
+    EXPECT_EQ(SlotsOf(0), 16);
+    EXPECT_EQ(Text(17, ZONE), "1");
+    EXPECT_EQ(OfferedIn(9, ZONE), ZonesBut({"1"}));
 }
 
 TEST_F(ZoneCells, ChosenByKeysFillUpAndAreThenNoLongerOffered) {
     for (int row = 2; row <= 17; ++row) {
-        EXPECT_EQ(row - 2, SlotsOf(2));
+        EXPECT_EQ(SlotsOf(2), row - 2);
         Choose(row, ZONE, "3");
-        EXPECT_EQ("3", Text(row, ZONE)) << row;
+        EXPECT_EQ(Text(row, ZONE), "3") << row;
     }
-    EXPECT_EQ(16, SlotsOf(2));
-    EXPECT_EQ(ZonesBut({"3"}), OfferedIn(18, ZONE));
+    EXPECT_EQ(SlotsOf(2), 16);
+    EXPECT_EQ(OfferedIn(18, ZONE), ZonesBut({"3"}));
     Choose(17, ZONE, "4");
-    EXPECT_EQ(AllZones(), OfferedIn(18, ZONE)) << "one has left it";
+    EXPECT_EQ(OfferedIn(18, ZONE), AllZones()) << "one has left it";
 }
 
 TEST_F(ZoneCells, OfferEachTimeWhatHasRoomThen) {
     Fill({2});
     ZoneSlotsOf(0)[4] = 16;
-    EXPECT_EQ(ZonesBut({"5"}), OfferedIn(2, ZONE));
+    EXPECT_EQ(OfferedIn(2, ZONE), ZonesBut({"5"}));
     ZoneSlotsOf(0)[4] = 15;
     ZoneSlotsOf(0)[31] = 16;
-    EXPECT_EQ(ZonesBut({"X"}), OfferedIn(2, ZONE));
+    EXPECT_EQ(OfferedIn(2, ZONE), ZonesBut({"X"}));
     ZoneSlotsOf(0)[31] = 17;
-    EXPECT_EQ(AllZones(), OfferedIn(2, ZONE)) << "only exactly 16 is full";
+    EXPECT_EQ(OfferedIn(2, ZONE), AllZones()) << "only exactly 16 is full";
 }
 
 TEST_F(ZoneCells, StayWhenTheChosenZoneHasFilledMeanwhile) {
@@ -156,9 +156,9 @@ TEST_F(ZoneCells, StayWhenTheChosenZoneHasFilledMeanwhile) {
     ZoneSlotsOf(0)[1] = 16;
     const int before = SlotsOf(0);
     PressKey("Return");
-    EXPECT_EQ("1", Text(2, ZONE));
-    EXPECT_EQ(before, SlotsOf(0)) << "the slot that was given back stays so";
-    EXPECT_EQ(16, SlotsOf(1));
+    EXPECT_EQ(Text(2, ZONE), "1");
+    EXPECT_EQ(SlotsOf(0), before) << "the slot that was given back stays so";
+    EXPECT_EQ(SlotsOf(1), 16);
 }
 
 TEST_F(ZoneCells, OfferNothingWhenAllZonesAreFull) {
@@ -166,23 +166,23 @@ TEST_F(ZoneCells, OfferNothingWhenAllZonesAreFull) {
         ZoneSlotsOf(0)[zone] = 16;
     SetCell(2, TFLG, "A0");
     wxComboBox* combo = OpenChoice(2, ZONE);
-    ASSERT_NE(nullptr, combo);
-    EXPECT_EQ(0u, combo->GetCount());
+    ASSERT_NE(combo, nullptr);
+    EXPECT_EQ(combo->GetCount(), 0u);
     PressKey("Return");
-    EXPECT_EQ("", Text(2, ZONE));
+    EXPECT_EQ(Text(2, ZONE), "");
 }
 
 TEST_F(ZoneCells, XIsNotScanned) {
     Fill({2});
     Choose(2, ZONE, "X");
-    EXPECT_EQ("X", Text(2, ZONE));
+    EXPECT_EQ(Text(2, ZONE), "X");
     EXPECT_TRUE(IsLocked(2, SCAN));
-    EXPECT_EQ(3, SlotsOf(31)) << "with the guard rows";
+    EXPECT_EQ(SlotsOf(31), 3) << "with the guard rows";
     SetPageEditors(CurrentPage);
     EXPECT_TRUE(IsLocked(2, SCAN));
     Choose(2, ZONE, "W");
     EXPECT_FALSE(IsLocked(2, SCAN));
-    EXPECT_EQ(2, SlotsOf(31));
+    EXPECT_EQ(SlotsOf(31), 2);
 }
 
 TEST_F(ZoneCells, XLocksScanWheneverTheRowsEditorsAreSet) {
@@ -242,14 +242,14 @@ TEST_F(ZoneCells, OfAPrimaryAreToldToItsShadows) {
     SetCell(8, MFLG, "01");
     SetCell(9, MFLG, "07");
     Choose(5, ZONE, "4");
-    EXPECT_EQ("4", Text(5, ZONE));
-    EXPECT_EQ("4", Text(8, ZONE));
-    EXPECT_EQ("4", Text(9, ZONE));
-    EXPECT_EQ("1", Text(4, ZONE)) << "no shadow";
-    EXPECT_EQ(1, SlotsOf(3)) << "shadows hold no slot";
+    EXPECT_EQ(Text(5, ZONE), "4");
+    EXPECT_EQ(Text(8, ZONE), "4");
+    EXPECT_EQ(Text(9, ZONE), "4");
+    EXPECT_EQ(Text(4, ZONE), "1") << "no shadow";
+    EXPECT_EQ(SlotsOf(3), 1) << "shadows hold no slot";
     SetCell(5, MFLG, "00");
     Choose(5, ZONE, "2");
-    EXPECT_EQ("4", Text(8, ZONE));
+    EXPECT_EQ(Text(8, ZONE), "4");
 }
 
 TEST_F(ZoneCells, OfAPrimaryTellTheShadowsOfTheRowThatItsNumberNames) {
@@ -262,8 +262,8 @@ TEST_F(ZoneCells, OfAPrimaryTellTheShadowsOfTheRowThatItsNumberNames) {
     SetCell(8, MFLG, "01");
     SetCell(9, MFLG, "01");
     Choose(5, ZONE, "4");
-    EXPECT_EQ((Texts{"4", "12", "12", "1"}),
-              (Texts{Text(5, ZONE), Text(7, ZONE), Text(8, ZONE), Text(9, ZONE)}));
+    EXPECT_EQ((Texts{Text(5, ZONE), Text(7, ZONE), Text(8, ZONE), Text(9, ZONE)}),
+              (Texts{"4", "12", "12", "1"}));
 }
 
 TEST_F(ZoneCells, OfAPrimaryLeaveItOutOfTheScan) {
@@ -276,7 +276,7 @@ TEST_F(ZoneCells, OfAPrimaryLeaveItOutOfTheScan) {
     Choose(5, ZONE, "X");
     EXPECT_TRUE(IsLocked(5, SCAN));
     Choose(5, ZONE, "4");
-    EXPECT_EQ("4", Text(5, ZONE));
+    EXPECT_EQ(Text(5, ZONE), "4");
     EXPECT_TRUE(IsLocked(5, SCAN)) << "a linked memory is never scanned";
     Choose(6, ZONE, "4");
     EXPECT_FALSE(IsLocked(6, SCAN)) << "a copy of a primary has no links";
@@ -285,45 +285,45 @@ TEST_F(ZoneCells, OfAPrimaryLeaveItOutOfTheScan) {
 TEST_F(ZoneCells, OfABlankRowTakeOneSlot) {
     const int before = AllSlots();
     Choose(20, ZONE, "7");
-    EXPECT_EQ((Texts{"020", "7"}), TextsOf(20, {MNUM, ZONE}));
-    EXPECT_EQ(before + 1, AllSlots());
-    EXPECT_EQ(1, SlotsOf(6));
+    EXPECT_EQ(TextsOf(20, {MNUM, ZONE}), (Texts{"020", "7"}));
+    EXPECT_EQ(AllSlots(), before + 1);
+    EXPECT_EQ(SlotsOf(6), 1);
 }
 
 TEST_F(ZoneCells, OfTheDefaultRowMoveNoSlotSoThatNoZoneTakesSeventeenRows) {
     Fill({2, 3});
     const auto slots = ZoneSlots;
     OpenChoice(0, ZONE);
-    EXPECT_EQ(slots, ZoneSlots) << "no slot is given back for the edit";
+    EXPECT_EQ(ZoneSlots, slots) << "no slot is given back for the edit";
     PressKey("Return");
-    EXPECT_EQ(slots, ZoneSlots);
+    EXPECT_EQ(ZoneSlots, slots);
     Choose(0, ZONE, "3");
-    EXPECT_EQ("3", Text(0, ZONE));
-    EXPECT_EQ(slots, ZoneSlots) << "and none is taken for the choice";
+    EXPECT_EQ(Text(0, ZONE), "3");
+    EXPECT_EQ(ZoneSlots, slots) << "and none is taken for the choice";
     OpenChoice(0, ZONE);
     PressKey("Escape");
-    EXPECT_EQ("3", Text(0, ZONE));
-    EXPECT_EQ(slots, ZoneSlots);
+    EXPECT_EQ(Text(0, ZONE), "3");
+    EXPECT_EQ(ZoneSlots, slots);
 }
 
 TEST_F(ZoneCells, OfTheDefaultRowLetAFullZoneStayFull) {
     for (int row = 2; row <= 16; ++row)
         Fill({row});
-    ASSERT_EQ(16, SlotsOf(0));
+    ASSERT_EQ(SlotsOf(0), 16);
     Choose(0, ZONE, "2");
-    EXPECT_EQ(16, SlotsOf(0));
-    EXPECT_EQ(0, SlotsOf(1));
+    EXPECT_EQ(SlotsOf(0), 16);
+    EXPECT_EQ(SlotsOf(1), 0);
     Fill({17});
-    EXPECT_EQ("2", Text(17, ZONE)) << "the seventeenth row";
+    EXPECT_EQ(Text(17, ZONE), "2") << "the seventeenth row";
 }
 
 TEST_F(ZoneCells, OfTheDefaultRowOfferItsOwnZoneThoughThatIsFull) {
     ZoneSlotsOf(0)[0] = 16;
     ZoneSlotsOf(0)[4] = 16;
-    EXPECT_EQ(ZonesBut({"5"}), OfferedIn(0, ZONE));
+    EXPECT_EQ(OfferedIn(0, ZONE), ZonesBut({"5"}));
     OpenChoice(0, ZONE);
     PressKey("Return");
-    EXPECT_EQ("1", Text(0, ZONE));
+    EXPECT_EQ(Text(0, ZONE), "1");
 }
 
 TEST_F(ZoneCells, OfARowWithoutAZoneGiveNothingBack) {
@@ -331,10 +331,10 @@ TEST_F(ZoneCells, OfARowWithoutAZoneGiveNothingBack) {
     SetCell(2, ZONE, "");
     const int before = AllSlots();
     OpenChoice(2, ZONE);
-    EXPECT_EQ(before, AllSlots());
+    EXPECT_EQ(AllSlots(), before);
     PressKey("Return");
-    EXPECT_EQ("", Text(2, ZONE)) << "no zone was chosen";
-    EXPECT_EQ(before, AllSlots());
+    EXPECT_EQ(Text(2, ZONE), "") << "no zone was chosen";
+    EXPECT_EQ(AllSlots(), before);
     Choose(2, ZONE, "1");
-    EXPECT_EQ(before + 1, AllSlots());
+    EXPECT_EQ(AllSlots(), before + 1);
 }

@@ -1,9 +1,9 @@
 // A person who works on pages of both P25 generations without a plan, with an eye on their zones.
 #pragma once
 
+#include "robot/TempFolder.h"
 #include "tests/editing/CommandTest.h"
 #include "tests/editing/HardWork.h"
-#include "tests/support/robot/TempFolder.h"
 
 #include <array>
 #include <deque>

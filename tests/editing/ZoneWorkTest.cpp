@@ -8,7 +8,7 @@
 #include "commands/CommandIds.h"
 #include "editing/ZelkEdit.h"
 #include "files/ZelkFile_OpenSave.h"
-#include "tests/support/robot/Files.h"
+#include "robot/Files.h"
 #include "transfer/TRecordCodec.h"
 
 #include <wx/combobox.h>
@@ -107,7 +107,7 @@ void ZoneWork::Step() {
     for (int page = 0; page < PageCount; ++page) {
         ExpectCountersTellTheRows(page);
         if (others.count(PageGrid[page])) {
-            EXPECT_EQ(others[PageGrid[page]], ZonesOf(page)) << "another page has changed: " << page + 1;
+            EXPECT_EQ(ZonesOf(page), others[PageGrid[page]]) << "another page has changed: " << page + 1;
         }
     }
     for (int i = 0; i < 5; ++i)
@@ -168,11 +168,11 @@ void ZoneWork::ExpectRecordsTellTheCells(int row) const {
     const int bits = std::max(position, 0) << 4;
     wxString line;
     encodeTrecordV2(CurrentGrid(), row, line);
-    EXPECT_EQ(Hex(bits, "%04X"), line.Mid(20, 4)) << "row " << row << ", zone " << Cell(row, ZONE);
+    EXPECT_EQ(line.Mid(20, 4), Hex(bits, "%04X")) << "row " << row << ", zone " << Cell(row, ZONE);
     encodeTrecordV1(CurrentGrid(), row, line);
     if (!line.empty()) {
         // The old layout has room for 16 zones, and the last is that of the guard rows.
-        EXPECT_EQ(Hex(row > 500 ? 0xF0 : bits & 0xFF, "%02X"), line.Mid(14, 2))
+        EXPECT_EQ(line.Mid(14, 2), Hex(row > 500 ? 0xF0 : bits & 0xFF, "%02X"))
             << "row " << row << ", zone " << Cell(row, ZONE);
     }
     ++m_recordsCompared;
@@ -211,7 +211,7 @@ void ZoneWork::MakePage() {
     AddPage(radio);
     const int rows = CurrentParameters().Rows;
     const std::string last = radio == Kdrv716 ? "16" : "X";
-    EXPECT_EQ((Texts{"1", last, last}), Column(ZONE, {1, rows - 1, rows}));
+    EXPECT_EQ(Column(ZONE, {1, rows - 1, rows}), (Texts{"1", last, last}));
 }
 
 void ZoneWork::DeletePage() {
@@ -227,8 +227,8 @@ void ZoneWork::VisitPage() {
     Note("page " + std::to_string(page + 1));
     const Texts before = ZonesOf(page);
     MainFrame->m_notebook->SetSelection(static_cast<size_t>(page));
-    ASSERT_EQ(page, CurrentPage);
-    EXPECT_EQ(before, ZonesOf(page)) << "a visit changes nothing";
+    ASSERT_EQ(CurrentPage, page);
+    EXPECT_EQ(ZonesOf(page), before) << "a visit changes nothing";
 }
 
 void ZoneWork::CheckThePage() {
@@ -244,7 +244,7 @@ void ZoneWork::CheckThePage() {
     // With its counter lost, zone 1 may have got more rows than it holds.
     for (int row = 1; !lost && row <= CurrentParameters().Rows; ++row)
         if (!IsShadow(CurrentGrid(), row)) {
-            EXPECT_EQ(before[static_cast<size_t>(row)], Cell(row, ZONE)) << "row " << row;
+            EXPECT_EQ(Cell(row, ZONE), before[static_cast<size_t>(row)]) << "row " << row;
         }
     lost = false;
 }
@@ -293,7 +293,7 @@ void ZoneWork::OpenFile() {
     Note(type == RadioCatalogue::RP25 ? "RP25" : "NP25");
     DialogScript none;
     ASSERT_TRUE(OpenChannelFile((m_folder / "random.zelk").string()));
-    ASSERT_EQ(type, CurrentParameters().Type);
+    ASSERT_EQ(CurrentParameters().Type, type);
     ForgetZone1OfTheNextPage();
 }
 
@@ -315,7 +315,7 @@ void ZoneWork::ImportList() {
         ++users[zone];
     for (const auto& [row, zone] : zones)
         if (users[zone] < 16) {
-            EXPECT_EQ(zone, Cell(row, ZONE)) << row;
+            EXPECT_EQ(Cell(row, ZONE), zone) << row;
         }
 }
 
@@ -348,7 +348,7 @@ void ZoneWork::ChooseZone() {
     ASSERT_TRUE(grid->IsCellEditControlShown());
     const wxGridCellEditorPtr editor(grid->GetCellEditor(row, ZONE));
     auto* combo = dynamic_cast<wxComboBox*>(editor->GetControl());
-    ASSERT_NE(nullptr, combo);
+    ASSERT_NE(combo, nullptr);
     ASSERT_GT(combo->GetCount(), 0u);
     // The last zones often: those are what the generations differ in.
     const int last = static_cast<int>(combo->GetCount()) - 1;
@@ -363,7 +363,7 @@ void ZoneWork::ChooseZone() {
     if (grid->IsCellEditControlEnabled())
         grid->DisableCellEditControl();
     Note(std::to_string(row) + ": " + zone.utf8_string());
-    EXPECT_EQ(zone, Cell(row, ZONE)) << "row " << row;
+    EXPECT_EQ(Cell(row, ZONE), zone) << "row " << row;
 }
 
 void ZoneWork::ClearRow() {
@@ -402,15 +402,15 @@ void ZoneWork::ReadBack() {
             const int zone = m_dice.Below(CountZones(CurrentParameters().Type));
             wxString other = line;
             other.replace(20, 4, wxString::Format("%04X", static_cast<unsigned>(zone << 4)));
-            EXPECT_EQ(1, decodeTrecordV2(CurrentGrid(), other));
+            EXPECT_EQ(decodeTrecordV2(CurrentGrid(), other), 1);
         }
-        EXPECT_EQ(1, decodeTrecordV2(CurrentGrid(), line));
+        EXPECT_EQ(decodeTrecordV2(CurrentGrid(), line), 1);
     }
     SetPageEditors(CurrentPage);
     ForgetZone1OfTheNextPage();
     shown[0] = Cell(0, ZONE).utf8_string();
     if (!lost) {
-        EXPECT_EQ(shown, ZonesOf(CurrentPage));
+        EXPECT_EQ(ZonesOf(CurrentPage), shown);
     }
 }
 

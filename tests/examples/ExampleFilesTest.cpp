@@ -1,6 +1,7 @@
 // The example channel files, held against the list of channels they are made from.
 // No code of the program takes part: limits and forms are typed here.
 #include "tests/examples/ExampleFiles.h"
+#include "robot/Files.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +9,6 @@
 #include <wx/xml/xml.h>
 
 #include <algorithm>
-#include <fstream>
 #include <map>
 #include <set>
 #include <sstream>
@@ -16,6 +16,8 @@
 #include <vector>
 
 using namespace exampletest;
+using testbench::ReadFile;
+using testbench::ReadLines;
 
 namespace {
 
@@ -71,11 +73,6 @@ struct Source {
     std::string service, name, receive, transmit, receiveTone, transmitTone, mode, note;
 };
 
-std::string ReadFile(const fs::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 std::vector<std::string> Split(const std::string& text, char separator) {
     std::vector<std::string> parts;
     std::istringstream stream(text);
@@ -87,11 +84,10 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 
 std::vector<Source> ReadSources() {
     std::vector<Source> sources;
-    std::ifstream stream(fs::path(ZELK_EXAMPLES_DIR) / "public-channels.csv");
-    std::string line;
-    std::getline(stream, line);
-    while (std::getline(stream, line)) {
-        std::vector<std::string> f = Split(line, ',');
+    const std::vector<std::string> lines = ReadLines(fs::path(ZELK_EXAMPLES_DIR) / "public-channels.csv");
+    // The first line has the headings.
+    for (size_t k = 1; k < lines.size(); ++k) {
+        std::vector<std::string> f = Split(lines[k], ',');
         f.resize(8);
         sources.push_back({f[0], f[1], f[2], f[3], f[4], f[5], f[6], f[7]});
     }
@@ -162,7 +158,7 @@ TEST(ExampleFolder, HoldsTheListedFilesAndNoOthers) {
             found.insert(entry.path().filename().string());
         }
     }
-    EXPECT_EQ(expected, found);
+    EXPECT_EQ(found, expected);
 }
 
 TEST_P(ExampleFiles, AreByteForByteWhatTheToolkitSaves) {
@@ -171,18 +167,18 @@ TEST_P(ExampleFiles, AreByteForByteWhatTheToolkitSaves) {
     ASSERT_TRUE(m_document.Save(saved, 2));
     std::string bytes(saved.GetSize(), '\0');
     saved.CopyTo(bytes.data(), bytes.size());
-    EXPECT_EQ(bytes, ReadFile(GetPath(GetParam())));
+    EXPECT_EQ(ReadFile(GetPath(GetParam())), bytes);
 }
 
 TEST_P(ExampleFiles, NameTheirTarget) {
-    EXPECT_EQ("ZelkMem", m_document.GetRoot()->GetName());
-    ASSERT_EQ(6u, m_header.size());
-    EXPECT_EQ(std::make_pair(std::string("Version"), std::string("1.0.0")), m_header[0]);
-    EXPECT_EQ("Date", m_header[1].first);
-    EXPECT_EQ("Time", m_header[2].first);
-    EXPECT_EQ(std::make_pair(std::string("FType"), std::string(GetParam().type)), m_header[3]);
-    EXPECT_EQ(std::make_pair(std::string("FRadio"), std::string(GetParam().radio)), m_header[4]);
-    EXPECT_EQ(std::make_pair(std::string("FBand"), std::string(GetParam().band)), m_header[5]);
+    EXPECT_EQ(m_document.GetRoot()->GetName(), "ZelkMem");
+    ASSERT_EQ(m_header.size(), 6u);
+    EXPECT_EQ(m_header[0], std::make_pair(std::string("Version"), std::string("1.0.0")));
+    EXPECT_EQ(m_header[1].first, "Date");
+    EXPECT_EQ(m_header[2].first, "Time");
+    EXPECT_EQ(m_header[3], std::make_pair(std::string("FType"), std::string(GetParam().type)));
+    EXPECT_EQ(m_header[4], std::make_pair(std::string("FRadio"), std::string(GetParam().radio)));
+    EXPECT_EQ(m_header[5], std::make_pair(std::string("FBand"), std::string(GetParam().band)));
 }
 
 TEST_P(ExampleFiles, HoldCompleteRowsInOrderWithinTheGrid) {
@@ -197,36 +193,36 @@ TEST_P(ExampleFiles, HoldCompleteRowsInOrderWithinTheGrid) {
             elements += (elements.empty() ? "" : " ") + name;
             // A shadow has the zone of its primary.
             const bool mayBeEmpty = name == "ZN" && memory.Get("SH").starts_with("S-");
-            EXPECT_EQ(text.empty(), mayBeEmpty) << name;
+            EXPECT_EQ(mayBeEmpty, text.empty()) << name;
         }
-        EXPECT_EQ(Elements.at(GetParam().type), elements);
+        EXPECT_EQ(elements, Elements.at(GetParam().type));
         if (*GetParam().type != '\0') {
-            EXPECT_EQ(ScanFamilies.at(GetParam().type), memory.scanFamily);
+            EXPECT_EQ(memory.scanFamily, ScanFamilies.at(GetParam().type));
         }
     }
 }
 
 TEST_P(ExampleFiles, BeginWithTheDefaultRowOfTheirBand) {
     ASSERT_FALSE(m_memories.empty());
-    EXPECT_EQ(0, m_memories[0].row);
+    EXPECT_EQ(m_memories[0].row, 0);
     std::string cells;
     for (const auto& [name, text] : m_memories[0].cells) {
         cells += (cells.empty() ? "" : "|") + text;
     }
-    EXPECT_EQ(DefaultRows.at(std::string(GetParam().type) + " " + GetParam().band), cells);
+    EXPECT_EQ(cells, DefaultRows.at(std::string(GetParam().type) + " " + GetParam().band));
 }
 
 TEST_P(ExampleFiles, NumberEachMemoryOnce) {
     std::set<std::string> numbers;
     for (const Memory& memory : m_memories) {
         EXPECT_TRUE(numbers.insert(memory.Get("MN")).second) << "row " << memory.row;
-        EXPECT_EQ(wxString::Format("%03d", memory.row).utf8_string(), memory.Get("MN"));
+        EXPECT_EQ(memory.Get("MN"), wxString::Format("%03d", memory.row).utf8_string());
     }
 }
 
 TEST_P(ExampleFiles, TakeEveryChannelFromTheList) {
     const std::vector<Source> sources = ReadSources();
-    ASSERT_EQ(64u, sources.size());
+    ASSERT_EQ(sources.size(), 64u);
     for (const Memory& memory : GetChannels()) {
         if (IsShadow(memory)) {
             continue; // made up for the example; held against their primaries elsewhere
@@ -237,7 +233,7 @@ TEST_P(ExampleFiles, TakeEveryChannelFromTheList) {
         });
         ASSERT_NE(sources.end(), source) << "row " << memory.row << " " << memory.Get("DS");
         EXPECT_FALSE(source->transmit.empty()) << memory.Get("DS") << " is for receiving only";
-        EXPECT_EQ(BandRules.at(GetBand(memory)).isAm, source->mode == "AM") << memory.Get("DS");
+        EXPECT_EQ(source->mode == "AM", BandRules.at(GetBand(memory)).isAm) << memory.Get("DS");
     }
 }
 
@@ -245,8 +241,8 @@ TEST_P(ExampleFiles, HoldAllChannelsOfTheirBandAndBothGuards) {
     const std::vector<Memory> channels = GetChannels();
     const auto guards = std::count_if(channels.begin(), channels.end(),
                                       [](const Memory& memory) { return IsGuard(GetParam(), memory); });
-    EXPECT_EQ(HasGuards(GetParam()) ? 2 : 0, guards);
-    EXPECT_EQ(GetParam().channels, static_cast<int>(channels.size() - guards));
+    EXPECT_EQ(guards, HasGuards(GetParam()) ? 2 : 0);
+    EXPECT_EQ(static_cast<int>(channels.size() - guards), GetParam().channels);
 }
 
 TEST_P(ExampleFiles, KeepFrequenciesInTheFormAndTheLimitsOfTheirBand) {
@@ -260,8 +256,8 @@ TEST_P(ExampleFiles, KeepFrequenciesInTheFormAndTheLimitsOfTheirBand) {
             SCOPED_TRACE("row " + std::to_string(memory.row) + ", " + element + " " + text);
             const size_t point = text.find('.');
             ASSERT_NE(std::string::npos, point);
-            EXPECT_EQ(rule.decimals, text.size() - point - 1);
-            EXPECT_EQ(std::string::npos, text.find_first_not_of("0123456789."));
+            EXPECT_EQ(text.size() - point - 1, rule.decimals);
+            EXPECT_EQ(text.find_first_not_of("0123456789."), std::string::npos);
             // The last two digits of a channel at a multiple of 2.5 kHz, and of 25 kHz in the airband.
             const std::set<std::string> ends{"00", "25", "50", "75"};
             EXPECT_TRUE(ends.contains(text.substr(text.size() - 2)));
@@ -279,22 +275,22 @@ TEST_P(ExampleFiles, KeepScanListsAndDescriptionsInTheirLimits) {
         SCOPED_TRACE("row " + std::to_string(memory.row));
         const std::string description = memory.Get("DS");
         EXPECT_LE(description.size(), isKdar || isP25 ? 8u : 9u);
-        EXPECT_EQ(std::string::npos,
-                  description.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-./:+ ?_"));
+        EXPECT_EQ(description.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-./:+ ?_"),
+                  std::string::npos);
         if (isP25) {
             // What the flags say is what travels; linked memories and guards are never scanned.
             EXPECT_TRUE(memory.Get("SC") == "Y" || memory.Get("SC") == "N");
             const bool isScanned = memory.Get("SC") == "Y";
-            EXPECT_EQ(isScanned, (GetFlags(memory) & 0x08) != 0);
+            EXPECT_EQ((GetFlags(memory) & 0x08) != 0, isScanned);
             EXPECT_FALSE(isScanned && (memory.Get("SH") != "N" || IsGuard(GetParam(), memory)));
         } else if (isKdar) {
             EXPECT_TRUE(memory.Get("SC") == "Y" || memory.Get("SC") == "N");
-            EXPECT_EQ("N", memory.Get("RY"));
+            EXPECT_EQ(memory.Get("RY"), "N");
         } else if (hasScan) {
             const int scan = std::stoi(memory.Get("SC"));
             EXPECT_GE(scan, IsGuard(GetParam(), memory) ? 0 : 1);
             EXPECT_LE(scan, IsGuard(GetParam(), memory) ? 0 : 31);
-            EXPECT_EQ(std::to_string(scan), memory.Get("SC"));
+            EXPECT_EQ(memory.Get("SC"), std::to_string(scan));
         }
     }
 }

@@ -39,13 +39,13 @@ TEST_P(P25ExampleFiles, HoldTwoPrimariesWithThreeAndTwoShadows) {
         }
     }
     const Memory* p25Tac1 = FindNumber("031");
-    ASSERT_NE(nullptr, p25Tac1);
-    EXPECT_EQ("P25 TAC1", p25Tac1->Get("DS"));
+    ASSERT_NE(p25Tac1, nullptr);
+    EXPECT_EQ(p25Tac1->Get("DS"), "P25 TAC1");
     const std::map<std::string, std::string> expected{
         {"P25 TAC1", "P-3"}, {"TAC1 ALL", "S-031"}, {"TAC1 CMD", "S-031"}, {"TAC1 FM", "S-031"},
         {"P25 RPT", "P-2"},  {"RPT OPEN", "S-035"}, {"RPT DPL", "S-035"},
     };
-    EXPECT_EQ(expected, links);
+    EXPECT_EQ(links, expected);
 }
 
 TEST_P(P25ExampleFiles, NameEachShadowAtItsPlaceInItsPrimary) {
@@ -53,22 +53,22 @@ TEST_P(P25ExampleFiles, NameEachShadowAtItsPlaceInItsPrimary) {
         SCOPED_TRACE("row " + std::to_string(memory.row));
         const unsigned flags = GetFlags(memory);
         const unsigned place = flags & 0x07;
-        EXPECT_EQ(0u, flags & ~0x1Fu);
-        EXPECT_EQ(IsShadow(memory), place != 0);
-        EXPECT_EQ(memory.Get("SH").starts_with("P-"), (flags & 0x10) != 0);
+        EXPECT_EQ(flags & ~0x1Fu, 0u);
+        EXPECT_EQ(place != 0, IsShadow(memory));
+        EXPECT_EQ((flags & 0x10) != 0, memory.Get("SH").starts_with("P-"));
         if (!IsShadow(memory)) {
-            EXPECT_EQ(memory.Get("MN"), memory.Get("PR")) << "is its own primary";
+            EXPECT_EQ(memory.Get("PR"), memory.Get("MN")) << "is its own primary";
             continue;
         }
-        EXPECT_EQ("S-" + memory.Get("PR"), memory.Get("SH"));
-        EXPECT_EQ("", memory.Get("ZN"));
+        EXPECT_EQ(memory.Get("SH"), "S-" + memory.Get("PR"));
+        EXPECT_EQ(memory.Get("ZN"), "");
         const Memory* primary = FindNumber(memory.Get("PR"));
-        ASSERT_NE(nullptr, primary);
-        EXPECT_EQ(memory.Get("MN"), primary->Get(ShadowSlots[place - 1]));
-        EXPECT_EQ(primary->Get("RF"), memory.Get("RF"));
-        EXPECT_EQ(primary->Get("TF"), memory.Get("TF"));
+        ASSERT_NE(primary, nullptr);
+        EXPECT_EQ(primary->Get(ShadowSlots[place - 1]), memory.Get("MN"));
+        EXPECT_EQ(memory.Get("RF"), primary->Get("RF"));
+        EXPECT_EQ(memory.Get("TF"), primary->Get("TF"));
         for (const char* slot : ShadowSlots) {
-            EXPECT_EQ("0", memory.Get(slot)) << "a shadow has none";
+            EXPECT_EQ(memory.Get(slot), "0") << "a shadow has none";
         }
     }
 }
@@ -84,12 +84,12 @@ TEST_P(P25ExampleFiles, CountInEachPrimaryTheShadowsOfItsList) {
             }
             ++shadows;
             const Memory* shadow = FindNumber(number);
-            ASSERT_NE(nullptr, shadow) << number;
-            EXPECT_EQ(memory.Get("MN"), shadow->Get("PR")) << number;
+            ASSERT_NE(shadow, nullptr) << number;
+            EXPECT_EQ(shadow->Get("PR"), memory.Get("MN")) << number;
             EXPECT_TRUE(IsShadow(*shadow)) << number;
         }
         if (!IsShadow(memory)) {
-            EXPECT_EQ(shadows == 0 ? "N" : "P-" + std::to_string(shadows), memory.Get("SH"));
+            EXPECT_EQ(memory.Get("SH"), shadows == 0 ? "N" : "P-" + std::to_string(shadows));
         }
     }
 }
@@ -105,10 +105,10 @@ TEST_P(P25ExampleFiles, PutAtMostSixteenMemoriesIntoAZoneAndTheGuardsIntoTheLast
         }
         const std::string zone = memory.Get("ZN");
         EXPECT_TRUE(zones.contains(zone)) << "row " << memory.row << " zone " << zone;
-        EXPECT_EQ(IsGuard(GetParam(), memory), zone == last) << "row " << memory.row;
+        EXPECT_EQ(zone == last, IsGuard(GetParam(), memory)) << "row " << memory.row;
         ++counts[zone];
     }
-    EXPECT_EQ(zones.size(), counts.size());
+    EXPECT_EQ(counts.size(), zones.size());
     for (const auto& [zone, count] : counts) {
         EXPECT_LE(count, 16) << "zone " << zone;
     }
@@ -140,7 +140,7 @@ TEST_P(P25ExampleFiles, KeepSquelchTonesCodesAndIdsInTheirLimits) {
         for (const char* element : {"RN", "TN"}) {
             EXPECT_TRUE(isHex(memory.Get(element), 3)) << element << ' ' << memory.Get(element);
         }
-        EXPECT_EQ("0000001", memory.Get("TI"));
-        EXPECT_EQ(std::string(GetParam().type) == "NP25" ? "10" : "", memory.Get("RV"));
+        EXPECT_EQ(memory.Get("TI"), "0000001");
+        EXPECT_EQ(memory.Get("RV"), std::string(GetParam().type) == "NP25" ? "10" : "");
     }
 }

@@ -15,7 +15,7 @@ public:
     }
     ~AsAnyUser() {
         if (m_changed) {
-            EXPECT_EQ(0, setresuid(0, 0, 0));
+            EXPECT_EQ(setresuid(0, 0, 0), 0);
         }
     }
     AsAnyUser(const AsAnyUser&) = delete;

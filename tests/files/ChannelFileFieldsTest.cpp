@@ -61,19 +61,19 @@ bool Names(const std::string& list, const std::string& word) {
 } // namespace
 
 TEST(ChannelFileFields, HaveTheirNamesAndColumnsInFileOrder) {
-    ASSERT_EQ(31u, CellElements.size());
+    ASSERT_EQ(CellElements.size(), 31u);
     for (size_t i = 0; i < CellElements.size(); ++i) {
         SCOPED_TRACE(PrintedCells[i].name);
-        EXPECT_STREQ(PrintedCells[i].name, CellElements[i].names.name);
-        EXPECT_STREQ(PrintedCells[i].formerName, CellElements[i].names.formerName);
-        EXPECT_EQ(PrintedCells[i].column, CellElements[i].column);
+        EXPECT_STREQ(CellElements[i].names.name, PrintedCells[i].name);
+        EXPECT_STREQ(CellElements[i].names.formerName, PrintedCells[i].formerName);
+        EXPECT_EQ(CellElements[i].column, PrintedCells[i].column);
     }
 }
 
 TEST(ChannelFileFields, AreReadFromTheFilesOfTheirTypes) {
     for (size_t i = 0; i < CellElements.size(); ++i)
         for (int type = 0; type < 8; ++type)
-            EXPECT_EQ(Names(PrintedCells[i].readTypes, TypeNames[type]), IsRead(CellElements[i], type))
+            EXPECT_EQ(IsRead(CellElements[i], type), Names(PrintedCells[i].readTypes, TypeNames[type]))
                 << PrintedCells[i].name << " of " << TypeNames[type];
 }
 
@@ -83,7 +83,7 @@ TEST(ChannelFileFields, OfEachTypeAreThoseOfItsColumns) {
         for (const CellElement& cell : CellElements)
             if (IsWritten(cell, type))
                 children += (children.empty() ? "" : " ") + std::string(cell.names.name);
-        EXPECT_EQ(PrintedChildren[type], children) << TypeNames[type];
+        EXPECT_EQ(children, PrintedChildren[type]) << TypeNames[type];
     }
 }
 
@@ -92,10 +92,10 @@ TEST(ChannelFileFields, OfTheHeaderHaveTheirNamesInOrder) {
         {"Version", "Version"}, {"Date", "Date"},        {"Time", "Time"},
         {"FType", "FileType"},  {"FRadio", "FileRadio"}, {"FBand", "FileBand"},
     };
-    ASSERT_EQ(std::size(printed), static_cast<size_t>(FieldTotal));
+    ASSERT_EQ(static_cast<size_t>(FieldTotal), std::size(printed));
     for (int field = 0; field < FieldTotal; ++field) {
-        EXPECT_STREQ(printed[field].first, HeaderNames[field].name);
-        EXPECT_STREQ(printed[field].second, HeaderNames[field].formerName);
+        EXPECT_STREQ(HeaderNames[field].name, printed[field].first);
+        EXPECT_STREQ(HeaderNames[field].formerName, printed[field].second);
     }
 }
 
@@ -105,7 +105,7 @@ TEST(ChannelFileFields, NameTypeAndScanFamily) {
         {"", ""},         {"KDAR", "RP25"}, {"ANAM", "ANFM"}, {"", ""},
     };
     for (int type = 0; type < 8; ++type) {
-        EXPECT_STREQ(printed[type].first, TypeTextsOf[type].fileType) << TypeNames[type];
-        EXPECT_STREQ(printed[type].second, TypeTextsOf[type].scanFamily) << TypeNames[type];
+        EXPECT_STREQ(TypeTextsOf[type].fileType, printed[type].first) << TypeNames[type];
+        EXPECT_STREQ(TypeTextsOf[type].scanFamily, printed[type].second) << TypeNames[type];
     }
 }

@@ -59,41 +59,41 @@ TEST_F(ChannelFileReader, ReadsTheCellsOfEachTypeUnderBothNames) {
     for (const TypedTarget& target : Targets)
         for (const auto name : {&Names::name, &Names::formerName}) {
             const std::string type = target.type;
-            ASSERT_EQ(0, Open(FileOf(type, Memory(5, AllCells(name))))) << type;
+            ASSERT_EQ(Open(FileOf(type, Memory(5, AllCells(name)))), 0) << type;
             for (int col = 0; col < 31; ++col) {
                 std::string expected =
                     IsRead(CellNames[col], type) ? wxString::Format("v%02d", col).utf8_string() : "";
                 if (col == ZONE && !expected.empty())
                     expected = "1"; // a zone that no list has
-                EXPECT_EQ(expected, Text(5, col)) << type << " " << CellNames[col].*name;
+                EXPECT_EQ(Text(5, col), expected) << type << " " << CellNames[col].*name;
             }
-            EXPECT_EQ("A0", Text(5, TFLG)) << type;
+            EXPECT_EQ(Text(5, TFLG), "A0") << type;
         }
 }
 
 TEST_F(ChannelFileReader, TakesChildrenInAnyOrder) {
     for (const TypedTarget& target : Targets) {
         const std::string type = target.type;
-        ASSERT_EQ(0, Open(FileOf(type, Memory(5, AllCells(&Names::name, true))))) << type;
+        ASSERT_EQ(Open(FileOf(type, Memory(5, AllCells(&Names::name, true)))), 0) << type;
         for (int col = 0; col < 31; ++col)
             if (col != ZONE) {
-                EXPECT_EQ(IsRead(CellNames[col], type) ? wxString::Format("v%02d", col).utf8_string() : "",
-                          Text(5, col))
+                EXPECT_EQ(Text(5, col),
+                          IsRead(CellNames[col], type) ? wxString::Format("v%02d", col).utf8_string() : "")
                     << type << " " << CellNames[col].name;
             }
     }
 }
 
 TEST_F(ChannelFileReader, StepsOverChildrenThatItDoesNotTake) {
-    ASSERT_EQ(0,
-              Open(FileOf("ANFM", Memory(5, "<XX>1</XX><MF>10</MF><MN>005</MN><mn>7</mn><DS>A</DS><RY>Y</RY>"
-                                            "<DS2/><TC>023</TC>"))));
-    EXPECT_EQ("005", Text(5, MNUM));
-    EXPECT_EQ("A", Text(5, DESC));
-    EXPECT_EQ("023", Text(5, TCOD));
-    EXPECT_EQ("", Text(5, MFLG));
-    EXPECT_EQ("", Text(5, RONL));
-    EXPECT_EQ(0, CurrentParameters().Flags & PageHasShadows);
+    ASSERT_EQ(Open(FileOf("ANFM", Memory(5, "<XX>1</XX><MF>10</MF><MN>005</MN><mn>7</mn><DS>A</DS><RY>Y</RY>"
+                                            "<DS2/><TC>023</TC>"))),
+              0);
+    EXPECT_EQ(Text(5, MNUM), "005");
+    EXPECT_EQ(Text(5, DESC), "A");
+    EXPECT_EQ(Text(5, TCOD), "023");
+    EXPECT_EQ(Text(5, MFLG), "");
+    EXPECT_EQ(Text(5, RONL), "");
+    EXPECT_EQ(CurrentParameters().Flags & PageHasShadows, 0);
 }
 
 TEST_F(ChannelFileReader, ReadsRowsThatEndBeforeTheirType) {
@@ -105,26 +105,28 @@ TEST_F(ChannelFileReader, ReadsRowsThatEndBeforeTheirType) {
         {"NP25", "<MF>0</MF>"},
     };
     for (const auto& [type, children] : cases) {
-        ASSERT_EQ(0, Open(FileOf(type, Memory(3, children)))) << type;
-        EXPECT_EQ(std::string(type) == "NP25" ? "0" : "", Text(3, MFLG)) << type;
-        EXPECT_EQ(std::string(type) == "NP25" ? "" : "120.000", Text(3, RFRQ)) << type;
-        EXPECT_EQ("A0", Text(3, TFLG)) << type;
+        ASSERT_EQ(Open(FileOf(type, Memory(3, children))), 0) << type;
+        EXPECT_EQ(Text(3, MFLG), std::string(type) == "NP25" ? "0" : "") << type;
+        EXPECT_EQ(Text(3, RFRQ), std::string(type) == "NP25" ? "" : "120.000") << type;
+        EXPECT_EQ(Text(3, TFLG), "A0") << type;
     }
 }
 
 TEST_F(ChannelFileReader, AcceptsTheLongNamesOfTheHeader) {
-    ASSERT_EQ(0, Open(Document("<Version>0.9</Version><Date>d</Date><Time>t</Time><FileType>ANFM</FileType>"
-                               "<FileRadio>KRV-214</FileRadio><FileBand>FM 138-174</FileBand>"
-                               "<Memory row=\"2\"><MNUM>002</MNUM></Memory>")));
-    EXPECT_EQ("002", Text(2, MNUM));
-    EXPECT_EQ(3, CurrentParameters().Radio);
+    ASSERT_EQ(Open(Document("<Version>0.9</Version><Date>d</Date><Time>t</Time><FileType>ANFM</FileType>"
+                            "<FileRadio>KRV-214</FileRadio><FileBand>FM 138-174</FileBand>"
+                            "<Memory row=\"2\"><MNUM>002</MNUM></Memory>")),
+              0);
+    EXPECT_EQ(Text(2, MNUM), "002");
+    EXPECT_EQ(CurrentParameters().Radio, 3);
 }
 
 TEST_F(ChannelFileReader, RefusesNoVersion) {
     for (const char* version : {"", "9.9.9", "none"})
-        EXPECT_EQ(0, Open(Document("<Version>" + std::string(version) +
-                                   "</Version><Date/><Time/><FType>ANFM</FType><FRadio>KRV-47</FRadio>"
-                                   "<FBand>FM 66-88</FBand>")))
+        EXPECT_EQ(Open(Document("<Version>" + std::string(version) +
+                                "</Version><Date/><Time/><FType>ANFM</FType><FRadio>KRV-47</FRadio>"
+                                "<FBand>FM 66-88</FBand>")),
+                  0)
             << version;
 }
 
@@ -135,27 +137,27 @@ TEST_F(ChannelFileReader, TakesTheTargetOfTheFile) {
     for (size_t i = 0; i < std::size(Targets); ++i) {
         const TypedTarget& target = Targets[i];
         SCOPED_TRACE(target.type);
-        ASSERT_EQ(0, Open(FileOf(target.type, "")));
+        ASSERT_EQ(Open(FileOf(target.type, "")), 0);
         const PageParameterRecord& page = CurrentParameters();
-        EXPECT_EQ(target.radioIndex, page.Radio);
-        EXPECT_EQ(target.bandSlot, page.BandIndex);
-        EXPECT_EQ(bands[i], page.Band);
-        EXPECT_EQ(target.rows, page.Rows);
-        EXPECT_EQ(types[i], page.Type);
-        EXPECT_EQ(columns[i], page.Cols);
-        EXPECT_EQ(target.radio, PageStrings[0].RadioName);
-        EXPECT_EQ(target.band, PageStrings[0].BandName);
-        EXPECT_EQ(target.type, PageStrings[0].TypeName);
-        EXPECT_EQ(target.rows + 1, CurrentGrid()->GetNumberRows());
-        EXPECT_EQ(NumberText(target.rows), CurrentGrid()->GetRowLabelValue(target.rows));
-        EXPECT_EQ(RadioCatalogue::ColumnHeading[types[i]][RFRQ], CurrentGrid()->GetColLabelValue(RFRQ));
-        EXPECT_EQ(target.radio, Status(1));
-        EXPECT_EQ(target.band, Status(2));
-        EXPECT_EQ(std::to_string(target.rows) + " Rows", Status(3));
-        EXPECT_EQ(target.radio, MainFrame->m_notebook->GetPageText(0));
+        EXPECT_EQ(page.Radio, target.radioIndex);
+        EXPECT_EQ(page.BandIndex, target.bandSlot);
+        EXPECT_EQ(page.Band, bands[i]);
+        EXPECT_EQ(page.Rows, target.rows);
+        EXPECT_EQ(page.Type, types[i]);
+        EXPECT_EQ(page.Cols, columns[i]);
+        EXPECT_EQ(PageStrings[0].RadioName, target.radio);
+        EXPECT_EQ(PageStrings[0].BandName, target.band);
+        EXPECT_EQ(PageStrings[0].TypeName, target.type);
+        EXPECT_EQ(CurrentGrid()->GetNumberRows(), target.rows + 1);
+        EXPECT_EQ(CurrentGrid()->GetRowLabelValue(target.rows), NumberText(target.rows));
+        EXPECT_EQ(CurrentGrid()->GetColLabelValue(RFRQ), RadioCatalogue::ColumnHeading[types[i]][RFRQ]);
+        EXPECT_EQ(Status(1), target.radio);
+        EXPECT_EQ(Status(2), target.band);
+        EXPECT_EQ(Status(3), std::to_string(target.rows) + " Rows");
+        EXPECT_EQ(MainFrame->m_notebook->GetPageText(0), target.radio);
         const bool guards = target.rows % 10 == 2;
-        EXPECT_EQ(guards ? target.rows - 1 : -1, GD1);
-        EXPECT_EQ(guards ? target.rows : -1, GD2);
+        EXPECT_EQ(GD1, guards ? target.rows - 1 : -1);
+        EXPECT_EQ(GD2, guards ? target.rows : -1);
     }
 }
 
@@ -171,26 +173,26 @@ TEST_F(ChannelFileReader, OfAFileWithoutTypeTakesTheTypeOfItsRadioAndBand) {
         {"KDRV-4xxx", "K6 3-BAND", 3},  {"KDRV-4xxx", "AM 118-138", 6}, {"KDRV-8400", "AM 118-138", 6},
     };
     for (const Case& c : cases) {
-        ASSERT_EQ(0, Open(Document(Header("", c.radio, c.band)))) << c.radio;
-        EXPECT_EQ(c.type, CurrentParameters().Type) << c.radio << " " << c.band;
-        EXPECT_EQ(RadioCatalogue::RadioTypeName[c.type], PageStrings[0].TypeName);
+        ASSERT_EQ(Open(Document(Header("", c.radio, c.band))), 0) << c.radio;
+        EXPECT_EQ(CurrentParameters().Type, c.type) << c.radio << " " << c.band;
+        EXPECT_EQ(PageStrings[0].TypeName, RadioCatalogue::RadioTypeName[c.type]);
     }
 }
 
 TEST_F(ChannelFileReader, ChangesTheColumnsWhenOnlyTheTypeDiffers) {
     RetargetTo("ANAM");
-    ASSERT_EQ(0, CurrentGrid()->GetColSize(RTON));
-    ASSERT_EQ(0, Open(FileOf("FXAM", "")));
-    EXPECT_EQ(50, CurrentGrid()->GetColSize(RTON));
-    EXPECT_EQ("RxTn", CurrentGrid()->GetColLabelValue(RTON));
-    ASSERT_EQ(0, Open(FileOf("ANAM", "")));
-    EXPECT_EQ(0, CurrentGrid()->GetColSize(RTON));
+    ASSERT_EQ(CurrentGrid()->GetColSize(RTON), 0);
+    ASSERT_EQ(Open(FileOf("FXAM", "")), 0);
+    EXPECT_EQ(CurrentGrid()->GetColSize(RTON), 50);
+    EXPECT_EQ(CurrentGrid()->GetColLabelValue(RTON), "RxTn");
+    ASSERT_EQ(Open(FileOf("ANAM", "")), 0);
+    EXPECT_EQ(CurrentGrid()->GetColSize(RTON), 0);
 }
 
 TEST_F(ChannelFileReader, LoadsAHeaderWithoutMemoriesAsAnEmptyPage) {
     for (const TypedTarget& target : Targets) {
-        ASSERT_EQ(0, Open(FileOf(target.type, ""))) << target.type;
-        EXPECT_EQ(std::vector<int>{0}, RowsWithText()) << target.type;
+        ASSERT_EQ(Open(FileOf(target.type, "")), 0) << target.type;
+        EXPECT_EQ(FilledRows(0), std::vector<int>{0}) << target.type;
     }
 }
 
@@ -200,106 +202,109 @@ TEST_F(ChannelFileReader, GivesAFileWithoutRowZeroTheDefaultRowOfItsTarget) {
         {"O12", "VHFAM 118"},  {"KDAR", "VHFAM118"}, {"ANAM", "UHFAM 225"}, {"FXAM", "UHFAM 225"},
     };
     for (const auto& [type, description] : descriptions) {
-        ASSERT_EQ(0, Open(FileOf(type, Memory(2, "<MN>002</MN>")))) << type;
-        EXPECT_EQ(description, Text(0, DESC)) << type;
-        EXPECT_EQ("A0", Text(0, TFLG)) << type;
+        ASSERT_EQ(Open(FileOf(type, Memory(2, "<MN>002</MN>"))), 0) << type;
+        EXPECT_EQ(Text(0, DESC), description) << type;
+        EXPECT_EQ(Text(0, TFLG), "A0") << type;
     }
 }
 
 TEST_F(ChannelFileReader, ReplacesTheDefaultRowByThatOfTheFile) {
-    ASSERT_EQ(0, Open(FileOf("ANFM", Memory(0, "<MN>000</MN><DS>MINE</DS><RF>144.0000</RF>"))));
-    EXPECT_EQ("MINE", Text(0, DESC));
-    EXPECT_EQ("144.0000", Text(0, RFRQ));
-    EXPECT_EQ("174.0000", Text(0, TFRQ)) << "cells that the file lacks keep the default";
-    EXPECT_EQ("A0", Text(0, TFLG));
+    ASSERT_EQ(Open(FileOf("ANFM", Memory(0, "<MN>000</MN><DS>MINE</DS><RF>144.0000</RF>"))), 0);
+    EXPECT_EQ(Text(0, DESC), "MINE");
+    EXPECT_EQ(Text(0, RFRQ), "144.0000");
+    EXPECT_EQ(Text(0, TFRQ), "174.0000") << "cells that the file lacks keep the default";
+    EXPECT_EQ(Text(0, TFLG), "A0");
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
 }
 
 TEST_F(ChannelFileReader, TakesTheRowFromItsAttributeWhateverTheNumber) {
-    ASSERT_EQ(0, Open(FileOf("ANFM", Memory(40, "<MN>007</MN>"))));
-    EXPECT_EQ("007", Text(40, MNUM));
-    EXPECT_EQ((std::vector<int>{0, 40}), RowsWithText());
+    ASSERT_EQ(Open(FileOf("ANFM", Memory(40, "<MN>007</MN>"))), 0);
+    EXPECT_EQ(Text(40, MNUM), "007");
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 40}));
 }
 
 TEST_F(ChannelFileReader, ReadsAMemoryWithoutRowIntoRowZero) {
-    ASSERT_EQ(0, Open(FileOf("ANFM", "<MEMORY><DS>ZERO</DS></MEMORY>")));
-    EXPECT_EQ("ZERO", Text(0, DESC));
+    ASSERT_EQ(Open(FileOf("ANFM", "<MEMORY><DS>ZERO</DS></MEMORY>")), 0);
+    EXPECT_EQ(Text(0, DESC), "ZERO");
 }
 
 TEST_F(ChannelFileReader, PassesOverRowsOutsideTheGrid) {
     for (const char* row :
          {"103", "-1", "99999999999999999999", "-99999999999999999999", "x", "", "0x5x", " "}) {
         const bool isZero = std::string(row) == "0x5x"; // reads as 0
-        ASSERT_EQ(0, Open(FileOf("ANFM", "<MEMORY row=\"" + std::string(row) + "\"><DS>GONE</DS></MEMORY>" +
-                                             Memory(102, "<DS>LAST</DS>"))))
+        ASSERT_EQ(Open(FileOf("ANFM", "<MEMORY row=\"" + std::string(row) + "\"><DS>GONE</DS></MEMORY>" +
+                                          Memory(102, "<DS>LAST</DS>"))),
+                  0)
             << row;
-        EXPECT_EQ((std::vector<int>{0, 102}), RowsWithText()) << "\"" << row << "\"";
-        EXPECT_EQ(isZero ? "GONE" : "VHF   138", Text(0, DESC)) << "\"" << row << "\"";
+        EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 102})) << "\"" << row << "\"";
+        EXPECT_EQ(Text(0, DESC), isZero ? "GONE" : "VHF   138") << "\"" << row << "\"";
     }
 }
 
 TEST_F(ChannelFileReader, WritesTheLaterOfTwoEqualRowsOverTheEarlierCellByCell) {
-    ASSERT_EQ(0, Open(FileOf("ANFM", Memory(9, "<MN>009</MN><DS>FIRST</DS><RF>150.0000</RF>") +
-                                         Memory(9, "<MN>010</MN><DS>SECOND</DS>"))));
-    EXPECT_EQ("010", Text(9, MNUM));
-    EXPECT_EQ("SECOND", Text(9, DESC));
-    EXPECT_EQ("150.0000", Text(9, RFRQ));
+    ASSERT_EQ(Open(FileOf("ANFM", Memory(9, "<MN>009</MN><DS>FIRST</DS><RF>150.0000</RF>") +
+                                      Memory(9, "<MN>010</MN><DS>SECOND</DS>"))),
+              0);
+    EXPECT_EQ(Text(9, MNUM), "010");
+    EXPECT_EQ(Text(9, DESC), "SECOND");
+    EXPECT_EQ(Text(9, RFRQ), "150.0000");
 }
 
 TEST_F(ChannelFileReader, CountsOneZoneSlotForARowThatComesTwice) {
-    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(9, "0", "N", "3") + P25Memory(9, "0", "N", "5"))));
-    EXPECT_EQ("5", Text(9, ZONE));
-    EXPECT_EQ(1, TakenSlots());
-    EXPECT_EQ(1, ZoneSlotsOf(0)[4]);
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(9, "0", "N", "3") + P25Memory(9, "0", "N", "5"))), 0);
+    EXPECT_EQ(Text(9, ZONE), "5");
+    EXPECT_EQ(TakenSlots(), 1);
+    EXPECT_EQ(ZoneSlotsOf(0)[4], 1);
 }
 
 TEST_F(ChannelFileReader, TakesTheLaterOfTwoZonesInARow) {
-    ASSERT_EQ(0, Open(FileOf("NP25", Memory(9, "<MN>009</MN><ZN>3</ZN><ZN>5</ZN>"))));
-    EXPECT_EQ("5", Text(9, ZONE));
-    EXPECT_EQ(1, TakenSlots());
+    ASSERT_EQ(Open(FileOf("NP25", Memory(9, "<MN>009</MN><ZN>3</ZN><ZN>5</ZN>"))), 0);
+    EXPECT_EQ(Text(9, ZONE), "5");
+    EXPECT_EQ(TakenSlots(), 1);
 }
 
 TEST_F(ChannelFileReader, EndsEachRowWithFlagsThatDoNotShowItsZoneSlot) {
-    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(9, "0", "N", "3"))));
-    EXPECT_EQ("A0", Text(9, TFLG));
-    EXPECT_EQ("3", Text(9, ZONE));
-    EXPECT_EQ(1, ZoneSlotsOf(0)[2]);
-    EXPECT_EQ(1, TakenSlots());
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(9, "0", "N", "3"))), 0);
+    EXPECT_EQ(Text(9, TFLG), "A0");
+    EXPECT_EQ(Text(9, ZONE), "3");
+    EXPECT_EQ(ZoneSlotsOf(0)[2], 1);
+    EXPECT_EQ(TakenSlots(), 1);
 }
 
 TEST_F(ChannelFileReader, GivesTheSeventeenthRowOfAZoneTheNextFreeOne) {
     std::string memories;
     for (int row = 1; row <= 17; ++row)
         memories += P25Memory(row, "0", "N", "1");
-    ASSERT_EQ(0, Open(FileOf("RP25", memories)));
-    EXPECT_EQ("1", Text(16, ZONE));
-    EXPECT_EQ("2", Text(17, ZONE));
-    EXPECT_EQ(16, ZoneSlotsOf(0)[0]);
-    EXPECT_EQ(1, ZoneSlotsOf(0)[1]);
+    ASSERT_EQ(Open(FileOf("RP25", memories)), 0);
+    EXPECT_EQ(Text(16, ZONE), "1");
+    EXPECT_EQ(Text(17, ZONE), "2");
+    EXPECT_EQ(ZoneSlotsOf(0)[0], 16);
+    EXPECT_EQ(ZoneSlotsOf(0)[1], 1);
 }
 
 TEST_F(ChannelFileReader, BringsPrimariesAndShadowsBackOutOfTheScanAndLocked) {
-    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "10", "P-1", "2") + P25Memory(6, "01", "S-005", "2") +
-                                         P25Memory(7, "0", "N", "2"))));
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(5, "10", "P-1", "2") + P25Memory(6, "01", "S-005", "2") +
+                                      P25Memory(7, "0", "N", "2"))),
+              0);
     wxGrid* grid = CurrentGrid();
-    EXPECT_EQ("N", Text(5, SCAN));
-    EXPECT_EQ("N", Text(6, SCAN));
-    EXPECT_EQ("Y", Text(7, SCAN));
+    EXPECT_EQ(Text(5, SCAN), "N");
+    EXPECT_EQ(Text(6, SCAN), "N");
+    EXPECT_EQ(Text(7, SCAN), "Y");
     EXPECT_TRUE(grid->IsReadOnly(5, SCAN));
     EXPECT_TRUE(grid->IsReadOnly(6, SCAN));
     EXPECT_FALSE(grid->IsReadOnly(7, SCAN));
     EXPECT_FALSE(grid->IsReadOnly(5, ZONE));
     EXPECT_TRUE(grid->IsReadOnly(6, ZONE)) << "a shadow has the zone of its primary";
     EXPECT_FALSE(grid->IsReadOnly(7, ZONE));
-    EXPECT_EQ("", Text(6, ZONE));
-    EXPECT_EQ(2, TakenSlots()) << "a shadow takes no slot";
+    EXPECT_EQ(Text(6, ZONE), "");
+    EXPECT_EQ(TakenSlots(), 2) << "a shadow takes no slot";
 }
 
 TEST_F(ChannelFileReader, LocksScanOfRowsInZoneX) {
-    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "0", "N", "X") + P25Memory(6, "0", "N", "W"))));
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(5, "0", "N", "X") + P25Memory(6, "0", "N", "W"))), 0);
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(5, SCAN));
     EXPECT_FALSE(CurrentGrid()->IsReadOnly(6, SCAN));
-    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "0", "N", "W") + P25Memory(6, "0", "N", "X"))));
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(5, "0", "N", "W") + P25Memory(6, "0", "N", "X"))), 0);
     EXPECT_FALSE(CurrentGrid()->IsReadOnly(5, SCAN));
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(6, SCAN));
 }
@@ -308,8 +313,9 @@ TEST_F(ChannelFileReader, LocksScanOfRowsInZoneX) {
 TEST_F(ChannelFileReader, KeepsShadowsAndPrimariesLockedAsBeforeTheyWereSaved_Departure) {
     for (const char* type : {"RP25", "NP25"}) {
         SCOPED_TRACE(type);
-        ASSERT_EQ(0, Open(FileOf(type, P25Memory(5, "10", "P-1", "2") + P25Memory(6, "01", "S-005", "2") +
-                                           P25Memory(7, "0", "N", "2"))));
+        ASSERT_EQ(Open(FileOf(type, P25Memory(5, "10", "P-1", "2") + P25Memory(6, "01", "S-005", "2") +
+                                        P25Memory(7, "0", "N", "2"))),
+                  0);
         const auto lockedIn = [](int row) {
             std::vector<int> columns;
             for (int col = 0; col < ColumnTotal; ++col)
@@ -317,28 +323,29 @@ TEST_F(ChannelFileReader, KeepsShadowsAndPrimariesLockedAsBeforeTheyWereSaved_De
                     columns.push_back(col);
             return columns;
         };
-        EXPECT_EQ((std::vector<int>{MNUM, SHAD, SCAN}), lockedIn(5));
-        EXPECT_EQ((std::vector<int>{MNUM, SHAD, SCAN, ZONE, RFRQ, TFRQ}), lockedIn(6));
-        EXPECT_EQ((std::vector<int>{SHAD}), lockedIn(7));
+        EXPECT_EQ(lockedIn(5), (std::vector<int>{MNUM, SHAD, SCAN}));
+        EXPECT_EQ(lockedIn(6), (std::vector<int>{MNUM, SHAD, SCAN, ZONE, RFRQ, TFRQ}));
+        EXPECT_EQ(lockedIn(7), (std::vector<int>{SHAD}));
     }
 }
 
 TEST_F(ChannelFileReader, LetsNoKeyRetuneOrRenumberAShadowAlone) {
     testbench::ShowAndFocus(*MainFrame);
-    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "10", "P-1", "2") + P25Memory(6, "01", "S-005", "2"))));
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(5, "10", "P-1", "2") + P25Memory(6, "01", "S-005", "2"))), 0);
     testbench::TypeIntoCell(*CurrentGrid(), 6, RFRQ, "150.0");
     testbench::TypeIntoCell(*CurrentGrid(), 6, TFRQ, "151.0");
     testbench::TypeIntoCell(*CurrentGrid(), 6, MNUM, "99");
     testbench::TypeIntoCell(*CurrentGrid(), 5, MNUM, "98");
-    EXPECT_EQ((std::vector<std::string>{"6", "", "", "5"}),
-              (std::vector<std::string>{Text(6, MNUM), Text(6, RFRQ), Text(6, TFRQ), Text(5, MNUM)}));
+    EXPECT_EQ((std::vector<std::string>{Text(6, MNUM), Text(6, RFRQ), Text(6, TFRQ), Text(5, MNUM)}),
+              (std::vector<std::string>{"6", "", "", "5"}));
     testbench::TypeIntoCell(*CurrentGrid(), 6, DESC, "own");
-    EXPECT_EQ("own", Text(6, DESC));
+    EXPECT_EQ(Text(6, DESC), "own");
 }
 
 TEST_F(ChannelFileReader, LocksARowThatComesTwiceByWhatItIsInTheEnd) {
-    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(6, "01", "S-005", "2") + P25Memory(6, "0", "N", "2") +
-                                         P25Memory(7, "01", "S-005", "2") + Memory(7, "<DS>LAST</DS>"))));
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(6, "01", "S-005", "2") + P25Memory(6, "0", "N", "2") +
+                                      P25Memory(7, "01", "S-005", "2") + Memory(7, "<DS>LAST</DS>"))),
+              0);
     EXPECT_FALSE(CurrentGrid()->IsReadOnly(6, RFRQ));
     EXPECT_FALSE(CurrentGrid()->IsReadOnly(6, ZONE));
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(7, RFRQ));
@@ -346,10 +353,10 @@ TEST_F(ChannelFileReader, LocksARowThatComesTwiceByWhatItIsInTheEnd) {
 }
 
 TEST_F(ChannelFileReader, LeavesScanCellsOfOtherTypesAsTheyAre) {
-    ASSERT_EQ(0, Open(FileOf("KDAR", Memory(5, "<SH>P-1</SH><SC type=\"RP25\">Y</SC>"))));
-    EXPECT_EQ("Y", Text(5, SCAN));
-    ASSERT_EQ(0, Open(FileOf("ANFM", Memory(5, "<SH>S-001</SH><SC type=\"ANFM\">31</SC>"))));
-    EXPECT_EQ("31", Text(5, SCAN));
+    ASSERT_EQ(Open(FileOf("KDAR", Memory(5, "<SH>P-1</SH><SC type=\"RP25\">Y</SC>"))), 0);
+    EXPECT_EQ(Text(5, SCAN), "Y");
+    ASSERT_EQ(Open(FileOf("ANFM", Memory(5, "<SH>S-001</SH><SC type=\"ANFM\">31</SC>"))), 0);
+    EXPECT_EQ(Text(5, SCAN), "31");
     EXPECT_FALSE(CurrentGrid()->IsReadOnly(5, SCAN));
 }
 
@@ -361,8 +368,8 @@ TEST_F(ChannelFileReader, MarksAPageThatHoldsPrimariesOrShadows) {
     constexpr Case cases[] = {{"", false},  {"0", false}, {"08", false}, {"60", false}, {"10", true},
                               {"01", true}, {"07", true}, {"67", true},  {"1F", true},  {"G", false}};
     for (const Case& c : cases) {
-        ASSERT_EQ(0, Open(FileOf("RP25", P25Memory(9, c.flags, "N", "1")))) << c.flags;
-        EXPECT_EQ(c.shadows, (CurrentParameters().Flags & 0x08) != 0) << "\"" << c.flags << "\"";
+        ASSERT_EQ(Open(FileOf("RP25", P25Memory(9, c.flags, "N", "1"))), 0) << c.flags;
+        EXPECT_EQ((CurrentParameters().Flags & 0x08) != 0, c.shadows) << "\"" << c.flags << "\"";
     }
 }
 
@@ -370,40 +377,40 @@ TEST_F(ChannelFileReader, LeavesRowsOfAP25PageThatTheFileLacksEmpty) {
     for (const char* type : {"RP25", "NP25"})
         for (const bool fromP25 : {false, true}) {
             fromP25 ? RetargetTo(type) : RetargetTo("ANFM");
-            ASSERT_EQ(0, Open(FileOf(type, P25Memory(9, "0", "N", "4"))));
-            EXPECT_EQ((std::vector<int>{0, 9}), RowsWithText()) << type << " from P25: " << fromP25;
-            EXPECT_EQ(1, TakenSlots()) << type << " from P25: " << fromP25;
+            ASSERT_EQ(Open(FileOf(type, P25Memory(9, "0", "N", "4"))), 0);
+            EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 9})) << type << " from P25: " << fromP25;
+            EXPECT_EQ(TakenSlots(), 1) << type << " from P25: " << fromP25;
         }
 }
 
 TEST_F(ChannelFileReader, GivesP25PagesTheZonesOfTheirGeneration) {
-    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(9, "0", "N", "K"))));
-    EXPECT_EQ("K", Text(9, ZONE));
-    ASSERT_EQ(0, Open(FileOf("RP25", P25Memory(9, "0", "N", "K"))));
-    EXPECT_EQ("1", Text(9, ZONE)) << "the first generation has no zone K";
-    EXPECT_EQ(16u, RadioCatalogue::ZoneList.size());
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(9, "0", "N", "K"))), 0);
+    EXPECT_EQ(Text(9, ZONE), "K");
+    ASSERT_EQ(Open(FileOf("RP25", P25Memory(9, "0", "N", "K"))), 0);
+    EXPECT_EQ(Text(9, ZONE), "1") << "the first generation has no zone K";
+    EXPECT_EQ(RadioCatalogue::ZoneList.size(), 16u);
 }
 
 TEST_F(ChannelFileReader, GivesGuardRowsTheirZoneAndLocks) {
-    ASSERT_EQ(0, Open(FileOf("RP25", P25Memory(231, "0", "N", "1") + P25Memory(232, "0", "N", "1"))));
-    EXPECT_EQ("16", Text(231, ZONE));
-    EXPECT_EQ("16", Text(232, ZONE));
+    ASSERT_EQ(Open(FileOf("RP25", P25Memory(231, "0", "N", "1") + P25Memory(232, "0", "N", "1"))), 0);
+    EXPECT_EQ(Text(231, ZONE), "16");
+    EXPECT_EQ(Text(232, ZONE), "16");
     for (int row : {231, 232})
         for (int col : {MNUM, SCAN, ZONE})
             EXPECT_TRUE(CurrentGrid()->IsReadOnly(row, col)) << row << " " << ColumnTag[col];
-    ASSERT_EQ(0, Open(FileOf("ANFM", "")));
+    ASSERT_EQ(Open(FileOf("ANFM", "")), 0);
     for (int row : {101, 102})
         for (int col : {MNUM, SCAN, RTON, RCOD})
             EXPECT_TRUE(CurrentGrid()->IsReadOnly(row, col)) << row << " " << ColumnTag[col];
 }
 
 TEST_F(ChannelFileReader, ClearsTheLocksOfFormerRows) {
-    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "10", "P-1", "2") + P25Memory(6, "01", "S-005", "2"))));
-    ASSERT_EQ(0, Open(FileOf("NP25", P25Memory(5, "0", "N", "2") + P25Memory(6, "0", "N", "2"))));
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(5, "10", "P-1", "2") + P25Memory(6, "01", "S-005", "2"))), 0);
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(5, "0", "N", "2") + P25Memory(6, "0", "N", "2"))), 0);
     for (int row : {5, 6})
         for (int col : {SCAN, ZONE})
             EXPECT_FALSE(CurrentGrid()->IsReadOnly(row, col)) << row << " " << ColumnTag[col];
-    ASSERT_EQ(0, Open(FileOf("ANAM", "")));
+    ASSERT_EQ(Open(FileOf("ANAM", "")), 0);
     for (int row : {5, 101, 102, 200})
         for (int col : {MNUM, SCAN, ZONE, MODE, RTON, RCOD, RFRQ, TFRQ})
             EXPECT_FALSE(CurrentGrid()->IsReadOnly(row, col)) << row << " " << ColumnTag[col];
@@ -416,7 +423,7 @@ TEST_F(ChannelFileReader, GivesThePageTheEditorsOfTheFilesTarget) {
     };
     RetargetTo("ANFM");
     ASSERT_FALSE(isP25ZoneCell(1));
-    ASSERT_EQ(0, Open(FileOf("NP25", "")));
+    ASSERT_EQ(Open(FileOf("NP25", "")), 0);
     for (int row : {0, 1, 103, 502})
         EXPECT_TRUE(isP25ZoneCell(row)) << row;
 }
@@ -430,37 +437,37 @@ TEST_F(ChannelFileReader, EmptiesAndUnlocksEveryCellOfThePage) {
             grid->SetReadOnly(row, col);
         }
     const wxXmlDocument empty;
-    ASSERT_EQ(101, OpenZelkFile(empty, 0));
+    ASSERT_EQ(OpenZelkFile(empty, 0), 101);
     for (int row : {1, 50, 102})
         for (int col = 0; col < ColumnTotal; ++col) {
             const bool guardLock = row == 102 && (col == MNUM || col == SCAN || col == RTON || col == RCOD);
-            EXPECT_EQ("", Text(row, col)) << row << " " << ColumnTag[col];
-            EXPECT_EQ(guardLock, grid->IsReadOnly(row, col)) << row << " " << ColumnTag[col];
+            EXPECT_EQ(Text(row, col), "") << row << " " << ColumnTag[col];
+            EXPECT_EQ(grid->IsReadOnly(row, col), guardLock) << row << " " << ColumnTag[col];
         }
 }
 
 TEST_F(ChannelFileReader, DropsATextOfBlanksButKeepsThoseInsideAText) {
-    ASSERT_EQ(0,
-              Open(FileOf("ANFM", Memory(5, "<MN>005</MN><DS>   </DS>") + Memory(6, "<DS>  A  B  </DS>"))));
-    EXPECT_EQ("", Text(5, DESC));
-    EXPECT_EQ("  A  B  ", Text(6, DESC));
+    ASSERT_EQ(Open(FileOf("ANFM", Memory(5, "<MN>005</MN><DS>   </DS>") + Memory(6, "<DS>  A  B  </DS>"))),
+              0);
+    EXPECT_EQ(Text(5, DESC), "");
+    EXPECT_EQ(Text(6, DESC), "  A  B  ");
 }
 
 TEST_F(ChannelFileReader, ChecksNoValue) {
-    ASSERT_EQ(0,
-              Open(FileOf("ANFM", Memory(5, "<MN>999</MN><MD>Q</MD><RF>bad</RF><RT>1.0</RT><RC>999</RC>"))));
-    EXPECT_EQ("999", Text(5, MNUM));
-    EXPECT_EQ("Q", Text(5, MODE));
-    EXPECT_EQ("bad", Text(5, RFRQ));
-    EXPECT_EQ("1.0", Text(5, RTON));
-    EXPECT_EQ("999", Text(5, RCOD));
+    ASSERT_EQ(Open(FileOf("ANFM", Memory(5, "<MN>999</MN><MD>Q</MD><RF>bad</RF><RT>1.0</RT><RC>999</RC>"))),
+              0);
+    EXPECT_EQ(Text(5, MNUM), "999");
+    EXPECT_EQ(Text(5, MODE), "Q");
+    EXPECT_EQ(Text(5, RFRQ), "bad");
+    EXPECT_EQ(Text(5, RTON), "1.0");
+    EXPECT_EQ(Text(5, RCOD), "999");
 }
 
 TEST_F(ChannelFileReader, DoesNotConvertBack) {
-    ASSERT_EQ(0, Open(FileOf("ANFM", Memory(5, "<MN>7</MN><RT>64</RT><RC>000</RC>"))));
-    EXPECT_EQ("7", Text(5, MNUM));
-    EXPECT_EQ("64", Text(5, RTON));
-    EXPECT_EQ("000", Text(5, RCOD));
+    ASSERT_EQ(Open(FileOf("ANFM", Memory(5, "<MN>7</MN><RT>64</RT><RC>000</RC>"))), 0);
+    EXPECT_EQ(Text(5, MNUM), "7");
+    EXPECT_EQ(Text(5, RTON), "64");
+    EXPECT_EQ(Text(5, RCOD), "000");
 }
 
 namespace {
@@ -522,39 +529,40 @@ TEST_F(ChannelFileReader, AnswersWhatTheHeaderLacksAndStoresNothingOfIt) {
             RetargetTo(former);
             SetCell(7, DESC, "OLD");
             const PageParameterRecord before = CurrentParameters();
-            EXPECT_EQ(c.code, Open(c.document));
+            EXPECT_EQ(Open(c.document), c.code);
             const PageParameterRecord& after = CurrentParameters();
-            EXPECT_EQ(before.Radio, after.Radio);
-            EXPECT_EQ(before.Band, after.Band);
-            EXPECT_EQ(before.BandIndex, after.BandIndex);
-            EXPECT_EQ(before.Type, after.Type);
-            EXPECT_EQ(before.Rows, after.Rows);
-            EXPECT_EQ(before.Cols, after.Cols);
-            EXPECT_EQ(TargetOf(former).radio, PageStrings[0].RadioName);
-            EXPECT_EQ(TargetOf(former).band, PageStrings[0].BandName);
-            EXPECT_EQ(former, PageStrings[0].TypeName);
-            EXPECT_EQ(std::vector<int>{0}, RowsWithText()) << "the former content is gone";
-            EXPECT_EQ(std::string(former) == "RP25" ? "VHF  136" : "UHFAM 225", Text(0, DESC));
+            EXPECT_EQ(after.Radio, before.Radio);
+            EXPECT_EQ(after.Band, before.Band);
+            EXPECT_EQ(after.BandIndex, before.BandIndex);
+            EXPECT_EQ(after.Type, before.Type);
+            EXPECT_EQ(after.Rows, before.Rows);
+            EXPECT_EQ(after.Cols, before.Cols);
+            EXPECT_EQ(PageStrings[0].RadioName, TargetOf(former).radio);
+            EXPECT_EQ(PageStrings[0].BandName, TargetOf(former).band);
+            EXPECT_EQ(PageStrings[0].TypeName, former);
+            EXPECT_EQ(FilledRows(0), std::vector<int>{0}) << "the former content is gone";
+            EXPECT_EQ(Text(0, DESC), std::string(former) == "RP25" ? "VHF  136" : "UHFAM 225");
             EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
-            EXPECT_EQ(0, TakenSlots());
+            EXPECT_EQ(TakenSlots(), 0);
         }
 }
 
 TEST_F(ChannelFileReader, AnswersThatADocumentHasNoRoot) {
     const wxXmlDocument empty;
-    EXPECT_EQ(101, OpenZelkFile(empty, 0));
-    EXPECT_EQ("LOW    66", Text(0, DESC));
+    EXPECT_EQ(OpenZelkFile(empty, 0), 101);
+    EXPECT_EQ(Text(0, DESC), "LOW    66");
 }
 
 TEST_F(ChannelFileReader, StopsAtAnElementThatIsNoMemoryAndKeepsTheRowsBeforeIt) {
-    ASSERT_EQ(109, Open(FileOf("NP25", P25Memory(0, "0", "N", "1") + P25Memory(5, "10", "P-1", "2") +
-                                           "<Other/>" + P25Memory(6, "0", "N", "2"))));
-    EXPECT_EQ((std::vector<int>{0, 5}), RowsWithText());
-    EXPECT_EQ("MEM", Text(0, DESC)) << "the file's own default row";
+    ASSERT_EQ(Open(FileOf("NP25", P25Memory(0, "0", "N", "1") + P25Memory(5, "10", "P-1", "2") + "<Other/>" +
+                                      P25Memory(6, "0", "N", "2"))),
+              109);
+    EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 5}));
+    EXPECT_EQ(Text(0, DESC), "MEM") << "the file's own default row";
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(5, SCAN));
-    EXPECT_EQ("KDRV-716B", Status(1));
-    ASSERT_EQ(109, Open(FileOf("ANFM", "<Other/>")));
-    EXPECT_EQ("VHF   138", Text(0, DESC));
+    EXPECT_EQ(Status(1), "KDRV-716B");
+    ASSERT_EQ(Open(FileOf("ANFM", "<Other/>")), 109);
+    EXPECT_EQ(Text(0, DESC), "VHF   138");
 }
 
 TEST_F(ChannelFileReader, TakesEveryElementThatIsNamedLikeAMemory) {
@@ -563,13 +571,13 @@ TEST_F(ChannelFileReader, TakesEveryElementThatIsNamedLikeAMemory) {
                                                  {"MEM", 109}};
     for (const auto& [name, code] : cases) {
         const std::string element = std::string("<") + name + " row=\"3\"><DS>A</DS></" + name + ">";
-        EXPECT_EQ(code, Open(FileOf("ANFM", element))) << name;
-        EXPECT_EQ(code == 0 ? "A" : "", Text(3, DESC)) << name;
+        EXPECT_EQ(Open(FileOf("ANFM", element)), code) << name;
+        EXPECT_EQ(Text(3, DESC), code == 0 ? "A" : "") << name;
     }
 }
 
 TEST_F(ChannelFileReader, EndsWithTheCellsUnpainted) {
     CurrentGrid()->SetCellBackgroundColour(5, RFRQ, FailColour);
-    ASSERT_EQ(0, Open(FileOf("ANFM", Memory(5, "<RF>150.0000</RF>"))));
+    ASSERT_EQ(Open(FileOf("ANFM", Memory(5, "<RF>150.0000</RF>"))), 0);
     EXPECT_NE(FailColour, CurrentGrid()->GetCellBackgroundColour(5, RFRQ));
 }

@@ -6,11 +6,11 @@
 #include "editing/PageReset.h"
 #include "files/XmlFile.h"
 #include "files/ZelkFile_OpenSave.h"
+#include "robot/Files.h"
+#include "robot/Pump.h"
+#include "robot/TempFolder.h"
 #include "tests/support/Modals.h"
 #include "tests/support/ZelkWindowTest.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/Pump.h"
-#include "tests/support/robot/TempFolder.h"
 
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
@@ -115,7 +115,7 @@ protected:
     /// Chooses a command of the menus.
     static void Choose(int command) {
         wxMenu* menu = nullptr;
-        ASSERT_NE(nullptr, MainFrame->GetMenuBar()->FindItem(command, &menu));
+        ASSERT_NE(MainFrame->GetMenuBar()->FindItem(command, &menu), nullptr);
         menu->SendEvent(command);
         testbench::PumpUntilIdle();
     }
@@ -131,11 +131,6 @@ protected:
         Choose(IdImport);
     }
 
-    static void FillRow(int row, const std::vector<std::pair<int, const char*>>& cells) {
-        for (const auto& [col, text] : cells)
-            SetCell(row, col, text);
-    }
-
     static void EmptyRow(int row) {
         for (int col = 0; col < ColumnTotal; ++col)
             SetCell(row, col, "");
@@ -144,15 +139,6 @@ protected:
     static std::string Text(int row, int col) { return Cell(row, col).utf8_string(); }
 
     static std::string ToolTip() { return MainFrame->m_statusBar->GetToolTipText().utf8_string(); }
-
-    /// Rows of the grid that have a text.
-    static std::vector<int> RowsWithText() {
-        std::vector<int> rows;
-        for (int row = 0; row < CurrentGrid()->GetNumberRows(); ++row)
-            if (RowHasData(row))
-                rows.push_back(row);
-        return rows;
-    }
 
     static std::string Status(int field) {
         return MainFrame->m_statusBar->GetStatusText(field).utf8_string();

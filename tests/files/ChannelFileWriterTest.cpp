@@ -12,16 +12,16 @@ namespace {
 class ChannelFileWriter : public ChannelFileTest {
 protected:
     static void MakeAnalogRow(int row, const char* number) {
-        FillRow(row, {{MNUM, number},
-                      {SCAN, "3"},
-                      {DESC, "VHF   138"},
-                      {MODE, "W"},
-                      {RFRQ, "150.0000"},
-                      {RTON, "OFF"},
-                      {RCOD, "OFF"},
-                      {TFRQ, "150.0000"},
-                      {TTON, "OFF"},
-                      {TCOD, "OFF"}});
+        SetCells(row, {{MNUM, number},
+                       {SCAN, "3"},
+                       {DESC, "VHF   138"},
+                       {MODE, "W"},
+                       {RFRQ, "150.0000"},
+                       {RTON, "OFF"},
+                       {RCOD, "OFF"},
+                       {TFRQ, "150.0000"},
+                       {TTON, "OFF"},
+                       {TCOD, "OFF"}});
     }
 
     /// Start tag and text of each child of the last memory, as "SC type=\"ANFM\"=3".
@@ -75,7 +75,7 @@ TEST_F(ChannelFileWriter, GivesTheFileOfOneAnalogRowByteForByte) {
     RetargetTo("ANFM");
     EmptyRow(0);
     MakeAnalogRow(12, "012");
-    EXPECT_EQ(AnalogFile, Masked(Save()));
+    EXPECT_EQ(Masked(Save()), AnalogFile);
 }
 
 TEST_F(ChannelFileWriter, GivesTheBytesThatTheToolkitItselfSaves) {
@@ -88,7 +88,7 @@ TEST_F(ChannelFileWriter, GivesTheBytesThatTheToolkitItselfSaves) {
         BuildChannelFile(CurrentPage, document);
         const fs::path other = m_folder / "toolkit.zelk";
         ASSERT_TRUE(document.Save(other.string(), 2));
-        EXPECT_EQ(Masked(testbench::ReadFile(other)), Masked(saved));
+        EXPECT_EQ(Masked(saved), Masked(testbench::ReadFile(other)));
         EXPECT_NE(std::string::npos, Masked(saved).find("<Date>D</Date>\n  <Time>T</Time>"));
     }
 }
@@ -144,7 +144,7 @@ TEST_F(ChannelFileWriter, WritesTheCellsOfEachType) {
         std::string children;
         for (const std::string& child : LastMemory(Save()))
             children += (children.empty() ? "" : " ") + child;
-        EXPECT_EQ(expected, children) << type;
+        EXPECT_EQ(children, expected) << type;
     }
 }
 
@@ -162,7 +162,7 @@ TEST_F(ChannelFileWriter, WritesRowsAscendingWithTheDefaultRowFirst) {
     RetargetTo("ANFM");
     for (int row : {102, 7, 1})
         MakeAnalogRow(row, "1");
-    EXPECT_EQ((std::vector<std::string>{"0", "1", "7", "102"}), SavedRows(Save()));
+    EXPECT_EQ(SavedRows(Save()), (std::vector<std::string>{"0", "1", "7", "102"}));
 }
 
 TEST_F(ChannelFileWriter, TellsTheGridRowWhateverTheMemoryNumber) {
@@ -180,7 +180,7 @@ TEST_F(ChannelFileWriter, LeavesOutIncompleteRows) {
     MakeAnalogRow(6, "006");
     SetCell(5, TFRQ, "");
     const std::string bytes = Save();
-    EXPECT_EQ(std::string::npos, bytes.find("row=\"5\""));
+    EXPECT_EQ(bytes.find("row=\"5\""), std::string::npos);
     EXPECT_NE(std::string::npos, bytes.find("row=\"6\""));
 }
 
@@ -191,23 +191,22 @@ TEST_F(ChannelFileWriter, KeepsAShadowWithoutZone) {
     SetCell(8, ZONE, "");
     EXPECT_NE(std::string::npos, Save().find("<MEMORY row=\"8\">"));
     SetCell(8, MFLG, "10");
-    EXPECT_EQ(std::string::npos, Save().find("<MEMORY row=\"8\">")) << "a primary has a zone";
+    EXPECT_EQ(Save().find("<MEMORY row=\"8\">"), std::string::npos) << "a primary has a zone";
 }
 
 TEST_F(ChannelFileWriter, OfAPageOfIncompleteRowsGivesAHeaderAlone) {
     RetargetTo("ANFM");
     EmptyRow(0);
     SetCell(3, DESC, "ONLY");
-    EXPECT_EQ("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-              "<ZelkMem>\n"
-              "  <Version>1.0.0</Version>\n"
-              "  <Date>D</Date>\n"
-              "  <Time>T</Time>\n"
-              "  <FType>ANFM</FType>\n"
-              "  <FRadio>KRV-214</FRadio>\n"
-              "  <FBand>FM 138-174</FBand>\n"
-              "</ZelkMem>\n",
-              Masked(Save()));
+    EXPECT_EQ(Masked(Save()), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                              "<ZelkMem>\n"
+                              "  <Version>1.0.0</Version>\n"
+                              "  <Date>D</Date>\n"
+                              "  <Time>T</Time>\n"
+                              "  <FType>ANFM</FType>\n"
+                              "  <FRadio>KRV-214</FRadio>\n"
+                              "  <FBand>FM 138-174</FBand>\n"
+                              "</ZelkMem>\n");
 }
 
 TEST_F(ChannelFileWriter, EscapesMarkupInCells) {
@@ -216,8 +215,8 @@ TEST_F(ChannelFileWriter, EscapesMarkupInCells) {
     MakeAnalogRow(4, "004");
     SetCell(4, DESC, "A<&>\"B");
     EXPECT_NE(std::string::npos, Save().find("<DS>A&lt;&amp;&gt;\"B</DS>"));
-    EXPECT_EQ(0, Open(Save()));
-    EXPECT_EQ("A<&>\"B", Text(4, DESC));
+    EXPECT_EQ(Open(Save()), 0);
+    EXPECT_EQ(Text(4, DESC), "A<&>\"B");
 }
 
 TEST_F(ChannelFileWriter, LeavesOutCharactersThatNoXmlFileCanHold) {
@@ -226,7 +225,7 @@ TEST_F(ChannelFileWriter, LeavesOutCharactersThatNoXmlFileCanHold) {
     SetCell(4, DESC, wxString("A") + wxUniChar(1) + "B" + wxUniChar(0xFFFE) + wxUniChar(0x2612));
     const std::string bytes = Save();
     EXPECT_NE(std::string::npos, bytes.find("<DS>AB\xE2\x98\x92</DS>"));
-    EXPECT_EQ(0, Open(bytes)) << "the file must stay readable";
+    EXPECT_EQ(Open(bytes), 0) << "the file must stay readable";
 }
 
 TEST(ChannelFileText, ConvertsTonesAndCodesOfOldRadios) {
@@ -244,9 +243,9 @@ TEST(ChannelFileText, ConvertsTonesAndCodesOfOldRadios) {
     };
     int number = 0;
     for (const Case& c : cases)
-        EXPECT_EQ(c.written, ChannelFileText(c.column, c.cell, number))
+        EXPECT_EQ(ChannelFileText(c.column, c.cell, number), c.written)
             << ColumnTag[c.column] << " \"" << c.cell << "\"";
-    EXPECT_EQ(0, number);
+    EXPECT_EQ(number, 0);
 }
 
 TEST(ChannelFileText, WritesMemoryNumbersWithThreeDigitsAndKeepsTheLastForWhatIsNone) {
@@ -261,7 +260,7 @@ TEST(ChannelFileText, WritesMemoryNumbersWithThreeDigitsAndKeepsTheLastForWhatIs
     };
     int number = 0;
     for (const Case& c : cases)
-        EXPECT_EQ(c.written, ChannelFileText(MNUM, c.cell, number)) << "\"" << c.cell << "\"";
+        EXPECT_EQ(ChannelFileText(MNUM, c.cell, number), c.written) << "\"" << c.cell << "\"";
 }
 
 TEST_F(ChannelFileWriter, TakesTheNumberOfTheRowBelowForOneThatIsNone) {
@@ -292,15 +291,15 @@ TEST_F(ChannelFileWriter, NamesTheRowsWithDataThatItLeavesOut) {
         wxXmlDocument document;
         return BuildChannelFile(CurrentPage, document);
     };
-    EXPECT_EQ(std::vector<int>{}, leftOut());
+    EXPECT_EQ(leftOut(), std::vector<int>{});
     SetCell(0, DESC, "");
-    EXPECT_EQ(std::vector<int>{0}, leftOut());
+    EXPECT_EQ(leftOut(), std::vector<int>{0});
     SetCell(1, DESC, "A");
-    EXPECT_EQ((std::vector<int>{0, 1}), leftOut());
+    EXPECT_EQ(leftOut(), (std::vector<int>{0, 1}));
     SetCell(102, TFLG, "A0");
-    EXPECT_EQ((std::vector<int>{0, 1, 102}), leftOut());
+    EXPECT_EQ(leftOut(), (std::vector<int>{0, 1, 102}));
     MakeAnalogRow(1, "1");
-    EXPECT_EQ((std::vector<int>{0, 102}), leftOut());
+    EXPECT_EQ(leftOut(), (std::vector<int>{0, 102}));
     EmptyRow(0);
-    EXPECT_EQ(std::vector<int>{102}, leftOut()) << "a blank row has nothing to lose";
+    EXPECT_EQ(leftOut(), std::vector<int>{102}) << "a blank row has nothing to lose";
 }

@@ -68,7 +68,7 @@ TEST_F(CsvExportCommand, WritesTheFieldsOfEachTypeOfPage) {
         EmptyPageOf(type);
         FillWithColumnNames(3);
         Select({3});
-        EXPECT_EQ(bytes, Export()) << type;
+        EXPECT_EQ(Export(), bytes) << type;
         for (int col = 0; col < ColumnTotal; ++col)
             SetCell(3, col, "");
     }
@@ -76,14 +76,13 @@ TEST_F(CsvExportCommand, WritesTheFieldsOfEachTypeOfPage) {
 
 TEST_F(CsvExportCommand, WritesAKdarRowInItsOwnWords) {
     EmptyPageOf("KDAR");
-    FillRow(1,
-            {{MNUM, "001"}, {DESC, "TOWER"}, {RFRQ, "118.000"}, {TFRQ, "121.5"}, {SCAN, "Y"}, {RONL, "N"}});
-    FillRow(2, {{MNUM, "020"}, {DESC, "A,\"B\"C"}, {RFRQ, "99.5"}, {TFRQ, ""}, {SCAN, "N"}, {RONL, "Y"}});
+    SetCells(1,
+             {{MNUM, "001"}, {DESC, "TOWER"}, {RFRQ, "118.000"}, {TFRQ, "121.5"}, {SCAN, "Y"}, {RONL, "N"}});
+    SetCells(2, {{MNUM, "020"}, {DESC, "A,\"B\"C"}, {RFRQ, "99.5"}, {TFRQ, ""}, {SCAN, "N"}, {RONL, "Y"}});
     Select({1, 2});
-    EXPECT_EQ("KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n"
-              "1,TOWER,118000,1215,Yes,No,\n"
-              "20,\"A,\"\"B\"\"\",99.5,,No,Yes,\n",
-              Export());
+    EXPECT_EQ(Export(), "KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n"
+                        "1,TOWER,118000,1215,Yes,No,\n"
+                        "20,\"A,\"\"B\"\"\",99.5,,No,Yes,\n");
 }
 
 TEST_F(CsvExportCommand, OfAKdarPageAsksForAPurgeIfItsFirstRowDoes) {
@@ -94,49 +93,49 @@ TEST_F(CsvExportCommand, OfAKdarPageAsksForAPurgeIfItsFirstRowDoes) {
         SetCell(1, TFLG, flags);
         SetCell(2, TFLG, "A2");
         Select({2});
-        EXPECT_EQ(std::string("KDAR-2000,") + option + ",,,",
-                  Export().substr(0, 14 + std::string(option).size() - 1))
+        EXPECT_EQ(Export().substr(0, 14 + std::string(option).size() - 1),
+                  std::string("KDAR-2000,") + option + ",,,")
             << flags;
     }
 }
 
 TEST_F(CsvExportCommand, OfAnotherPageKnowsNoPurge) {
     EmptyPageOf("O12");
-    FillRow(1, {{MNUM, "001"}, {RFRQ, "121.500"}, {TFLG, "A2"}});
+    SetCells(1, {{MNUM, "001"}, {RFRQ, "121.500"}, {TFLG, "A2"}});
     Select({1});
-    EXPECT_EQ("MNUM,RFRQ,\n001,121.500,\n", Export());
+    EXPECT_EQ(Export(), "MNUM,RFRQ,\n001,121.500,\n");
 }
 
 TEST_F(CsvExportCommand, WritesTheSelectedRowsInTheirOrder) {
     EmptyPageOf("O12");
     for (int row = 1; row <= 6; ++row)
-        FillRow(row, {{MNUM, "x"}, {RFRQ, std::string(static_cast<size_t>(row), 'r').c_str()}});
+        SetCells(row, {{MNUM, "x"}, {RFRQ, std::string(static_cast<size_t>(row), 'r').c_str()}});
     Select({5, 2, 0});
-    EXPECT_EQ("MNUM,RFRQ,\n0,118.000,\nx,rr,\nx,rrrrr,\n", Export());
+    EXPECT_EQ(Export(), "MNUM,RFRQ,\n0,118.000,\nx,rr,\nx,rrrrr,\n");
     CurrentGrid()->SelectAll();
-    EXPECT_EQ("MNUM,RFRQ,\n0,118.000,\nx,r,\nx,rr,\nx,rrr,\nx,rrrr,\nx,rrrrr,\nx,rrrrrr,\n", Export());
+    EXPECT_EQ(Export(), "MNUM,RFRQ,\n0,118.000,\nx,r,\nx,rr,\nx,rrr,\nx,rrrr,\nx,rrrrr,\nx,rrrrrr,\n");
 }
 
 TEST_F(CsvExportCommand, WritesEmptyRowsToo) {
     EmptyPageOf("O12");
     Select({4});
-    EXPECT_EQ("MNUM,RFRQ,\n,,\n", Export());
+    EXPECT_EQ(Export(), "MNUM,RFRQ,\n,,\n");
 }
 
 TEST_F(CsvExportCommand, TakesCellsThatAreSelectedInTheNumberColumnBesideAWholeRow) {
     EmptyPageOf("O12");
     for (int row = 1; row <= 3; ++row)
-        FillRow(row, {{MNUM, wxString::Format("%d", row).utf8_string().c_str()}});
+        SetCells(row, {{MNUM, wxString::Format("%d", row).utf8_string().c_str()}});
     Select({1});
     CurrentGrid()->SelectBlock(2, MNUM, 2, MNUM, true);
     CurrentGrid()->SelectBlock(3, RFRQ, 3, RFRQ, true);
-    EXPECT_EQ("MNUM,RFRQ,\n1,,\n2,,\n", Export());
+    EXPECT_EQ(Export(), "MNUM,RFRQ,\n1,,\n2,,\n");
 }
 
 TEST_F(CsvExportCommand, QuotesOnlyAFieldWithAQuoteAndCutsItBehindTheLast) {
     EmptyPageOf("ANFM");
-    FillRow(1, {{MNUM, "001"}, {DESC, "A,B"}});
-    FillRow(2, {{MNUM, "002"}, {DESC, "A\"B\"C"}});
+    SetCells(1, {{MNUM, "001"}, {DESC, "A,B"}});
+    SetCells(2, {{MNUM, "002"}, {DESC, "A\"B\"C"}});
     Select({1, 2});
     const std::string bytes = Export();
     EXPECT_NE(std::string::npos, bytes.find("\n001,,A,B,,"));
@@ -145,7 +144,7 @@ TEST_F(CsvExportCommand, QuotesOnlyAFieldWithAQuoteAndCutsItBehindTheLast) {
 
 TEST_F(CsvExportCommand, WritesUtf8) {
     EmptyPageOf("KDAR");
-    FillRow(1, {{MNUM, "001"}});
+    SetCells(1, {{MNUM, "001"}});
     SetCell(1, DESC, wxString::FromUTF8("K\xC3\xB6ln"));
     Select({1});
     EXPECT_NE(std::string::npos, Export().find("\n1,K\xC3\xB6ln,"));
@@ -167,18 +166,18 @@ TEST_F(CsvExportCommand, WithoutWholeRowsSelectedSaysSo) {
 
 TEST_F(CsvExportCommand, OfAKdarPageLeavesBlankRowsAndTheDefaultRowOutSoThatNoMemoriesAreInvented) {
     EmptyPageOf("KDAR");
-    FillRow(2, {{MNUM, "002"}, {DESC, "TOWER"}, {RFRQ, "118.300"}, {TFRQ, "118.300"}, {RONL, "N"}});
+    SetCells(2, {{MNUM, "002"}, {DESC, "TOWER"}, {RFRQ, "118.300"}, {TFRQ, "118.300"}, {RONL, "N"}});
     const char* expected = "KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n"
                            "2,TOWER,118300,118300,No,No,\n";
     Choose(IdSelectAll);
-    EXPECT_EQ(expected, Export());
+    EXPECT_EQ(Export(), expected);
     Select({0, 1, 2, 3});
-    EXPECT_EQ(expected, Export());
+    EXPECT_EQ(Export(), expected);
 }
 
 TEST_F(CsvExportCommand, OfAKdarPageWithBlankRowsSelectedOnlySaysThatNothingIs) {
     EmptyPageOf("KDAR");
-    FillRow(2, {{MNUM, "002"}});
+    SetCells(2, {{MNUM, "002"}});
     for (const auto& rows : {std::initializer_list<int>{0}, {1}, {0, 1, 100}}) {
         Select(rows);
         DialogScript script;
@@ -191,15 +190,15 @@ TEST_F(CsvExportCommand, OfAKdarPageWithBlankRowsSelectedOnlySaysThatNothingIs) 
 
 TEST_F(CsvExportCommand, OffersTheRadiosNameAndAsksBeforeItOverwrites) {
     EmptyPageOf("KDAR");
-    FillRow(1, {{MNUM, "001"}});
+    SetCells(1, {{MNUM, "001"}});
     Select({1});
     DialogScript script;
     script.Expect(DialogKind::File, "Export CSV file").Answer(wxID_CANCEL).Set([](wxDialog* dialog) {
         auto* file = dynamic_cast<wxFileDialog*>(dialog);
-        ASSERT_NE(nullptr, file);
-        EXPECT_EQ("KDAR-2000.csv", file->GetFilename());
-        EXPECT_EQ("CSV files (*.csv)|*.csv|All files (*)|*", file->GetWildcard());
-        EXPECT_EQ(MainFrame, file->GetParent());
+        ASSERT_NE(file, nullptr);
+        EXPECT_EQ(file->GetFilename(), "KDAR-2000.csv");
+        EXPECT_EQ(file->GetWildcard(), "CSV files (*.csv)|*.csv|All files (*)|*");
+        EXPECT_EQ(file->GetParent(), MainFrame);
         for (const int flag : {wxFD_SAVE, wxFD_OVERWRITE_PROMPT, wxFD_CHANGE_DIR})
             EXPECT_TRUE(file->HasFlag(flag)) << flag;
     });
@@ -212,15 +211,15 @@ TEST_F(CsvExportCommand, ThatIsCancelledWritesNothing) {
     DialogScript script;
     script.Expect(DialogKind::File, "Export CSV file").Answer(wxID_CANCEL);
     Choose(IdExport);
-    EXPECT_EQ(std::vector<std::string>{}, Entries());
+    EXPECT_EQ(Entries(), std::vector<std::string>{});
 }
 
 TEST_F(CsvExportCommand, ReplacesAFormerFileAndLeavesNothingElse) {
     EmptyPageOf("O12");
     testbench::WriteFile(m_folder / "list.csv", std::string(10000, 'x'));
     Select({1});
-    EXPECT_EQ("MNUM,RFRQ,\n,,\n", Export());
-    EXPECT_EQ(std::vector<std::string>{"list.csv"}, Entries());
+    EXPECT_EQ(Export(), "MNUM,RFRQ,\n,,\n");
+    EXPECT_EQ(Entries(), std::vector<std::string>{"list.csv"});
 }
 
 TEST_F(CsvExportCommand, ThatCannotBeWrittenSaysSo) {
@@ -230,7 +229,7 @@ TEST_F(CsvExportCommand, ThatCannotBeWrittenSaysSo) {
     ExportInVain(m_folder / "link.csv");
     fs::create_directories(m_folder / "folder.csv");
     ExportInVain(m_folder / "folder.csv");
-    EXPECT_EQ((std::vector<std::string>{"folder.csv", "link.csv"}), Entries());
+    EXPECT_EQ(Entries(), (std::vector<std::string>{"folder.csv", "link.csv"}));
 }
 
 TEST_F(CsvExportCommand, ThatCannotBeWrittenLeavesTheFormerFile) {
@@ -240,8 +239,8 @@ TEST_F(CsvExportCommand, ThatCannotBeWrittenLeavesTheFormerFile) {
     const std::string name = std::string(251, 'n') + ".csv";
     testbench::WriteFile(m_folder / name, "former");
     ExportInVain(m_folder / name);
-    EXPECT_EQ("former", testbench::ReadFile(m_folder / name));
-    EXPECT_EQ(std::vector<std::string>{name}, Entries());
+    EXPECT_EQ(testbench::ReadFile(m_folder / name), "former");
+    EXPECT_EQ(Entries(), std::vector<std::string>{name});
 }
 
 TEST_F(CsvExportCommand, ThatEndsOnAFullDiskSaysSoAndLeavesTheFormerFile) {
@@ -250,37 +249,37 @@ TEST_F(CsvExportCommand, ThatEndsOnAFullDiskSaysSoAndLeavesTheFormerFile) {
     CurrentGrid()->SelectAll();
     const FileSizeLimit full(1000);
     ExportInVain(m_folder / "list.csv");
-    EXPECT_EQ("former", testbench::ReadFile(m_folder / "list.csv"));
-    EXPECT_EQ(std::vector<std::string>{"list.csv"}, Entries());
+    EXPECT_EQ(testbench::ReadFile(m_folder / "list.csv"), "former");
+    EXPECT_EQ(Entries(), std::vector<std::string>{"list.csv"});
 }
 
 TEST_F(CsvExportCommand, OverwritesAFileThatMayBeWrittenInAFolderThatMayNot) {
     EmptyPageOf("O12");
     Select({1});
     testbench::WriteFile(m_folder / "list.csv", std::string(10000, 'x'));
-    ASSERT_EQ(0, chmod((m_folder / "list.csv").c_str(), 0666));
-    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0555));
+    ASSERT_EQ(chmod((m_folder / "list.csv").c_str(), 0666), 0);
+    ASSERT_EQ(chmod(m_folder.Path().c_str(), 0555), 0);
     std::string bytes;
     {
         const AsAnyUser user;
         bytes = Export();
     }
-    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0755));
-    EXPECT_EQ("MNUM,RFRQ,\n,,\n", bytes);
-    EXPECT_EQ(std::vector<std::string>{"list.csv"}, Entries());
+    ASSERT_EQ(chmod(m_folder.Path().c_str(), 0755), 0);
+    EXPECT_EQ(bytes, "MNUM,RFRQ,\n,,\n");
+    EXPECT_EQ(Entries(), std::vector<std::string>{"list.csv"});
 }
 
 TEST_F(CsvExportCommand, WritesUnderTheNameThatWasChosen) {
     EmptyPageOf("O12");
     Select({1});
     Export("plain");
-    EXPECT_EQ(std::vector<std::string>{"plain"}, Entries());
-    EXPECT_EQ("", PageStrings[0].FileName) << "an export gives the page no file";
+    EXPECT_EQ(Entries(), std::vector<std::string>{"plain"});
+    EXPECT_EQ(PageStrings[0].FileName, "") << "an export gives the page no file";
 }
 
 TEST_F(CsvExportCommand, TakesTheTextOfAnOpenEditor) {
     EmptyPageOf("ANFM");
-    FillRow(1, {{MNUM, "001"}, {TFLG, "A0"}});
+    SetCells(1, {{MNUM, "001"}, {TFLG, "A0"}});
     wxGrid* grid = CurrentGrid();
     testbench::ShowAndFocus(*MainFrame);
     grid->GoToCell(1, DESC);
@@ -295,12 +294,12 @@ TEST_F(CsvExportCommand, TakesTheTextOfAnOpenEditor) {
 
 TEST_F(CsvExportCommand, KeepsPageAndSelection) {
     EmptyPageOf("ANFM");
-    FillRow(1, {{MNUM, "x"}, {DESC, "A"}});
+    SetCells(1, {{MNUM, "x"}, {DESC, "A"}});
     const auto before = RowTexts(1);
     Select({1});
     Export();
-    EXPECT_EQ(before, RowTexts(1));
-    EXPECT_EQ(1u, CurrentGrid()->GetSelectedRows().size());
+    EXPECT_EQ(RowTexts(1), before);
+    EXPECT_EQ(CurrentGrid()->GetSelectedRows().size(), 1u);
 }
 
 class CsvExportFile : public CsvExportCommand {};
@@ -319,9 +318,9 @@ TEST_F(CsvExportFile, IsOpenOnceAndWrittenWhenItIsClosed) {
     ASSERT_TRUE(list.OpenCsvWrite(path, CurrentParameters().Type));
     EXPECT_FALSE(list.OpenCsvWrite(path, CurrentParameters().Type)) << "it is open already";
     EXPECT_TRUE(list.WriteCsvLine(fields, 2));
-    EXPECT_EQ("former", testbench::ReadFile(m_folder / "a.csv"));
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a.csv"), "former");
     EXPECT_TRUE(list.CloseCsv());
-    EXPECT_EQ("MNUM,RFRQ,\n001,121.500,\n", testbench::ReadFile(m_folder / "a.csv"));
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a.csv"), "MNUM,RFRQ,\n001,121.500,\n");
     EXPECT_FALSE(list.WriteCsvLine(fields, 2));
     EXPECT_TRUE(list.OpenCsvWrite(path, CurrentParameters().Type)) << "it can be used again";
 }
@@ -333,6 +332,6 @@ TEST_F(CsvExportFile, ThatIsNeverClosedLeavesTheFormerOne) {
         CsvExport list;
         ASSERT_TRUE(list.OpenCsvWrite((m_folder / "a.csv").string(), CurrentParameters().Type));
     }
-    EXPECT_EQ("former", testbench::ReadFile(m_folder / "a.csv"));
-    EXPECT_EQ(std::vector<std::string>{"a.csv"}, Entries());
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a.csv"), "former");
+    EXPECT_EQ(Entries(), std::vector<std::string>{"a.csv"});
 }

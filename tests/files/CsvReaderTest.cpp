@@ -22,7 +22,7 @@ Lines LinesOf(const std::string& bytes) {
     while (!reader.IsAtEnd()) {
         Fields fields;
         const size_t count = reader.GetLine_CSV(fields);
-        EXPECT_EQ(count, fields.size());
+        EXPECT_EQ(fields.size(), count);
         lines.push_back(fields);
     }
     return lines;
@@ -126,22 +126,22 @@ TEST(CsvLines, AreSplitIntoFields) {
            "a"}}},
     };
     for (const auto& [name, bytes, lines] : cases)
-        EXPECT_EQ(lines, LinesOf(bytes)) << name;
+        EXPECT_EQ(LinesOf(bytes), lines) << name;
 }
 
 TEST(CsvLines, EndInsideQuotesToo) {
-    EXPECT_EQ((Lines{{"a"}, {"b,c"}}), LinesOf("\"a\nb\",c")) << "the second quote opens one again";
-    EXPECT_EQ((Lines{{"a"}, {"b,c"}}), LinesOf("\"a\r\"b,c\""));
-    EXPECT_EQ((Lines{{"a,b"}, {"c", "d"}}), LinesOf("\"a,b\r\nc,d"));
+    EXPECT_EQ(LinesOf("\"a\nb\",c"), (Lines{{"a"}, {"b,c"}})) << "the second quote opens one again";
+    EXPECT_EQ(LinesOf("\"a\r\"b,c\""), (Lines{{"a"}, {"b,c"}}));
+    EXPECT_EQ(LinesOf("\"a,b\r\nc,d"), (Lines{{"a,b"}, {"c", "d"}}));
 }
 
 TEST(CsvLines, BehindTheEndAreOneEmptyField) {
     CsvReader reader("a", Dialect::General);
     Fields fields;
-    EXPECT_EQ(1u, reader.GetLine_CSV(fields));
+    EXPECT_EQ(reader.GetLine_CSV(fields), 1u);
     EXPECT_TRUE(reader.IsAtEnd());
-    EXPECT_EQ(1u, reader.GetLine_CSV(fields));
-    EXPECT_EQ(Fields{""}, fields);
+    EXPECT_EQ(reader.GetLine_CSV(fields), 1u);
+    EXPECT_EQ(fields, Fields{""});
 }
 
 TEST(CsvTexts, AreUtf8OrElseLatin1WithoutControlCharactersAndOuterBlanks) {
@@ -169,40 +169,40 @@ TEST(CsvTexts, AreUtf8OrElseLatin1WithoutControlCharactersAndOuterBlanks) {
          "A   B"},
     };
     for (const auto& [name, bytes, utf8] : cases)
-        EXPECT_EQ(utf8, CsvCellText(bytes).utf8_string()) << name;
+        EXPECT_EQ(CsvCellText(bytes).utf8_string(), utf8) << name;
 }
 
 TEST(CsvTexts, AreCutToWhatACellNeeds) {
-    EXPECT_EQ(std::string(256, 'x'), CsvCellText(std::string(1000, 'x')).utf8_string());
-    EXPECT_EQ(std::string(255, 'x'),
-              CsvCellText(std::string(255, 'x') + " " + std::string(9, 'x')).utf8_string());
+    EXPECT_EQ(CsvCellText(std::string(1000, 'x')).utf8_string(), std::string(256, 'x'));
+    EXPECT_EQ(CsvCellText(std::string(255, 'x') + " " + std::string(9, 'x')).utf8_string(),
+              std::string(255, 'x'));
 }
 
 TEST(CsvHeadings, AreTheTagsInTheirOrder) {
     const char* names[] = {"MNUM", "BAND", "SCAN", "ZONE", "DESC", "MODE", "RFRQ", "RSQL", "RNSV", "RTON",
                            "RCOD", "RTGP", "RNAC", "TFRQ", "TSQL", "TTON", "TCOD", "TTGP", "TNAC", "TIDC"};
     for (size_t position = 0; position < 20; ++position)
-        EXPECT_EQ(Columns({{position, 0}}), ColumnsOf(names[position])) << names[position];
+        EXPECT_EQ(ColumnsOf(names[position]), Columns({{position, 0}})) << names[position];
 }
 
 TEST(CsvHeadings, MatchInAnyCaseOrderAndNumber) {
-    EXPECT_EQ(Columns({{0, 0}}), ColumnsOf("mnum\n"));
-    EXPECT_EQ(Columns({{0, 2}, {4, 0}, {6, 1}}), ColumnsOf("Desc,rFrQ,MNUM"));
-    EXPECT_EQ(Columns({{0, 1}, {4, 3}}), ColumnsOf(" x , mnum ,, \"desc\" "));
-    EXPECT_EQ(Columns({{0, 24}}), ColumnsOf(std::string(24, ',') + "MNUM")) << "known, though never read";
-    EXPECT_EQ(Columns({{0, 1}}), ColumnsOf("MFLG,MNUM,TFLG,RONL,MNUMB,MNU"));
+    EXPECT_EQ(ColumnsOf("mnum\n"), Columns({{0, 0}}));
+    EXPECT_EQ(ColumnsOf("Desc,rFrQ,MNUM"), Columns({{0, 2}, {4, 0}, {6, 1}}));
+    EXPECT_EQ(ColumnsOf(" x , mnum ,, \"desc\" "), Columns({{0, 1}, {4, 3}}));
+    EXPECT_EQ(ColumnsOf(std::string(24, ',') + "MNUM"), Columns({{0, 24}})) << "known, though never read";
+    EXPECT_EQ(ColumnsOf("MFLG,MNUM,TFLG,RONL,MNUMB,MNU"), Columns({{0, 1}}));
 }
 
 TEST(CsvHeadings, OfTheSameNameLetTheLaterWin) {
-    EXPECT_EQ(Columns({{0, 2}, {4, 1}}), ColumnsOf("MNUM,DESC,MNUM"));
+    EXPECT_EQ(ColumnsOf("MNUM,DESC,MNUM"), Columns({{0, 2}, {4, 1}}));
 }
 
 TEST(CsvHeadings, AreTheFirstLineThatHasAKnownOne) {
     CsvReader reader("My channels\n\n,,\nRFRQ;MNUM\nMNUM,DESC\n5,A\n", Dialect::General);
     EXPECT_TRUE(reader.GetHeader_CSV());
-    EXPECT_EQ(Columns({{0, 0}, {4, 1}}), reader.CsvFieldColumn);
-    EXPECT_EQ("MNUM", reader.Field(0));
-    EXPECT_EQ("", reader.Field(2));
+    EXPECT_EQ(reader.CsvFieldColumn, Columns({{0, 0}, {4, 1}}));
+    EXPECT_EQ(reader.Field(0), "MNUM");
+    EXPECT_EQ(reader.Field(2), "");
 }
 
 TEST(CsvHeadings, ThatAreMissingAreNotFound) {
@@ -217,10 +217,10 @@ TEST(CsvHeadings, ThatAreMissingAreNotFound) {
 TEST(CsvHeadings, InTheKdarDialectAreAnyLineWithText) {
     CsvReader reader("\n , ,\nKDAR-2000, Purge ,,,,\nwhatever\n", Dialect::Kdar);
     EXPECT_TRUE(reader.GetHeader_CSV());
-    EXPECT_EQ("KDAR-2000", reader.Field(0));
-    EXPECT_EQ("Purge", reader.Field(1));
+    EXPECT_EQ(reader.Field(0), "KDAR-2000");
+    EXPECT_EQ(reader.Field(1), "Purge");
     EXPECT_TRUE(reader.GetHeader_CSV());
-    EXPECT_EQ("whatever", reader.Field(0));
+    EXPECT_EQ(reader.Field(0), "whatever");
     EXPECT_FALSE(reader.GetHeader_CSV());
 }
 
@@ -256,16 +256,16 @@ TEST(CsvKeys, NameTheRow) {
         {"00000000000000000000000000000000000000000000007", {7}},
     };
     for (const auto& [key, rows] : cases)
-        EXPECT_EQ(rows, RowsOf(std::string("MNUM,DESC\n") + key + ",A\n")) << '[' << key << ']';
+        EXPECT_EQ(RowsOf(std::string("MNUM,DESC\n") + key + ",A\n"), rows) << '[' << key << ']';
 }
 
 TEST(CsvKeys, ThatNameNoRowPassTheirLineOverAndNoOther) {
-    EXPECT_EQ((std::vector<int>{1, 2, 3}), RowsOf("MNUM\n1\nx\n2\n200\n-1\n3"));
-    EXPECT_EQ(std::vector<int>{}, RowsOf("DESC\nA\nB\n")) << "no column has keys";
-    EXPECT_EQ(std::vector<int>{4}, RowsOf("DESC,MNUM\nA\nB,4\n")) << "a line too short to have one";
-    EXPECT_EQ(std::vector<int>{}, RowsOf(std::string(20, ',') + "MNUM\n" + std::string(20, ',') + "5\n"))
+    EXPECT_EQ(RowsOf("MNUM\n1\nx\n2\n200\n-1\n3"), (std::vector<int>{1, 2, 3}));
+    EXPECT_EQ(RowsOf("DESC\nA\nB\n"), std::vector<int>{}) << "no column has keys";
+    EXPECT_EQ(RowsOf("DESC,MNUM\nA\nB,4\n"), std::vector<int>{4}) << "a line too short to have one";
+    EXPECT_EQ(RowsOf(std::string(20, ',') + "MNUM\n" + std::string(20, ',') + "5\n"), std::vector<int>{})
         << "the key behind the twentieth column is never read";
-    EXPECT_EQ(std::vector<int>{5}, RowsOf(std::string(19, ',') + "MNUM\n" + std::string(19, ',') + "5\n"));
+    EXPECT_EQ(RowsOf(std::string(19, ',') + "MNUM\n" + std::string(19, ',') + "5\n"), std::vector<int>{5});
 }
 
 TEST(CsvKeys, OfGuardRowsAreThoseOfTheGridsSize) {
@@ -275,33 +275,33 @@ TEST(CsvKeys, OfGuardRowsAreThoseOfTheGridsSize) {
     std::vector<int> rows;
     while (reader.GetData_CSV(fields, 7))
         rows.push_back(reader.Row());
-    EXPECT_EQ((std::vector<int>{5, 6, 0, 6}), rows);
+    EXPECT_EQ(rows, (std::vector<int>{5, 6, 0, 6}));
 }
 
 TEST(CsvData, StandsAtThePositionsOfItsHeadings) {
     const CsvTexts fields = DataOf("TIDC,DESC,other,MNUM\n 42 ,\"A, B\",x,5,behind\n");
     for (size_t i = 0; i < fields.size(); ++i)
-        EXPECT_EQ(i == 0 ? "5" : i == 4 ? "A, B" : i == 19 ? "42" : "", fields[i]) << i;
+        EXPECT_EQ(fields[i], i == 0 ? "5" : i == 4 ? "A, B" : i == 19 ? "42" : "") << i;
 }
 
 TEST(CsvData, BehindTheTwentiethColumnIsNeverRead) {
     const std::string commas(18, ',');
     const CsvTexts fields = DataOf("MNUM," + commas + "DESC,MODE\n5," + commas + "A,W\n");
-    EXPECT_EQ("A", fields[4]) << "column 20";
-    EXPECT_EQ("", fields[5]) << "column 21";
+    EXPECT_EQ(fields[4], "A") << "column 20";
+    EXPECT_EQ(fields[5], "") << "column 21";
 }
 
 TEST(CsvData, OfAShortLineIsEmptyWhereTheLineHasEnded) {
     const CsvTexts fields = DataOf("MNUM,DESC,MODE\n5,A");
-    EXPECT_EQ("A", fields[4]);
-    EXPECT_EQ("", fields[5]);
+    EXPECT_EQ(fields[4], "A");
+    EXPECT_EQ(fields[5], "");
 }
 
 TEST(CsvData, OfTheKdarDialectAreSixFieldsWithTheKeyInTheFirst) {
     const CsvTexts fields = DataOf("Memory\n1, A ,118000,119000,Yes,No,behind\n", Dialect::Kdar);
     const char* expected[] = {"1", "A", "118000", "119000", "Yes", "No", ""};
     for (size_t i = 0; i < 7; ++i)
-        EXPECT_EQ(expected[i], fields[i]) << i;
+        EXPECT_EQ(fields[i], expected[i]) << i;
 }
 
 TEST(CsvData, OfTheKdarDialectHasAnEmptyKeyOrOneOfTheGrid) {
@@ -311,7 +311,7 @@ TEST(CsvData, OfTheKdarDialectHasAnEmptyKeyOrOneOfTheGrid) {
     std::string names;
     while (reader.GetData_CSV(fields, 103))
         names += (fields[1].empty() ? "-" : fields[1].utf8_string());
-    EXPECT_EQ("ACE-", names);
+    EXPECT_EQ(names, "ACE-");
 }
 
 TEST(CsvSpeed, OfManyLinesAndLongOnesIsLinear) {
@@ -319,12 +319,12 @@ TEST(CsvSpeed, OfManyLinesAndLongOnesIsLinear) {
     for (int i = 0; i < 100000; ++i)
         many += std::to_string(i % 1000) + ",\"CHANNEL, ONE\",150.0000\r\n";
     const double start = ProcessorSeconds();
-    EXPECT_EQ(10300u, RowsOf(many).size());
+    EXPECT_EQ(RowsOf(many).size(), 10300u);
     EXPECT_LT(ProcessorSeconds() - start, HangLimit);
 
     for (const char unit : {'x', ',', '"', '\n'}) {
         const double begin = ProcessorSeconds();
-        EXPECT_EQ(1u, RowsOf("MNUM,DESC\n5,\"" + std::string(1'000'000, unit)).size()) << unit;
+        EXPECT_EQ(RowsOf("MNUM,DESC\n5,\"" + std::string(1'000'000, unit)).size(), 1u) << unit;
         EXPECT_LT(ProcessorSeconds() - begin, HangLimit) << unit;
     }
 }

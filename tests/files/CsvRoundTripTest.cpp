@@ -35,7 +35,7 @@ protected:
         if (type == RadioCatalogue::O12) {
             ResetPage(CurrentPage);
             EmptyDefaultMemories(CurrentPage);
-            EXPECT_EQ(static_cast<int>(rows.size()), Import(bytes));
+            EXPECT_EQ(Import(bytes), static_cast<int>(rows.size()));
         } else {
             ImportByMenu("list.csv", "Imported " + std::to_string(rows.size()) + " Lines from " +
                                          (type == RadioCatalogue::KDAR ? "KDAR" : "CSV") + " file.");
@@ -68,7 +68,7 @@ protected:
     /// A memory as the program fills it, with these cells.
     static void MakeRow(int row, const std::vector<std::pair<int, const char*>>& cells) {
         FillRowsFromDefault({row});
-        FillRow(row, cells);
+        SetCells(row, cells);
     }
 };
 
@@ -250,12 +250,12 @@ TEST_F(CsvRoundTrip, OfAKdarPageSelectedAsAWholeInventsNoMemories) {
         const auto before = PageTexts();
         Choose(IdSelectAll);
         const std::string bytes = Export("list.csv");
-        EXPECT_EQ(memories + 2, std::count(bytes.begin(), bytes.end(), '\n'));
+        EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), memories + 2);
         ImportByMenu("list.csv", "Imported " + std::to_string(memories) + " Lines from KDAR file.");
         const auto after = PageTexts();
         for (size_t row = 1; row < after.size(); ++row)
-            EXPECT_EQ(before[row], after[row]) << "row " << row;
-        EXPECT_NE("DEFAULTS", Text(0, DESC)) << "such a list has no default row";
+            EXPECT_EQ(after[row], before[row]) << "row " << row;
+        EXPECT_NE(Text(0, DESC), "DEFAULTS") << "such a list has no default row";
     }
 }
 
@@ -286,9 +286,9 @@ TEST_F(CsvRoundTrip, OfAWholePageWithItsDefaultRowLosesTheLastLine) {
     CurrentGrid()->SelectAll();
     const std::string bytes = Export();
     ResetPage(CurrentPage);
-    EXPECT_EQ(102, Import(bytes));
-    EXPECT_EQ("CH101", Text(101, DESC));
-    EXPECT_EQ("", Text(102, DESC));
+    EXPECT_EQ(Import(bytes), 102);
+    EXPECT_EQ(Text(101, DESC), "CH101");
+    EXPECT_EQ(Text(102, DESC), "");
 }
 
 TEST_F(CsvRoundTrip, OfTextsThatAFieldCannotHold) {
@@ -309,7 +309,7 @@ TEST_F(CsvRoundTrip, OfTextsThatAFieldCannotHold) {
         EXPECT_NE(std::string::npos, bytes.find(std::string("\n1,") + field + ",")) << bytes;
         ResetPage(CurrentPage);
         ImportKdar(bytes);
-        EXPECT_EQ(back, Text(1, DESC)) << cell;
+        EXPECT_EQ(Text(1, DESC), back) << cell;
     }
 }
 
@@ -320,9 +320,9 @@ TEST_F(CsvRoundTrip, OfAPurgeListAsksForThePurgeInEveryRow) {
     Select({1, 2});
     const std::string bytes = Export();
     ResetPage(CurrentPage);
-    EXPECT_EQ(2, ImportKdar(bytes));
-    EXPECT_EQ("A2", Text(1, TFLG));
-    EXPECT_EQ("A2", Text(2, TFLG));
+    EXPECT_EQ(ImportKdar(bytes), 2);
+    EXPECT_EQ(Text(1, TFLG), "A2");
+    EXPECT_EQ(Text(2, TFLG), "A2");
 }
 
 TEST_F(CsvRoundTrip, OfANarrowListHasTooFewCommasToBeRecognised) {
@@ -333,7 +333,7 @@ TEST_F(CsvRoundTrip, OfANarrowListHasTooFewCommasToBeRecognised) {
     Select({1, 2, 3, 4, 5, 6});
     Export("list.csv");
     ImportByMenu("list.csv", "Error: Unknown File Type.");
-    EXPECT_EQ(std::vector<int>{0}, RowsWithText());
+    EXPECT_EQ(FilledRows(0), std::vector<int>{0});
 }
 
 TEST_F(CsvRoundTrip, OfFewerThanThreeRowsIsNotRecognised) {
@@ -348,7 +348,7 @@ TEST_F(CsvRoundTrip, OfFewerThanThreeRowsIsNotRecognised) {
             Export("list.csv");
             ImportByMenu("list.csv",
                          rows < 3 ? "Error: Unknown File Type." : "Imported 3 Lines from CSV file.");
-            EXPECT_EQ(rows < 3 ? 1u : 4u, RowsWithText().size()) << rows;
+            EXPECT_EQ(FilledRows(0).size(), rows < 3 ? 1u : 4u) << rows;
         }
     }
 }
@@ -359,5 +359,5 @@ TEST_F(CsvRoundTrip, OfOneRowIsRecognisedInTheKdarDialect) {
     Select({1});
     Export("list.csv");
     ImportByMenu("list.csv", "Imported 1 Lines from KDAR file.");
-    EXPECT_EQ("TOWER", Text(1, DESC));
+    EXPECT_EQ(Text(1, DESC), "TOWER");
 }

@@ -12,7 +12,7 @@ protected:
     }
 
     void ExpectNoPaint() {
-        for (int row : RowsWithText())
+        for (int row : FilledRows(0))
             for (int col = 0; col < ColumnTotal; ++col)
                 EXPECT_FALSE(IsPainted(row, col)) << row << ' ' << ColumnTag[col];
     }
@@ -31,7 +31,7 @@ protected:
 TEST_F(DigitalCsvSamples, OfAllColumnsFillThePage) {
     ImportSample("kdrv-716.csv", "Imported 36 Lines from CSV file.");
     // The default row and 35 memories.
-    EXPECT_EQ(36u, RowsWithText().size());
+    EXPECT_EQ(FilledRows(0).size(), 36u);
     ExpectCells(0, {{MNUM, "000"}, {SCAN, "Y"}, {DESC, "VCALL10"}, {RFRQ, "155.7525"}});
     ExpectCells(1,
                 {{MFLG, "0"},    {MNUM, "001"},      {PRIM, "001"},     {SHAD, "N"},     {BAND, "FM 136-174"},
@@ -52,7 +52,7 @@ TEST_F(DigitalCsvSamples, OfAllColumnsFillThePage) {
                      {ZONE, "2"}});
     ExpectCells(231, {{MNUM, "231"}, {DESC, "VCALL10"}, {ZONE, "16"}, {SCAN, "Y"}});
     ExpectCells(232, {{MNUM, "232"}, {DESC, "AIRGUARD"}, {ZONE, "16"}, {RFRQ, "168.6250"}});
-    EXPECT_EQ(35, TakenSlots());
+    EXPECT_EQ(TakenSlots(), 35);
     ExpectNoPaint();
 }
 
@@ -84,7 +84,7 @@ TEST_F(DigitalCsvSamples, WithQuotesAnywhereAndDoubledOnes) {
     for (const auto& [row, name] :
          {std::pair(1, "VCALL10"), {2, "VTAC11"}, {3, "\"VTAC12\""}, {4, "VTAC13, "}})
         ExpectCells(row, {{DESC, name}, {MODE, "n"}, {TNAC, "293"}, {TIDC, "1"}});
-    EXPECT_EQ(36u, RowsWithText().size());
+    EXPECT_EQ(FilledRows(0).size(), 36u);
     ExpectNoPaint();
 }
 
@@ -92,14 +92,14 @@ TEST_F(DigitalCsvSamples, OfMoreThanTwentyColumnsLoseThoseBehindTheTwentieth) {
     ImportSample("kdrv-716-many-columns.csv", "Imported 35 Lines from CSV file.");
     ExpectCells(1, {{MNUM, "001"}, {DESC, "VHF  001"}, {RFRQ, "155.7525"}, {RSQL, "x"}, {TSQL, "x"}});
     ExpectCells(32, {{MNUM, "032"}, {DESC, "VHF  032"}, {MODE, "D"}, {TTGP, "2711"}});
-    EXPECT_EQ(36u, RowsWithText().size());
+    EXPECT_EQ(FilledRows(0).size(), 36u);
 }
 
 TEST_F(DigitalCsvSamples, WithBlankLinesAndALastOneWithoutAnEnd) {
     ImportSample("kdrv-716-blank-lines-no-last-end.csv", "Imported 36 Lines from CSV file.");
     ExpectCells(5, {{DESC, "VTAC14"}, {TIDC, "1"}});
     ExpectCells(232, {{DESC, "AIRGUARD"}, {TIDC, "1"}});
-    EXPECT_EQ(36u, RowsWithText().size());
+    EXPECT_EQ(FilledRows(0).size(), 36u);
 }
 
 TEST_F(DigitalCsvSamples, WithNamesThatTheRadioCannotShow) {
@@ -114,7 +114,7 @@ TEST_F(DigitalCsvSamples, WithNamesThatTheRadioCannotShow) {
 TEST_F(DigitalCsvSamples, OfASpreadsheetWithSemicolonsAreOfNoKind) {
     SetCell(5, DESC, "FORMER");
     ImportSample("kdrv-716-semicolons.csv", "Error: Unknown File Type.");
-    EXPECT_EQ(Rows({0}), RowsWithText());
+    EXPECT_EQ(FilledRows(0), Rows({0}));
 }
 
 TEST_F(CsvSamples, OfAnAnalogRadioFillThePage) {
@@ -133,7 +133,7 @@ TEST_F(CsvSamples, OfAnAnalogRadioFillThePage) {
                     {TCOD, "023"},
                     {TFLG, "A0"}});
     ExpectCells(6, {{SCAN, "0"}, {RTON, "67.0"}, {TTON, "136.5"}, {TFRQ, "159.4725"}});
-    EXPECT_EQ(31u, RowsWithText().size());
+    EXPECT_EQ(FilledRows(0).size(), 31u);
     ExpectNoPaint();
 }
 
@@ -156,7 +156,7 @@ TEST_F(CsvSamples, OfTheKdarDialectFillThePageFromItsFirstMemory) {
                         {SCAN, "N"},
                         {RONL, "Y"},
                         {TFLG, flags}});
-        EXPECT_EQ(8u, RowsWithText().size());
+        EXPECT_EQ(FilledRows(0).size(), 8u);
     }
 }
 

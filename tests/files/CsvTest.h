@@ -34,13 +34,6 @@ protected:
         return testbench::ReadFile(m_folder / name);
     }
 
-    static std::vector<std::string> RowTexts(int row) {
-        std::vector<std::string> texts;
-        for (int col = 0; col < ColumnTotal; ++col)
-            texts.push_back(Text(row, col));
-        return texts;
-    }
-
     static bool IsPainted(int row, int col) {
         return CurrentGrid()->GetCellBackgroundColour(row, col) == FailColour;
     }

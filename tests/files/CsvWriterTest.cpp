@@ -33,13 +33,13 @@ TEST(CsvField, IsQuotedOnlyForAQuoteAndThenEndsWithIt) {
         {"\"\"", "\"\"\"\"\"\""},
     };
     for (const auto& [text, field] : cases)
-        EXPECT_EQ(field, CsvField(wxString::FromUTF8(text))) << '[' << text << ']';
+        EXPECT_EQ(CsvField(wxString::FromUTF8(text)), field) << '[' << text << ']';
 }
 
 TEST(CsvLine, HasACommaBehindEachFieldAndEndsWithALineEnd) {
-    EXPECT_EQ("\n", CsvLine(Texts({}), 0));
-    EXPECT_EQ("1,\n", CsvLine(Texts({"1"}), 1));
-    EXPECT_EQ("1,,A,\n", CsvLine(Texts({"1", "", "A", "more"}), 3));
+    EXPECT_EQ(CsvLine(Texts({}), 0), "\n");
+    EXPECT_EQ(CsvLine(Texts({"1"}), 1), "1,\n");
+    EXPECT_EQ(CsvLine(Texts({"1", "", "A", "more"}), 3), "1,,A,\n");
 }
 
 TEST(CsvHeading, NamesTheFieldsOfTheType) {
@@ -60,14 +60,14 @@ TEST(CsvHeading, NamesTheFieldsOfTheType) {
         {7, 8, "MNUM,SCAN,DESC,MODE,RFRQ,RTON,TFRQ,TTON,\n"},
     };
     for (const auto& [type, count, line] : cases) {
-        EXPECT_EQ(line, CsvHeadingLine(type)) << type;
-        EXPECT_EQ(count, CsvFieldCount(type)) << type;
+        EXPECT_EQ(CsvHeadingLine(type), line) << type;
+        EXPECT_EQ(CsvFieldCount(type), count) << type;
     }
 }
 
 TEST(CsvHeading, OfTheKdarDialectHasABannerThatCanAskForAPurge) {
-    EXPECT_EQ("KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n", KdarHeadingLines(false));
-    EXPECT_EQ("KDAR-2000,Purge,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n", KdarHeadingLines(true));
+    EXPECT_EQ(KdarHeadingLines(false), "KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n");
+    EXPECT_EQ(KdarHeadingLines(true), "KDAR-2000,Purge,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n");
 }
 
 TEST(CsvFields, HaveTheirColumnsWithTheReceiveGroupAndNacCrossedOnTheWayOut) {
@@ -77,8 +77,8 @@ TEST(CsvFields, HaveTheirColumnsWithTheReceiveGroupAndNacCrossedOnTheWayOut) {
                    {10, 10}, {11, 11}, {12, 12}, {13, 13}, {15, 14}, {14, 15}, {16, 16},
                    {17, 17}, {18, 18}, {19, 19}, {20, 20}, {21, 21}, {22, 22}};
     for (size_t position = 0; position < 20; ++position) {
-        EXPECT_EQ(columns[position].written, CsvFieldTable[position].written) << position;
-        EXPECT_EQ(columns[position].read, CsvFieldTable[position].read) << position;
+        EXPECT_EQ(CsvFieldTable[position].written, columns[position].written) << position;
+        EXPECT_EQ(CsvFieldTable[position].read, columns[position].read) << position;
     }
 }
 
@@ -86,7 +86,7 @@ TEST(KdarText, OfAMemoryNumberHasNoZerosBeforeIt) {
     const std::pair<const char*, const char*> cases[] = {{"001", "1"}, {"100", "100"}, {"0", "0"},
                                                          {"", "0"},    {"x", "0"},     {"7x", "7"}};
     for (const auto& [cell, text] : cases)
-        EXPECT_EQ(text, KdarNumberText(cell)) << cell;
+        EXPECT_EQ(KdarNumberText(cell), text) << cell;
 }
 
 TEST(KdarText, OfAFrequencyLacksThePointBehindThreeDigits) {
@@ -104,16 +104,16 @@ TEST(KdarText, OfAFrequencyLacksThePointBehindThreeDigits) {
         {"...", "..."},
     };
     for (const auto& [cell, text] : cases)
-        EXPECT_EQ(text, KdarFrequencyText(cell)) << cell;
+        EXPECT_EQ(KdarFrequencyText(cell), text) << cell;
 }
 
 TEST(KdarText, OfScanAndReceiveOnlyIsYesOrNo) {
     const std::pair<const char*, const char*> scans[] = {{"Y", "Yes"}, {"N", "No"}, {"y", "No"},
                                                          {"", "No"},   {"1", "No"}, {"Yes", "No"}};
     for (const auto& [cell, text] : scans)
-        EXPECT_EQ(text, KdarScanText(cell)) << cell;
+        EXPECT_EQ(KdarScanText(cell), text) << cell;
     const std::pair<const char*, const char*> receiveOnly[] = {
         {"Y", "Yes"}, {"N", "No"}, {"", ""}, {"y", "y"}, {"x", "x"}};
     for (const auto& [cell, text] : receiveOnly)
-        EXPECT_EQ(text, KdarRxOnlyText(cell)) << cell;
+        EXPECT_EQ(KdarRxOnlyText(cell), text) << cell;
 }

@@ -15,9 +15,9 @@ protected:
         ASSERT_LT(page.Radio, 18);
         ASSERT_GE(page.BandIndex, 0);
         ASSERT_LT(page.BandIndex, 6);
-        EXPECT_EQ(RadioCatalogue::RadioRows[page.Radio][page.BandIndex], page.Rows);
-        EXPECT_EQ(RadioCatalogue::RadioBands[page.Radio][page.BandIndex], page.Band);
-        EXPECT_EQ(page.Rows + 1, CurrentGrid()->GetNumberRows());
+        EXPECT_EQ(page.Rows, RadioCatalogue::RadioRows[page.Radio][page.BandIndex]);
+        EXPECT_EQ(page.Band, RadioCatalogue::RadioBands[page.Radio][page.BandIndex]);
+        EXPECT_EQ(CurrentGrid()->GetNumberRows(), page.Rows + 1);
         EXPECT_TRUE(RowHasData(0));
         EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
     }
@@ -45,9 +45,9 @@ TEST_F(HostileChannelFile, ThatIsCutOffAnywhereIsNotLoaded) {
     RetargetTo("ANFM");
     SetCell(5, DESC, "KEPT");
     for (size_t length = 0; length <= end; length += length < 400 ? 1 : 97)
-        EXPECT_EQ(NotLoaded, Open(whole.substr(0, length))) << length;
-    EXPECT_EQ("KEPT", Text(5, DESC)) << "a page is left alone by what is no document";
-    EXPECT_EQ(0, Open(whole.substr(0, end + 1)));
+        EXPECT_EQ(Open(whole.substr(0, length)), NotLoaded) << length;
+    EXPECT_EQ(Text(5, DESC), "KEPT") << "a page is left alone by what is no document";
+    EXPECT_EQ(Open(whole.substr(0, end + 1)), 0);
 }
 
 TEST_F(HostileChannelFile, WithBytesChangedLeavesAUsablePage) {
@@ -92,28 +92,30 @@ TEST_F(HostileChannelFile, WithCommentsAndInstructionsBetweenElementsIsRead) {
         children += c + element;
     const std::string header = "<Version>1</Version><Date/>" + c + "<Time/>" + c + "<FType>ANFM</FType>" + c +
                                "<FRadio>KRV-214</FRadio>" + c + "<FBand>FM 138-174</FBand>" + c;
-    ASSERT_EQ(0, Open("<?xml version=\"1.0\"?><!-- top -->" +
-                      Document(c + header + Memory(5, children + c) + c).substr(39) + "<!-- end -->"));
-    EXPECT_EQ("005", Text(5, MNUM));
-    EXPECT_EQ("7", Text(5, SCAN));
-    EXPECT_EQ("A", Text(5, DESC));
-    EXPECT_EQ("023", Text(5, TCOD));
+    ASSERT_EQ(Open("<?xml version=\"1.0\"?><!-- top -->" +
+                   Document(c + header + Memory(5, children + c) + c).substr(39) + "<!-- end -->"),
+              0);
+    EXPECT_EQ(Text(5, MNUM), "005");
+    EXPECT_EQ(Text(5, SCAN), "7");
+    EXPECT_EQ(Text(5, DESC), "A");
+    EXPECT_EQ(Text(5, TCOD), "023");
 }
 
 TEST_F(HostileChannelFile, WithElementsInsideTextsGivesTheirFirstText) {
     ASSERT_EQ(
-        0, Open(FileOf("ANFM", Memory(5, "<DS>A<b>B</b>C</DS><MN><b>7</b></MN><RF><![CDATA[150.0000]]></RF>"
-                                         "<TF><!-- x -->151.0000</TF>"))));
-    EXPECT_EQ("A", Text(5, DESC));
-    EXPECT_EQ("", Text(5, MNUM));
-    EXPECT_EQ("150.0000", Text(5, RFRQ));
-    EXPECT_EQ("151.0000", Text(5, TFRQ));
+        Open(FileOf("ANFM", Memory(5, "<DS>A<b>B</b>C</DS><MN><b>7</b></MN><RF><![CDATA[150.0000]]></RF>"
+                                      "<TF><!-- x -->151.0000</TF>"))),
+        0);
+    EXPECT_EQ(Text(5, DESC), "A");
+    EXPECT_EQ(Text(5, MNUM), "");
+    EXPECT_EQ(Text(5, RFRQ), "150.0000");
+    EXPECT_EQ(Text(5, TFRQ), "151.0000");
 }
 
 TEST_F(HostileChannelFile, WithUnknownChildrenOnlyEndsAtOnce) {
-    ASSERT_EQ(0, Open(FileOf("ANFM", Memory(5, Repeat("<MF>1</MF><XX/>", 10000)))));
-    EXPECT_EQ("", Text(5, MNUM));
-    EXPECT_EQ("", Text(5, MFLG));
+    ASSERT_EQ(Open(FileOf("ANFM", Memory(5, Repeat("<MF>1</MF><XX/>", 10000)))), 0);
+    EXPECT_EQ(Text(5, MNUM), "");
+    EXPECT_EQ(Text(5, MFLG), "");
 }
 
 TEST_F(HostileChannelFile, WithTenMegabytesOfRowsIsReadWithinTwoSeconds) {
@@ -127,17 +129,17 @@ TEST_F(HostileChannelFile, WithTenMegabytesOfRowsIsReadWithinTwoSeconds) {
                         "\n";
         const std::string file = FileOf(type, memories);
         const double start = ProcessorSeconds();
-        EXPECT_EQ(0, Open(file));
+        EXPECT_EQ(Open(file), 0);
         EXPECT_LT(ProcessorSeconds() - start, HangLimit) << type;
-        EXPECT_EQ("012", Text(last, MNUM));
+        EXPECT_EQ(Text(last, MNUM), "012");
     }
 }
 
 TEST_F(HostileChannelFile, NestedDeepIsNotLoaded) {
     for (const int depth : {1000, 100000, 1000000}) {
-        EXPECT_EQ(NotLoaded, Open(Repeat("<a>", depth) + Repeat("</a>", depth))) << depth;
-        EXPECT_EQ(NotLoaded, Open(Repeat("<a>", depth))) << depth;
-        EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, Repeat("<DS>", depth) + Repeat("</DS>", depth)))))
+        EXPECT_EQ(Open(Repeat("<a>", depth) + Repeat("</a>", depth)), NotLoaded) << depth;
+        EXPECT_EQ(Open(Repeat("<a>", depth)), NotLoaded) << depth;
+        EXPECT_EQ(Open(FileOf("ANFM", Memory(1, Repeat("<DS>", depth) + Repeat("</DS>", depth)))), NotLoaded)
             << depth;
     }
 }
@@ -151,18 +153,18 @@ TEST_F(HostileChannelFile, WithAnEntityBombIsNotLoaded) {
         bomb += "\">";
     }
     const double start = ProcessorSeconds();
-    EXPECT_EQ(NotLoaded,
-              Open(bomb + "]><ZelkMem>" + HeaderOf("ANFM") + Memory(1, "<DS>&j;</DS>") + "</ZelkMem>"));
+    EXPECT_EQ(Open(bomb + "]><ZelkMem>" + HeaderOf("ANFM") + Memory(1, "<DS>&j;</DS>") + "</ZelkMem>"),
+              NotLoaded);
     EXPECT_LT(ProcessorSeconds() - start, HangLimit);
 }
 
 TEST_F(HostileChannelFile, WithHugeAttributesAndTextsIsNotLoaded) {
     const std::string huge(10'000'000, '1');
     const double start = ProcessorSeconds();
-    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", "<MEMORY row=\"" + huge + "\"/>")));
-    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, "<DS>" + huge + "</DS>"))));
-    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", "<!--" + huge + "-->")));
-    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, "<DS>x" + Repeat("\n", 1'000'000) + "</DS>"))));
+    EXPECT_EQ(Open(FileOf("ANFM", "<MEMORY row=\"" + huge + "\"/>")), NotLoaded);
+    EXPECT_EQ(Open(FileOf("ANFM", Memory(1, "<DS>" + huge + "</DS>"))), NotLoaded);
+    EXPECT_EQ(Open(FileOf("ANFM", "<!--" + huge + "-->")), NotLoaded);
+    EXPECT_EQ(Open(FileOf("ANFM", Memory(1, "<DS>x" + Repeat("\n", 1'000'000) + "</DS>"))), NotLoaded);
     EXPECT_LT(ProcessorSeconds() - start, HangLimit);
 }
 
@@ -172,8 +174,8 @@ TEST_F(HostileChannelFile, WithLongTextsInCellsIsShownInLittleTime) {
         memories += Memory(row, "<MN>1</MN><DS>" + std::string(60000, 'W') + "</DS><RF>x" +
                                     Repeat("\ny", 60) + "</RF>");
     const double start = ProcessorSeconds();
-    ASSERT_EQ(0, Open(FileOf("ANFM", memories)));
-    EXPECT_EQ(std::string(256, 'W'), Text(1, DESC));
+    ASSERT_EQ(Open(FileOf("ANFM", memories)), 0);
+    EXPECT_EQ(Text(1, DESC), std::string(256, 'W'));
     CurrentGrid()->ForceRefresh();
     MainFrame->Update();
     wxYield();
@@ -181,8 +183,8 @@ TEST_F(HostileChannelFile, WithLongTextsInCellsIsShownInLittleTime) {
 }
 
 TEST_F(HostileChannelFile, ThatIsNotUtf8IsNotLoaded) {
-    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, "<DS>\xFF\xFE</DS>"))));
-    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, "<DS>\xC0\x80</DS>"))));
-    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, "<DS>\xED\xA0\x80</DS>"))));
-    EXPECT_EQ(NotLoaded, Open(FileOf("ANFM", Memory(1, std::string("<DS>\0</DS>", 10)))));
+    EXPECT_EQ(Open(FileOf("ANFM", Memory(1, "<DS>\xFF\xFE</DS>"))), NotLoaded);
+    EXPECT_EQ(Open(FileOf("ANFM", Memory(1, "<DS>\xC0\x80</DS>"))), NotLoaded);
+    EXPECT_EQ(Open(FileOf("ANFM", Memory(1, "<DS>\xED\xA0\x80</DS>"))), NotLoaded);
+    EXPECT_EQ(Open(FileOf("ANFM", Memory(1, std::string("<DS>\0</DS>", 10)))), NotLoaded);
 }

@@ -15,7 +15,7 @@ protected:
     /// Row 0 stands, cells are of a bearable length, and each zone slot is in its bounds.
     static void ExpectUsablePage(const std::string& name) {
         EXPECT_TRUE(RowHasData(0)) << name;
-        EXPECT_EQ(CurrentParameters().Rows + 1, CurrentGrid()->GetNumberRows()) << name;
+        EXPECT_EQ(CurrentGrid()->GetNumberRows(), CurrentParameters().Rows + 1) << name;
         for (int row = 0; row < CurrentGrid()->GetNumberRows(); ++row)
             for (int col = 0; col < ColumnTotal; ++col)
                 EXPECT_GE(260u, Text(row, col).size()) << name << ' ' << row << ' ' << ColumnTag[col];
@@ -39,7 +39,7 @@ protected:
             if (list.tells)
                 script.Expect(DialogKind::Message, "Import CSV");
             const double start = ProcessorSeconds();
-            EXPECT_EQ(list.count, reader(list.bytes)) << list.name;
+            EXPECT_EQ(reader(list.bytes), list.count) << list.name;
             EXPECT_LT(ProcessorSeconds() - start, HangLimit) << list.name;
             ExpectUsablePage(list.name);
         }

@@ -43,7 +43,7 @@ protected:
                     EXPECT_GE(Import(file.bytes), 0);
                 }
                 EXPECT_LT(ProcessorSeconds() - start, HangLimit);
-                EXPECT_EQ(CurrentParameters().Rows + 1, CurrentGrid()->GetNumberRows());
+                EXPECT_EQ(CurrentGrid()->GetNumberRows(), CurrentParameters().Rows + 1);
                 for (int zone = 0; zone < ZonesPerPage; ++zone)
                     EXPECT_LE(ZoneSlotsOf(CurrentPage)[zone], ZoneCapacity);
             }
@@ -273,7 +273,7 @@ TEST_F(HostileImport, OfACsvFileMayEndAnywhere) {
     const std::string line = "5,N,TOWER,W,155.7525,156.7525\n";
     const std::string whole = "MNUM,SCAN,DESC,MODE,RFRQ,TFRQ\n" + line + line + line + line;
     for (size_t length = whole.size() - line.size(); length <= whole.size(); ++length)
-        EXPECT_EQ(length == whole.size() - line.size() ? 3 : 4, Import(whole.substr(0, length))) << length;
+        EXPECT_EQ(Import(whole.substr(0, length)), length == whole.size() - line.size() ? 3 : 4) << length;
 }
 
 TEST_F(HostileImport, OfAKdarListMayEndAnywhere) {
@@ -282,7 +282,7 @@ TEST_F(HostileImport, OfAKdarListMayEndAnywhere) {
         "KDAR-2000,,,,,\nMemory,Name,Receive,Transmit,Scan,Rx Only\n1,A,118000,,No,No,\n";
     const std::string last = "2,TOWER,121500,121500,Yes,No,\n";
     for (size_t length = 0; length <= last.size(); ++length)
-        EXPECT_EQ(length == 0 ? 1 : 2, Import(before + last.substr(0, length))) << length;
+        EXPECT_EQ(Import(before + last.substr(0, length)), length == 0 ? 1 : 2) << length;
 }
 
 TEST_F(HostileImport, OfABinaryFileMayEndAnywhere) {
@@ -291,7 +291,7 @@ TEST_F(HostileImport, OfABinaryFileMayEndAnywhere) {
         BinaryFile({BinaryRecord(5).Word(2, 0x10), BinaryRecord(6).Word(2, 0x01).Word(4, 5)});
     for (size_t length = 0; length <= whole.size(); ++length) {
         const size_t records = length < 32 ? 0 : (length - 32 + 106 - 8) / 106;
-        EXPECT_EQ(static_cast<int>(records), Import(whole.substr(0, length))) << length;
+        EXPECT_EQ(Import(whole.substr(0, length)), static_cast<int>(records)) << length;
     }
 }
 
@@ -299,14 +299,14 @@ TEST_F(HostileImport, OfAListMayEndAnywhere) {
     RetargetTo("RP25");
     const std::string before = ListFile({ListLine("005")}), last = ListLine("006", {{6, "S"}, {8, "005"}});
     for (size_t length = 0; length <= last.size(); ++length)
-        EXPECT_EQ(length < 50 ? 1 : 2, Import(before + last.substr(0, length))) << length;
+        EXPECT_EQ(Import(before + last.substr(0, length)), length < 50 ? 1 : 2) << length;
 }
 
 TEST_F(HostileImport, OfAMultiZELFileMayEndAnywhere) {
     RetargetTo("ANFM");
     const std::string before = MultiZELFileOf({}), last = MultiZELLine("006");
     for (size_t length = 0; length <= last.size(); ++length)
-        EXPECT_EQ(length == 0 ? 2 : 3, Import(before + last.substr(0, length))) << length;
+        EXPECT_EQ(Import(before + last.substr(0, length)), length == 0 ? 2 : 3) << length;
 }
 
 TEST_F(HostileImport, OfBytesThatAreChangedLeavesTheDefaultRowWhole) {

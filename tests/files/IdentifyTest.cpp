@@ -35,37 +35,37 @@ std::vector<KindCase> KindCases() {
 
 TEST_F(Identified, AreTheKindsByTheirNumbersAndWords) {
     for (const KindCase& kind : KindCases()) {
-        EXPECT_EQ(kind.number, Identify(kind.bytes)) << kind.word;
-        EXPECT_STREQ(kind.word, FileKindWord[kind.number]);
+        EXPECT_EQ(Identify(kind.bytes), kind.number) << kind.word;
+        EXPECT_STREQ(FileKindWord[kind.number], kind.word);
     }
 }
 
 TEST_F(Identified, IsA716FileWhateverItsNameSays) {
     testbench::WriteFile(m_folder / "memories.csv", BinaryFile({BinaryRecord()}));
     FileImporter importer;
-    EXPECT_EQ(1, importer.Identify((m_folder / "memories.csv").string()));
+    EXPECT_EQ(importer.Identify((m_folder / "memories.csv").string()), 1);
 }
 
 TEST_F(Identified, IsAHeaderByTheTestedBytesAlone) {
     const std::string header = BinaryHeader();
-    ASSERT_EQ(32u, header.size());
+    ASSERT_EQ(header.size(), 32u);
     for (size_t at = 0; at < header.size(); ++at) {
         std::string changed = header;
         changed[at] ^= 0x20;
         const bool tested = at < 10 || (at >= 15 && at < 25);
-        EXPECT_EQ(tested ? 0 : 1, Identify(changed)) << "byte " << at;
+        EXPECT_EQ(Identify(changed), tested ? 0 : 1) << "byte " << at;
     }
 }
 
 TEST_F(Identified, IsNoHeaderThatIsCut) {
     for (size_t length = 0; length < 32; ++length)
-        EXPECT_EQ(0, Identify(BinaryHeader().substr(0, length))) << length;
-    EXPECT_EQ(1, Identify(BinaryHeader()));
+        EXPECT_EQ(Identify(BinaryHeader().substr(0, length)), 0) << length;
+    EXPECT_EQ(Identify(BinaryHeader()), 1);
 }
 
 TEST_F(Identified, IsAMultiZELFileByBothLines) {
     const std::string first = MultiZELLine("001"), second = MultiZELLine("002");
-    EXPECT_EQ(3, Identify(Joined({first, second})));
+    EXPECT_EQ(Identify(Joined({first, second})), 3);
     const std::pair<const char*, std::vector<std::string>> cases[] = {
         {"one line", {first}},
         {"first number", {MultiZELLine("003"), second}},
@@ -76,13 +76,13 @@ TEST_F(Identified, IsAMultiZELFileByBothLines) {
         {"a line between", {first, "", second}},
     };
     for (const auto& [name, lines] : cases)
-        EXPECT_EQ(0, Identify(Joined(lines))) << name;
+        EXPECT_EQ(Identify(Joined(lines)), 0) << name;
 }
 
 TEST_F(Identified, IsA716ListByItsTitles) {
     const std::string first = Placed({{5, "Basic Information"}, {32, "Rx Information"}});
     const std::string second = Placed({{3, "Ch# Scan  Desc"}});
-    EXPECT_EQ(2, Identify(Joined({first, second})));
+    EXPECT_EQ(Identify(Joined({first, second})), 2);
     const std::pair<const char*, std::vector<std::string>> cases[] = {
         {"one line", {first}},
         {"basic elsewhere", {Placed({{6, "Basic Information"}, {32, "Rx Information"}}), second}},
@@ -91,74 +91,74 @@ TEST_F(Identified, IsA716ListByItsTitles) {
         {"other second", {first, Placed({{3, "Ch# Scan Desc"}})}},
     };
     for (const auto& [name, lines] : cases)
-        EXPECT_EQ(0, Identify(Joined(lines))) << name;
+        EXPECT_EQ(Identify(Joined(lines)), 0) << name;
 }
 
 TEST_F(Identified, IsAKdarListByItsBeginning) {
-    EXPECT_EQ(5, Identify("KDAR-2000"));
-    EXPECT_EQ(5, Identify("KDAR-2000,,,,,\n" + CsvFileOf(4))) << "before it is a CSV file";
-    EXPECT_EQ(0, Identify(" KDAR-2000"));
-    EXPECT_EQ(0, Identify("kdar-2000"));
+    EXPECT_EQ(Identify("KDAR-2000"), 5);
+    EXPECT_EQ(Identify("KDAR-2000,,,,,\n" + CsvFileOf(4)), 5) << "before it is a CSV file";
+    EXPECT_EQ(Identify(" KDAR-2000"), 0);
+    EXPECT_EQ(Identify("kdar-2000"), 0);
 }
 
 TEST_F(Identified, IsACsvFileByFiveCommasInEachOfFourLines) {
-    EXPECT_EQ(4, Identify(CsvFileOf(4)));
-    EXPECT_EQ(4, Identify(CsvFileOf(4) + "no commas\n"));
-    EXPECT_EQ(0, Identify(CsvFileOf(2))) << "two lines";
-    EXPECT_EQ(0, Identify(CsvFileOf(3))) << "three lines";
-    EXPECT_EQ(0, Identify(CsvFileOf(3) + "a,b,c,d,e\n")) << "four commas";
-    EXPECT_EQ(0, Identify(CsvFileOf(3) + "\n" + CsvFileOf(1))) << "a line without any between";
+    EXPECT_EQ(Identify(CsvFileOf(4)), 4);
+    EXPECT_EQ(Identify(CsvFileOf(4) + "no commas\n"), 4);
+    EXPECT_EQ(Identify(CsvFileOf(2)), 0) << "two lines";
+    EXPECT_EQ(Identify(CsvFileOf(3)), 0) << "three lines";
+    EXPECT_EQ(Identify(CsvFileOf(3) + "a,b,c,d,e\n"), 0) << "four commas";
+    EXPECT_EQ(Identify(CsvFileOf(3) + "\n" + CsvFileOf(1)), 0) << "a line without any between";
 }
 
 TEST_F(Identified, CountsCommasInTheFirstHundredCharactersOnly) {
     const std::string counted = std::string(95, 'a') + ",,,,,";
     const std::string tooFar = std::string(96, 'a') + ",,,,,";
-    EXPECT_EQ(4, Identify(Joined({counted, counted, counted, counted})));
-    EXPECT_EQ(0, Identify(Joined({counted, counted, tooFar, counted})));
+    EXPECT_EQ(Identify(Joined({counted, counted, counted, counted})), 4);
+    EXPECT_EQ(Identify(Joined({counted, counted, tooFar, counted})), 0);
     std::string umlauts; // each is two bytes
     for (int i = 0; i < 95; ++i)
         umlauts += "\xC3\xA4";
-    EXPECT_EQ(4, Identify(Joined({umlauts + ",,,,,", counted, counted, counted}))) << "characters, not bytes";
+    EXPECT_EQ(Identify(Joined({umlauts + ",,,,,", counted, counted, counted})), 4) << "characters, not bytes";
 }
 
 TEST_F(Identified, DropsTheRestOfALongLine) {
     const std::string line = std::string(5, ',') + std::string(1 << 20, 'a');
-    EXPECT_EQ(4, Identify(Joined({line, line, line, line})));
+    EXPECT_EQ(Identify(Joined({line, line, line, line})), 4);
 }
 
 TEST_F(Identified, ReadsLinesOfAnyEnd) {
     for (const char* end : {"\n", "\r", "\r\n"}) {
         SCOPED_TRACE(end[0] == '\n' ? "LF" : end[1] ? "CRLF" : "CR");
-        EXPECT_EQ(2, Identify(ListFile({}, end)));
-        EXPECT_EQ(3, Identify(MultiZELFileOf({}, end)));
-        EXPECT_EQ(4, Identify(Joined({",,,,,", ",,,,,", ",,,,,", ",,,,,"}, end)));
+        EXPECT_EQ(Identify(ListFile({}, end)), 2);
+        EXPECT_EQ(Identify(MultiZELFileOf({}, end)), 3);
+        EXPECT_EQ(Identify(Joined({",,,,,", ",,,,,", ",,,,,", ",,,,,"}, end)), 4);
     }
 }
 
 TEST_F(Identified, SkipsAByteOrderMarkOfTexts) {
     for (const KindCase& kind : KindCases()) {
         const bool isText = kind.number != 1;
-        EXPECT_EQ(isText ? kind.number : 0, Identify(ByteOrderMark + kind.bytes)) << kind.word;
+        EXPECT_EQ(Identify(ByteOrderMark + kind.bytes), isText ? kind.number : 0) << kind.word;
     }
 }
 
 TEST_F(Identified, IsNothingThatCannotBeRead) {
     FileImporter importer;
-    EXPECT_EQ(0, importer.Identify((m_folder / "missing").string()));
+    EXPECT_EQ(importer.Identify((m_folder / "missing").string()), 0);
     importer.Close();
-    EXPECT_EQ(0, importer.Identify(m_folder.Path().string()));
+    EXPECT_EQ(importer.Identify(m_folder.Path().string()), 0);
     importer.Close();
-    EXPECT_EQ(0, Identify(""));
+    EXPECT_EQ(Identify(""), 0);
 }
 
 TEST_F(Identified, IsNothingWhileAnotherFileIsOpen) {
     testbench::WriteFile(m_folder / "file", BinaryHeader());
     const wxString path = (m_folder / "file").string();
     FileImporter importer;
-    EXPECT_EQ(1, importer.Identify(path));
-    EXPECT_EQ(0, importer.Identify(path));
+    EXPECT_EQ(importer.Identify(path), 1);
+    EXPECT_EQ(importer.Identify(path), 0);
     importer.Close();
-    EXPECT_EQ(1, importer.Identify(path));
+    EXPECT_EQ(importer.Identify(path), 1);
 }
 
 TEST_F(Identified, AreTheSamplesAfterTheirNames) {
@@ -174,8 +174,8 @@ TEST_F(Identified, AreTheSamplesAfterTheirNames) {
                              : extension == ".txt" ? 2
                              : extension == ".csv" ? list
                                                    : 3;
-        EXPECT_EQ(expected, Identify(testbench::ReadFile(entry.path()))) << name;
+        EXPECT_EQ(Identify(testbench::ReadFile(entry.path())), expected) << name;
         ++samples;
     }
-    EXPECT_EQ(27, samples);
+    EXPECT_EQ(samples, 27);
 }

@@ -13,7 +13,7 @@ protected:
 
     static Record716 Decode(const BinaryRecord& record, int type = RadioCatalogue::RP25) {
         Record716 decoded;
-        EXPECT_EQ(106u, Read716Record(record.Bytes(), type, decoded));
+        EXPECT_EQ(Read716Record(record.Bytes(), type, decoded), 106u);
         return decoded;
     }
 };
@@ -55,7 +55,7 @@ TEST_F(Binary716, WordsBecomeTexts) {
         {104, 9, &Record716::Rfrn, "009"},
     };
     for (const WordCase& c : cases)
-        EXPECT_EQ(c.text, Decode(BinaryRecord().Word(c.offset, c.word)).*c.field)
+        EXPECT_EQ(Decode(BinaryRecord().Word(c.offset, c.word)).*c.field, c.text)
             << "word " << c.word << " at " << c.offset;
 }
 
@@ -109,16 +109,16 @@ TEST_F(Binary716, EachWordAndTextReachesItsOwnFieldAlone) {
             // No word of the plain record is this one, and as two characters it is no blank.
             const Record716 changed = Decode(BinaryRecord().Word(at, 0x3837));
             for (const Field716 field : all)
-                EXPECT_EQ(field == fields[i].second, plain.*field != changed.*field)
+                EXPECT_EQ(plain.*field != changed.*field, field == fields[i].second)
                     << "bytes at " << at << ", field " << (&field - all);
         }
     }
 }
 
 TEST_F(Binary716, CodesAreThoseOfThePagesKind) {
-    EXPECT_EQ("023", Decode(BinaryRecord().Word(32, 0), RadioCatalogue::NP25).Rcod);
-    EXPECT_EQ("OFF", Decode(BinaryRecord().Word(32, 0), RadioCatalogue::ANFM).Rcod);
-    EXPECT_EQ("023", Decode(BinaryRecord().Word(60, 1), RadioCatalogue::ANFM).Tcod);
+    EXPECT_EQ(Decode(BinaryRecord().Word(32, 0), RadioCatalogue::NP25).Rcod, "023");
+    EXPECT_EQ(Decode(BinaryRecord().Word(32, 0), RadioCatalogue::ANFM).Rcod, "OFF");
+    EXPECT_EQ(Decode(BinaryRecord().Word(60, 1), RadioCatalogue::ANFM).Tcod, "023");
 }
 
 TEST_F(Binary716, TextsLoseTheirBlanks) {
@@ -128,27 +128,27 @@ TEST_F(Binary716, TextsLoseTheirBlanks) {
     };
     for (const TextCase& c : cases) {
         SCOPED_TRACE("text at " + std::to_string(c.offset));
-        EXPECT_EQ("A1", Decode(BinaryRecord().Text(c.offset, c.size, "A1")).*c.field);
-        EXPECT_EQ("A1", Decode(BinaryRecord().Text(c.offset, c.size, " A1")).*c.field);
+        EXPECT_EQ(Decode(BinaryRecord().Text(c.offset, c.size, "A1")).*c.field, "A1");
+        EXPECT_EQ(Decode(BinaryRecord().Text(c.offset, c.size, " A1")).*c.field, "A1");
         const std::string full(c.size, '9');
-        EXPECT_EQ(full, Decode(BinaryRecord().Text(c.offset, c.size, full)).*c.field);
+        EXPECT_EQ(Decode(BinaryRecord().Text(c.offset, c.size, full)).*c.field, full);
     }
 }
 
 TEST_F(Binary716, ADescriptionKeepsItsBlanksInFront) {
-    EXPECT_EQ("  TAC 1", Decode(BinaryRecord().Text(10, 8, "  TAC 1")).Desc);
-    EXPECT_EQ("ABCDEFGH", Decode(BinaryRecord().Text(10, 8, "ABCDEFGH")).Desc);
+    EXPECT_EQ(Decode(BinaryRecord().Text(10, 8, "  TAC 1")).Desc, "  TAC 1");
+    EXPECT_EQ(Decode(BinaryRecord().Text(10, 8, "ABCDEFGH")).Desc, "ABCDEFGH");
 }
 
 TEST_F(Binary716, AZeroByteEndsAText) {
-    EXPECT_EQ("AB", Decode(BinaryRecord().Text(10, 8, std::string("AB\0CD", 5))).Desc);
-    EXPECT_EQ("", Decode(BinaryRecord().Text(40, 10, std::string(10, '\0'))).Rfrq);
+    EXPECT_EQ(Decode(BinaryRecord().Text(10, 8, std::string("AB\0CD", 5))).Desc, "AB");
+    EXPECT_EQ(Decode(BinaryRecord().Text(40, 10, std::string(10, '\0'))).Rfrq, "");
 }
 
 TEST_F(Binary716, DescriptionsAreUtf8OrLatin1) {
-    EXPECT_EQ(wxString::FromUTF8("M\xC3\x9CNCHEN"),
-              Decode(BinaryRecord().Text(10, 8, "M\xC3\x9CNCHEN")).Desc);
-    EXPECT_EQ(wxString::FromUTF8("M\xC3\x9CNCHEN"), Decode(BinaryRecord().Text(10, 8, "M\xDCNCHEN")).Desc);
+    EXPECT_EQ(Decode(BinaryRecord().Text(10, 8, "M\xC3\x9CNCHEN")).Desc,
+              wxString::FromUTF8("M\xC3\x9CNCHEN"));
+    EXPECT_EQ(Decode(BinaryRecord().Text(10, 8, "M\xDCNCHEN")).Desc, wxString::FromUTF8("M\xC3\x9CNCHEN"));
 }
 
 TEST_F(Binary716, ANewlineCutsATextAndShiftsTheRest) {
@@ -156,25 +156,25 @@ TEST_F(Binary716, ANewlineCutsATextAndShiftsTheRest) {
     const std::string whole = BinaryRecord(5).Bytes();
     const std::string cut = whole.substr(0, 10) + "VCALL\n" + whole.substr(18);
     Record716 record;
-    EXPECT_EQ(104u, Read716Record(cut, RadioCatalogue::RP25, record));
-    EXPECT_EQ("VCALL", record.Desc);
-    EXPECT_EQ("N", record.Encr);
-    EXPECT_EQ("n", record.Mode);
-    EXPECT_EQ("155.7525", record.Tfrq);
-    EXPECT_EQ("0000001", record.Tidc);
+    EXPECT_EQ(Read716Record(cut, RadioCatalogue::RP25, record), 104u);
+    EXPECT_EQ(record.Desc, "VCALL");
+    EXPECT_EQ(record.Encr, "N");
+    EXPECT_EQ(record.Mode, "n");
+    EXPECT_EQ(record.Tfrq, "155.7525");
+    EXPECT_EQ(record.Tidc, "0000001");
     // A newline in place of a blank: the blanks that follow are the next words.
-    EXPECT_EQ(99u,
-              Read716Record(BinaryRecord().Text(10, 8, "\nABCDEFG").Bytes(), RadioCatalogue::RP25, record));
-    EXPECT_EQ("", record.Desc);
-    EXPECT_EQ(wxString(wxUniChar('A' | 'B' << 8)), record.Encr);
+    EXPECT_EQ(Read716Record(BinaryRecord().Text(10, 8, "\nABCDEFG").Bytes(), RadioCatalogue::RP25, record),
+              99u);
+    EXPECT_EQ(record.Desc, "");
+    EXPECT_EQ(record.Encr, wxString(wxUniChar('A' | 'B' << 8)));
 }
 
 TEST_F(Binary716, ARecordAfterACutTextIsReadFromTheShiftedPlace) {
     const std::string whole = BinaryRecord(5).Bytes();
     const std::string cut = whole.substr(0, 10) + "VCALL\n" + whole.substr(18);
-    EXPECT_EQ(2, Import(BinaryHeader() + cut + BinaryRecord(6).Bytes()));
-    EXPECT_EQ("VCALL", Text(5, DESC));
-    EXPECT_EQ("VCALL10", Text(6, DESC));
+    EXPECT_EQ(Import(BinaryHeader() + cut + BinaryRecord(6).Bytes()), 2);
+    EXPECT_EQ(Text(5, DESC), "VCALL");
+    EXPECT_EQ(Text(6, DESC), "VCALL10");
 }
 
 TEST_F(Binary716, TheUnitIdIsPackedDecimal) {
@@ -190,20 +190,20 @@ TEST_F(Binary716, TheUnitIdIsPackedDecimal) {
         {0xFFFF, 0xFFFF, 0xFFFF, 0xFFFF, "0000000"},
     };
     for (const auto& [a, b, c, d, text] : cases)
-        EXPECT_EQ(text, Decode(BinaryRecord().Word(78, a).Word(80, b).Word(82, c).Word(84, d)).Tidc) << text;
+        EXPECT_EQ(Decode(BinaryRecord().Word(78, a).Word(80, b).Word(82, c).Word(84, d)).Tidc, text) << text;
 }
 
 TEST_F(Binary716, TheScanFlagGivesTheScanText) {
     for (int flags : {0x00, 0x10, 0x80, 0xF7})
-        EXPECT_EQ("N", Decode(BinaryRecord().Word(2, flags)).Scan) << flags;
+        EXPECT_EQ(Decode(BinaryRecord().Word(2, flags)).Scan, "N") << flags;
     for (int flags : {0x08, 0x18, 0xFF})
-        EXPECT_EQ("Y", Decode(BinaryRecord().Word(2, flags)).Scan) << flags;
+        EXPECT_EQ(Decode(BinaryRecord().Word(2, flags)).Scan, "Y") << flags;
 }
 
 TEST_F(Binary716, TheReaderTakesARecordWhateverItsTransferFlags) {
     for (int flags : {0x00, 0x20, 0x7F}) {
-        EXPECT_EQ("A0", Decode(BinaryRecord().Word(0, flags)).Tflg);
-        EXPECT_EQ(1, Import(BinaryHeader() + BinaryRecord().Word(0, flags).Bytes())) << flags;
+        EXPECT_EQ(Decode(BinaryRecord().Word(0, flags)).Tflg, "A0");
+        EXPECT_EQ(Import(BinaryHeader() + BinaryRecord().Word(0, flags).Bytes()), 1) << flags;
     }
 }
 
@@ -212,18 +212,18 @@ TEST_F(Binary716, ARecordEndsWhereTheFileDoes) {
     for (size_t length : {0u, 1u}) {
         Record716 record;
         record.Desc = "KEPT";
-        EXPECT_EQ(0u, Read716Record(bytes.substr(0, length), RadioCatalogue::RP25, record));
-        EXPECT_EQ("KEPT", record.Desc);
+        EXPECT_EQ(Read716Record(bytes.substr(0, length), RadioCatalogue::RP25, record), 0u);
+        EXPECT_EQ(record.Desc, "KEPT");
     }
     Record716 record;
-    EXPECT_EQ(20u, Read716Record(bytes.substr(0, 20), RadioCatalogue::RP25, record));
-    EXPECT_EQ("005", record.Mnum);
-    EXPECT_EQ("VCALL10", record.Desc);
-    EXPECT_EQ("", record.Mode);
-    EXPECT_EQ("", record.Rfrq);
-    EXPECT_EQ("65535", record.Shd0);
-    EXPECT_EQ(2u, Read716Record(bytes.substr(0, 2), RadioCatalogue::RP25, record));
-    EXPECT_EQ("65535", record.Mnum) << "so that a record without a number is for no row";
+    EXPECT_EQ(Read716Record(bytes.substr(0, 20), RadioCatalogue::RP25, record), 20u);
+    EXPECT_EQ(record.Mnum, "005");
+    EXPECT_EQ(record.Desc, "VCALL10");
+    EXPECT_EQ(record.Mode, "");
+    EXPECT_EQ(record.Rfrq, "");
+    EXPECT_EQ(record.Shd0, "65535");
+    EXPECT_EQ(Read716Record(bytes.substr(0, 2), RadioCatalogue::RP25, record), 2u);
+    EXPECT_EQ(record.Mnum, "65535") << "so that a record without a number is for no row";
 }
 
 TEST_F(Binary716, EveryFieldReachesItsCell) {
@@ -248,7 +248,7 @@ TEST_F(Binary716, EveryFieldReachesItsCell) {
                                     .Word(80, 0x12)
                                     .Word(82, 0x34)
                                     .Word(84, 0x56);
-    EXPECT_EQ(1, Import(BinaryFile({record})));
+    EXPECT_EQ(Import(BinaryFile({record})), 1);
     ExpectCells(9, {{MFLG, "08"},   {MNUM, "009"},      {PRIM, "009"},     {SHAD, "N"},    {BAND, ""},
                     {SCAN, "Y"},    {ZONE, "3"},        {DESC, "MAIN"},    {MODE, "w"},    {RFRQ, "151.1375"},
                     {RSQL, "c"},    {RNSV, ""},         {RTON, "67.0"},    {RCOD, "031"},  {RTGP, "12AB"},
@@ -257,16 +257,16 @@ TEST_F(Binary716, EveryFieldReachesItsCell) {
                     {TFLG, "A8"}});
     for (int col = 0; col < ColumnTotal; ++col)
         EXPECT_FALSE(IsPainted(9, col)) << ColumnTag[col];
-    EXPECT_EQ(Rows({0, 9}), RowsWithText());
+    EXPECT_EQ(FilledRows(0), Rows({0, 9}));
 }
 
 TEST_F(Binary716, AnEmptySquelchIsFilledByTheCode) {
-    EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(5).Word(22, 0)})));
-    EXPECT_EQ("c", Text(5, RSQL));
+    EXPECT_EQ(Import(BinaryFile({BinaryRecord(5).Word(22, 0)})), 1);
+    EXPECT_EQ(Text(5, RSQL), "c");
 }
 
 TEST_F(Binary716, TheRowCheckRepairsWhatCannotStand) {
-    EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(5).Text(40, 10, "90.0000").Word(20, 9).Word(22, '?')})));
+    EXPECT_EQ(Import(BinaryFile({BinaryRecord(5).Text(40, 10, "90.0000").Word(20, 9).Word(22, '?')})), 1);
     ExpectCells(5, {{RFRQ, "136.0000"}, {MODE, "n"}, {RSQL, "x"}});
     for (int col : {RFRQ, MODE, RSQL})
         EXPECT_TRUE(IsPainted(5, col)) << ColumnTag[col];
@@ -276,8 +276,8 @@ TEST_F(Binary716, TheRowCheckRepairsWhatCannotStand) {
 TEST_F(Binary716, NumbersFrom231OnMoveTo501OnTheLargerRadio) {
     RetargetTo("NP25");
     EXPECT_EQ(
-        3, Import(BinaryFile({BinaryRecord(230), BinaryRecord(231), BinaryRecord(232), BinaryRecord(233)})));
-    EXPECT_EQ(Rows({0, 230, 501, 502}), RowsWithText());
+        Import(BinaryFile({BinaryRecord(230), BinaryRecord(231), BinaryRecord(232), BinaryRecord(233)})), 3);
+    EXPECT_EQ(FilledRows(0), Rows({0, 230, 501, 502}));
     ExpectCells(501, {{MNUM, "501"}, {PRIM, "501"}, {RNSV, "10"}});
     ExpectCells(502, {{MNUM, "502"}, {PRIM, "502"}});
     ExpectCells(230, {{MNUM, "230"}, {RNSV, "10"}});
@@ -286,12 +286,12 @@ TEST_F(Binary716, NumbersFrom231OnMoveTo501OnTheLargerRadio) {
 TEST_F(Binary716, ANumberThatMovesMovesInNumberAndPrimary) {
     RetargetTo("NP25");
     Record716 record = Decode(BinaryRecord(231).Word(4, 5), RadioCatalogue::NP25);
-    EXPECT_EQ(501, RowOf716(record));
-    EXPECT_EQ("501", record.Mnum);
-    EXPECT_EQ("501", record.Prim);
+    EXPECT_EQ(RowOf716(record), 501);
+    EXPECT_EQ(record.Mnum, "501");
+    EXPECT_EQ(record.Prim, "501");
     record = Decode(BinaryRecord(230).Word(4, 5), RadioCatalogue::NP25);
-    EXPECT_EQ(230, RowOf716(record));
-    EXPECT_EQ("005", record.Prim);
+    EXPECT_EQ(RowOf716(record), 230);
+    EXPECT_EQ(record.Prim, "005");
 }
 
 TEST_F(Binary716, ARecordIsForNoRowWithoutTheDefinedFlag) {
@@ -299,7 +299,7 @@ TEST_F(Binary716, ARecordIsForNoRowWithoutTheDefinedFlag) {
     for (const auto& [flags, row] : {std::pair("80", 5), std::pair("FF", 5), std::pair("7F", -1),
                                      std::pair("00", -1), std::pair("", -1)}) {
         record.Tflg = flags;
-        EXPECT_EQ(row, RowOf716(record)) << flags;
+        EXPECT_EQ(RowOf716(record), row) << flags;
     }
 }
 
@@ -329,35 +329,35 @@ TEST_F(Binary716, TheWriterChecksZoneTonesAndCodesAndLeavesTheOtherTexts) {
 }
 
 TEST_F(Binary716, OnTheSmallerRadioNumbersStay) {
-    EXPECT_EQ(2, Import(BinaryFile({BinaryRecord(231), BinaryRecord(232)})));
-    EXPECT_EQ(Rows({0, 231, 232}), RowsWithText());
+    EXPECT_EQ(Import(BinaryFile({BinaryRecord(231), BinaryRecord(232)})), 2);
+    EXPECT_EQ(FilledRows(0), Rows({0, 231, 232}));
     ExpectCells(231, {{ZONE, "16"}, {RNSV, ""}});
 }
 
 TEST_F(Binary716, NumbersPastTheGridAreDroppedAndNotCounted) {
-    EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(233), BinaryRecord(5), BinaryRecord(65535)})));
-    EXPECT_EQ(Rows({0, 5}), RowsWithText());
+    EXPECT_EQ(Import(BinaryFile({BinaryRecord(233), BinaryRecord(5), BinaryRecord(65535)})), 1);
+    EXPECT_EQ(FilledRows(0), Rows({0, 5}));
 }
 
 TEST_F(Binary716, NumberZeroIsTheDefaultRow) {
-    EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(0).Text(10, 8, "DEFAULT")})));
+    EXPECT_EQ(Import(BinaryFile({BinaryRecord(0).Text(10, 8, "DEFAULT")})), 1);
     ExpectCells(0, {{MNUM, "000"}, {DESC, "DEFAULT"}});
-    EXPECT_EQ(Rows({0}), RowsWithText());
+    EXPECT_EQ(FilledRows(0), Rows({0}));
 }
 
 TEST_F(Binary716, APrimaryBringsItsShadows) {
-    EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(5).Word(2, 0x10).Word(88, 6).Word(90, 0).Word(92, 8)})));
+    EXPECT_EQ(Import(BinaryFile({BinaryRecord(5).Word(2, 0x10).Word(88, 6).Word(90, 0).Word(92, 8)})), 1);
     ExpectCells(5, {{MFLG, "10"}, {SHAD, "P-2"}, {SHD0, "006"}, {SHD1, "000"}, {SHD2, "008"}, {SHD6, "000"}});
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(5, SCAN));
-    EXPECT_EQ(0x08, CurrentParameters().Flags);
+    EXPECT_EQ(CurrentParameters().Flags, 0x08);
 }
 
 TEST_F(Binary716, AShadowNamesItsPrimary) {
-    EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(6).Word(2, 0x02).Word(4, 5)})));
+    EXPECT_EQ(Import(BinaryFile({BinaryRecord(6).Word(2, 0x02).Word(4, 5)})), 1);
     ExpectCells(6, {{MFLG, "02"}, {SHAD, "S-005"}, {PRIM, "006"}, {ZONE, ""}, {SHD0, ""}});
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(6, SCAN));
-    EXPECT_EQ(0, CurrentParameters().Flags);
-    EXPECT_EQ(0, TakenSlots());
+    EXPECT_EQ(CurrentParameters().Flags, 0);
+    EXPECT_EQ(TakenSlots(), 0);
 }
 
 TEST_F(Binary716, FlagsTellShadowsAndPrimaries) {
@@ -369,36 +369,37 @@ TEST_F(Binary716, FlagsTellShadowsAndPrimaries) {
         {0x17, "P-0", true},
     };
     for (const auto& [flags, shad, unscanned] : cases) {
-        EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(5).Word(2, flags).Word(4, 9)}))) << flags;
-        EXPECT_EQ(shad, Text(5, SHAD)) << flags;
-        EXPECT_EQ(unscanned, CurrentGrid()->IsReadOnly(5, SCAN)) << flags;
-        EXPECT_EQ(flags & 0x10 ? 0x08 : 0, CurrentParameters().Flags & 0x08) << flags;
+        EXPECT_EQ(Import(BinaryFile({BinaryRecord(5).Word(2, flags).Word(4, 9)})), 1) << flags;
+        EXPECT_EQ(Text(5, SHAD), shad) << flags;
+        EXPECT_EQ(CurrentGrid()->IsReadOnly(5, SCAN), unscanned) << flags;
+        EXPECT_EQ(CurrentParameters().Flags & 0x08, flags & 0x10 ? 0x08 : 0) << flags;
     }
 }
 
 TEST_F(Binary716, APlainMemoryCanBeScanned) {
-    EXPECT_EQ(1, Import(BinaryFile({BinaryRecord(5)})));
-    EXPECT_EQ("N", Text(5, SHAD));
+    EXPECT_EQ(Import(BinaryFile({BinaryRecord(5)})), 1);
+    EXPECT_EQ(Text(5, SHAD), "N");
     EXPECT_FALSE(CurrentGrid()->IsReadOnly(5, SCAN));
 }
 
 TEST_F(Binary716, ARowThatComesAgainHoldsItsLastRecordAndOneZoneSlot) {
-    EXPECT_EQ(3, Import(BinaryFile({BinaryRecord(5).Text(40, 10, "90.0000"), BinaryRecord(6),
-                                    BinaryRecord(5).Text(10, 8, "LAST")})));
+    EXPECT_EQ(Import(BinaryFile({BinaryRecord(5).Text(40, 10, "90.0000"), BinaryRecord(6),
+                                 BinaryRecord(5).Text(10, 8, "LAST")})),
+              3);
     ExpectCells(5, {{DESC, "LAST"}, {RFRQ, "155.7525"}});
-    EXPECT_EQ(2, TakenSlots());
+    EXPECT_EQ(TakenSlots(), 2);
     EXPECT_FALSE(IsPainted(5, RFRQ)) << "the record that was to be repaired has gone";
 }
 
 TEST_F(Binary716, AFileOfTheHeaderAloneHasNoRecord) {
-    EXPECT_EQ(0, Import(BinaryHeader()));
-    EXPECT_EQ(Rows({0}), RowsWithText());
+    EXPECT_EQ(Import(BinaryHeader()), 0);
+    EXPECT_EQ(FilledRows(0), Rows({0}));
 }
 
 TEST_F(Binary716, ALastRecordThatIsCutCountsFromItsNumberOn) {
     const std::string whole = BinaryFile({BinaryRecord(5), BinaryRecord(6)});
     for (size_t length = 0; length <= 106; ++length)
-        EXPECT_EQ(length < 8 ? 1 : 2, Import(whole.substr(0, 32 + 106 + length))) << length;
+        EXPECT_EQ(Import(whole.substr(0, 32 + 106 + length)), length < 8 ? 1 : 2) << length;
 }
 
 TEST_F(Binary716, EachFieldOfARecordCanBeDumpedToTheLog) {
@@ -422,11 +423,11 @@ TEST_F(Binary716, EachFieldOfARecordCanBeDumpedToTheLog) {
     };
     testbench::LogKeeper log;
     Dump716Record(record);
-    EXPECT_EQ(expected, log.lines);
+    EXPECT_EQ(log.lines, expected);
 }
 
 TEST_F(Binary716, TheSampleHoldsItsChannels) {
-    EXPECT_EQ(38, Import(SampleFile("kdrv-716.716")));
+    EXPECT_EQ(Import(SampleFile("kdrv-716.716")), 38);
     ExpectCells(1, {{DESC, "VCALL10"}, {RFRQ, "155.7525"}, {MODE, "n"}, {RTON, "156.7"}, {SCAN, "Y"}});
     ExpectCells(32, {{DESC, "P25 RPT"},
                      {MODE, "D"},
@@ -441,7 +442,7 @@ TEST_F(Binary716, TheSampleHoldsItsChannels) {
     ExpectCells(34, {{SHAD, "P-2"}, {SHD0, "035"}, {SHD1, "036"}});
     ExpectCells(36, {{SHAD, "S-034"}, {MFLG, "02"}});
     ExpectCells(232, {{DESC, "AIRGUARD"}, {ZONE, "16"}, {RFRQ, "168.6250"}});
-    for (int row : RowsWithText())
+    for (int row : FilledRows(0))
         for (int col = 0; col < ColumnTotal; ++col)
             EXPECT_FALSE(IsPainted(row, col)) << row << " " << ColumnTag[col];
 }

@@ -50,11 +50,11 @@ TEST_F(ImportCommand, PutsA716BinaryFileIntoPagesOfEveryType) {
         RetargetTo(page.type);
         SetCell(4, DESC, "FORMER");
         ImportByMenu("list.716", "Imported 2 Lines from 716 Binary file.");
-        EXPECT_EQ(Rows({0, 5, 6}), RowsWithText());
+        EXPECT_EQ(FilledRows(0), Rows({0, 5, 6}));
         ExpectCells(5, {{MNUM, "005"}, {DESC, "VCALL10"}, {RFRQ, page.checked}, {RTON, page.checkedTone}});
         ExpectCells(6, {{MNUM, "006"}, {DESC, "SECOND"}});
-        EXPECT_EQ(page.isPainted, IsPainted(5, RFRQ));
-        EXPECT_EQ(0x02, CurrentParameters().Flags);
+        EXPECT_EQ(IsPainted(5, RFRQ), page.isPainted);
+        EXPECT_EQ(CurrentParameters().Flags, 0x02);
     }
 }
 
@@ -64,11 +64,11 @@ TEST_F(ImportCommand, PutsA716ListIntoPagesOfEveryType) {
         SCOPED_TRACE(page.type);
         RetargetTo(page.type);
         ImportByMenu("list.txt", "Imported 2 Lines from 716 Text file.");
-        EXPECT_EQ(Rows({0, 5, 6}), RowsWithText());
+        EXPECT_EQ(FilledRows(0), Rows({0, 5, 6}));
         ExpectCells(5, {{MNUM, "005"}, {DESC, "VCALL10"}, {RFRQ, page.checked}, {RTON, page.checkedTone}});
         ExpectCells(6, {{MNUM, "006"}, {DESC, "SECOND"}});
-        EXPECT_EQ(page.isPainted, IsPainted(5, RFRQ));
-        EXPECT_EQ(0x02, CurrentParameters().Flags);
+        EXPECT_EQ(IsPainted(5, RFRQ), page.isPainted);
+        EXPECT_EQ(CurrentParameters().Flags, 0x02);
     }
 }
 
@@ -78,10 +78,10 @@ TEST_F(ImportCommand, PutsAMultiZELFileIntoPagesOfEveryType) {
         SCOPED_TRACE(page.type);
         RetargetTo(page.type);
         ImportByMenu("list.630", "Imported 3 Lines from MultiZEL file.");
-        EXPECT_EQ(Rows({0, 1, 2, 6}), RowsWithText());
+        EXPECT_EQ(FilledRows(0), Rows({0, 1, 2, 6}));
         ExpectCells(6, {{MNUM, "006"}, {DESC, "SECOND   "}, {RFRQ, page.replaced}, {RTON, page.checkedTone}});
         EXPECT_FALSE(IsPainted(6, RFRQ));
-        EXPECT_EQ(0x02, CurrentParameters().Flags);
+        EXPECT_EQ(CurrentParameters().Flags, 0x02);
     }
 }
 
@@ -93,9 +93,9 @@ TEST_F(ImportCommand, PutsACsvFileIntoPagesOfEveryType) {
         SCOPED_TRACE(page.type);
         RetargetTo(page.type);
         ImportByMenu("list.csv", "Imported 3 Lines from CSV file.");
-        EXPECT_EQ(Rows({0, 3, 5, 6}), RowsWithText());
+        EXPECT_EQ(FilledRows(0), Rows({0, 3, 5, 6}));
         ExpectCells(5, {{MNUM, "005"}, {DESC, "FIRST"}, {RFRQ, page.checked}});
-        EXPECT_EQ(page.isPainted, IsPainted(5, RFRQ));
+        EXPECT_EQ(IsPainted(5, RFRQ), page.isPainted);
     }
 }
 
@@ -106,8 +106,8 @@ TEST_F(ImportCommand, PutsAKdarListIntoPagesOfEveryType) {
         SCOPED_TRACE(page.type);
         RetargetTo(page.type);
         ImportByMenu("list.csv", "Imported 2 Lines from KDAR file.");
-        EXPECT_EQ(Rows({0, 1, 2}), RowsWithText());
-        EXPECT_EQ("GUARD", Text(1, DESC));
+        EXPECT_EQ(FilledRows(0), Rows({0, 1, 2}));
+        EXPECT_EQ(Text(1, DESC), "GUARD");
     }
 }
 
@@ -115,18 +115,18 @@ TEST_F(ImportCommand, OffersEveryKindOfFileAlsoWithANameInCapitals) {
     DialogScript script;
     script.Expect(DialogKind::File, "Import file").Answer(wxID_CANCEL).Set([](wxDialog* dialog) {
         auto* file = dynamic_cast<wxFileDialog*>(dialog);
-        ASSERT_NE(nullptr, file);
+        ASSERT_NE(file, nullptr);
         const wxString all = wxFileSelectorDefaultWildcardStr;
-        EXPECT_EQ("ZEL716 Binary files (*.716)|*.716|ZEL716 List files (*.txt)|*.txt;*.TXT|"
+        EXPECT_EQ(file->GetWildcard(),
+                  "ZEL716 Binary files (*.716)|*.716|ZEL716 List files (*.txt)|*.txt;*.TXT|"
                   "MultiZEL files (*.210;*.220;*.610;*.630;*.650;*.666;*.840)|"
                   "*.210;*.220;*.610;*.630;*.650;*.666;*.840|CSV files (*.csv)|*.csv;*.CSV|All files (" +
-                      all + ")|" + all,
-                  file->GetWildcard());
-        EXPECT_EQ("", file->GetFilename());
+                      all + ")|" + all);
+        EXPECT_EQ(file->GetFilename(), "");
         EXPECT_TRUE(file->HasFlag(wxFD_OPEN));
         EXPECT_TRUE(file->HasFlag(wxFD_FILE_MUST_EXIST));
         EXPECT_TRUE(file->HasFlag(wxFD_CHANGE_DIR));
-        EXPECT_EQ(MainFrame, file->GetParent());
+        EXPECT_EQ(file->GetParent(), MainFrame);
     });
     Choose(IdImport);
 }
@@ -138,9 +138,9 @@ TEST_F(ImportCommand, LeavesThePageWhenNoFileIsChosen) {
     DialogScript script;
     script.Expect(DialogKind::File, "Import file").Answer(wxID_CANCEL);
     Choose(IdImport);
-    EXPECT_EQ("KEPT", Text(5, DESC));
-    EXPECT_EQ("kept", PageStrings[0].FileName);
-    EXPECT_EQ(PageHasMarks, CurrentParameters().Flags);
+    EXPECT_EQ(Text(5, DESC), "KEPT");
+    EXPECT_EQ(PageStrings[0].FileName, "kept");
+    EXPECT_EQ(CurrentParameters().Flags, PageHasMarks);
 }
 
 TEST_F(ImportCommand, ClearsThePageForAFileOfNoKind) {
@@ -153,11 +153,11 @@ TEST_F(ImportCommand, ClearsThePageForAFileOfNoKind) {
         CurrentParameters().Flags = PageHasMarks;
         WriteToFolder("file.716", "something else\n");
         ImportByMenu("file.716", UnknownType);
-        EXPECT_EQ(Rows({0}), RowsWithText());
-        EXPECT_NE("FORMER", Text(0, DESC));
+        EXPECT_EQ(FilledRows(0), Rows({0}));
+        EXPECT_NE(Text(0, DESC), "FORMER");
         EXPECT_FALSE(IsPainted(5, RFRQ));
-        EXPECT_EQ(0, TakenSlots());
-        EXPECT_EQ(0x02, CurrentParameters().Flags);
+        EXPECT_EQ(TakenSlots(), 0);
+        EXPECT_EQ(CurrentParameters().Flags, 0x02);
     }
 }
 
@@ -170,7 +170,7 @@ TEST_F(ImportCommand, ClearsThePageForAFileThatIsNotThere) {
     });
     script.ExpectMessage("Import File", UnknownType);
     Choose(IdImport);
-    EXPECT_EQ(Rows({0}), RowsWithText());
+    EXPECT_EQ(FilledRows(0), Rows({0}));
 }
 
 TEST_F(ImportCommand, SaysTheSameOfAKindThatHoldsNothing) {
@@ -179,7 +179,7 @@ TEST_F(ImportCommand, SaysTheSameOfAKindThatHoldsNothing) {
         SetCell(5, DESC, "FORMER");
         WriteToFolder(name, bytes);
         ImportByMenu(name, UnknownType);
-        EXPECT_EQ(Rows({0}), RowsWithText());
+        EXPECT_EQ(FilledRows(0), Rows({0}));
     }
 }
 
@@ -194,9 +194,9 @@ TEST_F(ImportCommand, TellsALineFileThatCannotBeOpenedAndLeavesThePage) {
             .Message(PathOf("list.630"))
             .Style(wxOK | wxCENTRE | wxICON_ERROR);
         Choose(IdImport);
-        EXPECT_EQ("KEPT", Text(5, DESC));
-        EXPECT_EQ("", PageStrings[0].FileName);
-        EXPECT_EQ(0, CurrentParameters().Flags);
+        EXPECT_EQ(Text(5, DESC), "KEPT");
+        EXPECT_EQ(PageStrings[0].FileName, "");
+        EXPECT_EQ(CurrentParameters().Flags, 0);
     }
     // Only this kind is read by lines.
     WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));
@@ -214,10 +214,10 @@ TEST_F(ImportCommand, NamesThePageAfterTheFileSoThatSaveCanWriteIt) {
     const wxString title = MainFrame->GetTitle();
     WriteToFolder("list.of.716", BinaryFile({BinaryRecord(5)}));
     ImportByMenu("list.of.716", "Imported 1 Lines from 716 Binary file.");
-    EXPECT_EQ("list.of", PageStrings[0].FileName);
-    EXPECT_EQ(m_folder.Path().string() + "/", PageStrings[0].FileDir);
-    EXPECT_EQ(title, MainFrame->GetTitle());
-    EXPECT_EQ("KRV-47", Status(1));
+    EXPECT_EQ(PageStrings[0].FileName, "list.of");
+    EXPECT_EQ(PageStrings[0].FileDir, m_folder.Path().string() + "/");
+    EXPECT_EQ(MainFrame->GetTitle(), title);
+    EXPECT_EQ(Status(1), "KRV-47");
 }
 
 TEST_F(ImportCommand, OfNothingLeavesThePageWithoutANameSoThatNoFileOfFormerMemoriesIsReplaced) {
@@ -227,7 +227,7 @@ TEST_F(ImportCommand, OfNothingLeavesThePageWithoutANameSoThatNoFileOfFormerMemo
         PageStrings[0].FileName = "former";
         WriteToFolder(name, bytes);
         ImportByMenu(name, UnknownType);
-        EXPECT_EQ("", PageStrings[0].FileName);
+        EXPECT_EQ(PageStrings[0].FileName, "");
         DialogScript script;
         script.Expect(DialogKind::File, "Save .zelk file...").Answer(wxID_CANCEL);
         Choose(IdSave);
@@ -242,7 +242,7 @@ TEST_F(ImportCommand, OfAPageThatHasAFolderIsSavedBesideTheImportedFile) {
     WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));
     ImportByMenu("list.716", "Imported 1 Lines from 716 Binary file.");
     Choose(IdSave);
-    EXPECT_EQ("Saved list.zelk", Status(0));
+    EXPECT_EQ(Status(0), "Saved list.zelk");
     EXPECT_NE(std::string::npos, testbench::ReadFile(m_folder / "list.zelk").find("<DS>VCALL10</DS>"));
     EXPECT_TRUE(std::filesystem::is_empty(m_folder / "other"));
 }
@@ -258,11 +258,11 @@ TEST_F(ImportCommand, IsNotSavedOverAChannelFileOfTheSameNameWithoutAQuestion) {
                              wxID_CANCEL);
         Choose(IdSave);
     }
-    EXPECT_EQ("edited for hours", testbench::ReadFile(m_folder / "list.zelk"));
+    EXPECT_EQ(testbench::ReadFile(m_folder / "list.zelk"), "edited for hours");
     DialogScript script;
     script.ExpectMessage("Replace file?", "list.zelk exists and was not opened on this page!");
     Choose(IdSave);
-    EXPECT_EQ("Saved list.zelk", Status(0));
+    EXPECT_EQ(Status(0), "Saved list.zelk");
 }
 
 TEST_F(ImportCommand, ADigitalPageHoldsNoRowsButTheFiles) {
@@ -270,8 +270,8 @@ TEST_F(ImportCommand, ADigitalPageHoldsNoRowsButTheFiles) {
         RetargetTo(type);
         WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));
         ImportByMenu("list.716", "Imported 1 Lines from 716 Binary file.");
-        EXPECT_EQ(Rows({0, 5}), RowsWithText()) << type;
-        EXPECT_EQ(1, TakenSlots()) << type;
+        EXPECT_EQ(FilledRows(0), Rows({0, 5})) << type;
+        EXPECT_EQ(TakenSlots(), 1) << type;
     }
 }
 
@@ -279,7 +279,7 @@ TEST_F(ImportCommand, TellsThatAPageHoldsPrimaries) {
     RetargetTo("RP25");
     WriteToFolder("list.716", BinaryFile({BinaryRecord(5).Word(2, 0x10).Word(88, 6)}));
     ImportByMenu("list.716", "Imported 1 Lines from 716 Binary file.");
-    EXPECT_EQ(0x02 | 0x08, CurrentParameters().Flags);
+    EXPECT_EQ(CurrentParameters().Flags, 0x02 | 0x08);
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(5, SCAN)) << "also when the editors have been set up";
 }
 
@@ -303,7 +303,7 @@ TEST_F(ImportCommand, TakesTheTextOfAnOpenEditorFirst) {
     script.Expect(DialogKind::File, "Import file").Answer(wxID_CANCEL);
     Choose(IdImport);
     EXPECT_FALSE(grid->IsCellEditControlShown());
-    EXPECT_EQ("TYPED", Text(0, DESC));
+    EXPECT_EQ(Text(0, DESC), "TYPED");
 }
 
 TEST_F(ImportCommand, SkipsItsEvent) {
@@ -323,10 +323,10 @@ TEST_F(ImportCommand, WorksOnTheSelectedPageOnly) {
     UpdateStatus(MainFrame, 1);
     WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));
     ImportByMenu("list.716", "Imported 1 Lines from 716 Binary file.");
-    EXPECT_EQ("VCALL10", Text(5, DESC));
-    EXPECT_EQ("FIRST", PageGrid[0]->GetCellValue(5, DESC));
-    EXPECT_EQ("", PageStrings[0].FileName);
-    EXPECT_EQ("list", PageStrings[1].FileName);
+    EXPECT_EQ(Text(5, DESC), "VCALL10");
+    EXPECT_EQ(PageGrid[0]->GetCellValue(5, DESC), "FIRST");
+    EXPECT_EQ(PageStrings[0].FileName, "");
+    EXPECT_EQ(PageStrings[1].FileName, "list");
 }
 
 TEST_F(ImportCommand, ReadsAFileByItsContentsWhateverItsName) {
@@ -335,5 +335,5 @@ TEST_F(ImportCommand, ReadsAFileByItsContentsWhateverItsName) {
     ImportByMenu("list.csv", "Imported 1 Lines from 716 Binary file.");
     WriteToFolder("list.716", ListFile({ListLine("006")}));
     ImportByMenu("list.716", "Imported 1 Lines from 716 Text file.");
-    EXPECT_EQ(Rows({0, 6}), RowsWithText()) << "the former file has gone with its import";
+    EXPECT_EQ(FilledRows(0), Rows({0, 6})) << "the former file has gone with its import";
 }

@@ -16,8 +16,8 @@ protected:
     }
 
     void ExpectTold(const std::string& verdict, const std::string& story) {
-        EXPECT_EQ(verdict, Status(0));
-        EXPECT_EQ(story, ToolTip());
+        EXPECT_EQ(Status(0), verdict);
+        EXPECT_EQ(ToolTip(), story);
     }
 };
 
@@ -141,13 +141,13 @@ TEST_F(ImportOutcome, TellsCellsAndLinesTogether) {
 
 TEST_F(ImportOutcome, OfAFileOfNoKindTellsNothing) {
     ImportFile("something else\n");
-    EXPECT_EQ("Select function", Status(0));
+    EXPECT_EQ(Status(0), "Select function");
 }
 
 TEST_F(ImportOutcome, OfAListWithoutAGoodLineTellsTheLines) {
     RetargetTo("ANFM");
     ImportFile(CsvHeading + "x,A,,,,\ny,B,,,,\nz,C,,,,\n");
-    EXPECT_EQ("3 lines skipped", Status(0));
+    EXPECT_EQ(Status(0), "3 lines skipped");
 }
 
 TEST_F(ImportOutcome, FitsItsFieldInAWindowOfDefaultSize) {
@@ -160,5 +160,5 @@ TEST_F(ImportOutcome, FitsItsFieldInAWindowOfDefaultSize) {
         SkippedLines::Note(line);
     TellImport(cells, lines);
     // The page shows ten of the columns; the others are nobody's loss.
-    EXPECT_EQ("4020 cells replaced from row 101; 999 lines skipped", Status(0));
+    EXPECT_EQ(Status(0), "4020 cells replaced from row 101; 999 lines skipped");
 }

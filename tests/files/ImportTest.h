@@ -152,10 +152,5 @@ protected:
         return CurrentGrid()->GetCellBackgroundColour(row, col) == FailColour;
     }
 
-    static void ExpectCells(int row, const std::vector<std::pair<int, const char*>>& cells) {
-        for (const auto& [col, text] : cells)
-            EXPECT_EQ(text, Text(row, col)) << ColumnTag[col] << " of row " << row;
-    }
-
     static std::vector<int> Rows(std::initializer_list<int> rows) { return rows; }
 };

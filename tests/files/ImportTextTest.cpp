@@ -39,8 +39,8 @@ TEST(ImportText, OfBytesIsUtf8OrElseLatin1AndEndsWithAZeroByte) {
         {std::string("\0A", 2), "", ""},
     };
     for (const auto& [bytes, utf8, trimmed] : cases) {
-        EXPECT_EQ(utf8, TextFromBytes(bytes).utf8_string()) << '[' << bytes << ']';
-        EXPECT_EQ(trimmed, TrimmedTextFromBytes(bytes).utf8_string()) << '[' << bytes << ']';
+        EXPECT_EQ(TextFromBytes(bytes).utf8_string(), utf8) << '[' << bytes << ']';
+        EXPECT_EQ(TrimmedTextFromBytes(bytes).utf8_string(), trimmed) << '[' << bytes << ']';
     }
 }
 
@@ -59,8 +59,8 @@ TEST(ImportText, StandsInColumnsOfCharacters) {
         {{99, 9}, "", ""},
     };
     for (const auto& [columns, text, trimmed] : cases) {
-        EXPECT_EQ(text, columns.Of(Line).utf8_string()) << columns.position;
-        EXPECT_EQ(trimmed, columns.TrimmedOf(Line).utf8_string()) << columns.position;
+        EXPECT_EQ(columns.Of(Line).utf8_string(), text) << columns.position;
+        EXPECT_EQ(columns.TrimmedOf(Line).utf8_string(), trimmed) << columns.position;
     }
 }
 
@@ -77,13 +77,13 @@ TEST(ImportText, IsComparedWhereItStands) {
 
 TEST_F(ImportedLines, EndInCrLfOrBoth) {
     using Lines = std::vector<std::string>;
-    EXPECT_EQ(Lines{}, LinesOf(""));
-    EXPECT_EQ((Lines{"a", "b"}), LinesOf("a\nb\n"));
-    EXPECT_EQ((Lines{"a", "b"}), LinesOf("a\rb\r"));
-    EXPECT_EQ((Lines{"a", "b"}), LinesOf("a\r\nb\r\n"));
-    EXPECT_EQ((Lines{"a", "", "b"}), LinesOf("a\n\rb")) << "LFCR are two ends";
-    EXPECT_EQ((Lines{"", "", "b"}), LinesOf("\r\n\r\nb"));
-    EXPECT_EQ((Lines{"a", ""}), LinesOf("a\n\r\n"));
+    EXPECT_EQ(LinesOf(""), Lines{});
+    EXPECT_EQ(LinesOf("a\nb\n"), (Lines{"a", "b"}));
+    EXPECT_EQ(LinesOf("a\rb\r"), (Lines{"a", "b"}));
+    EXPECT_EQ(LinesOf("a\r\nb\r\n"), (Lines{"a", "b"}));
+    EXPECT_EQ(LinesOf("a\n\rb"), (Lines{"a", "", "b"})) << "LFCR are two ends";
+    EXPECT_EQ(LinesOf("\r\n\r\nb"), (Lines{"", "", "b"}));
+    EXPECT_EQ(LinesOf("a\n\r\n"), (Lines{"a", ""}));
 }
 
 TEST_F(ImportedLines, AreTheSameWhereverTheFileIsCutIntoBlocks) {
@@ -96,16 +96,16 @@ TEST_F(ImportedLines, AreTheSameWhereverTheFileIsCutIntoBlocks) {
             bytes += std::string(60, 'x') + "\n";
         bytes += std::string(length - bytes.size(), 'y') + tail;
         const std::vector<std::string> read = LinesOf(bytes);
-        ASSERT_EQ(lines + 3, read.size()) << length;
+        ASSERT_EQ(read.size(), lines + 3) << length;
         EXPECT_TRUE(read[lines].ends_with("M\xC3\xBCller")) << length;
-        EXPECT_EQ("next", read[lines + 1]) << length;
-        EXPECT_EQ("last", read[lines + 2]) << length;
+        EXPECT_EQ(read[lines + 1], "next") << length;
+        EXPECT_EQ(read[lines + 2], "last") << length;
     }
 }
 
 TEST_F(ImportedLines, LoseWhatStandsBehindTheHundredthCharacter) {
     const std::string hundred(100, 'x');
-    EXPECT_EQ((std::vector<std::string>{hundred, "b"}), LinesOf(hundred + "y\nb"));
-    EXPECT_EQ((std::vector<std::string>{hundred, "b"}), LinesOf(hundred + std::string(100'000, 'y') + "\nb"));
-    EXPECT_EQ(std::vector<std::string>{hundred}, LinesOf(hundred));
+    EXPECT_EQ(LinesOf(hundred + "y\nb"), (std::vector<std::string>{hundred, "b"}));
+    EXPECT_EQ(LinesOf(hundred + std::string(100'000, 'y') + "\nb"), (std::vector<std::string>{hundred, "b"}));
+    EXPECT_EQ(LinesOf(hundred), std::vector<std::string>{hundred});
 }

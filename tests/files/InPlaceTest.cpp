@@ -72,14 +72,14 @@ void ExpectWholeOrTold(const std::string& former, const std::string& fresh, int 
         if (!file.HasFailed()) {
             EXPECT_FALSE(result.error);
             EXPECT_FALSE(result.damaged);
-            EXPECT_EQ(fresh, file.Bytes());
+            EXPECT_EQ(file.Bytes(), fresh);
             return;
         }
         EXPECT_TRUE(result.error == std::errc::no_space_on_device);
         if (result.damaged)
             sawDamage = true;
         else
-            EXPECT_EQ(former, file.Bytes());
+            EXPECT_EQ(file.Bytes(), former);
     }
 }
 

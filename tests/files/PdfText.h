@@ -1,7 +1,7 @@
 // What a printed PDF file says.
 #pragma once
 
-#include "tests/support/robot/Process.h"
+#include "robot/Process.h"
 
 #include <filesystem>
 #include <sstream>

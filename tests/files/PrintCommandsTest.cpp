@@ -3,12 +3,12 @@
 #include "tests/support/LogKeeper.h"
 
 #include "commands/CommandIds.h"
+#include "robot/XDesk.h"
 #include "tests/files/PdfText.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/AssertsOff.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
-#include "tests/support/robot/XDesk.h"
 
 #include <wx/combobox.h>
 #include <wx/generic/prntdlgg.h>
@@ -110,20 +110,20 @@ protected:
     /// The file has these pages, each with its heading, and every row of the page once and in order.
     void ExpectEveryRow(int pages, int rowsPerPage) {
         const std::vector<std::vector<std::string>> sheets = PdfLines(Output());
-        ASSERT_EQ(static_cast<size_t>(pages), sheets.size());
+        ASSERT_EQ(sheets.size(), static_cast<size_t>(pages));
         int row = 0;
         for (size_t sheet = 0; sheet < sheets.size(); ++sheet) {
             const std::vector<std::string>& lines = sheets[sheet];
             ASSERT_GE(lines.size(), 3u);
-            EXPECT_EQ(0u, lines[0].find(PageStrings[0].RadioName.utf8_string())) << lines[0];
+            EXPECT_EQ(lines[0].find(PageStrings[0].RadioName.utf8_string()), 0u) << lines[0];
             const std::string number = "Page " + std::to_string(sheet + 2) + " of " + std::to_string(pages);
-            EXPECT_EQ(lines[0].size() - number.size(), lines[0].rfind(number)) << lines[0];
-            EXPECT_EQ(ShownHeadings(), WordsOf(lines[1]));
+            EXPECT_EQ(lines[0].rfind(number), lines[0].size() - number.size()) << lines[0];
+            EXPECT_EQ(WordsOf(lines[1]), ShownHeadings());
             for (size_t line = 2; line < lines.size(); ++line, ++row)
-                ASSERT_EQ(ShownTexts(row), WordsOf(lines[line])) << "sheet " << sheet + 1;
-            EXPECT_EQ(std::min<int>(rowsPerPage * static_cast<int>(sheet + 1), Rows()), row);
+                ASSERT_EQ(WordsOf(lines[line]), ShownTexts(row)) << "sheet " << sheet + 1;
+            EXPECT_EQ(row, std::min<int>(rowsPerPage * static_cast<int>(sheet + 1), Rows()));
         }
-        EXPECT_EQ(Rows(), row);
+        EXPECT_EQ(row, Rows());
     }
 
     static int Rows() { return CurrentGrid()->GetNumberRows(); }
@@ -227,8 +227,8 @@ protected:
         RunWithRobot([&](Robot& robot) {
             ChooseFromFileMenu(robot, PageSetupEntry);
             auto* dialog = static_cast<wxGenericPageSetupDialog*>(robot.WaitForDialog("Page setup"));
-            ASSERT_NE(nullptr, dialog);
-            EXPECT_EQ(MainFrame, robot.Ask([=] { return dialog->GetParent(); }));
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(robot.Ask([=] { return dialog->GetParent(); }), MainFrame);
             if (work)
                 work(robot, dialog);
             robot.Click(robot.Ask([=] { return MiddleOf(*dialog->FindWindow(button)); }));
@@ -299,14 +299,14 @@ TEST_F(PrintCommands, APageOfMemoriesIsPrintedInLandscapeWhenThePageSetupSaysSo)
     const PdfPage page = PdfWords(Output()).front();
     EXPECT_NEAR(297, page.width, 0.5);
     EXPECT_NEAR(210, page.height, 0.5);
-    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation()) << "as before";
+    EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE) << "as before";
 }
 
 TEST_F(PrintCommands, PaperHasItsHeadingInTheStripAndTheGridBetweenTheMargins) {
     FillPage();
     PrintPage();
     const std::vector<PdfPage> pages = PdfWords(Output());
-    ASSERT_EQ(4u, pages.size());
+    ASSERT_EQ(pages.size(), 4u);
     for (const PdfPage& page : pages) {
         ASSERT_GT(page.words.size(), 20u);
         double left = 1000, right = 0;
@@ -361,11 +361,11 @@ TEST_F(PrintCommands, CancelInThePrintDialogSaysNothingAndChangesNothing) {
         ExpectKeysInTheGrid(robot);
     });
     EXPECT_FALSE(fs::exists(Output()));
-    EXPECT_EQ(std::vector<std::string>{}, log.lines);
-    EXPECT_EQ(std::vector<std::string>{}, log.errors);
-    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation());
-    EXPECT_EQ(1, PrintData->GetNoCopies());
-    EXPECT_EQ(before, Masked(Save("before")));
+    EXPECT_EQ(log.lines, std::vector<std::string>{});
+    EXPECT_EQ(log.errors, std::vector<std::string>{});
+    EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE);
+    EXPECT_EQ(PrintData->GetNoCopies(), 1);
+    EXPECT_EQ(Masked(Save("before")), before);
     EXPECT_TRUE(look == LookOf(*CurrentGrid()));
     EXPECT_TRUE(MainFrame->IsEnabled());
 }
@@ -375,31 +375,31 @@ TEST_F(PrintCommands, WhatWasChosenInThePrintDialogIsKeptForTheNextTime) {
         DialogScript script;
         script.Expect(DialogKind::Print, AnyText()).Answer(id).Set([=](wxDialog* dialog) {
             auto* print = dynamic_cast<wxPrintDialogBase*>(dialog);
-            ASSERT_NE(nullptr, print);
+            ASSERT_NE(print, nullptr);
             print->GetPrintDialogData().GetPrintData().SetOrientation(wxLANDSCAPE);
             print->GetPrintDialogData().GetPrintData().SetNoCopies(copies);
         });
         RunCommand(IdPrint);
     };
     answer(wxID_CANCEL, 2);
-    EXPECT_EQ(wxPORTRAIT, PrintData->GetOrientation());
-    EXPECT_EQ(1, PrintData->GetNoCopies());
+    EXPECT_EQ(PrintData->GetOrientation(), wxPORTRAIT);
+    EXPECT_EQ(PrintData->GetNoCopies(), 1);
     answer(wxID_NO, 2);
-    EXPECT_EQ(wxPORTRAIT, PrintData->GetOrientation()) << "not printed";
+    EXPECT_EQ(PrintData->GetOrientation(), wxPORTRAIT) << "not printed";
     answer(wxID_OK, 3);
-    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation());
-    EXPECT_EQ(3, PrintData->GetNoCopies());
-    EXPECT_EQ(wxPORTRAIT, PageSetupData->GetPrintData().GetOrientation()) << "the page set-up has its own";
+    EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE);
+    EXPECT_EQ(PrintData->GetNoCopies(), 3);
+    EXPECT_EQ(PageSetupData->GetPrintData().GetOrientation(), wxPORTRAIT) << "the page set-up has its own";
 }
 
 TEST_F(PrintCommands, OfferAllSheetsInPortrait) {
     DialogScript script;
     script.Expect(DialogKind::Print, AnyText()).Answer(wxID_CANCEL).Set([](wxDialog* dialog) {
         auto* print = dynamic_cast<wxPrintDialogBase*>(dialog);
-        ASSERT_NE(nullptr, print);
-        EXPECT_EQ(1, print->GetPrintDialogData().GetMinPage());
-        EXPECT_EQ(4, print->GetPrintDialogData().GetMaxPage());
-        EXPECT_EQ(wxPORTRAIT, print->GetPrintDialogData().GetPrintData().GetOrientation());
+        ASSERT_NE(print, nullptr);
+        EXPECT_EQ(print->GetPrintDialogData().GetMinPage(), 1);
+        EXPECT_EQ(print->GetPrintDialogData().GetMaxPage(), 4);
+        EXPECT_EQ(print->GetPrintDialogData().GetPrintData().GetOrientation(), wxPORTRAIT);
     });
     RunCommand(IdPrint);
 }
@@ -411,11 +411,11 @@ TEST_F(PrintCommands, AFailureIsToldInTheLogAndTheStatusBar) {
         DialogScript script;
         script.Expect(DialogKind::Print, AnyText()).Answer(answer);
         RunCommand(IdPrint);
-        ASSERT_EQ(before + (told ? 1 : 0), log.lines.size()) << answer;
-        EXPECT_EQ(told ? "There was a problem printing." : "Select function", Status(0)) << answer;
-        EXPECT_EQ(told ? PrintTrouble : "", MainFrame->m_statusBar->GetToolTipText().utf8_string()) << answer;
+        ASSERT_EQ(log.lines.size(), before + (told ? 1 : 0)) << answer;
+        EXPECT_EQ(Status(0), told ? "There was a problem printing." : "Select function") << answer;
+        EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(), told ? PrintTrouble : "") << answer;
     }
-    EXPECT_EQ(std::vector<std::string>{PrintTrouble}, log.lines);
+    EXPECT_EQ(log.lines, std::vector<std::string>{PrintTrouble});
 }
 
 TEST_F(PrintCommands, WithoutRoomForTheSheetsPrintingFailsAndIsToldInTheLogAndTheStatusBar) {
@@ -429,10 +429,10 @@ TEST_F(PrintCommands, WithoutRoomForTheSheetsPrintingFailsAndIsToldInTheLogAndTh
         EXPECT_TRUE(robot.WaitForWindow("Orv Zelk.*"));
     });
     fs::create_directory(Spool());
-    EXPECT_EQ(wxPRINTER_ERROR, wxPrinter::GetLastError());
-    EXPECT_EQ(std::vector<std::string>{PrintTrouble}, log.lines);
-    EXPECT_EQ("There was a problem printing.", Status(0));
-    EXPECT_EQ(wxPORTRAIT, PrintData->GetOrientation());
+    EXPECT_EQ(wxPrinter::GetLastError(), wxPRINTER_ERROR);
+    EXPECT_EQ(log.lines, std::vector<std::string>{PrintTrouble});
+    EXPECT_EQ(Status(0), "There was a problem printing.");
+    EXPECT_EQ(PrintData->GetOrientation(), wxPORTRAIT);
     EXPECT_TRUE(before == LookOf(*CurrentGrid()));
     EXPECT_TRUE(MainFrame->IsEnabled());
     EXPECT_FALSE(fs::exists(Output()));
@@ -445,11 +445,11 @@ TEST_F(PrintCommands, PrintTheSelectedPage) {
     FillPage();
     PrintPage();
     const auto sheets = PdfLines(Output());
-    ASSERT_EQ(1u, sheets.size());
-    EXPECT_EQ((std::vector<std::string>{"ORV-12", "Page", "2", "of", "1"}), WordsOf(sheets[0][0]));
-    ASSERT_EQ(9u, sheets[0].size());
+    ASSERT_EQ(sheets.size(), 1u);
+    EXPECT_EQ(WordsOf(sheets[0][0]), (std::vector<std::string>{"ORV-12", "Page", "2", "of", "1"}));
+    ASSERT_EQ(sheets[0].size(), 9u);
     for (int row = 0; row < 7; ++row)
-        EXPECT_EQ(ShownTexts(row), WordsOf(sheets[0][static_cast<size_t>(row) + 2]));
+        EXPECT_EQ(WordsOf(sheets[0][static_cast<size_t>(row) + 2]), ShownTexts(row));
 }
 
 TEST_F(PrintCommands, ThePreviewIsPagedSizedAndClosed) {
@@ -458,7 +458,7 @@ TEST_F(PrintCommands, ThePreviewIsPagedSizedAndClosed) {
     RunWithRobot([&](Robot& robot) {
         ChooseFromFileMenu(robot, PreviewEntry);
         ASSERT_TRUE(robot.WaitForWindow("Print Preview"));
-        EXPECT_EQ(MainFrame, robot.Ask([] { return Preview()->GetParent(); }));
+        EXPECT_EQ(robot.Ask([] { return Preview()->GetParent(); }), MainFrame);
         EXPECT_FALSE(robot.Ask([] { return MainFrame->IsEnabled(); }));
         ExpectPreviewed(robot, 1);
         const wxImage first = PreviewPicture(robot);
@@ -469,7 +469,7 @@ TEST_F(PrintCommands, ThePreviewIsPagedSizedAndClosed) {
         for (const auto& [button, page] : steps) {
             ClickInPreview(robot, button);
             ExpectPreviewed(robot, page);
-            EXPECT_EQ(page == 1, AreSame(first, PreviewPicture(robot))) << page;
+            EXPECT_EQ(AreSame(first, PreviewPicture(robot)), page == 1) << page;
             EXPECT_TRUE(robot.Ask([&] { return look == LookOf(*CurrentGrid()); })) << page;
         }
         ClickInPreview(robot, wxID_PREVIEW_GOTO);
@@ -527,9 +527,9 @@ TEST_F(PrintCommands, ThePreviewGoesWithTheMainWindow) {
         ChooseFromFileMenu(robot, PreviewEntry);
         ASSERT_TRUE(robot.WaitForWindow("Print Preview"));
     });
-    ASSERT_NE(nullptr, Preview());
+    ASSERT_NE(Preview(), nullptr);
     TearDown();
-    EXPECT_EQ(nullptr, Preview());
+    EXPECT_EQ(Preview(), nullptr);
     SetUp();
 }
 
@@ -544,15 +544,15 @@ TEST_F(PrintCommands, PageSetupTakesOrientationPaperAndMargins) {
         robot.Press("Down");
         EXPECT_TRUE(robot.WaitFor([=] { return dialog->m_paperTypeChoice->GetSelection() == 0; }));
     });
-    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation());
-    EXPECT_EQ(wxPAPER_LETTER, PrintData->GetPaperId());
-    EXPECT_EQ(wxLANDSCAPE, PageSetupData->GetPrintData().GetOrientation());
-    EXPECT_EQ(wxSize(215, 279), PageSetupData->GetPaperSize());
-    EXPECT_EQ(wxPoint(20, 21), PageSetupData->GetMarginTopLeft());
-    EXPECT_EQ(wxPoint(22, 23), PageSetupData->GetMarginBottomRight());
+    EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE);
+    EXPECT_EQ(PrintData->GetPaperId(), wxPAPER_LETTER);
+    EXPECT_EQ(PageSetupData->GetPrintData().GetOrientation(), wxLANDSCAPE);
+    EXPECT_EQ(PageSetupData->GetPaperSize(), wxSize(215, 279));
+    EXPECT_EQ(PageSetupData->GetMarginTopLeft(), wxPoint(20, 21));
+    EXPECT_EQ(PageSetupData->GetMarginBottomRight(), wxPoint(22, 23));
     ZelkPrintout printout(MainFrame, CurrentGrid(), "");
     printout.CalculateRowsPerPage();
-    EXPECT_EQ(18, printout.RowsPerPage()) << "237 x 165 mm: 431 pixels";
+    EXPECT_EQ(printout.RowsPerPage(), 18) << "237 x 165 mm: 431 pixels";
 }
 
 TEST_F(PrintCommands, PageSetupShowsWhatWasSet) {
@@ -567,20 +567,20 @@ TEST_F(PrintCommands, PageSetupShowsWhatWasSet) {
                 texts.push_back(field->GetValue().utf8_string());
             return texts;
         });
-        EXPECT_EQ((std::vector<std::string>{"1", "1", "2", "3", "4"}), shown);
+        EXPECT_EQ(shown, (std::vector<std::string>{"1", "1", "2", "3", "4"}));
     });
 }
 
 TEST_F(PrintCommands, PageSetupIsCopiedIntoThePrintDataAlsoWhenItIsCancelled) {
     PageSetupData->GetPrintData().SetOrientation(wxLANDSCAPE);
-    ASSERT_EQ(wxPORTRAIT, PrintData->GetOrientation());
+    ASSERT_EQ(PrintData->GetOrientation(), wxPORTRAIT);
     SetUpPage(wxID_CANCEL, [](Robot& robot, wxGenericPageSetupDialog* dialog) {
         TypeMargin(robot, dialog->m_marginLeftText, "40");
     });
-    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation());
-    EXPECT_EQ(wxLANDSCAPE, PageSetupData->GetPrintData().GetOrientation());
-    EXPECT_EQ(wxPoint(15, 15), PageSetupData->GetMarginTopLeft()) << "what was typed is gone";
+    EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE);
+    EXPECT_EQ(PageSetupData->GetPrintData().GetOrientation(), wxLANDSCAPE);
+    EXPECT_EQ(PageSetupData->GetMarginTopLeft(), wxPoint(15, 15)) << "what was typed is gone";
     PrintData->SetOrientation(wxPORTRAIT);
     SetUpPage(wxID_OK);
-    EXPECT_EQ(wxLANDSCAPE, PrintData->GetOrientation());
+    EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE);
 }

@@ -69,8 +69,9 @@ class RowsPerPage : public testing::TestWithParam<SheetCase> {};
 
 TEST_P(RowsPerPage, IsWhatFitsTheSheet) {
     const SheetCase& sheet = GetParam();
-    EXPECT_EQ(sheet.rowsPerPage, CountRowsPerPage({sheet.paperWidth, sheet.paperHeight}, sheet.margins,
-                                                  sheet.landscape, sheet.totalWidth, Rows(sheet.rows)));
+    EXPECT_EQ(CountRowsPerPage({sheet.paperWidth, sheet.paperHeight}, sheet.margins, sheet.landscape,
+                               sheet.totalWidth, Rows(sheet.rows)),
+              sheet.rowsPerPage);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sheets, RowsPerPage, testing::ValuesIn(SheetCases));
@@ -97,12 +98,12 @@ constexpr TypeCase TypeCases[] = {
 TEST(RowsPerPageOfType, IsThatOfItsColumnsOnA4) {
     for (const TypeCase& page : TypeCases) {
         SCOPED_TRACE(page.type);
-        EXPECT_EQ(page.upright,
-                  CountRowsPerPage({210, 297}, Margins(15), Upright, page.totalWidth, Rows(page.rows)));
-        EXPECT_EQ(page.onItsSide,
-                  CountRowsPerPage({210, 297}, Margins(15), OnItsSide, page.totalWidth, Rows(page.rows)));
-        EXPECT_EQ(page.pages, CountPages(page.rows, page.upright));
-        EXPECT_EQ(page.asidePages, CountPages(page.rows, page.onItsSide));
+        EXPECT_EQ(CountRowsPerPage({210, 297}, Margins(15), Upright, page.totalWidth, Rows(page.rows)),
+                  page.upright);
+        EXPECT_EQ(CountRowsPerPage({210, 297}, Margins(15), OnItsSide, page.totalWidth, Rows(page.rows)),
+                  page.onItsSide);
+        EXPECT_EQ(CountPages(page.rows, page.upright), page.pages);
+        EXPECT_EQ(CountPages(page.rows, page.onItsSide), page.asidePages);
     }
 }
 
@@ -111,20 +112,20 @@ TEST(RowsPerPageOfRows, CountsHighRowsAsTheyCome) {
         // 1450 pixels of height.
         return CountRowsPerPage({210, 297}, Margins(15), Upright, 1000, heights);
     };
-    EXPECT_EQ(1, count({1450, 1}));
-    EXPECT_EQ(1, count({1451, 1})) << "a row higher than the page has one of its own";
-    EXPECT_EQ(2, count({725, 725, 1}));
-    EXPECT_EQ(1, count({725, 726, 1}));
-    EXPECT_EQ(3, count({1400, 0, 50, 1})) << "a hidden row counts and takes no room";
-    EXPECT_EQ(3, count({1400, 20, 23, 23, 23})) << "rows behind one that doesn't fit are not asked";
-    EXPECT_EQ(1, count({INT_MAX, INT_MAX, INT_MAX}));
+    EXPECT_EQ(count({1450, 1}), 1);
+    EXPECT_EQ(count({1451, 1}), 1) << "a row higher than the page has one of its own";
+    EXPECT_EQ(count({725, 725, 1}), 2);
+    EXPECT_EQ(count({725, 726, 1}), 1);
+    EXPECT_EQ(count({1400, 0, 50, 1}), 3) << "a hidden row counts and takes no room";
+    EXPECT_EQ(count({1400, 20, 23, 23, 23}), 3) << "rows behind one that doesn't fit are not asked";
+    EXPECT_EQ(count({INT_MAX, INT_MAX, INT_MAX}), 1);
 }
 
 TEST(RowsPerPageOfRows, AreOneWhereNothingIsLeftOfThePaper) {
     const std::vector<int> hidden = {0, 0, 0, 23};
-    EXPECT_EQ(1, CountRowsPerPage({210, 36}, Margins(15), Upright, 900, hidden));
-    EXPECT_EQ(1, CountRowsPerPage({30, 297}, Margins(15), Upright, 900, hidden));
-    EXPECT_EQ(3, CountRowsPerPage({210, 37}, Margins(15), Upright, 900, hidden)) << "1 mm: 5 pixels";
+    EXPECT_EQ(CountRowsPerPage({210, 36}, Margins(15), Upright, 900, hidden), 1);
+    EXPECT_EQ(CountRowsPerPage({30, 297}, Margins(15), Upright, 900, hidden), 1);
+    EXPECT_EQ(CountRowsPerPage({210, 37}, Margins(15), Upright, 900, hidden), 3) << "1 mm: 5 pixels";
 }
 
 TEST(Pages, AreOneMoreForRowsThatAreLeft) {
@@ -133,7 +134,7 @@ TEST(Pages, AreOneMoreForRowsThatAreLeft) {
     } cases[] = {{1, 1, 1},   {7, 39, 1},   {39, 39, 1},   {40, 39, 2},   {78, 39, 2},
                  {79, 39, 3}, {503, 69, 8}, {503, 1, 503}, {503, 503, 1}, {0, 1, 0}};
     for (const auto& each : cases)
-        EXPECT_EQ(each.pages, CountPages(each.rows, each.rowsPerPage))
+        EXPECT_EQ(CountPages(each.rows, each.rowsPerPage), each.pages)
             << each.rows << " rows, " << each.rowsPerPage << " a page";
 }
 
@@ -157,14 +158,14 @@ TEST(MarginsInDevicePixels, AreCutToWholeOnes) {
     for (const auto& each : cases) {
         SCOPED_TRACE(each.name);
         const PageMargins found = InDevicePixels(margins, each.extraTop, each.pixelsPerInch, each.scale);
-        EXPECT_EQ(wxPoint(each.left, each.top), found.topLeft);
-        EXPECT_EQ(wxPoint(each.right, each.bottom), found.bottomRight);
+        EXPECT_EQ(found.topLeft, wxPoint(each.left, each.top));
+        EXPECT_EQ(found.bottomRight, wxPoint(each.right, each.bottom));
     }
 }
 
 TEST(MarginsInDevicePixels, StayWithinWhatCanBeReckonedWith) {
     const PageMargins wide = InDevicePixels(Margins(INT_MAX), HeadingSpace, {1200, 1200}, 1);
-    EXPECT_EQ(100000000, wide.topLeft.x);
-    EXPECT_EQ(100000000, wide.bottomRight.y);
-    EXPECT_EQ(-100000000, InDevicePixels(Margins(-INT_MAX), 0, {1200, 1200}, 1).topLeft.x);
+    EXPECT_EQ(wide.topLeft.x, 100000000);
+    EXPECT_EQ(wide.bottomRight.y, 100000000);
+    EXPECT_EQ(InDevicePixels(Margins(-INT_MAX), 0, {1200, 1200}, 1).topLeft.x, -100000000);
 }

@@ -55,9 +55,9 @@ protected:
     static int Pages(ZelkPrintout& printout) {
         int min = -1, max = -1, from = -1, to = -1;
         printout.GetPageInfo(&min, &max, &from, &to);
-        EXPECT_EQ(1, min);
-        EXPECT_EQ(1, from);
-        EXPECT_EQ(max, to);
+        EXPECT_EQ(min, 1);
+        EXPECT_EQ(from, 1);
+        EXPECT_EQ(to, max);
         return max;
     }
 
@@ -102,30 +102,30 @@ protected:
 } // namespace
 
 TEST_F(Printing, BeginsInPortraitWithMarginsOf15Millimetres) {
-    EXPECT_EQ(wxPORTRAIT, PrintData->GetOrientation());
-    EXPECT_EQ(wxPORTRAIT, PageSetupData->GetPrintData().GetOrientation());
-    EXPECT_EQ(wxPoint(15, 15), PageSetupData->GetMarginTopLeft());
-    EXPECT_EQ(wxPoint(15, 15), PageSetupData->GetMarginBottomRight());
+    EXPECT_EQ(PrintData->GetOrientation(), wxPORTRAIT);
+    EXPECT_EQ(PageSetupData->GetPrintData().GetOrientation(), wxPORTRAIT);
+    EXPECT_EQ(PageSetupData->GetMarginTopLeft(), wxPoint(15, 15));
+    EXPECT_EQ(PageSetupData->GetMarginBottomRight(), wxPoint(15, 15));
 }
 
 TEST_F(Printing, HasAPrintoutWithTheTitleGiven) {
-    EXPECT_EQ("KRV-47", Printout().GetTitle());
+    EXPECT_EQ(Printout().GetTitle(), "KRV-47");
 }
 
 TEST_F(Printing, CountsNothingBeforeThePageInfo) {
     ZelkPrintout printout = Printout();
-    EXPECT_EQ(0, printout.DocumentPages());
-    EXPECT_EQ(0, printout.RowsPerPage());
+    EXPECT_EQ(printout.DocumentPages(), 0);
+    EXPECT_EQ(printout.RowsPerPage(), 0);
     EXPECT_FALSE(printout.HasPage(1));
 }
 
 TEST_F(Printing, APageOfFewRowsIsPrintedWholeAllTheSame) {
-    ASSERT_EQ(std::vector<int>{0}, RowsWithText());
+    ASSERT_EQ(FilledRows(0), std::vector<int>{0});
     ZelkPrintout printout = Printout();
-    EXPECT_EQ(4, Pages(printout)) << "123 rows, blank ones too";
-    EXPECT_EQ(39, printout.RowsPerPage());
+    EXPECT_EQ(Pages(printout), 4) << "123 rows, blank ones too";
+    EXPECT_EQ(printout.RowsPerPage(), 39);
     FillPage();
-    EXPECT_EQ(4, Pages(printout));
+    EXPECT_EQ(Pages(printout), 4);
 }
 
 TEST_F(Printing, CountsThePagesOfEveryType) {
@@ -140,60 +140,60 @@ TEST_F(Printing, CountsThePagesOfEveryType) {
         InitPrinting();
         RetargetTo(each.type);
         ZelkPrintout printout = Printout();
-        EXPECT_EQ(each.pages, Pages(printout));
-        EXPECT_EQ(each.rows, printout.RowsPerPage());
+        EXPECT_EQ(Pages(printout), each.pages);
+        EXPECT_EQ(printout.RowsPerPage(), each.rows);
         SetLandscape();
-        EXPECT_EQ(each.landscapePages, Pages(printout));
-        EXPECT_EQ(each.landscapeRows, printout.RowsPerPage());
+        EXPECT_EQ(Pages(printout), each.landscapePages);
+        EXPECT_EQ(printout.RowsPerPage(), each.landscapeRows);
     }
 }
 
 TEST_F(Printing, InLandscapeFewerRowsGoOntoAPage) {
-    EXPECT_EQ(39, RowsAPage());
+    EXPECT_EQ(RowsAPage(), 39);
     SetLandscape();
-    EXPECT_EQ(17, RowsAPage());
+    EXPECT_EQ(RowsAPage(), 17);
     // The orientation is that of the print data alone.
     PageSetupData->GetPrintData().SetOrientation(wxLANDSCAPE);
     PrintData->SetOrientation(wxPORTRAIT);
-    EXPECT_EQ(39, RowsAPage());
+    EXPECT_EQ(RowsAPage(), 39);
 }
 
 TEST_F(Printing, TakesPaperAndMarginsFromThePageSetup) {
     PageSetupData->SetPaperSize(wxSize(148, 210));
-    EXPECT_EQ(39, RowsAPage()) << "118 x 174 mm: 914 pixels";
+    EXPECT_EQ(RowsAPage(), 39) << "118 x 174 mm: 914 pixels";
     PageSetupData->SetMarginTopLeft(wxPoint(0, 0));
-    EXPECT_EQ(38, RowsAPage()) << "133 x 189 mm: 881 pixels";
+    EXPECT_EQ(RowsAPage(), 38) << "133 x 189 mm: 881 pixels";
     PageSetupData->SetMarginBottomRight(wxPoint(10, 100));
-    EXPECT_EQ(20, RowsAPage()) << "138 x 104 mm: 467 pixels";
+    EXPECT_EQ(RowsAPage(), 20) << "138 x 104 mm: 467 pixels";
     PageSetupData->SetMarginBottomRight(wxPoint(10, 204));
-    EXPECT_EQ(1, RowsAPage()) << "nothing left";
+    EXPECT_EQ(RowsAPage(), 1) << "nothing left";
 }
 
 TEST_F(Printing, WiderColumnsBringMoreRowsOntoAPage) {
     CurrentGrid()->SetColSize(DESC, 290); // 200 more: 820 x 1.45 = 1189
-    EXPECT_EQ(51, RowsAPage());
+    EXPECT_EQ(RowsAPage(), 51);
 }
 
 TEST_F(Printing, HiddenColumnsCountNothing) {
     CurrentGrid()->HideCol(TFRQ); // 80 less: 540 x 1.45 = 783
-    EXPECT_EQ(34, RowsAPage());
+    EXPECT_EQ(RowsAPage(), 34);
 }
 
 TEST_F(Printing, ARowHigherThanThePageHasOneToItself) {
     CurrentGrid()->SetRowSize(0, 900); // of 899 pixels
     ZelkPrintout printout = Printout();
-    EXPECT_EQ(123, Pages(printout));
-    EXPECT_EQ(1, printout.RowsPerPage());
+    EXPECT_EQ(Pages(printout), 123);
+    EXPECT_EQ(printout.RowsPerPage(), 1);
     CurrentGrid()->SetRowSize(0, 899);
-    EXPECT_EQ(1, RowsAPage());
+    EXPECT_EQ(RowsAPage(), 1);
     CurrentGrid()->SetRowSize(0, 853);
-    EXPECT_EQ(3, RowsAPage());
+    EXPECT_EQ(RowsAPage(), 3);
 }
 
 TEST_F(Printing, HasThePagesFromOneToTheirCount) {
     ZelkPrintout printout = Printout();
-    ASSERT_EQ(4, Pages(printout));
-    EXPECT_EQ(4, printout.DocumentPages());
+    ASSERT_EQ(Pages(printout), 4);
+    EXPECT_EQ(printout.DocumentPages(), 4);
     for (int page : {1, 2, 4})
         EXPECT_TRUE(printout.HasPage(page)) << page;
     for (int page : {-1, 0, 5})
@@ -226,12 +226,12 @@ TEST_F(Printing, TakesMarginsFromThePrintersPixels) {
     PageSetupData->SetMarginBottomRight(wxPoint(30, 40));
     wxPoint topLeft, bottomRight;
     printout.GetPageMargins(0.25, topLeft, bottomRight, 6);
-    EXPECT_EQ(wxPoint(100, 260), topLeft);
-    EXPECT_EQ(wxPoint(300, 400), bottomRight);
+    EXPECT_EQ(topLeft, wxPoint(100, 260));
+    EXPECT_EQ(bottomRight, wxPoint(300, 400));
     printout.SetPPIPrinter(127, 508);
     printout.GetPageMargins(3, topLeft, bottomRight, 0);
-    EXPECT_EQ(wxPoint(50, 400), topLeft);
-    EXPECT_EQ(wxPoint(150, 800), bottomRight);
+    EXPECT_EQ(topLeft, wxPoint(50, 400));
+    EXPECT_EQ(bottomRight, wxPoint(150, 800));
 }
 
 TEST_F(Printing, TakesMarginsOfAPreviewFromTheScreensPixels) {
@@ -241,10 +241,10 @@ TEST_F(Printing, TakesMarginsOfAPreviewFromTheScreensPixels) {
     printout->SetPPIPrinter(1200, 1200);
     wxPoint topLeft, bottomRight;
     printout->GetPageMargins(0.5, topLeft, bottomRight, 6); // 2.5 and 5 pixels a millimetre
-    EXPECT_EQ(wxPoint(37, 105), topLeft);
-    EXPECT_EQ(wxPoint(37, 75), bottomRight);
+    EXPECT_EQ(topLeft, wxPoint(37, 105));
+    EXPECT_EQ(bottomRight, wxPoint(37, 75));
     printout->GetPageMargins(1, topLeft, bottomRight, 0);
-    EXPECT_EQ(wxPoint(75, 150), topLeft);
+    EXPECT_EQ(topLeft, wxPoint(75, 150));
 }
 
 TEST_F(Printing, FillsTheWidthBetweenTheMarginsAndLeavesThemFree) {
@@ -283,10 +283,10 @@ TEST_F(Printing, HeadsThreePagesWith2Of3And3Of3And4Of3) {
     for (int page : {1, 2, 3}) {
         const std::vector<DrawnText> texts = Trace(page);
         ASSERT_GE(texts.size(), 2u);
-        EXPECT_EQ("KRV-47", texts[texts.size() - 2].text) << "drawn after the grid";
+        EXPECT_EQ(texts[texts.size() - 2].text, "KRV-47") << "drawn after the grid";
         headings.push_back(texts.back().text);
     }
-    EXPECT_EQ((std::vector<std::string>{"Page 2 of 3", "Page 3 of 3", "Page 4 of 3"}), headings);
+    EXPECT_EQ(headings, (std::vector<std::string>{"Page 2 of 3", "Page 3 of 3", "Page 4 of 3"}));
 }
 
 TEST_F(Printing, SplitsRowsAtTheSamePlaceForEachPage) {
@@ -295,9 +295,9 @@ TEST_F(Printing, SplitsRowsAtTheSamePlaceForEachPage) {
     for (int page = 1; page <= 4; ++page) {
         const std::vector<std::string> labels = RowLabels(page);
         ASSERT_FALSE(labels.empty()) << page;
-        EXPECT_EQ(ends[page - 1].first, labels.front());
-        EXPECT_EQ(ends[page - 1].second, labels.back());
-        EXPECT_EQ(page < 4 ? 39u : 6u, labels.size()) << page;
+        EXPECT_EQ(labels.front(), ends[page - 1].first);
+        EXPECT_EQ(labels.back(), ends[page - 1].second);
+        EXPECT_EQ(labels.size(), page < 4 ? 39u : 6u) << page;
     }
 }
 
@@ -314,9 +314,9 @@ TEST_F(Printing, PutsTheDefaultRowFirst) {
     std::map<std::string, int> tops;
     for (const DrawnText& drawn : Trace(1))
         tops[drawn.text] = drawn.place.y;
-    ASSERT_EQ(1u, tops.count("DEFAULT"));
+    ASSERT_EQ(tops.count("DEFAULT"), 1u);
     EXPECT_NEAR(63, tops["FIRST"] - tops["DEFAULT"], 2) << "one row above";
-    EXPECT_EQ("000", RowLabels(1).front());
+    EXPECT_EQ(RowLabels(1).front(), "000");
 }
 
 TEST_F(Printing, ShowsTheColumnsOfThePageInTheirOrderOnTheScreen) {
@@ -350,7 +350,7 @@ TEST_F(Printing, ShowsTheColumnsOfThePageInTheirOrderOnTheScreen) {
             EXPECT_GT(drawn.place.x, right) << drawn.text;
             right = drawn.place.x + drawn.size.x;
         }
-        EXPECT_EQ(each.headings, headings);
+        EXPECT_EQ(headings, each.headings);
     }
 }
 
@@ -398,7 +398,7 @@ TEST_F(Printing, ColoursOfRowsGoOntoPaper) {
     EXPECT_NEAR(1950, marked.GetRight(), 6);
     EXPECT_NEAR(62, marked.height, 4) << "a row's height on paper";
     EXPECT_NEAR(210, repaired.width, 12) << "a frequency's width on paper";
-    EXPECT_EQ(marked.width, first.width);
+    EXPECT_EQ(first.width, marked.width);
     EXPECT_NEAR(5 * 63, marked.GetTop() - first.GetTop(), 5);
     EXPECT_NEAR(2 * 63, repaired.GetTop() - marked.GetTop(), 5);
     EXPECT_FALSE(WhereColour(picture, Red).IsEmpty());
@@ -409,17 +409,17 @@ TEST_F(Printing, DrawsInTheLookOfPaper) {
     std::vector<GridLook> seen;
     grid->SetCellRenderer(1, DESC, new LookSpy(seen));
     Draw(1);
-    ASSERT_EQ(1u, seen.size());
-    EXPECT_EQ(PaleGrey, seen[0].line);
-    EXPECT_EQ(PaleGrey, seen[0].labelBackground);
-    EXPECT_EQ(DarkGrey, seen[0].labelText);
-    EXPECT_EQ(*wxWHITE, seen[0].cellBackground);
-    EXPECT_EQ(DarkGrey, seen[0].cellText);
+    ASSERT_EQ(seen.size(), 1u);
+    EXPECT_EQ(seen[0].line, PaleGrey);
+    EXPECT_EQ(seen[0].labelBackground, PaleGrey);
+    EXPECT_EQ(seen[0].labelText, DarkGrey);
+    EXPECT_EQ(seen[0].cellBackground, *wxWHITE);
+    EXPECT_EQ(seen[0].cellText, DarkGrey);
     for (const wxFont& font : {seen[0].label, seen[0].cell}) {
-        EXPECT_EQ(10, font.GetPointSize());
-        EXPECT_EQ(wxFONTFAMILY_SWISS, font.GetFamily());
-        EXPECT_EQ(wxFONTSTYLE_NORMAL, font.GetStyle());
-        EXPECT_EQ(wxFONTWEIGHT_NORMAL, font.GetWeight());
+        EXPECT_EQ(font.GetPointSize(), 10);
+        EXPECT_EQ(font.GetFamily(), wxFONTFAMILY_SWISS);
+        EXPECT_EQ(font.GetStyle(), wxFONTSTYLE_NORMAL);
+        EXPECT_EQ(font.GetWeight(), wxFONTWEIGHT_NORMAL);
         EXPECT_FALSE(font.GetUnderlined());
     }
 }
@@ -432,9 +432,9 @@ TEST_F(Printing, TextsAndLinesHaveTheColoursOfPaper) {
     grid->SetGridLineColour(Red);
     FillPage();
     for (const DrawnText& drawn : Trace(1)) {
-        EXPECT_EQ(DarkGrey, drawn.colour) << drawn.text;
-        EXPECT_EQ(10, drawn.font.GetPointSize()) << drawn.text;
-        EXPECT_EQ(wxFONTWEIGHT_NORMAL, drawn.font.GetWeight()) << drawn.text;
+        EXPECT_EQ(drawn.colour, DarkGrey) << drawn.text;
+        EXPECT_EQ(drawn.font.GetPointSize(), 10) << drawn.text;
+        EXPECT_EQ(drawn.font.GetWeight(), wxFONTWEIGHT_NORMAL) << drawn.text;
     }
     const wxImage picture = Draw(1);
     EXPECT_TRUE(Where(picture, picture.GetSize(),
@@ -459,14 +459,14 @@ TEST_F(Printing, TheLookOfPaperDoesNotStayOnTheScreen) {
     for (int page : {1, 4}) {
         Draw(page);
         const GridLook after = LookOf(*grid);
-        EXPECT_EQ(before.line, after.line);
-        EXPECT_EQ(before.labelBackground, after.labelBackground);
-        EXPECT_EQ(before.labelText, after.labelText);
-        EXPECT_EQ(before.cellBackground, after.cellBackground);
-        EXPECT_EQ(before.cellText, after.cellText);
-        EXPECT_EQ(before.label, after.label);
-        EXPECT_EQ(before.cell, after.cell);
-        EXPECT_EQ(0, grid->GetBatchCount());
+        EXPECT_EQ(after.line, before.line);
+        EXPECT_EQ(after.labelBackground, before.labelBackground);
+        EXPECT_EQ(after.labelText, before.labelText);
+        EXPECT_EQ(after.cellBackground, before.cellBackground);
+        EXPECT_EQ(after.cellText, before.cellText);
+        EXPECT_EQ(after.label, before.label);
+        EXPECT_EQ(after.cell, before.cell);
+        EXPECT_EQ(grid->GetBatchCount(), 0);
     }
 }
 
@@ -475,14 +475,14 @@ TEST_F(Printing, TheLookOfPaperDoesNotStayOnTheScreenWhenDrawingFails) {
     CurrentGrid()->SetCellRenderer(1, DESC, new ThrowingRenderer);
     EXPECT_THROW(Draw(1), std::runtime_error);
     EXPECT_TRUE(before == LookOf(*CurrentGrid()));
-    EXPECT_EQ(0, CurrentGrid()->GetBatchCount());
+    EXPECT_EQ(CurrentGrid()->GetBatchCount(), 0);
 }
 
 TEST_F(Printing, IsNotPalerWhileTheWindowTakesNoCommands) {
     const wxWindowDisabler quiet;
     ASSERT_FALSE(MainFrame->IsEnabled());
     for (const DrawnText& drawn : Trace(1))
-        EXPECT_EQ(DarkGrey, drawn.colour) << drawn.text;
+        EXPECT_EQ(drawn.colour, DarkGrey) << drawn.text;
     EXPECT_FALSE(MainFrame->IsEnabled());
 }
 
@@ -493,9 +493,9 @@ TEST_F(Printing, LeavesTextsSelectionAndCursor) {
     const std::string before = Masked(Save("before"));
     const wxArrayInt selected = CurrentGrid()->GetSelectedRows();
     const wxImage picture = Draw(1);
-    EXPECT_EQ(selected, CurrentGrid()->GetSelectedRows());
-    EXPECT_EQ(wxGridCellCoords(7, DESC), CurrentGrid()->GetGridCursorCoords());
-    EXPECT_EQ(before, Masked(Save("before")));
+    EXPECT_EQ(CurrentGrid()->GetSelectedRows(), selected);
+    EXPECT_EQ(CurrentGrid()->GetGridCursorCoords(), wxGridCellCoords(7, DESC));
+    EXPECT_EQ(Masked(Save("before")), before);
     EXPECT_TRUE(WhereColour(picture, CurrentGrid()->GetSelectionBackground()).IsEmpty())
         << "no selection on paper";
 }
@@ -505,8 +505,8 @@ TEST_F(Printing, MarginsAsWideAsThePaperLeaveTheHeadingAlone) {
         SCOPED_TRACE(margin);
         PageSetupData->SetMarginTopLeft(wxPoint(margin, margin));
         PageSetupData->SetMarginBottomRight(wxPoint(margin, margin));
-        EXPECT_EQ(1, RowsAPage());
-        EXPECT_EQ(2u, Trace(1).size());
+        EXPECT_EQ(RowsAPage(), 1);
+        EXPECT_EQ(Trace(1).size(), 2u);
     }
 }
 
@@ -520,7 +520,7 @@ TEST_F(Printing, APreviewShowsWhatIsPrinted) {
     FillPage();
     auto* printout = new ZelkPrintout(MainFrame, CurrentGrid(), "KRV-47");
     wxPrintPreview preview(printout, nullptr, PrintData.get());
-    ASSERT_EQ(4, Pages(*printout));
+    ASSERT_EQ(Pages(*printout), 4);
     // A quarter of the paper's size on a screen of 127 pixels an inch, for a printer of 254.
     Sheet sheet(*printout, Width / 4, Height / 4);
     printout->SetPageSizePixels(Width, Height);

@@ -15,7 +15,7 @@ protected:
     /// the type.
     static Cells Rows(const std::vector<int>& columns) {
         Cells rows;
-        for (int row : RowsWithText())
+        for (int row : FilledRows(0))
             for (int col : columns)
                 rows[row].push_back(Text(row, col));
         return rows;
@@ -67,14 +67,14 @@ TEST_F(RoundTrip, BringsThePagesOfEachTypeBackOnAnyPage) {
             const Cells before = Rows(Columns(target.type));
             const std::string saved = Save();
             RetargetTo(onto);
-            ASSERT_EQ(0, Open(saved));
+            ASSERT_EQ(Open(saved), 0);
             // A file of FXAM names no type, and its radio's own is another.
             const std::string type = std::string(target.type) == "FXAM" ? "ANAM" : target.type;
-            EXPECT_EQ(type, PageStrings[0].TypeName);
-            EXPECT_EQ(before, Rows(Columns(target.type)));
-            EXPECT_EQ(RadioCatalogue::IsP25Type(CurrentParameters().Type) ? 6 : 0, TakenSlots());
+            EXPECT_EQ(PageStrings[0].TypeName, type);
+            EXPECT_EQ(Rows(Columns(target.type)), before);
+            EXPECT_EQ(TakenSlots(), RadioCatalogue::IsP25Type(CurrentParameters().Type) ? 6 : 0);
             if (type == target.type) {
-                EXPECT_EQ(Masked(saved), Masked(Save()));
+                EXPECT_EQ(Masked(Save()), Masked(saved));
             }
         }
 }
@@ -85,20 +85,20 @@ TEST_F(RoundTrip, KeepsPrimariesAndShadows) {
         RetargetTo(type);
         RetargetTo(type); // the first rows get their zones by the list that stood before
         FillRowsFromDefault({10, 20, 21});
-        FillRow(10, {{MFLG, "10"}, {SHAD, "P-2"}, {SCAN, "N"}, {SHD0, "20"}, {SHD1, "21"}});
-        FillRow(20, {{MFLG, "01"}, {SHAD, "S-010"}, {SCAN, "N"}, {PRIM, "010"}, {ZONE, ""}});
-        FillRow(21, {{MFLG, "62"}, {SHAD, "S-010"}, {SCAN, "N"}, {PRIM, "010"}, {ZONE, ""}});
+        SetCells(10, {{MFLG, "10"}, {SHAD, "P-2"}, {SCAN, "N"}, {SHD0, "20"}, {SHD1, "21"}});
+        SetCells(20, {{MFLG, "01"}, {SHAD, "S-010"}, {SCAN, "N"}, {PRIM, "010"}, {ZONE, ""}});
+        SetCells(21, {{MFLG, "62"}, {SHAD, "S-010"}, {SCAN, "N"}, {PRIM, "010"}, {ZONE, ""}});
         SetCell(0, MNUM, "000");
         const Cells before = Rows(Columns(type));
         const std::string saved = Save();
         RetargetTo("ANFM");
-        ASSERT_EQ(0, Open(saved));
-        EXPECT_EQ(before, Rows(Columns(type)));
+        ASSERT_EQ(Open(saved), 0);
+        EXPECT_EQ(Rows(Columns(type)), before);
         EXPECT_TRUE(CurrentParameters().Flags & 0x08);
         for (int row : {10, 20, 21})
             EXPECT_TRUE(CurrentGrid()->IsReadOnly(row, SCAN)) << row;
-        EXPECT_EQ(Masked(saved), Masked(Save()));
-        EXPECT_EQ(4, TakenSlots()) << "row 1, the primary and two guard rows";
+        EXPECT_EQ(Masked(Save()), Masked(saved));
+        EXPECT_EQ(TakenSlots(), 4) << "row 1, the primary and two guard rows";
     }
 }
 
@@ -108,10 +108,10 @@ TEST_F(RoundTrip, GivesEveryExampleFileBackByteForByte) {
         if (entry.path().extension() != ".zelk")
             continue;
         const std::string bytes = testbench::ReadFile(entry.path());
-        ASSERT_EQ(0, Open(bytes)) << entry.path();
-        EXPECT_EQ(Masked(bytes), Masked(Save())) << entry.path();
-        EXPECT_EQ("Saved saved.zelk", ToolTip()) << entry.path();
+        ASSERT_EQ(Open(bytes), 0) << entry.path();
+        EXPECT_EQ(Masked(Save()), Masked(bytes)) << entry.path();
+        EXPECT_EQ(ToolTip(), "Saved saved.zelk") << entry.path();
         ++files;
     }
-    EXPECT_EQ(36, files);
+    EXPECT_EQ(files, 36);
 }

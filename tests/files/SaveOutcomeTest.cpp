@@ -25,8 +25,8 @@ TEST(SaveOutcomeText, NamesRowsAndTheDefaultRow) {
     };
     for (const auto& [leftOut, verdict, story] : cases) {
         const Outcome outcome = SavedOutcome("a.zelk", leftOut);
-        EXPECT_EQ(verdict, outcome.verdict.utf8_string());
-        EXPECT_EQ(story, outcome.story.utf8_string());
+        EXPECT_EQ(outcome.verdict.utf8_string(), verdict);
+        EXPECT_EQ(outcome.story.utf8_string(), story);
     }
 }
 
@@ -45,23 +45,23 @@ TEST(SaveOutcomeText, OfAFailureSaysShortlyWhyAndTellsTheSystemsWordsBehindThePa
     };
     for (const auto& [error, verdict, story] : cases) {
         const Outcome outcome = NotSavedOutcome("/d/a.zelk", std::make_error_code(error), false);
-        EXPECT_EQ(verdict, outcome.verdict.utf8_string());
-        EXPECT_EQ(story, outcome.story.utf8_string());
+        EXPECT_EQ(outcome.verdict.utf8_string(), verdict);
+        EXPECT_EQ(outcome.story.utf8_string(), story);
     }
 }
 
 TEST(SaveOutcomeText, OfAFileThatIsDamagedSaysSoFirst) {
     const Outcome outcome =
         NotSavedOutcome("/d/a.zelk", std::make_error_code(std::errc::no_space_on_device), true);
-    EXPECT_EQ("NOT SAVED: file damaged", outcome.verdict.utf8_string());
-    EXPECT_EQ("NOT SAVED: /d/a.zelk: No space left on device\nThe file is damaged. Save under another name.",
-              outcome.story.utf8_string());
+    EXPECT_EQ(outcome.verdict.utf8_string(), "NOT SAVED: file damaged");
+    EXPECT_EQ(outcome.story.utf8_string(),
+              "NOT SAVED: /d/a.zelk: No space left on device\nThe file is damaged. Save under another name.");
 }
 
 TEST(SaveOutcomeText, KeepsBeginningAndExtensionOfALongName) {
-    EXPECT_EQ("twenty-two chars.zelk", ShortFileName("twenty-two chars.zelk").utf8_string());
-    EXPECT_EQ("A list of \xE2\x80\xA6winter.zelk",
-              ShortFileName("A list of all channels of the harbour, winter.zelk").utf8_string());
+    EXPECT_EQ(ShortFileName("twenty-two chars.zelk").utf8_string(), "twenty-two chars.zelk");
+    EXPECT_EQ(ShortFileName("A list of all channels of the harbour, winter.zelk").utf8_string(),
+              "A list of \xE2\x80\xA6winter.zelk");
 }
 
 using SaveOutcome = ChannelFileTest;
@@ -75,6 +75,6 @@ TEST_F(SaveOutcome, FitsItsFieldInAWindowOfDefaultSize) {
           NotSavedOutcome("a", std::make_error_code(std::errc::is_a_directory), false),
           NotSavedOutcome("a", std::make_error_code(std::errc::too_many_files_open_in_system), false)}) {
         TellOutcome(outcome.verdict, outcome.story);
-        EXPECT_EQ(outcome.verdict, MainFrame->m_statusBar->GetStatusText(0));
+        EXPECT_EQ(MainFrame->m_statusBar->GetStatusText(0), outcome.verdict);
     }
 }

@@ -1,9 +1,9 @@
 #include "files/WholeFile.h"
 
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 #include "tests/files/AsAnyUser.h"
 #include "tests/files/FileSizeLimit.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -30,14 +30,14 @@ protected:
     /// Writes as a user who may not write to the folder, however full the disk is.
     std::string WriteInClosedFolder(const std::string& name, const std::string& bytes,
                                     rlim_t room = RLIM_INFINITY) {
-        EXPECT_EQ(0, chmod(m_folder.Path().c_str(), 0555));
+        EXPECT_EQ(chmod(m_folder.Path().c_str(), 0555), 0);
         std::string problem;
         {
             const AsAnyUser user;
             const FileSizeLimit full(room);
             problem = Write(m_folder / name, bytes);
         }
-        EXPECT_EQ(0, chmod(m_folder.Path().c_str(), 0755));
+        EXPECT_EQ(chmod(m_folder.Path().c_str(), 0755), 0);
         return problem;
     }
 
@@ -56,37 +56,37 @@ protected:
 
 TEST_F(WholeFile, IsMadeWithExactlyTheBytes) {
     const std::string bytes("a\0b\r\n\xFF", 6);
-    EXPECT_EQ("", Write(m_folder / "a", bytes));
-    EXPECT_EQ(bytes, testbench::ReadFile(m_folder / "a"));
-    EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
+    EXPECT_EQ(Write(m_folder / "a", bytes), "");
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a"), bytes);
+    EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
 }
 
 TEST_F(WholeFile, CanBeEmpty) {
-    EXPECT_EQ("", Write(m_folder / "a", ""));
-    EXPECT_EQ(0u, fs::file_size(m_folder / "a"));
+    EXPECT_EQ(Write(m_folder / "a", ""), "");
+    EXPECT_EQ(fs::file_size(m_folder / "a"), 0u);
 }
 
 TEST_F(WholeFile, ReplacesAFormerOneAlsoByAShorter) {
     testbench::WriteFile(m_folder / "a", std::string(10000, 'x'));
-    EXPECT_EQ("", Write(m_folder / "a", "short"));
-    EXPECT_EQ("short", testbench::ReadFile(m_folder / "a"));
-    EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
+    EXPECT_EQ(Write(m_folder / "a", "short"), "");
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a"), "short");
+    EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
 }
 
 TEST_F(WholeFile, KeepsThePermissionsOfTheFormerOne) {
     for (const mode_t mode : {0600, 0640, 0664, 0755}) {
         testbench::WriteFile(m_folder / "a", "old");
-        ASSERT_EQ(0, chmod((m_folder / "a").c_str(), mode));
-        EXPECT_EQ("", Write(m_folder / "a", "new"));
-        EXPECT_EQ(static_cast<fs::perms>(mode), fs::status(m_folder / "a").permissions());
+        ASSERT_EQ(chmod((m_folder / "a").c_str(), mode), 0);
+        EXPECT_EQ(Write(m_folder / "a", "new"), "");
+        EXPECT_EQ(fs::status(m_folder / "a").permissions(), static_cast<fs::perms>(mode));
     }
 }
 
 TEST_F(WholeFile, IsMadeWithTheUsersUsualPermissions) {
     const mode_t before = umask(027);
-    EXPECT_EQ("", Write(m_folder / "a", "new"));
+    EXPECT_EQ(Write(m_folder / "a", "new"), "");
     umask(before);
-    EXPECT_EQ(static_cast<fs::perms>(0640), fs::status(m_folder / "a").permissions());
+    EXPECT_EQ(fs::status(m_folder / "a").permissions(), static_cast<fs::perms>(0640));
 }
 
 TEST_F(WholeFile, BehindLinksIsReplacedAndTheLinksStay) {
@@ -94,25 +94,25 @@ TEST_F(WholeFile, BehindLinksIsReplacedAndTheLinksStay) {
     testbench::WriteFile(m_folder / "far/real", "old");
     fs::create_symlink("far/real", m_folder / "near");
     fs::create_symlink(m_folder / "near", m_folder / "link");
-    EXPECT_EQ("", Write(m_folder / "link", "new"));
-    EXPECT_EQ("new", testbench::ReadFile(m_folder / "far/real"));
+    EXPECT_EQ(Write(m_folder / "link", "new"), "");
+    EXPECT_EQ(testbench::ReadFile(m_folder / "far/real"), "new");
     EXPECT_TRUE(fs::is_symlink(m_folder / "link"));
     EXPECT_TRUE(fs::is_symlink(m_folder / "near"));
-    EXPECT_EQ((std::vector<std::string>{"far", "link", "near"}), Entries());
+    EXPECT_EQ(Entries(), (std::vector<std::string>{"far", "link", "near"}));
 }
 
 TEST_F(WholeFile, IsMadeWhereALinkPointsToNothing) {
     fs::create_symlink("real", m_folder / "link");
-    EXPECT_EQ("", Write(m_folder / "link", "new"));
-    EXPECT_EQ("new", testbench::ReadFile(m_folder / "real"));
+    EXPECT_EQ(Write(m_folder / "link", "new"), "");
+    EXPECT_EQ(testbench::ReadFile(m_folder / "real"), "new");
     EXPECT_TRUE(fs::is_symlink(m_folder / "link"));
 }
 
 TEST_F(WholeFile, BehindACircleOfLinksIsRefused) {
     fs::create_symlink("b", m_folder / "a");
     fs::create_symlink("a", m_folder / "b");
-    EXPECT_NE("", Write(m_folder / "a", "new"));
-    EXPECT_EQ((std::vector<std::string>{"a", "b"}), Entries());
+    EXPECT_NE(Write(m_folder / "a", "new"), "");
+    EXPECT_EQ(Entries(), (std::vector<std::string>{"a", "b"}));
 }
 
 TEST_F(WholeFile, StandsAsItWasWhenWritingFailsHalfWay) {
@@ -124,100 +124,100 @@ TEST_F(WholeFile, StandsAsItWasWhenWritingFailsHalfWay) {
             errno = 0; // a former error must not tell this one
             problem = Write(m_folder / "a", std::string(100000, 'n'));
         }
-        EXPECT_EQ("File too large", problem) << limit;
-        EXPECT_EQ("old", testbench::ReadFile(m_folder / "a")) << limit;
-        EXPECT_EQ(std::vector<std::string>{"a"}, Entries()) << limit;
+        EXPECT_EQ(problem, "File too large") << limit;
+        EXPECT_EQ(testbench::ReadFile(m_folder / "a"), "old") << limit;
+        EXPECT_EQ(Entries(), std::vector<std::string>{"a"}) << limit;
     }
     const FileSizeLimit enough(100000);
-    EXPECT_EQ("", Write(m_folder / "a", std::string(100000, 'n')));
+    EXPECT_EQ(Write(m_folder / "a", std::string(100000, 'n')), "");
 }
 
 TEST_F(WholeFile, IsNotMadeWhereAFolderStands) {
     fs::create_directory(m_folder / "a");
-    EXPECT_EQ("Is a directory", Write(m_folder / "a", "new"));
+    EXPECT_EQ(Write(m_folder / "a", "new"), "Is a directory");
     EXPECT_TRUE(fs::is_directory(m_folder / "a"));
-    EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
+    EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
 }
 
 TEST_F(WholeFile, IsNotMadeWhereAPipeStands) {
-    ASSERT_EQ(0, mkfifo((m_folder / "a").c_str(), 0600));
-    EXPECT_NE("", Write(m_folder / "a", "new"));
+    ASSERT_EQ(mkfifo((m_folder / "a").c_str(), 0600), 0);
+    EXPECT_NE(Write(m_folder / "a", "new"), "");
     EXPECT_TRUE(fs::is_fifo(m_folder / "a"));
 }
 
 TEST_F(WholeFile, IsNotReplacedWhenTheUserMayNotWriteIt) {
     testbench::WriteFile(m_folder / "a", "old");
-    ASSERT_EQ(0, chmod((m_folder / "a").c_str(), 0444));
-    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 0777));
+    ASSERT_EQ(chmod((m_folder / "a").c_str(), 0444), 0);
+    ASSERT_EQ(chmod(m_folder.Path().c_str(), 0777), 0);
     std::string problem;
     {
         const AsAnyUser user;
         problem = Write(m_folder / "a", "new");
     }
-    EXPECT_EQ("Permission denied", problem);
-    EXPECT_EQ("old", testbench::ReadFile(m_folder / "a"));
-    EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
+    EXPECT_EQ(problem, "Permission denied");
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a"), "old");
+    EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
 }
 
 TEST_F(WholeFile, IsNotMadeInAFolderThatTheUserMayNotWriteTo) {
-    EXPECT_EQ("Permission denied", WriteInClosedFolder("a", "new"));
-    EXPECT_EQ(std::vector<std::string>{}, Entries());
+    EXPECT_EQ(WriteInClosedFolder("a", "new"), "Permission denied");
+    EXPECT_EQ(Entries(), std::vector<std::string>{});
 }
 
 TEST_F(WholeFile, IsOverwrittenWhereItStandsInAFolderThatTheUserMayNotWriteTo) {
     for (const std::string former : {"", "old", "a former file that is longer"}) {
         testbench::WriteFile(m_folder / "a", former);
-        ASSERT_EQ(0, chmod((m_folder / "a").c_str(), 0666));
-        EXPECT_EQ("", WriteInClosedFolder("a", "new bytes"));
-        EXPECT_EQ("new bytes", testbench::ReadFile(m_folder / "a"));
-        EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
-        EXPECT_EQ(static_cast<fs::perms>(0666), fs::status(m_folder / "a").permissions());
+        ASSERT_EQ(chmod((m_folder / "a").c_str(), 0666), 0);
+        EXPECT_EQ(WriteInClosedFolder("a", "new bytes"), "");
+        EXPECT_EQ(testbench::ReadFile(m_folder / "a"), "new bytes");
+        EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
+        EXPECT_EQ(fs::status(m_folder / "a").permissions(), static_cast<fs::perms>(0666));
     }
 }
 
 TEST_F(WholeFile, ThatCanNotBeOverwrittenInSuchAFolderKeepsItsFormerBytes) {
     const std::string former(5000, 'o'), longer(100000, 'n'), shorter(4000, 'n');
     testbench::WriteFile(m_folder / "a", former);
-    ASSERT_EQ(0, chmod((m_folder / "a").c_str(), 0666));
+    ASSERT_EQ(chmod((m_folder / "a").c_str(), 0666), 0);
     for (const rlim_t room : {0u, 1000u, 4096u, 5000u, 99999u}) {
-        EXPECT_EQ("File too large", WriteInClosedFolder("a", longer, room)) << room;
-        EXPECT_EQ(former, testbench::ReadFile(m_folder / "a")) << room;
+        EXPECT_EQ(WriteInClosedFolder("a", longer, room), "File too large") << room;
+        EXPECT_EQ(testbench::ReadFile(m_folder / "a"), former) << room;
     }
     for (const rlim_t room : {0u, 1000u, 3999u}) {
-        EXPECT_EQ("File too large", WriteInClosedFolder("a", shorter, room)) << room;
-        EXPECT_EQ(former, testbench::ReadFile(m_folder / "a")) << room;
+        EXPECT_EQ(WriteInClosedFolder("a", shorter, room), "File too large") << room;
+        EXPECT_EQ(testbench::ReadFile(m_folder / "a"), former) << room;
     }
-    EXPECT_EQ("", WriteInClosedFolder("a", longer, 100000));
-    EXPECT_EQ(longer, testbench::ReadFile(m_folder / "a"));
+    EXPECT_EQ(WriteInClosedFolder("a", longer, 100000), "");
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a"), longer);
 }
 
 TEST_F(WholeFile, OfAnotherUserIsOverwrittenInAFolderThatProtectsTheFilesOfOthers) {
     if (getuid() != 0)
         GTEST_SKIP() << "only root can make a file of another user";
     testbench::WriteFile(m_folder / "a", "old");
-    ASSERT_EQ(0, chmod((m_folder / "a").c_str(), 0666));
-    ASSERT_EQ(0, chmod(m_folder.Path().c_str(), 01777));
+    ASSERT_EQ(chmod((m_folder / "a").c_str(), 0666), 0);
+    ASSERT_EQ(chmod(m_folder.Path().c_str(), 01777), 0);
     std::string problem;
     {
         const AsAnyUser user;
         problem = Write(m_folder / "a", "new");
     }
-    EXPECT_EQ("", problem);
-    EXPECT_EQ("new", testbench::ReadFile(m_folder / "a"));
-    EXPECT_EQ(std::vector<std::string>{"a"}, Entries());
+    EXPECT_EQ(problem, "");
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a"), "new");
+    EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
 }
 
 TEST_F(WholeFile, IsNotMadeInAFolderThatIsMissing) {
-    EXPECT_EQ("No such file or directory", Write(m_folder / "none/a", "new"));
-    EXPECT_EQ(std::vector<std::string>{}, Entries());
+    EXPECT_EQ(Write(m_folder / "none/a", "new"), "No such file or directory");
+    EXPECT_EQ(Entries(), std::vector<std::string>{});
 }
 
 TEST_F(WholeFile, LeavesFilesWithNamesLikeItsOwnAlone) {
     testbench::WriteFile(m_folder / "a.new0", "other");
     testbench::WriteFile(m_folder / "a.new1", "other");
-    EXPECT_EQ("", Write(m_folder / "a", "new"));
-    EXPECT_EQ("new", testbench::ReadFile(m_folder / "a"));
-    EXPECT_EQ("other", testbench::ReadFile(m_folder / "a.new0"));
-    EXPECT_EQ("other", testbench::ReadFile(m_folder / "a.new1"));
-    EXPECT_EQ((std::vector<std::string>{"a", "a.new0", "a.new1"}), Entries());
+    EXPECT_EQ(Write(m_folder / "a", "new"), "");
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a"), "new");
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a.new0"), "other");
+    EXPECT_EQ(testbench::ReadFile(m_folder / "a.new1"), "other");
+    EXPECT_EQ(Entries(), (std::vector<std::string>{"a", "a.new0", "a.new1"}));
 }

@@ -1,8 +1,8 @@
 #include "files/XmlFile.h"
 
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 #include "tests/files/HangLimit.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -63,7 +63,7 @@ TEST(XmlFile, RefusesWhatIsNoDocument) {
 
 TEST(XmlFile, RefusesFoldersPipesAndWhatIsNotThere) {
     const testbench::TempFolder folder("zelk-xml");
-    ASSERT_EQ(0, mkfifo((folder / "pipe").c_str(), 0600));
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     wxXmlDocument document;
     EXPECT_FALSE(LoadXmlFile(folder.Path().string(), document));
     EXPECT_FALSE(LoadXmlFile((folder / "pipe").string(), document));

@@ -35,7 +35,7 @@ TEST_F(TypingInto, ABlankRowFillsItFromTheDefaultRow) {
                             "OFF", "OFF", "", "", "70.0000",  "",  "OFF", "OFF",       "",  "",        "", "",
                             "",    "",    "", "", "",         "",  "",    "A0"};
     EXPECT_EQ(RowTexts(5), expected);
-    EXPECT_EQ(RowsWithData(), std::vector<int>{5});
+    EXPECT_EQ(FilledRows(), std::vector<int>{5});
 }
 
 TEST_F(TypingInto, TheDescriptionOfABlankRowKeepsWhatWasTyped) {
@@ -94,7 +94,7 @@ TEST_F(TypingInto, TheDefaultRowChangesJustThatCell) {
     TypeIntoCell(*CurrentGrid(), 0, DESC, "DELTA 1");
     expected[DESC] = "DELTA 1";
     EXPECT_EQ(RowTexts(0), expected);
-    EXPECT_EQ(RowsWithData(), std::vector<int>{});
+    EXPECT_EQ(FilledRows(), std::vector<int>{});
 }
 
 TEST_F(TypingInto, ABlankRowSelectsItAlone) {
@@ -119,7 +119,7 @@ TEST_F(TypingInto, ABlankRowLeavesOtherSelectedRowsAsTheyAre_Departure) {
     CommitOpenEditor();
     EXPECT_EQ(Cell(5, DESC), "ALPHA");
     EXPECT_EQ(RowTexts(2), kept);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{2, 5}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{2, 5}));
     EXPECT_EQ(SelectedRows(), std::vector<int>{5});
 }
 
@@ -138,7 +138,7 @@ TEST_F(TypingInto, ABlankGuardRowFillsIt) {
     TypeIntoCell(*CurrentGrid(), 122, DESC, "GUARD");
     EXPECT_EQ(Cell(122, MNUM), "122");
     EXPECT_EQ(Cell(122, DESC), "GUARD");
-    EXPECT_EQ(RowsWithData(), std::vector<int>{122});
+    EXPECT_EQ(FilledRows(), std::vector<int>{122});
 }
 
 TEST_F(TypingInto, ABlankRowAndEscapeLeaveItBlank) {

@@ -1,11 +1,11 @@
 // The program as a desktop starts it, with a file's name or without.
 #include "resources/ToolImages.h"
-#include "tests/support/robot/ClickPicture.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/Hands.h"
-#include "tests/support/robot/Process.h"
-#include "tests/support/robot/Pump.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/ClickPicture.h"
+#include "robot/Files.h"
+#include "robot/Hands.h"
+#include "robot/Process.h"
+#include "robot/Pump.h"
+#include "robot/TempFolder.h"
 
 #include <algorithm>
 #include <filesystem>

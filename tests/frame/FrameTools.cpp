@@ -3,8 +3,8 @@
 #include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
+#include "robot/Hands.h"
 #include "tests/support/Keys.h"
-#include "tests/support/robot/Hands.h"
 
 #include <gtest/gtest.h>
 
@@ -116,21 +116,6 @@ void DeletePage() {
 void FillRow(wxGrid* grid, int row, const std::string& text) {
     for (int col = 0; col < ColumnTotal; ++col)
         grid->SetCellValue(row, col, text);
-}
-
-std::vector<std::string> RowTexts(int row) {
-    std::vector<std::string> texts;
-    for (const wxString& text : GetRowValues(CurrentPage, row))
-        texts.push_back(text.utf8_string());
-    return texts;
-}
-
-std::vector<int> RowsWithData() {
-    std::vector<int> rows;
-    for (int row = 1; row <= CurrentParameters().Rows; ++row)
-        if (RowHasData(row))
-            rows.push_back(row);
-    return rows;
 }
 
 } // namespace testbench

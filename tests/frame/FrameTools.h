@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/Modals.h"
+#include "tests/support/PageTexts.h"
 
 #include <wx/weakref.h>
 #include <wx/window.h>
@@ -51,11 +52,5 @@ void DeletePage();
 
 /// Writes the text into every cell of the row.
 void FillRow(wxGrid* grid, int row, const std::string& text);
-
-/// The 32 cells of a row of the current page.
-std::vector<std::string> RowTexts(int row);
-
-/// Numbers of the memory rows of the current page that have data.
-std::vector<int> RowsWithData();
 
 } // namespace testbench

@@ -2,13 +2,13 @@
 #include "frame/HelpCommands.h"
 
 #include "commands/CommandIds.h"
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/frame/ToolkitLabels.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
 #include "tests/support/ZelkWindowTest.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -57,7 +57,7 @@ TEST_F(Pages, AreAddedForTheChosenRadio) {
     EXPECT_EQ(Tabs(), (Texts{"KRV-47", "KDRV-716"}));
     EXPECT_EQ(StatusFields(), (Texts{"KDRV-716", "FM 136-174", "232 Rows"}));
     EXPECT_EQ(CurrentGrid()->GetNumberRows(), 233);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 231, 232}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 231, 232}));
     EXPECT_EQ(GD1, 231);
     EXPECT_EQ(GD2, 232);
 }
@@ -269,7 +269,7 @@ TEST_F(Pages, DeletedWhileACellIsEditedGoWithoutHarm) {
     ASSERT_TRUE(CurrentGrid()->IsCellEditControlShown());
     DeletePage();
     EXPECT_EQ(Tabs(), Texts{"KRV-47"});
-    EXPECT_EQ(RowsWithData(), std::vector<int>{}) << "the text belonged to the deleted page";
+    EXPECT_EQ(FilledRows(), std::vector<int>{}) << "the text belonged to the deleted page";
 }
 
 TEST_F(Pages, AreAddedBehindTheRemainingOnesAfterADelete) {
@@ -281,7 +281,7 @@ TEST_F(Pages, AreAddedBehindTheRemainingOnesAfterADelete) {
     EXPECT_EQ(Tabs(), (Texts{"KRV-21", "ORV-12", "KDRV-716"}));
     EXPECT_EQ(CurrentPage, 2);
     EXPECT_EQ(Title(), "Orv Zelk: Page 3 of 3.");
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 231, 232}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 231, 232}));
 }
 
 TEST_F(Pages, ChangedBringStatusAndGuardRowsUpToDate) {

@@ -64,7 +64,7 @@ TEST_F(StartUp, OnlyTheDefaultRowIsFilled) {
         "", "OFF", "OFF", "", "",         "88.0000", "", "OFF",       "OFF", "",        "",
         "", "",    "",    "", "",         "",        "", "",          "",    "A0"};
     EXPECT_EQ(RowTexts(0), expected);
-    EXPECT_EQ(RowsWithData(), std::vector<int>{});
+    EXPECT_EQ(FilledRows(), std::vector<int>{});
 }
 
 TEST_F(StartUp, ShownColumnsAreThoseOfAnAnalogFmRadio) {

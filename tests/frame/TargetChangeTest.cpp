@@ -4,10 +4,10 @@
 #include "commands/CommandIds.h"
 #include "editing/Shadows.h"
 #include "files/ZelkFile_OpenSave.h"
+#include "robot/TempFolder.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
-#include "tests/support/robot/TempFolder.h"
 
 #include <wx/notebook.h>
 #include <wx/statusbr.h>
@@ -70,6 +70,11 @@ protected:
     }
 
     static std::string Status() { return MainFrame->m_statusBar->GetStatusText(0).utf8_string(); }
+
+    static void ExpectTold(const char* verdict, const char* story) {
+        EXPECT_EQ(Status(), verdict);
+        EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(), story);
+    }
 
     static bool IsLocked(int row, std::initializer_list<int> cols) {
         for (int col : cols)
@@ -183,7 +188,7 @@ TEST_F(ChangingTheTarget, MovesGuardsToTheirNewPlace) {
     FillRow(CurrentGrid(), 120, "ordinary");
     ChangeTarget(Krv610, 0);
     ASSERT_EQ(CurrentGrid()->GetNumberRows(), 203);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{120, 201, 202}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{120, 201, 202}));
     EXPECT_EQ(Cell(201, DESC), "FIRST");
     EXPECT_EQ(Cell(201, MNUM), "201");
     EXPECT_EQ(Cell(202, DESC), "SECOND");
@@ -200,7 +205,7 @@ TEST_F(ChangingTheTarget, OfOneP25GenerationToTheOtherMovesTheGuards) {
     SetCell(232, DESC, "SECOND");
     ChangeTarget(Kdrv716B);
     ASSERT_EQ(CurrentGrid()->GetNumberRows(), 503);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 501, 502}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 501, 502}));
     EXPECT_EQ(Cell(501, DESC), "FIRST");
     EXPECT_EQ(Cell(501, MNUM), "501");
     EXPECT_EQ(Cell(502, DESC), "SECOND");
@@ -216,7 +221,7 @@ TEST_F(ChangingTheTarget, KeepsMemoryRowsAndTheirHiddenCells) {
     SetCell(5, MNUM, "005");
     for (int radio : {Orv12, Kdar2000, Krv47}) {
         ChangeTarget(radio);
-        EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 5})) << "radio " << radio;
+        EXPECT_EQ(FilledRows(), (std::vector<int>{1, 5})) << "radio " << radio;
         ExpectKept(1, "ONE");
         ExpectKept(5, "FIVE");
         EXPECT_EQ(Cell(1, MNUM), "001") << "radio " << radio;
@@ -251,7 +256,7 @@ TEST_F(ChangingTheTarget, ToAP25RadioFillsOnlyBlankStartingRows_Departure) {
     SetCell(2, TFLG, "A0");
     SetCell(2, MNUM, "2");
     ChangeTarget(Kdrv716);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{1, 2, 231, 232}));
+    EXPECT_EQ(FilledRows(), (std::vector<int>{1, 2, 231, 232}));
     EXPECT_EQ(Cell(1, DESC), "one");
     EXPECT_EQ(Cell(231, MNUM), "231");
     EXPECT_EQ(Cell(232, PRIM), "232");
@@ -339,7 +344,7 @@ TEST_F(ChangingTheTarget, ToTheSecondP25GenerationSavesEveryMemory_Departure) {
     EXPECT_EQ(Cell(2, RNSV), "10");
     EXPECT_TRUE(IsPainted(2, RNSV));
     EXPECT_FALSE(IsPainted(2, DESC));
-    EXPECT_EQ(RowsWithData().size(), 40u);
+    EXPECT_EQ(FilledRows().size(), 40u);
 }
 
 TEST_F(ChangingTheTarget, ToKdar2000SavesEveryMemory_Departure) {
@@ -391,12 +396,9 @@ TEST_F(ChangingTheTarget, FromTheModuleToAP25RadioUnlocksWhatTheModuleLocked_Dep
 TEST_F(ChangingTheTarget, BetweenP25RadiosKeepsTheLocksOfLinkedRows) {
     Retarget(Kdrv716, 0);
     FillRowsFromDefault({2, 3});
-    SetCell(2, MFLG, "10");
-    SetCell(2, SHAD, "P-1");
-    SetCell(2, SHD0, "003");
+    SetCells(2, {{MFLG, "10"}, {SHAD, "P-1"}, {SHD0, "003"}});
     LockLinkedRow(2, PrimaryRow);
-    SetCell(3, MFLG, "01");
-    SetCell(3, SHAD, "S-002");
+    SetCells(3, {{MFLG, "01"}, {SHAD, "S-002"}});
     LockLinkedRow(3, ShadowRow);
     ChangeTarget(Kdrv716B);
     EXPECT_TRUE(IsLocked(2, {MNUM, SHAD, SCAN}));
@@ -407,14 +409,13 @@ TEST_F(ChangingTheTarget, BetweenP25RadiosKeepsTheLocksOfLinkedRows) {
 TEST_F(ChangingTheTarget, ToASmallerGridGivesTheLastRowItsNewNumber_Departure) {
     Retarget(Krv650, 1);
     FillRowsFromDefault({7, 150, 200});
-    SetCell(7, MNUM, "150");
-    SetCell(200, DESC, "LAST");
-    SetCell(150, MNUM, "");
+    SetCells(7, {{MNUM, "150"}});
+    SetCells(150, {{MNUM, ""}});
+    SetCells(200, {{DESC, "LAST"}});
     ChangeTarget(Krv214);
-    EXPECT_EQ(RowsWithData(), (std::vector<int>{7, 102}));
-    EXPECT_EQ(Cell(102, DESC), "LAST");
-    EXPECT_EQ(Cell(102, MNUM), "102");
-    EXPECT_EQ(Cell(7, MNUM), "007");
+    EXPECT_EQ(FilledRows(), (std::vector<int>{7, 102}));
+    ExpectCells(102, {{DESC, "LAST"}, {MNUM, "102"}});
+    ExpectCells(7, {{MNUM, "007"}});
     EXPECT_EQ(MemoriesSaved(), 2);
 }
 
@@ -441,9 +442,8 @@ TEST_F(ChangingTheTarget, OfANumberThatAGuardTakesGivesTheRowItsOwn) {
 TEST_F(ChangingTheTarget, TellsHowManyCellsWereReplacedAndTheFirstRow) {
     FillRowsFromDefault({5, 9});
     ChangeTarget(Krv305);
-    EXPECT_EQ(Status(), "4 cells replaced from row 5");
-    EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(),
-              "4 cells were replaced: row 5 RxFreq, TxFreq; row 9 RxFreq, TxFreq");
+    ExpectTold("4 cells replaced from row 5",
+               "4 cells were replaced: row 5 RxFreq, TxFreq; row 9 RxFreq, TxFreq");
 }
 
 TEST_F(ChangingTheTarget, CountsTheCellsThatItFills) {
@@ -463,9 +463,8 @@ TEST_F(ChangingTheTarget, TellsOfMemoriesThatFindNoRow) {
     Retarget(Krv650, 1);
     FillRowsFromDefault({7, 150, 151, 200});
     ChangeTarget(Krv214);
-    EXPECT_EQ(Status(), "2 rows LOST, 1 cell replaced, row 102");
-    EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(),
-              "2 rows found no place in the smaller page; 1 cell was replaced: row 102 Chan");
+    ExpectTold("2 rows LOST, 1 cell replaced, row 102",
+               "2 rows found no place in the smaller page; 1 cell was replaced: row 102 Chan");
 }
 
 // A departure: on the default row's band the frequencies could not stand.

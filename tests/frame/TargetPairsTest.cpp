@@ -267,7 +267,7 @@ private:
                 saved.insert(row);
         }
         std::vector<int> missing;
-        for (int row : RowsWithData())
+        for (int row : FilledRows())
             if (!saved.contains(row)) {
                 missing.push_back(row);
                 EXPECT_TRUE(m_memories.contains(row) && m_memories[row].mayBeLost) << "row " << row;

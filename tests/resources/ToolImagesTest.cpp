@@ -59,8 +59,8 @@ TEST_F(ToolImages, EachIs32By32WithAClearBackground) {
         SCOPED_TRACE(name);
         const wxImage image = GetToolImage(id);
         ASSERT_TRUE(image.IsOk());
-        EXPECT_EQ(32, image.GetWidth());
-        EXPECT_EQ(32, image.GetHeight());
+        EXPECT_EQ(image.GetWidth(), 32);
+        EXPECT_EQ(image.GetHeight(), 32);
         ASSERT_TRUE(image.HasAlpha());
         EXPECT_TRUE(IsCutOut(image));
     }
@@ -98,8 +98,9 @@ TEST_F(ToolImages, EachToolShowsItsOwnDrawing) {
     for (const auto& [name, id, x, y, colour] : Pixels) {
         const wxImage image = GetToolImage(id);
         ASSERT_TRUE(image.IsOk()) << name;
-        EXPECT_EQ(wxString(colour), wxString::Format("#%02X%02X%02X", image.GetRed(x, y),
-                                                     image.GetGreen(x, y), image.GetBlue(x, y)))
+        EXPECT_EQ(
+            wxString::Format("#%02X%02X%02X", image.GetRed(x, y), image.GetGreen(x, y), image.GetBlue(x, y)),
+            wxString(colour))
             << name;
     }
 }
@@ -107,8 +108,8 @@ TEST_F(ToolImages, EachToolShowsItsOwnDrawing) {
 TEST_F(ToolImages, IconIs64By64WithAClearBackground) {
     const wxImage image = GetZelkIconImage();
     ASSERT_TRUE(image.IsOk());
-    EXPECT_EQ(64, image.GetWidth());
-    EXPECT_EQ(64, image.GetHeight());
+    EXPECT_EQ(image.GetWidth(), 64);
+    EXPECT_EQ(image.GetHeight(), 64);
     ASSERT_TRUE(image.HasAlpha());
     EXPECT_TRUE(IsCutOut(image));
 }

@@ -1,12 +1,13 @@
 #include "simulator/AnalogRadio.h"
 
-#include "tests/simulator/RadioProcess.h"
+#include "tests/simulator/PortClient.h"
 
 #include <gtest/gtest.h>
 #include <utility>
 
 namespace {
 
+using namespace testbench;
 using namespace Simulator;
 using namespace std::chrono_literals;
 
@@ -404,12 +405,12 @@ TEST(Radio, IsAtRestOnlyBetweenTwoDialogues) {
 TEST(Radio, SavesItsMemoriesAfterACompletedWrite) {
     const TempFolder folder;
     AnalogHabits habits;
-    habits.memoryFile = folder.Path("radio.txt");
+    habits.memoryFile = folder / "radio.txt";
     Bench bench("KRV-610", "FM 138-174", habits);
     bench.Tell("dl\r" + VhfLine("009") + "\r");
-    EXPECT_EQ(FileText(habits.memoryFile), "");
+    EXPECT_EQ(ReadFileIfAny(habits.memoryFile), "");
     bench.Tell(EndLine("300"));
-    EXPECT_EQ(FileText(habits.memoryFile), "# KRV-610 FM 138-174\n" + VhfLine("009") + "\n");
+    EXPECT_EQ(ReadFile(habits.memoryFile), "# KRV-610 FM 138-174\n" + VhfLine("009") + "\n");
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 #include "simulator/DigitalLists.h"
 
 #include "tests/simulator/DigitalBench.h"
-#include "tests/simulator/RadioProcess.h"
+#include "tests/simulator/PortClient.h"
 
 #include <fstream>
 
@@ -10,10 +10,11 @@ namespace {
 
 using namespace Simulator;
 using namespace digitaltest;
+using namespace testbench;
 
 std::string File(const TempFolder& folder, const std::string& text) {
-    std::ofstream(folder.Path("list")) << text;
-    return folder.Path("list");
+    std::ofstream(folder / "list") << text;
+    return folder / "list";
 }
 
 /// What the radio says to acknowledgements until it ends its list.
@@ -85,7 +86,7 @@ TEST(ConfigList, IsWrittenAsAWholeWhenItHasEnded) {
     EXPECT_EQ(bench.Radio().Config(), std::vector<std::string>{"a:b:FF:::"});
     EXPECT_EQ(bench.Tell(End), "");
     EXPECT_EQ(bench.Radio().Config(), std::vector<std::string>{"c:d:FF:::"});
-    EXPECT_EQ(FileText(path), "c:d:FF:::\n");
+    EXPECT_EQ(ReadFile(path), "c:d:FF:::\n");
     EXPECT_EQ(bench.Radio().Violations(), 0);
 }
 
@@ -169,9 +170,9 @@ TEST(ListFiles, WithBadLinesAreRefusedWithTheirPlace) {
     EXPECT_FALSE(LoadHardware(File(folder, "A\n\x07\n"), lines, trouble));
     EXPECT_NE(trouble.find("list:2: "), std::string::npos) << trouble;
     EXPECT_FALSE(LoadHardware(File(folder, std::string(253, 'A')), lines, trouble));
-    EXPECT_FALSE(LoadHardware(folder.Path("none"), lines, trouble));
-    EXPECT_FALSE(LoadLog(folder.Path("none"), lines, trouble));
-    EXPECT_TRUE(LoadConfig(folder.Path("none"), lines, trouble)) << "made when it is first written";
+    EXPECT_FALSE(LoadHardware(folder / "none", lines, trouble));
+    EXPECT_FALSE(LoadLog(folder / "none", lines, trouble));
+    EXPECT_TRUE(LoadConfig(folder / "none", lines, trouble)) << "made when it is first written";
     EXPECT_EQ(lines, std::vector<std::string>{"old"});
 }
 

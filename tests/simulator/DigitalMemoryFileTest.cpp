@@ -1,7 +1,7 @@
 #include "simulator/DigitalMemoryFile.h"
 
 #include "tests/simulator/DigitalBench.h"
-#include "tests/simulator/RadioProcess.h"
+#include "tests/simulator/PortClient.h"
 
 #include <fstream>
 
@@ -9,6 +9,7 @@ namespace {
 
 using namespace Simulator;
 using namespace digitaltest;
+using namespace testbench;
 
 const DigitalModel& B() {
     return *FindDigitalModel("KDRV-716B", "");
@@ -23,48 +24,48 @@ DigitalMemoryList Loaded(const std::string& path, const DigitalModel& model = B(
 
 TEST(DigitalMemoryFile, GivesBackWhatWasSaved) {
     const TempFolder folder;
-    const std::string path = folder.Path("radio.txt");
+    const std::string path = folder / "radio.txt";
     const std::string text = "# KDRV-716B FM 136-174\n2 " + Framed(PlainV2(1)) + "\n2 " +
                              Framed(PlainV2(300)) + "\n2 " + Framed(PlainV2(502)) + "\n";
     std::ofstream(path) << text;
     const DigitalMemoryList list = Loaded(path);
     EXPECT_EQ(list.size(), 3u);
     std::string trouble;
-    ASSERT_TRUE(SaveDigitalMemories(folder.Path("copy.txt"), B(), Layout::V2, list, trouble)) << trouble;
-    EXPECT_EQ(FileText(folder.Path("copy.txt")), text);
+    ASSERT_TRUE(SaveDigitalMemories(folder / "copy.txt", B(), Layout::V2, list, trouble)) << trouble;
+    EXPECT_EQ(ReadFile(folder / "copy.txt"), text);
 }
 
 TEST(DigitalMemoryFile, UsesTheFirstLayoutWhereItHoldsTheMemoryWhole) {
     const TempFolder folder;
-    const std::string path = folder.Path("radio.txt");
+    const std::string path = folder / "radio.txt";
     const std::string fine = With(PlainV2(7), 44, "081B4A6A"); // 136.00625 MHz: a digit too many for text
     const std::string moved = With(PlainV2(8), 16, "0009");
     std::ofstream(path) << "1 " << Framed(PlainV1(5)) << "\n2 " << Framed(PlainV2(6)) << "\n2 "
                         << Framed(fine) << "\n2 " << Framed(moved) << "\n2 " << Framed(PlainV2(300)) << "\n1 "
                         << Framed(PlainV1(231)) << "\n";
     std::string trouble;
-    ASSERT_TRUE(SaveDigitalMemories(folder.Path("copy.txt"), B(), Layout::V1, Loaded(path), trouble));
-    EXPECT_EQ(FileText(folder.Path("copy.txt")), "# KDRV-716B FM 136-174\n1 " + Framed(PlainV1(5)) + "\n1 " +
-                                                     Framed(PlainV1(6)) + "\n2 " + Framed(fine) + "\n2 " +
-                                                     Framed(moved) + "\n2 " + Framed(PlainV2(300)) + "\n1 " +
-                                                     Framed(PlainV1(231)) + "\n");
-    EXPECT_EQ(Loaded(folder.Path("copy.txt")), Loaded(path));
+    ASSERT_TRUE(SaveDigitalMemories(folder / "copy.txt", B(), Layout::V1, Loaded(path), trouble));
+    EXPECT_EQ(ReadFile(folder / "copy.txt"), "# KDRV-716B FM 136-174\n1 " + Framed(PlainV1(5)) + "\n1 " +
+                                                 Framed(PlainV1(6)) + "\n2 " + Framed(fine) + "\n2 " +
+                                                 Framed(moved) + "\n2 " + Framed(PlainV2(300)) + "\n1 " +
+                                                 Framed(PlainV1(231)) + "\n");
+    EXPECT_EQ(Loaded(folder / "copy.txt"), Loaded(path));
 }
 
 TEST(DigitalMemoryFile, ThatIsMissingIsAnEmptyRadio) {
     const TempFolder folder;
-    EXPECT_TRUE(Loaded(folder.Path("none")).empty());
+    EXPECT_TRUE(Loaded(folder / "none").empty());
 }
 
 TEST(DigitalMemoryFile, MayHoldCommentsEmptyLinesAndDosLineEnds) {
     const TempFolder folder;
-    std::ofstream(folder.Path("radio.txt")) << "# mine\r\n\r\n1 " << Framed(PlainV1(3)) << "\r\n#end";
-    EXPECT_EQ(Loaded(folder.Path("radio.txt")).count(3), 1u);
+    std::ofstream(folder / "radio.txt") << "# mine\r\n\r\n1 " << Framed(PlainV1(3)) << "\r\n#end";
+    EXPECT_EQ(Loaded(folder / "radio.txt").count(3), 1u);
 }
 
 TEST(DigitalMemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlaceAndLeftAlone) {
     const TempFolder folder;
-    const std::string path = folder.Path("radio.txt");
+    const std::string path = folder / "radio.txt";
     const std::string good = "1 " + Framed(PlainV1(3));
     const struct {
         const char* what;
@@ -89,39 +90,39 @@ TEST(DigitalMemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlaceAndL
         EXPECT_NE(trouble.find("radio.txt:2: "), std::string::npos) << bad.what << ": " << trouble;
         EXPECT_NE(trouble.find(bad.why), std::string::npos) << bad.what << ": " << trouble;
         EXPECT_EQ(list.size(), 1u) << bad.what;
-        EXPECT_EQ(FileText(path), text) << bad.what;
+        EXPECT_EQ(ReadFile(path), text) << bad.what;
     }
 }
 
 TEST(DigitalMemoryFile, IsWrittenAtTheEndRecordAndNotAfterARead) {
     const TempFolder folder;
-    const std::string path = folder.Path("radio.txt");
+    const std::string path = folder / "radio.txt";
     Bench bench({"KDRV-716", "--memories", path});
     bench.OpenWrite();
     bench.Tell(Framed(PlainV1(5)));
-    EXPECT_EQ(FileText(path), "");
+    EXPECT_EQ(ReadFileIfAny(path), "");
     bench.Tell(End);
-    EXPECT_EQ(FileText(path), "# KDRV-716 FM 136-174\n1 " + Framed(PlainV1(5)) + "\n");
+    EXPECT_EQ(ReadFile(path), "# KDRV-716 FM 136-174\n1 " + Framed(PlainV1(5)) + "\n");
     std::ofstream(path) << "";
     bench.ReadAll();
     std::string trouble;
     EXPECT_TRUE(bench.Radio().Store(trouble));
-    EXPECT_EQ(FileText(path), "") << "nothing has changed since";
+    EXPECT_EQ(ReadFileIfAny(path), "") << "nothing has changed since";
 }
 
 TEST(DigitalMemoryFile, LosesWhatWasErased) {
     const TempFolder folder;
-    const std::string path = folder.Path("radio.txt");
+    const std::string path = folder / "radio.txt";
     std::ofstream(path) << "1 " << Framed(PlainV1(5)) << "\n1 " << Framed(PlainV1(6)) << "\n";
     Bench bench({"KDRV-716", "--memories", path});
     bench.OpenWrite();
     bench.Tell(Framed("T204000510"));
     bench.Tell(End);
-    EXPECT_EQ(FileText(path), "# KDRV-716 FM 136-174\n1 " + Framed(PlainV1(6)) + "\n");
+    EXPECT_EQ(ReadFile(path), "# KDRV-716 FM 136-174\n1 " + Framed(PlainV1(6)) + "\n");
     bench.OpenWrite();
     bench.Tell(Purge);
     bench.Tell(End);
-    EXPECT_EQ(FileText(path), "# KDRV-716 FM 136-174\n");
+    EXPECT_EQ(ReadFile(path), "# KDRV-716 FM 136-174\n");
 }
 
 } // namespace

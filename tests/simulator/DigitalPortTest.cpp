@@ -1,6 +1,6 @@
 // The program as a whole, played as a digital radio over its port.
 #include "tests/simulator/DigitalBench.h"
-#include "tests/simulator/RadioProcess.h"
+#include "tests/simulator/PortClient.h"
 
 #include <csignal>
 #include <fstream>
@@ -9,6 +9,7 @@
 namespace {
 
 using namespace digitaltest;
+using namespace testbench;
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
@@ -30,9 +31,9 @@ void Open(PortClient& client) {
 
 TEST(DigitalPort, WritesAndReadsBackAtBothSpeedsAndKeepsTheFile) {
     const TempFolder folder;
-    RadioProcess radio(folder,
-                       {"--model", "KDRV-716B", "--memories", folder.Path("m"), "--log", folder.Path("log")});
-    ASSERT_EQ(radio.Port(), folder.Path("ports/KDRV-716B")) << radio.Output();
+    RadioInFolder radio(folder,
+                        {"--model", "KDRV-716B", "--memories", folder / "m", "--log", folder / "log"});
+    ASSERT_EQ(radio.Port(), (folder / "ports/KDRV-716B").string()) << radio.Output();
     {
         PortClient client(radio.Port());
         Open(client);
@@ -40,7 +41,7 @@ TEST(DigitalPort, WritesAndReadsBackAtBothSpeedsAndKeepsTheFile) {
         EXPECT_EQ(Ask(client, Framed(PlainV2(1))), Ack);
         client.Send(std::string(End) + "\r");
     }
-    ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed"));
+    ASSERT_TRUE(WaitForFileText(folder / "log", "- port closed"));
     {
         PortClient client(radio.Port());
         Open(client);
@@ -48,26 +49,26 @@ TEST(DigitalPort, WritesAndReadsBackAtBothSpeedsAndKeepsTheFile) {
         EXPECT_EQ(Ask(client, Ack), Framed(PlainV2(1)));
         EXPECT_EQ(Ask(client, Ack), End);
     }
-    EXPECT_EQ(radio.End(SIGTERM), 0) << radio.Output();
-    EXPECT_EQ(FileText(folder.Path("m")), "# KDRV-716B FM 136-174\n2 " + Framed(PlainV2(1)) + "\n");
-    EXPECT_NE(FileText(folder.Path("log")).find("> " + Framed(PlainV2(1)) + "\n"), std::string::npos);
+    EXPECT_EQ(radio.Terminate(), 0) << radio.Output();
+    EXPECT_EQ(ReadFile(folder / "m"), "# KDRV-716B FM 136-174\n2 " + Framed(PlainV2(1)) + "\n");
+    EXPECT_NE(ReadFile(folder / "log").find("> " + Framed(PlainV2(1)) + "\n"), std::string::npos);
 }
 
 TEST(DigitalPort, EndsWithThreeAndTellsWhenTheRulesWereBroken) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-716", "--log", folder.Path("log")});
+    RadioInFolder radio(folder, {"--model", "KDRV-716", "--log", folder / "log"});
     PortClient client(radio.Port());
     EXPECT_EQ(Ask(client, Hello0), Ack);
     EXPECT_EQ(Ask(client, TakeMemories), Ack);
     EXPECT_EQ(Ask(client, Framed(With(PlainV1(1), 32, "00"))), Nak);
-    EXPECT_EQ(radio.End(SIGTERM), 3);
+    EXPECT_EQ(radio.Terminate(), 3);
     EXPECT_NE(radio.Output().find("position 32: separator"), std::string::npos) << radio.Output();
-    EXPECT_NE(FileText(folder.Path("log")).find(" ? refused: "), std::string::npos);
+    EXPECT_NE(ReadFile(folder / "log").find(" ? refused: "), std::string::npos);
 }
 
 TEST(DigitalPort, HearsGarbageAtTheWrongSpeed) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-716B"});
+    RadioInFolder radio(folder, {"--model", "KDRV-716B"});
     PortClient client(radio.Port());
     EXPECT_EQ(Ask(client, Hello2), Ack);
     EXPECT_EQ(Ask(client, ChangeSpeed), Ack);
@@ -76,7 +77,7 @@ TEST(DigitalPort, HearsGarbageAtTheWrongSpeed) {
     client.SetSpeed(115200);
     EXPECT_EQ(Ask(client, ReadModes), Framed("T20500003370"));
     client.Close();
-    EXPECT_EQ(radio.End(SIGTERM), 3);
+    EXPECT_EQ(radio.Terminate(), 3);
     EXPECT_NE(radio.Output().find("garbage: the port is at 9600 baud, the radio at 115200"),
               std::string::npos)
         << radio.Output();
@@ -84,17 +85,17 @@ TEST(DigitalPort, HearsGarbageAtTheWrongSpeed) {
 
 TEST(DigitalPort, AfterACloseListensAt9600Again) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-716B", "--log", folder.Path("log")});
+    RadioInFolder radio(folder, {"--model", "KDRV-716B", "--log", folder / "log"});
     for (int k = 1; k <= 3; ++k) {
         PortClient client(radio.Port());
         Open(client);
         EXPECT_EQ(Ask(client, ReadModes), Framed("T20500003370")) << k;
         client.Close();
         const auto deadline = Clock::now() + 5s;
-        while (CountOf(FileText(folder.Path("log")), "- port closed") < k && Clock::now() < deadline)
+        while (CountOf(ReadFileIfAny(folder / "log"), "- port closed") < k && Clock::now() < deadline)
             usleep(1000);
     }
-    EXPECT_EQ(radio.End(SIGTERM), 0) << radio.Output();
+    EXPECT_EQ(radio.Terminate(), 0) << radio.Output();
 }
 
 // The radio is stopped meanwhile, so that it finds the old user's last bytes and the new one's first
@@ -102,7 +103,7 @@ TEST(DigitalPort, AfterACloseListensAt9600Again) {
 TEST(DigitalPort, TellsAUserWhoBrokeOffFromTheNextOne) {
     for (bool polite : {false, true}) {
         const TempFolder folder;
-        RadioProcess radio(folder, {"--model", "KDRV-716B", "--memories", folder.Path("m")});
+        RadioInFolder radio(folder, {"--model", "KDRV-716B", "--memories", folder / "m"});
         PortClient first(radio.Port());
         Open(first);
         EXPECT_EQ(Ask(first, TakeMemories), Ack);
@@ -115,29 +116,29 @@ TEST(DigitalPort, TellsAUserWhoBrokeOffFromTheNextOne) {
         second.Send(std::string(Hello2) + "\r");
         radio.Signal(SIGCONT);
         EXPECT_EQ(second.ReadUntil("\r", 3s), std::string(Ack) + "\r") << polite;
-        EXPECT_EQ(FileText(folder.Path("m")).empty(), !polite);
-        EXPECT_EQ(radio.End(SIGTERM), 0) << polite << radio.Output();
-        EXPECT_NE(FileText(folder.Path("m")), "") << polite;
+        EXPECT_EQ(ReadFileIfAny(folder / "m").empty(), !polite);
+        EXPECT_EQ(radio.Terminate(), 0) << polite << radio.Output();
+        EXPECT_NE(ReadFileIfAny(folder / "m"), "") << polite;
     }
 }
 
 TEST(DigitalPort, OnceEndsAfterAWriteWhoseWriterClosesAtOnce) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-716B", "--once", "--memories", folder.Path("m")});
+    RadioInFolder radio(folder, {"--model", "KDRV-716B", "--once", "--memories", folder / "m"});
     PortClient client(radio.Port());
     Open(client);
     EXPECT_EQ(Ask(client, TakeMemories), Ack);
     EXPECT_EQ(Ask(client, Framed(PlainV2(502))), Ack);
     client.Send(std::string(End) + "\r");
     client.Close();
-    EXPECT_EQ(radio.WaitForEnd(), 0) << radio.Output();
-    EXPECT_NE(FileText(folder.Path("m")).find(Framed(PlainV2(502))), std::string::npos);
+    EXPECT_EQ(radio.WaitForExit(), 0) << radio.Output();
+    EXPECT_NE(ReadFile(folder / "m").find(Framed(PlainV2(502))), std::string::npos);
 }
 
 // Nothing is faster than its line: 10 bits a byte. How much slower a busy machine makes it says nothing.
 TEST(DigitalPort, PacesBothSpeeds) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-716B", "--pace"});
+    RadioInFolder radio(folder, {"--model", "KDRV-716B", "--pace"});
     PortClient client(radio.Port());
     const auto Time = [](const auto& act) {
         const auto start = Clock::now();
@@ -160,33 +161,32 @@ TEST(DigitalPort, PacesBothSpeeds) {
 
 TEST(DigitalPort, RefusesABadMemoryFileAndLeavesIt) {
     const TempFolder folder;
-    std::ofstream(folder.Path("m")) << "1 T143\n";
-    RadioProcess radio(folder, {"--model", "KDRV-716", "--memories", folder.Path("m")});
+    std::ofstream(folder / "m") << "1 T143\n";
+    RadioInFolder radio(folder, {"--model", "KDRV-716", "--memories", folder / "m"});
     EXPECT_EQ(radio.Port(), "");
-    EXPECT_EQ(radio.WaitForEnd(), 1);
+    EXPECT_EQ(radio.WaitForExit(), 1);
     EXPECT_NE(radio.Output().find("/m:1: "), std::string::npos) << radio.Output();
-    EXPECT_EQ(FileText(folder.Path("m")), "1 T143\n");
+    EXPECT_EQ(ReadFile(folder / "m"), "1 T143\n");
 }
 
 TEST(DigitalPort, RefusesListFilesThatCannotBeRead) {
     const TempFolder folder;
     for (const char* option : {"--hardware", "--debug-log"}) {
-        RadioProcess radio(folder, {"--model", "KDRV-716B", option, folder.Path("none")});
-        EXPECT_EQ(radio.WaitForEnd(), 1) << option;
+        RadioInFolder radio(folder, {"--model", "KDRV-716B", option, folder / "none"});
+        EXPECT_EQ(radio.WaitForExit(), 1) << option;
     }
 }
 
 TEST(DigitalPort, UnplugTakesTheDeviceAway) {
     const TempFolder folder;
-    RadioProcess radio(folder,
-                       {"--model", "KDRV-716", "--fault", "unplug@1", "--memories", folder.Path("m")});
+    RadioInFolder radio(folder, {"--model", "KDRV-716", "--fault", "unplug@1", "--memories", folder / "m"});
     PortClient client(radio.Port());
     EXPECT_EQ(Ask(client, Hello0), Ack);
     EXPECT_EQ(Ask(client, TakeMemories), Ack);
     client.Send(Framed(PlainV1(1)) + "\r");
     EXPECT_TRUE(client.HasVanished(3s));
-    EXPECT_EQ(radio.WaitForEnd(), 0);
-    EXPECT_NE(FileText(folder.Path("m")).find(Framed(PlainV1(1))), std::string::npos);
+    EXPECT_EQ(radio.WaitForExit(), 0);
+    EXPECT_NE(ReadFile(folder / "m").find(Framed(PlainV1(1))), std::string::npos);
 }
 
 } // namespace

@@ -1,12 +1,13 @@
 #include "simulator/MemoryList.h"
 
-#include "tests/simulator/RadioProcess.h"
+#include "tests/simulator/PortClient.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
 
 namespace {
 
+using namespace testbench;
 using namespace Simulator;
 
 const AnalogModel& Krv214() {
@@ -27,12 +28,12 @@ TEST(MemoryFile, GivesBackWhatWasSaved) {
     const TempFolder folder;
     const MemoryList saved = Memories({1, 17, 102});
     std::string trouble;
-    ASSERT_TRUE(SaveMemories(folder.Path("radio.txt"), Krv214(), saved, trouble)) << trouble;
-    EXPECT_EQ(FileText(folder.Path("radio.txt")), "# KRV-214 FM 138-174\n" + VhfLine("001") + "\n" +
-                                                      VhfLine("017") + "\n" + VhfLine("102") + "\n");
-    EXPECT_EQ(FileText(folder.Path("radio.txt.new")), "");
+    ASSERT_TRUE(SaveMemories(folder / "radio.txt", Krv214(), saved, trouble)) << trouble;
+    EXPECT_EQ(ReadFile(folder / "radio.txt"), "# KRV-214 FM 138-174\n" + VhfLine("001") + "\n" +
+                                                  VhfLine("017") + "\n" + VhfLine("102") + "\n");
+    EXPECT_EQ(ReadFileIfAny(folder / "radio.txt.new"), "");
     MemoryList loaded;
-    ASSERT_TRUE(LoadMemories(folder.Path("radio.txt"), Krv214(), loaded, trouble)) << trouble;
+    ASSERT_TRUE(LoadMemories(folder / "radio.txt", Krv214(), loaded, trouble)) << trouble;
     EXPECT_EQ(loaded, saved);
 }
 
@@ -40,25 +41,25 @@ TEST(MemoryFile, ThatIsMissingIsAnEmptyRadio) {
     const TempFolder folder;
     MemoryList loaded;
     std::string trouble;
-    EXPECT_TRUE(LoadMemories(folder.Path("none.txt"), Krv214(), loaded, trouble));
+    EXPECT_TRUE(LoadMemories(folder / "none.txt", Krv214(), loaded, trouble));
     EXPECT_TRUE(loaded.empty());
 }
 
 TEST(MemoryFile, MayHoldCommentsEmptyLinesAndDosLineEnds) {
     const TempFolder folder;
-    std::ofstream(folder.Path("radio.txt")) << "# mine\r\n\r\n" << VhfLine("003") << "\r\n\n#end";
+    std::ofstream(folder / "radio.txt") << "# mine\r\n\r\n" << VhfLine("003") << "\r\n\n#end";
     MemoryList loaded;
     std::string trouble;
-    ASSERT_TRUE(LoadMemories(folder.Path("radio.txt"), Krv214(), loaded, trouble)) << trouble;
+    ASSERT_TRUE(LoadMemories(folder / "radio.txt", Krv214(), loaded, trouble)) << trouble;
     EXPECT_EQ(loaded, Memories({3}));
 }
 
 TEST(MemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlace) {
     const TempFolder folder;
-    std::ofstream(folder.Path("radio.txt")) << VhfLine("003") << "\n" << VhfLine("103") << "\n";
+    std::ofstream(folder / "radio.txt") << VhfLine("003") << "\n" << VhfLine("103") << "\n";
     MemoryList loaded = Memories({9});
     std::string trouble;
-    EXPECT_FALSE(LoadMemories(folder.Path("radio.txt"), Krv214(), loaded, trouble));
+    EXPECT_FALSE(LoadMemories(folder / "radio.txt", Krv214(), loaded, trouble));
     EXPECT_NE(trouble.find("radio.txt:2: position 0"), std::string::npos) << trouble;
     EXPECT_EQ(loaded, Memories({9}));
 }
@@ -66,7 +67,7 @@ TEST(MemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlace) {
 TEST(MemoryFile, ThatCannotBeWrittenIsReported) {
     const TempFolder folder;
     std::string trouble;
-    EXPECT_FALSE(SaveMemories(folder.Path("no/such/folder.txt"), Krv214(), Memories({1}), trouble));
+    EXPECT_FALSE(SaveMemories(folder / "no/such/folder.txt", Krv214(), Memories({1}), trouble));
     EXPECT_FALSE(trouble.empty());
 }
 

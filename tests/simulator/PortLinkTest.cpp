@@ -1,6 +1,6 @@
 #include "simulator/PortLink.h"
 
-#include "tests/simulator/RadioProcess.h"
+#include "tests/simulator/PortClient.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -11,6 +11,7 @@
 
 namespace {
 
+using namespace testbench;
 namespace fs = std::filesystem;
 using Simulator::PortLink;
 
@@ -25,7 +26,7 @@ std::string Trouble(const std::string& folder, const std::string& name) {
 
 TEST(PortLink, IsMadeWithItsFolderAndGoesWithTheObject) {
     const TempFolder folder;
-    const std::string ports = folder.Path("deep/ports");
+    const std::string ports = folder / "deep/ports";
     {
         PortLink link(ports, "KRV-214", "/dev/pts/77");
         EXPECT_EQ(link.Path(), ports + "/KRV-214");
@@ -37,16 +38,16 @@ TEST(PortLink, IsMadeWithItsFolderAndGoesWithTheObject) {
 TEST(PortLink, ReplacesWhatNobodyPlays) {
     for (const char* target : {"/dev/pts/99999", "/dev/pts/ptmx", "/nowhere"}) {
         const TempFolder folder;
-        fs::create_symlink(target, folder.Path("radio"));
+        fs::create_symlink(target, folder / "radio");
         PortLink link(folder.Path(), "radio", "/dev/pts/77");
-        EXPECT_EQ(fs::read_symlink(folder.Path("radio")), "/dev/pts/77") << target;
+        EXPECT_EQ(fs::read_symlink(folder / "radio"), "/dev/pts/77") << target;
     }
 }
 
 TEST(PortLink, ReplacesAnotherEvenIfTheLockFileWasLeft) {
     const TempFolder folder;
-    std::ofstream(folder.Path(".radio.lock")) << "";
-    fs::create_symlink("/dev/pts/99999", folder.Path("radio"));
+    std::ofstream(folder / ".radio.lock") << "";
+    fs::create_symlink("/dev/pts/99999", folder / "radio");
     EXPECT_EQ(Trouble(folder.Path(), "radio"), "");
 }
 
@@ -54,7 +55,7 @@ TEST(PortLink, InUseIsRefused) {
     const TempFolder folder;
     auto first = std::make_unique<PortLink>(folder.Path(), "radio", "/dev/pts/78");
     EXPECT_NE(Trouble(folder.Path(), "radio").find("played by another"), std::string::npos);
-    EXPECT_EQ(fs::read_symlink(folder.Path("radio")), "/dev/pts/78");
+    EXPECT_EQ(fs::read_symlink(folder / "radio"), "/dev/pts/78");
     EXPECT_EQ(Trouble(folder.Path(), "other"), "") << "another name is free";
     first.reset();
     EXPECT_EQ(Trouble(folder.Path(), "radio"), "");
@@ -62,13 +63,13 @@ TEST(PortLink, InUseIsRefused) {
 
 TEST(PortLink, LeavesThingsAloneThatAreNoSimulatedPort) {
     const TempFolder folder;
-    std::ofstream(folder.Path("file")) << "mine";
-    fs::create_symlink("/dev/null", folder.Path("device"));
-    fs::create_directory(folder.Path("folder"));
+    std::ofstream(folder / "file") << "mine";
+    fs::create_symlink("/dev/null", folder / "device");
+    fs::create_directory(folder / "folder");
     for (const char* name : {"file", "device", "folder"})
         EXPECT_NE(Trouble(folder.Path(), name).find("left alone"), std::string::npos) << name;
-    EXPECT_EQ(FileText(folder.Path("file")), "mine");
-    EXPECT_EQ(fs::read_symlink(folder.Path("device")), "/dev/null");
+    EXPECT_EQ(ReadFile(folder / "file"), "mine");
+    EXPECT_EQ(fs::read_symlink(folder / "device"), "/dev/null");
 }
 
 TEST(PortLink, ThatPointsElsewhereByNowIsNotRemoved) {
@@ -78,7 +79,7 @@ TEST(PortLink, ThatPointsElsewhereByNowIsNotRemoved) {
         fs::remove(link.Path());
         fs::create_symlink("/dev/pts/78", link.Path());
     }
-    EXPECT_EQ(fs::read_symlink(folder.Path("radio")), "/dev/pts/78");
+    EXPECT_EQ(fs::read_symlink(folder / "radio"), "/dev/pts/78");
 }
 
 TEST(PortsFolder, LiesInTheHomeDirectory) {

@@ -1,5 +1,5 @@
 // Faults as the other side of the port meets them.
-#include "tests/simulator/RadioProcess.h"
+#include "tests/simulator/PortClient.h"
 
 #include <csignal>
 #include <filesystem>
@@ -9,6 +9,7 @@
 
 namespace {
 
+using namespace testbench;
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
@@ -19,11 +20,11 @@ const std::string Noise("\x00\xFF\x80\x1B\xFE\x7F\x00\xF5", 8);
 class RadioFault : public testing::Test {
 protected:
     void Start(const std::string& fault, std::vector<std::string> more = {}) {
-        std::ofstream(m_folder.Path("radio.txt")) << m_lines[0] << "\n"
-                                                  << m_lines[1] << "\n"
-                                                  << m_lines[2] << "\n";
+        std::ofstream(m_folder / "radio.txt") << m_lines[0] << "\n"
+                                              << m_lines[1] << "\n"
+                                              << m_lines[2] << "\n";
         more.insert(more.end(), {"--model", "KDRV-4xxx:FM 138-174", "--banner", "", "--fault", fault, "--log",
-                                 m_folder.Path("log"), "--memories", m_folder.Path("radio.txt")});
+                                 m_folder / "log", "--memories", m_folder / "radio.txt"});
         m_radio.emplace(m_folder, more);
         m_client.emplace(m_radio->Port());
         ASSERT_TRUE(m_client->IsOpen()) << m_radio->Output();
@@ -41,12 +42,12 @@ protected:
 
     /// The log tells of the fault.
     bool IsLogged(const std::string& fault) {
-        return WaitForFileText(m_folder.Path("log"), " ! " + fault + "\n");
+        return WaitForFileText(m_folder / "log", " ! " + fault + "\n");
     }
 
     const TempFolder m_folder;
     const std::string m_lines[3] = {VhfLine("001"), VhfLine("002"), VhfLine("003")};
-    std::optional<RadioProcess> m_radio;
+    std::optional<RadioInFolder> m_radio;
     std::optional<PortClient> m_client;
 };
 
@@ -64,9 +65,9 @@ TEST_F(RadioFault, SilenceOnWritingLeavesTheRestUnwritten) {
     EXPECT_EQ(AnswerTo(VhfLine("102")), "");
     EXPECT_EQ(AnswerTo(VhfLine("103")), "");
     m_client->Close();
-    ASSERT_TRUE(WaitForFileText(m_folder.Path("log"), "- port closed"));
-    EXPECT_EQ(m_radio->End(SIGTERM), 0);
-    const std::string file = FileText(m_folder.Path("radio.txt"));
+    ASSERT_TRUE(WaitForFileText(m_folder / "log", "- port closed"));
+    EXPECT_EQ(m_radio->Terminate(), 0);
+    const std::string file = ReadFile(m_folder / "radio.txt");
     EXPECT_NE(file.find("\n101 "), std::string::npos);
     EXPECT_EQ(file.find("\n102 "), std::string::npos);
 }
@@ -76,7 +77,7 @@ TEST_F(RadioFault, SilentRadioAnswersAgainOnceThePortWasClosed) {
     m_client->Send("dl\r");
     EXPECT_EQ(AnswerTo(VhfLine("101")), "");
     m_client.reset();
-    ASSERT_TRUE(WaitForFileText(m_folder.Path("log"), "- port closed"));
+    ASSERT_TRUE(WaitForFileText(m_folder / "log", "- port closed"));
     m_client.emplace(m_radio->Port());
     m_client->Send("dl\r");
     EXPECT_EQ(AnswerTo(VhfLine("101")), Ack);
@@ -99,7 +100,7 @@ TEST_F(RadioFault, LateAcknowledgementIsForgottenWhenItsUserGoes) {
     m_client->Send("dl\r" + VhfLine("101") + "\r");
     ASSERT_TRUE(IsLogged("late-ack@1"));
     m_client.reset();
-    ASSERT_TRUE(WaitForFileText(m_folder.Path("log"), "- port closed"));
+    ASSERT_TRUE(WaitForFileText(m_folder / "log", "- port closed"));
     m_client.emplace(m_radio->Port());
     EXPECT_EQ(m_client->ReadUntilQuiet(500ms), "");
 }
@@ -144,8 +145,8 @@ TEST_F(RadioFault, UnplugOnReadingTakesDeviceAndLinkAway) {
     Start("unplug@2");
     m_client->Send("ul\r");
     EXPECT_TRUE(m_client->HasVanished(3s));
-    EXPECT_EQ(m_radio->WaitForEnd(), 0);
-    EXPECT_FALSE(std::filesystem::is_symlink(m_folder.Path("ports/KDRV-4xxx")));
+    EXPECT_EQ(m_radio->WaitForExit(), 0);
+    EXPECT_FALSE(std::filesystem::is_symlink(m_folder / "ports/KDRV-4xxx"));
     EXPECT_TRUE(IsLogged("unplug@2"));
 }
 
@@ -155,8 +156,8 @@ TEST_F(RadioFault, UnplugOnWritingKeepsWhatWasWritten) {
     EXPECT_EQ(AnswerTo(VhfLine("101")), Ack);
     m_client->Send(VhfLine("102") + "\r");
     EXPECT_TRUE(m_client->HasVanished(3s));
-    EXPECT_EQ(m_radio->WaitForEnd(), 0);
-    EXPECT_NE(FileText(m_folder.Path("radio.txt")).find("\n101 "), std::string::npos);
+    EXPECT_EQ(m_radio->WaitForExit(), 0);
+    EXPECT_NE(ReadFile(m_folder / "radio.txt").find("\n101 "), std::string::npos);
 }
 
 TEST_F(RadioFault, SeveralFaultsArePlayedInOneTransfer) {

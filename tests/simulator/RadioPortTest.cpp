@@ -1,5 +1,5 @@
 // The program as a whole, spoken to over its port.
-#include "tests/simulator/RadioProcess.h"
+#include "tests/simulator/PortClient.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -7,13 +7,13 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
-#include <sys/wait.h>
 #include <termios.h>
 #include <thread>
 #include <unistd.h>
 
 namespace {
 
+using namespace testbench;
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
@@ -25,8 +25,8 @@ std::chrono::milliseconds Since(Clock::time_point start) {
 }
 
 std::string FileOf(const TempFolder& folder, const std::string& lines) {
-    std::ofstream(folder.Path("radio.txt")) << lines;
-    return folder.Path("radio.txt");
+    std::ofstream(folder / "radio.txt") << lines;
+    return folder / "radio.txt";
 }
 
 /// Sends a line and tells whether it was acknowledged.
@@ -37,8 +37,8 @@ bool IsTaken(PortClient& client, const std::string& line) {
 
 TEST(RadioPort, WritesAndReadsBackThroughARealPort) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KRV-214", "--banner", "HELLO"});
-    ASSERT_EQ(radio.Port(), folder.Path("ports/KRV-214")) << radio.Output();
+    RadioInFolder radio(folder, {"--model", "KRV-214", "--banner", "HELLO"});
+    ASSERT_EQ(radio.Port(), (folder / "ports/KRV-214").string()) << radio.Output();
     PortClient client(radio.Port());
     client.Send("rt\r4\rdl\r");
     EXPECT_TRUE(IsTaken(client, VhfLine("001")));
@@ -52,7 +52,7 @@ TEST(RadioPort, WritesAndReadsBackThroughARealPort) {
 
 TEST(RadioPort, PlaysTwoTransfersOverOneOpenPort) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--banner", ""});
+    RadioInFolder radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--banner", ""});
     PortClient client(radio.Port());
     for (const char* number : {"001", "002"}) {
         client.Send("dl\r");
@@ -67,7 +67,7 @@ TEST(RadioPort, PlaysTwoTransfersOverOneOpenPort) {
 
 TEST(RadioPort, CanSetBitSevenOnEveryByteThatItSends) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--banner", "", "--parity=bytes"});
+    RadioInFolder radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--banner", "", "--parity=bytes"});
     PortClient client(radio.Port());
     client.Send("dl\r" + VhfLine("001") + "\r");
     EXPECT_EQ(client.ReadUntil("\x85"), "\x85");
@@ -80,20 +80,20 @@ TEST(RadioPort, CanSetBitSevenOnEveryByteThatItSends) {
 
 TEST(RadioPort, TakesAWriteWhoseWriterClosesAtOnce) {
     const TempFolder folder;
-    RadioProcess radio(folder,
-                       {"--model", "KDRV-4xxx:FM 138-174", "--once", "--memories", folder.Path("radio.txt")});
+    RadioInFolder radio(folder,
+                        {"--model", "KDRV-4xxx:FM 138-174", "--once", "--memories", folder / "radio.txt"});
     PortClient client(radio.Port());
     client.Send("dl\r" + VhfLine("001") + "\r" + VhfLine("002") + "\r" + EndLine("300"));
     client.Close();
-    EXPECT_EQ(radio.WaitForEnd(), 0);
-    EXPECT_EQ(FileText(folder.Path("radio.txt")),
+    EXPECT_EQ(radio.WaitForExit(), 0);
+    EXPECT_EQ(ReadFile(folder / "radio.txt"),
               "# KDRV-4xxx FM 138-174\n" + VhfLine("001") + "\n" + VhfLine("002") + "\n");
 }
 
 TEST(RadioPort, LosesNothingOfAUserWhoComesAfterACompletedTransfer) {
     const TempFolder folder;
-    const std::string log = folder.Path("log");
-    RadioProcess radio(folder, {"--model", "KRV-214", "--banner", "", "--log", log});
+    const std::string log = folder / "log";
+    RadioInFolder radio(folder, {"--model", "KRV-214", "--banner", "", "--log", log});
     for (int k = 0; k < 20; ++k) {
         PortClient writer(radio.Port());
         writer.Send("rt\r4\rdl\r");
@@ -102,26 +102,26 @@ TEST(RadioPort, LosesNothingOfAUserWhoComesAfterACompletedTransfer) {
         writer.Close();
         // What comes before the radio has noticed that its user went may go with him.
         const auto deadline = Clock::now() + 5s;
-        while (CountOf(FileText(log), "- port closed") < 2 * k + 1 && Clock::now() < deadline)
+        while (CountOf(ReadFileIfAny(log), "- port closed") < 2 * k + 1 && Clock::now() < deadline)
             std::this_thread::sleep_for(1ms);
         PortClient reader(radio.Port());
         reader.Send("rt\r4\rul\r ");
         ASSERT_EQ(reader.ReadUntil("300\r", 2s), VhfLine("001") + "\r300\r") << k;
         reader.Close();
-        while (CountOf(FileText(log), "- port closed") < 2 * k + 2 && Clock::now() < deadline + 5s)
+        while (CountOf(ReadFileIfAny(log), "- port closed") < 2 * k + 2 && Clock::now() < deadline + 5s)
             std::this_thread::sleep_for(1ms);
     }
 }
 
 TEST(RadioPort, DropsWhatWasNotReadWhenItsUserGoes) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--all", "--log", folder.Path("log")});
+    RadioInFolder radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--all", "--log", folder / "log"});
     {
         PortClient client(radio.Port());
         client.Send("ul\r");
-        ASSERT_TRUE(WaitForFileText(folder.Path("log"), "> 002 "));
+        ASSERT_TRUE(WaitForFileText(folder / "log", "> 002 "));
     }
-    ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed"));
+    ASSERT_TRUE(WaitForFileText(folder / "log", "- port closed"));
     PortClient next(radio.Port());
     EXPECT_EQ(next.ReadUntilQuiet(200ms), "");
     next.Send("dl\r");
@@ -130,9 +130,9 @@ TEST(RadioPort, DropsWhatWasNotReadWhenItsUserGoes) {
 
 TEST(RadioPort, ForgetsHalfACommandWhenItsUserGoes) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--log", folder.Path("log")});
+    RadioInFolder radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--log", folder / "log"});
     PortClient(radio.Port()).Send("d");
-    ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed"));
+    ASSERT_TRUE(WaitForFileText(folder / "log", "- port closed"));
     PortClient next(radio.Port());
     next.Send("dl\r");
     EXPECT_TRUE(IsTaken(next, VhfLine("001")));
@@ -156,10 +156,10 @@ termios SettingsThenSpoilt(const std::string& port) {
 
 TEST(RadioPort, IsRawAndAt9600ForEachUserWhateverTheLastOneSet) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KRV-214", "--log", folder.Path("log")});
+    RadioInFolder radio(folder, {"--model", "KRV-214", "--log", folder / "log"});
     for (const char* user : {"first", "second"}) {
         const termios line = SettingsThenSpoilt(radio.Port());
-        ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed")) << user;
+        ASSERT_TRUE(WaitForFileText(folder / "log", "- port closed")) << user;
         EXPECT_EQ(cfgetospeed(&line), static_cast<speed_t>(B9600)) << user;
         EXPECT_EQ(line.c_lflag & (ECHO | ICANON | ISIG), 0u) << user;
         EXPECT_EQ(line.c_iflag & (ICRNL | INLCR | IXON | ISTRIP), 0u) << user;
@@ -170,7 +170,7 @@ TEST(RadioPort, IsRawAndAt9600ForEachUserWhateverTheLastOneSet) {
 
 TEST(RadioPort, StaysOutOfTheWayOfSomebodyWhoOnlyLooks) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174"});
+    RadioInFolder radio(folder, {"--model", "KDRV-4xxx:FM 138-174"});
     for (int k = 0; k < 50; ++k)
         PortClient(radio.Port()).Close();
     PortClient client(radio.Port());
@@ -180,7 +180,7 @@ TEST(RadioPort, StaysOutOfTheWayOfSomebodyWhoOnlyLooks) {
 
 TEST(RadioKey, IsPressedAfterItsDelay) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KRV-610:FM 138-174", "--key-delay", "300", "--banner", ""});
+    RadioInFolder radio(folder, {"--model", "KRV-610:FM 138-174", "--key-delay", "300", "--banner", ""});
     PortClient client(radio.Port());
     const auto start = Clock::now();
     client.Send("ul\r");
@@ -190,21 +190,21 @@ TEST(RadioKey, IsPressedAfterItsDelay) {
 
 TEST(RadioKey, IsPressedByASignal) {
     const TempFolder folder;
-    RadioProcess radio(
-        folder, {"--model", "KRV-610:FM 138-174", "--key-delay", "60000", "--log", folder.Path("log")});
+    RadioInFolder radio(folder,
+                        {"--model", "KRV-610:FM 138-174", "--key-delay", "60000", "--log", folder / "log"});
     PortClient client(radio.Port());
     client.Send("ul\r");
     EXPECT_EQ(client.ReadUntilQuiet(150ms), "");
     radio.Signal(SIGUSR1);
     EXPECT_TRUE(client.ReadUntil("300\r").ends_with("\r300\r"));
-    EXPECT_NE(FileText(folder.Path("log")).find("- key pressed"), std::string::npos);
+    EXPECT_NE(ReadFile(folder / "log").find("- key pressed"), std::string::npos);
 }
 
 TEST(Pacing, DeliversNoFasterThanTheSpeedOfThePort) {
     const TempFolder folder;
     const std::string file =
         FileOf(folder, VhfLine("001") + "\n" + VhfLine("002") + "\n" + VhfLine("003") + "\n");
-    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--pace", "--memories", file});
+    RadioInFolder radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--pace", "--memories", file});
     PortClient client(radio.Port());
     const auto start = Clock::now();
     client.Send("ul\r");
@@ -217,7 +217,7 @@ TEST(Pacing, DeliversNoFasterThanTheSpeedOfThePort) {
 
 TEST(Pacing, AcceptsNoFasterThanTheSpeedOfThePort) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--pace"});
+    RadioInFolder radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--pace"});
     PortClient client(radio.Port());
     const auto start = Clock::now();
     client.Send("dl\r" + VhfLine("001") + "\r" + VhfLine("002") + "\r" + VhfLine("003") + "\r");
@@ -227,7 +227,7 @@ TEST(Pacing, AcceptsNoFasterThanTheSpeedOfThePort) {
 
 TEST(Pacing, FollowsAFasterSpeed) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--pace", "--all"});
+    RadioInFolder radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--pace", "--all"});
     PortClient client(radio.Port(), 115200);
     const auto start = Clock::now();
     client.Send("ul\r");
@@ -240,7 +240,7 @@ TEST(Pacing, FollowsAFasterSpeed) {
 
 TEST(Pacing, IsOffUnlessAskedFor) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--all"});
+    RadioInFolder radio(folder, {"--model", "KDRV-4xxx:FM 138-174", "--all"});
     PortClient client(radio.Port());
     const auto start = Clock::now();
     client.Send("ul\r");
@@ -250,7 +250,7 @@ TEST(Pacing, IsOffUnlessAskedFor) {
 
 TEST(RadioProgram, UsesNoProcessorTimeWhileItWaits) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KRV-610:FM 138-174", "--key-delay", "60000"});
+    RadioInFolder radio(folder, {"--model", "KRV-610:FM 138-174", "--key-delay", "60000"});
     PortClient(radio.Port()).Close();
     std::this_thread::sleep_for(300ms);
     PortClient client(radio.Port());
@@ -262,20 +262,22 @@ TEST(RadioProgram, UsesNoProcessorTimeWhileItWaits) {
 TEST(RadioProgram, RemovesItsLinkWhenItIsEnded) {
     for (int signal : {SIGTERM, SIGINT, SIGHUP}) {
         const TempFolder folder;
-        RadioProcess radio(folder, {"--model", "KRV-214"});
-        ASSERT_TRUE(fs::is_symlink(folder.Path("ports/KRV-214"))) << radio.Output();
-        EXPECT_EQ(radio.End(signal), 0) << signal;
-        EXPECT_TRUE(fs::is_empty(folder.Path("ports"))) << signal;
+        RadioInFolder radio(folder, {"--model", "KRV-214"});
+        ASSERT_TRUE(fs::is_symlink(folder / "ports/KRV-214")) << radio.Output();
+        radio.Signal(signal);
+        EXPECT_EQ(radio.WaitForExit(), 0) << signal;
+        EXPECT_TRUE(fs::is_empty(folder / "ports")) << signal;
     }
 }
 
 TEST(RadioProgram, ReplacesTheLinkOfOneThatWasKilled) {
     const TempFolder folder;
-    RadioProcess killed(folder, {"--model", "KRV-214"});
-    killed.End(SIGKILL);
-    ASSERT_TRUE(fs::is_symlink(folder.Path("ports/KRV-214"))) << "nobody could clean up";
-    RadioProcess radio(folder, {"--model", "KRV-214", "--banner", ""});
-    ASSERT_EQ(radio.Port(), folder.Path("ports/KRV-214")) << radio.Output();
+    RadioInFolder killed(folder, {"--model", "KRV-214"});
+    killed.Signal(SIGKILL);
+    ASSERT_EQ(killed.WaitForExit(), 128 + SIGKILL);
+    ASSERT_TRUE(fs::is_symlink(folder / "ports/KRV-214")) << "nobody could clean up";
+    RadioInFolder radio(folder, {"--model", "KRV-214", "--banner", ""});
+    ASSERT_EQ(radio.Port(), (folder / "ports/KRV-214").string()) << radio.Output();
     PortClient client(radio.Port());
     client.Send("rt\r4\rul\r ");
     EXPECT_TRUE(client.ReadUntil("300\r").starts_with("001 "));
@@ -283,47 +285,37 @@ TEST(RadioProgram, ReplacesTheLinkOfOneThatWasKilled) {
 
 TEST(RadioProgram, RefusesANameThatIsPlayed) {
     const TempFolder folder;
-    RadioProcess first(folder, {"--model", "KRV-214"});
-    RadioProcess second(folder, {"--model", "KRV-214"});
+    RadioInFolder first(folder, {"--model", "KRV-214"});
+    RadioInFolder second(folder, {"--model", "KRV-214"});
     EXPECT_EQ(second.Port(), "");
-    EXPECT_EQ(second.WaitForEnd(), 1);
+    EXPECT_EQ(second.WaitForExit(), 1);
     EXPECT_NE(second.Output().find("is played by another zelk-radio"), std::string::npos) << second.Output();
-    RadioProcess third(folder, {"--model", "KRV-214", "--name", "spare"});
-    EXPECT_EQ(third.Port(), folder.Path("ports/spare"));
+    RadioInFolder third(folder, {"--model", "KRV-214", "--name", "spare"});
+    EXPECT_EQ(third.Port(), (folder / "ports/spare").string());
     PortClient client(first.Port());
     EXPECT_TRUE(client.IsOpen()) << "the first goes on";
 }
 
 TEST(RadioProgram, PutsItsLinkIntoTheProgramsFolderByItself) {
     const TempFolder folder;
-    const pid_t child = fork();
-    if (child == 0) {
-        setenv("HOME", folder.Path().c_str(), 1);
-        dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
-        execl(ZELK_RADIO, ZELK_RADIO, "--model", "KRV-305", static_cast<char*>(nullptr));
-        _exit(127);
-    }
-    const auto deadline = Clock::now() + 5s;
-    while (!fs::is_symlink(folder.Path(".zelk/ports/KRV-305")) && Clock::now() < deadline)
-        std::this_thread::sleep_for(5ms);
-    EXPECT_TRUE(fs::is_symlink(folder.Path(".zelk/ports/KRV-305")));
-    kill(child, SIGTERM);
-    waitpid(child, nullptr, 0);
+    RadioProcess radio(ZELK_RADIO, {"--model", "KRV-305"}, {.environment = {{"HOME", folder.Path()}}});
+    EXPECT_EQ(radio.Port(), (folder / ".zelk/ports/KRV-305").string()) << radio.Output();
+    EXPECT_TRUE(fs::is_symlink(folder / ".zelk/ports/KRV-305"));
 }
 
 TEST(RadioProgram, KeepsItsMemoriesOverARestart) {
     const TempFolder folder;
     const std::vector<std::string> arguments = {"--model", "KDRV-4xxx:FM 138-174", "--banner",
-                                                "",        "--memories",           folder.Path("radio.txt")};
+                                                "",        "--memories",           folder / "radio.txt"};
     {
-        RadioProcess radio(folder, arguments);
+        RadioInFolder radio(folder, arguments);
         PortClient client(radio.Port());
         client.Send("dl\r");
         EXPECT_TRUE(IsTaken(client, VhfLine("001")));
         EXPECT_TRUE(IsTaken(client, VhfLine("044"))) << "and the transfer is never completed";
-        EXPECT_EQ(radio.End(SIGTERM), 0);
+        EXPECT_EQ(radio.Terminate(), 0);
     }
-    RadioProcess radio(folder, arguments);
+    RadioInFolder radio(folder, arguments);
     PortClient client(radio.Port());
     client.Send("ul\r");
     EXPECT_EQ(client.ReadUntil("300\r"), VhfLine("001") + "\r" + VhfLine("044") + "\r300\r");
@@ -331,42 +323,42 @@ TEST(RadioProgram, KeepsItsMemoriesOverARestart) {
 
 TEST(RadioProgram, DoesNotStartWithAMemoryFileThatItCannotHold) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KRV-214", "--memories", FileOf(folder, "nonsense\n")});
-    EXPECT_EQ(radio.WaitForEnd(), 1);
+    RadioInFolder radio(folder, {"--model", "KRV-214", "--memories", FileOf(folder, "nonsense\n")});
+    EXPECT_EQ(radio.WaitForExit(), 1);
     EXPECT_NE(radio.Output().find("radio.txt:1: length is 8"), std::string::npos) << radio.Output();
-    EXPECT_EQ(FileText(folder.Path("radio.txt")), "nonsense\n");
+    EXPECT_EQ(ReadFile(folder / "radio.txt"), "nonsense\n");
 }
 
 TEST(RadioProgram, EndsAfterOneCompletedTransferIfAskedTo) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KRV-214", "--once", "--log", folder.Path("log")});
+    RadioInFolder radio(folder, {"--model", "KRV-214", "--once", "--log", folder / "log"});
     PortClient(radio.Port()).Send("rt\r4\r");
-    ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed"));
-    EXPECT_EQ(radio.WaitForEnd(200ms), -1) << "that was no transfer";
+    ASSERT_TRUE(WaitForFileText(folder / "log", "- port closed"));
+    EXPECT_EQ(radio.WaitForExit(200), std::nullopt) << "that was no transfer";
     {
         PortClient client(radio.Port());
         client.Send("rt\r4\rul\r ");
         client.ReadUntil("300\r");
-        EXPECT_EQ(radio.WaitForEnd(200ms), -1) << "the port is still open";
+        EXPECT_EQ(radio.WaitForExit(200), std::nullopt) << "the port is still open";
     }
-    EXPECT_EQ(radio.WaitForEnd(), 0);
+    EXPECT_EQ(radio.WaitForExit(), 0);
 }
 
 TEST(RadioProgram, AnswersListAndHelp) {
     const TempFolder folder;
-    RadioProcess list(folder, {"--list"});
-    EXPECT_EQ(list.WaitForEnd(), 0);
+    RadioInFolder list(folder, {"--list"});
+    EXPECT_EQ(list.WaitForExit(), 0);
     EXPECT_NE(list.Output().find("KRV-656      FM 66-88"), std::string::npos) << list.Output();
-    RadioProcess help(folder, {"--help"});
-    EXPECT_EQ(help.WaitForEnd(), 0);
+    RadioInFolder help(folder, {"--help"});
+    EXPECT_EQ(help.WaitForExit(), 0);
     EXPECT_NE(help.Output().find("--guard-names"), std::string::npos) << help.Output();
-    RadioProcess wrong(folder, {"--modle", "KRV-214"});
-    EXPECT_EQ(wrong.WaitForEnd(), 2);
+    RadioInFolder wrong(folder, {"--modle", "KRV-214"});
+    EXPECT_EQ(wrong.WaitForExit(), 2);
 }
 
 TEST(RadioLog, HoldsBothDirectionsWithTheirTimes) {
     const TempFolder folder;
-    RadioProcess radio(folder, {"--model", "KRV-214", "--banner", "HELLO", "--log", folder.Path("log")});
+    RadioInFolder radio(folder, {"--model", "KRV-214", "--banner", "HELLO", "--log", folder / "log"});
     {
         PortClient client(radio.Port());
         client.Send("rt\r4\rdl\r");
@@ -374,8 +366,8 @@ TEST(RadioLog, HoldsBothDirectionsWithTheirTimes) {
         client.Send("bad\x01\r" + EndLine("300") + "rt\r4\rul\r ");
         client.ReadUntil("300\r");
     }
-    ASSERT_TRUE(WaitForFileText(folder.Path("log"), "- port closed"));
-    const std::string log = FileText(folder.Path("log"));
+    ASSERT_TRUE(WaitForFileText(folder / "log", "- port closed"));
+    const std::string log = ReadFile(folder / "log");
     for (const std::string& entry :
          {std::string("- port opened"), std::string("< rt"), std::string("< 4"), std::string("< dl"),
           "< " + VhfLine("001"), std::string("> \\x05"), std::string("< bad\\x01"),
@@ -389,8 +381,7 @@ TEST(RadioLog, HoldsBothDirectionsWithTheirTimes) {
         EXPECT_GE(time, last) << line;
         last = time;
     }
-    EXPECT_NE(radio.Output().find("zelk-radio: refused"), std::string::npos)
-        << "and the person watching is told";
+    EXPECT_TRUE(radio.WaitForLine("zelk-radio: refused")) << "and the person watching is told";
 }
 
 } // namespace

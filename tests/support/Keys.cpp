@@ -7,7 +7,7 @@
 #include <wx/grid.h>
 #include <wx/toplevel.h>
 
-#include "tests/support/robot/Hands.h"
+#include "robot/Hands.h"
 
 namespace testbench {
 

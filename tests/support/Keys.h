@@ -5,8 +5,8 @@
 
 #include <wx/gdicmn.h>
 
-#include "tests/support/robot/Pump.h"
-#include "tests/support/robot/ScreenSpots.h"
+#include "robot/Pump.h"
+#include "robot/ScreenSpots.h"
 
 class wxGrid;
 class wxTopLevelWindow;

@@ -6,8 +6,8 @@
 #include <wx/modalhook.h>
 #include <wx/timer.h>
 
-#include "tests/support/robot/Pattern.h"
-#include "tests/support/robot/Pump.h"
+#include "robot/Pattern.h"
+#include "robot/Pump.h"
 
 namespace testbench {
 

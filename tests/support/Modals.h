@@ -11,7 +11,7 @@
 
 #include <wx/defs.h>
 
-#include "tests/support/robot/OpenDialogs.h"
+#include "robot/OpenDialogs.h"
 
 namespace testbench {
 

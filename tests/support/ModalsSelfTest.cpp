@@ -10,9 +10,9 @@
 #include <wx/msgdlg.h>
 #include <wx/textdlg.h>
 
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 #include "tests/support/AssertsOff.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
 
 using namespace testbench;
 

@@ -1,5 +1,5 @@
 // Child processes, the display script and the watchdog.
-#include "tests/support/robot/Process.h"
+#include "robot/Process.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -7,8 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 
 using namespace testbench;
 

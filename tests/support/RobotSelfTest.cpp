@@ -16,12 +16,12 @@
 #include <wx/textdlg.h>
 #include <wx/wfstream.h>
 
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 #include "tests/support/Keys.h"
 #include "tests/support/Modals.h"
 #include "tests/support/RunWithRobot.h"
 #include "tests/support/SelfTestFrame.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
 
 using namespace testbench;
 

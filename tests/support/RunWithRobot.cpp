@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "robot/RunScript.h"
 #include "tests/support/Modals.h"
-#include "tests/support/robot/RunScript.h"
 
 namespace testbench {
 

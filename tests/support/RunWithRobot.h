@@ -3,8 +3,8 @@
 
 #include <functional>
 
-#include "tests/support/robot/Robot.h"
-#include "tests/support/robot/ScreenSpots.h"
+#include "robot/Robot.h"
+#include "robot/ScreenSpots.h"
 
 namespace testbench {
 

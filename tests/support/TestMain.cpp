@@ -12,12 +12,12 @@
 #include <wx/log.h>
 #include <wx/stdpaths.h>
 
+#include "robot/Files.h"
+#include "robot/Process.h"
+#include "robot/TempFolder.h"
 #include "tests/support/AssertsOff.h"
 #include "tests/support/Modals.h"
 #include "tests/support/Watchdog.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/Process.h"
-#include "tests/support/robot/TempFolder.h"
 
 // GTK and fontconfig never free what they keep for the program's life: with their leaks reported no
 // window test could pass. An address sanitizer reads this; without one nobody calls it.

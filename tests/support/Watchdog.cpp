@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "tests/support/robot/OpenDialogs.h"
+#include "robot/OpenDialogs.h"
 
 namespace testbench {
 

@@ -7,6 +7,7 @@
 #include "catalogue/ZoneSlots.h"
 #include "editing/ZelkEditors.h"
 #include "frame/ZelkMain.h"
+#include "tests/support/PageTexts.h"
 #include "transfer/ChosenPort.h"
 
 #include <gtest/gtest.h>
@@ -14,8 +15,13 @@
 #include <wx/app.h>
 #include <wx/grid.h>
 
+#include <utility>
+#include <vector>
+
 using enum RadioCatalogue::RadioIndex;
 using RadioCatalogue::ModuleSlot;
+using testbench::FilledRows;
+using testbench::RowTexts;
 
 /// Shows the window with its first page (KRV-47) before each test and destroys it after it.
 class ZelkWindowTest : public ::testing::Test {
@@ -55,6 +61,19 @@ protected:
     static wxString Cell(int row, int col) { return CurrentGrid()->GetCellValue(row, col); }
     static void SetCell(int row, int col, const wxString& text) {
         CurrentGrid()->SetCellValue(row, col, text);
+    }
+
+    /// Texts of cells by their columns.
+    using CellList = std::vector<std::pair<int, const char*>>;
+
+    static void SetCells(int row, const CellList& cells) {
+        for (const auto& [col, text] : cells)
+            SetCell(row, col, text);
+    }
+    /// Expects these texts; a failure names the row and the column.
+    static void ExpectCells(int row, const CellList& cells) {
+        for (const auto& [col, text] : cells)
+            EXPECT_EQ(Cell(row, col).utf8_string(), text) << "row " << row << ", " << ColumnTag[col];
     }
 
 private:

@@ -1,7 +1,7 @@
 #include "tools/ChannelList.h"
 
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -70,7 +70,7 @@ protected:
         EXPECT_TRUE(PortIsFree(radio.PortName()));
         Read(radio, {"Complete"}, keyBox);
         EXPECT_TRUE(PortIsFree(radio.PortName()));
-        EXPECT_EQ(FilledRows(), static_cast<int>(rows.size()));
+        EXPECT_EQ(FilledRows().size(), rows.size());
         for (const int row : rows) {
             EXPECT_EQ(CellText(row, RFRQ), frequency) << row;
             EXPECT_EQ(CellText(row, DESC), "HILL     ") << row;
@@ -121,7 +121,7 @@ TEST_F(AnalogRadio, ThatSetsBitSevenOnEveryByteGivesAllItsRows) {
     RadioUnderTest radio("KRV-47", {"--parity=bytes", "--all", "--guard-names"},
                          MemoryLine("007", "066.0250") + "\n" + MemoryLine("122", "071.0000") + "\n");
     Read(radio, {"Complete"});
-    EXPECT_EQ(FilledRows(), 122);
+    EXPECT_EQ(FilledRows().size(), 122u);
     EXPECT_EQ(CellText(6, RFRQ), "66.0000");
     EXPECT_EQ(CellText(7, RFRQ), "66.0250");
     EXPECT_EQ(CellText(7, DESC), "HILL     ");
@@ -136,7 +136,7 @@ TEST_F(AnalogRadio, WithItsGuardsByNameLandsInTheLastRows) {
                          MemoryLine("001", "066.0000") + "\n" + MemoryLine("121", "070.0000") + "\n" +
                              MemoryLine("122", "071.0000") + "\n");
     Read(radio, {"Complete"});
-    EXPECT_EQ(FilledRows(), 3);
+    EXPECT_EQ(FilledRows().size(), 3u);
     EXPECT_EQ(CellText(121, MNUM), "121");
     EXPECT_EQ(CellText(121, RFRQ), "70.0000");
     EXPECT_EQ(CellText(122, MNUM), "122");
@@ -161,7 +161,7 @@ TEST_F(AnalogRadio, OfTheAirbandIsRead) {
                          MemoryLine("001", "118.1250", tail) + "\n" + MemoryLine("100", "137.9750", tail) +
                              "\n");
     Read(radio, {"Complete"});
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
     EXPECT_EQ(CellText(1, RFRQ), "118.1250");
     EXPECT_EQ(CellText(100, RFRQ), "137.9750");
 }
@@ -173,7 +173,7 @@ TEST_F(AnalogRadio, OfSixChannelsIsRead) {
                          MemoryLine("001", "118.1250", tail) + "\n" + MemoryLine("006", "121.5000", tail) +
                              "\n");
     Read(radio, {"Complete"});
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
     EXPECT_EQ(CellText(6, RFRQ), "121.5000");
 }
 
@@ -213,7 +213,7 @@ TEST_F(AnalogRadio, ThatStopsWithoutEndLineBehindItsLastRowIsComplete) {
     RadioUnderTest radio("KRV-47", {"--no-end"},
                          MemoryLine("001", "066.0000") + "\n" + MemoryLine("122", "066.0000") + "\n");
     Read(radio, {"Complete"});
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
 }
 
 namespace {
@@ -261,7 +261,7 @@ protected:
             memories += MemoryLine(number, "138.0000") + "\n";
         RadioUnderTest radio("KDRV-4xxx:FM 138-174", fault.options, memories);
         Read(radio, fault.ending);
-        EXPECT_EQ(FilledRows(), static_cast<int>(fault.rows.size())) << fault.name;
+        EXPECT_EQ(FilledRows().size(), fault.rows.size()) << fault.name;
         for (const int row : fault.rows)
             EXPECT_EQ(CellText(row, RFRQ), "138.0000") << fault.name << ", row " << row;
         EXPECT_EQ(PortIsFree(radio.PortName()), fault.portRemains);

@@ -33,7 +33,7 @@ TEST_F(AnalogRead, FillsTheRowsThatTheRadioSends) {
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete);
     EXPECT_EQ(peer.Heard(), "ul\r");
     EXPECT_EQ(peer.Rest(), "");
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
     EXPECT_EQ(CellText(7, MNUM), "007");
     EXPECT_EQ(CellText(7, RFRQ), "139.0000");
     EXPECT_EQ(CellText(7, TFLG), "C0");
@@ -51,14 +51,14 @@ TEST_F(AnalogRead, IgnoresWhatComesBeforeTheFirstChannel) {
                            std::string(10000, 'x') + "\r\xFF\xFE\r" + RadioLine("001") + RadioLine("002") +
                            "300\r"));
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete);
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
     EXPECT_FALSE(RowHasData(5));
 }
 
 TEST_F(AnalogRead, CutsTheFirstLineAtItsChannelNumber) {
     RadioPeer peer(Sending("CHANNELS FOLLOW " + RadioLine("001", "138.5000") + "300\r"));
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete);
-    EXPECT_EQ(FilledRows(), 1);
+    EXPECT_EQ(FilledRows().size(), 1u);
     EXPECT_EQ(CellText(1, RFRQ), "138.5000");
     EXPECT_EQ(CellText(1, DESC), "RADIO    ");
 }
@@ -73,7 +73,7 @@ TEST_F(AnalogRead, TakesLineFeedsAndLinesInPieces) {
         }
     });
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete);
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
 }
 
 TEST_F(AnalogRead, PassesOverLinesThatNameNoRow) {
@@ -81,7 +81,7 @@ TEST_F(AnalogRead, PassesOverLinesThatNameNoRow) {
     RadioPeer peer(
         Sending(RadioLine("001") + RadioLine("201") + RadioLine("abc") + "\r" + RadioLine("002") + "300\r"));
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete);
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
     EXPECT_EQ(LogText().find("<201"), std::string::npos);
     EXPECT_NE(LogText().find("<002"), std::string::npos);
 }
@@ -95,7 +95,7 @@ TEST_F(AnalogRead, OfASilentRadioLeavesAnEmptyPageAndTwoBoxes) {
     ExpectDriverBox(script, TimeoutBox);
     ExpectBox(script, "Read from Radio Status", "Timeout");
     Download();
-    EXPECT_EQ(FilledRows(), 0);
+    EXPECT_EQ(FilledRows().size(), 0u);
     ExpectOver();
     EXPECT_TRUE(PortIsFree(peer.PortName()));
 }
@@ -106,7 +106,7 @@ TEST_F(AnalogRead, ThatFallsSilentBeforeTheLastRowTimesOut) {
     DialogScript script;
     ExpectDriverBox(script, TimeoutBox);
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferTimeout);
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
     EXPECT_TRUE(LogText().ends_with("\n<Timeout>\n")) << LogText();
 }
 
@@ -114,7 +114,7 @@ TEST_F(AnalogRead, ThatFallsSilentAtTheLastRowIsComplete) {
     // One row before the last counts as the last.
     RadioPeer peer(Sending(RadioLine("001") + RadioLine("199")));
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete);
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
 }
 
 TEST_F(AnalogRead, OfAPageOfTwoHundredAndTwoRowsDoesNotExpectTheLastTwo) {
@@ -139,7 +139,7 @@ TEST_F(AnalogRead, AsksForTheKeyThatStartsTheRadio) {
         if (text)
             ExpectBox(script, "Read channel data from radio", text);
         EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete) << radio;
-        EXPECT_EQ(FilledRows(), 1) << radio;
+        EXPECT_EQ(FilledRows().size(), 1u) << radio;
     }
 }
 
@@ -152,7 +152,7 @@ TEST_F(AnalogRead, OfARadioThatIsOpenedSendsABlankBehindTheCommand) {
     });
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete);
     EXPECT_EQ(peer.Heard(), "rt\r3\rul\r ");
-    EXPECT_EQ(FilledRows(), 3);
+    EXPECT_EQ(FilledRows().size(), 3u);
     EXPECT_EQ(CellText(121, MNUM), "121");
     EXPECT_EQ(CellText(122, RFRQ), "405.0000");
 }
@@ -204,7 +204,7 @@ TEST_F(AnalogRead, CancelledBeforeTheFirstChannelReadsAndSendsNothingFurther) {
     const DialogScript noBox;
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferCancelled);
     EXPECT_EQ(peer.Rest(), "");
-    EXPECT_EQ(FilledRows(), 0);
+    EXPECT_EQ(FilledRows().size(), 0u);
     EXPECT_TRUE(LogText().ends_with("\nTransfer cancelled by user.\n")) << LogText();
 }
 
@@ -218,7 +218,7 @@ TEST_F(AnalogRead, CancelledAmongTheChannelsKeepsThoseThatCame) {
     const DialogScript noBox;
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferCancelled);
     EXPECT_EQ(peer.Rest(), "");
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
 }
 
 TEST_F(AnalogRead, CancelledThroughTheCommandTellsSoInTheStatusBox) {
@@ -231,7 +231,7 @@ TEST_F(AnalogRead, CancelledThroughTheCommandTellsSoInTheStatusBox) {
     ExpectQuestion(script);
     ExpectBox(script, "Read from Radio Status", "Cancelled by User");
     Download();
-    EXPECT_EQ(FilledRows(), 0);
+    EXPECT_EQ(FilledRows().size(), 0u);
     ExpectOver();
 }
 
@@ -245,5 +245,5 @@ TEST_F(AnalogRead, OverAPortThatVanishesTimesOutAndKeepsWhatCame) {
     DialogScript script;
     ExpectDriverBox(script, TimeoutBox);
     EXPECT_EQ(Transfer(ReadChannelsMode, peer.PortName()), TransferTimeout);
-    EXPECT_EQ(FilledRows(), 1);
+    EXPECT_EQ(FilledRows().size(), 1u);
 }

@@ -1,5 +1,5 @@
 // Channels to an analog radio, byte by byte.
-#include "tests/support/robot/Hands.h"
+#include "robot/Hands.h"
 #include "tests/transfer/AnalogDriverTest.h"
 #include "tests/transfer/CancelSpot.h"
 #include "transfer/AnalogDialogue.h"

@@ -1,7 +1,7 @@
 // Where a person finds the Cancel button of a transfer.
 #pragma once
 
-#include "tests/support/robot/ScreenSpots.h"
+#include "robot/ScreenSpots.h"
 #include "transfer/ProgressFrame.h"
 
 #include <chrono>

@@ -1,13 +1,13 @@
 #include "transfer/DebugLog.h"
 
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 #include "transfer/TransferContext.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 
 namespace fs = std::filesystem;
@@ -17,15 +17,10 @@ namespace {
 /// In an empty working directory.
 class DebugLog : public ::testing::Test {
 protected:
-    DebugLog() : m_former(fs::current_path()) {
-        std::string name = (fs::temp_directory_path() / "debug-log-XXXXXX").string();
-        m_directory = mkdtemp(name.data());
-        fs::current_path(m_directory);
-    }
+    DebugLog() : m_former(fs::current_path()) { fs::current_path(m_folder.Path()); }
     ~DebugLog() override {
         m_context.DebugLogFile.Close();
         fs::current_path(m_former);
-        fs::remove_all(m_directory);
     }
 
     /// Lets records come into a file without heading.
@@ -45,16 +40,14 @@ protected:
     /// What has been written, once no more comes.
     std::string Written(const std::string& file = "log") {
         m_context.DebugLogFile.Close();
-        std::ifstream stream(file, std::ios::binary);
-        std::stringstream text;
-        text << stream.rdbuf();
-        return text.str();
+        return testbench::ReadFile(file);
     }
 
     TRecordContext m_context;
 
 private:
-    fs::path m_former, m_directory;
+    fs::path m_former;
+    testbench::TempFolder m_folder;
 };
 
 using DebugTrace = DebugLog;

@@ -2,9 +2,9 @@
 #include "catalogue/TextNumbers.h"
 #include "commands/CommandIds.h"
 #include "files/ZelkFile_OpenSave.h"
+#include "robot/Files.h"
+#include "robot/Pump.h"
 #include "tests/support/Keys.h"
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/Pump.h"
 #include "tests/transfer/RadioUnderTest.h"
 #include "tests/transfer/TRecordDriverTest.h"
 
@@ -27,7 +27,7 @@ protected:
     /// Chooses a command of the menus.
     static void Choose(int command) {
         wxMenu* menu = nullptr;
-        ASSERT_NE(nullptr, MainFrame->GetMenuBar()->FindItem(command, &menu));
+        ASSERT_NE(MainFrame->GetMenuBar()->FindItem(command, &menu), nullptr);
         menu->SendEvent(command);
         PumpUntilIdle();
     }
@@ -67,7 +67,7 @@ protected:
         Choose(IdDownload);
         ExpectOver();
         radio.AwaitClosedPort();
-        EXPECT_EQ("", radio.Complaints());
+        EXPECT_EQ(radio.Complaints(), "");
     }
 
     using Texts = std::vector<std::string>;
@@ -91,17 +91,17 @@ protected:
         OpenByMenu(std::string(ZELK_EXAMPLES_DIR) + "/" + file);
         ValidateByMenu();
         const std::map<int, Texts> before = LinksOfPage();
-        ASSERT_EQ("S-031", CellText(32, SHAD)) << "the example has lost its shadows";
-        ASSERT_EQ("032", CellText(32, PRIM)) << "the check lets a shadow name itself";
+        ASSERT_EQ(CellText(32, SHAD), "S-031") << "the example has lost its shadows";
+        ASSERT_EQ(CellText(32, PRIM), "032") << "the check lets a shadow name itself";
         RadioUnderTest radio(model, options);
         SendAllAndReadBack(radio);
         std::map<int, Texts> after = LinksOfPage();
-        EXPECT_EQ(before.size(), after.size());
+        EXPECT_EQ(after.size(), before.size());
         for (const auto& [row, links] : before)
-            EXPECT_EQ(links, after[row]) << row;
-        EXPECT_EQ("P-3", CellText(31, SHAD));
-        EXPECT_EQ("P-2", CellText(35, SHAD));
-        EXPECT_EQ(31, ReadDecimal(Cell(32, PRIM)));
+            EXPECT_EQ(after[row], links) << row;
+        EXPECT_EQ(CellText(31, SHAD), "P-3");
+        EXPECT_EQ(CellText(35, SHAD), "P-2");
+        EXPECT_EQ(ReadDecimal(Cell(32, PRIM)), 31);
     }
 
     /// Chooses "Y" or "N" in SCAN by keys.
@@ -112,7 +112,7 @@ protected:
         PressKey("F2");
         PressKey(letter == "Y" ? "Up" : "Down");
         PressKey("Return");
-        ASSERT_EQ(letter, CellText(row, SCAN)) << row;
+        ASSERT_EQ(CellText(row, SCAN), letter) << row;
     }
 
     static std::string Path(const std::string& name, const std::string& bytes) {
@@ -156,17 +156,17 @@ TEST_F(DigitalLinks, ZonesOfTheSecondGenerationReachTheRadioBesideAPageOfTheFirs
     CreateNewPage(MainFrame, 1);
     MainFrame->m_notebook->SetSelection(0);
     PumpUntilIdle();
-    ASSERT_EQ(0, CurrentPage);
+    ASSERT_EQ(CurrentPage, 0);
     RadioUnderTest radio("KDRV-716B");
     SendAllAndReadBack(radio);
     for (const auto& [row, zone] : sent)
-        EXPECT_EQ(zone, CellText(row, ZONE)) << row;
+        EXPECT_EQ(CellText(row, ZONE), zone) << row;
     const auto records = radio.Records();
-    ASSERT_EQ(sent.size() + 1, records.size()) << "with the default row";
+    ASSERT_EQ(records.size(), sent.size() + 1) << "with the default row";
     const Texts words = {"0000", "00F0", "0100", "0110", "0120", "0130", "0140", "0150", "0160",
                          "0170", "0180", "0190", "01A0", "01B0", "01C0", "01D0", "01E0", "01F0"};
     for (std::size_t i = 0; i < words.size(); ++i)
-        EXPECT_EQ(words[i], records.at(static_cast<int>(i) + 1).substr(22, 4)) << zones[i];
+        EXPECT_EQ(records.at(static_cast<int>(i) + 1).substr(22, 4), words[i]) << zones[i];
 }
 
 TEST_F(DigitalLinks, ScanThatIsTypedReachesTheRadioAndSoDoesItsEnd) {
@@ -179,8 +179,8 @@ TEST_F(DigitalLinks, ScanThatIsTypedReachesTheRadioAndSoDoesItsEnd) {
     ChooseScan(3, "N");
     RadioUnderTest radio("KDRV-716B");
     SendAllAndReadBack(radio);
-    EXPECT_EQ((Texts{"N", "Y", "N"}), ScansOf({1, 2, 3}));
-    EXPECT_EQ((Texts{"00", "08", "00"}), (Texts{CellText(1, MFLG), CellText(2, MFLG), CellText(3, MFLG)}));
+    EXPECT_EQ(ScansOf({1, 2, 3}), (Texts{"N", "Y", "N"}));
+    EXPECT_EQ((Texts{CellText(1, MFLG), CellText(2, MFLG), CellText(3, MFLG)}), (Texts{"00", "08", "00"}));
 }
 
 TEST_F(DigitalLinks, ScanFromAChannelFileReachesTheRadio) {
@@ -193,18 +193,18 @@ TEST_F(DigitalLinks, ScanFromAChannelFileReachesTheRadio) {
     SaveZelkFile(0, false);
     UsePage(Kdrv716B);
     OpenByMenu((std::filesystem::current_path() / "scan.zelk").string());
-    ASSERT_EQ((Texts{"Y", "N"}), ScansOf({4, 5}));
+    ASSERT_EQ(ScansOf({4, 5}), (Texts{"Y", "N"}));
     RadioUnderTest radio("KDRV-716B", {"--firmware", "010203"});
     SendAllAndReadBack(radio);
-    EXPECT_EQ((Texts{"Y", "N"}), ScansOf({4, 5}));
+    EXPECT_EQ(ScansOf({4, 5}), (Texts{"Y", "N"}));
 }
 
 TEST_F(DigitalLinks, ScanFromAListReachesTheRadio) {
     const std::string list = Path("scan.csv", "MNUM,SCAN,DESC,MODE,RFRQ,TFRQ\n6,Y,ONE,n,155.1,155.1\n"
                                               "7,N,TWO,n,155.2,155.2\n8,1,THREE,n,155.3,155.3\n");
     ImportByMenu(list, "Imported 3 Lines from CSV file.");
-    ASSERT_EQ((Texts{"Y", "N", "Y"}), ScansOf({6, 7, 8}));
+    ASSERT_EQ(ScansOf({6, 7, 8}), (Texts{"Y", "N", "Y"}));
     RadioUnderTest radio("KDRV-716B");
     SendAllAndReadBack(radio);
-    EXPECT_EQ((Texts{"Y", "N", "Y"}), ScansOf({6, 7, 8}));
+    EXPECT_EQ(ScansOf({6, 7, 8}), (Texts{"Y", "N", "Y"}));
 }

@@ -1,7 +1,7 @@
 // Whole transfers between the window and simulated digital radios.
 #include "tests/transfer/DigitalRadioTest.h"
 
-#include "tests/support/robot/Hands.h"
+#include "robot/Hands.h"
 #include "tests/transfer/CancelSpot.h"
 
 #include <chrono>
@@ -72,7 +72,7 @@ TEST_F(DigitalRadio, OfTheModuleGetsAndGivesItsChannels) {
     EXPECT_EQ(TransferData(reading, CurrentGrid(), ReadChannelsMode, radio.PortName(), "Test"),
               TransferComplete);
     ExpectAllOver(radio);
-    EXPECT_EQ(FilledRows(), 3);
+    EXPECT_EQ(FilledRows().size(), 3u);
     for (const auto& [row, frequency] : channels) {
         // Nine characters come back, so that below 100 MHz there are six decimals.
         EXPECT_EQ(CellText(row, RFRQ), row == 1 ? "31.000000" : frequency);
@@ -94,7 +94,7 @@ TEST_F(DigitalRadio, GetsTheDefaultRowWhenItIsSelected) {
     SetCell(0, DESC, "");
     Read(radio, Complete);
     EXPECT_EQ(CellText(0, DESC), "START");
-    EXPECT_EQ(FilledRows(), 0);
+    EXPECT_EQ(FilledRows().size(), 0u);
     ExpectContent(radio);
     EXPECT_EQ(Addresses(radio), (std::vector<int>{0}));
 }
@@ -115,7 +115,7 @@ TEST_F(DigitalRadio, ThatIsEmptyLeavesAnEmptyPage) {
     FillP25Row(7);
     RadioUnderTest radio("KDRV-716B");
     Read(radio, Complete);
-    EXPECT_EQ(FilledRows(), 0);
+    EXPECT_EQ(FilledRows().size(), 0u);
     ExpectContent(radio);
 }
 
@@ -159,7 +159,7 @@ TEST_F(DigitalRadio, IsPurgedForAShadowAndGetsItsFamilyBack) {
     Send(radio, Complete);
     EXPECT_EQ(CountInLog(radio, PurgeMessage), 1u);
     Read(radio, Complete);
-    EXPECT_EQ(FilledRows(), 4);
+    EXPECT_EQ(FilledRows().size(), 4u);
     EXPECT_EQ(CellText(2, SHAD), "P-1");
     EXPECT_EQ(CellText(2, SHD0), "20");
     EXPECT_EQ(CellText(20, SHAD), "S-002");
@@ -307,7 +307,7 @@ TEST_F(DigitalRadio, LeavesTheRowsBeforeAClickOnCancelOnThePage) {
     });
     Read(radio, {"Cancelled by User"});
     user.join();
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
     EXPECT_TRUE(RowHasData(1) && RowHasData(2));
     ExpectContent(radio);
 }
@@ -321,7 +321,7 @@ TEST_F(DigitalRadio, ThatIsSilentIsGivenUpAfterHalfAMinute) {
     const auto took = std::chrono::steady_clock::now() - start;
     EXPECT_GE(took, std::chrono::seconds(30));
     EXPECT_LT(took, std::chrono::seconds(40));
-    EXPECT_EQ(FilledRows(), 0);
+    EXPECT_EQ(FilledRows().size(), 0u);
     ExpectContent(radio);
 }
 

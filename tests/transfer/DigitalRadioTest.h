@@ -149,7 +149,7 @@ protected:
         RadioUnderTest radio(model, options);
         Send(radio, Complete);
         Read(radio, Complete);
-        EXPECT_EQ(FilledRows(), static_cast<int>(rows.size()));
+        EXPECT_EQ(FilledRows().size(), rows.size());
         for (const int row : rows) {
             EXPECT_EQ(KeptTexts(row), before[row]) << row;
             EXPECT_EQ(CellText(row, TFLG), "C8") << row;
@@ -183,7 +183,7 @@ protected:
         Select({1, 2, 3});
         Send(radio, Complete);
         Read(radio, Complete);
-        ASSERT_EQ(FilledRows(), 3);
+        ASSERT_EQ(FilledRows().size(), 3u);
         CurrentGrid()->ClearSelection();
     }
 };

@@ -1,9 +1,9 @@
 // The window that shows a transfer.
 #include "transfer/ProgressFrame.h"
 
+#include "robot/Pump.h"
+#include "robot/ScreenSpots.h"
 #include "tests/support/Keys.h"
-#include "tests/support/robot/Pump.h"
-#include "tests/support/robot/ScreenSpots.h"
 #include "tests/transfer/WindowEnd.h"
 #include "transfer/ProgressDialog.h"
 

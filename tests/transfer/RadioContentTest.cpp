@@ -208,7 +208,7 @@ TEST_F(RadioContent, ThatAReadBrokeOffBeforeIsErasedOnlyAfterAQuestionByDepartur
     RadioUnderTest radio("KDRV-716B", {"--fault", "checksum-always@2/3"});
     Share(radio); // the radio's first two transfers
     Read(radio, {"Checksum Error", "Checksum Error on channel 1"});
-    ASSERT_LT(FilledRows(), 3);
+    ASSERT_LT(FilledRows().size(), 3u);
     MakeShadow(20, "001");
     Select({20});
     SendAsked(radio, {"Cancelled by User"}, wxID_CANCEL, RadioHoldsMore);

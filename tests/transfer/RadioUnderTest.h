@@ -1,16 +1,15 @@
 // A simulated radio that runs as a program of its own.
 #pragma once
 
-#include "tests/support/robot/Process.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/Files.h"
+#include "robot/RadioProcess.h"
+#include "robot/TempFolder.h"
 
 #include <algorithm>
 #include <chrono>
-#include <fstream>
 #include <map>
 #include <memory>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
@@ -23,24 +22,13 @@ public:
     /// model as zelk-radio takes it, such as "KRV-650:FM 138-174"; memories are lines that it starts with.
     explicit RadioUnderTest(const std::string& model, const std::vector<std::string>& options = {},
                             const std::string& memories = "") {
-        std::ofstream(MemoryFile()) << memories;
-        std::vector<std::string> command = {ZELK_RADIO,
-                                            "--model",
-                                            model,
-                                            "--memories",
-                                            MemoryFile(),
-                                            "--ports-dir",
-                                            (m_folder / "ports").string(),
-                                            "--name",
-                                            "radio",
-                                            "--log",
-                                            LogFile(),
-                                            "--key-delay",
-                                            "0"};
-        command.insert(command.end(), options.begin(), options.end());
-        m_process = std::make_unique<testbench::Process>(command);
-        if (!m_process->WaitForLine("is ready at"))
-            throw std::runtime_error("the simulated radio did not start: " + m_process->Output());
+        testbench::WriteFile(MemoryFile(), memories);
+        std::vector<std::string> arguments = {
+            "--model", model,   "--memories", MemoryFile(), "--ports-dir", m_folder / "ports",
+            "--name",  "radio", "--log",      LogFile(),    "--key-delay", "0"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        m_process = std::make_unique<testbench::RadioProcess>(ZELK_RADIO, arguments);
+        m_process->RequireReady();
     }
 
     std::string PortName() const { return (m_folder / "ports" / "radio").string(); }
@@ -67,11 +55,7 @@ public:
     }
 
     /// What the radio has heard and said so far, one event a line.
-    std::string Log() const {
-        std::ostringstream text;
-        text << std::ifstream(LogFile()).rdbuf();
-        return text.str();
-    }
+    std::string Log() const { return testbench::ReadFileIfAny(LogFile()); }
 
     /// Waits until the log has that text, for ten seconds at most.
     void AwaitInLog(const std::string& text) const {
@@ -106,15 +90,14 @@ private:
     std::vector<std::string> MemoryLines() {
         SwitchOff();
         std::vector<std::string> lines;
-        std::ifstream file(MemoryFile());
-        for (std::string line; std::getline(file, line);)
+        for (const std::string& line : testbench::ReadLines(MemoryFile()))
             if (!line.empty() && line[0] != '#')
                 lines.push_back(line);
         return lines;
     }
 
     testbench::TempFolder m_folder{"zelk-radio"};
-    std::unique_ptr<testbench::Process> m_process;
+    std::unique_ptr<testbench::RadioProcess> m_process;
 };
 
 } // namespace transfertest

@@ -10,13 +10,13 @@
 
 namespace transfertest {
 
-using RowTexts = std::array<std::string, ColumnTotal>;
+using CellTexts = std::array<std::string, ColumnTotal>;
 
 /// What a column's cell is after its way; a column without a rule comes back as it was.
 struct ColumnRule {
     std::vector<int> columns;
     const char* reason;
-    std::string (*after)(const RowTexts& before, int column);
+    std::string (*after)(const CellTexts& before, int column);
     /// Former text of a cell that is painted, since what came for it wasn't in its list.
     const char* painted = "";
 };
@@ -83,7 +83,7 @@ public:
             Link(family);
     }
 
-    const std::map<int, RowTexts>& Rows() const { return m_cells; }
+    const std::map<int, CellTexts>& Rows() const { return m_cells; }
 
 private:
     static bool IsShadow(int row) {
@@ -100,7 +100,7 @@ private:
         return text.substr(0, m_decimals == 5 && text[8] != '0' ? 9 : 8);
     }
 
-    RowTexts Plain(int row) const {
+    CellTexts Plain(int row) const {
         const auto pick = [](const std::vector<std::string>& list, int at) {
             return list[static_cast<std::size_t>(at) % list.size()];
         };
@@ -109,7 +109,7 @@ private:
         };
         const bool digital = row % 3 == 2;
         const int lastDigit = m_decimals == 5 && row % 8 == 5 ? 1250 : 0;
-        RowTexts cells;
+        CellTexts cells;
         cells[MFLG] = row % 5 == 3 ? "08" : "00";
         cells[MNUM] = cells[PRIM] = Formatted("%03d", row);
         cells[SHAD] = "N";
@@ -138,7 +138,7 @@ private:
     }
 
     void Link(const Family& family) {
-        RowTexts& primary = m_cells[family.primary];
+        CellTexts& primary = m_cells[family.primary];
         int count = 0;
         for (int slot = 0; slot < 7; ++slot) {
             const int row = family.shadows[static_cast<std::size_t>(slot)];
@@ -146,7 +146,7 @@ private:
                 continue;
             ++count;
             primary[static_cast<std::size_t>(SHD0 + slot)] = Formatted("%03d", row);
-            RowTexts& shadow = m_cells[row];
+            CellTexts& shadow = m_cells[row];
             shadow[MFLG] = Formatted("%02X", slot + 1);
             shadow[PRIM] = Formatted("%03d", family.primary);
             shadow[SHAD] = "S-" + shadow[PRIM];
@@ -161,54 +161,54 @@ private:
 
     bool m_squelchValues;
     int m_decimals;
-    std::map<int, RowTexts> m_cells;
+    std::map<int, CellTexts> m_cells;
 };
 
 // ---- What happens to cells ----
 
-inline std::string WithoutZeros(const RowTexts& before, int column) {
+inline std::string WithoutZeros(const CellTexts& before, int column) {
     return std::to_string(std::stoi(before[static_cast<std::size_t>(column)]));
 }
-inline std::string Emptied(const RowTexts&, int) {
+inline std::string Emptied(const CellTexts&, int) {
     return "";
 }
-inline std::string OwnZoneOnly(const RowTexts& before, int) {
+inline std::string OwnZoneOnly(const CellTexts& before, int) {
     return before[SHAD].starts_with("S") ? "" : before[ZONE];
 }
-inline std::string Trimmed(const RowTexts& before, int column) {
+inline std::string Trimmed(const CellTexts& before, int column) {
     const std::string& text = before[static_cast<std::size_t>(column)];
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
-inline std::string NineCharacters(const RowTexts& before, int column) {
+inline std::string NineCharacters(const CellTexts& before, int column) {
     return (before[static_cast<std::size_t>(column)] + "00000").substr(0, 9);
 }
-inline std::string EightCharacters(const RowTexts& before, int column) {
+inline std::string EightCharacters(const CellTexts& before, int column) {
     return before[static_cast<std::size_t>(column)].substr(0, 8);
 }
-inline std::string KnownTone(const RowTexts& before, int column) {
+inline std::string KnownTone(const CellTexts& before, int column) {
     const std::string& text = before[static_cast<std::size_t>(column)];
     return text == "OFF" ? DefaultTone : text;
 }
-inline std::string KnownCode(const RowTexts& before, int column) {
+inline std::string KnownCode(const CellTexts& before, int column) {
     const std::string& text = before[static_cast<std::size_t>(column)];
     return text == "OFF" ? DefaultCode : text;
 }
-inline std::string NextCode(const RowTexts& before, int column) {
+inline std::string NextCode(const CellTexts& before, int column) {
     for (std::size_t at = 0; at + 1 < Codes.size(); ++at)
         if (Codes[at] == before[static_cast<std::size_t>(column)])
             return Codes[at + 1];
     return DefaultCode;
 }
-inline std::string SevenDigits(const RowTexts& before, int column) {
+inline std::string SevenDigits(const CellTexts& before, int column) {
     return Formatted("%07d", std::stoi(before[static_cast<std::size_t>(column)]));
 }
-inline std::string TwoPlaces(const RowTexts& before, int column) {
+inline std::string TwoPlaces(const CellTexts& before, int column) {
     return Formatted("%2d", std::stoi(before[static_cast<std::size_t>(column)]));
 }
-inline std::string Ten(const RowTexts&, int) {
+inline std::string Ten(const CellTexts&, int) {
     return "10";
 }
-inline std::string ReadFlags(const RowTexts&, int) {
+inline std::string ReadFlags(const CellTexts&, int) {
     return "C8";
 }
 

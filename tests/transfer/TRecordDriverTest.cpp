@@ -90,7 +90,7 @@ TEST_F(TRecordDriver, WithoutThePortTellsSo) {
     ExpectDriverBox(script, "Invalid COM Port (or Port in use)");
     EXPECT_EQ(TransferData(m_context, CurrentGrid(), WriteChannelsMode, NoSuchPort, "Test"),
               TransferPortError);
-    EXPECT_EQ(FileText("Zelk.log"), "");
+    EXPECT_EQ(ReadFile("Zelk.log"), "");
     EXPECT_EQ(CellText(1, TFLG), "A0") << "the page is untouched";
     ExpectOver();
 }
@@ -469,7 +469,7 @@ TEST_F(TRecordDriver, KeepsWhatIsReadBeforeAFailure) {
     EXPECT_EQ(Converse(Transcript(UpToProgramLine(Transcript::FromFile("protocol0_read"), 6) + "@cancel\n"),
                        ReadChannelsMode),
               TransferCancelled);
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
 }
 
 TEST_F(TRecordDriver, HardwareWithoutALogHasNoSerialNumberAndNoFile) {
@@ -499,14 +499,14 @@ TEST_F(TRecordDriver, HardwareFileOfAnInterruptedReadIsClosedWithWhatCame) {
                                   DataRecord("Board 3") + Sends("T204000000") + "@cancel\n" + End),
                        ReadInformationMode),
               TransferCancelled);
-    EXPECT_NE(FileText("Logs/K7A42.txt").find("Board 3\n"), std::string::npos);
+    EXPECT_NE(ReadFile("Logs/K7A42.txt").find("Board 3\n"), std::string::npos);
 }
 
 TEST_F(TRecordDriver, SerialNumberLeadsToNoOtherFolder) {
     m_context.LogFile.Open("Zelk.log", "w");
     std::filesystem::create_directories("Logs/deep");
     std::filesystem::create_directory("KDRV-716_..");
-    std::ofstream("precious.txt") << "precious";
+    WriteFile("precious.txt", "precious");
     for (const char* serial : {"../precious", "deep/new", "../new", "..\\new", "a\nb"}) {
         SCOPED_TRACE(serial);
         EXPECT_EQ(
@@ -516,7 +516,7 @@ TEST_F(TRecordDriver, SerialNumberLeadsToNoOtherFolder) {
         EXPECT_FALSE(m_context.HardwareFile.IsOpened());
         EXPECT_FALSE(m_context.DebugLogFile.IsOpened());
     }
-    EXPECT_EQ(FileText("precious.txt"), "precious");
+    EXPECT_EQ(ReadFile("precious.txt"), "precious");
     EXPECT_FALSE(std::filesystem::exists("new.txt"));
     EXPECT_TRUE(std::filesystem::is_empty("Logs/deep"));
     EXPECT_TRUE(std::filesystem::is_empty("KDRV-716_.."));
@@ -542,7 +542,7 @@ TEST_F(TRecordDriver, DebugLogThatEndsInsideAMessageKeepsIt) {
                                   Sends("T204000000") + Says("T9030000")),
                        ReadDebugLogMode),
               TransferComplete);
-    const std::string log = FileText("KDRV-716_UNKNOWN_Dbg.log");
+    const std::string log = ReadFile("KDRV-716_UNKNOWN_Dbg.log");
     EXPECT_TRUE(log.ends_with("Msg: HI\n")) << log;
 }
 
@@ -585,7 +585,7 @@ TEST_F(TRecordDriver, ServesTheReadCommand) {
     ExpectBox(script, "Read from Radio Status", "Complete");
     Download();
     EXPECT_EQ(peer.Finish(), "");
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
     EXPECT_EQ(CellText(4, RFRQ), "154.12500");
 }
 

@@ -1,7 +1,7 @@
 // The digital driver against radios that the test plays.
 #pragma once
 
-#include "tests/support/robot/TempFolder.h"
+#include "robot/TempFolder.h"
 #include "tests/transfer/CancelFromPeer.h"
 #include "tests/transfer/Transcript.h"
 #include "tests/transfer/TransferTest.h"
@@ -12,7 +12,6 @@
 #include "transfer/TransferStatus.h"
 
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <wx/gauge.h>
 #include <wx/stattext.h>
@@ -112,20 +111,14 @@ protected:
             SetCell(row, column, "0");
     }
 
-    static void AskForWorkingLog() { std::ofstream("Zelk.log") << "former text\n"; }
-
-    static std::string FileText(const std::string& name) {
-        std::ostringstream text;
-        text << std::ifstream(name).rdbuf();
-        return text.str();
-    }
+    static void AskForWorkingLog() { testbench::WriteFile("Zelk.log", "former text\n"); }
 
     /// One transfer by the file of a transcript, with a log that is held against it too.
     int TransferBy(const std::string& name, int mode) {
         SCOPED_TRACE(name);
         AskForWorkingLog();
         const int status = Transfer(Transcript::FromFile(name), mode);
-        EXPECT_EQ(LogWithoutStamps(FileText("Zelk.log")), Transcript::FromFile(name).Log());
+        EXPECT_EQ(LogWithoutStamps(testbench::ReadFile("Zelk.log")), Transcript::FromFile(name).Log());
         return status;
     }
 

@@ -49,7 +49,7 @@ TEST_P(TRecordGeneration, IsWrittenTo) {
 
 TEST_P(TRecordGeneration, IsReadFrom) {
     EXPECT_EQ(TransferBy(Name("read"), ReadChannelsMode), TransferComplete);
-    EXPECT_EQ(FilledRows(), 2);
+    EXPECT_EQ(FilledRows().size(), 2u);
     for (const int row : {1, 4}) {
         EXPECT_EQ(CellText(row, MNUM), IsLatest() ? std::to_string(row) : "00" + std::to_string(row));
         EXPECT_EQ(CellText(row, DESC), "HILL");
@@ -88,7 +88,7 @@ TEST_P(TRecordGeneration, TakesAConfigurationOnlyIfItIsTheLatest) {
 
 TEST_P(TRecordGeneration, TellsItsHardwareOnlyIfItIsTheLatest) {
     std::filesystem::create_directory("Logs");
-    std::ofstream("Logs/K7A42.txt") << "a former text that is longer than the one that takes its place";
+    WriteFile("Logs/K7A42.txt", "a former text that is longer than the one that takes its place");
     EXPECT_EQ(TransferBy(Name("hardware"), ReadInformationMode), TransferComplete);
     if (!IsLatest()) {
         EXPECT_EQ(Text(m_context.RadioSerial), "UNKNOWN");
@@ -101,18 +101,18 @@ TEST_P(TRecordGeneration, TellsItsHardwareOnlyIfItIsTheLatest) {
     ExpectMatch(Text(m_context.InfoLines[0]), std::string("Date: ") + Date);
     EXPECT_EQ(Text(m_context.InfoLines[1]), "Board 3");
     EXPECT_EQ(Text(m_context.InfoLines[2]), "RF 1.7");
-    ExpectMatch(FileText("Logs/K7A42.txt"), std::string("Date: ") + Date + "\nBoard 3\nRF 1\\.7\n");
+    ExpectMatch(ReadFile("Logs/K7A42.txt"), std::string("Date: ") + Date + "\nBoard 3\nRF 1\\.7\n");
     EXPECT_FALSE(std::filesystem::exists("KDRV-716_K7A42_Dbg.log"));
 }
 
 TEST_P(TRecordGeneration, GivesItsDebugLog) {
     const std::string file = IsLatest() ? "KDRV-716_K7A42_Dbg.log" : "KDRV-716_UNKNOWN_Dbg.log";
-    std::ofstream(file) << "a former log";
+    WriteFile(file, "a former log");
     EXPECT_EQ(TransferBy(Name("debug_log"), ReadDebugLogMode), TransferComplete);
     const std::string heading =
         std::string("SN,") + (IsLatest() ? "K7A42" : "UNKNOWN") + "\nDate," + Date +
         "Timestamp,Flags,Main_RxTx_State,Guard_RxTx_State,MB_Temp,MCU_Temp,MainRF_Temp,GuardRF_Temp\n";
-    ExpectMatch(FileText(file), heading + (IsLatest() ? "12:30:15,1,1,2,25,-1,30,-128\n"
+    ExpectMatch(ReadFile(file), heading + (IsLatest() ? "12:30:15,1,1,2,25,-1,30,-128\n"
                                                         "12:31:16,8,0,0,258,772\n"
                                                       : "Rx:0200: Hi\nTx:0200:   ok\n"));
 }
@@ -193,7 +193,7 @@ TEST_F(TRecordGolden, WriteSurvivesTrouble) {
 
 TEST_F(TRecordGolden, ReadSurvivesTrouble) {
     EXPECT_EQ(TransferBy("read_trouble", ReadChannelsMode), TransferComplete);
-    EXPECT_EQ(FilledRows(), 3);
+    EXPECT_EQ(FilledRows().size(), 3u);
 }
 
 TEST_F(TRecordGolden, UserSaysYesToDisabledModes) {
@@ -266,7 +266,7 @@ TEST_F(TRecordGolden, SecondGarbledRecordEndsARead) {
     DialogScript script;
     ExpectDriverBox(script, "Checksum Error on channel 0");
     EXPECT_EQ(TransferBy("read_garbled_twice", ReadChannelsMode), TransferChecksumError);
-    EXPECT_EQ(FilledRows(), 0);
+    EXPECT_EQ(FilledRows().size(), 0u);
 }
 
 TEST_F(TRecordGolden, OldFirmwareIsFoundOutBeforeAnyMemoryIsTouched) {

@@ -47,12 +47,40 @@ inline constexpr Page K7 = K6.OnBand(RadioCatalogue::K7Module);
 inline constexpr Page Krv620AM(Krv620, 1);
 inline constexpr Page Fxam = Page(Krv47).OfType(RadioCatalogue::FXAM);
 
-// The fields of a record, in its order. What a field holds is told by the printed layout of the record; the
-// two digits of a byte stand together.
+// The fields of a record, in its order, with what they hold in the record of the usual memory. A case names
+// only the fields that it changes. What a field holds is told by the printed layout of the record; the two
+// digits of a byte stand together.
 struct V1Line {
-    std::string tag, address, flags, primary, number, zone, description, separator, mode, rxFrequency, rxTag,
-        rxSquelch, rxGroup, rxTone, rxCode, rxNac, txFrequency, txTag, txSquelch, txGroup, txTone, txCode,
-        txNac, unitId, shadows, squelch, reserved1, flagsHigh, reserved2;
+    std::string tag = "T143";
+    std::string address = "0005";
+    std::string flags = "00";
+    std::string primary = "05";
+    std::string number = "05";
+    std::string zone = "20";
+    std::string description = "48494C4C20342020";
+    std::string separator = "20";
+    std::string mode = "6E";
+    std::string rxFrequency = "3135342E31323530";
+    std::string rxTag = "52";
+    std::string rxSquelch = "74";
+    std::string rxGroup = "0A1B";
+    std::string rxTone = "0D";
+    std::string rxCode = "01";
+    std::string rxNac = "0293";
+    std::string txFrequency = "3135392E30303030";
+    std::string txTag = "54";
+    std::string txSquelch = "63";
+    std::string txGroup = "FFFE";
+    std::string txTone = "01";
+    std::string txCode = "01";
+    std::string txNac = "0F7E";
+    std::string unitId = "0012D687";
+    std::string shadows = "00000000000000";
+    std::string squelch = "0A";
+    std::string reserved1 = "0000";
+    std::string flagsHigh = "00";
+    std::string reserved2 = "000000";
+
     std::string Text() const {
         return tag + address + flags + primary + number + zone + description + separator + mode +
                rxFrequency + rxTag + rxSquelch + rxGroup + rxTone + rxCode + rxNac + txFrequency + txTag +
@@ -61,9 +89,34 @@ struct V1Line {
     }
 };
 struct V2Line {
-    std::string tag, address, flags, primary, number, zone, description, separator, mode, rxFrequency, rxTag,
-        rxSquelch, rxTone, rxCode, rxSquelchNac, rxGroup, txFrequency, txTag, txSquelch, txTone, txCode,
-        txNac, txGroup, unitId, shadows, reserved1, reserved2;
+    std::string tag = "T143";
+    std::string address = "0005";
+    std::string flags = "0000";
+    std::string primary = "0005";
+    std::string number = "0005";
+    std::string zone = "0020";
+    std::string description = "48494C4C20342020";
+    std::string separator = "20";
+    std::string mode = "6E";
+    std::string rxFrequency = "092FC2C8";
+    std::string rxTag = "52";
+    std::string rxSquelch = "74";
+    std::string rxTone = "0D";
+    std::string rxCode = "02";
+    std::string rxSquelchNac = "3293";
+    std::string rxGroup = "0A1B";
+    std::string txFrequency = "097A25C0";
+    std::string txTag = "54";
+    std::string txSquelch = "63";
+    std::string txTone = "01";
+    std::string txCode = "01";
+    std::string txNac = "0F7E";
+    std::string txGroup = "FFFE";
+    std::string unitId = "0012D687";
+    std::string shadows = "0000000000000000000000000000";
+    std::string reserved1 = "0000";
+    std::string reserved2 = "0000";
+
     std::string Text() const {
         return tag + address + flags + primary + number + zone + description + separator + mode +
                rxFrequency + rxTag + rxSquelch + rxTone + rxCode + rxSquelchNac + rxGroup + txFrequency +

@@ -24,7 +24,7 @@ protected:
 
     std::string Log() {
         m_context.LogFile.Flush();
-        return FileText("report.log");
+        return ReadFile("report.log");
     }
 
     PseudoTerminal m_port;

@@ -48,31 +48,31 @@ TEST_F(TRecordRules, ThePrimaryOfAShadowIsTheNumberInShadSoThatACheckedPageKeeps
         {"01", "N", "", 0},         {"00", "N", "abc", 0},       {"02", "s-010", "012", 12},
     };
     for (const auto& c : cases)
-        EXPECT_EQ(c.number, PrimaryNumber(c.flags, c.shad, c.prim))
+        EXPECT_EQ(PrimaryNumber(c.flags, c.shad, c.prim), c.number)
             << c.flags << " " << c.shad << " " << c.prim;
 }
 
 TEST_F(TRecordRules, ThePrimaryOfAShadowGoesOutInBothLayouts) {
     m_source.cells[MFLG] = "02";
     m_source.cells[SHAD] = "S-010";
-    EXPECT_EQ("0A", V1(10, 2));
-    EXPECT_EQ("0C", V1(12, 2));
-    EXPECT_EQ("000A", V2(12, 4));
-    EXPECT_EQ("000C", V2(16, 4));
+    EXPECT_EQ(V1(10, 2), "0A");
+    EXPECT_EQ(V1(12, 2), "0C");
+    EXPECT_EQ(V2(12, 4), "000A");
+    EXPECT_EQ(V2(16, 4), "000C");
     m_source.cells[MFLG] = "00";
-    EXPECT_EQ("0C", V1(10, 2));
-    EXPECT_EQ("000C", V2(12, 4));
+    EXPECT_EQ(V1(10, 2), "0C");
+    EXPECT_EQ(V2(12, 4), "000C");
 }
 
 TEST_F(TRecordRules, ThePrimaryOfAGuardRowIsMovedInTheOldLayoutWhereverItComesFrom) {
     m_source.row = 501;
     m_source.cells[MNUM] = m_source.cells[PRIM] = "501";
-    EXPECT_EQ("E7", V1(10, 2));
-    EXPECT_EQ("01F5", V2(12, 4));
+    EXPECT_EQ(V1(10, 2), "E7");
+    EXPECT_EQ(V2(12, 4), "01F5");
     m_source.cells[MFLG] = "01";
     m_source.cells[SHAD] = "S-502";
-    EXPECT_EQ("E8", V1(10, 2));
-    EXPECT_EQ("01F6", V2(12, 4));
+    EXPECT_EQ(V1(10, 2), "E8");
+    EXPECT_EQ(V2(12, 4), "01F6");
 }
 
 TEST_F(TRecordRules, ScanTellsTheScanFlagSoThatWhatIsSeenIsWhatTheRadioScans) {
@@ -91,18 +91,18 @@ TEST_F(TRecordRules, ScanTellsTheScanFlagSoThatWhatIsSeenIsWhatTheRadioScans) {
             m_source.cells[MFLG] = c.flags;
             m_source.cells[SCAN] = c.scan;
             const std::string text = std::string(c.flags) + " " + c.scan + " " + std::to_string(type);
-            EXPECT_EQ(wxString::Format("%04X", static_cast<unsigned>(c.sent)), V2(8, 4)) << text;
-            EXPECT_EQ(wxString::Format("%02X", static_cast<unsigned>(c.sent & 0x7F)), V1(8, 2)) << text;
-            EXPECT_EQ(wxString::Format("%02X", static_cast<unsigned>(c.sent >> 8)), V1(128, 2)) << text;
+            EXPECT_EQ(V2(8, 4), wxString::Format("%04X", static_cast<unsigned>(c.sent))) << text;
+            EXPECT_EQ(V1(8, 2), wxString::Format("%02X", static_cast<unsigned>(c.sent & 0x7F))) << text;
+            EXPECT_EQ(V1(128, 2), wxString::Format("%02X", static_cast<unsigned>(c.sent >> 8))) << text;
         }
 }
 
 TEST_F(TRecordRules, TheScanFlagKeepsCompanyWithTheMarkOfTheLastRows) {
     m_source.row = 502;
     m_source.cells[SCAN] = "Y";
-    EXPECT_EQ("88", V1(8, 2));
+    EXPECT_EQ(V1(8, 2), "88");
     m_source.cells[SCAN] = "N";
-    EXPECT_EQ("80", V1(8, 2));
+    EXPECT_EQ(V1(8, 2), "80");
 }
 
 TEST_F(TRecordRules, ScanOfOtherPagesIsNoLetterAndLeavesTheFlags) {
@@ -110,10 +110,10 @@ TEST_F(TRecordRules, ScanOfOtherPagesIsNoLetterAndLeavesTheFlags) {
     for (const char* scan : {"Y", "N", "0", "31", ""}) {
         m_source.cells[SCAN] = scan;
         m_source.cells[MFLG] = "08";
-        EXPECT_EQ("0008", V2(8, 4)) << scan;
-        EXPECT_EQ("08", V1(8, 2)) << scan;
+        EXPECT_EQ(V2(8, 4), "0008") << scan;
+        EXPECT_EQ(V1(8, 2), "08") << scan;
         m_source.cells[MFLG] = "00";
-        EXPECT_EQ("0000", V2(8, 4)) << scan;
-        EXPECT_EQ("00", V1(8, 2)) << scan;
+        EXPECT_EQ(V2(8, 4), "0000") << scan;
+        EXPECT_EQ(V1(8, 2), "00") << scan;
     }
 }

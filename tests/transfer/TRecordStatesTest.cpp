@@ -42,58 +42,60 @@ protected:
 } // namespace
 
 TEST_F(TRecordState, HasItsLine) {
-    const std::string anyStamp = "T20B000021";
+    const std::string stampLine = "T20B000021";
     struct {
         int index, mode;
         std::string line;
     } const cases[] = {
-        {-10, 0, "T007000020030000"},
-        {-10, 1, "T007000020030000"},
-        {-10, 5, "T007000020030000"},
-        {-9, 0, "T2060000320480"},
-        {-9, 4, "T2060000320480"},
-        {-8, 0, "T204000033"},
-        {-8, 5, "T204000033"},
-        {-7, 1, "T204000031"},
-        {-7, 0, "T204000031"},
-        {-6, 1, "T204000000"},
-        {-6, 0, "T204000000"},
-        {-5, 0, "T204000022"},
-        {-5, 1, "T204000022"},
-        {-5, 2, "T204000022"},
-        {-5, 3, "T204000022"},
-        {-5, 5, "T204000022"},
-        {-4, 0, "T204000020"},
-        {-4, 1, anyStamp},
-        {-4, 2, anyStamp},
-        {-4, 3, anyStamp},
-        {-4, 5, anyStamp},
-        {-3, 0, "T204000025"},
-        {-3, 1, "T204000024"},
-        {-3, 2, "T204000034"},
-        {-3, 3, "T204000035"},
-        {-3, 5, "T204000030"},
-        {-2, 0, ""},
-        {-2, 1, ""},
-        {-2, 3, ""},
-        {-1, 0, ""},
-        {-1, 1, ""},
-        {-1, 2, ""},
-        {-1, 3, ""},
-        {-1, 5, ""},
-        {0, 1, "T204000000"},
-        {700, 1, "T204000000"},
-        {0, 2, "T204000000"},
-        {0, 5, "T204000000"},
-        {0, 3, "T107000043523030"},
-        {1, 3, "T104000041"},
-        {1, 0, ""},
+        {HelloState, WriteChannelsMode, "T007000020030000"},
+        {HelloState, ReadChannelsMode, "T007000020030000"},
+        {HelloState, ReadDebugLogMode, "T007000020030000"},
+        {SpeedState, WriteChannelsMode, "T2060000320480"},
+        {SpeedState, ReadInformationMode, "T2060000320480"},
+        {OpModeState, WriteChannelsMode, "T204000033"},
+        {OpModeState, ReadDebugLogMode, "T204000033"},
+        {HardwareState, ReadChannelsMode, "T204000031"},
+        {HardwareState, WriteChannelsMode, "T204000031"},
+        {HardwareTextState, ReadChannelsMode, "T204000000"},
+        {HardwareTextState, WriteChannelsMode, "T204000000"},
+        {VersionState, WriteChannelsMode, "T204000022"},
+        {VersionState, ReadChannelsMode, "T204000022"},
+        {VersionState, ReadConfigMode, "T204000022"},
+        {VersionState, WriteConfigMode, "T204000022"},
+        {VersionState, ReadDebugLogMode, "T204000022"},
+        {StampState, WriteChannelsMode, "T204000020"},
+        {StampState, ReadChannelsMode, stampLine},
+        {StampState, ReadConfigMode, stampLine},
+        {StampState, WriteConfigMode, stampLine},
+        {StampState, ReadDebugLogMode, stampLine},
+        {OpeningState, WriteChannelsMode, "T204000025"},
+        {OpeningState, ReadChannelsMode, "T204000024"},
+        {OpeningState, ReadConfigMode, "T204000034"},
+        {OpeningState, WriteConfigMode, "T204000035"},
+        {OpeningState, ReadDebugLogMode, "T204000030"},
+        {PurgeState, WriteChannelsMode, ""},
+        {PurgeState, ReadChannelsMode, ""},
+        {PurgeState, WriteConfigMode, ""},
+        {DataState, WriteChannelsMode, ""},
+        {DataState, ReadChannelsMode, ""},
+        {DataState, ReadConfigMode, ""},
+        {DataState, WriteConfigMode, ""},
+        {DataState, ReadDebugLogMode, ""},
+        {0, ReadChannelsMode, "T204000000"},
+        {700, ReadChannelsMode, "T204000000"},
+        {0, ReadConfigMode, "T204000000"},
+        {0, ReadDebugLogMode, "T204000000"},
+        {0, WriteConfigMode, "T107000043523030"},
+        {1, WriteConfigMode, "T104000041"},
+        {1, WriteChannelsMode, ""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE("index " + std::to_string(c.index) + ", mode " + std::to_string(c.mode));
         const std::string line = Choose(c.index, c.mode);
-        EXPECT_EQ(c.line == anyStamp ? line.substr(0, 10) : line, c.line);
-        EXPECT_EQ(line.substr(0, 10) != anyStamp || line == anyStamp + Text(RadioStamp), true) << line;
+        EXPECT_EQ(c.line == stampLine ? stampLine + Text(RadioStamp) : c.line, line);
+        if (c.line == stampLine) {
+            EXPECT_FALSE(RadioStamp.empty());
+        }
         EXPECT_EQ(m_status, 0);
         EXPECT_EQ(m_context.Index, c.index);
     }
@@ -104,20 +106,20 @@ TEST_F(TRecordState, OfTheHelloNamesTheProtocol) {
         {0, "T007000020030000"}, {1, "T007000021030000"}, {2, "T007000022030000"}, {9, "T007000029030000"}};
     for (const auto& [protocol, line] : cases) {
         m_context.Protocol = protocol;
-        EXPECT_EQ(Choose(-10, 0), line);
+        EXPECT_EQ(Choose(HelloState, WriteChannelsMode), line);
     }
 }
 
 TEST_F(TRecordState, OfTheVersionEndsAReadOfTheHardware) {
-    EXPECT_EQ(Choose(-5, 4), "");
+    EXPECT_EQ(Choose(VersionState, ReadInformationMode), "");
     EXPECT_EQ(m_status, 1);
 }
 
 TEST_F(TRecordState, OfTheVersionAsksForModesOnlyInAWrite) {
     m_context.InvalidModes = AllModes;
     const DialogScript noBox;
-    for (const int mode : {1, 2, 3, 5})
-        EXPECT_EQ(Choose(-5, mode), "T204000022") << mode;
+    for (const int mode : {ReadChannelsMode, ReadConfigMode, WriteConfigMode, ReadDebugLogMode})
+        EXPECT_EQ(Choose(VersionState, mode), "T204000022") << mode;
 }
 
 TEST_F(TRecordState, OfTheVersionNamesAllModesThatTheRadioLacks) {
@@ -134,15 +136,18 @@ TEST_F(TRecordState, OfTheVersionNamesAllModesThatTheRadioLacks) {
             "\nDo you wish to continue the transfer?",
             wxID_YES)
         .Style(wxYES_NO | wxICON_WARNING | wxCENTRE);
-    EXPECT_EQ(Choose(-5, 0), "T204000022");
+    EXPECT_EQ(Choose(VersionState, WriteChannelsMode), "T204000022");
     EXPECT_EQ(m_status, 0);
 }
 
 TEST_F(TRecordState, OfTheOpeningSetsTheGaugesRange) {
-    const std::pair<int, int> cases[] = {{0, 503}, {1, 503}, {2, 503}, {3, 2}, {4, 255}, {5, 255}};
+    const std::pair<int, int> cases[] = {
+        {WriteChannelsMode, 503}, {ReadChannelsMode, 503},    {ReadConfigMode, 503},
+        {WriteConfigMode, 2},     {ReadInformationMode, 255}, {ReadDebugLogMode, 255},
+    };
     for (const auto& [mode, range] : cases) {
         m_attachment->Gauge()->SetRange(503);
-        Choose(-3, mode);
+        Choose(OpeningState, mode);
         EXPECT_EQ(m_attachment->Gauge()->GetRange(), range) << "mode " << mode;
     }
 }
@@ -156,9 +161,11 @@ TEST_F(TRecordState, OfTheOpeningAsksOnlyWhereAnUnknownRadioWouldLoseMoreThanIsS
         std::initializer_list<int> selected;
         bool asks;
     } const cases[] = {
-        {0x08, 0, {1}, true},       {0x08, 0, {502}, true}, {0x08, 0, {}, true},   {0x0A, 0, {1}, true},
-        {0x08, 0, {1, 502}, false}, {0x02, 0, {1}, false},  {0x04, 0, {1}, false}, {0x00, 0, {1}, false},
-        {0x08, 1, {1}, false},      {0x08, 3, {1}, false},
+        {0x08, WriteChannelsMode, {1}, true},       {0x08, WriteChannelsMode, {502}, true},
+        {0x08, WriteChannelsMode, {}, true},        {0x0A, WriteChannelsMode, {1}, true},
+        {0x08, WriteChannelsMode, {1, 502}, false}, {0x02, WriteChannelsMode, {1}, false},
+        {0x04, WriteChannelsMode, {1}, false},      {0x00, WriteChannelsMode, {1}, false},
+        {0x08, ReadChannelsMode, {1}, false},       {0x08, WriteConfigMode, {1}, false},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
@@ -169,7 +176,7 @@ TEST_F(TRecordState, OfTheOpeningAsksOnlyWhereAnUnknownRadioWouldLoseMoreThanIsS
             if (c.asks)
                 ExpectPurgeQuestion(script, answer);
             const bool refused = c.asks && answer == wxID_CANCEL;
-            EXPECT_EQ(Choose(-3, c.mode).empty(), refused);
+            EXPECT_EQ(Choose(OpeningState, c.mode).empty(), refused);
             EXPECT_EQ(m_status, refused ? TransferCancelled : TransferOk);
         }
     }
@@ -179,13 +186,13 @@ TEST_F(TRecordState, OfThePurgeNeedsOneOfFourReasonsAndAWrite) {
     for (const std::uint32_t reason : {0x01u, 0x02u, 0x04u, 0x08u}) {
         RadioStamp = KnownStamp;
         m_context.XferFlags = 0x30 | reason;
-        EXPECT_EQ(Choose(-2, 0), "T204000011") << reason;
+        EXPECT_EQ(Choose(PurgeState, WriteChannelsMode), "T204000011") << reason;
         EXPECT_EQ(m_context.XferFlags, 0x33 | reason);
         EXPECT_EQ(Text(m_context.StatusText), "Purging Radio....");
         EXPECT_EQ(Text(RadioStamp), "") << "no radio is known until the write is complete";
         m_context.XferFlags = 0x30 | reason;
         RadioStamp = KnownStamp;
-        EXPECT_EQ(Choose(-2, 1), "") << reason;
+        EXPECT_EQ(Choose(PurgeState, ReadChannelsMode), "") << reason;
         EXPECT_EQ(m_context.XferFlags, 0x30 | reason);
         EXPECT_EQ(Text(RadioStamp), KnownStamp);
     }
@@ -193,21 +200,24 @@ TEST_F(TRecordState, OfThePurgeNeedsOneOfFourReasonsAndAWrite) {
 
 TEST_F(TRecordState, BeforeTheDataHasItsText) {
     const std::pair<int, const char*> cases[] = {
-        {0, "Sending Primary Memory Data...."}, {1, "Receiving Memory Data...."},
-        {2, "Receiving Config Data...."},       {3, "Sending Config Data...."},
-        {4, "Receiving Debug Log Data...."},    {5, "Receiving Debug Log Data...."},
+        {WriteChannelsMode, "Sending Primary Memory Data...."},
+        {ReadChannelsMode, "Receiving Memory Data...."},
+        {ReadConfigMode, "Receiving Config Data...."},
+        {WriteConfigMode, "Sending Config Data...."},
+        {ReadInformationMode, "Receiving Debug Log Data...."},
+        {ReadDebugLogMode, "Receiving Debug Log Data...."},
     };
     for (const auto& [mode, text] : cases) {
-        Choose(-1, mode);
+        Choose(DataState, mode);
         EXPECT_EQ(Text(m_context.StatusText), text) << "mode " << mode;
     }
 }
 
 TEST_F(TRecordState, OfConfigurationLinesEndsBehindTheLast) {
     m_attachment->Gauge()->SetRange(2);
-    Choose(1, 3);
+    Choose(1, WriteConfigMode);
     EXPECT_EQ(m_attachment->Gauge()->GetValue(), 2);
     EXPECT_EQ(m_status, 0);
-    EXPECT_EQ(Choose(2, 3), "");
+    EXPECT_EQ(Choose(2, WriteConfigMode), "");
     EXPECT_EQ(m_status, 1);
 }

@@ -1,13 +1,12 @@
 // Whole conversations with a digital radio, as text that a person can read.
 #pragma once
 
+#include "robot/Files.h"
 #include "tests/transfer/RadioPeer.h"
 
 #include <atomic>
-#include <fstream>
 #include <functional>
 #include <sstream>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -52,12 +51,7 @@ public:
     }
 
     static Transcript FromFile(const std::string& name) {
-        std::ifstream file(std::string(ZELK_TRANSCRIPTS) + "/" + name + ".txt");
-        if (!file)
-            throw std::runtime_error("no transcript " + name);
-        std::ostringstream text;
-        text << file.rdbuf();
-        return Transcript(text.str());
+        return Transcript(testbench::ReadFile(std::string(ZELK_TRANSCRIPTS) + "/" + name + ".txt"));
     }
 
     const std::vector<std::string>& Lines() const { return m_lines; }

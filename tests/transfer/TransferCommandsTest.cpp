@@ -81,7 +81,7 @@ TEST_F(ReadCommand, WithAPortThatCannotBeOpenedLeavesAnEmptyPageAndTwoBoxes) {
     ExpectDriverBox(script, PortBox);
     ExpectBox(script, "Read from Radio Status", "Port Error");
     Download();
-    EXPECT_EQ(FilledRows(), 0);
+    EXPECT_EQ(FilledRows().size(), 0u);
     EXPECT_EQ(CellText(0, DESC), "LOW    66");
     ExpectOver();
 }
@@ -141,13 +141,13 @@ TEST_F(ReadCommand, OnAModuleBandWithoutDriverIsUnsupportedAndClearsNothing) {
 TEST_F(ReadCommand, ThatFailsOnADigitalPageLeavesItEmptyAndGivesItsZoneSlotsBack) {
     Retarget(Kdrv716, 0);
     PortName = NoSuchPort;
-    ASSERT_EQ(FilledRows(), 3);
+    ASSERT_EQ(FilledRows().size(), 3u);
     DialogScript script;
     ExpectQuestion(script);
     ExpectDriverBox(script, PortBox);
     ExpectBox(script, "Read from Radio Status", "Port Error");
     Download();
-    EXPECT_EQ(FilledRows(), 0);
+    EXPECT_EQ(FilledRows().size(), 0u);
     for (int zone = 0; zone < ZonesPerPage; ++zone)
         EXPECT_EQ(ZoneSlots[zone], 0) << "zone " << zone;
 }

@@ -1,8 +1,8 @@
 // The log that a transfer writes when its file has been put in place.
 #include "transfer/TransferLog.h"
 
-#include "tests/support/robot/Files.h"
-#include "tests/support/robot/TempFolder.h"
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

@@ -1,15 +1,14 @@
 // A window test that transfers: pages with rows to send, and what is left when a transfer is over.
 #pragma once
 
+#include "robot/Files.h"
 #include "tests/support/Modals.h"
 #include "tests/support/ZelkWindowTest.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/wxAsyncSerial.h"
 
 #include <filesystem>
-#include <fstream>
 #include <initializer_list>
-#include <sstream>
 #include <string>
 #include <utility>
 #include <wx/memconf.h>
@@ -58,14 +57,10 @@ protected:
     /// Asks for a log as a user does.
     static void AskForLog() {
         std::filesystem::create_directories(LogPath().parent_path());
-        std::ofstream(LogPath()) << "former text\n";
+        testbench::WriteFile(LogPath(), "former text\n");
     }
 
-    static std::string LogText() {
-        std::ostringstream text;
-        text << std::ifstream(LogPath()).rdbuf();
-        return text.str();
-    }
+    static std::string LogText() { return testbench::ReadFile(LogPath()); }
 
     /// A memory as a person makes it; the frequencies in MHz.
     static void FillRow(int row, const wxString& frequency, const wxString& description = "HILL") {
@@ -101,14 +96,6 @@ protected:
             for (const wxString& text : GetRowValues(CurrentPage, row))
                 all += Text(text) + "|";
         return all;
-    }
-
-    /// Memory rows that hold anything.
-    static int FilledRows() {
-        int filled = 0;
-        for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
-            filled += RowHasData(row);
-        return filled;
     }
 
     /// What every transfer must leave: a window that can be used, and nothing of its own.

@@ -1,10 +1,10 @@
 // The waits of the transfer drivers.
 #include "transfer/TransferWaits.h"
 
+#include "robot/Hands.h"
 #include "tests/support/Keys.h"
 #include "tests/support/PseudoTerminal.h"
 #include "tests/support/RunWithRobot.h"
-#include "tests/support/robot/Hands.h"
 #include "tests/transfer/WindowEnd.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"

@@ -1,7 +1,7 @@
 // Waiting for the end of a window.
 #pragma once
 
-#include "tests/support/robot/Pump.h"
+#include "robot/Pump.h"
 
 #include <gtest/gtest.h>
 #include <wx/app.h>

@@ -6,8 +6,8 @@
 #include <string>
 #include <utility>
 
-#include "tests/support/robot/GuiThread.h"
-#include "tests/support/robot/Hands.h"
+#include "robot/GuiThread.h"
+#include "robot/Hands.h"
 
 class wxDialog;
 

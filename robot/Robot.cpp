@@ -1,4 +1,4 @@
-#include "tests/support/robot/Robot.h"
+#include "robot/Robot.h"
 
 #include <chrono>
 #include <stdexcept>
@@ -9,8 +9,8 @@
 #include <wx/imagpng.h>
 #include <wx/wfstream.h>
 
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/Pattern.h"
+#include "robot/OpenDialogs.h"
+#include "robot/Pattern.h"
 
 namespace testbench {
 

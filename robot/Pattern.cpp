@@ -1,4 +1,4 @@
-#include "tests/support/robot/Pattern.h"
+#include "robot/Pattern.h"
 
 #include <stdexcept>
 

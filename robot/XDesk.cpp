@@ -1,4 +1,4 @@
-#include "tests/support/robot/XDesk.h"
+#include "robot/XDesk.h"
 
 #include <algorithm>
 #include <memory>

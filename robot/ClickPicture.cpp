@@ -1,8 +1,8 @@
-#include "tests/support/robot/ClickPicture.h"
+#include "robot/ClickPicture.h"
 
-#include "tests/support/robot/Hands.h"
-#include "tests/support/robot/PictureSpot.h"
-#include "tests/support/robot/Pump.h"
+#include "robot/Hands.h"
+#include "robot/PictureSpot.h"
+#include "robot/Pump.h"
 
 #include <wx/image.h>
 

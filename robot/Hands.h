@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "tests/support/robot/XDesk.h"
+#include "robot/XDesk.h"
 
 namespace testbench {
 

@@ -1,4 +1,4 @@
-#include "tests/support/robot/OpenDialogs.h"
+#include "robot/OpenDialogs.h"
 
 #include <mutex>
 

@@ -1,16 +1,9 @@
-#include "tests/simulator/RadioProcess.h"
+#include "tests/simulator/PortClient.h"
 
 #include <cerrno>
-#include <csignal>
-#include <cstdlib>
 #include <fcntl.h>
-#include <filesystem>
-#include <fstream>
 #include <poll.h>
-#include <sstream>
 #include <stdexcept>
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <termios.h>
 #include <thread>
 #include <unistd.h>
@@ -26,101 +19,11 @@ std::chrono::milliseconds Left(Clock::time_point end) {
 
 } // namespace
 
-TempFolder::TempFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "zelk-radio-XXXXXX").string();
-    if (!mkdtemp(pattern.data()))
-        throw std::runtime_error("no temporary folder");
-    m_path = pattern;
-}
-
-TempFolder::~TempFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
-}
-
-RadioProcess::RadioProcess(const TempFolder& folder, std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), {ZELK_RADIO, "--ports-dir", folder.Path("ports")});
-    std::vector<char*> raw;
-    for (std::string& argument : arguments)
-        raw.push_back(argument.data());
-    raw.push_back(nullptr);
-    int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0)
-        throw std::runtime_error("no pipe");
-    m_pid = fork();
-    if (m_pid == 0) {
-        dup2(ends[1], STDOUT_FILENO);
-        dup2(ends[1], STDERR_FILENO);
-        execv(raw[0], raw.data());
-        _exit(127);
-    }
-    close(ends[1]);
-    m_output = ends[0];
-    ReadOutput(10s, true);
-    const std::string mark = " is ready at ";
-    if (const std::size_t at = m_text.find(mark); at != std::string::npos)
-        m_port = m_text.substr(at + mark.size(), m_text.find('\n', at) - at - mark.size());
-}
-
-RadioProcess::~RadioProcess() {
-    if (m_pid > 0) {
-        Signal(SIGKILL);
-        waitpid(m_pid, nullptr, 0);
-    }
-    close(m_output);
-}
-
-void RadioProcess::ReadOutput(std::chrono::milliseconds patience, bool untilLine) {
-    const auto end = Clock::now() + patience;
-    while (!untilLine || m_text.find('\n') == std::string::npos) {
-        pollfd output{m_output, POLLIN, 0};
-        if (poll(&output, 1, static_cast<int>(Left(end).count())) <= 0)
-            return;
-        char buffer[4096];
-        const ssize_t got = read(m_output, buffer, sizeof buffer);
-        if (got <= 0)
-            return;
-        m_text.append(buffer, static_cast<std::size_t>(got));
-    }
-}
-
-std::string RadioProcess::Output() {
-    ReadOutput(0ms, false);
-    return m_text;
-}
-
-void RadioProcess::Signal(int number) {
-    if (m_pid > 0)
-        kill(m_pid, number);
-}
-
-int RadioProcess::WaitForEnd(std::chrono::milliseconds patience) {
-    const auto end = Clock::now() + patience;
-    while (m_pid > 0 && Clock::now() < end) {
-        int status = 0;
-        if (waitpid(m_pid, &status, WNOHANG) == m_pid) {
-            m_pid = -1;
-            return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        }
-        std::this_thread::sleep_for(5ms);
-    }
-    return -1;
-}
-
-int RadioProcess::End(int signal) {
-    Signal(signal);
-    return WaitForEnd();
-}
-
-std::chrono::milliseconds RadioProcess::ProcessorTime() const {
-    std::istringstream fields(FileText("/proc/" + std::to_string(m_pid) + "/stat"));
-    std::string word;
-    long ticks = 0;
-    for (int k = 1; k <= 15 && fields >> word; ++k)
-        if (k >= 14)
-            ticks += std::stol(word);
-    return std::chrono::milliseconds(ticks * 1000 / sysconf(_SC_CLK_TCK));
-}
+RadioInFolder::RadioInFolder(const testbench::TempFolder& folder, std::vector<std::string> arguments)
+    : RadioProcess(ZELK_RADIO, [&] {
+          arguments.insert(arguments.begin(), {"--ports-dir", folder / "ports"});
+          return arguments;
+      }()) {}
 
 PortClient::PortClient(const std::string& port, int baud) {
     m_port = open(port.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
@@ -203,17 +106,10 @@ bool PortClient::HasVanished(std::chrono::milliseconds patience) {
     return false;
 }
 
-std::string FileText(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
 bool WaitForFileText(const std::string& path, std::string_view text) {
     const auto deadline = Clock::now() + 5s;
     while (Clock::now() < deadline) {
-        if (FileText(path).find(text) != std::string::npos)
+        if (testbench::ReadFileIfAny(path).find(text) != std::string::npos)
             return true;
         std::this_thread::sleep_for(5ms);
     }

@@ -1,4 +1,4 @@
-#include "tests/support/robot/PictureSpot.h"
+#include "robot/PictureSpot.h"
 
 #include <cstring>
 #include <vector>

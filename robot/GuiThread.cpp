@@ -1,4 +1,4 @@
-#include "tests/support/robot/GuiThread.h"
+#include "robot/GuiThread.h"
 
 #include <chrono>
 #include <condition_variable>

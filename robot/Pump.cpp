@@ -1,4 +1,4 @@
-#include "tests/support/robot/Pump.h"
+#include "robot/Pump.h"
 
 #include <chrono>
 

@@ -1,6 +1,7 @@
 // Which serial ports are offered, under which names, in which order.
 #include "frame/SerialPorts.h"
 
+#include "robot/TempFolder.h"
 #include "tests/support/PseudoTerminal.h"
 #include "transfer/wxAsyncSerial.h"
 
@@ -25,17 +26,13 @@ constexpr uid_t kNobody = 65534;
 class SerialPortsTest : public ::testing::Test {
 protected:
     SerialPortsTest() {
-        std::string name = fs::temp_directory_path() / "serial-ports-XXXXXX";
-        EXPECT_NE(mkdtemp(name.data()), nullptr);
-        m_root = name;
-        fs::permissions(m_root, fs::perms::all);
+        fs::permissions(m_folder.Path(), fs::perms::all);
         fs::create_directory(Links());
-        fs::create_directory(m_root / "dev");
+        fs::create_directory(Devices());
     }
-    ~SerialPortsTest() override { fs::remove_all(m_root); }
 
-    fs::path Devices() const { return m_root / "dev"; }
-    fs::path Links() const { return m_root / "ports"; }
+    fs::path Devices() const { return m_folder / "dev"; }
+    fs::path Links() const { return m_folder / "ports"; }
     Folders TestFolders() const { return {Devices(), Links()}; }
 
     static std::string Link(const PseudoTerminal& device, const fs::path& name) {
@@ -47,7 +44,7 @@ protected:
         return Link(device, Devices() / name);
     }
 
-    fs::path m_root;
+    testbench::TempFolder m_folder;
 };
 
 // Works as a user without rights for as long as it lives; the superuser may open everything.
@@ -105,8 +102,8 @@ TEST_F(SerialPortsTest, OtherNamesAreNoPorts) {
 
 TEST_F(SerialPortsTest, WithoutAnyPortOrAnyFolderTheListIsEmpty) {
     EXPECT_EQ(ListPorts(TestFolders()), Names{});
-    EXPECT_EQ(ListPorts({(m_root / "absent").string(), (m_root / "absent too").string()}), Names{});
-    EXPECT_EQ(ListPorts({(m_root / "absent").string(), ""}), Names{});
+    EXPECT_EQ(ListPorts({(m_folder / "absent").string(), (m_folder / "absent too").string()}), Names{});
+    EXPECT_EQ(ListPorts({(m_folder / "absent").string(), ""}), Names{});
 }
 
 TEST_F(SerialPortsTest, StandInTheNaturalOrderOfTheirNumbers) {
@@ -143,8 +140,8 @@ TEST_F(SerialPortsTest, ADeviceUnderSeveralNamesIsOfferedOnce) {
 }
 
 TEST_F(SerialPortsTest, ALinkThatLeadsNowhereIsPassedOver) {
-    fs::create_symlink(m_root / "gone", Links() / "stale");
-    fs::create_symlink(m_root / "gone", Devices() / "ttyUSB0");
+    fs::create_symlink(m_folder / "gone", Links() / "stale");
+    fs::create_symlink(m_folder / "gone", Devices() / "ttyUSB0");
     PseudoTerminal device;
     const std::string good = Link(device, Links() / "good");
     EXPECT_EQ(ListPorts(TestFolders()), Names{good});
@@ -246,9 +243,9 @@ TEST_F(SerialPortsTest, TheProgramLooksInTheFolderPortsOfTheUsersData) {
     const wxInitializer toolkit;
     const char* const home = std::getenv("HOME");
     const std::string before = home ? home : "";
-    setenv("HOME", m_root.c_str(), 1);
+    setenv("HOME", m_folder.Path().c_str(), 1);
     const fs::path folder = wxStandardPaths::Get().GetUserDataDir().ToStdString() + "/ports";
-    EXPECT_EQ(folder.string().rfind(m_root.string(), 0), 0u) << folder;
+    EXPECT_EQ(folder.string().rfind(m_folder.Path().string(), 0), 0u) << folder;
     PseudoTerminal device;
     const std::string name = Link(device, folder / "simulated");
     EXPECT_NE(ListSerialPorts().Index(name), wxNOT_FOUND);

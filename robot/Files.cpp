@@ -1,7 +1,8 @@
-#include "tests/support/robot/Files.h"
+#include "robot/Files.h"
 
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
 
 namespace testbench {
@@ -16,6 +17,19 @@ std::string ReadFile(const std::filesystem::path& file) {
         throw std::runtime_error("can't read " + file.string());
     }
     return bytes;
+}
+
+std::string ReadFileIfAny(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+std::vector<std::string> ReadLines(const std::filesystem::path& file) {
+    std::istringstream text(ReadFile(file));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);)
+        lines.push_back(line);
+    return lines;
 }
 
 void WriteFile(const std::filesystem::path& file, const std::string& bytes) {

@@ -1,4 +1,4 @@
-#include "tests/support/robot/RunScript.h"
+#include "robot/RunScript.h"
 
 #include <atomic>
 #include <chrono>
@@ -8,9 +8,9 @@
 #include <wx/app.h>
 #include <wx/dialog.h>
 
-#include "tests/support/robot/OpenDialogs.h"
-#include "tests/support/robot/Pump.h"
-#include "tests/support/robot/Robot.h"
+#include "robot/OpenDialogs.h"
+#include "robot/Pump.h"
+#include "robot/Robot.h"
 
 namespace testbench {
 

@@ -1,4 +1,4 @@
-#include "tests/support/robot/ScreenSpots.h"
+#include "robot/ScreenSpots.h"
 
 #include <wx/grid.h>
 #include <wx/window.h>

@@ -1,4 +1,4 @@
-#include "tests/support/robot/Hands.h"
+#include "robot/Hands.h"
 
 #include <cctype>
 #include <chrono>

@@ -1,4 +1,4 @@
-#include "tests/support/robot/TempFolder.h"
+#include "robot/TempFolder.h"
 
 #include <cstdlib>
 #include <stdexcept>

@@ -1,4 +1,4 @@
-#include "tests/support/robot/Process.h"
+#include "robot/Process.h"
 
 #include <cerrno>
 #include <chrono>
@@ -12,7 +12,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "tests/support/robot/Pattern.h"
+#include "robot/Pattern.h"
 
 namespace testbench {
 

@@ -1,0 +1,73 @@
+// What tests of opening and saving have in common: a person with menus and dialogs, and a folder.
+#pragma once
+
+#include "tests/files/ChannelFileTest.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+inline constexpr const char* OpenQuestion = "This will overwrite all data on this page! Continue?";
+
+class OpenSaveCommands : public ChannelFileTest {
+protected:
+    /// Opens a file of the folder by the menu; box is the message expected behind the file dialog.
+    void OpenByMenu(const std::string& name, const std::string& box = "") {
+        testbench::DialogScript script;
+        script.ExpectMessage("Open File?", OpenQuestion);
+        script.ExpectFile("Select Zelk file", (m_folder / name).string());
+        if (!box.empty())
+            script.ExpectMessage("Error", box);
+        Choose(IdOpen);
+    }
+
+    void WriteToFolder(const std::string& name, const std::string& bytes) {
+        testbench::WriteFile(m_folder / name, bytes);
+    }
+
+    std::string ReadFromFolder(const std::string& name) const { return testbench::ReadFile(m_folder / name); }
+
+    std::string FolderText() const { return m_folder.Path().string() + "/"; }
+
+    /// Saves by the menu; file is the one that the question is about, and answer is given.
+    static void SaveOver(const std::string& file, int answer, int command = IdSave) {
+        testbench::DialogScript script;
+        ExpectReplaceQuestion(script, file, answer);
+        Choose(command);
+    }
+
+    static void ExpectReplaceQuestion(testbench::DialogScript& script, const std::string& file, int answer) {
+        script.Expect(testbench::DialogKind::Message, "Replace file?")
+            .Message(file + " exists and was not opened on this page!")
+            .Style(wxOK | wxCANCEL)
+            .Answer(answer);
+    }
+
+    /// Saves under a name by the menu and the file dialog.
+    void SaveAs(const std::string& name) {
+        testbench::DialogScript script;
+        script.ExpectFile("Save .zelk file...", (m_folder / name).string());
+        Choose(IdSaveAs);
+    }
+
+    void NamePage(const std::string& name) {
+        PageStrings[CurrentPage].FileDir = FolderText();
+        PageStrings[CurrentPage].FileName = name;
+    }
+
+    /// A page of the radio, which becomes the current one.
+    static void AddPageOf(int page, int radio) {
+        SetPageParameters(MainFrame, page, radio, 0);
+        CreateNewPage(MainFrame, page);
+        UpdateStatus(MainFrame, page);
+    }
+
+    std::vector<std::string> Entries() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(m_folder.Path()))
+            names.push_back(entry.path().filename());
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+};

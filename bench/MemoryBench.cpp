@@ -3,6 +3,8 @@
 #include "bench/FullPage.h"
 #include "catalogue/PageCreation.h"
 #include "catalogue/PageModel.h"
+#include "catalogue/RowFilling.h"
+#include "frame/TargetSelection.h"
 #include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
 

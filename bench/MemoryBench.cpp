@@ -3,6 +3,7 @@
 #include "bench/FullPage.h"
 #include "catalogue/PageCreation.h"
 #include "catalogue/PageModel.h"
+#include "frame/TargetSelection.h"
 #include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
 

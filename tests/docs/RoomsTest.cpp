@@ -59,6 +59,13 @@ std::string UnitOf(const std::string& path) {
 }
 
 using Units = std::set<std::string>;
+Units UnitsOf(const std::set<std::string>& files) {
+    Units units;
+    for (const std::string& file : files)
+        units.insert(UnitOf(file));
+    return units;
+}
+
 /// The units that each unit includes.
 using Arrows = std::map<std::string, Units>;
 
@@ -125,7 +132,7 @@ protected:
                 m_exceptions.push_back({ListIn(row[0]), ListIn(row[1])});
         for (const auto& row : TableBelow(page, "Circles that stay"))
             if (row.size() == 2)
-                m_circles.insert(ListIn(row[0]));
+                m_circles.insert(UnitsOf(ListIn(row[0])));
     }
 
     struct Exception {

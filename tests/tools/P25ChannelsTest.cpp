@@ -2,6 +2,7 @@
 
 #include "robot/Files.h"
 #include "robot/TempFolder.h"
+#include "tools/ChannelList.h"
 
 #include <gtest/gtest.h>
 

@@ -85,12 +85,8 @@ int open64(const char* path, int flags, ...) {
 
 ssize_t write(int file, const void* bytes, size_t size) {
     if (IsOwnFile(file)) {
-        if (Fails()) {
-            const int error = errno;
-            syscall(SYS_write, file, bytes, std::min(size, MostBytesOfAWrite) / 2);
-            errno = error;
+        if (Fails())
             return -1;
-        }
         size = std::min(size, MostBytesOfAWrite);
     }
     return syscall(SYS_write, file, bytes, size);

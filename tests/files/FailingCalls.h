@@ -4,8 +4,9 @@
 #include <filesystem>
 
 /// While it lives, one call of this thread to the system that changes files of a folder fails: opening a file
-/// for writing, writing, flushing, closing, cutting off, changing permissions, renaming. A write that fails
-/// has written half. The other writes take a few bytes at a time, so that a file needs many of them.
+/// for writing, writing, flushing, closing, cutting off, changing permissions, renaming. A write takes a few
+/// bytes at a time, as it does on a disk that gets full, so that a file needs many and one that fails leaves
+/// the beginning of the file written.
 ///
 /// The program of tests has these calls in place of the C library's. At most one object at a time.
 class FailingCalls {

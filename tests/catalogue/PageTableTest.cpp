@@ -31,30 +31,30 @@ protected:
 TEST_F(PageAttributes, AreThoseOfTheColumnInRowsThatDontDiffer) {
     for (int col : {DESC, RFRQ, RTON})
         for (int row : {2, 60, 120})
-            EXPECT_EQ(AttrOf(1, col), AttrOf(row, col)) << row << ", " << col;
+            EXPECT_EQ(AttrOf(row, col), AttrOf(1, col)) << row << ", " << col;
 }
 
 TEST_F(PageAttributes, AreOfACellOnlyWhereItDiffers) {
     const int fixed = CountLooks();
-    EXPECT_EQ(9, fixed) << "the default number, and four cells of each guard row";
+    EXPECT_EQ(fixed, 9) << "the default number, and four cells of each guard row";
     LockCell(Grid(), 5, RFRQ);
     PaintCell(Grid(), 6, RFRQ, FailColour);
-    EXPECT_EQ(fixed + 2, CountLooks());
+    EXPECT_EQ(CountLooks(), fixed + 2);
     LockCell(Grid(), 5, RFRQ, false);
     PaintCell(Grid(), 6, RFRQ, Grid()->GetDefaultCellBackgroundColour());
-    EXPECT_EQ(fixed, CountLooks());
+    EXPECT_EQ(CountLooks(), fixed);
 }
 
 TEST_F(PageAttributes, OfCellsThatDifferKeepWhatTheColumnHas) {
     const wxGridCellEditorPtr editor = EditorOf(6, RFRQ);
     LockCell(Grid(), 5, RFRQ);
     PaintCell(Grid(), 5, RFRQ, FailColour);
-    EXPECT_EQ(editor.get(), EditorOf(5, RFRQ).get());
+    EXPECT_EQ(EditorOf(5, RFRQ).get(), editor.get());
     int horizontal, vertical;
     Grid()->GetCellAlignment(5, RFRQ, &horizontal, &vertical);
-    EXPECT_EQ(wxALIGN_CENTRE, horizontal);
+    EXPECT_EQ(horizontal, wxALIGN_CENTRE);
     EXPECT_TRUE(Grid()->IsReadOnly(5, RFRQ));
-    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, RFRQ));
+    EXPECT_EQ(Grid()->GetCellBackgroundColour(5, RFRQ), FailColour);
 }
 
 TEST_F(PageAttributes, OfAColumnThatIsReadOnlyCanBeLiftedInACell) {
@@ -72,10 +72,10 @@ TEST_F(PageAttributes, AreTheSameObjectInCellsThatDifferAlike) {
     for (int row : {5, 6, 7})
         PaintCell(Grid(), row, PRIM, MarkColour);
     LockCell(Grid(), 7, PRIM);
-    EXPECT_EQ(AttrOf(5, PRIM), AttrOf(6, PRIM));
+    EXPECT_EQ(AttrOf(6, PRIM), AttrOf(5, PRIM));
     EXPECT_NE(AttrOf(5, PRIM), AttrOf(7, PRIM));
     LockCell(Grid(), 7, PRIM, false);
-    EXPECT_EQ(AttrOf(5, PRIM), AttrOf(7, PRIM));
+    EXPECT_EQ(AttrOf(7, PRIM), AttrOf(5, PRIM));
 }
 
 TEST_F(PageAttributes, ThatTheGridChangesInOneCellStayInTheOthers) {
@@ -83,8 +83,8 @@ TEST_F(PageAttributes, ThatTheGridChangesInOneCellStayInTheOthers) {
         PaintCell(Grid(), row, DESC, MarkColour);
     Grid()->SetCellBackgroundColour(5, DESC, FailColour);
     Grid()->SetReadOnly(5, DESC);
-    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, DESC));
-    EXPECT_EQ(MarkColour, Grid()->GetCellBackgroundColour(6, DESC));
+    EXPECT_EQ(Grid()->GetCellBackgroundColour(5, DESC), FailColour);
+    EXPECT_EQ(Grid()->GetCellBackgroundColour(6, DESC), MarkColour);
     EXPECT_TRUE(Grid()->IsReadOnly(5, DESC));
     EXPECT_FALSE(Grid()->IsReadOnly(6, DESC));
     EXPECT_FALSE(Grid()->IsReadOnly(7, DESC));
@@ -102,9 +102,9 @@ TEST_F(PageAttributes, ThatWereJustAskedForAreNotToldWhenTheyHaveChanged) {
     Grid()->SetReadOnly(5, RFRQ, false);
     EXPECT_FALSE(Grid()->IsReadOnly(5, RFRQ));
     Grid()->SetCellBackgroundColour(5, RFRQ, FailColour);
-    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, RFRQ));
+    EXPECT_EQ(Grid()->GetCellBackgroundColour(5, RFRQ), FailColour);
     PaintCell(Grid(), 5, RFRQ, MarkColour);
-    EXPECT_EQ(MarkColour, Grid()->GetCellBackgroundColour(5, RFRQ));
+    EXPECT_EQ(Grid()->GetCellBackgroundColour(5, RFRQ), MarkColour);
 }
 
 TEST_F(PageAttributes, ThatTheGridGaveKeepTheirFontWhenPaintAndLockChange) {
@@ -112,18 +112,18 @@ TEST_F(PageAttributes, ThatTheGridGaveKeepTheirFontWhenPaintAndLockChange) {
     Grid()->SetCellFont(5, DESC, large);
     LockCell(Grid(), 5, DESC);
     PaintCell(Grid(), 5, DESC, FailColour);
-    EXPECT_EQ(large, Grid()->GetCellFont(5, DESC));
+    EXPECT_EQ(Grid()->GetCellFont(5, DESC), large);
     EXPECT_TRUE(Grid()->IsReadOnly(5, DESC));
     LockCell(Grid(), 5, DESC, false);
     EXPECT_FALSE(Grid()->IsReadOnly(5, DESC));
-    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, DESC));
+    EXPECT_EQ(Grid()->GetCellBackgroundColour(5, DESC), FailColour);
 }
 
 TEST_F(PageAttributes, OfRowsMoveWithTheirRows) {
     PaintCell(Grid(), 5, DESC, FailColour);
     LockCell(Grid(), 7, RFRQ);
     Grid()->InsertRows(6, 2);
-    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, DESC));
+    EXPECT_EQ(Grid()->GetCellBackgroundColour(5, DESC), FailColour);
     EXPECT_TRUE(Grid()->IsReadOnly(9, RFRQ));
     EXPECT_FALSE(Grid()->IsReadOnly(7, RFRQ));
     Grid()->DeleteRows(5, 3);
@@ -138,7 +138,7 @@ TEST_F(PageAttributes, OfRowsThatAreAddedOrTakenAwayAtTheEnd) {
     LockCell(Grid(), rows + 2, RFRQ);
     EXPECT_TRUE(Grid()->IsReadOnly(rows + 2, RFRQ));
     EXPECT_FALSE(Grid()->IsReadOnly(rows + 1, RFRQ));
-    EXPECT_EQ(EditorOf(1, RFRQ).get(), EditorOf(rows + 1, RFRQ).get());
+    EXPECT_EQ(EditorOf(rows + 1, RFRQ).get(), EditorOf(1, RFRQ).get());
     Grid()->DeleteRows(rows, 3);
     Grid()->InsertRows(rows, 3);
     EXPECT_FALSE(Grid()->IsReadOnly(rows + 2, RFRQ)) << "a new row has nothing of a former one";
@@ -148,7 +148,7 @@ TEST_F(PageAttributes, OfARowCanBeMovedAndForgotten) {
     PaintCell(Grid(), 9, DESC, FailColour);
     LockCell(Grid(), 3, DESC);
     Table().MoveLooks(9, 3);
-    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(3, DESC));
+    EXPECT_EQ(Grid()->GetCellBackgroundColour(3, DESC), FailColour);
     EXPECT_FALSE(Grid()->IsReadOnly(3, DESC));
     EXPECT_NE(FailColour, Grid()->GetCellBackgroundColour(9, DESC));
     Table().ForgetLooks(3);
@@ -160,9 +160,9 @@ TEST_F(PageAttributes, KeepPaintAndLocksWhenEditorsAreForgotten) {
     Grid()->SetCellEditor(5, RFRQ, own);
     LockCell(Grid(), 5, RFRQ);
     PaintCell(Grid(), 5, RFRQ, FailColour);
-    EXPECT_EQ(own, EditorOf(5, RFRQ).get());
+    EXPECT_EQ(EditorOf(5, RFRQ).get(), own);
     Table().ForgetEditors(5);
-    EXPECT_EQ(EditorOf(6, RFRQ).get(), EditorOf(5, RFRQ).get());
+    EXPECT_EQ(EditorOf(5, RFRQ).get(), EditorOf(6, RFRQ).get());
     EXPECT_TRUE(Grid()->IsReadOnly(5, RFRQ));
-    EXPECT_EQ(FailColour, Grid()->GetCellBackgroundColour(5, RFRQ));
+    EXPECT_EQ(Grid()->GetCellBackgroundColour(5, RFRQ), FailColour);
 }

@@ -62,13 +62,13 @@ TEST(TextNumbers, MemoryNumbersHaveAtLeastThreeDigits) {
 }
 
 TEST(TextNumbers, PlainNumbersHaveZerosInFrontUpToTheirWidth) {
-    EXPECT_EQ("0", DecimalText(0));
-    EXPECT_EQ("4294967295", DecimalText(UINT32_MAX));
-    EXPECT_EQ("0000042", DecimalText(42, 7));
-    EXPECT_EQ("154123400", DecimalText(154123400, 7));
-    EXPECT_EQ("00FF", HexadecimalText(0xFF, 4));
-    EXPECT_EQ("1000", HexadecimalText(0x1000, 3));
-    EXPECT_EQ("FFFFFFFF", HexadecimalText(UINT32_MAX, 3));
+    EXPECT_EQ(DecimalText(0), "0");
+    EXPECT_EQ(DecimalText(UINT32_MAX), "4294967295");
+    EXPECT_EQ(DecimalText(42, 7), "0000042");
+    EXPECT_EQ(DecimalText(154123400, 7), "154123400");
+    EXPECT_EQ(HexadecimalText(0xFF, 4), "00FF");
+    EXPECT_EQ(HexadecimalText(0x1000, 3), "1000");
+    EXPECT_EQ(HexadecimalText(UINT32_MAX, 3), "FFFFFFFF");
 }
 
 TEST(TextNumbers, FlagsAreUpperCaseHexadecimalOfAtLeastTwoDigits) {

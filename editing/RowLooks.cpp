@@ -13,7 +13,9 @@ void ForgetLooksOfRows(wxGrid* grid) {
 
 void MakeCellsWritable(wxGrid* grid) {
     TableOf(grid).ChangeLooks([](int, int col, CellLook& look) {
-        if (col != SHAD)
+        if (col == SHAD)
+            look.readOnly.reset();
+        else
             look.readOnly = false;
     });
 }

@@ -7,5 +7,6 @@ class wxGrid;
 /// page itself needs: those of the guard rows and of SHAD, into which no one types.
 void ForgetLooksOfRows(wxGrid* grid);
 
-/// Makes all cells of a page's grid writable, but not those of SHAD, into which no one types.
+/// Makes all cells of a page's grid writable. Those of SHAD become as their column is, which on P25 pages is
+/// read-only.
 void MakeCellsWritable(wxGrid* grid);

@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::uint32_t V1 = 1, V2 = 2;
 
-/// Puts a cell's text into place without a second copy.
+/// Moves a cell's text into the array without a second copy.
 void TakeCell(wxArrayString& texts, wxGrid* grid, int row, int column) {
     wxString text = grid->GetCellValue(row, column);
     texts[static_cast<size_t>(column)].swap(text);
@@ -54,7 +54,7 @@ void WriteCell(wxGrid* grid, int row, const TRecordCell& cell) {
     }
 }
 
-/// Writes the row's place among primaries and shadows. A row flagged as both is a shadow.
+/// Marks the row as primary, shadow or neither. A row flagged as both is a shadow.
 void WriteLink(wxGrid* grid, const TRecordValues& values) {
     if (values.flags & ShadowIndexMask) {
         grid->SetCellValue(values.row, SHAD, "S-" + NumberText(values.primary));
@@ -71,7 +71,7 @@ TRecordValues ValuesOf(std::span<const TRecordField> layout, const wxString& lin
     return ReadTRecord(layout, line, CurrentParameters().Radio, CurrentParameters().Type);
 }
 
-/// True if so many rows other than this one show the zone as their own; a shadow shows that of its primary.
+/// True if at least `count` other rows use the zone. Shadows don't count: they show their primary's zone.
 bool OthersInZoneReach(int count, const wxGrid* grid, int row, const wxString& zone) {
     for (int other = 1; count > 0 && other < grid->GetNumberRows(); ++other)
         if (other != row && grid->GetCellValue(other, ZONE) == zone && !IsShadow(grid, other))
@@ -79,8 +79,8 @@ bool OthersInZoneReach(int count, const wxGrid* grid, int row, const wxString& z
     return count <= 0;
 }
 
-/// Gives back the slot that the row got when its record came before: it is dealt a zone anew. A row that
-/// found its zone full holds none, which the other rows in the zone tell.
+/// Releases the zone slot of a row whose record came before, since the row is about to get a zone again. A
+/// row whose zone was full holds no slot: then the other rows of the zone account for all its slots.
 void GiveZoneBack(const wxGrid* grid, int row) {
     if (row == 0 || !CurrentPageIsP25() || !(TransferFlags(grid, row) & ZoneTakenFlag) || IsShadow(grid, row))
         return;
@@ -94,7 +94,7 @@ int WriteRow(wxGrid* grid, const TRecordValues& values) {
     if (values.row < 0 || values.row >= grid->GetNumberRows())
         return 0;
     GiveZoneBack(grid, values.row);
-    // The flags come first: the zone is dealt by them.
+    // The flags come first: CheckZone depends on them.
     grid->SetCellValue(values.row, MFLG, FlagText(values.flags));
     grid->SetCellValue(values.row, TFLG, TflgRead);
     grid->SetCellValue(values.row, SCAN, values.flags & ScanFlag ? "Y" : "N");

@@ -42,19 +42,19 @@ void BeginShadowPass(TRecordDialogue& dialogue) {
     context.XferFlags &= ~NeedsShadowPass;
     context.StatusText = "Sending Shadow Memory Data....";
     SetMainGauge(context, 0);
-    // Intentional: the log has one point less than the window.
+    // Intentional: one dot fewer in the log than in the window.
     WriteTransferLog(context.LogFile, "Sending Shadow Memory Data...");
     Delay(context, context.ShadowPause, true);
 }
 
-/// The page tells from here on what the radio holds: the next write needs no purge.
+/// Ends a write. The page now shows what the radio holds, so the next write needs no purge.
 void CompleteWrite(TRecordContext& context) {
     context.Status = TransferComplete;
     if (!context.StampTold.empty())
         RadioStamp = HeldByRadio.stamp = context.StampTold;
 }
 
-/// In a write: shows how far it is and goes from the primaries to the shadows, or to the end.
+/// Updates the gauge in a write. After the last row, starts the pass over the shadows or ends the write.
 void FinishRow(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     SetMainGauge(context, dialogue.rowsSent);
@@ -67,7 +67,7 @@ void FinishRow(TRecordDialogue& dialogue) {
         CompleteWrite(context);
 }
 
-/// Goes through the states, and the rows or lines, until the transfer is over.
+/// Runs the states, then the rows or lines, until the transfer is over.
 TransferStatus RunStates(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     do {

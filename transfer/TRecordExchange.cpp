@@ -1,4 +1,4 @@
-// One line to a digital radio and what comes back.
+// Exchange of one line with a digital radio.
 #include "catalogue/TextNumbers.h"
 #include "transfer/TRecord.h"
 #include "transfer/TRecordDialogue.h"
@@ -26,7 +26,7 @@ void SendOffer(TRecordDialogue& dialogue) {
     SendLine(context, context.TxLine);
 }
 
-/// A line was garbled on its way: the radio is asked to send again, in a read by words.
+/// Has the radio repeat a garbled line: by a refusal in a read of channels, else by sending TxLine again.
 void RefuseLine(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     if (++context.RetryCount > 1)
@@ -40,7 +40,7 @@ void RefuseLine(TRecordDialogue& dialogue) {
     context.RxLine.clear();
 }
 
-/// Frees the received line from its frame, or empties it.
+/// Removes the checksum of the received line. Clears a line that is no record or is garbled.
 void CheckLine(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     if (!context.RxLine.StartsWith("T")) {

@@ -22,8 +22,8 @@ constexpr int ZoneShift = 4;
 constexpr int NacMask = 0xFFF, SquelchShift = 12;
 constexpr int NoSquelchValue = 0x0A;
 
-// Cells and lines are read as they are held, and digits are written into one buffer: texts for the single
-// fields would take most of the time of a record.
+// Cells and lines are read in place, and digits are written into one buffer: a string for each field would
+// take most of the time of a record.
 
 std::wstring_view CharactersOf(const wxString& text) {
     return text.ToStdWstring();
@@ -48,8 +48,8 @@ wchar_t ShownCharacter(wchar_t c) {
 
 // ---- To the radio ----
 
-/// Hertz of a frequency in MHz: its digits read as one number and brought to six decimals. Without a point
-/// the number is hertz already; more decimals than six count as they stand.
+/// Returns a frequency in MHz as hertz: its digits read as one number and filled up to six decimals. Without
+/// a point the number is already in hertz; decimals after the sixth stay digits of the number.
 std::uint32_t FrequencyToHertz(const wxString& cell) {
     const std::wstring_view text = Trimmed(CharactersOf(cell));
     if (std::none_of(text.begin(), text.end(), [](wchar_t c) { return c >= L'0' && c <= L'9'; }))
@@ -64,7 +64,7 @@ std::uint32_t FrequencyToHertz(const wxString& cell) {
     return number;
 }
 
-/// Position of a zone plus 1, 0 for a text that is no zone of pages of that radio type.
+/// Returns the position of a zone plus 1, or 0 if pages of that radio type have no such zone.
 int ZoneValue(const wxString& cell, int type) {
     return ZoneNames(type).Index(cell) + 1;
 }
@@ -73,7 +73,7 @@ int ZoneBits(int zoneValue) {
     return zoneValue == 0 ? 0 : (zoneValue - 1) << ZoneShift;
 }
 
-/// A number of a row as V1 knows it, where the guard rows follow the last memory of the first generation.
+/// Returns a row's number for V1, where the guard rows follow the last memory of the first generation.
 int GuardNumber(int number, int row) {
     return number - (row > NP25Memories ? NP25GuardShift : 0);
 }
@@ -97,7 +97,7 @@ public:
         if (field.kind == TRecordKind::Literal)
             return PutLiteral(field);
         if (field.kind == TRecordKind::Shadows)
-            // Intentional: it stays zero. A radio learns the links from the shadows' own records.
+            // Intentional: the field stays zero. A radio learns the links from the shadows' own records.
             return;
 
         const wxString& cell = m_source.cells[field.column];
@@ -127,7 +127,7 @@ public:
         case TRecordKind::PaddedUnitId:
             return number(ReadDecimal(cell));
         case TRecordKind::ZoneByte:
-            // Intentional: V1 has its guard memories in the last zone, whatever their ZONE.
+            // Intentional: V1 has its guard memories in the last zone, regardless of ZONE.
             return number(
                 ZoneBits(m_source.row > NP25Memories ? RP25GuardZone + 1 : ZoneValue(cell, m_source.type)));
         case TRecordKind::ZoneWord:
@@ -166,7 +166,7 @@ private:
         std::copy_n(field.literal, field.width, m_line.begin() + static_cast<std::ptrdiff_t>(field.position));
     }
 
-    /// Each character as two digits. A text is cut or filled with blanks to the field's width.
+    /// Writes each character as two digits. Cuts the text, or fills it with blanks, to the field's width.
     void PutCharacters(const TRecordField& field, std::wstring_view text) {
         for (size_t i = 0; i < field.width / 2; ++i) {
             const wchar_t c = i < text.length() ? ShownCharacter(text[i]) : L' ';
@@ -187,7 +187,7 @@ private:
 
 // ---- From the radio ----
 
-/// The characters that stand in the pairs of digits from a position on.
+/// The characters encoded in the pairs of digits from a position on.
 template <size_t count>
 class Characters {
 public:
@@ -208,14 +208,14 @@ wxString HertzToFrequency(std::uint32_t hertz) {
     return text.Left(HertzTextLength);
 }
 
-/// The entry of a list at a position that may lie outside it: null there.
+/// Returns an entry of a list, or null if the position is outside of it.
 const wxString* EntryAt(const wxArrayString& list, std::int64_t position) {
     if (position < 0 || position >= static_cast<std::int64_t>(list.size()))
         return nullptr;
     return &list[static_cast<size_t>(position)];
 }
 
-/// Takes the fields of one line, in their order, into values.
+/// Reads the fields of one line, in their order, into values.
 class Reader {
 public:
     Reader(const wxString& line, int radio, int type)
@@ -281,7 +281,7 @@ public:
             break;
         case TRecordKind::PlainCode:
         case TRecordKind::Code:
-            // Intentional: a code that went out with the addition comes back one place further down the list.
+            // Intentional: a code that was sent with 1 added is read back one place further down the list.
             AddEntry(field.column, EntryAt(CodeList, static_cast<std::int64_t>(number) + 1));
             break;
         case TRecordKind::TalkGroup:
@@ -311,7 +311,7 @@ public:
     }
 
 private:
-    /// Moves a text into a cell.
+    /// Adds a cell and moves the text into it.
     void Add(Column column, wxString text) {
         values.cells.push_back({column, std::make_optional<wxString>()});
         values.cells.back().text->swap(text);
@@ -325,7 +325,7 @@ private:
 
     void AddZone(Column column, const wxString* name) { Add(column, name ? *name : wxString()); }
 
-    /// Intentional: a value of one digit has a blank before it.
+    /// Intentional: a value of one digit gets a leading blank.
     void AddSquelchValue(Column column, std::uint32_t value) {
         Add(column, (value < 10 ? " " : "") + DecimalText(value));
     }

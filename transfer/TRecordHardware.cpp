@@ -1,4 +1,4 @@
-// The hardware information that a digital radio gives, and the files made of it.
+// Hardware information of a digital radio, and the files made of it.
 #include "transfer/DebugLog.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecord.h"
@@ -15,7 +15,7 @@ wxString Now() {
     return wxDateTime::Now().FormatISOCombined(' ');
 }
 
-/// A radio may say anything; what it says must not lead out of the folder.
+/// The radio may send any text; it must not lead out of the folder.
 bool CanBePartOfFileName(const wxString& serial) {
     return std::all_of(serial.begin(), serial.end(),
                        [](wxUniChar c) { return c >= ' ' && c != '/' && c != '\\'; });

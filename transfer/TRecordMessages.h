@@ -1,4 +1,4 @@
-// The fixed messages of the protocol of the digital radios, without their checksums.
+// Fixed messages of the digital radios' protocol, without their checksums.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 inline constexpr int FirstProtocolByte = 0x20;
 
 // clang-format off
-/// Offers a protocol: the byte of its number, and HelloEnd.
+/// Offers a protocol. Followed by the byte of its number and HelloEnd.
 inline constexpr const char* HelloBegin    = "T0070000";
 inline constexpr const char* HelloEnd      = "030000";
 /// Accepted; to the radio: go on.
@@ -18,42 +18,42 @@ inline constexpr const char* NakRecord     = "T204000001";
 inline constexpr const char* WaitRecord    = "T204000002";
 /// Erase all memories.
 inline constexpr const char* MSG_PURGE     = "T204000011";
-/// Tell the identity stamp.
+/// Report the identity stamp.
 inline constexpr const char* MSG_RID       = "T204000020";
 /// Followed by the 14 digits of an identity stamp: sets it, or answers MSG_RID.
 inline constexpr const char* MSG_SID       = "T20B000021";
-/// Tell the firmware version.
+/// Report the firmware version.
 inline constexpr const char* MSG_RVER      = "T204000022";
 /// Followed by the six characters of the version: the answer to MSG_RVER.
 inline constexpr const char* VersionReply  = "T207000023";
-/// Begin to send channel data.
+/// Start to send channel data.
 inline constexpr const char* MSG_UPLD      = "T204000024";
-/// Channel data are about to come.
+/// Channel data will follow.
 inline constexpr const char* MSG_DNLD      = "T204000025";
-/// Begin to send the debug log.
+/// Start to send the debug log.
 inline constexpr const char* MSG_DBLOG     = "T204000030";
 /// Send the hardware information records.
 inline constexpr const char* HardwareQuery = "T204000031";
-/// Change to 115200 baud: the speed divided by 100 in the digits at the end.
+/// Change to 115200 baud. The last digits are the speed divided by 100.
 inline constexpr const char* SpeedChange   = "T2060000320480";
-/// Tell the enabled operating modes.
+/// Report the enabled operating modes.
 inline constexpr const char* OpModeQuery   = "T204000033";
 /// Followed by a byte of mode bits: the answer to OpModeQuery.
 inline constexpr const char* OpModeReply   = "T205000033";
 /// Send the configuration data.
 inline constexpr const char* MSG_UPLDSWCFG = "T204000034";
-/// Followed by a byte, how many configuration records come: the answer to MSG_UPLDSWCFG.
+/// Followed by a byte with the number of configuration records to come: the answer to MSG_UPLDSWCFG.
 inline constexpr const char* ConfigReply   = "T205000034";
-/// Configuration records are about to come.
+/// Configuration records will follow.
 inline constexpr const char* ConfigWrite   = "T204000035";
 /// Followed by the grid row in four digits and EraseEnd: erases the memory.
 inline constexpr const char* EraseBegin    = "T204";
 inline constexpr const char* EraseEnd      = "10";
-/// The run of data records is over; to the radio: so is the transfer.
+/// End of the data records; to the radio: end of the transfer.
 inline constexpr const char* EndRecord     = "T9030000";
 // clang-format on
 
-/// Where the text behind a message of ten characters begins, counted from 0.
+/// Position, from 0, of the text after a message of ten characters.
 inline constexpr std::size_t MessageTextAt = 10;
-/// Characters of a firmware version, of an identity stamp, and of a byte.
+/// Lengths in characters of a firmware version, an identity stamp and a byte.
 inline constexpr std::size_t VersionLength = 6, StampLength = 14, ByteLength = 2;

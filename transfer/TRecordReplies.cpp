@@ -1,4 +1,4 @@
-// What a digital radio's lines do.
+// Handling of a digital radio's lines.
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
 #include "transfer/DebugLog.h"
@@ -19,7 +19,7 @@
 namespace {
 
 constexpr unsigned FastSpeed = 115200; // baud
-/// A line that is refused so often ends the transfer.
+/// Refusals of the same line that end the transfer.
 constexpr std::uint32_t RefusalLimit = 2;
 
 void SetRadioModes(TRecordContext& context, std::uint32_t modes) {
@@ -27,12 +27,12 @@ void SetRadioModes(TRecordContext& context, std::uint32_t modes) {
     OpModes[static_cast<std::size_t>(CurrentPage)] = modes;
 }
 
-/// The radio has agreed to the protocol that was offered.
+/// Handles the radio's agreement to the offered protocol.
 void KeepProtocol(TRecordContext& context) {
     if (context.Protocol == 0)
-        ContinueAt(context, VersionState); // this protocol has no queries before
+        ContinueAt(context, VersionState); // this protocol has no earlier queries
     else if (context.Protocol == 1)
-        ContinueAt(context, OpModeState); // the speed stays
+        ContinueAt(context, OpModeState); // the speed doesn't change
     SetRadioModes(context, context.Protocol <= 1 ? AllModes : context.RadioModes);
 }
 
@@ -53,7 +53,7 @@ void TakeAck(TRecordDialogue& dialogue) {
 void TakeNak(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     if (context.Index == HelloState) {
-        // Intentional: nothing limits how many protocols are offered.
+        // Intentional: the number of protocols offered has no limit.
         ++context.Protocol;
         OfferHello(dialogue);
         context.Phase = SendNew;
@@ -70,7 +70,8 @@ void TakeVersion(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     RadioVersion = context.RxLine.Mid(MessageTextAt, VersionLength);
     context.RecordVersion = context.Protocol == 2 && RadioVersion.StartsWith("02") ? 2 : 1;
-    // Intentional: a version that begins in another way passes, with records of version 1.
+    // Intentional: from protocol 2 on, every version that doesn't begin with "01" is accepted, even if its
+    // records are of version 1.
     if (!dialogue.Needs(FitsV1) && (context.Protocol < 2 || RadioVersion.StartsWith("01")))
         context.Status = TransferInvalidTransmitData;
     context.Phase = LineDone;
@@ -163,7 +164,7 @@ void TakeData(TRecordDialogue& dialogue) {
     }
 }
 
-/// Lines that mean something only to some modes.
+/// Handles lines that only some modes expect.
 void TakeLineOfMode(TRecordDialogue& dialogue) {
     const wxString& line = dialogue.context.RxLine;
     if (dialogue.mode == WriteChannelsMode)

@@ -1,4 +1,4 @@
-// How a transfer with a digital radio is reported to have ended.
+// Report of the result of a transfer with a digital radio.
 #include "transfer/ProgressFrame.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TransferLog.h"

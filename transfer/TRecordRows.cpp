@@ -1,4 +1,4 @@
-// Which rows of the page go to a digital radio, and as what.
+// Choice of the rows to send to a digital radio, and of their records.
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
@@ -14,17 +14,17 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// The highest numbered zone that the old layout can name for a memory. The guard rows have the next one.
+/// The highest zone number that the old layout can hold for a memory. The guard rows have the next one.
 constexpr int LastV1Zone = RP25GuardZone;
 
-/// Columns whose selection counts: any will do for a selection of whole rows.
+/// Columns whose selection counts. Any column would do for a selection of whole rows.
 constexpr int MemorySelectionColumn = 10, GuardSelectionColumn = 0;
 
 int Decimal(const TRecordDialogue& dialogue, int row, int column) {
     return ReadDecimal(dialogue.grid->GetCellValue(row, column));
 }
 
-/// The number of the primary that the record of a row names.
+/// Returns the number of the primary in the record of a row.
 int PrimaryOf(const TRecordDialogue& dialogue, int row) {
     const auto text = [&](int column) { return dialogue.grid->GetCellValue(row, column); };
     return PrimaryNumber(text(MFLG), text(SHAD), text(PRIM));
@@ -43,28 +43,28 @@ bool IsSelected(const TRecordDialogue& dialogue, int row) {
                                                                     : MemorySelectionColumn);
 }
 
-/// A row without these bits, a blank one above all, stays as it is.
+/// Leaves a row without these bits unchanged; above all, a blank row stays blank.
 void ClearTFlag(const TRecordDialogue& dialogue, int row, int bits) {
     if (const int flags = TransferFlags(dialogue.grid, row); flags & bits)
         dialogue.grid->SetCellValue(row, TFLG, FlagText(flags & ~bits));
 }
 
-/// Takes the selection of an earlier transfer off the rows. A shadow that was sent once would otherwise make
-/// every later write purge the radio.
+/// Clears the selection of an earlier transfer. Otherwise a shadow that was sent once would make every later
+/// write purge the radio.
 void ForgetFormerSelection(const TRecordDialogue& dialogue) {
     for (int row = 0; row < dialogue.rowCount; ++row)
         if (!IsSelected(dialogue, row))
             ClearTFlag(dialogue, row, SEL);
 }
 
-/// Selects a row for sending. A row that was never used stays without flags: with them it would count as
-/// one with data, and neither be filled when somebody types into it nor be left alone by checks.
+/// Selects a row for sending. A row that was never used stays without flags: with flags it would count as one
+/// with data, so typing into it wouldn't fill it, and checks wouldn't skip it.
 void Select(TRecordDialogue& dialogue, int row) {
     if (!dialogue.grid->GetCellValue(row, TFLG).empty())
         SetTFlag(dialogue.grid, row, SEL);
 }
 
-/// Makes a row go along with a selected one.
+/// Marks a row to be sent along with a selected one.
 void Mark(TRecordDialogue& dialogue, int row) {
     Select(dialogue, row);
     dialogue.markedRows.insert(row);
@@ -99,7 +99,7 @@ void EvaluateRow(TRecordDialogue& dialogue, int row) {
     if (!(flags & DEF) || !(flags & (SEL | EraseFlag)))
         return;
     ++dialogue.rowsToSend;
-    // Meant: of the rows that the old layout doesn't know nothing is asked.
+    // Intentional: rows that the old layout doesn't know aren't checked.
     if (!guard && row < RP25Memories && !FitsOldLayout(dialogue, row))
         context.XferFlags &= ~FitsV1;
     context.InvalidModes |= CheckForInvalidOpModes(context, row, context.RadioModes);
@@ -111,8 +111,8 @@ void EvaluateRow(TRecordDialogue& dialogue, int row) {
     }
 }
 
-/// True when a row takes part in the write at all: by its selection or, since the radio has forgotten
-/// all, because the radio held it or a selected row needs it. A row to be erased is gone then already.
+/// True if a row takes part in the write: it is selected, or the radio was purged and either held the row or
+/// a selected row needs it. A purge has already erased the rows to be erased.
 bool TakesPart(const TRecordDialogue& dialogue, int row, int flags) {
     if (dialogue.grid->IsInSelection(row, GuardSelectionColumn))
         return true;
@@ -148,7 +148,7 @@ bool SelectionLeavesOutRows(const TRecordDialogue& dialogue) {
     return false;
 }
 
-/// True for a row that goes out again behind a purge, and for one that the user wants erased.
+/// True for a row that is sent again after a purge, and for one that the user wants erased.
 bool SurvivesPurge(const TRecordDialogue& dialogue, int row) {
     if (!IsMemory(dialogue, row))
         return false;
@@ -184,7 +184,7 @@ void EvaluateRows(TRecordDialogue& dialogue) {
 
 void ChooseRowLine(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
-    // The old layout has the guard rows right behind the memories that it knows.
+    // In the old layout the guard rows come right after the memories that it knows.
     if (CurrentParameters().Radio == Kdrv716B && context.RecordVersion == 1 &&
         context.Index == RP25Memories + 1)
         context.Index += NP25GuardShift;

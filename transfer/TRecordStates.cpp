@@ -1,4 +1,4 @@
-// What a transfer with a digital radio says, state by state.
+// The line to send in each state of a transfer with a digital radio.
 #include "transfer/ProgressFrame.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecord.h"
@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int DebugLogBlocks = 255;
-/// The radios of this protocol give their hardware information before their debug log.
+/// Radios of this protocol send their hardware information before their debug log.
 constexpr std::uint32_t HardwareProtocol = 2;
 
 bool UserAcceptsModes(const TRecordContext& context) {
@@ -45,8 +45,8 @@ bool UserAcceptsPurge(const TRecordDialogue& dialogue) {
 TransferStatus ChooseVersionQuery(TRecordDialogue& dialogue) {
     if (dialogue.mode == ReadInformationMode)
         return TransferComplete;
-    // Intentional: InvalidModes was found out before this radio told its modes, by those of the radio before.
-    // Intentional: to say No counts as a complete transfer.
+    // Intentional: InvalidModes was set before this radio reported its modes, from those of the radio before.
+    // Intentional: the answer No counts as a complete transfer.
     if (dialogue.mode == WriteChannelsMode && dialogue.context.InvalidModes != 0 &&
         !UserAcceptsModes(dialogue.context))
         return TransferComplete;
@@ -62,7 +62,7 @@ void OfferStamp(TRecordDialogue& dialogue) {
     dialogue.Offer(MSG_SID + RadioStamp);
 }
 
-/// Asks before anything is changed in a radio that may hold what the page doesn't.
+/// Asks the user before anything changes in a radio that may hold memories that the page lacks.
 bool PurgeIsRefused(TRecordDialogue& dialogue) {
     return dialogue.mode == WriteChannelsMode && PurgeMayCostMemories(dialogue) &&
            !UserAcceptsPurge(dialogue);
@@ -95,7 +95,7 @@ void OfferPurge(TRecordDialogue& dialogue) {
     dialogue.context.StatusText = "Purging Radio....";
     WriteTransferLog(dialogue.context.LogFile, dialogue.context.StatusText);
     dialogue.Offer(MSG_PURGE);
-    // All that the radio held goes out again, and so do its shadows.
+    // All that the radio held is sent again, including shadows.
     dialogue.context.XferFlags |= RadioPurged | NeedsShadowPass;
     // If the write fails now, the next one has to purge and restore the radio again.
     RadioStamp.clear();

@@ -1,4 +1,4 @@
-// What a transfer driver works on.
+// State of a transfer, shared by the drivers and their helpers.
 #pragma once
 
 #include "transfer/TransferStatus.h"
@@ -18,55 +18,55 @@ class wxAsyncSerial;
 enum ExchangePhase : std::uint32_t {
     LineDone = 0,   ///< go to the next index
     SendNew = 1,    ///< send TxLine
-    SendAgain = 2,  ///< send TxLine again, as it stands
-    WaitOn = 3,     ///< send nothing, wait for a further line
-    LineFailed = 4, ///< Status tells how
+    SendAgain = 2,  ///< send TxLine again, unchanged
+    WaitOn = 3,     ///< send nothing, wait for another line
+    LineFailed = 4, ///< Status holds the reason
 };
 
-/// State of one transfer. Made anew for each by the handler of the command; the driver fills it.
+/// State of one transfer. The handler of the command makes a new one for each transfer; the driver fills it.
 struct TransferContext {
     wxString InfoField4, InfoField5;    ///< fields of the radio's information block
     wxArrayString InfoLines;            ///< fields of the information block, or hardware text lines
-    wxArrayString ConfigLines;          ///< configuration lines read, or to be written
+    wxArrayString ConfigLines;          ///< configuration lines read or to be written
     std::uint32_t ProductCode = 0;      ///< first digit of the information block
     std::uint32_t RowCapacity = 0;      ///< rows that the radio holds
     std::uint32_t ConfigCount = 0;      ///< configuration lines that the radio holds
-    wxAsyncSerial* Port = nullptr;      ///< belongs to the TransferSession
-    ProgressFrame* Progress = nullptr;  ///< belongs to the TransferSession
-    wxDateTime WaitStart, WaitNow;      ///< begin and present of the last WaitForLine or Delay
+    wxAsyncSerial* Port = nullptr;      ///< owned by the TransferSession
+    ProgressFrame* Progress = nullptr;  ///< owned by the TransferSession
+    wxDateTime WaitStart, WaitNow;      ///< start and current time of the last WaitForLine or Delay
     std::int64_t Elapsed = 0;           ///< milliseconds of that wait so far
     std::int64_t LastPulse = 0;         ///< Elapsed when the pulse gauge last moved
     wxString TxLine;                    ///< line to send
     wxString RxLine;                    ///< line received
     wxString RxBuffer;                  ///< received text not yet split into lines
-    wxString Scratch;                   ///< text of the moment: file names, message texts
+    wxString Scratch;                   ///< temporary text: file names, message texts
     wxString StatusText;                ///< text for the progress label
     wxString RadioSerial;               ///< serial number of the radio
     wxFFile LogFile;                    ///< log of the transfer, open only if the user asked for one
-    wxFFile DebugLogFile, HardwareFile; ///< texts read from the radio, T-record transfers only
+    wxFFile DebugLogFile, HardwareFile; ///< texts from the radio; T-record transfers only
     std::int32_t Index = 0;             ///< state or row
-    std::int32_t Work1 = 0, Work2 = 0, Work3 = 0; ///< numbers of the moment
+    std::int32_t Work1 = 0, Work2 = 0, Work3 = 0; ///< temporary numbers
     std::uint32_t Phase = LineDone;               ///< an ExchangePhase
     std::int32_t FoundAt = -1;                    ///< position of the terminator in RxBuffer, -1 for none
     TransferStatus Status = TransferOk;
     std::uint32_t XferFlags = 0; ///< what the rows to be sent need of the radio
     std::set<int> RowsSent;      ///< memory rows that the radio has acknowledged
 
-    /// Makes of the text that arrives what RxBuffer gets; null: the text as it is.
+    /// Converts received text before it is added to RxBuffer; if null, the text is added unchanged.
     wxString (*Arriving)(const wxString& text) = nullptr;
 };
 
 /// State of a T-record transfer.
 struct TRecordContext : TransferContext {
-    wxString DebugRxText, DebugTxText; ///< lines of the radio's debug log that are being put together
+    wxString DebugRxText, DebugTxText; ///< lines of the radio's debug log in progress
     std::uint32_t RecordVersion = 1;   ///< 1 or 2
     std::uint32_t RadioModes = 0;      ///< operating modes that the radio has
     std::uint32_t InvalidModes = 0;    ///< operating modes that the rows use and the radio lacks
-    std::uint32_t RetryCount = 0;      ///< times that a line was refused
+    std::uint32_t RetryCount = 0;      ///< refusals of the current line
     std::uint32_t RecordType = 0;      ///< digit of the last record
-    std::uint32_t LogDataStart = 0;    ///< byte of a debug log record at which its data begin
-    std::uint32_t Protocol = 0;        ///< number of the protocol agreed on
-    wxString StampTold;                ///< identity stamp that the radio told in a write, empty before
+    std::uint32_t LogDataStart = 0;    ///< byte of a debug log record where its data start
+    std::uint32_t Protocol = 0;        ///< number of the protocol offered or agreed on
+    wxString StampTold;                ///< identity stamp reported by the radio in a write, empty before
 
     // Milliseconds, as in TransferTimes.h. Tests set shorter ones.
     int ReplyTimeout = TransferTimes::ReplyTimeout;

@@ -5,15 +5,15 @@
 
 class wxFFile;
 
-/// Opens the log in a directory, if the user has asked for one by putting a file "Zelk.log" there: the file
-/// is then replaced by an empty one. Otherwise, and whenever the file can't be replaced or opened, there is
-/// no log: `file` is closed, and nobody is told.
+/// Opens the log in a directory if the user asked for one by putting a file "Zelk.log" there; replaces that
+/// file by an empty one. Otherwise, and if the file can't be replaced or opened, there is no log: `file` is
+/// closed, and no failure is reported.
 ///
 /// @param directory with or without a separator at its end; empty for the working directory
 void OpenTransferLog(wxFFile& file, const wxString& directory);
 
-/// Writes a line and its line end. Does nothing without a log, and tells nobody of a failure.
+/// Writes a line and its line end. Does nothing without a log. Doesn't report failures.
 void WriteTransferLog(wxFFile& file, const wxString& line);
 
-/// Ends the log. Does nothing without one, and tells nobody of a failure.
+/// Closes the log. Does nothing without one. Doesn't report failures.
 void CloseTransferLog(wxFFile& file);

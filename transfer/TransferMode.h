@@ -1,8 +1,8 @@
-// What a transfer is to do.
+// Modes of the transfer drivers.
 #pragma once
 
-/// Kinds of transfer. Callers of the drivers name them by their numbers. The commands of the window start the
-/// first two; the others are for direct calls.
+/// Kinds of transfer. Callers of the drivers pass them as numbers. The commands of the window start the first
+/// two; the others are for direct calls.
 enum TransferMode : int {
     WriteChannelsMode = 0,
     ReadChannelsMode = 1,

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// At which every radio begins, in baud.
+/// Initial speed of every radio, in baud.
 constexpr unsigned OpeningSpeed = 9600;
 
 std::unique_ptr<ProgressFrame> MakeProgressFrame(wxGrid* grid, const wxString& title) {
@@ -42,14 +42,14 @@ TransferSession::~TransferSession() {
     CloseTransferLog(m_context.LogFile);
     CloseTransferLog(m_context.DebugLogFile);
     CloseTransferLog(m_context.HardwareFile); // still open if the radio didn't end its records
-    // A close drops what is unsent, on Windows the record on its way too: the radio would miss the end of the
-    // transfer. However it ended, there is nothing to wait for unless the line is slow or stuck.
+    // Closing the port drops unsent data, on Windows even the record being sent: the radio would miss the end
+    // of the transfer. Whatever the result, this only waits if the line is slow or stuck.
     m_means.port->waitUntilWritten(TransferTimes::LastWordsTimeout);
     m_means.port->close();
     m_means.port.reset();
     m_context.Port = nullptr;
     m_means.progress->Hide();
-    // At once, not when the program is next idle: the other windows are disabled as long as it lives.
+    // Destroyed at once, not at the program's next idle time: it disables the other windows while it lives.
     m_means.progress.reset();
     m_context.Progress = nullptr;
 }

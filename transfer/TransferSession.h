@@ -1,4 +1,4 @@
-// One transfer as the user meets it, whatever radio it serves: its port, its window, its boxes.
+// Port, progress window and message boxes of one transfer, with any radio.
 #pragma once
 
 #include "transfer/ProgressFrame.h"
@@ -12,32 +12,32 @@
 class wxGrid;
 struct TransferContext;
 
-/// What a transfer runs on. Anyone who runs one may hand in their own.
+/// Progress window and port of a transfer. Callers may supply their own.
 struct TransferMeans {
     std::unique_ptr<ProgressFrame> progress; ///< disables all other windows as long as it lives
     std::unique_ptr<wxAsyncSerial> port;
 };
 
-/// The progress window of a page's grid, shown and counting its rows from 0, and the port, opened at 9600
-/// baud. A port that couldn't be opened is there all the same.
+/// Shows the progress window of a page's grid, its gauge at 0 of the number of rows, and opens the port at
+/// 9600 baud. Returns both, and a closed port if it couldn't be opened.
 [[nodiscard]] TransferMeans MeansFor(wxGrid* grid, const wxString& portName, const wxString& title);
 
-/// Owns port and progress window while a transfer runs, and lends them to its context. When the session ends,
-/// also by an exception, the files of the context are closed, the other windows are enabled, and the port is
-/// free; both pointers of the context are null again.
+/// Owns port and progress window while a transfer runs, and sets the pointers of its context to them. When
+/// the session ends, also by an exception, the files of the context are closed, the other windows are
+/// enabled, the port is free, and both pointers of the context are null again.
 class TransferSession {
 public:
     /// @param context must outlive the session
     TransferSession(TransferContext& context, TransferMeans means);
 
-    /// Gives what is still queued for the radio 200 ms to go out.
+    /// Waits up to 200 ms for queued data to reach the radio.
     ~TransferSession();
 
     TransferSession(const TransferSession&) = delete;
     TransferSession& operator=(const TransferSession&) = delete;
 
-    /// Runs the exchange with the radio, or doesn't if the port isn't open. Sets context.Status to what comes
-    /// of it.
+    /// Runs the exchange with the radio if the port is open. Sets context.Status to its result, or to
+    /// TransferPortError if the port isn't open.
     void Run(const std::function<TransferStatus()>& exchange);
 
 private:
@@ -45,7 +45,7 @@ private:
     TransferMeans m_means;
 };
 
-/// Shows a failure in a box.
+/// Shows a failure in a message box.
 void ShowError(TransferContext& context, const wxString& text);
 
 /// Shows context.StatusText in the progress window and writes it to the log.
@@ -54,6 +54,7 @@ void ShowStatus(TransferContext& context);
 /// Moves the main gauge if the value is in its range.
 void SetMainGauge(TransferContext& context, int value);
 
-/// Takes the text before the terminator that WaitForLine found out of the buffer into context.RxLine, without
-/// leading blanks and line feeds, and drops the terminator. What follows stays, trimmed in the same way.
+/// Moves the text before the terminator that WaitForLine found from context.RxBuffer to context.RxLine,
+/// without leading blanks and line feeds. Drops the terminator. The rest of the buffer stays, trimmed in the
+/// same way.
 void TakeReceivedLine(TransferContext& context);

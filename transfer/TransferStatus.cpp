@@ -1,4 +1,4 @@
-// How a transfer ended.
+// Texts of the results of a transfer.
 #include "transfer/TransferStatus.h"
 
 wxArrayString StatusList;

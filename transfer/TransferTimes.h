@@ -7,16 +7,16 @@ namespace TransferTimes {
 
 /// How long the progress window shows that a transfer is complete.
 inline constexpr int ResultPause = 1000;
-/// Limit for sending what is still queued when the port is closed.
+/// Limit for sending queued data when the port is closed.
 inline constexpr int LastWordsTimeout = 200;
 
 // ---- Analog radios ----
 
-/// Pause behind each character of a command.
+/// Pause after each character of a command.
 inline constexpr int CommandPause = 350;
-/// Pause behind each character of a line.
+/// Pause after each character of a line.
 inline constexpr int LinePause = 2;
-/// Answer to the question for the information block. A radio that doesn't answer is an unknown one.
+/// Answer to the query for the information block. A radio that doesn't answer counts as unknown.
 inline constexpr int InformationTimeout = 200;
 /// Acknowledgement of the opening command, which only some radios send.
 inline constexpr int OpeningTimeout = 50;
@@ -31,7 +31,7 @@ inline constexpr int ConfigAnswerTimeout = 500;
 
 // ---- Digital radios ----
 
-/// Any answer, from the line that asks for it or from the last sign of life.
+/// Any answer, counted from the line that asks for it or from the radio's last line.
 inline constexpr int ReplyTimeout = 30000;
 /// Pause between a refusal and the repetition.
 inline constexpr int RefusalPause = 500;

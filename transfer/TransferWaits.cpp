@@ -1,4 +1,4 @@
-// The waits of the transfer drivers.
+// Waits of the transfer drivers.
 #include "transfer/TransferWaits.h"
 
 #include "transfer/ProgressFrame.h"
@@ -22,7 +22,7 @@ void ReadClock(TransferContext& context) {
     context.Elapsed = (context.WaitNow - context.WaitStart).GetMilliseconds().GetValue();
 }
 
-// Only what paints the window and what the user does; nothing that could start another transfer.
+// Handles only painting and user input, nothing that could start another transfer.
 void PumpUserEvents() {
     if (auto* loop = wxEventLoopBase::GetActive())
         loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
@@ -40,7 +40,7 @@ TransferStatus WaitForLine(TransferContext& context, int timeoutMs, wxChar termi
     gauge->Pulse();
     context.LastPulse = 0;
     StartClock(context);
-    // Spins without a sleep on purpose: the time from a radio's answer to the next line stays short.
+    // Intentional: no sleep in this loop. The time from a radio's answer to the next line stays short.
     while (true) {
         PumpUserEvents();
         TakeArrived(context);
@@ -50,7 +50,7 @@ TransferStatus WaitForLine(TransferContext& context, int timeoutMs, wxChar termi
             gauge->Pulse();
             context.LastPulse = context.Elapsed;
         }
-        // Intentional: a line that comes in the pass in which the time runs out counts as a time-out.
+        // Intentional: a line that arrives in the pass in which the time runs out counts as a time-out.
         if (context.Progress->Cancelled)
             return TransferCancelled;
         if (context.Elapsed >= timeoutMs)
@@ -64,7 +64,7 @@ void Delay(TransferContext& context, int ms, bool cancelTest) {
     if (ms == 0)
         return;
     StartClock(context);
-    // The toolkit's clock counts whole milliseconds: of a pause of 2 it would leave out up to one.
+    // The toolkit's clock counts whole milliseconds: it could shorten a pause of 2 ms by up to 1 ms.
     const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
     while (std::chrono::steady_clock::now() < end && !(cancelTest && context.Progress->Cancelled)) {
     }

@@ -22,7 +22,7 @@ protected:
     void SetUp() override {
         PageTest::SetUp();
         SetPageParameters(MainFrame, 1, GetParam().radio, GetParam().slot);
-        // No radio has FXAM: channel files alone lead there.
+        // No radio has FXAM; only channel files use it.
         PageParameters[1].Type = GetParam().type;
         CreateNewPage(MainFrame, 1);
         m_grid = PageGrid[1];
@@ -40,7 +40,7 @@ INSTANTIATE_TEST_SUITE_P(
                     TypeTarget{printed::ANAM, Krv620, 1, 200}, TypeTarget{printed::FXAM, Krv620, 1, 200}),
     [](const auto& tested) { return printed::Types[tested.param.type].tag; });
 
-/// The toolkit lets only derived grids read the minimal width.
+/// Gives access to the minimal width, which only derived grids can read.
 class MinimalWidth : public wxGrid {
 public:
     static int Of(const wxGrid& grid, int col) { return (grid.*&MinimalWidth::GetColMinimalWidth)(col); }

@@ -41,10 +41,10 @@ TEST(RadioType, OfTheModuleIsAlsoGivenToItsSecondGeneration) {
 }
 
 TEST(RadioType, OfEachRadioAndBandFollowsTheRule) {
-    // What a radio is on bands 0 to 9, whether it has them or not.
+    // Type of a radio on bands 0 to 9, whether it has them or not.
     struct Line {
         std::vector<int> radios;
-        const char* types; ///< by band id: F ANFM, A ANAM, and the letters of the others
+        const char* types; ///< by band id: F is ANFM, A is ANAM, see letters for the others
     };
     const Line lines[] = {
         {{0, 1, 3, 4, 5, 9, 10, 11, 12, 13, 14, 15, 16}, "FFAAFFAFFF"},
@@ -225,7 +225,7 @@ TEST(SquelchLetters, AreThoseOfTheColumn) {
         SCOPED_TRACE(line.text);
         EXPECT_EQ(IsAnalogSquelch(line.text, 10), line.analogRx);
         EXPECT_EQ(IsDigitalSquelch(line.text, 10), line.digitalRx);
-        // Any column but RSQL counts as the transmit one.
+        // Any column except RSQL counts as the transmit one.
         for (int column : {17, 0, -1, 11, 99, Most, Least}) {
             EXPECT_EQ(IsAnalogSquelch(line.text, column), line.analogTx) << column;
             EXPECT_EQ(IsDigitalSquelch(line.text, column), line.digitalTx) << column;

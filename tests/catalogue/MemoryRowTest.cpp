@@ -39,7 +39,7 @@ TEST_F(MemoryRow, IsAShadowOrAPrimaryByItsMemoryFlags) {
                                                         {"E8", false, false},
                                                         {"300", false, false}}) {
         SetCell(3, MFLG, line.flags);
-        SetCell(3, TFLG, "17"); // counts for neither
+        SetCell(3, TFLG, "17"); // has no effect on either
         EXPECT_EQ(IsShadow(CurrentGrid(), 3), line.shadow) << line.flags;
         EXPECT_EQ(IsPrimary(CurrentGrid(), 3), line.primary) << line.flags;
     }

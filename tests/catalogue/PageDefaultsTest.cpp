@@ -6,7 +6,7 @@ namespace {
 
 class PageDefaults : public PageTest {
 protected:
-    /// Expects a row to be filled from the P25 default row, but for the cells of its own.
+    /// Expects a row to be filled from the P25 default row, except cells with texts of its own.
     static void ExpectStartingRow(int row, int defaultRow, const std::string& zone) {
         const std::string number = row < 10 ? "00" + std::to_string(row) : std::to_string(row);
         const auto texts = printed::DefaultRow(defaultRow);
@@ -100,7 +100,7 @@ TEST_F(PageDefaults, LeaveNothingSelected) {
 }
 
 TEST_F(PageDefaults, FillNoRowThatIsSelectedAtThatMoment) {
-    // A departure: a selection that stands would otherwise be overwritten in silence.
+    // A departure: selected rows would otherwise be overwritten without a warning.
     AddPage(Kdrv716, 0);
     SetCell(7, DESC, "KEEP ME");
     SelectRows({7});

@@ -1,4 +1,4 @@
-// Attributes of columns, and of cells that differ from theirs.
+// Attributes of columns, and of cells that differ from their column.
 #include "tests/catalogue/PageTest.h"
 
 #include "catalogue/PageTable.h"
@@ -10,7 +10,7 @@ protected:
     static wxGrid* Grid() { return CurrentGrid(); }
     static PageTable& Table() { return TableOf(Grid()); }
 
-    /// What the grid sees of a cell; only its address counts.
+    /// The attribute that the grid gets for a cell; only its address matters.
     static const wxGridCellAttr* AttrOf(int row, int col) {
         return Table().GetAttrPtr(row, col, wxGridCellAttr::Any).get();
     }
@@ -68,7 +68,7 @@ TEST_F(PageAttributes, OfAColumnThatIsReadOnlyCanBeLiftedInACell) {
 }
 
 TEST_F(PageAttributes, AreTheSameObjectInCellsThatDifferAlike) {
-    // Columns without an attribute show that of the cell itself.
+    // In columns without an attribute, the grid gets that of the cell itself.
     for (int row : {5, 6, 7})
         PaintCell(Grid(), row, PRIM, MarkColour);
     LockCell(Grid(), 7, PRIM);
@@ -91,7 +91,7 @@ TEST_F(PageAttributes, ThatTheGridChangesInOneCellStayInTheOthers) {
 }
 
 TEST_F(PageAttributes, ThatWereJustAskedForAreNotToldWhenTheyHaveChanged) {
-    // The grid keeps the last answer.
+    // The grid caches the last attribute.
     EXPECT_FALSE(Grid()->IsReadOnly(5, RFRQ));
     Grid()->SetReadOnly(5, RFRQ);
     EXPECT_TRUE(Grid()->IsReadOnly(5, RFRQ));

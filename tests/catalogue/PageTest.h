@@ -1,4 +1,4 @@
-// Short words for tests of pages.
+// Shorthands for tests of pages.
 #pragma once
 
 #include "tests/support/ZelkWindowTest.h"
@@ -9,7 +9,7 @@
 
 class PageTest : public ZelkWindowTest {
 protected:
-    /// Makes a further page for the radio and band slot; it becomes the current one.
+    /// Adds a page for the radio and band slot and makes it the current one.
     static void AddPage(int radio, int bandIndex) {
         SetPageParameters(MainFrame, PageCount, radio, bandIndex);
         CreateNewPage(MainFrame, PageCount);

@@ -1,4 +1,5 @@
-// The 32 columns and the default rows as their data sheet prints them, apart from the program's tables.
+// The 32 columns and the default rows as printed in their data sheet, independent of the program's
+// tables.
 #pragma once
 
 #include <array>
@@ -54,7 +55,7 @@ inline constexpr std::array<ColumnLine, 32> Columns{{
     {31, "TFLG", {{{"", 0}, {"", 0}, {"", 0}, {"", 0}, {"", 0}, {"", 0}, {"", 0}, {"", 0}}}},
 }};
 
-/// What the default rows of analog bands hold besides MNUM "0" and TFLG "A0".
+/// Texts of the default rows of analog bands, besides MNUM "0" and TFLG "A0".
 struct DefaultLine {
     int row;
     const char *band, *scan, *desc, *mode, *rfrq, *rton, *rcod, *tfrq, *tton, *tcod;

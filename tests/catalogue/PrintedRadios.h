@@ -1,4 +1,4 @@
-// The radios, bands and types as their data sheet prints them, apart from the program's tables.
+// The radios, bands and types as printed in their data sheet, independent of the program's tables.
 #pragma once
 
 #include <array>

@@ -15,7 +15,7 @@ protected:
         return values;
     }
 
-    /// The description that row gets from a copy onto it alone.
+    /// The description of the row after a copy onto this row alone.
     static std::string Numbered(const wxString& description, int row) {
         SelectRows({row});
         CopyValuesToSelection(CurrentPage, Image(description), false, true);
@@ -26,7 +26,7 @@ protected:
         return printed::Columns[static_cast<size_t>(col)].looks[static_cast<size_t>(type)].width > 0;
     }
 
-    /// Row 1 gets text in the columns that a type shows, and in no other.
+    /// Fills row 1 in exactly the columns that a type shows.
     static void FillShownCells(int type) {
         for (int col = 0; col < 32; ++col)
             SetCell(1, col, IsShown(type, col) ? "1" : "");
@@ -285,7 +285,7 @@ TEST_F(ClearRow, MakesReadOnlyCellsWritableButNotThatOfShad) {
 TEST_F(ClearRow, GivesTheZoneOfTheNumberedRowBack) {
     AddPage(Kdrv716, 0);
     ZoneSlots.fill(4);
-    // Row 5 is memory 9: the zone of row 9 is the one that goes.
+    // Row 5 is memory 9: the zone of row 9 is released.
     SetCell(5, MNUM, "009");
     SetCell(5, ZONE, "2");
     SetCell(9, ZONE, "3");
@@ -340,7 +340,7 @@ TEST_F(RowCompleteness, NeedsTextInEveryColumnThatTheTypeShows) {
         FillShownCells(line.type);
         EXPECT_TRUE(RowIsComplete(1)) << line.tag;
         for (int col = 0; col < 32; ++col) {
-            // The tones of FXAM and the filler of O12 are told of below.
+            // Tests below cover the tones of FXAM and the filler of O12.
             const bool excepted = (line.type == printed::FXAM && (col == RTON || col == TTON)) ||
                                   (line.type == printed::O12 && col == RONL);
             if (!IsShown(line.type, col) || excepted)

@@ -14,7 +14,7 @@ protected:
         ZoneSlots.fill(0);
     }
 
-    /// Makes the page the current one without building it: the counters need no widgets.
+    /// Makes the page the current one without building it; the counters need no widgets.
     static void GoToPage(int page) { CurrentPage = page; }
 
     void TearDown() override {
@@ -22,7 +22,7 @@ protected:
         PageTest::TearDown();
     }
 
-    /// Fills the zones from 0 up to, but not including, the end given.
+    /// Fills the zones from 0 up to, but not including, end.
     static void FillZones(int page, int end) {
         for (int zone = 0; zone < end; ++zone)
             ZoneSlots[static_cast<size_t>(page * 32 + zone)] = 16;

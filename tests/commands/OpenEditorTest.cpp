@@ -1,4 +1,4 @@
-// Commands that are given while a cell is being edited: what was typed counts.
+// Commands given while a cell is being edited: they use the typed text.
 #include "tests/editing/GridHabits.h"
 
 #include "commands/CommandIds.h"
@@ -16,7 +16,7 @@ namespace {
 
 class OpenEditor : public GridHabits {
 protected:
-    /// What is typed into an open editor and stays there, and what the cell says once it is taken.
+    /// Text typed into an editor that stays open, and the cell's text once it is taken.
     struct Edit {
         const char* name;
         int col;
@@ -47,8 +47,8 @@ protected:
         ASSERT_NE(edit.taken, Text(row, edit.col)) << edit.name;
     }
 
-    /// Runs the command while each kind of editor stands open in row 5, and looks at the cell after it.
-    /// The command has to leave the row where it is.
+    /// Runs the command while each kind of editor is open in row 5, and checks the cell after it. The
+    /// command must leave the row in its place.
     static void ExpectTaken(const std::function<void(DialogScript&)>& command) {
         for (const Edit& edit : Edits()) {
             SCOPED_TRACE(edit.name);
@@ -64,7 +64,7 @@ protected:
         }
     }
 
-    /// A box or question that is answered with Cancel; the cell has its text before it comes.
+    /// Expects a box or question and answers it with Cancel; the cell has its text before that.
     static void ExpectBox(DialogScript& dialogs, const TextRule& caption) {
         dialogs.ExpectMessage(caption, AnyText(), wxID_CANCEL);
     }
@@ -187,7 +187,7 @@ TEST_F(OpenEditor, IsTakenOnItsPageWhenAnotherPageIsShown) {
         PumpUntilIdle();
         Fill({5});
         Type(5, edit);
-        // Tabs stand in a row above the pages: somewhere in it is the second one's.
+        // Tabs are in a line above the pages; the second one is somewhere in it.
         const wxPoint corner = PageGrid[0]->GetScreenPosition();
         for (int x = 20; x < 300 && CurrentPage == 0; x += 20)
             ClickAt(wxPoint(corner.x + x, corner.y - 20));
@@ -288,7 +288,7 @@ TEST_F(OpenEditor, IsTakenByAClickElsewhereOnThePage) {
             EXPECT_FALSE(IsOpen());
             EXPECT_EQ(Text(5, edit.col), edit.taken);
             Grid()->ClearSelection();
-            PumpFor(300); // the next click is no second half of a double click
+            PumpFor(300); // the next click must not make a double click
         }
     }
 }

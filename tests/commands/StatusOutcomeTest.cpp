@@ -27,7 +27,7 @@ wxString ToolTip() {
     return MainFrame->m_statusBar->GetToolTipText();
 }
 
-/// Moves the pointer down the tools until the help of one is shown. Its place on the screen.
+/// Moves the pointer down the tools until the help of one is shown. Returns its screen position.
 wxPoint MoveToTool(Robot& robot, const wxString& help) {
     const wxRect bar = robot.Ask([] { return MainFrame->m_toolBar->GetScreenRect(); });
     for (int y = bar.y + 5; y < bar.GetBottom(); y += 8) {

@@ -1,4 +1,4 @@
-// The order of the sources of each driver, as their shared header states it.
+// Order of the sources of each driver, as stated in their shared header.
 #include <filesystem>
 #include <fstream>
 #include <regex>
@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// A source of a driver and the functions that the shared header declares for it.
+/// A source of a driver, and the functions declared for it in the shared header.
 struct Layer {
     std::string source;
     std::vector<std::string> functions;
@@ -26,7 +26,7 @@ std::string TextOf(const fs::path& file) {
 
 const fs::path Room = fs::path(ZELK_SOURCE_DIR) / "transfer";
 
-/// The parts of a header below lines such as "// ---- Name.cpp ----", lowest first.
+/// The parts of a header after lines such as "// ---- Name.cpp ----", lowest first.
 std::vector<Layer> LayersOf(const std::string& header) {
     std::vector<Layer> layers;
     const std::regex mark("^// ---- (\\w+\\.cpp)"), function("^\\w[\\w:]* (\\w+)\\(");

@@ -16,7 +16,7 @@ void ReplaceAll(std::string& text, const std::string& what, const std::string& b
         text.replace(at, what.size(), by);
 }
 
-/// A message as a regular expression: signs stand for themselves, placeholders for any text.
+/// Converts a message to a regular expression: signs match themselves, placeholders any text.
 std::string ExpressionOf(const std::string& message) {
     static const std::regex Sign(R"([.^$|()\[\]{}*+?\\])");
     static const std::regex Placeholder("%[0-9]*[a-zA-Z]");
@@ -59,7 +59,7 @@ std::vector<std::string> MessageCells(const std::string& source) {
     const std::size_t table = source.find("|===", source.find("[#status-texts]"));
     const std::size_t end = source.find("|===", table + 4);
     std::vector<std::string> cells;
-    // A row is set apart by a blank line; its cells begin at the starts of lines.
+    // Blank lines separate rows; cells begin at the starts of lines.
     for (std::size_t at = source.find("\n\n|", table); at + 2 < end; at = source.find("\n\n|", at + 3))
         cells.push_back(PlainText(source.substr(at + 3, source.find("\n|", at + 3) - at - 3)));
     return cells;

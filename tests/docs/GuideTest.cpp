@@ -1,4 +1,4 @@
-// The user guide against the program: what the program shows or knows must stand in the guide.
+// Comparison of the user guide with the program: the guide must cover all that the program shows or knows.
 #include "catalogue/RadioCatalogue.h"
 #include "commands/CommandQuestions.h"
 #include "files/FileKind.h"
@@ -50,7 +50,7 @@ std::string TitledText(const ProgramText& text) {
     return *text.title ? std::string(text.title) + ' ' + text.text : text.text;
 }
 
-/// As a menu shows it.
+/// The label as shown in a menu.
 std::string WithoutMnemonic(std::string label) {
     label.erase(std::remove(label.begin(), label.end(), '&'), label.end());
     return label;
@@ -71,14 +71,14 @@ void ExpectMenu(const MenuEntry (&menu)[count]) {
             ExpectInSource("\n|" + Code(WithoutMnemonic(entry.label)) + " |" + Code(entry.help) + " |");
 }
 
-/// A cell of a table, the sign of cells in it escaped.
+/// A cell of a table, with its cell signs escaped.
 std::string Cell(std::string text) {
     for (std::size_t at = 0; (at = text.find('|', at)) != std::string::npos; at += 2)
         text.insert(at, "\\");
     return text;
 }
 
-/// The blocks of text that stand in the guide as they are, from its heading of that identity on.
+/// The literal blocks in the guide, from the heading with this identity on.
 std::vector<std::string> Blocks(const std::string& identity) {
     std::vector<std::string> blocks;
     const std::string fence = "\n----\n";
@@ -101,7 +101,7 @@ FileKind KindOfBlock(const std::string& block) {
     return KindOfText(lines);
 }
 
-/// The words of a command line behind the program's name; double quotes keep a word together.
+/// The words of a command line after the program's name; double quotes keep a word together.
 std::vector<std::string> ArgumentsOf(const std::string& command) {
     std::istringstream in(command);
     std::vector<std::string> words;
@@ -111,7 +111,7 @@ std::vector<std::string> ArgumentsOf(const std::string& command) {
     return words;
 }
 
-/// What stands between backquotes at the start of the cells that begin so.
+/// The text between backquotes at the start of the cells that begin with `start`.
 std::vector<std::string> CodesBeginning(const std::string& start) {
     std::vector<std::string> codes;
     for (std::size_t at = 0; (at = Source().find("\n|`" + start, at)) != std::string::npos; ++at)

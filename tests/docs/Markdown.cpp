@@ -34,7 +34,7 @@ std::string Trimmed(const std::string& text) {
     return begin == text.npos ? "" : text.substr(begin, text.find_last_not_of(' ') + 1 - begin);
 }
 
-/// "| a | b |" as {"a", "b"}.
+/// Splits "| a | b |" into {"a", "b"}.
 std::vector<std::string> Cells(const std::string& row) {
     std::vector<std::string> cells;
     std::istringstream in(row.substr(1));

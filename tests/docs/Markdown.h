@@ -1,4 +1,4 @@
-// The project's pages in Markdown, cut into what tests hold against the tree.
+// The project's Markdown pages, split into parts that tests compare with the tree.
 #pragma once
 
 #include <filesystem>
@@ -8,23 +8,23 @@
 namespace docstest {
 
 struct Page {
-    std::filesystem::path path; ///< below the tree's folder
+    std::filesystem::path path; ///< relative to the tree's folder
     std::string text;
 };
 
-/// The page at a path below the tree's folder. Its text is empty if there is none.
+/// The page at a path relative to the tree's folder. Its text is empty if there is none.
 Page PageAt(const std::filesystem::path& tree, const std::filesystem::path& path);
 
 /// All pages of the tree: those in its own folder, in docs/ and in examples/.
 std::vector<Page> PagesOf(const std::filesystem::path& tree);
 
-/// The texts between backticks outside of blocks. Both backticks are on one line.
+/// The texts between backticks outside of blocks. Both backticks must be on the same line.
 std::vector<std::string> QuotedTexts(const std::string& text);
 
 /// The lines of blocks: indented by four blanks, or between fences.
 std::vector<std::string> BlockLines(const std::string& text);
 
-/// Where links and pictures lead.
+/// The targets of links and pictures.
 std::vector<std::string> LinkTargets(const std::string& text);
 
 /// The bullets of the first level, each as one line, with the heading above it.
@@ -34,7 +34,7 @@ struct Bullet {
 };
 std::vector<Bullet> Bullets(const std::string& text);
 
-/// The cells of the first table below a heading, row by row, without its head. Empty if there is none.
+/// The cells of the first table after a heading, row by row, without its head. Empty if there is none.
 std::vector<std::vector<std::string>> TableBelow(const std::string& text, const std::string& heading);
 
 } // namespace docstest

@@ -1,4 +1,4 @@
-// The project's pages name files, folders, commands and tests: they must be there.
+// Files, folders, commands and tests that the project's pages name: they must exist.
 #include "robot/Files.h"
 #include "tests/docs/Markdown.h"
 
@@ -24,7 +24,7 @@ bool IsBuilt(const fs::path& folder) {
     return name.starts_with("build") || name == ".git";
 }
 
-/// Paths of all files below the rooms, each also by its ends: "a/b/C.h", "b/C.h" and "C.h".
+/// Paths of all files in the rooms, each also in its shorter forms: "a/b/C.h", "b/C.h" and "C.h".
 std::set<std::string> FileNames() {
     std::set<std::string> names;
     for (const auto& room : fs::directory_iterator(Tree)) {
@@ -68,7 +68,7 @@ bool IsWord(const std::string& text) {
            std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isalnum(c) || c == '_'; });
 }
 
-/// Whether the text has the form "Suite.Name", both with a capital.
+/// Whether the text has the form "Suite.Name", with a capital in both parts.
 bool IsTestName(const std::string& text) {
     const auto point = text.find('.');
     return point != text.npos && IsWord(text.substr(0, point)) && IsWord(text.substr(point + 1)) &&
@@ -76,8 +76,8 @@ bool IsTestName(const std::string& text) {
            std::isupper(static_cast<unsigned char>(text[point + 1]));
 }
 
-/// The words of a text that are paths of the tree by their form: with a separator, not from the root, and
-/// not of a build.
+/// The words of a text that look like paths of the tree: with a separator, not from the root, and not in
+/// a build.
 std::vector<std::string> Paths(const std::string& text) {
     std::vector<std::string> paths;
     std::istringstream in(text);

@@ -1,4 +1,4 @@
-// Every text that the program shows a user, typed from its windows and not taken from its code.
+// Every text that the program shows a user, copied from its windows and not from its code.
 #pragma once
 
 #include <vector>
@@ -6,10 +6,10 @@
 namespace docstest {
 
 struct ProgramText {
-    /// Title of the box, where the guide gives it; empty elsewhere.
+    /// Title of the box if the guide states it, otherwise empty.
     const char* title;
     const char* text;
-    /// The program puts it together from pieces.
+    /// The program composes it from pieces.
     bool composed = false;
 };
 

@@ -1,4 +1,5 @@
-// The tables of rooms and circles on the developer's page against the tree and its #include lines.
+// Comparison of the tables of rooms and circles on the developer's page with the tree and its
+// #include lines.
 #include "tests/docs/Markdown.h"
 
 #include <algorithm>
@@ -18,10 +19,10 @@ namespace fs = std::filesystem;
 namespace {
 
 const fs::path Tree = ZELK_SOURCE_DIR;
-/// In place of a list: such a room may include any other one.
+/// Used in place of a list: the room may include any other.
 const std::string Everything = "everything";
 
-/// "`a, b`" as {"a", "b"}; of a cell without backticks nothing.
+/// Splits "`a, b`" into {"a", "b"}. Empty for a cell without backticks.
 std::set<std::string> ListIn(const std::string& cell) {
     std::set<std::string> items;
     for (const std::string& quoted : QuotedTexts(cell)) {
@@ -33,8 +34,8 @@ std::set<std::string> ListIn(const std::string& cell) {
 }
 
 struct Include {
-    std::string file;   ///< path of the file that includes
-    std::string header; ///< path of the included one
+    std::string file;   ///< path of the including file
+    std::string header; ///< path of the included file
 };
 
 std::vector<Include> IncludesOf(const fs::path& file) {
@@ -48,8 +49,7 @@ std::vector<Include> IncludesOf(const fs::path& file) {
     return includes;
 }
 
-/// The unit that a file belongs to: a header and its sources, one of them for each operating system where the
-/// systems differ.
+/// The unit of a file: a header and its sources. Where operating systems differ, each has its own source.
 std::string UnitOf(const std::string& path) {
     std::string unit = path.substr(0, path.rfind('.'));
     for (const char* system : {"_linux", "_gtk", "_windows"})
@@ -77,7 +77,7 @@ Arrows ArrowsOf(const std::vector<Include>& includes) {
     return arrows;
 }
 
-/// The units that a unit reaches, itself only if it is in a circle.
+/// The units that a unit reaches. It contains the unit itself only if that is in a circle.
 Units ReachOf(const std::string& unit, const Arrows& arrows) {
     Units reached;
     std::vector<std::string> waiting{unit};
@@ -93,7 +93,7 @@ Units ReachOf(const std::string& unit, const Arrows& arrows) {
     return reached;
 }
 
-/// The largest sets of units in which each one includes each other one, directly or over others.
+/// The largest sets of units in which each unit includes each other one, directly or through others.
 std::set<Units> CirclesAmong(const std::vector<Include>& includes) {
     const Arrows arrows = ArrowsOf(includes);
     std::map<std::string, Units> reach;
@@ -137,10 +137,11 @@ protected:
 
     struct Exception {
         std::set<std::string> who;     ///< rooms or files
-        std::set<std::string> headers; ///< that these may include
+        std::set<std::string> headers; ///< headers that these may include
     };
 
-    /// The room that a path is in: the longest of the table that the path begins with. Empty for none.
+    /// The room of a path: the longest one of the table that is a prefix of the path. Empty if there
+    /// is none.
     std::string RoomOf(const std::string& path) const {
         std::string room;
         for (const auto& [name, allowed] : m_rooms)
@@ -174,9 +175,9 @@ protected:
                (exception.who.count(include.file) || exception.who.count(RoomOf(include.file)));
     }
 
-    std::map<std::string, std::set<std::string>> m_rooms; ///< the rooms that each may include
+    std::map<std::string, std::set<std::string>> m_rooms; ///< the rooms that each room may include
     std::vector<Exception> m_exceptions;
-    std::set<Units> m_circles; ///< those that the page excuses
+    std::set<Units> m_circles; ///< circles that the page permits
 };
 
 } // namespace

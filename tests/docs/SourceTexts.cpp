@@ -21,7 +21,7 @@ struct Token {
     std::string text;
 };
 
-/// Cuts C++ into names, single signs and texts; comments and preprocessor lines fall away.
+/// Splits C++ into names, single signs and texts; drops comments and #include lines.
 class Lexer {
 public:
     explicit Lexer(const std::string& source) : m_source(source) {}
@@ -69,7 +69,7 @@ private:
         }
         if (std::isalnum(static_cast<unsigned char>(c)) || c == '_') {
             const std::size_t start = m_at;
-            // A ' among digits parts them.
+            // A ' among digits ends the name.
             while (m_at < m_source.size() &&
                    (std::isalnum(static_cast<unsigned char>(m_source[m_at])) || m_source[m_at] == '_'))
                 ++m_at;
@@ -109,10 +109,10 @@ const std::set<std::string> Showing = {
     "ShowResult",   "SetStatusText",   "Printf",      "TellOutcome", "SetTitle",  "TellUnimplemented",
     "ShadowDialog", "PortDialog",      "RadioDialog", "BandDialog",  "SetLabel",
 };
-/// What is assigned to these is shown later.
+/// Variables whose text is shown later.
 const std::set<std::string> Shown = {"StatusText", "message"};
 
-/// The texts from a token on up to the end of the call or statement that it opens.
+/// Takes the texts from a token up to the end of the call or statement that starts there.
 void TakeUntil(const std::vector<Token>& tokens, std::size_t at, bool call, std::vector<std::string>& texts) {
     int depth = 0;
     for (; at < tokens.size(); ++at) {
@@ -162,7 +162,7 @@ std::vector<std::string> ShownLiteralsOf(const std::string& source) {
     for (std::size_t i = 0; i + 2 < tokens.size(); ++i) {
         if (tokens[i].kind != Kind::Name)
             continue;
-        // A call, or a variable of such a class.
+        // A call, or a variable of a class that shows its text.
         const std::size_t open = tokens[i + 1].kind == Kind::Name ? i + 2 : i + 1;
         if (Showing.count(tokens[i].text) && tokens[open].text == "(")
             TakeUntil(tokens, open, true, texts);

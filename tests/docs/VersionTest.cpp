@@ -1,4 +1,4 @@
-// The version's number is written in CMakeLists.txt alone; everything else takes it from there.
+// The version number is defined in CMakeLists.txt only; everything else takes it from there.
 #include "catalogue/Version.h"
 
 #include <cctype>
@@ -22,7 +22,7 @@ std::string ReadText(const fs::path& file) {
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
-/// Whether the text has the number, not as part of a longer one such as an address.
+/// Whether the text contains the number, not as part of a longer one such as an address.
 bool HasNumber(const std::string& text) {
     const auto isPart = [&](std::size_t at) {
         return at < text.size() && (std::isdigit(static_cast<unsigned char>(text[at])) || text[at] == '.');
@@ -36,8 +36,8 @@ bool HasNumber(const std::string& text) {
     return false;
 }
 
-/// Histories name versions, channel files hold the number of the version that wrote them, and tests type what
-/// they expect.
+/// Change logs name versions, channel files hold the version that wrote them, and tests contain expected
+/// values.
 bool MayHaveNumber(const fs::path& path) {
     const std::string name = path.string();
     return name == "CMakeLists.txt" || name == "CHANGELOG.md" || path.extension() == ".zelk" ||

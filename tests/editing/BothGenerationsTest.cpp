@@ -1,4 +1,4 @@
-// Pages of both P25 generations in one window: each works with the zones of its own.
+// Pages of both P25 generations in one window: each uses its own zones.
 #include "editing/ZelkEdit.h"
 #include "tests/editing/CellTools.h"
 #include "tests/frame/FrameTools.h"

@@ -1,4 +1,4 @@
-// The paint of repaired cells: where it goes, and where it stays.
+// Paint of repaired cells: when it is removed, and when it is kept.
 #include "commands/CommandIds.h"
 #include "editing/Shadows.h"
 #include "editing/ZelkEdit.h"
@@ -24,7 +24,7 @@ protected:
         return Grid()->GetCellBackgroundColour(row, col) == FailColour;
     }
 
-    /// Tags of the columns that have lost their paint, after all have been painted.
+    /// Tags of the columns without paint, after all of them were painted.
     static std::set<std::string> PlainOf(int row) {
         std::set<std::string> tags;
         for (int col = 0; col < ColumnTotal; ++col)
@@ -50,7 +50,7 @@ protected:
     static void DefaultRow(int row) { RunOnRow(IdDefaultRow, "Change Selection to defaults?", row); }
 };
 
-/// An edit of a cell, and the columns that lose their paint by it.
+/// An edit of a cell, and the columns whose paint it removes.
 struct Edit {
     int col;
     const char* text;
@@ -228,7 +228,7 @@ TEST_F(CellPaint, GoesFromTheCellsOfAColumnThatIsSetToDefaults) {
     EXPECT_EQ(PlainOf(5), (std::set<std::string>{"RFRQ", "TFRQ"}));
 }
 
-// A departure: "n/a" is what such rows have for a mode.
+// A departure: such rows have "n/a" as their mode.
 TEST_F(CellPaint, IsNotPutOnTheModeOfAM225To400RowsByChecks_Departure) {
     RetargetModule();
     Fill({5, 6});

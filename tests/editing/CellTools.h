@@ -1,4 +1,4 @@
-// Cells of the page, edited as by a person, and what the grid says about them.
+// Cells of the page, edited as a user does, and their state in the grid.
 #pragma once
 
 #include "commands/OpenEditor.h"
@@ -30,10 +30,10 @@ protected:
 
     static wxGrid* Grid() { return CurrentGrid(); }
 
-    /// The first page becomes one of the wide module, with a band in each row.
+    /// Turns the current page into one of the wide module, with a band in each row.
     static void RetargetModule() { Retarget(Kdrv4xxx, ModuleSlot); }
 
-    /// A page on which no other radio has left anything; it becomes the current one. type is given
+    /// Adds a page without leftovers from another radio and makes it the current one. type is given
     /// where it isn't the radio's own.
     static void AddFreshPage(int radio, int slot, int type = -1) {
         SetPageParameters(MainFrame, 1, radio, slot);
@@ -43,19 +43,19 @@ protected:
         testbench::PumpUntilIdle();
     }
 
-    /// Gives memories the texts of the default row, as if somebody had typed into them.
+    /// Gives memories the texts of the default row, as if a user had typed into them.
     static void Fill(std::initializer_list<int> rows) { FillRowsFromDefault(rows); }
 
     static bool IsLocked(int row, int col) { return Grid()->IsReadOnly(row, col); }
 
-    /// The cell's editor, which stays the grid's.
+    /// The cell's editor; the grid keeps ownership.
     static wxGridCellEditor* EditorAt(int row, int col) {
         wxGridCellEditor* editor = Grid()->GetCellEditor(row, col);
         editor->DecRef();
         return editor;
     }
 
-    /// The cell's renderer, which stays the grid's.
+    /// The cell's renderer; the grid keeps ownership.
     static wxGridCellRenderer* RendererAt(int row, int col) {
         wxGridCellRenderer* renderer = Grid()->GetCellRenderer(row, col);
         renderer->DecRef();
@@ -65,7 +65,7 @@ protected:
     static std::string EditorClass(int row, int col) { return ClassOf(*EditorAt(row, col)); }
     static std::string RendererClass(int row, int col) { return ClassOf(*RendererAt(row, col)); }
 
-    /// Opens the editor of a choice cell by key and waits until it has the keyboard.
+    /// Opens the editor of a choice cell by key and waits until it has the focus.
     static wxComboBox* OpenChoice(int row, int col) {
         GoTo(row, col);
         testbench::PressKey("F2");
@@ -73,7 +73,7 @@ protected:
         return dynamic_cast<wxComboBox*>(EditorAt(row, col)->GetControl());
     }
 
-    /// The texts that the cell offers; the edit is given up.
+    /// The texts that the cell offers; the edit is cancelled.
     static Texts OfferedIn(int row, int col) {
         Texts offered;
         if (wxComboBox* combo = OpenChoice(row, col))
@@ -83,7 +83,7 @@ protected:
         return offered;
     }
 
-    /// Chooses a text by keys, as a person does.
+    /// Chooses a text by keys, as a user does.
     static void Choose(int row, int col, const std::string& text) {
         wxComboBox* combo = OpenChoice(row, col);
         ASSERT_NE(combo, nullptr) << row << ", " << col;
@@ -113,7 +113,7 @@ protected:
 
     template <class Thing>
     static std::string ClassOf(const Thing& thing) {
-        // The name behind its length, as this compiler writes it.
+        // This compiler writes the length before the name.
         const std::string name = typeid(thing).name();
         return name.substr(name.find_first_not_of("0123456789"));
     }

@@ -1,4 +1,4 @@
-// The checks of what a channel is: band, scan, zone, description, mode.
+// Checks of a channel's band, scan, zone, description and mode.
 #include "tests/editing/ColumnCheckTest.h"
 
 #include "editing/ScanListCell.h"

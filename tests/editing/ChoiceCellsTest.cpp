@@ -1,4 +1,4 @@
-// Choices from a list, and what they carry to the cells beside them.
+// Choices from a list, and the values that they copy to the neighbouring cells.
 #include "tests/editing/CellTools.h"
 
 using testbench::TypeIntoCell;
@@ -46,7 +46,7 @@ TEST_F(ChoiceCells, AReceiveToneIsCarriedAndTurnsTheCodesOff) {
         SetTonesAndCodes(5);
         Choose(5, RTON, "71.9");
         EXPECT_EQ(TonesAndCodes(5), (Texts{"71.9", "OFF", "71.9", "OFF"}));
-        // There is no way back to the code that was there before.
+        // The previous code is not restored.
         Choose(5, RTON, "OFF");
         EXPECT_EQ(TonesAndCodes(5), (Texts{"OFF", "OFF", "OFF", "OFF"}));
     }

@@ -1,4 +1,4 @@
-// What a column's check makes of a text, on a page of each of the eight radio types.
+// Results of a column's check, on a page of each of the eight radio types.
 #pragma once
 
 #include "editing/ColumnChecks.h"
@@ -16,7 +16,7 @@ inline const Pages p25Pages{Rp25, Np25};
 inline const Pages analogPages{Anfm, Mdlx, O12Page, KdarPage, Anam, Fxam};
 inline const Pages maskPages{Anfm, Mdlx, O12Page, Anam, Fxam};
 
-/// One text under one column's check, in row 5, where the default row holds "dflt".
+/// A text for the check of a column, in row 5; the default row holds "dflt".
 struct Case {
     std::vector<int> columns;
     const char* text;
@@ -38,7 +38,7 @@ protected:
         static constexpr int targets[][2] = {{Krv47, 0}, {Kdrv716, 0},  {Kdrv716B, 0}, {Kdrv4xxx, ModuleSlot},
                                              {Orv12, 0}, {Kdar2000, 0}, {Krv620, 1},   {Krv47, 0}};
         Retarget(targets[page][0], targets[page][1]);
-        if (page == Fxam) // no radio has it, files may
+        if (page == Fxam) // no radio has this type, but files may
             CurrentParameters().Type = RadioCatalogue::FXAM;
         ASSERT_EQ(CurrentParameters().Type, page);
     }
@@ -112,7 +112,7 @@ protected:
         return CurrentGrid()->GetCellBackgroundColour(ofRow, column) == wxColour(235, 125, 50);
     }
 
-    /// The row holds nothing but "before" in the column, whose default is "dflt".
+    /// Empties the row except for the column, which holds "before" and has the default "dflt".
     static void PrepareRow(int column) {
         for (int col = 0; col < 32; ++col)
             SetCell(row, col, "");

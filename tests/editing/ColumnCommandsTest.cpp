@@ -10,7 +10,8 @@ namespace {
 
 class DefaultColumn : public CommandTest {
 protected:
-    /// The cells of a row that a command on the column of row 0's text "new" changes.
+    /// The cells of a row that change when the command runs on this column; the default row holds
+    /// "new" there.
     static std::string Changed(int col) {
         for (int c = 0; c < 32; ++c)
             SetCell(5, c, "old");
@@ -119,7 +120,7 @@ TEST_F(DefaultColumn, OfTheModulesBandEmptiesTheFrequenciesOfRowsThatWereOnAnoth
     EXPECT_FALSE(IsReadOnly(3, MODE));
     EXPECT_FALSE(IsReadOnly(3, RCOD));
     EXPECT_TRUE(IsReadOnly(3, TCOD)) << "it stays as the former band left it";
-    // The frequency is typed by the new band's rules.
+    // The new band's rules apply to a typed frequency.
     testbench::ShowAndFocus(*MainFrame);
     testbench::TypeIntoCell(*CurrentGrid(), 3, RFRQ, "240.0");
     EXPECT_NE(Cell(3, RFRQ).Left(3), "240");
@@ -149,7 +150,7 @@ TEST_F(DefaultColumn, IsTheFirstOneSelectedInRow1) {
     Run(DefaultCol);
     EXPECT_EQ(Cell(5, DESC), "new");
     EXPECT_NE(Cell(5, RFRQ), "new");
-    // Nothing in row 1: the last one that can be.
+    // No cell of row 1 is selected: the command takes the last possible column.
     CurrentGrid()->SelectRow(2);
     Run(DefaultCol);
     EXPECT_EQ(Cell(5, TIDC), "new");

@@ -46,7 +46,7 @@ protected:
         const char* message;
     };
 
-    /// Every command that asks, with what it asks.
+    /// Every command that asks, with its question.
     static const std::vector<Question>& Questions() {
         static const std::vector<Question> questions = {
             {DefaultRow, "Change Selection to defaults?", NoUndoAll},
@@ -74,7 +74,7 @@ protected:
                 dialogs.ExpectMessage(question.caption, question.message, answer).Style(wxOK | wxCANCEL);
     }
 
-    /// Sends the command as the context menu does, and says OK to its question, if it has one.
+    /// Sends the command as the context menu does, and answers its question, if any.
     static void Run(int command, int answer = wxID_OK) {
         testbench::DialogScript dialogs;
         ExpectQuestion(dialogs, command, answer);
@@ -114,7 +114,7 @@ protected:
     }
 
     static bool IsReadOnly(int row, int col) { return CurrentGrid()->IsReadOnly(row, col); }
-    /// Columns of a row that are read-only.
+    /// The read-only columns of a row.
     static std::vector<int> Locked(int row) {
         std::vector<int> columns;
         for (int col = 0; col < 32; ++col)
@@ -127,7 +127,7 @@ protected:
     static wxColour Orange() { return wxColour(235, 125, 50); }
     static wxColour Teal() { return wxColour(105, 160, 170); }
 
-    /// Fills rows as a person does who types into blank ones, and names them "row<n>".
+    /// Fills rows as a user does by typing into blank ones, and names them "row<n>".
     static void Fill(std::initializer_list<int> rows) {
         FillRowsFromDefault(rows);
         for (int row : rows)
@@ -136,7 +136,8 @@ protected:
 
     static int SlotsTaken(int zone) { return ZoneSlots[static_cast<size_t>(zone)]; }
 
-    /// Links a filled P25 row as primary with shadows in the rows given, as the radio keeps them.
+    /// Links a filled P25 row as primary with shadows in the rows given, in the form in which the
+    /// radio keeps them.
     static void Link(int primary, std::initializer_list<int> shadows) {
         int slot = 0;
         for (int shadow : shadows) {
@@ -156,10 +157,10 @@ protected:
             CurrentGrid()->SetReadOnly(primary, col, true);
     }
 
-    /// Right-clicks at the spot and chooses the command in the menu that opens. Dialogs that come
-    /// have to be expected in a script.
+    /// Right-clicks at the spot and chooses the command in the menu that opens. A script must
+    /// expect the dialogs that follow.
     static void ClickCommand(const std::function<wxPoint()>& spot, int command) {
-        // Two clicks at one place would make a double click, which asks for no menu.
+        // Two clicks at the same spot would be a double click, which opens no menu.
         static int aside = 5;
         aside = -aside;
         const auto isOpen = [] { return MainFrame->m_contextMenu->GetInvokingWindow() != nullptr; };

@@ -1,4 +1,4 @@
-// Every command of the context menu by right click, choice and answer, on every kind of page.
+// Every command of the context menu, chosen by right click and answered, on every kind of page.
 #include "tests/editing/CommandTest.h"
 
 #include <wx/dialog.h>
@@ -7,8 +7,8 @@
 
 namespace {
 
-/// A page to work on. Rows 2, 3, 4 and 6 and the last two movable ones are filled, and the guards;
-/// on a P25 page also row 1.
+/// A page to work on. Rows 2, 3, 4 and 6, the last two movable ones and the guards are filled; on a
+/// P25 page also row 1.
 struct Page {
     const char* name;
     int radio, slot, rows;
@@ -42,7 +42,7 @@ protected:
         MakePage();
     }
 
-    /// Makes the page anew: what a former case left is gone.
+    /// Makes a fresh page without leftovers from an earlier case.
     static void MakePage() {
         const Page& page = GetParam();
         Retarget(page.radio, page.slot);
@@ -77,7 +77,7 @@ protected:
         return cells;
     }
 
-    /// What a row is after it has been set to its defaults.
+    /// The texts of a row after it has been set to its defaults.
     static Texts DefaultsOf(int row) {
         const Page& page = GetParam();
         Texts texts = RowTexts(0);
@@ -96,7 +96,7 @@ protected:
             EXPECT_EQ(RowTexts(static_cast<int>(row)), expected[row]) << "row " << row;
     }
 
-    /// Rows of which all cells are painted as marked ones are; others have no paint at all.
+    /// Rows in which all cells have the paint of marked rows. Fails if any other row has paint.
     static std::vector<int> PaintedRows() {
         std::vector<int> painted;
         for (int row = 0; row <= GetParam().rows; ++row) {
@@ -124,7 +124,7 @@ protected:
                            [command](const Question& question) { return question.command == command; });
     }
 
-    /// Chooses a command of row 3, rows 2 and 6 being selected before or nothing, and answers its
+    /// Chooses a command of row 3, with rows 2 and 6 or nothing selected before, and answers its
     /// question.
     static void ChooseForRow3(int command, bool many, int answer) {
         if (many)
@@ -162,7 +162,7 @@ INSTANTIATE_TEST_SUITE_P(On, ContextCommands, ::testing::ValuesIn(Pages), NameOf
 INSTANTIATE_TEST_SUITE_P(On, GuardRowCommands, ::testing::ValuesIn(PagesWith(&Page::guards)), NameOf);
 INSTANTIATE_TEST_SUITE_P(On, P25Commands, ::testing::ValuesIn(PagesWith(&Page::p25)), NameOf);
 
-// Rows 3, or 2, 3 and 6, of a page.
+// Row 3 alone, or rows 2, 3 and 6 of a page.
 constexpr bool One = false, Many = true;
 
 std::vector<int> RowsOf(bool many) {
@@ -443,7 +443,7 @@ TEST_P(ContextCommands, DefaultFileFillsTheWholePage) {
     Cells expected{RowTexts(0)};
     for (int row = 1; row <= page.rows; ++row) {
         expected.push_back(DefaultsOf(row));
-        // Sixteen rows go into a zone; the last zone is the guard rows'.
+        // A zone holds sixteen rows; the last zone is reserved for the guard rows.
         if (page.p25)
             expected.back()[ZONE] = RadioCatalogue::ZoneNames32[(row - 1) / 16];
     }

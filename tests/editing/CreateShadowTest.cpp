@@ -1,4 +1,4 @@
-// The command that gives a memory a shadow.
+// The command that creates a shadow of a memory.
 #include "editing/ZelkEdit.h"
 #include "tests/editing/CommandTest.h"
 
@@ -54,7 +54,7 @@ protected:
         RunOn(primary);
     }
 
-    /// What a choice cell offers.
+    /// The texts that a choice cell offers.
     static Texts Offered(int row, int col) {
         CurrentGrid()->GoToCell(row, col);
         CurrentGrid()->EnableCellEditControl();
@@ -68,7 +68,7 @@ protected:
         return offered;
     }
 
-    /// Enters each of the numbers for a shadow of row 10, and expects that it is in use.
+    /// Enters each of the numbers for a shadow of row 10, and expects a report that it is in use.
     static void TryNumbersInUse(std::initializer_list<const char*> numbers) {
         for (const char* number : numbers) {
             SCOPED_TRACE(number);
@@ -197,7 +197,8 @@ TEST_F(CreateShadowCommand, RefusesANumberInUse) {
     EXPECT_EQ(RowTexts(30), used);
 }
 
-// A departure: texts that differ in their zeros would let a memory be overwritten in silence.
+// A departure: with a comparison of texts, numbers that differ in leading zeros would let a memory
+// be overwritten without a warning.
 TEST_F(CreateShadowCommand, ComparesNumbersAndNotTheirTextsSoThatNoMemoryIsOverwritten_Departure) {
     Complete(30);
     Complete(31);
@@ -211,7 +212,7 @@ TEST_F(CreateShadowCommand, ComparesNumbersAndNotTheirTextsSoThatNoMemoryIsOverw
     EXPECT_EQ(RowTexts(14), Blank());
 }
 
-// A departure: the shadow stands in the row of its number, whatever number that row has now.
+// A departure: the shadow is written into the row of its number, whatever number that row has now.
 TEST_F(CreateShadowCommand, RefusesARowWithDataWhateverItsNumberSoThatNoMemoryIsOverwritten_Departure) {
     testbench::ShowAndFocus(*MainFrame);
     const std::pair<int, const char*> contents[] = {{MNUM, "099"}, {MNUM, ""}, {DESC, "KEPT"}, {MFLG, "68"}};

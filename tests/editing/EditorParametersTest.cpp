@@ -1,4 +1,4 @@
-// What the editor of each cell is made with, on a page of each of the eight radio types.
+// Parameters of the editor of each cell, on a page of each of the eight radio types.
 #include "tests/editing/CellTools.h"
 
 #include "editing/ChoiceCells.h"
@@ -30,7 +30,7 @@ const std::string CodesWithoutOff =
     "731 732 734 743 754";
 const std::string Codes = "OFF " + CodesWithoutOff;
 
-// Choices of each kind of editor. Those of bands are set apart by bars, as their names hold blanks.
+// Choices of each kind of editor. Bars separate band names, as these contain blanks.
 std::string Plain(const std::string& choices) {
     return "choice: " + choices;
 }
@@ -47,14 +47,14 @@ Editors Analog(const std::string& number, const std::string& description, const 
             {13, Linked(Codes)}, {19, Linked(Codes)}};
 }
 
-/// editors with others in place of some.
+/// The editors, with some replaced by others.
 Editors With(Editors editors, const Editors& others) {
     for (const auto& [col, editor] : others)
         editors[col] = editor;
     return editors;
 }
 
-/// AM pages that aren't the module's give tones no editor.
+/// On AM pages other than the module's, tones have no editor of their own.
 const Editors NoTones = {{12, "text"}, {18, "text"}};
 
 Editors P25(const std::string& number, const std::string& zones, const std::string& frequency) {
@@ -112,7 +112,7 @@ const std::vector<Page>& Pages() {
          With(Analog("memory 0 to 200", nine, "frequency of 8, band 6, step 2500"), NoTones)},
         {"KDRV-8400, ANAM", Kdrv8400, 1, 6,
          With(Analog("memory 0 to 200", nine, "frequency of 7, band 3, step 8333"), NoTones)},
-        // No radio has this type, files may.
+        // No radio has this type, but files may.
         {"KRV-47, FXAM", Krv47, 0, 7, Analog("memory 0 to 122", nine, "frequency of 7, band 1, step 2500")},
         {"KRV-620, FXAM", Krv620, 1, 7,
          With(Analog("memory 0 to 200", nine, "frequency of 8, band 6, step 2500"), NoTones)},
@@ -148,7 +148,7 @@ protected:
     }
 
     static std::string DescribeText(const wxGridCellEditor& editor, wxTextCtrl& control) {
-        // A text that is too long would be refused whole.
+        // A text that is too long would be refused completely, so it is entered in pieces.
         for (int i = 0; i < 40; ++i)
             control.AppendText("1");
         const size_t width = control.GetValue().length();
@@ -169,7 +169,7 @@ protected:
         return "text" + (width < 40 ? of : "");
     }
 
-    /// The cell's editor in words.
+    /// A description of the cell's editor.
     static std::string Describe(int row, int col) {
         wxGridCellEditor& editor = *EditorAt(row, col);
         if (dynamic_cast<wxGridCellActivatableEditor*>(&editor))
@@ -209,7 +209,7 @@ TEST_F(EditorParameters, AreThoseOfTheRadioInEveryCell) {
 
 TEST_F(EditorParameters, OfFrequenciesOfTheModuleAreThoseOfTheRowsBand) {
     Become(Kdrv4xxx, ModuleSlot, 3);
-    // A row without transfer flags has the band of the default row.
+    // A row without transfer flags uses the band of the default row.
     for (int row : {3, 4, 5, 6})
         SetCell(row, TFLG, "A0");
     SetCell(3, BAND, "FM 30-50");

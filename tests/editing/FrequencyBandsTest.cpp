@@ -1,4 +1,4 @@
-// The frequencies of every band at every step: what can be typed, what can't, and what is completed.
+// Frequencies of every band at every step: accepted, refused and completed texts.
 #include "editing/FrequencyRules.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Texts are set apart by blanks; a text that is completed stands before ">", its frequency behind.
+/// Texts are separated by blanks. For completed ones the text is before ">", its frequency after.
 struct Line {
     int step, band, width;
     const char *accepted, *refused, *completed;
@@ -235,7 +235,7 @@ constexpr Line Lines[] = {
 };
 // clang-format on
 
-/// The words of texts, one by one.
+/// Calls work with each word of the texts.
 template <class Work>
 void ForEachWord(const char* texts, Work work) {
     std::istringstream words(texts);

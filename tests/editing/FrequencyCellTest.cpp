@@ -11,7 +11,7 @@ namespace {
 
 class FrequencyCell : public TextCellTest {
 protected:
-    /// Frequency editors in both frequency cells of a row in use.
+    /// Installs frequency editors in both frequency cells of a row in use.
     static void InstallBoth(int row, int band, int step) {
         UseRow(row);
         for (int col : {RFRQ, TFRQ})
@@ -276,7 +276,7 @@ TEST_F(FrequencyCell, IsJudgedWithTheKeyAtTheCaret) {
     PressKey("BackSpace");
     TypeText("0"); // 155.102
     EXPECT_EQ(Typed(), "155.102");
-    TypeText("00"); // 155.1002 leaves the step
+    TypeText("00"); // 155.1002 is off the channel step
     EXPECT_EQ(Typed(), "155.102");
     for (int i = 0; i < 3; ++i)
         PressKey("Left");
@@ -347,7 +347,7 @@ TEST_F(FrequencyCell, TakesAPasteBeforeThePointWhereThereIsRoomForOneMoreCharact
     PressKey("Return");
     EXPECT_EQ(Text(5, RFRQ), "31.5000");
 
-    // Three digits leave no room for it.
+    // Three digits don't fit.
     InstallBoth(6, 5, 2500);
     GoTo(6, RFRQ);
     TypeText("155.2");
@@ -396,7 +396,7 @@ TEST_F(FrequencyCell, OfAReceiveOnlyFrequencyLeavesTransmitAlone) {
     EXPECT_EQ(Text(5, TFRQ), "118.000");
 }
 
-// No step lets 117.974 be typed, so it is put into the edit from the cell.
+// No step accepts 117.974 as typed text, so the edit takes it from the cell.
 TEST_F(FrequencyCell, Of117974LeavesTransmitAlone) {
     InstallBoth(5, 2, 8333);
     SetCell(5, RFRQ, "117.974");
@@ -454,7 +454,7 @@ TEST_F(FrequencyCell, FollowsNewBandAndStep) {
     GoTo(5, RFRQ);
     TypeText("155.2");
     PressKey("Escape");
-    // The control exists by now: the change has to reach it too.
+    // The control already exists: the change must reach it too.
     editor->SetEditorFreqParams(3, 8333);
     GoTo(5, RFRQ);
     TypeText("121.0123");

@@ -1,4 +1,4 @@
-// The checks of both frequencies.
+// Checks of both frequencies.
 #include "tests/editing/ColumnCheckTest.h"
 
 namespace {

@@ -42,12 +42,12 @@ TEST(FreqInBand, AnswersTheFirstFaultOfTheText) {
         {"155", 5, -1},
         {"1550000", 5, -1},
         {"n/a", 5, -1},
-        // A second point, which comes before any other fault of the parts.
+        // A second point; it is reported before any other fault of the parts.
         {"155.0.0", 5, -2},
         {"155..", 5, -2},
         {"..", 5, -2},
         {"1555.000000.", 5, -2},
-        // Too long, blanks at the right end of a part aside.
+        // Too long. Blanks at the right end of a part don't count.
         {"1555.0", 5, -3},
         {"0155.0", 5, -3},
         {" 155.0", 5, -3},

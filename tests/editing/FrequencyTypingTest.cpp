@@ -1,4 +1,4 @@
-// Which frequency texts can still become good ones, and how they are completed.
+// Frequency texts that can still become valid, and their completion.
 #include "editing/FrequencyRules.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@ namespace {
 
 constexpr int Steps[] = {1250, 2500, 6250, 8333, 12500, 25000};
 
-/// Which of the ten digits may be typed behind a text.
+/// The digits (0 to 9) that may be typed after a text.
 struct NextDigits {
     const char* text;
     const char* digits;
@@ -36,7 +36,7 @@ void ExpectEach(const std::string& texts, bool expected, int step, int band) {
     }
 }
 
-/// A text and what it is completed to; null when it is refused.
+/// A text and its completion; null if it is refused.
 struct Completed {
     const char* text;
     const char* expected;
@@ -125,7 +125,7 @@ TEST(TypedFrequency, HasToLieInTheBandAtEveryStep) {
     };
     for (int step : {1250, 2500, 6250, 8333, 12500, 25000, 5000})
         for (const Line& line : lines) {
-            // "50.00000" is longer than the narrow raster allows, but on the limit zeros always stand.
+            // "50.00000" is too long for the narrow raster, but the limit itself may always have zeros.
             ExpectEach(line.inside, true, step, line.band);
             ExpectEach(line.outside, false, step, line.band);
         }

@@ -1,4 +1,4 @@
-// A page under the habits of a person at a spreadsheet.
+// A page used the way people use a spreadsheet.
 #pragma once
 
 #include "tests/editing/CellTools.h"
@@ -17,7 +17,7 @@ protected:
     using Columns = std::vector<int>;
     using Place = std::pair<int, int>;
 
-    /// Everything that a person sees of a cell or may do with it.
+    /// Everything that a user sees of a cell or may do with it.
     struct CellState {
         std::string text;
         wxUint32 paint;
@@ -36,7 +36,7 @@ protected:
         return state;
     }
 
-    /// The cells that differ from a former state, with their texts; empty when none does.
+    /// The cells that differ from an earlier state, with their texts; empty if none does.
     static std::string ChangesSince(const PageState& before) {
         std::string changes;
         for (const auto& [place, now] : StateOfPage())

@@ -1,4 +1,4 @@
-// Copying, the menu key, column widths and rows of a page, under real keys and the mouse.
+// Copying, the menu key, column widths and rows of a page, with real keys and mouse.
 #include "tests/editing/GridHabits.h"
 
 #include "robot/Hands.h"
@@ -22,7 +22,7 @@ protected:
         ASSERT_TRUE(wxTheClipboard->SetData(new wxTextDataObject(text)));
     }
 
-    /// What Ctrl+C has put on the clipboard.
+    /// The text that Ctrl+C puts on the clipboard.
     static std::string Copied() {
         PressKey("Ctrl+C");
         wxTextDataObject data;
@@ -32,7 +32,7 @@ protected:
         return data.GetText().utf8_string();
     }
 
-    /// Lines as the toolkit ends them on this system, the last one too.
+    /// Joins lines with the toolkit's line end for this system, after the last one too.
     static std::string Lines(const Texts& lines) {
         std::string text;
         for (const std::string& line : lines)
@@ -79,7 +79,7 @@ protected:
         PumpUntilIdle();
     }
 
-    /// Drags each border between columns, just before and just behind it, where hidden ones lie.
+    /// Drags each border between columns, just before and just after it, where hidden columns are.
     static void DragAllEdges(int radio) {
         Retarget(radio, 0);
         MainFrame->SetSize(0, 0, 1270, 700);
@@ -106,7 +106,7 @@ protected:
         EXPECT_EQ(widened, 2 * shown - 1) << "each border is taken hold of at both sides, but the last one";
     }
 
-    /// The first pixel behind a shown column, in the middle of the labels.
+    /// The first pixel after a shown column, in the middle of the labels.
     static wxPoint EdgeOf(int col) {
         const int y = ColumnLabelSpot(*Grid(), col).y;
         const wxRect cell = Grid()->CellToRect(0, col);
@@ -123,7 +123,7 @@ protected:
         }
     }
 
-    /// The part of the screen that differs between two pictures of it, above a certain line left out.
+    /// The area in which two pictures of the screen differ, from line fromY down.
     static wxRect Difference(const wxImage& a, const wxImage& b, int fromY) {
         wxRect found;
         for (int y = fromY; y < a.GetHeight(); ++y)
@@ -227,7 +227,7 @@ TEST_F(GridMouse, MenuKeyOpensTheRowMenuBelowTheCursor) {
                         shown.push_back(item->GetId());
                     return shown;
                 });
-                // The menu is drawn when it comes up, which no event of the grid tells.
+                // The menu is drawn when it comes up; no event of the grid reports this.
                 for (int tries = 0; tries < 20 && menu.GetHeight() < 40; ++tries) {
                     robot.WaitFor([] { return false; }, 50);
                     menu = Difference(before, desk.Picture({}), corner.y + 2);

@@ -13,7 +13,7 @@ protected:
         Columns shown;
     };
 
-    /// A page of each type, with the columns that it shows.
+    /// A page of each type, with its visible columns.
     static const std::vector<Page>& Pages() {
         static const std::vector<Page> pages = {
             {"ANFM", Krv47, 0, {MNUM, SCAN, DESC, MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}},
@@ -38,7 +38,7 @@ protected:
         return *(std::find(shown.begin(), shown.end(), col) + way);
     }
 
-    /// An edit of one cell and what it leaves there.
+    /// An edit of one cell and the text that it leaves there.
     struct Edit {
         const char* name;
         int col;
@@ -67,7 +67,7 @@ protected:
         return edits;
     }
 
-    /// Opens the cell's editor and works in it as the edit says; the editor stays open.
+    /// Opens the cell's editor and enters the edit's keys; the editor stays open.
     static void Begin(int row, const Edit& edit) {
         if (edit.keys[0] == '<') {
             OpenChoice(row, edit.col);
@@ -354,7 +354,7 @@ TEST_F(GridKeys, FixedCellsAreHarmedByNoKey) {
 
 TEST_F(GridKeys, DeleteAndBackspaceOpenAnEditorThatLeavesTheCellUsable) {
     Retarget(Kdrv716B, 0);
-    // Return follows at once. Delete takes the first character away, Backspace the last one.
+    // Return follows at once. Delete removes the first character, Backspace the last one.
     struct Line {
         const char* name;
         int col;
@@ -420,7 +420,7 @@ TEST_F(GridKeys, F2OpensTheEditorOfEveryCellThatHasOne) {
 }
 
 TEST_F(GridKeys, TheNumberPadTypesFrequenciesNumbersAndScanLists) {
-    // The pad's keys go by the name that they have without the number lock.
+    // Keys of the pad are named as without Num Lock.
     struct NumberLock {
         NumberLock() { PressKey("Num_Lock"); }
         ~NumberLock() { PressKey("Num_Lock"); }

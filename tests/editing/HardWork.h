@@ -1,4 +1,4 @@
-// A person who works without a plan: random commands and edits on P25 pages, the same each time.
+// Random commands and edits on P25 pages, as a user without a plan would do. Reproducible by seed.
 #pragma once
 
 #include "tests/editing/CommandTest.h"
@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-/// Random numbers that are the same on every machine: they come from the engine alone.
+/// Random numbers that are the same on every machine, as only the engine produces them.
 class Dice {
 public:
     explicit Dice(uint32_t seed) : m_engine(seed) {}
@@ -29,7 +29,7 @@ private:
     std::mt19937 m_engine;
 };
 
-/// All that commands can change of a page, to be held against a later moment.
+/// Everything on a page that commands can change, for comparison at a later time.
 struct PageImage {
     size_t cells = 0;
     std::vector<int32_t> slots;
@@ -37,14 +37,14 @@ struct PageImage {
     bool operator==(const PageImage&) const = default;
 };
 
-/// Works on the first two pages, both P25 ones, and looks after each step whether they hold together.
+/// Works on the first two pages, both P25, and checks after each step that they are consistent.
 class HardWork : public CommandTest {
 protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// Does so many steps, most of them on the first page. Stops at the first that goes wrong, with
-    /// what led to it.
+    /// Does this number of steps, most of them on the first page. Stops at the first failure and
+    /// reports the steps that led to it.
     void Work(uint32_t seed, int steps);
 
 private:
@@ -52,7 +52,7 @@ private:
         const char* name;
         int weight;
         void (HardWork::*run)();
-        /// Whether it asks no more than what can be known while a cell editor is open.
+        /// Whether its questions can be predicted while a cell editor is open.
         bool whileEditing;
     };
     static const std::vector<Kind>& Kinds();
@@ -60,12 +60,12 @@ private:
     const Kind& PickKind();
     void Step();
     void TellSummary() const;
-    /// Adds to what is told about the running step.
+    /// Adds to the report of the running step.
     void Note(const std::string& text);
     /// Seed, step and the last ten steps.
     std::string Recent() const;
 
-    // What a step can be; HardWorkSteps.cpp.
+    // The possible steps; in HardWorkSteps.cpp.
     void DefaultRows();
     void CopyOneRow();
     void PasteOneRow();
@@ -97,7 +97,7 @@ private:
     void PickContextRow();
     int PickRow();
     int PickGoodRow();
-    /// The step is one that works on rows, on this one among others.
+    /// Records that the step works on rows, and that this row is one of them.
     void NameRow(int row);
     void NameSelectedRows();
     void RunOnPickedColumn(int command);
@@ -105,18 +105,18 @@ private:
     void PutIntoEditor(wxGridCellEditor* editor, int row, int col);
     std::string ShadowText();
 
-    // What must hold; HardWorkChecks.cpp.
+    // Conditions that must hold; in HardWorkChecks.cpp.
     static PageImage ImageOf(int page);
     static void ExpectShape(int page);
     static void ExpectSlotsInRange();
-    /// A step that works on rows touches no others but those that are linked with them.
+    /// A step that works on rows changes no other rows except those that are linked with them.
     void ExpectOtherRowsUntouched(const std::vector<wxArrayString>& before) const;
-    /// A page that has just been checked keeps stronger promises.
+    /// A page that has just been checked meets stronger conditions.
     static void ExpectCheckedPage();
     static void ExpectSlotsCounted();
     void ExpectSecondCheckKeepsZones();
 
-    /// The row whose box tells that another one than row holds the number; 0 when none does.
+    /// The row that the box reports: another one than row that holds the number; 0 if none does.
     static int OtherRowWith(int row, const wxString& number);
     static void ExpectNumberBox(testbench::DialogScript& dialogs, int row);
     static void ExpectBoxesOfPageCheck(testbench::DialogScript& dialogs);
@@ -129,9 +129,9 @@ private:
     int m_copiedPage = -1;
     /// The command has been cancelled: nothing may change.
     bool m_cancelled = false;
-    /// The counters may be cleared one position into the next page.
+    /// The step may clear the counters up to one position into the next page.
     bool m_clearsSlots = false;
-    /// The rows that the step works on, if it is one that works on rows.
+    /// The rows that the step works on, if it works on rows.
     std::set<int> m_namedRows;
     bool m_namesRows = false;
     size_t m_shadowsSeen = 0, m_rowsSeen = 0;

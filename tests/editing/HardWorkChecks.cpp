@@ -1,4 +1,4 @@
-// What must hold on P25 pages whatever was done to them.
+// Conditions that must hold on P25 pages after any step.
 #include "tests/editing/HardWork.h"
 
 #include "catalogue/TextNumbers.h"
@@ -34,7 +34,7 @@ void HardWork::ExpectOtherRowsUntouched(const std::vector<wxArrayString>& before
         if (m_namedRows.count(row) || (ReadHex(texts[MFLG]) & ShadowIndexMask))
             continue;
         for (int col = 0; col < 32; ++col) {
-            // A primary's list loses a shadow that goes.
+            // A shadow that is removed disappears from its primary's list.
             const bool lost = col >= SHD0 && col <= SHD6 && Cell(row, col) == "0";
             if (!lost && Cell(row, col) != texts[static_cast<size_t>(col)])
                 ADD_FAILURE() << "row " << row << ", " << col << " was \"" << texts[static_cast<size_t>(col)]
@@ -69,7 +69,7 @@ void HardWork::ExpectSlotsInRange() {
         if (ZoneSlots[i] < 0 || ZoneSlots[i] > 16)
             ADD_FAILURE() << "page " << i / 32 + 1 << ", zone position " << i % 32 << " holds "
                           << ZoneSlots[i];
-    // Pages that don't exist, but for the position that the second page reaches.
+    // Pages that don't exist, except the position that the second page reaches.
     for (size_t i = 2 * 32 + 1; i < ZoneSlots.size(); ++i)
         EXPECT_EQ(ZoneSlots[i], 0) << "page " << i / 32 + 1;
 }
@@ -116,7 +116,7 @@ void HardWork::ExpectSlotsCounted() {
         const int zone = FindZone(Cell(row, ZONE));
         if (!RowHasData(row) || IsShadow(CurrentGrid(), row) || zone == wxNOT_FOUND)
             continue;
-        // A guard row that finds its zone full keeps its text without a slot.
+        // A guard row whose zone is full keeps its text without a slot.
         if (row < GD1 || zone == last)
             ++shown[static_cast<size_t>(zone)];
     }

@@ -1,4 +1,4 @@
-// The steps that random work on a page can take.
+// The possible steps of random work on a page.
 #include "commands/OpenEditor.h"
 #include "tests/editing/HardWork.h"
 
@@ -17,7 +17,7 @@
 
 namespace {
 
-/// What a file from elsewhere, or a mistake, could bring into a cell.
+/// Texts that a foreign file or a mistake could put into a cell.
 const std::vector<wxString>& HostileTexts() {
     static const std::vector<wxString> texts = {
         "",
@@ -86,7 +86,7 @@ std::string Quoted(const wxString& text) {
     return "\"" + text.Left(20).utf8_string() + (text.length() > 20 ? "..." : "") + "\"";
 }
 
-/// Shown columns that a person can edit, and for locked cells can't.
+/// Visible columns that a user can edit where the cell isn't locked.
 constexpr struct {
     int col;
     const char* name;
@@ -101,8 +101,8 @@ int LastMovingRow() {
     return CurrentParameters().Rows - 2;
 }
 
-/// Number editors take it as a misuse when their cell holds no number, which a row from elsewhere can
-/// bring about. The program runs with such complaints off.
+/// True if the cell holds a text that is no number, which a row from elsewhere can cause. The number
+/// editors assert then; the program runs with such assertions off.
 bool UpsetsNumberEditor(int row, int col) {
     const wxString text = CurrentGrid()->GetCellValue(row, col);
     long number = 0;
@@ -205,7 +205,7 @@ int HardWork::PickRow() {
     return m_dice.Chance(5) ? m_dice.Between(rows - 1, rows) : m_dice.Between(0, rows);
 }
 
-/// A complete memory that a shadow can be made of, likely a primary; any row where there is none.
+/// A complete memory that can get a shadow, likely a primary; any row if there is none.
 int HardWork::PickGoodRow() {
     std::vector<int> complete, primaries;
     for (int row : FilledRows()) {
@@ -221,7 +221,7 @@ int HardWork::PickGoodRow() {
 }
 
 void HardWork::PickContextRow() {
-    // A menu that was opened on a longer page leaves a row behind that this one may not have.
+    // A menu opened on a longer page leaves a row number that this page may not have.
     ContextRow = m_dice.Chance(8) ? m_dice.Between(-1, 600) : PickRow();
     Note("at row " + std::to_string(ContextRow));
 }
@@ -267,7 +267,7 @@ void HardWork::PasteOneRow() {
             dialogs.ExpectMessage("Error - Empty paste buffer!", "Cannot paste empty row.")
                 .Style(testbench::plainBox);
         else if (!m_cancelled && OtherRowWith(ContextRow, NumberText(ContextRow)))
-            // Else the row gets its own number where the copied one can't stand.
+            // Otherwise the row gets its own number where the copied one is not allowed.
             ExpectNumberBox(dialogs, OtherRowWith(ContextRow, RowCopyBuffer[MNUM]));
     }
     if (memory && !m_cancelled && m_copiedPage >= 0 && m_copiedPage != CurrentPage)
@@ -302,7 +302,7 @@ void HardWork::MarkRows() {
     Run(MarkRow);
 }
 
-/// Selects a column as a click on its label does, but at times something else.
+/// Selects a column as a click on its label does, but sometimes something else.
 void HardWork::RunOnPickedColumn(int command) {
     m_clearsSlots = true;
     if (m_dice.Chance(20)) {
@@ -373,7 +373,8 @@ void HardWork::ClearHighlights() {
     MainFrame->OnClearHighlight(event);
 }
 
-/// What the user enters for a shadow: mostly a number of the page, used or not, and at times none.
+/// The user's entry for a shadow: mostly a number of the page, used or not, and sometimes an
+/// invalid one.
 std::string HardWork::ShadowText() {
     static const char* const bad[] = {"0", "-3", "abc", "12a", "1.5", " ", "503", "9999", "99999999999"};
     if (m_dice.Chance(12))

@@ -1,4 +1,4 @@
-// P25 pages under thousands of random commands and edits: nothing that a page promises is lost.
+// P25 pages under thousands of random commands and edits: they stay consistent.
 #include "tests/editing/HardWork.h"
 
 #include "catalogue/TextNumbers.h"
@@ -22,17 +22,17 @@ namespace {
 
 constexpr size_t RecentSteps = 10;
 
-/// What is told if the program crashes: a signal handler may not build texts.
+/// Text reported if the program crashes: a signal handler may not build texts.
 char lastWords[8192];
 
-/// Tells the last steps when the program crashes while it lives.
+/// Reports the last steps if the program crashes during its lifetime.
 class CrashReport {
 public:
     CrashReport() {
         struct sigaction action {};
         action.sa_handler = [](int signal) {
             [[maybe_unused]] const auto written = write(STDERR_FILENO, lastWords, strlen(lastWords));
-            sigaction(signal, &Before(signal), nullptr); // the fault comes again
+            sigaction(signal, &Before(signal), nullptr); // the fault occurs again
             if (signal == SIGABRT)
                 raise(signal);
         };
@@ -115,8 +115,8 @@ void HardWork::Step() {
     if (m_cancelled && !editing) {
         EXPECT_TRUE(before == ImageOf(page)) << "a step without effect changed the page";
     }
-    // Zone 0 of the second page is within the reach of the first one, which clears it and, once it is
-    // full, takes slots of it.
+    // The first page reaches zone 0 of the second one: it clears its counter and, once full itself,
+    // takes slots of it.
     PageImage other = ImageOf(1 - page);
     const int32_t* own = ZoneSlotsOf(0);
     const bool reaches = m_clearsSlots ? other.slots[0] == 0 : std::accumulate(own, own + 32, 0) == 32 * 16;
@@ -137,7 +137,7 @@ void HardWork::Work(uint32_t seed, int steps) {
     for (m_step = 1; m_step <= steps; ++m_step) {
         Step();
         if (m_step % 10 == 0)
-            wxYield(); // whatever stands in the cells gets painted
+            wxYield(); // paints whatever the cells contain
         m_rowsSeen = std::max(m_rowsSeen, FilledRows().size());
         size_t shadows = 0;
         for (int row = 1; row <= CurrentParameters().Rows; ++row)
@@ -168,7 +168,7 @@ namespace {
 
 class P25PagesWorkedHard : public HardWork {
 protected:
-    /// The page that most of the work is done on has 502 rows, the other one 232.
+    /// Most of the work is on a page with 502 rows; the other page has 232.
     void WorkOnTheSecondGeneration(uint32_t seed, int steps) {
         Retarget(Kdrv716B, 0);
         testbench::AddPage(Kdrv716);
@@ -177,7 +177,7 @@ protected:
         Work(seed, steps);
     }
 
-    /// The other way round.
+    /// Most of the work is on a page with 232 rows; the other page has 502.
     void WorkOnTheFirstGeneration(uint32_t seed, int steps) {
         Retarget(Kdrv716, 0);
         testbench::AddPage(Kdrv716B);

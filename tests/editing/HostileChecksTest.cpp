@@ -1,4 +1,4 @@
-// What the checks make of texts that nobody means, on a page of each radio type.
+// Results of the checks for texts that no one intends, on a page of each radio type.
 #include "tests/editing/ColumnCheckTest.h"
 
 namespace {
@@ -20,13 +20,13 @@ const wxString& TextOf(int text) {
 const char* const Names[TextTotal] = {"long",         "non-ASCII",          "control",     "minus",
                                       "forty digits", "minus forty digits", "wide digits", "format"};
 
-// Stand-ins for what a text becomes.
+// Placeholders for the result.
 const char* const Same = "=";     // the text itself
 const char* const Default = "d";  // the default row's, unpainted
 const char* const Repaired = "!"; // the default row's, painted
 const char* const None = "";
 
-/// What each text becomes in columns of pages.
+/// The result for each text in columns of pages.
 struct Line {
     std::vector<int> columns;
     Pages pages;
@@ -46,7 +46,7 @@ const std::vector<Line>& Lines() {
         {{BAND}, {Mdlx}, EVERY(Repaired)},
         {{BAND}, {Anfm, Rp25, Np25, O12Page, KdarPage, Anam, Fxam}, EVERY(None)},
         {{SCAN}, {Rp25, Np25, KdarPage}, EVERY("N")},
-        // Two characters without a number read 0; four are marks of the legacy files.
+        // Two characters without a number read as 0; four are marks of the legacy files.
         {{SCAN}, notP25OrKdar, {Repaired, Same, Same, Repaired, Repaired, Repaired, Same, "15"}},
         {{ZONE}, p25Pages, EVERY("1")},
         {{ZONE}, analogPages, EVERY(None)},
@@ -60,14 +60,14 @@ const std::vector<Line>& Lines() {
         {{MODE, RFRQ, TFRQ}, allPages, EVERY(Repaired)},
         {{RSQL, TSQL, RTON, TTON, RCOD, TCOD}, p25Pages, EVERY(Repaired)},
         {{RSQL, TSQL}, analogPages, EVERY(None)},
-        // What is no number reads 0, which stands.
+        // A text without a number reads as 0, which is valid.
         {{RNSV}, {Np25}, {Same, Same, Same, Repaired, Repaired, Repaired, Same, Same}},
         {{RNSV}, {Anfm, Rp25, Mdlx, O12Page, KdarPage, Anam, Fxam}, EVERY(None)},
         {{RTON, TTON, RCOD, TCOD}, {Anfm, Mdlx}, EVERY(Repaired)},
         {{RTON, TTON}, {O12Page, KdarPage, Anam, Fxam}, EVERY(None)},
         {{RCOD, TCOD}, {O12Page, KdarPage, Anam}, EVERY("n/a")},
         {{RCOD, TCOD}, {Fxam}, EVERY(Same)},
-        // Hexadecimal digits begin two of the texts.
+        // Two of the texts begin with hexadecimal digits.
         {{RTGP, TTGP, RNAC, TNAC},
          p25Pages,
          {Same, Default, Default, Default, Same, Default, Default, Default}},

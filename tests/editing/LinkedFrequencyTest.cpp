@@ -1,4 +1,4 @@
-// A frequency typed into a primary reaches its shadows, whose numbers count as row numbers.
+// Frequencies typed into a primary: copied to its shadows, whose numbers count as row numbers.
 #include "tests/editing/CommandTest.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// Cells with a list, worked with real keys and clicks: typing ahead, the open list, and leaving.
+// Cells with a list under real keys and clicks: typing ahead, the open list, and leaving.
 #include "tests/editing/CellTools.h"
 
 #include "tests/frame/FrameTools.h"
@@ -16,7 +16,7 @@ namespace {
 struct ListCell {
     const char* name;
     int radio, slot, col;
-    const char* mode = ""; ///< put into MODE first where it isn't empty
+    const char* mode = ""; ///< written to MODE first unless it is empty
 };
 
 const std::vector<ListCell>& AllLists() {
@@ -47,7 +47,7 @@ protected:
             Retarget(cell.radio, cell.slot);
     }
 
-    /// What the cell says after the keys, which are those of a person who begins at the cursor.
+    /// The cell's text after the keys, typed with the cursor on the cell and no edit open.
     static std::string After(int row, int col, const std::string& typed) {
         GoTo(row, col);
         TypeText(typed);
@@ -56,7 +56,7 @@ protected:
         return Text(row, col);
     }
 
-    /// Opens the list of the cell under the cursor, as a person does without the mouse.
+    /// Opens the list of the cell under the cursor, as a user does without the mouse.
     static void PopUp(int row, int col) {
         OpenChoice(row, col);
         m_poppedUp = false;
@@ -155,7 +155,7 @@ TEST_F(ListCells, LeaveTheCellWhenWhatWasTypedBeginsNoChoice) {
     Fill({5});
     SetCell(5, RTON, "67.0");
     SetCell(5, TTON, "67.0");
-    // "1567" isn't 156.7, and 7 alone isn't meant.
+    // "1567" isn't 156.7, and the 7 doesn't count on its own.
     EXPECT_EQ(After(5, RTON, "1567\n"), "67.0");
     EXPECT_EQ(After(5, RTON, "x\n"), "67.0");
     EXPECT_EQ(After(5, RTON, "156.77\n"), "67.0");
@@ -165,7 +165,7 @@ TEST_F(ListCells, LeaveTheCellWhenWhatWasTypedBeginsNoChoice) {
     TypeText(".");
     PressKey("Return");
     EXPECT_EQ(Text(5, RTON), "156.7");
-    // Three digits, as the list has them.
+    // The list has three digits.
     SetCell(5, RCOD, "411");
     EXPECT_EQ(After(5, RCOD, "23\n"), "411");
     // A blank row stays blank.
@@ -217,13 +217,13 @@ TEST_F(ListCells, OfABlankRowShowNoChoice) {
     }
 }
 
-// A departure: a channel at the band's edges would be sent, which nobody has made.
+// A departure: otherwise a channel at the band's edges would be sent that no one has made.
 TEST_F(ListCells, LookedIntoLeaveABlankRowBlankSoThatNoChannelIsMade_Departure) {
     for (const ListCell& cell : AllLists()) {
         SCOPED_TRACE(cell.name);
         Become(cell);
         const int slots = AllSlots();
-        // One cell is opened in every way.
+        // One cell is opened in every possible way.
         static constexpr const char* openers[] = {"F2", "space", "BackSpace", "Delete", "double click"};
         for (const char* opener : std::span(openers, cell.col == RTON ? std::size(openers) : 1))
             for (const char* key : {"Escape", "Return", "Tab", "click"}) {
@@ -253,7 +253,7 @@ TEST_F(ListCells, PoppedUpAndLeftLeaveABlankRowBlank) {
         SCOPED_TRACE(cell.name);
         Become(cell);
         const int slots = AllSlots();
-        // Some are left in every way.
+        // Some are left in every possible way.
         static constexpr const char* keys[] = {"Escape", "Tab", "Return", "space", "click"};
         for (const char* key : std::span(keys, cell.col == RTON || cell.col == ZONE ? std::size(keys) : 1)) {
             SCOPED_TRACE(key);
@@ -341,7 +341,7 @@ TEST_F(ListCells, PoppedUpTakeArrowKeysAndClicks) {
     PressKey("Return");
     EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
     EXPECT_EQ(Text(9, MODE), "N");
-    // The list stands below its cell; the first entry is near its upper edge.
+    // The list is below its cell; the first entry is near its upper edge.
     PopUp(10, MODE);
     const wxWindow& control = *EditorAt(10, MODE)->GetControl();
     ClickAt(control.ClientToScreen(wxPoint(20, control.GetClientSize().y + 14)));

@@ -1,4 +1,4 @@
-// Rows of the module page: what their cells accept is what their band says.
+// Rows of the module page: the row's band decides what its cells accept.
 #include "tests/editing/CellTools.h"
 
 #include "commands/CommandIds.h"
@@ -30,7 +30,7 @@ protected:
         MainFrame->m_contextMenu->SendEvent(command);
     }
 
-    /// Tags of the band's cells that are read-only.
+    /// Tags of the read-only cells among those that depend on the band.
     static Texts LocksOf(int row) {
         Texts tags;
         for (int col : {MODE, RTON, RCOD, TTON, TCOD})
@@ -130,7 +130,7 @@ TEST_F(ModuleRow, WhoseBandWasRepairedHasTheLocksOfTheNewOneAndKeepsItsTones_Dep
 TEST_F(ModuleRow, OfAnAirBandTakesEightCharactersAfterItWasOfAShorterOne_Departure) {
     Fill({5});
     GoTo(5, RFRQ);
-    PressKey("F2"); // the control is made for a frequency of seven characters
+    PressKey("F2"); // makes the control, for a frequency of seven characters
     PressKey("Escape");
     SetCell(5, BAND, "AM 225-400");
     TypeIntoCell(*Grid(), 5, RFRQ, "230.0125");
@@ -142,7 +142,7 @@ TEST_F(ModuleRow, OfAnAirBandTakesEightCharactersAfterItWasOfAShorterOne_Departu
 
 TEST_F(ModuleRow, WhoseChosenBandItsFrequencyLiesInHasTheLocksOfThatBand) {
     MakeAirRow(5);
-    SetCell(5, RFRQ, "40.0000"); // as setting the column to its defaults leaves it
+    SetCell(5, RFRQ, "40.0000"); // as setting the column to its defaults does
     Choose(5, BAND, "FM 30-50");
     EXPECT_EQ(Text(5, RFRQ), "40.0000");
     EXPECT_FALSE(IsLocked(5, MODE));

@@ -1,5 +1,5 @@
-// Random work on the module page: what a frequency cell accepts is the band that its row shows, and the locks
-// are those of that band.
+// Random work on the module page: the band that a row shows decides what its frequency cells accept, and
+// which of its cells are locked.
 #include "commands/OpenEditor.h"
 #include "tests/editing/HardWork.h"
 
@@ -56,7 +56,7 @@ protected:
     }
 
 private:
-    // A row without transfer flags will be filled from the default row.
+    // An edit fills a row without transfer flags from the default row.
     static bool IsUsed(int row) { return row == 0 || !Cell(row, TFLG).empty(); }
 
     /// The band that the row shows, or will show once the edit has filled it.
@@ -70,7 +70,7 @@ private:
     wxString RandomFrequency() {
         static constexpr int limits[][2] = {{30, 49}, {108, 137}, {225, 399}};
         const auto& [low, high] = m_dice.Pick(limits);
-        // On the raster of every band and step.
+        // These are on the raster of every band and step.
         static constexpr const char* fractions[] = {"0", "5", "025", "250"};
         return wxString::Format("%d.%s", m_dice.Between(low, high), m_dice.Pick(fractions));
     }
@@ -159,7 +159,7 @@ private:
         Tell("paste", ContextRow);
         if (RowCopyBuffer.empty())
             return;
-        // Numbers are not what this is about, and each copy of one would be asked about.
+        // Memory numbers are not under test, and each copied one would raise a question.
         RowCopyBuffer[MNUM] = wxString::Format("%d", ContextRow);
         DialogScript dialogs;
         ExpectQuestion(dialogs, PasteRow);
@@ -184,7 +184,7 @@ private:
         RunCommand(IdValidatePage);
     }
 
-    /// A band from elsewhere, which the check that follows it repairs.
+    /// Puts invalid bands into rows; the check that follows repairs them.
     void SpoilBandAndValidate() {
         static constexpr const char* bands[] = {"", "no band", "FM 66-88", "fm 30-50", "n/a"};
         for (int count = m_dice.Between(1, 5); count > 0; --count) {
@@ -211,7 +211,7 @@ private:
         RunCommand(IdSetTarget);
     }
 
-    /// To another radio and back again, or from the module to itself.
+    /// Changes to another radio and back again, or from the module to itself.
     void ChangeTargets() {
         static constexpr int others[][2] = {{Kdrv716, -1}, {Krv620, 1}, {Kdar2000, -1}, {Kdrv4xxx, 3}};
         const auto& [radio, slot] = m_dice.Pick(others);
@@ -230,7 +230,7 @@ private:
             CurrentGrid()->SelectBlock(1, 0, m_dice.Between(1, 8), ColumnTotal - 1);
         }
         Run(command);
-        // Rows have moved away from their numbers: paste would ask, so number them by row.
+        // Rows have moved away from their numbers, so paste would ask. Number them by row.
         Run(ToRowNum);
         m_maybeStale.clear();
     }
@@ -289,7 +289,7 @@ private:
         }
     }
 
-    /// In rows up to last: locks, and in rows with texts "n/a" where the band has no value.
+    /// Checks rows up to last: locks, and in filled rows the texts "n/a" where the band has no value.
     void ExpectLocksOfBands(int last) {
         for (int row = 0; row <= last; ++row) {
             const int band = BandShown(row);
@@ -297,7 +297,7 @@ private:
                 ++m_rowsOfBand[band];
             Texts locks;
             for (int col : {MODE, RTON, RCOD, TTON, TCOD})
-                // A band that is chosen leaves TCOD as it is, until the row is set up again.
+                // A new band leaves TCOD as it is until the row is set up again.
                 if (IsReadOnly(row, col) && !(col == TCOD && band == 0 && m_maybeStale.contains(row)))
                     locks.push_back(ColumnTag[col]);
             EXPECT_EQ(locks, LocksOfBand(band)) << "row " << row << ", band " << Cell(row, BAND);
@@ -310,7 +310,7 @@ private:
         }
     }
 
-    /// What a real edit begins with.
+    /// Checks the band and step with which a real edit starts.
     void ExpectEditorOfBand(int row) {
         const int band = BandShown(row), step = GetChannelStep(Kdrv4xxx, band);
         for (int col : {RFRQ, TFRQ}) {
@@ -325,7 +325,7 @@ private:
     }
 
     Dice m_dice{0};
-    /// Rows whose TCOD can have the lock of a former band.
+    /// Rows whose TCOD may still have the lock of an earlier band.
     std::set<int> m_maybeStale;
     int m_accepted = 0, m_refused = 0;
     std::map<int, int> m_rowsOfBand;

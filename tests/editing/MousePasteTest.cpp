@@ -1,4 +1,4 @@
-// Text that the mouse brings into an open edit: pasted with the middle button, or dropped.
+// Text put into an open edit by mouse: pasted with the middle button, or dropped.
 #include "editing/DescriptionCell.h"
 #include "editing/DigitalSquelchCell.h"
 #include "editing/FrequencyCell.h"
@@ -12,7 +12,7 @@ namespace {
 
 class MousePaste : public TextCellTest {
 protected:
-    /// Makes the text the one that a middle click pastes.
+    /// Makes this the text that a middle click pastes.
     static void SelectElsewhere(const std::string& text) {
         const wxClipboardLocker lock;
         ASSERT_TRUE(!!lock);
@@ -22,9 +22,9 @@ protected:
         ASSERT_TRUE(set);
     }
 
-    /// Clicks with the middle button at the right end of the open edit, or near its left one.
+    /// Middle-clicks at the right end of the open edit, or near its left end.
     static void PasteWithMouse(const std::string& text, bool atEnd = true) {
-        // Two clicks at one place would make a double click, which pastes nothing.
+        // Two clicks at the same spot would be a double click, which pastes nothing.
         static int aside = 5;
         aside = -aside;
         SelectElsewhere(text);
@@ -34,7 +34,7 @@ protected:
         PumpFor(50);
     }
 
-    /// A text typed into an empty cell, one pasted behind it, and what the cell's edit then holds.
+    /// A text typed into an empty cell, one pasted after it, and the text that the edit then holds.
     struct Paste {
         const char *typed, *pasted, *text;
     };
@@ -74,7 +74,7 @@ TEST_F(MousePaste, OfAFrequencyIsThatOfTheKeyboard) {
     ExpectTexts(RFRQ, new FrequencyEditor(5, 5, 2500),
                 {{"", "155", "155"},
                  {"1", "55", "155"},
-                 {"", "155.2", "155.2"}, // keys could have typed it
+                 {"", "155.2", "155.2"}, // keys could have typed it too
                  {"155.", "2", "155.2"},
                  {"155.0", "13", "155.0"}, // off the channel step
                  {"", "199.5", ""},        // out of band
@@ -125,7 +125,7 @@ TEST_F(MousePaste, OfATextThatAFileBroughtMayBeEditedOn) {
     EXPECT_EQ(Text(5, DESC), "A~B");
 }
 
-// Dragged inside the edit: a drag from another window would end the edit before the drop.
+// Dragged within the edit: a drag from another window would end the edit before the drop.
 TEST_F(MousePaste, DroppedTextPassesTheSameRules) {
     UseRow(5);
     Install(5, DESC, new ZelkDescriptionEditor(9, 0));

@@ -1,4 +1,4 @@
-// Memory numbers and unit ids: how they are shown, and what a new number changes.
+// Memory numbers and unit ids: their display, and the effects of a new number.
 #include "tests/editing/CellTools.h"
 
 #include "catalogue/RadioCatalogue.h"
@@ -13,7 +13,7 @@ namespace {
 
 class NumberCells : public CellTest {
 protected:
-    /// What the cell's renderer draws, and the same cell with text drawn by hand.
+    /// Compares the output of the cell's renderer with the same cell and text drawn by hand.
     static bool IsDrawnAs(int row, int col, const wxString& text) {
         const wxRect rect(0, 0, 120, 23);
         wxBitmap drawn(120, 23), expected(120, 23);
@@ -151,7 +151,7 @@ TEST_F(NumberCells, TakeTypedNumbersWithThreeDigits) {
     EXPECT_EQ(Text(5, PRIM), "");
 }
 
-// A departure: the toolkit's editor would take the highest number, which is a guard memory.
+// A departure: the toolkit's editor would use the highest number, which is a guard memory.
 TEST_F(NumberCells, AboveThePagesRowsAreRefusedWithABoxSoThatNoGuardMemoryIsTaken_Departure) {
     for (const auto& [radio, rows] : {std::pair(Krv47, 122), std::pair(Kdrv716B, 502)}) {
         Retarget(radio, 0);

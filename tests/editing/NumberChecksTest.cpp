@@ -1,4 +1,4 @@
-// The checks of numbers: memory numbers, links to primaries, squelch values, unit ids.
+// Checks of memory numbers, links to primaries, squelch values and unit ids.
 #include "tests/editing/ColumnCheckTest.h"
 #include "tests/support/Modals.h"
 
@@ -23,7 +23,7 @@ TEST_F(NumberChecks, NumbersGetThreeDigits) {
 
 TEST_F(NumberChecks, ANumberAboveThePagesRowsGoes) {
     ExpectAll(allPages, {{{MNUM}, "9999", ""}, {{MNUM}, "503", ""}, {{MNUM}, "99999999999999999999", ""}});
-    // Nor does one below what 32 bits hold become another number.
+    // A number below the 32-bit range doesn't become another number either.
     ExpectAll(allPages, {{{MNUM}, "-99999999999999999999", ""}, {{MNUM}, "-3000000000", ""}});
     for (const auto& [page, rows] :
          std::map<Page, int>{{Anfm, 122}, {Rp25, 232}, {Mdlx, 500}, {O12Page, 6}}) {

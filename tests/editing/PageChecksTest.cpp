@@ -1,4 +1,4 @@
-// Checks of a whole page, from the menu and after a change of target.
+// Checks of a complete page, from the menu and after a change of target.
 #include "editing/ZelkEdit.h"
 
 #include "commands/CommandIds.h"
@@ -40,7 +40,7 @@ protected:
         ClearZoneSlots(CurrentPage);
     }
 
-    /// A P25 memory of its row's number in a zone.
+    /// Adds a P25 memory in a zone, numbered by its row.
     static void AddMemory(int row, const wxString& zone, const wxString& flags = "A0") {
         FillRowsFromDefault({row});
         SetCell(row, ZONE, zone);
@@ -109,7 +109,7 @@ TEST_F(CheckingAPage, CountsTheZonesAnewFromTheRows) {
     AddMemory(4, "5", "A8");
     AddMemory(5, "K");
     AddMemory(501, "1");
-    std::fill_n(ZoneSlotsOf(CurrentPage), ZonesPerPage, 13); // what lost edits and deletions leave
+    std::fill_n(ZoneSlotsOf(CurrentPage), ZonesPerPage, 13); // as left by lost edits and deletions
     CheckPage();
     EXPECT_EQ(SlotsTaken(CurrentPage, 4), 2);
     EXPECT_EQ(SlotsTaken(CurrentPage, 22), 1);

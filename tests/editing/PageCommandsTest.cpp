@@ -1,4 +1,4 @@
-// Select all and de-select all of the Data menu.
+// The commands "select all" and "de-select all" of the Data menu.
 #include "tests/editing/CommandTest.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// Which editor, renderer, alignment and read-only mark each cell of each kind of page has.
+// Editor, renderer, alignment and read-only mark of each cell of each kind of page.
 #include "tests/editing/CellTools.h"
 
 #include <map>
@@ -6,7 +6,7 @@
 
 namespace {
 
-/// What a cell is to have. Columns that a table doesn't name have the grid's defaults.
+/// The expected state of a cell. Columns that a table doesn't name have the grid's defaults.
 struct Look {
     int col;
     const char* editor;
@@ -17,7 +17,7 @@ struct Look {
 const char* const Plain = "wxGridCellStringRenderer";
 const char* const TextEditor = "wxGridCellTextEditor";
 
-/// Pages that aren't P25; tones and what some of them have besides are told apart below.
+/// Pages that aren't P25, without their tones and the extras of some pages; see below.
 const std::vector<Look> AnalogLooks = {
     {1, "ZelkMemoryNumberEditor", "MemoryNumberRenderer", false},
     {5, "ScanlistEditor", "ScanlistRenderer", false},
@@ -78,7 +78,7 @@ const std::vector<Page>& Pages() {
         {"KDAR-2000, KDAR", Kdar2000, 0, {AnalogLooks, NoTones, YesNo}},
         {"KDRV-716, RP25", Kdrv716, 0, {P25Looks}},
         {"KDRV-716B, NP25", Kdrv716B, 0, {P25Looks, SquelchValue}},
-        // No radio has this type, files may.
+        // No radio has this type, but files may.
         {"KRV-47, FXAM", Krv47, 0, {AnalogLooks, Tones}, RadioCatalogue::FXAM},
         {"KRV-620 UHF, FXAM", Krv620, 1, {AnalogLooks, NoTones}, RadioCatalogue::FXAM},
     };
@@ -110,7 +110,7 @@ protected:
                 CheckCell(row, col, look);
     }
 
-    /// Row and column of all cells that are read-only.
+    /// Row and column of all read-only cells.
     static std::set<std::pair<int, int>> Locks() {
         std::set<std::pair<int, int>> locks;
         for (int row = 0; row < Grid()->GetNumberRows(); ++row)
@@ -237,7 +237,7 @@ TEST_F(PageEditors, OfferTheChoicesOfTheRadio) {
                                                         {Kdrv716B, 6, 32, "1", "X"}}) {
         if (radio != line.radio)
             Retarget(radio = line.radio, 0);
-        // Hidden cells can't be opened by hand.
+        // A user can't open hidden cells.
         Grid()->SetColMinimalWidth(line.col, 60);
         Grid()->SetColSize(line.col, 60);
         const Texts offered = OfferedIn(3, line.col);

@@ -10,7 +10,7 @@ protected:
         RunOnRow(PasteRow, to);
     }
 
-    /// Makes the number of the pasted row free, so that no check complains.
+    /// Makes the number of the pasted row unique, so that no check complains.
     static void CopyToWithNumber(int from, int to) {
         RunOnRow(CopyRow, from);
         RowCopyBuffer[MNUM] = wxString::Format("%d", to);
@@ -77,7 +77,7 @@ TEST_F(PasteRowCommand, LosesANumberThatIsInUseWhereItsOwnIsTooAndTellsIt) {
     EXPECT_EQ(Cell(5, RFRQ), Cell(3, RFRQ));
 }
 
-// A departure: without these cells the row would be incomplete and not be saved.
+// A departure: without these cells the row would be incomplete and would not be saved.
 TEST_F(PasteRowCommand, FromAnotherTypeFillsWhatThatTypeHasNoColumnFor_Departure) {
     Retarget(Kdrv716, 0);
     Fill({10});
@@ -116,7 +116,7 @@ TEST_F(PasteRowCommand, OfZoneXLocksScanAndAPasteOfAnotherZoneMakesItWritableAga
     Fill({3, 4, 5, 6});
     SetCell(3, ZONE, "X");
     SetPageEditors(0);
-    SetCell(5, TFLG, "A0"); // its zone is to be dealt anew
+    SetCell(5, TFLG, "A0"); // the paste must assign its zone again
     CopyToWithNumber(3, 5);
     ASSERT_EQ(Cell(5, ZONE), "X");
     EXPECT_TRUE(IsReadOnly(5, SCAN));

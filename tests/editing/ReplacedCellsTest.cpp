@@ -1,4 +1,4 @@
-// Which cells count as replaced when a row is checked: losses do, another form of the same value doesn't.
+// Cells that count as replaced when a row is checked: losses do, another form of the same value doesn't.
 #include "editing/ReplacedCells.h"
 
 #include "commands/CommandIds.h"
@@ -17,7 +17,7 @@ protected:
         bool counts;
     };
 
-    /// A complete row in which nothing is to be replaced.
+    /// Makes a complete row in which nothing needs replacing.
     static void MakeRow() {
         CurrentGrid()->ClearGrid();
         ClearZoneSlots(CurrentPage);

@@ -1,4 +1,4 @@
-// Checks of a whole row: their order, and what they leave.
+// Checks of a complete row: their order, and their results.
 #include "editing/ZelkEdit.h"
 
 #include "tests/catalogue/PageTest.h"
@@ -31,7 +31,7 @@ protected:
             SetCell(ofRow, column, text);
     }
 
-    /// A memory of the page's default row with a number of its own.
+    /// Fills a memory from the page's default row, with its own number.
     static void FillFromDefault(int ofRow = row) { FillRowsFromDefault({ofRow}); }
 
     static void ExpectCells(const Cells& cells, int ofRow = row) {

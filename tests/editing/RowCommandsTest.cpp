@@ -498,7 +498,7 @@ TEST_F(DeleteRowCommand, GivesBackTheZoneOfTheRowThatTheNumberNames) {
         ZoneSlots[static_cast<size_t>(zone)] = 9;
     SelectRows({5, 6});
     Run(DeleteRow);
-    // Row 6 names row 7; then row 7 stands in row 6, which row 5 names.
+    // Row 6 names row 7. After its deletion the former row 7 is row 6, which row 5 names.
     EXPECT_EQ(SlotsTaken(2), 7);
     EXPECT_EQ(SlotsTaken(1), 9);
     EXPECT_EQ(SlotsTaken(3), 9);

@@ -1,4 +1,4 @@
-// The five boxes of a scan cell, under mouse and keys.
+// The five boxes of a scan cell, worked by mouse and keys.
 #include "tests/editing/CellTools.h"
 
 #include <wx/dcmemory.h>
@@ -25,19 +25,19 @@ protected:
         return width;
     }
 
-    /// Clicks so many pixels right of the left edge of the cell that has the cursor. A first click on
-    /// another cell just brings the cursor there, as in every cell.
+    /// Clicks this many pixels right of the left edge of the row's scan cell, with the cursor on it.
+    /// A first click on another cell would only move the cursor there, as in every cell.
     static void ClickScan(int row, int offset) {
         Grid()->SetGridCursor(row, SCAN);
         PumpUntilIdle();
         const wxRect cell = Grid()->CellToRect(row, SCAN);
         const wxPoint spot = Grid()->CalcScrolledPosition(wxPoint(cell.x + offset, cell.y + cell.height / 2));
         ClickAt(*Grid()->GetGridWindow(), spot);
-        // The next click is another one, not the second half of a double click.
+        // Wait, so that the next click doesn't make a double click.
         PumpFor(450);
     }
 
-    /// The cell's text after one click on a memory that says text.
+    /// The cell's text after one click on a memory with this text.
     static std::string ClickedFrom(const char* text, int offset) {
         SetCell(5, SCAN, text);
         ClickScan(5, offset);

@@ -1,4 +1,4 @@
-// What the typed cells do between the phases of an edit, and what a check makes of it afterwards.
+// Typed cells between the phases of an edit, and the results of a check afterwards.
 #include "editing/DescriptionCell.h"
 #include "editing/DigitalSquelchCell.h"
 #include "editing/FrequencyCell.h"
@@ -12,7 +12,7 @@ namespace {
 
 class TextCellPhases : public TextCellTest {
 protected:
-    /// Whether the validator lets the key go on to its control.
+    /// Whether the validator passes the key on to its control.
     template <class Validator>
     static bool LetsPass(Validator& validator, int key) {
         wxKeyEvent event(wxEVT_CHAR);
@@ -33,7 +33,7 @@ protected:
         validator.SetWindow(nullptr);
     }
 
-    /// An edit hands its text over once: a second time there is none.
+    /// Expects that an edit returns its text once, and nothing the second time.
     static void ExpectTextHandedOverOnce(int col, const char* text) {
         SetCell(1, col, text);
         GoTo(1, col);

@@ -1,4 +1,4 @@
-// Editors of text cells on a page, worked with real keys.
+// Editors of text cells on a page, used with real keys.
 #pragma once
 
 #include "tests/support/ZelkWindowTest.h"
@@ -22,7 +22,7 @@ protected:
         Watch();
     }
 
-    /// Keeps the new value of every edit that the grid announces.
+    /// Records the new value of every edit that the grid announces.
     void Watch() {
         CurrentGrid()->Bind(wxEVT_GRID_CELL_CHANGING, [this](wxGridEvent& event) {
             m_newValues.push_back(event.GetString().utf8_string());
@@ -30,7 +30,7 @@ protected:
         });
     }
 
-    /// The grid takes the editor over.
+    /// The grid takes ownership of the editor.
     static void Install(int row, int col, wxGridCellEditor* editor) {
         CurrentGrid()->SetCellEditor(row, col, editor);
         CurrentGrid()->SetReadOnly(row, col, false);
@@ -66,7 +66,7 @@ protected:
     /// The text of the open edit.
     static std::string Typed() { return IsOpen() ? Control()->GetValue().utf8_string() : "(no edit)"; }
 
-    /// Presses Ctrl+V with this on the clipboard.
+    /// Presses Ctrl+V with this text on the clipboard.
     static void Paste(const std::string& text) {
         {
             const wxClipboardLocker lock;
@@ -78,7 +78,7 @@ protected:
 
     static std::string Text(int row, int col) { return Cell(row, col).utf8_string(); }
 
-    /// A row that is no blank one, so that typing fills nothing else.
+    /// Makes a row that isn't blank, so that typing fills nothing else.
     static void UseRow(int row, const char* rfrq = "140.0000", const char* tfrq = "141.0000") {
         SetCell(row, TFLG, "A0");
         SetCell(row, RFRQ, rfrq);
@@ -88,7 +88,7 @@ protected:
     std::vector<std::string> m_newValues;
 };
 
-/// A validator of a text cell reaches no control by being made; this asks for the class by name.
+/// Creates a validator of a text cell by its class name, without a control.
 template <class Validator>
 std::unique_ptr<Validator> MakeByName(const char* name) {
     return std::unique_ptr<Validator>(dynamic_cast<Validator*>(wxCreateDynamicObject(name)));

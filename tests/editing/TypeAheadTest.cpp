@@ -1,4 +1,4 @@
-// Which choice typed characters choose.
+// Choices selected by typed characters.
 #include "editing/TypeAhead.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ wxArrayString List(std::initializer_list<const char*> texts) {
 const wxArrayString Tones = List({"OFF", "67.0", "100.0", "151.4", "156.7", "162.2"});
 const wxArrayString Modes = List({"w", "n", "D"});
 
-/// What is chosen after each character.
+/// The position chosen after the last of the characters.
 int After(const char* typed, const wxArrayString& choices) {
     TypeAhead ahead;
     int position = wxNOT_FOUND;

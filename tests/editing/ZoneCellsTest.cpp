@@ -1,4 +1,4 @@
-// Choosing the zone of a P25 memory, and the slots that go with it.
+// Choice of the zone of a P25 memory, and its effect on the slots.
 #include "tests/editing/CellTools.h"
 
 using namespace testbench;
@@ -81,7 +81,7 @@ TEST_F(ZoneCells, KeepTheirSlotWhenTheSameZoneIsChosen) {
     EXPECT_EQ(SlotsOf(0), 2);
 }
 
-// A departure: a lost slot would leave room for a seventeenth memory.
+// A departure: a lost slot would allow a seventeenth memory.
 TEST_F(ZoneCells, KeepTheirSlotWhenTheEditIsGivenUp_Departure) {
     Fill({2});
     const int before = AllSlots();
@@ -112,12 +112,12 @@ TEST_F(ZoneCells, FillAZoneUpTo16Memories) {
     EXPECT_EQ(OfferedIn(17, ZONE), ZonesBut({"1"})) << "a full zone isn't offered";
     SetCell(17, ZONE, "");
     EXPECT_FALSE(TakeP25ZonePosition(0)) << "and takes no more";
-    // A row of the full zone is offered its own, and comes back into it.
+    // A row of the full zone is still offered that zone, and can choose it again.
     EXPECT_EQ(OpenChoice(9, ZONE)->GetString(0), "1");
     PressKey("Return");
     EXPECT_EQ(Text(9, ZONE), "1");
     EXPECT_EQ(SlotsOf(0), 16);
-    // Room for one: the next row may come in.
+    // One slot is free: the next row may enter.
     Choose(9, ZONE, "5");
     EXPECT_EQ(SlotsOf(0), 15);
     Choose(17, ZONE, "1");

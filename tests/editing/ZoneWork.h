@@ -1,4 +1,4 @@
-// A person who works on pages of both P25 generations without a plan, with an eye on their zones.
+// Random work on the zones of pages of both P25 generations, as a user without a plan would do.
 #pragma once
 
 #include "robot/TempFolder.h"
@@ -11,13 +11,13 @@
 #include <string>
 #include <vector>
 
-/// Makes, deletes, visits, checks, opens, fills, clears, sends and reads pages, and sees after each step that
-/// counters, cells and records tell the same zones.
+/// Makes, deletes, visits, checks, opens, fills, clears, sends and reads pages. Checks after each step that
+/// counters, cells and records agree on the zones.
 class ZoneWork : public CommandTest {
 protected:
     void SetUp() override;
 
-    /// Does so many steps. Stops at the first that goes wrong, with what led to it.
+    /// Does this number of steps. Stops at the first failure and reports the steps that led to it.
     void Work(uint32_t seed, int steps);
 
 private:
@@ -32,7 +32,7 @@ private:
     void Note(const std::string& text);
     std::string Recent() const;
 
-    // What a step can be.
+    // The possible steps.
     void MakePage();
     void DeletePage();
     void VisitPage();
@@ -46,7 +46,7 @@ private:
     void SendPage();
     void ReadBack();
 
-    // What must hold.
+    // Conditions that must hold.
     static Texts ZonesOf(int page);
     void ExpectCountersTellTheRows(int page) const;
     void ExpectRecordsTellTheCells(int row) const;
@@ -62,8 +62,9 @@ private:
     int m_step = 0;
     std::deque<std::string> m_recent;
     std::map<std::string, int> m_done;
-    /// Pages whose counter of zone 1 was cleared with the counters of the page before: the reach of one
-    /// counter into the next page is meant. They count right again after a check.
+    /// Pages whose counter of zone 1 was cleared with the counters of the page before; it is right
+    /// again after a check.
+    /// Intentional: clearing reaches one counter into the next page.
     std::array<bool, PageLimit + 1> m_lostZone1{};
     mutable int m_countersCompared = 0, m_recordsCompared = 0, m_lettersCompared = 0;
     testbench::TempFolder m_folder{"zelk-zones"};

@@ -1,5 +1,4 @@
-// Pages of both P25 generations under thousands of random steps: the zone in the record is the zone in the
-// cell.
+// Pages of both P25 generations under thousands of random steps: the record has the zone of the cell.
 #include "tests/editing/ZoneWork.h"
 #include "commands/OpenEditor.h"
 #include "editing/PageReset.h"
@@ -24,7 +23,7 @@ namespace {
 
 constexpr size_t RecentSteps = 12;
 
-/// The zones as the radios count them.
+/// The zones in the order of the radios.
 const std::vector<std::string> Names = {"1",  "2",  "3",  "4",  "5",  "6", "7", "8", "9", "10", "11",
                                         "12", "13", "14", "15", "16", "A", "C", "E", "F", "H",  "I",
                                         "K",  "L",  "M",  "N",  "P",  "T", "U", "V", "W", "X"};
@@ -33,7 +32,7 @@ int CountZones(int type) {
     return type == RadioCatalogue::RP25 ? 16 : 32;
 }
 
-/// Position of a zone's name for pages of the type, -1 for any other text.
+/// Position of a zone's name on pages of the type, -1 for any other text.
 int PositionOf(const wxString& name, int type) {
     const auto end = Names.begin() + CountZones(type);
     const auto found = std::find(Names.begin(), end, name.utf8_string());
@@ -133,7 +132,7 @@ void ZoneWork::Work(uint32_t seed, int steps) {
     EXPECT_GT(m_lettersCompared, steps / 2);
 }
 
-// ---- What must hold ----
+// ---- Conditions that must hold ----
 
 ZoneWork::Texts ZoneWork::ZonesOf(int page) {
     Texts zones;
@@ -171,7 +170,7 @@ void ZoneWork::ExpectRecordsTellTheCells(int row) const {
     EXPECT_EQ(line.Mid(20, 4), Hex(bits, "%04X")) << "row " << row << ", zone " << Cell(row, ZONE);
     encodeTrecordV1(CurrentGrid(), row, line);
     if (!line.empty()) {
-        // The old layout has room for 16 zones, and the last is that of the guard rows.
+        // The old layout has room for 16 zones; the guard rows use the last one.
         EXPECT_EQ(line.Mid(14, 2), Hex(row > 500 ? 0xF0 : bits & 0xFF, "%02X"))
             << "row " << row << ", zone " << Cell(row, ZONE);
     }
@@ -179,11 +178,11 @@ void ZoneWork::ExpectRecordsTellTheCells(int row) const {
     m_lettersCompared += position >= 16;
 }
 
-// ---- What a step can be ----
+// ---- Possible steps ----
 
 int ZoneWork::PickRow() {
     const int rows = CurrentParameters().Rows;
-    // Mostly among the rows at both ends, so that steps meet.
+    // Mostly rows at both ends, so that steps affect the same ones.
     return m_dice.Chance(80) ? m_dice.Between(0, 60) : m_dice.Between(rows - 10, rows);
 }
 
@@ -195,7 +194,7 @@ int ZoneWork::PickBlankRow() {
 }
 
 std::string ZoneWork::PickZone(int type) {
-    // The last zone has room for the guards.
+    // Without the last zone, which must keep room for the guards.
     return Names[static_cast<size_t>(m_dice.Below(CountZones(type) - 1))];
 }
 
@@ -241,7 +240,7 @@ void ZoneWork::CheckThePage() {
         RunCommand(IdValidatePage);
     }
     bool& lost = m_lostZone1[static_cast<size_t>(CurrentPage)];
-    // With its counter lost, zone 1 may have got more rows than it holds.
+    // With its counter lost, zone 1 may have more rows than it can hold.
     for (int row = 1; !lost && row <= CurrentParameters().Rows; ++row)
         if (!IsShadow(CurrentGrid(), row)) {
             EXPECT_EQ(Cell(row, ZONE), before[static_cast<size_t>(row)]) << "row " << row;
@@ -350,7 +349,7 @@ void ZoneWork::ChooseZone() {
     auto* combo = dynamic_cast<wxComboBox*>(editor->GetControl());
     ASSERT_NE(combo, nullptr);
     ASSERT_GT(combo->GetCount(), 0u);
-    // The last zones often: those are what the generations differ in.
+    // Often one of the last zones: the generations differ in these.
     const int last = static_cast<int>(combo->GetCount()) - 1;
     combo->SetSelection(m_dice.Chance(50) ? m_dice.Between(std::max(0, last - 8), last)
                                           : m_dice.Below(last + 1));
@@ -391,14 +390,14 @@ void ZoneWork::ReadBack() {
         if (IsShadow(CurrentGrid(), row))
             shown[static_cast<size_t>(row)] = "";
     const bool lost = m_lostZone1[static_cast<size_t>(CurrentPage)];
-    // As a read does.
+    // A read does the same.
     ResetPage(CurrentPage);
     EmptyDefaultMemories(CurrentPage);
     for (size_t left = lines.size(); left > 0; --left)
         std::swap(lines[left - 1], lines[static_cast<size_t>(m_dice.Below(static_cast<int>(left)))]);
     for (const wxString& line : lines) {
         if (m_dice.Chance(20)) {
-            // The same row came before, with another zone.
+            // The same row has come before, with another zone.
             const int zone = m_dice.Below(CountZones(CurrentParameters().Type));
             wxString other = line;
             other.replace(20, 4, wxString::Format("%04X", static_cast<unsigned>(zone << 4)));

@@ -1,14 +1,14 @@
-// Toolkit assertions as test failures, or not.
+// Toolkit assertions, reported as test failures or turned off.
 #pragma once
 
 #include <wx/debug.h>
 
 namespace testbench {
 
-/// Makes every toolkit assertion a failure of the running test.
+/// Turns every toolkit assertion into a failure of the running test.
 void RecordAssertions();
 
-/// Turns toolkit assertions off while it lives, for a behaviour that is required and trips one.
+/// Turns toolkit assertions off during its lifetime, for required behaviour that triggers one.
 class AssertsOff {
 public:
     AssertsOff() : m_before(wxSetAssertHandler(nullptr)) {}

@@ -18,8 +18,8 @@ Hands& TheHands() {
     return hands;
 }
 
-/// Sees the ends of clicks and key presses come in: a window manager may hold an event back until it
-/// has focused the window, so a moment without events doesn't tell that all have come.
+/// Counts the ends of clicks and key presses as they arrive. A window manager may delay an event
+/// until it has focused the window, so a moment without events doesn't mean that all have arrived.
 class Arrivals : public wxEventFilter {
 public:
     Arrivals() { wxEvtHandler::AddFilter(this); }
@@ -36,7 +36,7 @@ public:
         return Event_Skip;
     }
 
-    /// Native menus and dialogs keep their events to themselves: then time must do.
+    /// Native menus and dialogs don't report their events; the wait then ends by timeout.
     void Await(size_t count) {
         PumpUntil([&] { return m_count >= count; }, 500);
         PumpUntilIdle();

@@ -1,4 +1,4 @@
-// Keys and clicks from within a test, each followed by the events it sets off.
+// Keys and clicks from within a test. Each call also processes the events that it causes.
 #pragma once
 
 #include <string>
@@ -14,13 +14,13 @@ class wxWindow;
 
 namespace testbench {
 
-// For actions that open no modal dialog or menu, or one that a DialogScript answers unseen; others are
-// for RunWithRobot. All are to be called in the window thread.
+// For actions that open no modal dialog or menu, or one that a DialogScript answers without showing
+// it; use RunWithRobot for others. Call all of them in the window thread.
 
-/// Shows the window and waits until it has the keyboard; fails the test if that doesn't happen.
+/// Shows the window and waits until it has the keyboard focus; fails the test otherwise.
 void ShowAndFocus(wxTopLevelWindow& window);
 
-/// Types printable ASCII, line feeds as Return and tabs as Tab, into what has the keyboard.
+/// Types printable ASCII into the focused control, line feeds as Return and tabs as Tab.
 void TypeText(const std::string& text);
 
 /// Presses a key with modifiers, as Hands::Press: "Return", "Ctrl+C", "Shift+Tab".
@@ -30,11 +30,11 @@ void PressKey(const std::string& chord);
 void ClickAt(const wxWindow& window, const wxPoint& client, int button = 1);
 void DoubleClickAt(const wxWindow& window, const wxPoint& client, int button = 1);
 
-/// Clicks at a point of the screen, as ScreenSpots.h gives.
+/// Clicks at a point of the screen, such as those of ScreenSpots.h.
 void ClickAt(const wxPoint& screen, int button = 1);
 void DoubleClickAt(const wxPoint& screen, int button = 1);
 
-/// Puts the grid's cursor on a cell (0-based), types the text and ends with Return, as a person does.
+/// Puts the grid's cursor on a cell (0-based), types the text and ends with Return, as a user does.
 void TypeIntoCell(wxGrid& grid, int row, int column, const std::string& text);
 
 } // namespace testbench

@@ -9,7 +9,7 @@
 
 namespace testbench {
 
-/// While it lives, logging is on and every record is kept instead of shown.
+/// Turns logging on during its lifetime and keeps every record instead of showing it.
 class LogKeeper : public wxLog {
 public:
     LogKeeper() : m_former(SetActiveTarget(this)), m_enabled(EnableLogging(true)), m_level(GetLogLevel()) {
@@ -21,7 +21,7 @@ public:
         SetActiveTarget(m_former);
     }
 
-    /// The texts of the records so far, in UTF-8: messages, and what is worse.
+    /// The texts of the records so far, in UTF-8: messages in `lines`, warnings and worse in `errors`.
     std::vector<std::string> lines, errors;
 
 protected:

@@ -31,7 +31,7 @@ protected:
     }
 };
 
-/// The file chooser reads its folder in the background: until then it has no path to give.
+/// The file chooser reads its folder in the background and returns no path until it is done.
 void ChoosePath(wxDialog* dialog, const std::string& path) {
     auto* file = dynamic_cast<wxFileDialog*>(dialog);
     if (file == nullptr) {
@@ -57,7 +57,7 @@ bool IsOpen(const wxDialog* dialog) {
 
 } // namespace
 
-/// Waits for a dialog to stand on the screen, works on it and sees that it ends.
+/// Waits until a dialog is on the screen, works on it and checks that it ends.
 class DialogDriver : public wxTimer {
 public:
     DialogDriver(const DialogFacts& facts, std::function<void(wxDialog*)> work)
@@ -236,9 +236,9 @@ int ShowDialogs::Decide(const DialogFacts& facts) {
 }
 
 void GuardDialogs() {
-    // The oldest hook is asked last and so keeps the list of those that are really shown.
+    // The oldest hook is called last, so it lists only the dialogs that are really shown.
     WatchDialogs();
-    // Never destroyed: the toolkit's own list of hooks may go before it.
+    // Never destroyed: the toolkit's own list of hooks may be destroyed before it.
     static Guard* const guard = [] {
         auto* made = new Guard;
         made->Register();

@@ -1,4 +1,4 @@
-// Modal dialogs in tests: expected ones are answered by script, all others fail the test.
+// Modal dialogs in tests: a script answers expected ones, all others fail the test.
 #pragma once
 
 #include <functional>
@@ -15,7 +15,7 @@
 
 namespace testbench {
 
-/// What a text must be: exactly this, anything that a regular expression matches in whole, or anything.
+/// A condition on a text: exactly this one, a full match of a regular expression, or any text.
 class TextRule {
 public:
     TextRule(const char* exact) : m_kind(Kind::Exact), m_text(exact) {}
@@ -24,7 +24,7 @@ public:
     static TextRule Any() { return {Kind::Any, {}}; }
 
     bool Accepts(const std::string& text) const;
-    /// For a person.
+    /// A readable description.
     std::string Describe() const;
 
 private:
@@ -35,7 +35,7 @@ private:
     std::string m_text;
 };
 
-/// The rule that a whole text matches a Perl-like regular expression.
+/// The rule that the complete text matches a Perl-like regular expression.
 inline TextRule Matching(const std::string& expression) {
     return TextRule::Matching(expression);
 }
@@ -43,24 +43,25 @@ inline TextRule AnyText() {
     return TextRule::Any();
 }
 
-/// One dialog to come and how it is answered; wxID_OK, unseen, if nothing else is told.
+/// An expected dialog and its answer. By default it is answered with wxID_OK and not shown.
 class ExpectedDialog {
 public:
     ExpectedDialog(DialogKind kind, const TextRule& caption) : m_kind(kind), m_caption(caption) {}
 
-    /// Its message must be this; else any will do.
+    /// Requires this message; without it, any is accepted.
     ExpectedDialog& Message(const TextRule& message);
-    /// The message box must have this style; else any will do. To a style without an icon wxMessageBox
-    /// adds wxICON_QUESTION if it has wxYES, else wxICON_INFORMATION; wxMessageDialog adds none.
+    /// Requires this style of the message box; without it, any is accepted. To a style without an icon
+    /// wxMessageBox adds wxICON_QUESTION if it has wxYES, else wxICON_INFORMATION; wxMessageDialog
+    /// adds none.
     ExpectedDialog& Style(long style);
     /// Answers with this id (wxID_OK, wxID_CANCEL, wxID_YES ...) without showing the dialog.
     ExpectedDialog& Answer(int id);
-    /// Lets a file dialog choose this file, and answers wxID_OK unless told otherwise.
+    /// Makes a file dialog choose this file. The answer is wxID_OK unless set otherwise.
     ExpectedDialog& Path(const std::string& path);
-    /// Works on the dialog, which is not shown, just before it is answered.
+    /// Runs the work on the dialog, which is not shown, just before it is answered.
     ExpectedDialog& Set(std::function<void(wxDialog*)> work);
     /// Really shows the dialog and then runs the work in its event loop, to act on it and to end it.
-    /// A dialog that still stands five seconds later fails the test and is cancelled.
+    /// A dialog that is still open five seconds later fails the test and is cancelled.
     ExpectedDialog& Do(std::function<void(wxDialog*)> work);
 
 private:
@@ -79,7 +80,7 @@ private:
 
 class DialogDriver;
 
-/// Says what becomes of the dialogs that want to open while it lives; the one made last decides.
+/// Decides about the dialogs that are about to open during its lifetime; the newest policy decides.
 class DialogPolicy {
 public:
     DialogPolicy();
@@ -89,31 +90,31 @@ public:
 
     /// The answer, or wxID_NONE to show the dialog.
     virtual int Decide(const DialogFacts& facts) = 0;
-    /// Whether the dialog is the one that is expected next.
+    /// Whether the dialog is the next expected one.
     virtual bool Awaits(const DialogFacts&) const { return false; }
 };
 
-/// The dialogs expected in a test's scope, in their order. A dialog that isn't the next expected one
-/// fails the test and is answered with wxID_CANCEL; so does an expected one that hasn't come by the
-/// end of the scope. In a test without a script every dialog is unexpected.
+/// The dialogs expected in a test's scope, in order. A dialog that isn't the next expected one fails
+/// the test and is answered with wxID_CANCEL. An expected one that hasn't come by the end of the
+/// scope also fails the test. In a test without a script every dialog is unexpected.
 class DialogScript : public DialogPolicy {
 public:
     DialogScript();
     ~DialogScript() override;
 
-    /// Adds the next dialog. Captions: of a message box or window its title, of a file dialog the
-    /// text it was made with.
+    /// Adds the next dialog. The caption is the title of a message box or window, or the text with
+    /// which a file dialog was created.
     ExpectedDialog& Expect(DialogKind kind, const TextRule& caption);
     /// Adds a message box.
     ExpectedDialog& ExpectMessage(const TextRule& caption, const TextRule& message, int answer = wxID_OK);
     /// Adds a file dialog that chooses a file.
     ExpectedDialog& ExpectFile(const TextRule& caption, const std::string& path);
 
-    /// All dialogs that came so far, unexpected ones too. May be asked from any thread; the dialogs
-    /// themselves are gone.
+    /// All dialogs so far, including unexpected ones. Callable from any thread; the dialogs
+    /// themselves no longer exist.
     std::vector<DialogFacts> Shown() const;
 
-    /// How many expected dialogs are still to come.
+    /// Number of expected dialogs that haven't come yet.
     size_t Missing() const { return m_expected.size(); }
 
     int Decide(const DialogFacts& facts) override;
@@ -126,14 +127,14 @@ private:
     std::vector<DialogFacts> m_shown;
 };
 
-/// While it lives, dialogs that no DialogScript awaits next are really shown, for somebody else to
-/// answer.
+/// During its lifetime, really shows the dialogs that no DialogScript expects next, so that
+/// something else can answer them.
 class ShowDialogs : public DialogPolicy {
 public:
     int Decide(const DialogFacts& facts) override;
 };
 
-/// Puts every modal dialog of the program under the policies above; to be called once, by the main
+/// Applies the policies above to every modal dialog of the program. Call it once, in the main
 /// program of the tests.
 void GuardDialogs();
 

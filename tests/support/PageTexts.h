@@ -1,4 +1,4 @@
-// What a page shows, as texts and rows that a failing test can print.
+// Contents of a page, as texts and rows that a failing test can print.
 #pragma once
 
 #include "catalogue/MemoryRow.h"
@@ -19,7 +19,7 @@ inline std::vector<std::string> RowTexts(int row) {
     return texts;
 }
 
-/// Rows of the current page with a text in any cell: memory rows, or with `first` 0 the default row too.
+/// Rows of the current page with a text in any cell: memory rows, with `first` 0 also the default row.
 inline std::vector<int> FilledRows(int first = 1) {
     const std::vector<std::string> blank(ColumnTotal);
     std::vector<int> rows;

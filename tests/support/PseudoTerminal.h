@@ -1,4 +1,4 @@
-// A pseudo-terminal pair for tests: the program opens the slave side, the test plays the device.
+// A pseudo-terminal pair for tests: the program opens the slave side, the test acts as the device.
 #pragma once
 
 #include <algorithm>
@@ -14,20 +14,20 @@
 #include <thread>
 #include <unistd.h>
 
-/// One pseudo-terminal. Its slave side has a device name and is opened by the program under test like a
+/// One pseudo-terminal. Its slave side has a device name and the program under test opens it like a
 /// serial port; the master side belongs to the test. Raw from the start: nothing is echoed or translated.
 class PseudoTerminal {
 public:
     using Milliseconds = std::chrono::milliseconds;
 
-    /// @throws std::runtime_error if the system has no pseudo-terminal to give
+    /// @throws std::runtime_error if the system has no pseudo-terminal available
     PseudoTerminal() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)) {
         char name[128] = "";
         if (m_master < 0 || grantpt(m_master) != 0 || unlockpt(m_master) != 0 ||
             ptsname_r(m_master, name, sizeof name) != 0)
             throw std::runtime_error("no pseudo-terminal");
         m_slaveName = name;
-        termios settings = Settings(); // the master's call reaches the settings of the slave side
+        termios settings = Settings(); // a call on the master reaches the slave's settings
         cfmakeraw(&settings);
         tcsetattr(m_master, TCSANOW, &settings);
     }
@@ -43,10 +43,10 @@ public:
     /// Device name of the slave side.
     const std::string& SlaveName() const { return m_slaveName; }
 
-    /// Takes the device away, as if its plug were pulled.
+    /// Removes the device, as if its plug were pulled.
     void CloseMaster() { CloseDescriptor(m_master); }
 
-    /// Opens the slave side for the test too, so that the pair outlives its openers; not a lock.
+    /// Opens the slave side for the test too, so that the pair outlives the program's use of it. Not a lock.
     void HoldSlave() {
         if (m_slave < 0)
             m_slave = ::open(m_slaveName.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
@@ -62,11 +62,11 @@ public:
         return count;
     }
 
-    /// Stops what the program sends, as a device does that holds the line back, or lets it flow again. Needs
+    /// Stops the program's output, as a device does with flow control, or lets it continue. Needs
     /// HoldSlave().
     void HoldBack(bool stop) { tcflow(m_slave, stop ? TCOOFF : TCOON); }
 
-    /// Sends bytes to the program; false if the program had not taken them all by the deadline.
+    /// Sends bytes to the program. Returns false if not all were accepted by the deadline.
     bool Write(std::string_view data, Milliseconds limit = Milliseconds(10000)) {
         const auto deadline = Clock::now() + limit;
         while (!data.empty()) {
@@ -79,26 +79,26 @@ public:
         return true;
     }
 
-    /// Receives `count` bytes from the program, or what there was of them by the deadline.
+    /// Receives `count` bytes from the program, or those that arrived by the deadline.
     std::string Read(std::size_t count, Milliseconds limit = Milliseconds(10000)) {
         return Collect(limit, count, [count](const std::string& text) { return text.size() >= count; });
     }
 
-    /// Receives up to and with the terminator, or what there was by the deadline. Takes no byte beyond it.
+    /// Receives up to and including the terminator, or what arrived by the deadline. Reads nothing beyond it.
     std::string ReadUntil(char terminator, Milliseconds limit = Milliseconds(10000)) {
         return Collect(limit, 0, [terminator](const std::string& text) {
             return !text.empty() && text.back() == terminator;
         });
     }
 
-    /// Line settings as the program has them now.
+    /// The program's current line settings.
     termios Settings() const {
         termios settings{};
         tcgetattr(m_master, &settings);
         return settings;
     }
 
-    /// Speed as the program has it now, one of termios' B constants.
+    /// The program's current speed, one of the B constants of termios.
     speed_t Speed() const {
         const termios settings = Settings();
         return cfgetospeed(&settings);
@@ -116,7 +116,7 @@ private:
         descriptor = -1;
     }
 
-    // With a `count`, reads what is missing of it at once, otherwise byte by byte.
+    // With a `count`, reads all missing bytes at once, otherwise byte by byte.
     template <typename Done>
     std::string Collect(Milliseconds limit, std::size_t count, Done done) {
         const auto deadline = Clock::now() + limit;
@@ -133,7 +133,7 @@ private:
         return text;
     }
 
-    // False once the deadline is past. While nobody has the slave side open, poll answers at once.
+    // Returns false once the deadline is past. While no one has the slave side open, poll returns at once.
     bool WaitFor(short events, Clock::time_point deadline) const {
         const auto left = std::chrono::duration_cast<Milliseconds>(deadline - Clock::now()).count();
         if (left <= 0)

@@ -1,4 +1,4 @@
-// A test's robot script, with its failures carried into the test.
+// A test's robot script; its failures become failures of the test.
 #pragma once
 
 #include <functional>
@@ -8,11 +8,10 @@
 
 namespace testbench {
 
-/// Called by a test: runs `script` in a thread of its own and `guiAction` here, in the window thread,
-/// then keeps the windows alive until the script has ended. Modal dialogs that no DialogScript expects
-/// are really shown meanwhile: the robot answers them. Whatever goes wrong fails the test: see
-/// RunScript. The script may use the test framework's checks; it touches windows only through
-/// Robot::Ask and Robot::WaitFor.
+/// For tests: runs `script` in its own thread and `guiAction` here, in the window thread, then keeps
+/// the windows alive until the script has ended. Modal dialogs that no DialogScript expects are really
+/// shown meanwhile, for the robot to answer. Any error fails the test: see RunScript. The script may
+/// use the test framework's checks; it accesses windows only through Robot::Ask and Robot::WaitFor.
 void RunWithRobot(const std::function<void(Robot&)>& script, const std::function<void()>& guiAction = {});
 
 } // namespace testbench

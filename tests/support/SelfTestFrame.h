@@ -1,4 +1,4 @@
-// The window that the bench tries itself on.
+// The window for the self-tests of the bench.
 #pragma once
 
 #include <wx/button.h>

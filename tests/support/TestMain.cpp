@@ -1,4 +1,4 @@
-// The main program of window tests: they run inside the toolkit's running main loop.
+// Main program of window tests, which run inside the toolkit's main loop.
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -19,8 +19,8 @@
 #include "tests/support/Modals.h"
 #include "tests/support/Watchdog.h"
 
-// GTK and fontconfig never free what they keep for the program's life: with their leaks reported no
-// window test could pass. An address sanitizer reads this; without one nobody calls it.
+// GTK and fontconfig keep some memory until the program ends; if such leaks were reported, no
+// window test could pass. Only an address sanitizer calls this.
 extern "C" const char* __asan_default_options() {
     return "detect_leaks=0";
 }
@@ -29,7 +29,7 @@ namespace testbench {
 
 namespace {
 
-/// A failing toolkit call is told in a line, not in a dialog.
+/// Reports a failing toolkit call in a line instead of a dialog.
 class ErrorLog : public wxLogStderr {
 protected:
     void DoLogRecord(wxLogLevel level, const wxString& text, const wxLogRecordInfo& info) override {
@@ -43,7 +43,7 @@ class TestApp : public wxApp {
 public:
     TestApp() {
         SetAppName("zelk-test");
-        // The classic layout gives the configuration file and the data folder the same name.
+        // The classic layout would give the configuration file and the data folder the same name.
         wxStandardPaths::Get().SetFileLayout(wxStandardPaths::FileLayout_XDG);
     }
 
@@ -51,7 +51,7 @@ public:
         delete wxLog::SetActiveTarget(new ErrorLog);
         RecordAssertions();
         GuardDialogs();
-        // A test may open and close as many frames as it likes.
+        // A test may open and close any number of frames.
         SetExitOnFrameDelete(false);
         Bind(wxEVT_IDLE, &TestApp::OnFirstIdle, this);
         return true;
@@ -83,7 +83,7 @@ private:
     int m_result = EXIT_FAILURE;
 };
 
-/// Keeps the user's files out of the tests, and the tests the same on every machine.
+/// Keeps the user's files out of the tests, and makes the tests the same on every machine.
 void SetEnvironment(const std::filesystem::path& home) {
     const auto set = [](const char* name, const std::string& value) { setenv(name, value.c_str(), 1); };
     set("HOME", home);
@@ -97,7 +97,7 @@ void SetEnvironment(const std::filesystem::path& home) {
     for (const char* folder : {"config/gtk-3.0", "data", "cache"}) {
         std::filesystem::create_directories(home / folder);
     }
-    // With any other print backend a print job without a dialog waits for ever.
+    // With any other print backend, a print job without a dialog never ends.
     WriteFile(home / "config/gtk-3.0/settings.ini", "[Settings]\n"
                                                     "gtk-print-backends=file\n"
                                                     "gtk-enable-animations=0\n"
@@ -109,7 +109,7 @@ std::chrono::seconds TimeLimit() {
     return std::chrono::seconds(seconds != nullptr ? std::atoi(seconds) : 100);
 }
 
-/// Where there are several displays, takes the one that this program was given.
+/// Selects this program's display if there are several.
 void ChooseDisplay() {
     const char* const displays = std::getenv("ZELK_DISPLAYS");
     const char* const number = std::getenv("ZELK_DISPLAY_NUMBER");

@@ -12,10 +12,10 @@
 
 namespace testbench {
 
-/// Aborts the program if a single test takes too long, and says which one and what dialogs are open.
+/// Aborts the program if a single test takes too long, and reports the test and the open dialogs.
 class Watchdog : public testing::EmptyTestEventListener {
 public:
-    /// `beforeAbort` cleans up what must not outlive the program; it is called from another thread.
+    /// `beforeAbort` cleans up what must not outlive the program; it runs in another thread.
     Watchdog(std::chrono::seconds limit, std::function<void()> beforeAbort);
     ~Watchdog() override;
 
@@ -29,7 +29,7 @@ private:
     const std::function<void()> m_beforeAbort;
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::string m_test; ///< empty: none runs
+    std::string m_test; ///< empty if none is running
     std::chrono::steady_clock::time_point m_started;
     bool m_ended = false;
     std::thread m_thread;

@@ -1,4 +1,4 @@
-// A test with the program's main window, made afresh for each test.
+// A test with the program's main window, created anew for each test.
 #pragma once
 
 #include "catalogue/GridShape.h"
@@ -23,7 +23,7 @@ using RadioCatalogue::ModuleSlot;
 using testbench::FilledRows;
 using testbench::RowTexts;
 
-/// Shows the window with its first page (KRV-47) before each test and destroys it after it.
+/// Shows the window with its first page (KRV-47) before each test and destroys it afterwards.
 class ZelkWindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -42,7 +42,7 @@ protected:
         wxYield();
     }
 
-    /// The first page becomes a page for the radio and band slot, as if it had been made so.
+    /// Turns the current page into one for the radio and band slot, as if created for it.
     static void Retarget(int radio, int bandIndex) {
         SetPageParameters(MainFrame, CurrentPage, radio, bandIndex);
         wxGrid* grid = CurrentGrid();
@@ -63,21 +63,21 @@ protected:
         CurrentGrid()->SetCellValue(row, col, text);
     }
 
-    /// Texts of cells by their columns.
+    /// Cells by column, with their texts.
     using CellList = std::vector<std::pair<int, const char*>>;
 
     static void SetCells(int row, const CellList& cells) {
         for (const auto& [col, text] : cells)
             SetCell(row, col, text);
     }
-    /// Expects these texts; a failure names the row and the column.
+    /// Expects these texts. A failure names the row and the column.
     static void ExpectCells(int row, const CellList& cells) {
         for (const auto& [col, text] : cells)
             EXPECT_EQ(Cell(row, col).utf8_string(), text) << "row " << row << ", " << ColumnTag[col];
     }
 
 private:
-    /// What outlives a window within one process.
+    /// Resets the state that outlives a window within one process.
     static void ForgetState() {
         PortName = "none";
         RowCopyBuffer.clear();

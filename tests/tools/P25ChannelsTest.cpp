@@ -219,7 +219,7 @@ TEST_F(P25Channels, TellEveryKindOfDifference) {
         const std::string row = Replaced(ShadowRow, c.element, c.other);
         EXPECT_EQ(Differences(wanted, OfFile(row)).size(), 1u) << c.what;
     }
-    // What differs is told.
+    // The report names the difference.
     const auto lines = Differences(wanted, OfFile(Replaced(ShadowRow, "<RN>68A", "<RN>F7E")));
     ASSERT_EQ(lines.size(), 1u);
     EXPECT_NE(lines[0].find("NACs 68A/293"), std::string::npos) << lines[0];
@@ -231,7 +231,7 @@ TEST_F(P25Channels, ComeBackWithEachCodeOnePlaceFurtherDownTheList) {
     EXPECT_EQ(back.at(35).receiveCode, "025");
     EXPECT_EQ(back.at(35).transmitCode, "025");
     EXPECT_EQ(back.at(36).receiveCode, "026");
-    // Behind the list's end stands the default row's code, which moved as well.
+    // After the list's end comes the default row's code, which has moved as well.
     EXPECT_EQ(back.at(36).transmitCode, "032");
     EXPECT_EQ(back.at(36).p25, OfFile(ShadowRow).at(36).p25) << "nothing else moves";
 }

@@ -1,4 +1,4 @@
-// The elements of a channel file.
+// Elements of a channel file.
 #pragma once
 
 #include "catalogue/RadioCatalogue.h"
@@ -15,7 +15,7 @@ inline constexpr const char* ScanAttribute = "type";
 /// Children of the root before the memories, in the order of the file.
 enum HeaderField : int { FieldVersion, FieldDate, FieldTime, FieldType, FieldRadio, FieldBand, FieldTotal };
 
-/// Names of an element: the one written, and the one of earlier files, which is read as well.
+/// Names of an element: the name written, and the name in earlier files, which is also read.
 struct ElementNames {
     const char* name;
     const char* formerName;
@@ -26,13 +26,14 @@ inline constexpr ElementNames HeaderNames[FieldTotal] = {
     {"FType", "FileType"},  {"FRadio", "FileRadio"}, {"FBand", "FileBand"},
 };
 
-/// What a file says of its radio type.
+/// Texts by which a file names its radio type.
 struct TypeTexts {
     const char* fileType;   ///< FType
     const char* scanFamily; ///< attribute of the scan element
 };
 
-/// By radio type. Two types have no text, and that is meant.
+/// Indexed by radio type.
+/// Intentional: two types have no text.
 inline constexpr TypeTexts TypeTextsOf[RadioCatalogue::TypeTotal] = {
     {"ANFM", "ANFM"}, // ANFM
     {"RP25", "RP25"}, // RP25
@@ -44,10 +45,10 @@ inline constexpr TypeTexts TypeTextsOf[RadioCatalogue::TypeTotal] = {
     {"", ""},         // FXAM
 };
 
-/// On which pages a cell is written.
+/// Pages on which a cell is written.
 enum class Written { Shown, P25, Kdar };
 
-/// From which files a cell is read.
+/// Files from which a cell is read.
 enum class Read { Always, P25, NP25, Mdlx, Kdar };
 
 struct CellElement {
@@ -94,7 +95,7 @@ inline constexpr std::array<CellElement, CellTotal> CellElements{{
     {{"RY", "RONL"}, RONL, Written::Kdar, Read::Kdar},
 }};
 
-/// True when the cell belongs into the file of a page of the radio type (0 to 7).
+/// True if a page of the radio type (0 to 7) writes the cell to its file.
 constexpr bool IsWritten(const CellElement& cell, int type) {
     switch (cell.written) {
     case Written::P25:
@@ -107,7 +108,7 @@ constexpr bool IsWritten(const CellElement& cell, int type) {
     return RadioCatalogue::ColumnWidth[type][cell.column] != 0;
 }
 
-/// True when the cell is taken from a file of the radio type (0 to 7).
+/// True if the cell is read from a file of the radio type (0 to 7).
 constexpr bool IsRead(const CellElement& cell, int type) {
     switch (cell.read) {
     case Read::P25:

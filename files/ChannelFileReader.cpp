@@ -18,10 +18,11 @@ namespace ChannelFile {
 
 namespace {
 
-/// No cell needs a longer text, and drawing one would take seconds.
+/// Longest text taken into a cell. No cell needs more, and drawing a very long text takes seconds.
 constexpr size_t LongestCellText = 256;
 
-/// The node itself or the first element behind it; comments and stray texts are no elements.
+/// Returns the node itself or the first element after it, null if there is none. Comments and stray texts
+/// are not elements.
 const wxXmlNode* ElementFrom(const wxXmlNode* node) {
     while (node && node->GetType() != wxXML_ELEMENT_NODE)
         node = node->GetNext();
@@ -36,8 +37,8 @@ const wxXmlNode* NextElement(const wxXmlNode* element) {
     return ElementFrom(element->GetNext());
 }
 
-/// The type of a file; -1 when it is unknown or none of the radio's family. Files of two types name
-/// none: radio and band tell it.
+/// Returns the radio type of a file, -1 if it is unknown or not of the radio's family. Files of two types
+/// have an empty text; their radio and band determine the type.
 int TypeOf(const wxString& text, int radio, int band) {
     const int native = RadioCatalogue::GetRadioType(radio, band);
     if (text.empty())
@@ -77,12 +78,12 @@ public:
             expected = found + 1;
             TakeCell(CellElements[found].column, child->GetNodeContent().Left(LongestCellText));
         }
-        // Meant: without ZoneTakenFlag, though the row's slot is counted.
+        // Intentional: ZoneTakenFlag is not set, although the row's slot is counted.
         m_grid->SetCellValue(m_row, TFLG, TflgMade);
     }
 
-    /// Locks primaries and shadows, by what SHAD says in the end: a row may have come twice. To be called
-    /// after the page's editors were set, which unlock some of the cells.
+    /// Locks primaries and shadows by the final text of SHAD, because a file may contain a row twice.
+    /// Call after setting the page's editors, which unlocks some of the cells.
     void LockLinkedRows() const {
         if (!m_p25)
             return;
@@ -102,12 +103,13 @@ public:
 private:
     enum class Kind { Plain, Primary, Shadow };
 
-    /// What a row is by the text of SHAD: "P-2", "S-010", or "N".
+    /// Returns the kind of a row by its SHAD text: "P-2", "S-010", or "N".
     static Kind KindOf(const wxString& text) {
         return text.StartsWith("P") ? Kind::Primary : text.StartsWith("S") ? Kind::Shadow : Kind::Plain;
     }
 
-    /// Position of an element's name, CellTotal when it has none. Most are where they are expected.
+    /// Returns the position of an element's name, CellTotal if unknown. Most elements come in the
+    /// expected order.
     size_t Find(const wxString& name, size_t expected) const {
         for (size_t tried = 0; tried < CellTotal; ++tried) {
             const size_t i = (expected + tried) % CellTotal;
@@ -143,7 +145,7 @@ private:
 
     void TakeZone(const wxString& text) {
         const auto row = static_cast<size_t>(m_row);
-        // A row that comes again holds one slot all the same.
+        // A repeated row must still hold only one slot.
         if (m_hasZone[row])
             ReleaseP25ZonePosition(FindZone(m_grid->GetCellValue(m_row, ZONE)));
         m_hasZone[row] = m_row != 0;

@@ -15,7 +15,7 @@ using namespace ChannelFile;
 
 namespace {
 
-/// Puts an element with a text in front of the others; parent owns it.
+/// Adds an element with a text before the other children of parent, which owns it.
 wxXmlNode* PrependElement(wxXmlNode* parent, const wxString& name, const wxString& text) {
     auto* element = new wxXmlNode(parent, wxXML_ELEMENT_NODE, name);
     new wxXmlNode(element, wxXML_TEXT_NODE, wxString(), text);
@@ -27,7 +27,7 @@ bool IsXmlCharacter(wxUint32 c) {
                      : c == '\t' || c == '\n' || c == '\r';
 }
 
-/// No XML file can hold certain characters: with one of them it could not be opened again.
+/// Drops the characters that XML forbids; a file with one of them could not be opened again.
 wxString WithoutForbidden(const wxString& text) {
     wxString allowed;
     for (const wxUniChar c : text)
@@ -36,8 +36,8 @@ wxString WithoutForbidden(const wxString& text) {
     return allowed;
 }
 
-/// Writes the rows of one page, the last row and the last cell first: each new element goes to
-/// the front.
+/// Writes the rows of one page, last row and last cell first, because each new element is
+/// prepended.
 class PageWriter {
 public:
     PageWriter(int page, wxXmlNode* root)

@@ -1,4 +1,4 @@
-// From the grid to the document of a channel file.
+// Builds the document of a channel file from the grid.
 #pragma once
 
 #include <wx/string.h>
@@ -7,10 +7,10 @@
 
 class wxXmlDocument;
 
-/// The text of a column's element for a cell text. number is the memory number written last: a
-/// number that can't be read is written as that one.
+/// Returns the text of a column's element for a cell text. number is the last memory number
+/// written; it is written again for a number that can't be read.
 wxString ChannelFileText(int column, const wxString& text, int& number);
 
 /// Fills an empty document from the complete rows of page (0-based), which must be the current one.
-/// Gives the rows, ascending and row 0 among them, that have data but were left out.
+/// Returns the rows with data that were left out, ascending; row 0 may be among them.
 std::vector<int> BuildChannelFile(int page, wxXmlDocument& document);

@@ -14,7 +14,7 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// The text with the line ends of the system.
+/// Returns the text with the system's line ends.
 std::string InSystemLineEnds(const std::string& text) {
     const std::string end = wxString(wxTextBuffer::GetEOL()).utf8_string();
     if (end == "\n")
@@ -28,13 +28,13 @@ std::string InSystemLineEnds(const std::string& text) {
     return lines;
 }
 
-/// Whether a list of the radio type has a line for a selected row.
+/// True if a list of the radio type has a line for a selected row.
 bool IsListed(int type, int row) {
-    // A KDAR list knows neither blank memories nor a default row: each line is a memory when it is read.
+    // A KDAR list has no blank memories and no default row: every line is read back as a memory.
     return type != KDAR || (row > 0 && RowHasData(row));
 }
 
-/// The rows of the current page that a list of the radio type gets, ascending: those that are selected.
+/// Returns the selected rows of the current page that a list of the radio type includes, ascending.
 std::vector<int> RowsToList(const wxGrid* grid, int type) {
     std::vector<int> rows;
     for (int row = 0; row < grid->GetNumberRows(); ++row)

@@ -1,10 +1,10 @@
-// The columns behind the fields of the general comma-separated dialect.
+// Fields of the comma-separated dialects, and the columns of the general one.
 #pragma once
 
 #include "catalogue/CsvTables.h"
 #include "catalogue/MemoryRow.h"
 
-/// Cells of one position of CsvHeader.
+/// Columns for one position of CsvHeader.
 struct CsvFieldCells {
     Column written; ///< the cell that an export writes
     Column read;    ///< the cell that an import fills
@@ -23,8 +23,8 @@ inline constexpr CsvFieldCells CsvFieldTable[RadioCatalogue::CsvFieldTotal] = {
     {RNSV, RNSV},
     {RTON, RTON},
     {RCOD, RCOD},
-    {RNAC, RTGP}, // Meant: talk group and NAC of the receive side
-    {RTGP, RNAC}, // are crossed on the way out, and only there.
+    {RNAC, RTGP}, // Intentional: talk group and NAC of the receive side
+    {RTGP, RNAC}, // are swapped on export, and only there.
     {TFRQ, TFRQ},
     {TSQL, TSQL},
     {TTON, TTON},
@@ -35,7 +35,7 @@ inline constexpr CsvFieldCells CsvFieldTable[RadioCatalogue::CsvFieldTotal] = {
 };
 // clang-format on
 
-/// Fields of a line of the KDAR dialect, in their order.
+/// Fields of a line of the KDAR dialect, in order.
 enum KdarField : int {
     KdarMemory,
     KdarName,

@@ -34,14 +34,15 @@ void TellHeaderMissing() {
                  "Import CSV", wxOK | wxCENTRE | wxICON_ERROR);
 }
 
-/// text if a list has it at this position, else nothing.
+/// Returns text if its position in a list is valid (not negative), else an empty text.
 const wxString& Normal(const wxString& text, int position) {
     static const wxString nothing;
     return position >= 0 ? text : nothing;
 }
 
-/// The tone as the list of the page's kind has it. Meant: each kind looks into the other's list, and
-/// what that lacks ("OFF" on analog pages) comes out empty and falls to the default row's.
+/// Returns the tone if it is in the list that the page's kind uses, else an empty text.
+/// Intentional: each kind uses the other's list. A tone missing there ("OFF" on analog pages) becomes
+/// empty and takes the default row's value.
 const wxString& NormalTone(const wxString& text) {
     return Normal(text, CurrentPageIsP25() ? GetToneIndex(text) : GetCtcssIndex(text));
 }
@@ -50,7 +51,7 @@ const wxString& NormalCode(const wxString& text) {
     return Normal(text, GetCodeIndex(text));
 }
 
-/// Writes memory rows of the current page, each from the default row and then cell by cell.
+/// Writes memory rows of the current page: copies the default row to each, then changes single cells.
 class RowWriter {
 public:
     RowWriter()
@@ -59,8 +60,8 @@ public:
         m_grid->ClearSelection();
     }
 
-    /// Gives a row the default row's texts and its number, and a P25 row a zone. The default row
-    /// itself stays as it is.
+    /// Fills a row with the default row's texts and the row's own number; a P25 row also gets a zone. The
+    /// default row itself is not changed.
     void FillRow(int row) {
         m_row = row;
         if (row == 0)
@@ -72,29 +73,29 @@ public:
 
     void Write(int column, const wxString& text) { m_grid->SetCellValue(m_row, column, text); }
 
-    /// Empties RSQL or TSQL, whatever the line gave it.
+    /// Empties RSQL or TSQL, whatever text the line has for it (given).
     void EmptySquelch(int column, const wxString& given) {
         Write(column, wxString());
         if (CurrentPageIsP25())
             NoteIfReplaced(m_grid, m_row, column, given);
     }
 
-    /// The row has all its texts.
+    /// Call after the last text of the row.
     void FinishRow(const wxString& flags) {
         Write(TFLG, flags);
         if (m_row == 0)
             m_defaults = GetRowValues(CurrentPage, 0);
     }
 
-    /// Puts a field of the general dialect into its cell.
+    /// Writes a field of the general dialect to its cell.
     void TakeField(int column, const wxString& text) {
         switch (column) {
         case MNUM:
             TakeNumber();
             break;
         case BAND:
-            // The check writes no band that can stand. One that can't must not even pass through the default
-            // row, whose band the others are repaired with.
+            // CheckBand does not write a valid band. An invalid one must never reach the default row, even
+            // briefly: that row's band repairs the others.
             if (CheckBand(m_grid, m_row, text) == CheckGood)
                 Write(BAND, text);
             break;
@@ -139,7 +140,7 @@ public:
         case TNAC:
             CheckNac(m_grid, m_row, column, text);
             break;
-        default: // RNSV and TIDC: as they stand
+        default: // RNSV and TIDC: unchanged
             Write(column, text);
         }
     }
@@ -147,7 +148,7 @@ public:
 private:
     wxString TextOf(int column) const { return m_grid->GetCellValue(m_row, column); }
 
-    /// The number is that of the row, whatever the line calls it.
+    /// Writes the row's number, whatever number the line has.
     void TakeNumber() {
         if (m_row == 0)
             CheckMNum(m_grid, m_row, NumberText(m_row));
@@ -166,7 +167,7 @@ private:
             NoteIfReplaced(m_grid, m_row, ZONE, text);
     }
 
-    /// Gives back the slot that the row holds, so that a row that comes again holds one all the same.
+    /// Releases the slot that the row holds, so that a repeated row still holds only one.
     void GiveZoneBack() {
         if (!CurrentPageIsP25() || m_row == 0 || !HoldsSlot())
             return;
@@ -181,12 +182,12 @@ private:
     wxGrid* m_grid = CurrentGrid();
     wxArrayString m_defaults;
     MemoryNumberIndex m_numbers;
-    /// Rows that this list gave a zone slot; TFLG doesn't tell any more.
+    /// Rows that got a zone slot from this list; TFLG no longer shows it.
     std::vector<bool> m_taken;
     int m_row = 0;
 };
 
-/// The point that a frequency in kHz lacks, behind its three digits of MHz.
+/// Inserts the missing point after the three MHz digits of a frequency in kHz.
 wxString WithPoint(wxString text) {
     constexpr size_t Place = 3;
     if (text.length() >= Place && !text.Contains("."))
@@ -195,7 +196,7 @@ wxString WithPoint(wxString text) {
 }
 
 void TakeKdarLine(RowWriter& writer, const CsvTexts& fields) {
-    // Meant: the list's number never reaches the row, but a missing one takes the row's away.
+    // Intentional: the list's number never reaches the row, but a missing number clears the row's.
     if (fields[KdarMemory].empty())
         writer.Write(MNUM, wxString());
     if (!fields[KdarName].empty())
@@ -203,7 +204,7 @@ void TakeKdarLine(RowWriter& writer, const CsvTexts& fields) {
     const wxString receive = WithPoint(fields[KdarReceive]);
     if (!receive.empty())
         writer.Write(RFRQ, receive);
-    // Meant: without a transmit frequency the receive frequency is it.
+    // Intentional: without a transmit frequency, the receive frequency is used.
     const wxString transmit = fields[KdarTransmit].empty() ? receive : WithPoint(fields[KdarTransmit]);
     if (!transmit.empty())
         writer.Write(TFRQ, transmit);
@@ -213,7 +214,7 @@ void TakeKdarLine(RowWriter& writer, const CsvTexts& fields) {
         writer.Write(RONL, fields[KdarRxOnly] == "Yes" ? "Y" : "N");
 }
 
-/// What a line gives a column; empty when the list has no such field.
+/// Returns a line's text for a column, empty if the list has no such field.
 wxString FieldFor(int column, const CsvTexts& fields) {
     for (size_t position = 0; position < CsvFieldTotal; ++position)
         if (CsvFieldTable[position].read == column)
@@ -225,7 +226,7 @@ void TakeLine(RowWriter& writer, const CsvReader& reader, const CsvTexts& fields
     for (int position = 0; position < CsvFieldTotal; ++position) {
         const int column = CsvFieldTable[position].read;
         if (reader.CsvFieldColumn[static_cast<size_t>(position)] < 0) {
-            // Meant: a list without RCOD empties RSQL, one without TTGP empties TSQL.
+            // Intentional: a list without RCOD empties RSQL, one without TTGP empties TSQL.
             if (position == RSQL || position == TSQL)
                 writer.EmptySquelch(position, FieldFor(position, fields));
         } else if (!fields[static_cast<size_t>(position)].empty()) {
@@ -234,8 +235,9 @@ void TakeLine(RowWriter& writer, const CsvReader& reader, const CsvTexts& fields
     }
 }
 
-/// Hands each line of the list to takeLine, with its number from 1. Meant: a list longer than the page loses
-/// its end, whatever rows its lines name. The count of lines that the page took.
+/// Passes each line of the list to takeLine, with its number from 1. Returns the count of lines that the
+/// page took.
+/// Intentional: a list longer than the page loses its last lines, whatever rows they name.
 template <class Take>
 int TakeLines(CsvReader& reader, Take takeLine) {
     const wxGridUpdateLocker quiet(CurrentGrid());
@@ -266,7 +268,7 @@ int Import_CSV(wxFFile& file) {
     const wxString flags = TflgMade;
     LinesOfRows lines(CurrentGrid()->GetNumberRows());
     return TakeLines(reader, [&](RowWriter& writer, int, const CsvTexts& fields) {
-        // Lines for the default row add to each other.
+        // Lines for the default row accumulate.
         if (reader.Row() != 0)
             lines.Take(reader.Row(), reader.LineNumber());
         writer.FillRow(reader.Row());
@@ -285,7 +287,7 @@ int Import_KDAR(wxFFile& file) {
         return 0;
     }
     return TakeLines(reader, [&flags](RowWriter& writer, int line, const CsvTexts& fields) {
-        // Meant: the lines fill the page from its first memory, whatever numbers they have.
+        // Intentional: the lines fill the page from its first memory on, whatever numbers they have.
         writer.FillRow(line);
         TakeKdarLine(writer, fields);
         writer.FinishRow(flags);

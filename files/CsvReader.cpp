@@ -14,14 +14,14 @@ using RadioCatalogue::CsvHeader;
 
 namespace {
 
-/// No cell needs a longer text, and drawing one would take seconds.
+/// Longest text taken into a cell. No cell needs more, and drawing a very long text takes seconds.
 constexpr size_t LongestCellText = 256;
 
 bool IsLineEnd(int c) {
     return c == '\r' || c == '\n';
 }
 
-/// Control characters have no place in a cell.
+/// Control characters count as blanks; they must not reach a cell.
 bool IsBlank(char c) {
     const auto byte = static_cast<unsigned char>(c);
     return byte <= ' ' || byte == 0x7F;
@@ -43,7 +43,8 @@ wxString CsvCellText(std::string_view field) {
         field.remove_prefix(1);
     while (!field.empty() && IsBlank(field.back()))
         field.remove_suffix(1);
-    // Almost every field is a few ASCII characters, and to convert them would take most of an import.
+    // Almost every field is a few ASCII characters; converting them would take most of an
+    // import.
     wchar_t wide[LongestCellText];
     if (field.size() <= LongestCellText && std::all_of(field.begin(), field.end(), IsPlain)) {
         std::copy(field.begin(), field.end(), wide);
@@ -82,7 +83,7 @@ size_t CsvReader::GetLine_CSV(std::vector<std::string>& fields) {
     fields.clear();
     std::string field;
     bool quoted = false;
-    // Meant: a line end is one inside quotes too.
+    // Intentional: a line end ends the line even inside quotes.
     for (; !IsAtEnd() && !IsLineEnd(m_current); Advance()) {
         if (quoted && m_current == '"' && m_next == '"') {
             field += '"';
@@ -114,7 +115,7 @@ bool CsvReader::LineHasText() const {
     return false;
 }
 
-/// The line taken last is passed over. One without a text has nothing to lose.
+/// Notes the last line taken as skipped, unless it has no text to lose.
 void CsvReader::SkipLine() const {
     if (LineHasText())
         SkippedLines::Note(m_lineNumber);
@@ -147,7 +148,7 @@ bool CsvReader::GetHeader_CSV() {
     return m_headerFound;
 }
 
-/// The row that the line's key names, rows when it names none.
+/// Returns the row that the line's key names, rows if it names none.
 int CsvReader::RowOfKey(int rows) const {
     const bool kdar = m_dialect == Dialect::Kdar;
     const int32_t column = kdar ? KdarMemory : CsvFieldColumn[0];
@@ -183,7 +184,7 @@ bool CsvReader::GetData_CSV(CsvTexts& fields, int rows) {
                 take(i, i);
             return true;
         }
-        // Meant: what stands behind the twentieth column is never read.
+        // Intentional: columns after the twentieth are never read.
         for (size_t i = 0; i < CsvFieldTotal; ++i)
             if (CsvFieldColumn[i] >= 0 && CsvFieldColumn[i] < CsvFieldTotal)
                 take(i, static_cast<size_t>(CsvFieldColumn[i]));

@@ -1,4 +1,4 @@
-// Comma-separated memory lists as bytes: lines, headings, and which row a line is for.
+// Reader of comma-separated memory lists: splits bytes into lines, and finds headings and rows.
 #pragma once
 
 #include "catalogue/CsvTables.h"
@@ -12,49 +12,49 @@
 #include <string_view>
 #include <vector>
 
-/// A field as a cell takes it: UTF-8 when it is that, else Latin-1, with a blank for each control
-/// character, without blanks at its ends, and no longer than any cell needs.
+/// Converts a field to the text of a cell: decodes UTF-8 if valid, else Latin-1, replaces each control
+/// character with a blank, strips blanks at both ends, and cuts the text to the length that cells need.
 wxString CsvCellText(std::string_view field);
 
-/// Texts of one line, by position in CsvHeader or, in the KDAR dialect, by field.
+/// Texts of one line, indexed by position in CsvHeader or, in the KDAR dialect, by field.
 using CsvTexts = std::array<wxString, ColumnTotal>;
 
-/// Goes through a list from its start. The general dialect names its columns with the tags of
-/// CsvHeader; the KDAR dialect has six columns in a fixed order.
+/// Reads a list from its start. The general dialect names its columns with the tags of CsvHeader; the KDAR
+/// dialect has six columns in a fixed order.
 class CsvReader {
 public:
     enum class Dialect { General, Kdar };
 
-    /// bytes stay the caller's. A UTF-8 byte-order mark is no part of the list.
+    /// bytes must outlive the reader. A UTF-8 byte-order mark is skipped.
     CsvReader(std::string_view bytes, Dialect dialect);
 
     /// True when no byte is left.
     bool IsAtEnd() const { return m_current == EndOfFile; }
 
-    /// Splits the next line; commas and doubled quotes inside quotes belong to their field. A line
-    /// ends at its end also inside quotes, and empty lines don't exist. The count of fields, at
-    /// least 1, also at the end of the list.
+    /// Splits the next line; commas and doubled quotes inside quotes belong to their field. A line end
+    /// ends the line even inside quotes, and consecutive line ends count as one. Returns the count of
+    /// fields, at least 1, even at the end of the list.
     size_t GetLine_CSV(std::vector<std::string>& fields);
 
-    /// Takes lines up to the first with a known heading (KDAR: with any text) and keeps which column
-    /// has which heading. False when the list ends before.
+    /// Reads up to the first line with a known heading (KDAR: with any text) and stores the column of each
+    /// heading. Returns false if the list ends before.
     bool GetHeader_CSV();
 
-    /// Field i (0-based) of the line taken last; empty behind its end.
+    /// Returns field i (0-based) of the last line taken, empty beyond the line's end.
     wxString Field(size_t i) const;
 
-    /// Takes lines up to the first that is for one of the grid's rows (0 to rows - 1) and gives its
-    /// texts, empty where the line has nothing. Lines that it passes over are noted as skipped. False when
-    /// there is no such line or was no heading.
+    /// Reads up to the first line for one of the grid's rows (0 to rows - 1) and fills fields with its
+    /// texts, empty where the line has none. Notes the lines that it passes over as skipped. Returns false
+    /// if there is no such line or no heading was found.
     bool GetData_CSV(CsvTexts& fields, int rows);
 
-    /// The number (from 1) of the line taken last, as an editor counts it.
+    /// Number (from 1) of the last line taken, as an editor counts lines.
     int LineNumber() const { return m_lineNumber; }
 
-    /// The row that the key of the line of GetData_CSV names. Without meaning in the KDAR dialect.
+    /// Row named by the key of the last line of GetData_CSV. Meaningless in the KDAR dialect.
     int Row() const { return m_row; }
 
-    /// The list's column (0-based) of each position of CsvHeader, -1 for one that it hasn't.
+    /// Column (0-based) in the list for each position of CsvHeader, -1 if the list lacks it.
     std::array<int32_t, RadioCatalogue::CsvFieldTotal> CsvFieldColumn;
 
 private:

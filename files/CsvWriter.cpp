@@ -12,11 +12,11 @@ using namespace RadioCatalogue;
 std::string CsvField(const wxString& text) {
     std::string bytes = text.utf8_string();
     const size_t last = bytes.rfind('"');
-    // Meant: without a quote a text is not quoted, even if it has a comma.
+    // Intentional: a text without a double quote is not quoted, even if it contains a comma.
     if (last == std::string::npos)
         return bytes;
     std::string field = "\"";
-    // Meant: the text ends with its last quote.
+    // Intentional: the text ends at its last quote; the rest is dropped.
     for (const char c : bytes.substr(0, last + 1)) {
         field += c;
         if (c == '"')

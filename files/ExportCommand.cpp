@@ -1,4 +1,4 @@
-// The command that exports the selected rows as a list.
+// Command that exports the selected rows as a list.
 #include "catalogue/PageModel.h"
 #include "commands/OpenEditor.h"
 #include "files/CsvExport.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Asks where the list is to go. Empty when the user cancelled.
+/// Asks for the file to export to. Returns an empty path if the user cancels.
 wxString AskForExportFile(wxWindow* parent) {
     const wxString every = wxFileSelectorDefaultWildcardStr;
     wxFileDialog dialog(parent, "Export CSV file", "", PageStrings[CurrentPage].RadioName + ".csv",

@@ -18,7 +18,7 @@ constexpr HeaderPart Header716[] = {
     {0, "ZEL716  "sv}, {8, "2 "sv}, {15, "\x01"sv}, {16, "\x01"sv}, {17, "KDRV716 "sv},
 };
 
-/// A text that tells a kind by standing at a position of a line.
+/// True if line has text at position; such texts identify the kind of a file.
 bool StandsAt(const wxString& line, size_t position, std::string_view text) {
     return TextColumns{position, text.size()}.Is(line, text);
 }

@@ -1,7 +1,7 @@
-// Patterns of file dialogs as the system compares them.
+// File dialog patterns in the form that the system compares.
 #pragma once
 
 #include <wx/string.h>
 
-/// Patterns ("*.txt;*.csv") that show files whatever case their extensions are in.
+/// Returns patterns ("*.txt;*.csv") that show files whatever the case of their extensions.
 wxString PatternsOfAnyCase(const wxString& patterns);

@@ -2,7 +2,7 @@
 
 #include <wx/arrstr.h>
 
-// File names in capitals come from older systems and their memory cards; here case counts.
+// Case counts on this system, and older systems and their memory cards have file names in capitals.
 wxString PatternsOfAnyCase(const wxString& patterns) {
     wxArrayString all;
     for (const wxString& pattern : wxSplit(patterns, ';', '\0'))

@@ -1,6 +1,6 @@
 #include "files/FilePatterns.h"
 
-// The system takes no notice of case.
+// This system ignores case.
 wxString PatternsOfAnyCase(const wxString& patterns) {
     return patterns;
 }

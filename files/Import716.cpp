@@ -16,7 +16,7 @@ int RowOf716(Record716& record) {
     if (record.Mnum.empty() || !(ReadHex(record.Tflg) & DEF))
         return -1;
     const int read = ReadDecimal(record.Mnum);
-    // More digits than a row number can have must not run over when the number moves.
+    // Check the range first: the shift could overflow a number with too many digits.
     if (read < 0 || read > page.Rows)
         return -1;
     const int number = MovedNumber716(read, page.Radio);
@@ -31,7 +31,7 @@ RowWriter716::RowWriter716() : m_grid(CurrentGrid()), m_numbers(CurrentParameter
 
 void RowWriter716::Write(int row, const Record716& record) {
     write716ToGrid(m_grid, row, record);
-    // No memory is told that the default row has its number.
+    // The default row stays out of the index, or its number would count as taken.
     if (row == 0) {
         CheckRow(m_grid, row);
     } else {

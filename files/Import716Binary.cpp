@@ -25,13 +25,13 @@ enum class Wire {
     Dropped,
     Flags,       ///< a word, as "%02X"
     Number,      ///< a word, as "%03d"
-    Zone,        ///< a word: memories before the zone's, 16 a zone
-    Letter,      ///< a word: the code of a character
+    Zone,        ///< a word: count of memories before the zone, 16 per zone
+    Letter,      ///< a word: character code
     Mode,        ///< a word: position in the list of modes
     Tone,        ///< a word: position in the list of tones
     Code,        ///< a word: position in the list of codes
     Text,        ///< padded with blanks
-    Description, ///< padded with blanks at its right end
+    Description, ///< padded with blanks on the right
     UnitId,      ///< words of two decimal digits
 };
 
@@ -89,7 +89,7 @@ static_assert(FieldsFollowEachOther());
 
 constexpr size_t WordSize = 2;
 
-/// Takes words and texts off the front of bytes.
+/// Reads words and texts from the front of bytes.
 class ByteReader {
 public:
     explicit ByteReader(std::string_view bytes) : m_bytes(bytes), m_size(bytes.size()) {}
@@ -99,8 +99,8 @@ public:
         return low | Byte() << 8;
     }
 
-    /// A text of that many bytes, or up to a newline, which goes with it. Meant: what follows then comes
-    /// sooner, as texts are read a line at a time.
+    /// Reads a text of size bytes, or up to and including a newline.
+    /// Intentional: what follows a newline then moves forward, because texts are read a line at a time.
     std::string_view Text(size_t size) {
         const std::string_view field = m_bytes.substr(0, size);
         const size_t newline = field.find('\n');
@@ -174,7 +174,7 @@ wxString ReadField(ByteReader& bytes, const WireField& field, int type) {
     }
 }
 
-/// The records of an open file, one after the other.
+/// Reads the records of an open file in sequence.
 class Records {
 public:
     Records(wxFFile& file, int type) : m_file(file), m_type(type) {}

@@ -20,7 +20,7 @@ using namespace RadioCatalogue;
 namespace {
 
 constexpr int TitleLines = 3;
-/// A line that is shorter ends the list.
+/// A shorter line ends the list.
 constexpr size_t ShortestLine = 50;
 
 constexpr TextColumns NumberColumns{3, 3};
@@ -37,7 +37,7 @@ struct ListField {
     Field716 into;
 };
 
-/// Fields of every line with a memory, blanks at both ends of which don't count.
+/// Fields of every line with a memory; blanks at both ends are ignored.
 constexpr ListField ListFields[] = {
     {{23, 1}, &Record716::Mode}, {{25, 8}, &Record716::Rfrq}, {{35, 1}, &Record716::Rsql},
     {{37, 5}, &Record716::Rton}, {{43, 3}, &Record716::Rcod}, {{47, 4}, &Record716::Rtgp},
@@ -48,14 +48,15 @@ constexpr ListField ListFields[] = {
 
 constexpr const char* OnlyUnitId = "0000001";
 
-/// Flags whose rows aren't scanned, and rows without a zone of their own in the line.
+/// Flags of rows that aren't scanned, and of rows without their own zone in the line.
 constexpr int NotScanned = LinkFlags | GuardFlag;
 constexpr int WithoutZone = ShadowIndexMask | GuardFlag;
 
-/// Grids of more rows, the default row among them, belong to the radio of 32 zones.
+/// Grids with more rows, including the default row, belong to the radio with 32 zones.
 constexpr int LargestGridOf16Zones = 1 + RP25Memories + GuardRowTotal;
 
-/// The number of a line, which for the default row and the guard rows is a name. True for a guard row.
+/// Reads the number of a line; the default row and the guard rows have a name instead. Returns true for
+/// a guard row.
 bool ReadNumberField(const wxString& line, int rows, wxString& number) {
     number = NumberColumns.TrimmedOf(line);
     if (IsText(number, "DEF"))
@@ -67,14 +68,14 @@ bool ReadNumberField(const wxString& line, int rows, wxString& number) {
     return true;
 }
 
-/// A record of a list, and the number of its primary as its line gives it: the record's own text may
-/// have gone when its number moved, and the check of the row makes it the row's number.
+/// Record of a list, with the number of its primary from the line. The record's own text for it is lost
+/// when its number moves, and the check of the row replaces it with the row's number.
 struct ListRecord {
     Record716 record;
     int primary = 0;
 };
 
-/// A record that is repeated is the same one in each row that it is for.
+/// Shared by all rows that repeat the record.
 using KeptRecord = std::shared_ptr<ListRecord>;
 using KeptRecords = LastOfRow<KeptRecord>;
 
@@ -88,8 +89,8 @@ int RowOfListRecord(Record716& record) {
     return HasGuardRows(CurrentPage) ? ReadDecimal(record.Mnum) : -1;
 }
 
-/// The row of the line's number whose SCAN is to be read-only, -1 if none. Meant: the number is the one
-/// in the line, also where the memory moves to another row.
+/// Returns the row of the line's number if its SCAN is to be read-only, else -1.
+/// Intentional: this is the number in the line, even if the memory moves to another row.
 int UnscannedRow(const Record716& record) {
     if (!(ReadHex(record.Mflg) & NotScanned) || (IsGuardRecord(record) && !HasGuardRows(CurrentPage)))
         return -1;
@@ -97,7 +98,7 @@ int UnscannedRow(const Record716& record) {
     return row <= CurrentParameters().Rows ? row : -1;
 }
 
-/// Gives the shadow in a row a slot of its primary.
+/// Assigns a slot of its primary to the shadow in a row.
 void LinkShadow(wxGrid* grid, int row, int primary) {
     if (primary < 1 || primary > CurrentParameters().Rows)
         return;
@@ -115,7 +116,7 @@ void LinkShadow(wxGrid* grid, int row, int primary) {
     LockCell(grid, row, ZONE);
 }
 
-/// The lines of a list behind its titles, with the numbers that an editor gives them.
+/// Lines of a list after its titles, numbered as in an editor.
 class ListLines {
 public:
     explicit ListLines(wxFFile& file) : m_lines(file) {
@@ -131,7 +132,7 @@ public:
 
     int Number() const { return m_number; }
 
-    /// The list ended with this line: notes it and those behind it, but for blank ones.
+    /// Notes this line, which ended the list, and all later ones as skipped, except blank lines.
     void SkipRest(wxString line) {
         do
             if (!line.Strip(wxString::both).empty())
@@ -159,7 +160,7 @@ ListLine716 Read716TextLine(const wxString& line, int rows, Record716& record) {
         return ListLine716::End;
     if (UndefinedColumns.Is(line, "UNDEFINED") || ErasedColumns.Is(line, "ERASED"))
         return ListLine716::NoMemory;
-    // The line may have none of these.
+    // The line may lack these fields.
     for (Field716 field : {&Record716::Zone, &Record716::Encr, &Record716::Rfrn})
         (record.*field).clear();
     int flags = 0;
@@ -169,7 +170,7 @@ ListLine716 Read716TextLine(const wxString& line, int rows, Record716& record) {
     }
     record.Prim = record.Mnum;
     if (LinkMarkColumns.Is(line, "S")) {
-        // The list names no slot; its shadows get theirs when all rows are there.
+        // Placeholder: the list names no slots. Shadows get theirs after all rows are written.
         flags |= 0x01;
         record.Prim = PrimaryColumns.TrimmedOf(line);
     } else if (LinkMarkColumns.Is(line, "P")) {
@@ -217,7 +218,7 @@ int Import716_Text(wxFFile& file) {
             current->primary = MovedNumber716(ReadDecimal(record.Prim), CurrentParameters().Radio);
             unscanned.insert(UnscannedRow(record));
         }
-        // Meant: a number without a memory repeats the record before it, which is counted again.
+        // Intentional: a number without a memory repeats the previous record, which is counted again.
         const int row = RowOfListRecord(current->record);
         if (kind == ListLine716::Memory && row >= 0)
             linesOfRows.Take(row, lines.Number());

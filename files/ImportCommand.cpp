@@ -1,4 +1,4 @@
-// The command that imports a foreign file.
+// Command that imports a foreign file.
 #include "catalogue/PageModel.h"
 #include "commands/OpenEditor.h"
 #include "editing/PageReset.h"
@@ -35,8 +35,8 @@ wxString OfferedFiles() {
     return offered + wxString::Format("All files (%s)|%s", all, all);
 }
 
-/// A page that got memories is saved beside their file; one that got none has no name, so that it isn't saved
-/// over the file of its former memories.
+/// A page that got memories is later saved next to their file. A page that got none has no name, so that
+/// saving it does not overwrite the file of its former memories.
 void NamePageAfter(const wxString& path, bool hasRows) {
     PageStringRecord& strings = PageStrings[CurrentPage];
     const wxFileName file(path);
@@ -68,7 +68,7 @@ void ZelkFrame::OnImport(wxCommandEvent& event) {
         return event.Skip();
     }
     ResetPage(CurrentPage);
-    // What comes must not stand among the memories that such a page begins with.
+    // Imported memories must not mix with those that a P25 page starts with.
     EmptyDefaultMemories(CurrentPage);
     const ReplacedCells replaced;
     const SkippedLines skipped;

@@ -27,19 +27,19 @@ constexpr TextColumns ReceiveFrequencyColumns{14, 8};
 constexpr TextColumns TransmitFrequencyColumns{25, 8};
 constexpr TextColumns ReceiveToneColumns{43, 2};
 constexpr TextColumns TransmitToneColumns{48, 2};
-// Meant: the other way round than in the records of the radio.
+// Intentional: the reverse of the order in the radio's records.
 constexpr TextColumns TransmitCodeColumns{58, 3};
 constexpr TextColumns ReceiveCodeColumns{64, 3};
 constexpr TextColumns ScanColumns{70, 5};
 constexpr TextColumns ModeColumns{75, 1};
 
-/// Meant: a line's own mode has no effect, on pages of any type.
+/// Intentional: a line's own mode has no effect, whatever the page's type.
 constexpr const char* ImportedMode = "w";
 
-/// Position of the second "OFF" in the list of tones, which stands for all that are in none.
+/// Position of the second "OFF" in the list of tones, used for all positions beyond the list.
 constexpr int LastTone = std::size(ToneTexts) - 1;
 
-/// The texts that a line of a band gives the rows of a page.
+/// Writes the texts of a line to its row of the page.
 class LineWriter {
 public:
     LineWriter(wxGrid* grid, int row, const wxString& line)
@@ -74,7 +74,7 @@ public:
 private:
     void Set(int column, const wxString& text) { m_grid->SetCellValue(m_row, column, text); }
 
-    /// On P25 pages: analog memories have no text of their own for these columns.
+    /// P25 pages only: analog memories have no text of their own for these columns.
     void TakeFromDefaultRow(std::initializer_list<int> columns) {
         if (m_p25)
             for (int column : columns)
@@ -85,7 +85,7 @@ private:
 
     void WriteNumber() {
         const wxString number = NumberColumns.Of(m_line);
-        // Before the zone is checked, so that the row counts as one that is used and holds its slot.
+        // Set before the zone check, so that the row counts as used and holds its slot.
         Set(TFLG, TextOfAscii(TflgMade));
         Set(MNUM, number);
         if (m_p25) {
@@ -98,7 +98,7 @@ private:
         const int pageBand = CurrentParameters().Band;
         if (pageBand != K6Module && pageBand != K7Module)
             return;
-        // Meant: on the module's page every line goes to its first band.
+        // Intentional: on a page of the K6 module, every line goes to the module's first band.
         const int band = pageBand == K6Module ? Fm30To50 : m_sourceBand;
         Set(BAND, band >= 0 ? wxString(BandName[band]) : m_grid->GetCellValue(0, BAND));
     }
@@ -179,7 +179,7 @@ int ImportMultiZEL(const wxTextFile& file) {
     LastOfRow<wxString> kept(grid->GetNumberRows());
     LinesOfRows lines(grid->GetNumberRows());
     for (size_t number = 0; number < file.GetLineCount(); ++number) {
-        // A zero byte ends a line as it ends the texts of other files.
+        // A zero byte ends a line, as it ends the texts of other files.
         const wxString line = file[number].BeforeFirst('\0');
         const int row = RowOfMultiZELLine(line, grid->GetNumberRows());
         const int lineNumber = static_cast<int>(number) + 1;

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The one that was made last.
+/// Most recently created instance.
 SkippedLines* innermost = nullptr;
 
 wxString Counted(int count, const char* one, const char* several) {

@@ -1,4 +1,4 @@
-// What the status bar tells of an import.
+// Status bar report of an import.
 #pragma once
 
 #include "editing/ReplacedCells.h"
@@ -10,8 +10,8 @@
 
 class wxGrid;
 
-/// Collects, while it lives, the lines of a foreign file (records of a binary one) whose memory does not come
-/// onto the page. Lines and records are counted from 1.
+/// Collects, while it exists, the lines of a foreign file (records of a binary one) whose memory does not
+/// reach the page. Lines and records are counted from 1.
 class SkippedLines {
 public:
     SkippedLines();
@@ -19,20 +19,20 @@ public:
     SkippedLines(const SkippedLines&) = delete;
     SkippedLines& operator=(const SkippedLines&) = delete;
 
-    /// For readers: the memory of a line is passed over, or gives way to that of a later line. Without effect
-    /// while no SkippedLines lives.
+    /// For readers: the memory of a line is skipped, or replaced by that of a later line. Has no effect while
+    /// no SkippedLines exists.
     static void Note(int line);
 
-    /// For readers: a line says that there is no memory. It is not skipped, for it has nothing to lose.
+    /// For readers: a line says that there is no memory. It does not count as skipped, since nothing is lost.
     static void NoteWithoutMemory();
 
     int Count() const { return static_cast<int>(m_lines.size()); }
 
-    /// "3 lines skipped"; empty when there is none.
+    /// "3 lines skipped", empty if there are none.
     wxString Text() const;
 
-    /// The lines' numbers, and how many had no memory: "3 lines were skipped: 5, 17, 40". Empty when there is
-    /// neither.
+    /// Numbers of the lines, and how many had no memory: "3 lines were skipped: 5, 17, 40". Empty if there
+    /// are neither.
     wxString Story() const;
 
 private:
@@ -41,21 +41,21 @@ private:
     int m_withoutMemory = 0;
 };
 
-/// The line that each row's memory comes from.
+/// Line that each row's memory comes from.
 class LinesOfRows {
 public:
     /// For rows 0 to rows - 1.
     explicit LinesOfRows(int rows) : m_lines(static_cast<size_t>(rows)) {}
 
-    /// The row gets the memory of a line. One that it had from an earlier line is lost, and noted.
+    /// Assigns the memory of a line to the row. A memory from an earlier line is lost; that line is noted.
     void Take(int row, int line);
 
 private:
     std::vector<int> m_lines; ///< 0 for a row without one
 };
 
-/// Notes a cell of the current page that holds another text than the file gave it, but for capitals.
+/// Notes a cell of the current page whose text differs from the file's by more than case.
 void NoteIfReplaced(const wxGrid* grid, int row, int column, const wxString& given);
 
-/// Tells what an import that has read something replaced and skipped.
+/// Reports what an import that has read something replaced and skipped.
 void TellImport(const ReplacedCells& cells, const SkippedLines& lines);

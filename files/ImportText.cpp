@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 
-/// text without the characters at both ends that the toolkit takes for blanks, too.
+/// Returns text without blanks at both ends; blanks are the characters that the toolkit trims too.
 template <class Character>
 std::basic_string_view<Character> Trimmed(std::basic_string_view<Character> text) {
     const auto isBlank = [](Character c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
@@ -23,14 +23,14 @@ std::basic_string_view<Character> Trimmed(std::basic_string_view<Character> text
     return text;
 }
 
-/// No character of UTF-8 has more bytes.
+/// Most bytes in one character of UTF-8.
 constexpr size_t LongestCharacter = 4;
 
 bool ContinuesCharacter(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
 }
 
-/// Takes away what may be the beginning of a character whose other bytes are missing.
+/// Drops the last character, which may lack some of its bytes.
 void DropLastCharacter(std::string& bytes) {
     for (size_t length = 1; length < LongestCharacter && bytes.size() > 1 && ContinuesCharacter(bytes.back());
          ++length)
@@ -79,7 +79,7 @@ void RewindText(wxFFile& file) {
         file.Seek(0);
 }
 
-/// The file's next byte, EOF at its end.
+/// Returns the file's next byte, EOF at its end.
 int LineReader::TakeByte() {
     if (m_at == m_size) {
         m_size = m_file.Read(m_block.data(), m_block.size());
@@ -91,7 +91,7 @@ int LineReader::TakeByte() {
 }
 
 bool LineReader::Next(wxString& line) {
-    // One character more than is kept: cutting the bytes may cut the last one.
+    // One character more than is kept, because cutting the bytes may cut the last one.
     constexpr size_t limit = (LongestLine + 1) * LongestCharacter;
     std::string bytes;
     bool cut = false;

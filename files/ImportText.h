@@ -1,4 +1,4 @@
-// Texts of files that other programs wrote: bytes to characters, lines, fixed columns.
+// Text of files from other programs: bytes to characters, lines, fixed columns.
 #pragma once
 
 #include <wx/string.h>
@@ -9,43 +9,42 @@
 
 class wxFFile;
 
-/// The characters of bytes: UTF-8, or Latin-1 where the bytes are no valid UTF-8. A zero byte ends
-/// the text.
+/// Decodes bytes as UTF-8, or as Latin-1 if they are not valid UTF-8. A zero byte ends the text.
 wxString TextFromBytes(std::string_view bytes);
 
-/// The same without the blanks at both ends.
+/// Decodes bytes likewise, without the blanks at both ends.
 wxString TrimmedTextFromBytes(std::string_view bytes);
 
-/// A field of a line with fixed columns.
+/// Field of a line with fixed columns.
 struct TextColumns {
     size_t position; ///< of the first character, from 0
     size_t length;   ///< in characters
 
-    /// The field as it stands in line: shorter or empty where the line ends before.
+    /// Returns the field unchanged, shorter or empty if the line ends before.
     wxString Of(const wxString& line) const { return line.Mid(position, length); }
 
-    /// The same without the blanks at both ends.
+    /// Returns the field without the blanks at both ends.
     wxString TrimmedOf(const wxString& line) const;
 
-    /// True when the field is exactly these ASCII characters; its length is theirs.
+    /// True if the field is exactly these ASCII characters; their length replaces the field's.
     bool Is(const wxString& line, std::string_view ascii) const;
 };
 
-/// Places an open file on its first character, behind a byte-order mark of UTF-8 if it has one.
+/// Moves an open file to its first character, after a UTF-8 byte-order mark if it has one.
 void RewindText(wxFFile& file);
 
-/// The lines of a file, whatever ends them: CR, LF or both. It reads ahead: the file's position is then of
-/// no use to others.
+/// Reads the lines of a file with any line ends: CR, LF or both. Reads ahead, so the file's position is
+/// then of no use to others.
 class LineReader {
 public:
-    /// A longer line loses the rest.
+    /// Longest line, in characters; the rest of a longer one is dropped.
     static constexpr size_t LongestLine = 100;
 
-    /// Reads from the position of the file on, which must be open and outlive the reader.
+    /// Reads from the current position of file, which must be open and outlive the reader.
     explicit LineReader(wxFFile& file) : m_file(file) {}
 
-    /// Gives the next line without its end. False, with an empty line, at the end of the file; a
-    /// last line needs no end.
+    /// Reads the next line without its line end. Returns false, with an empty line, at the end of the
+    /// file. The last line needs no line end.
     bool Next(wxString& line);
 
 private:

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// One attempt, with what it takes to undo it.
+/// One attempt to overwrite, with the data to undo it.
 class Overwriting {
 public:
     Overwriting(FileBytes& file, std::string_view bytes)
@@ -13,7 +13,7 @@ public:
     std::error_code Do() {
         if (const auto error = m_file.Read(m_shared, m_former))
             return error;
-        // What needs further room goes first: a full disk is met before anything is overwritten.
+        // Append first, so that a full disk is detected before anything is overwritten.
         size_t appended = 0;
         if (const auto error = m_file.Write(m_size, m_bytes.substr(m_shared), appended))
             return error;
@@ -21,11 +21,11 @@ public:
             return error;
         if (const auto error = m_file.Flush())
             return error;
-        // Last of all: what is cut off can't be put back.
+        // Truncate last; bytes that are cut off can't be restored.
         return m_bytes.size() < m_size ? m_file.Resize(m_bytes.size()) : std::error_code();
     }
 
-    /// False when the former bytes are not whole again.
+    /// Returns false if the former bytes could not be restored.
     bool Undo() {
         size_t restored = 0;
         const auto headError = m_file.Write(0, std::string_view(m_former).substr(0, m_overwritten), restored);
@@ -37,7 +37,7 @@ private:
     FileBytes& m_file;
     std::string_view m_bytes;
     size_t m_size;
-    size_t m_shared; ///< bytes that both contents have place for
+    size_t m_shared; ///< size of the smaller content, in bytes
     std::string m_former;
     size_t m_overwritten = 0;
 };

@@ -1,4 +1,4 @@
-// The records of a file by the grid rows that they are for.
+// Records of a file by the grid rows that they are for.
 #pragma once
 
 #include <algorithm>
@@ -7,27 +7,27 @@
 #include <utility>
 #include <vector>
 
-/// Keeps of all records for a row the last one: what is left in the grid when one is written over the
-/// other. A file that names a row again and again so costs no more than one that names it once, holds
-/// one zone slot for it, and leaves no paint of a record that has gone.
+/// Keeps only the last record for each row, which is what the grid would hold if each were written
+/// over the other. A file that names a row repeatedly then costs no more than one that names it once,
+/// holds one zone slot for it, and leaves no paint of an overwritten record.
 template <class Record>
 class LastOfRow {
 public:
     /// For rows 0 to rows - 1.
     explicit LastOfRow(int rows) : m_kept(static_cast<size_t>(rows)) {}
 
-    /// row must be one of the rows.
+    /// row must be in this range.
     void Keep(int row, Record record) {
         m_kept[static_cast<size_t>(row)] = Kept{m_next++, std::move(record)};
     }
 
-    /// The record of a row, or null.
+    /// Returns the record of a row, null if there is none.
     const Record* Of(int row) const {
         const auto& kept = m_kept[static_cast<size_t>(row)];
         return kept ? &kept->record : nullptr;
     }
 
-    /// Calls work(row, record) in the order in which the records came.
+    /// Calls work(row, record) for each record kept, in the order of arrival.
     template <class Work>
     void ForEach(Work work) const {
         std::vector<std::pair<size_t, int>> order;

@@ -1,4 +1,4 @@
-// The commands that open and save a channel file.
+// Commands that open and save a channel file.
 #include "catalogue/PageModel.h"
 #include "commands/OpenEditor.h"
 #include "files/ZelkFile_OpenSave.h"

@@ -1,4 +1,4 @@
-// The commands that print a page, preview it and set up the paper.
+// Commands that print a page, preview it and set up the paper.
 #include "catalogue/PageModel.h"
 #include "commands/FocusKeeper.h"
 #include "commands/OpenEditor.h"
@@ -14,14 +14,14 @@
 
 namespace {
 
-/// Keeps all commands away while it lives, and gives the keyboard back: sheets are drawn between events,
-/// and neither grid nor printout may go before the last one.
+/// Disables all commands while it exists, then restores the keyboard focus. Events are handled between
+/// sheets, and neither the grid nor the printout may be deleted before the last sheet is drawn.
 class CommandsOff {
-    const FocusKeeper m_focus; // first: a disabled window can't have it
+    const FocusKeeper m_focus; // first: a disabled window can't have the focus
     const wxWindowDisabler m_disabler;
 };
 
-/// A preview that can't be closed while it prints.
+/// Preview that can't be closed while it prints.
 class SteadyPreview : public wxPrintPreview {
 public:
     using wxPrintPreview::wxPrintPreview;
@@ -48,13 +48,13 @@ void ZelkFrame::OnPrint(wxCommandEvent&) {
         *PrintData = printer.GetPrintDialogData().GetPrintData();
     else if (wxPrinter::GetLastError() == wxPRINTER_ERROR)
         outcome = "There was a problem printing. Perhaps your current printer is not set correctly?";
-    // The log is off in the program: who printed reads the status bar.
+    // Logging is off in the program; the user reads the status bar.
     if (!outcome.empty())
         wxLogMessage("%s", outcome);
     TellOutcome(outcome.empty() ? wxString() : wxString("There was a problem printing."), outcome);
 }
 
-// Meant: nothing asks whether the preview is usable.
+// Intentional: nothing checks whether the preview is usable.
 void ZelkFrame::OnPrintPreview(wxCommandEvent&) {
     CommitOpenEditor();
     wxPrintDialogData dialogData(*PrintData);
@@ -62,7 +62,7 @@ void ZelkFrame::OnPrintPreview(wxCommandEvent&) {
         new SteadyPreview(MakePrintout(this).release(), MakePrintout(this).release(), &dialogData);
     auto* frame = new wxPreviewFrame(preview, this, "Print Preview", wxDefaultPosition, wxDefaultSize,
                                      wxDEFAULT_FRAME_STYLE | wxFRAME_FLOAT_ON_PARENT);
-    // The preview takes the keyboard and gives it back.
+    // The preview takes the keyboard focus; return it on close.
     frame->Bind(wxEVT_DESTROY, [frame, focus = wxWindowRef(FindFocus())](wxWindowDestroyEvent& event) {
         event.Skip();
         if (event.GetWindow() == frame && focus && !frame->GetParent()->IsBeingDeleted())
@@ -71,14 +71,14 @@ void ZelkFrame::OnPrintPreview(wxCommandEvent&) {
     frame->Initialize();
     frame->CentreOnScreen();
     frame->Show();
-    // Else a window manager may leave the keyboard with the main window, which takes no keys now.
+    // Otherwise a window manager may leave the focus on the main window, which takes no keys now.
     frame->Raise();
 }
 
 void ZelkFrame::OnPageSetup(wxCommandEvent&) {
     wxGenericPageSetupDialog dialog(this, PageSetupData.get());
     dialog.ShowModal();
-    // Meant: whatever button closed it.
+    // Intentional: applied whichever button closed the dialog.
     *PrintData = dialog.GetPageSetupDialogData().GetPrintData();
     *PageSetupData = dialog.GetPageSetupDialogData();
 }

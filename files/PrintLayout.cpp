@@ -9,7 +9,7 @@ namespace {
 constexpr int A4Width = 210, A4Height = 297;
 constexpr double MillimetresPerInch = 25.4;
 
-/// Cut to a whole number of pixels, and held to what coordinates can be reckoned with.
+/// Truncates to whole pixels and limits them to a range that is safe for calculating coordinates.
 int WholePixels(double pixels) {
     constexpr double Limit = 1e8;
     return static_cast<int>(std::clamp(pixels, -Limit, Limit));

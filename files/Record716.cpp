@@ -33,7 +33,7 @@ constexpr NamedField FieldsBehindShadows[] = {
     {"Tflg", &Record716::Tflg},
 };
 
-/// The numeric squelch value of an imported row.
+/// Numeric squelch value of an imported row.
 constexpr const char* ImportedSquelchValue = "10";
 
 struct CellField {
@@ -46,7 +46,7 @@ void WriteCells(wxGrid* grid, int row, const Record716& record, std::initializer
         grid->SetCellValue(row, cell.column, record.*cell.field);
 }
 
-/// SHAD and the cells that go with it.
+/// Writes SHAD and the cells that depend on it.
 void WriteLinks(wxGrid* grid, int row, const Record716& record) {
     const int flags = ReadHex(record.Mflg);
     if (flags & ShadowLinkFlag) {

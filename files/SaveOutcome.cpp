@@ -4,7 +4,7 @@
 
 namespace {
 
-/// Characters of a name that fit behind the longest verdict, and how many of them are the name's beginning.
+/// Characters of a name that fit after the longest verdict, and how many of them come from its start.
 constexpr size_t LongestName = 22;
 constexpr size_t NameBeginning = 10;
 
@@ -13,7 +13,7 @@ struct Reason {
     const char* text;
 };
 
-/// Words that are shorter than the system's, or say more about a save.
+/// Texts that are shorter than the system's, or say more about a save.
 constexpr Reason Reasons[] = {
     {std::errc::permission_denied, "no permission"},
     {std::errc::operation_not_permitted, "no permission"},

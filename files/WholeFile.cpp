@@ -17,17 +17,17 @@ namespace {
 constexpr int MostLinks = 40;
 constexpr int MostNames = 100;
 
-/// Why the last call to the system failed.
+/// Returns the reason for the failure of the last system call.
 std::error_code LastError() {
     return {errno ? errno : EIO, std::generic_category()};
 }
 
-/// A path as the toolkit takes it, whatever the locale.
+/// Returns a path in the toolkit's form, whatever the locale.
 wxString NameOf(const fs::path& path) {
     return {path.c_str(), *wxConvFileName};
 }
 
-/// The file that a chain of links names, whether it exists or not.
+/// Returns the file that a chain of links names, whether it exists or not.
 fs::path FollowLinks(fs::path path) {
     std::error_code error;
     for (int links = 0; links < MostLinks && fs::is_symlink(fs::symlink_status(path, error)); ++links)
@@ -35,7 +35,7 @@ fs::path FollowLinks(fs::path path) {
     return path;
 }
 
-/// Why a file must not be replaced; no error when it may, or doesn't exist.
+/// Returns why a file must not be replaced; no error if it may be, or does not exist.
 std::error_code WhyNotReplaceable(const fs::path& path) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
@@ -49,14 +49,14 @@ std::error_code WhyNotReplaceable(const fs::path& path) {
     return wxFileName::IsFileWritable(NameOf(path)) ? std::error_code() : LastError();
 }
 
-/// True for what a folder answers that forbids files to come and go. A disk that is full is no such answer:
+/// True for the errors of a folder that forbids creating and removing files. A full disk is not one of them:
 /// overwriting would then risk the former file for nothing.
 bool IsForbiddenByFolder(const std::error_code& error) {
     return error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
            error == std::errc::read_only_file_system || error == std::errc::device_or_resource_busy;
 }
 
-/// A file that did not exist, beside path.
+/// Creates a file that did not exist before, next to path, and returns its path.
 fs::path CreateBeside(const fs::path& path, wxFile& file) {
     fs::path name;
     for (int n = 0; n < MostNames; ++n) {
@@ -68,8 +68,8 @@ fs::path CreateBeside(const fs::path& path, wxFile& file) {
     return name;
 }
 
-/// How many bytes were written. A disk that gets full takes the first bytes of a block and says so only when
-/// asked to take the rest.
+/// Returns the number of bytes written. A disk that fills up takes the first bytes of a block and reports
+/// the error only when asked to take the rest.
 size_t WriteAll(wxFile& file, std::string_view bytes) {
     size_t done = 0;
     while (done < bytes.size()) {
@@ -81,7 +81,7 @@ size_t WriteAll(wxFile& file, std::string_view bytes) {
     return done;
 }
 
-/// A file on the disk.
+/// File on disk.
 class DiskBytes : public FileBytes {
 public:
     explicit DiskBytes(const fs::path& path) : m_path(path), m_file(NameOf(path), wxFile::read_write) {}
@@ -131,16 +131,16 @@ OverwriteResult Overwrite(const fs::path& path, std::string_view bytes) {
 
 struct FileReplacement::State {
     fs::path target;
-    fs::path fresh; ///< the file beside it; empty when the target is to be overwritten
+    fs::path fresh; ///< the new file next to it; empty if the target is to be overwritten
     wxFile file;
 
-    /// Writes the fresh file and gives it the target's permissions and its place.
+    /// Writes the fresh file, gives it the target's permissions and moves it to the target's place.
     std::error_code PutInPlace(std::string_view bytes) {
         errno = 0;
         if (WriteAll(file, bytes) < bytes.size() || !file.Flush() || !file.Close())
             return LastError();
         std::error_code error, ignored;
-        // A file system without permissions has none to keep.
+        // Ignore errors: a file system without permissions has none to keep.
         if (fs::exists(target, ignored))
             fs::permissions(fresh, fs::status(target, ignored).permissions(), ignored);
         fs::rename(fresh, target, error);
@@ -193,7 +193,7 @@ std::error_code FileReplacement::Finish(std::string_view bytes) {
             return {};
         state->DropFresh();
         std::error_code ignored;
-        // A folder may let new files in and yet protect those of others.
+        // A folder may allow new files and still protect those of other users.
         if (!IsForbiddenByFolder(error) || !fs::exists(state->target, ignored))
             return error;
     }

@@ -1,4 +1,4 @@
-// Writing a file so that there is always a whole one.
+// Writes a file so that a complete one exists at all times.
 #pragma once
 
 #include <wx/string.h>
@@ -7,30 +7,31 @@
 #include <string_view>
 #include <system_error>
 
-/// A file that is made, or takes the place of another, once it lies whole beside it. The former
-/// file's permissions go over to the new one, and of a link the file it names is replaced. What goes
-/// wrong leaves everything as it was.
+/// Creates or replaces a file: a complete new file, written next to it, takes its place. The new file gets
+/// the permissions of the former one; if path is a link, the file that it names is replaced. A failure leaves
+/// everything unchanged.
 ///
-/// A file that may be written in a folder that may not is overwritten where it stands. A failure is undone
-/// then, as far as the device allows.
+/// A writable file in a folder that can't be written to is overwritten in place. A failure is then undone if
+/// the device allows it.
 class FileReplacement {
 public:
     FileReplacement();
-    /// Takes away what has not been finished.
+    /// Discards an unfinished replacement.
     ~FileReplacement();
     FileReplacement(const FileReplacement&) = delete;
     FileReplacement& operator=(const FileReplacement&) = delete;
 
-    /// Begins, with an empty file beside path where the folder allows it. Answers why that can't be, or no
-    /// error.
+    /// Starts the replacement, with an empty file next to path if the folder allows it. Returns the reason
+    /// for failure, or no error.
     std::error_code Open(const wxString& path);
 
     bool IsOpened() const { return m_state != nullptr; }
 
-    /// Writes the bytes and puts the file in its place. Answers why that failed, or no error. Needs IsOpened.
+    /// Writes the bytes and puts the file in its place. Returns the reason for failure, or no error. Requires
+    /// IsOpened.
     std::error_code Finish(std::string_view bytes);
 
-    /// After a Finish that failed: true when the former file was overwritten and could not be restored.
+    /// True if the last Finish failed after overwriting the former file and could not restore it.
     bool FormerIsDamaged() const { return m_formerIsDamaged; }
 
 private:

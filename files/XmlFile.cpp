@@ -11,19 +11,19 @@
 
 namespace {
 
-// A channel file nests three deep, and a full page takes less than half a megabyte.
+// A channel file nests three levels deep, and a full page takes less than half a megabyte.
 constexpr wxFileOffset LongestFile = 16 * 1024 * 1024;
 constexpr int DeepestElement = 64;
 constexpr int MostAttributes = 64;
-// The parser starts a piece again with each kilobyte that it is given of it.
+// The parser restarts a piece of markup with each kilobyte of it that it gets.
 constexpr size_t LongestPiece = 64 * 1024;
 // Each of these breaks costs a copy of the text before it.
 constexpr int MostTextBreaks = 64;
 
 constexpr size_t npos = std::string_view::npos;
 
-/// Walks from one piece of markup to the next. What is not well-formed is the parser's to
-/// refuse: up to there both see the same pieces.
+/// Walks from one piece of markup to the next. Malformed markup is for the parser to refuse; up to
+/// there both see the same pieces.
 class MarkupScan {
 public:
     explicit MarkupScan(std::string_view text) : m_text(text) {}
@@ -45,7 +45,7 @@ private:
         if (text.size() > LongestPiece)
             return false;
         int breaks = 0;
-        // White space in front makes no text.
+        // Leading white space does not count as text.
         for (size_t i = text.find_first_not_of(" \t\r\n"); i < text.size(); ++i)
             breaks += text[i] == '\n' || text[i] == '\r' || text[i] == '&';
         return breaks <= MostTextBreaks;
@@ -93,7 +93,7 @@ private:
         return m_depth <= DeepestElement;
     }
 
-    /// first and last are the characters inside the brackets of a tag.
+    /// first and last are the first and last characters inside the brackets of a tag.
     void CountDepth(char first, char last) {
         if (first == '/')
             --m_depth;
@@ -106,8 +106,8 @@ private:
     int m_depth = 0;
 };
 
-/// Markup is ASCII in every encoding that the parser knows but UTF-16, whose units become single
-/// bytes here. The parser tells it by a zero or a byte-order mark in the first two bytes.
+/// Reduces the units of UTF-16 to single bytes. In all other encodings of the parser, markup is
+/// ASCII. The parser recognizes UTF-16 by a zero or a byte-order mark in the first two bytes.
 std::string NarrowUtf16(std::string_view bytes, size_t lowByte) {
     std::string text;
     text.reserve(bytes.size() / 2);
@@ -120,7 +120,7 @@ std::string NarrowUtf16(std::string_view bytes, size_t lowByte) {
 }
 
 bool ReadBytes(const wxString& path, std::string& bytes) {
-    // Opening a pipe would wait for its other end.
+    // Opening a pipe would block until its other end opens.
     if (!wxFileName::FileExists(path))
         return false;
     wxFile file(path);

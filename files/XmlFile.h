@@ -1,4 +1,4 @@
-// Loading an XML file that may be anything.
+// Loads an XML file without trusting its content.
 #pragma once
 
 #include <string_view>
@@ -6,12 +6,13 @@
 class wxString;
 class wxXmlDocument;
 
-/// False for markup that the toolkit's parser takes far too long over, or ends the program with:
-/// elements nested more than 64 deep, a tag with more than 64 attributes, a tag, comment or text of
-/// more than 64 KiB, a text in many pieces, a document type with declarations of its own. Says
-/// nothing of whether the bytes are XML at all.
+/// False for markup that makes the toolkit's parser run far too long or ends the program: elements
+/// nested more than 64 deep, a tag with more than 64 attributes, a tag, comment or text of more
+/// than 64 KiB, a text in many pieces, a document type with its own declarations. Does not check
+/// whether the bytes are XML at all.
 bool IsHarmlessMarkup(std::string_view bytes);
 
-/// Parses the file into document, without texts of white space only. False when it can't be read,
-/// is no file of at most 16 MiB, isn't harmless or isn't well-formed; document is then of no use.
+/// Parses the file into document, without texts of white space only. Returns false if it can't be
+/// read, is not a file of at most 16 MiB, isn't harmless or isn't well-formed; document is then
+/// unusable.
 bool LoadXmlFile(const wxString& path, wxXmlDocument& document);

@@ -1,4 +1,4 @@
-// The import of files that other programs wrote.
+// Imports files written by other programs.
 #pragma once
 
 #include "files/FileKind.h"
@@ -6,25 +6,25 @@
 #include <wx/ffile.h>
 #include <wx/textfile.h>
 
-/// Finds out what a file is, and reads it into the current page. The window has one.
+/// Identifies a file and reads it into the current page. The window has one instance.
 class FileImporter {
 public:
     virtual ~FileImporter() = default;
 
-    /// The kind (FileKind) of a file, by its contents alone. The file stays open for Read: a binary one
-    /// on its first record, others on their first character. UnknownFile when it can't be opened, or
-    /// while another one is open.
+    /// Returns the kind (FileKind) of a file by its contents alone. The file stays open for Read: a
+    /// binary file at its first record, others at their first character. Returns UnknownFile if it
+    /// can't be opened, or if another file is open.
     int Identify(const wxString& path);
 
-    /// Opens the lines of a MultiZEL file, in the place of the stream that Identify has left open.
-    /// False when they can't be read.
+    /// Opens the lines of a MultiZEL file, in place of the stream that Identify left open. Returns
+    /// false if they can't be read.
     virtual bool OpenLines(const wxString& path);
 
-    /// Reads the file, of the kind that Identify gave, into the current page. The count of lines that
-    /// its reader gives, 0 for a file of no kind.
+    /// Reads the file, of the kind that Identify returned, into the current page. Returns the line
+    /// count of its reader, 0 for a file of unknown kind.
     int Read(int kind);
 
-    /// Closes what is open.
+    /// Closes all that is open.
     void Close();
 
 private:

@@ -26,13 +26,13 @@
 
 namespace {
 
-/// The page holds its default row and nothing else.
+/// Leaves only the default row on the page.
 void WriteDefaultRow(int page) {
     SetPageDefaults(nullptr, page);
     EmptyDefaultMemories(page);
 }
 
-/// Makes page one for the file's target.
+/// Sets page up for the file's target.
 void TakeTarget(int page, const ChannelFile::Target& target) {
     using namespace RadioCatalogue;
     PageParameterRecord& parameters = PageParameters[page];
@@ -51,15 +51,15 @@ void TakeTarget(int page, const ChannelFile::Target& target) {
     const bool differs = former.Radio != parameters.Radio || former.BandIndex != parameters.BandIndex ||
                          former.Type != parameters.Type;
     if (differs)
-        // The reader sets the editors up behind the last row.
+        // The reader sets the editors up after the last row.
         FitGridToTarget(former.Radio, former.BandIndex);
     UpdateStatus(MainFrame, page);
 }
 
-/// What a save did to the file.
+/// Result of writing a page to its file.
 struct SaveResult {
     std::error_code error;
-    bool damaged = false; ///< after an error: the former file could not be put back
+    bool damaged = false; ///< after an error: the former file could not be restored
 };
 
 SaveResult WriteDocument(const wxXmlDocument& document, const wxString& path) {
@@ -74,15 +74,15 @@ SaveResult WriteDocument(const wxXmlDocument& document, const wxString& path) {
     return {error, file.FormerIsDamaged()};
 }
 
-/// Where a page is saved.
+/// File that a page is saved to.
 struct PageFile {
-    wxString folder; ///< with a separator at its end
+    wxString folder; ///< with a trailing separator
     wxString name;   ///< without extension
 
     wxString Path() const { return folder + name + ".zelk"; }
 };
 
-/// Asks for the file of the page. False when the user cancelled.
+/// Asks for the file of the page. Returns false if the user cancels.
 bool AskForFile(PageFile& file) {
     wxFileDialog dialog(nullptr, "Save .zelk file...", file.folder, file.name,
                         "Zelk Files|*.zelk|All files|*.*", wxFD_SAVE);
@@ -142,7 +142,7 @@ bool OpenChannelFile(const wxString& path) {
 void SaveZelkFile(int page, bool saveAs) {
     wxXmlDocument document;
     const std::vector<int> leftOut = BuildChannelFile(page, document);
-    // Meant: the folder is made also for a save that is then cancelled.
+    // Intentional: the folder is created even if the user then cancels the save.
     MakeUserFolder();
 
     PageStringRecord& strings = PageStrings[page];

@@ -21,8 +21,8 @@ wxFont PrintFont() {
     return wxFont(10, wxFONTFAMILY_SWISS, wxFONTSTYLE_NORMAL, wxFONTWEIGHT_NORMAL);
 }
 
-/// Holds the grid's window enabled while it lives. A preview disables it, and then the toolkit would
-/// draw pale labels on paper too. No event is handled meanwhile.
+/// Keeps the grid's window enabled while it exists. A preview disables it, and the toolkit would
+/// then draw pale labels on paper too. No event is handled meanwhile.
 class EnabledWindow {
 public:
     explicit EnabledWindow(wxWindow* child) : m_window(wxGetTopLevelParent(child)) {
@@ -38,7 +38,7 @@ private:
     bool m_wasEnabled;
 };
 
-/// Gives the grid the colours and fonts of paper while it lives, without a trace on the screen.
+/// Sets the grid's colours and fonts to those for paper while it exists, invisibly on the screen.
 class PrintLook {
 public:
     explicit PrintLook(wxGrid* grid)
@@ -80,7 +80,7 @@ PageMargins MarginsInMillimetres() {
     return {PageSetupData->GetMarginTopLeft(), PageSetupData->GetMarginBottomRight()};
 }
 
-/// A point of the device in coordinates of the scale.
+/// Converts a point of the device to coordinates of the scale.
 wxPoint Unscaled(int x, int y, double scale) {
     return {static_cast<int>(x / scale), static_cast<int>(y / scale)};
 }
@@ -115,14 +115,14 @@ bool ZelkPrintout::OnPrintPage(int page) {
 
 void ZelkPrintout::GetPageInfo(int* min, int* max, int* from, int* to) {
     CalculateRowsPerPage();
-    // Meant: every grid row counts, the default row and blank ones too.
+    // Intentional: all grid rows count, including the default row and blank rows.
     m_pageCount = CountPages(m_grid->GetNumberRows(), m_rowsPerPage);
     *min = *from = 1;
     *max = *to = m_pageCount;
 }
 
 void ZelkPrintout::CalculateRowsPerPage() {
-    const wxGridSizesInfo columns = m_grid->GetColSizes(); // of a hidden one 0
+    const wxGridSizesInfo columns = m_grid->GetColSizes(); // 0 for a hidden column
     int totalWidth = 0;
     for (unsigned col = 0; col < ColumnTotal; ++col)
         totalWidth += columns.GetSize(col);
@@ -164,7 +164,7 @@ void ZelkPrintout::DrawGrid(wxDC& dc, double scale, int page) const {
     wxPoint topLeft, bottomRight;
     GetPageMargins(scale, topLeft, bottomRight, HeadingSpace);
     const wxSize size(dc.GetSize().x - topLeft.x - bottomRight.x, dc.GetSize().y - topLeft.y - bottomRight.y);
-    // Margins as wide as the paper leave nothing to draw on.
+    // Margins as wide as the paper leave no room to draw.
     if (size.x < 1 || size.y < 1)
         return;
     const int first = (page - 1) * m_rowsPerPage;
@@ -174,7 +174,7 @@ void ZelkPrintout::DrawGrid(wxDC& dc, double scale, int page) const {
 }
 
 void ZelkPrintout::DrawHeading(wxDC& dc, double scale, int page) const {
-    // Meant: the first of three sheets is headed 2 of 3.
+    // Intentional: the heading of the first of three sheets says 2 of 3.
     const wxString pageText = wxString::Format("Page %d of %d", page + 1, m_pageCount);
     wxPoint topLeft, bottomRight;
     GetPageMargins(scale, topLeft, bottomRight, 0);

@@ -1,5 +1,5 @@
-// Cell texts and ASCII characters, without the toolkit's conversions, which cost more than all else that
-// is done with a cell.
+// Helpers for cell texts and ASCII characters. They avoid the toolkit's conversions, which would cost more
+// than the rest of the work on a cell.
 #pragma once
 
 #include <wx/string.h>
@@ -22,7 +22,7 @@ inline bool BeginsWith(const wxString& text, std::string_view ascii) {
                       [](char a, wchar_t b) { return static_cast<wchar_t>(a) == b; });
 }
 
-/// True when all characters are ASCII ones.
+/// True when all characters are ASCII.
 inline bool IsAscii(std::string_view bytes) {
     return std::all_of(bytes.begin(), bytes.end(),
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });

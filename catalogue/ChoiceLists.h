@@ -1,12 +1,11 @@
-// The lists of choices. The position in a list is what travels in radio records.
+// Lists of choices. Radio records hold the position in a list.
 #pragma once
 
 #include <iterator>
 
 namespace RadioCatalogue {
 
-/// CTCSS tones of analog pages. "OFF" stands at both ends: radios know it as position 64,
-/// a search finds it at 0.
+/// CTCSS tones of analog pages. "OFF" is at both ends: radios use position 64, a search finds position 0.
 inline constexpr const char* ToneTexts[] = {
     "OFF",   "67.0",  "71.9",  "74.4",  "77.0",  "79.7",  "82.5",  "85.4",  "88.5",  "91.5",  "94.8",
     "97.4",  "100.0", "103.5", "107.2", "110.9", "114.8", "118.8", "123.0", "127.3", "131.8", "136.5",
@@ -24,7 +23,7 @@ inline constexpr const char* CtcssTexts[] = {
     "210.7", "218.1", "225.7", "233.6", "241.8", "250.3", "206.5", "229.1", "254.8",
 };
 
-/// DPL codes. P25 pages leave out "OFF" and so count from 0 at "023".
+/// DPL codes. P25 pages omit "OFF" and count from 0 at "023".
 inline constexpr const char* CodeTexts[] = {
     "OFF", "023", "025", "026", "031", "032", "043", "047", "051", "054", "065", "071", "072", "073",
     "074", "114", "115", "116", "125", "131", "132", "134", "143", "152", "155", "156", "162", "165",
@@ -62,7 +61,7 @@ inline constexpr const char* TxDigitalSquelchRestricted[] = {"g", "-"};
 
 inline constexpr const char* MdlxBands3[] = {"FM 30-50", "AM 108-138", "AM 225-400"};
 
-/// The underscore in one entry is meant.
+/// Intentional: the underscore in one entry.
 inline constexpr const char* MdlxBands8[] = {
     "FM 30-50",   "FM 66-88",   "AM 108-138", "FM 136-174",
     "AM 225-400", "FM_403-512", "FM 7xx-8xx", "FM 896-960",

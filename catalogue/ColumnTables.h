@@ -1,4 +1,4 @@
-// What each radio type shows of the 32 columns, and the default rows.
+// Headings and widths of the 32 columns by radio type, and the default rows.
 #pragma once
 
 #include "catalogue/MemoryRow.h"
@@ -15,7 +15,7 @@ struct ColumnLook {
 };
 
 // clang-format off
-// One line a column, one entry a radio type: ANFM, RP25, NP25, MDLX, O12, KDAR, ANAM, FXAM.
+// One line per column, one entry per radio type: ANFM, RP25, NP25, MDLX, O12, KDAR, ANAM, FXAM.
 // The wide column without a heading on O12 is a blank filler beside its two real columns.
 inline constexpr ColumnLook ColumnLooks[ColumnTotal][TypeTotal] = {
     /* MFLG */ {{"", 0}, {"", 0}, {"", 0}, {"", 0}, {"", 0}, {"", 0}, {"", 0}, {"", 0}},
@@ -88,7 +88,7 @@ constexpr RowTexts EmptyRow() {
     return row;
 }
 
-/// The columns that tell the default rows of the analog bands apart.
+/// Columns in which the default rows of the analog bands differ.
 struct AnalogDefault {
     const char *band, *scan, *desc, *mode, *rfrq, *rton, *rcod, *tfrq, *tton, *tcod;
 };
@@ -132,7 +132,7 @@ constexpr RowTexts P25Row(const char* rnsv) {
 inline constexpr int Kdrv716BDefaultRow = 9, Kdar2000DefaultRow = 10;
 
 // clang-format off
-/// Default rows. The row of a page is its band id; two radios have a row of their own.
+/// Default rows, by the band id of a page; two radios have a row of their own.
 inline constexpr RowTexts PageDefault[11] = {
     AnalogRow({"FM 30-50",   "0", "LOW    30", "W", "30.0000",  "OFF", "OFF", "50.0000",  "OFF", "OFF"}),
     AnalogRow({"FM 66-88",   "0", "LOW    66", "W", "66.0000",  "OFF", "OFF", "88.0000",  "OFF", "OFF"}),

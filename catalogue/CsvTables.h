@@ -7,7 +7,8 @@ namespace RadioCatalogue {
 
 constexpr int CsvFieldTotal = 20;
 
-/// First line of a CSV file. The comma at its end is meant.
+/// First line of a CSV file.
+/// Intentional: the comma at its end.
 inline constexpr const char* CsvHeader =
     "MNUM,BAND,SCAN,ZONE,DESC,MODE,RFRQ,RSQL,RNSV,RTON,RCOD,RTGP,RNAC,TFRQ,TSQL,TTON,TCOD,TTGP,TNAC,TIDC,";
 

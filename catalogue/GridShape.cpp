@@ -24,31 +24,31 @@ void SetUpGrid(wxGrid* grid, int page) {
 
     grid->SetDefaultRowSize(23, true);
     grid->EnableDragRowSize(false);
-    // Scrolling by whole rows keeps the first row whole, on which the row menu counts.
+    // Scroll by full rows: the row menu relies on a fully visible first row.
     grid->SetScrollLineY(grid->GetDefaultRowSize());
     grid->SetRowLabelSize(wxGRID_AUTOSIZE);
     grid->SetRowLabelAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
-    // Meant: one label more than there are rows.
+    // Intentional: one label more than there are rows.
     SetGridRowLabels(grid, rows + 1);
     grid->SetRowLabelSize(wxGRID_AUTOSIZE);
     grid->SetColLabelSize(grid->GetRowSize(1));
     grid->SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_TOP);
-    // A page is often selected as a whole while it is read: dark text on a light colour, also
-    // where the window has no focus and the toolkit takes a grey.
+    // Users often read a page while all of it is selected. Use dark text on a light colour, also
+    // where the window has no focus and the toolkit would use grey.
     grid->SetSelectionForeground(*wxBLACK);
     grid->SetSelectionBackground(wxColour(178, 208, 240));
 }
 
 void SetGridColumns(wxGrid* grid, int type) {
     for (int col = 0; col < ColumnTotal; ++col) {
-        // The minimal width goes first: a column never becomes narrower than its minimum. The
-        // same width as a minimum keeps a hidden column from being dragged open.
+        // Set the minimum first: a column never becomes narrower than its minimum. A minimum equal
+        // to the width keeps users from dragging a hidden column open.
         grid->SetColMinimalWidth(col, ColumnWidth[type][col]);
         grid->SetColSize(col, ColumnWidth[type][col]);
         grid->SetColLabelValue(col, ColumnHeading[type][col]);
     }
-    // The toolkit begins in the first column, which is always hidden, and a page of another type
-    // may have left the cursor in one that is hidden now: typing would go into a cell unseen.
+    // The toolkit starts in the first column, which is always hidden, and a change of type can hide
+    // the column of the cursor. Typing would then go into an unseen cell.
     if (const int col = grid->GetGridCursorCol(); col < 0 || !grid->IsColShown(col))
         grid->SetGridCursor(std::max(grid->GetGridCursorRow(), 0), MNUM);
 }
@@ -67,7 +67,7 @@ void FitGridToTarget(int oldRadio, int oldBandIndex) {
         grid->AppendRows(newRows - oldRows);
         SetGridRowLabels(grid, newRows);
     } else if (newRows < oldRows) {
-        // Meant: the former last row stays, as the new last one.
+        // Intentional: the former last row stays, as the new last one.
         grid->DeleteRows(newRows, oldRows - newRows);
     }
     SetGridColumns(grid, CurrentParameters().Type);

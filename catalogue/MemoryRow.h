@@ -11,7 +11,7 @@ enum Column : int {
     MNUM, ///< memory (channel) number, decimal "%03d", unique in the page
     PRIM, ///< P25: MNUM of the row's primary, decimal "%03d"; hidden
     SHAD, ///< P25: "N", "P-" and a digit, or "S-" and the primary's number
-    BAND, ///< MDLX: the band of this row; elsewhere hidden
+    BAND, ///< MDLX: the band of this row; hidden on other pages
     SCAN, ///< "Y" or "N" on P25 and KDAR pages, else a scan list mask 0 to 31
     ZONE, ///< P25: one of the ZoneNames of the page's type; empty on a shadow row
     DESC, ///< description, 8 characters on P25 and KDAR pages, else 9
@@ -49,43 +49,43 @@ inline constexpr const char* ColumnTag[ColumnTotal] = {
     "TIDC", "SHD0", "SHD1", "SHD2", "SHD3", "SHD4", "SHD5", "SHD6", "RONL", "TFLG",
 };
 
-// Bits of MFLG, the memory flags. Those without a name of their own come from a radio and go back to it.
+// Bits of MFLG, the memory flags. Unnamed bits come from a radio and are sent back to it.
 
-/// The place of a shadow in its primary's list plus one (1 to 7), 0 on any other row.
+/// 1-based place of a shadow in its primary's list (1 to 7), 0 on any other row.
 inline constexpr int ShadowIndexMask = 0x007;
-/// The radio scans the memory; SCAN is what a page shows of it.
+/// The radio scans the memory; pages show this as SCAN.
 inline constexpr int ScanFlag = 0x008;
 /// The row is a primary with shadows.
 inline constexpr int ShadowLinkFlag = 0x010;
 /// Any of these marks a row as linked, as a primary or as a shadow.
 inline constexpr int LinkFlags = ShadowIndexMask | ShadowLinkFlag;
-/// Two bits of the radio that shadows keep when they are linked anew.
+/// Two radio bits that shadows keep when they are linked again.
 inline constexpr int RadioFlags = 0x060;
-/// The row is a guard row. Records and files of the 716 family have this bit. On a page the place of the row
-/// counts, not the bit.
+/// The row is a guard row. Records and files of the 716 family have this bit. On a page the position of the
+/// row decides, not the bit.
 inline constexpr int GuardFlag = 0x080;
-/// Two more bits of the radio, which old records have in a byte of their own.
+/// Two more radio bits; old records have them in a separate byte.
 inline constexpr int HighRadioFlags = 0x300;
 
 // Bits of TFLG, the transfer flags.
 
 /// The row is selected for sending.
 inline constexpr int SEL = 0x01;
-/// The row is to be erased in the radio; it counts more than SEL. In row 1 of a KDAR page it makes an
-/// exported list ask for a purge.
+/// Erase the row in the radio; takes precedence over SEL. Set in row 1 of a KDAR page, it makes an exported
+/// list request a purge.
 inline constexpr int EraseFlag = 0x02;
-/// The radio is to be purged before the row is sent. Nothing in the program sets it.
+/// Purge the radio before the row is sent. The program never sets this flag.
 inline constexpr int MarkedFlag = 0x04;
 /// The row holds a slot of ZoneSlots.
 inline constexpr int ZoneTakenFlag = 0x08;
-/// The row was made in the program, not read from a radio.
+/// The row was created in the program, not read from a radio.
 inline constexpr int MadeFlag = 0x20;
 /// The radio holds the row.
 inline constexpr int InRadioFlag = 0x40;
 /// The row is defined; rows without it are skipped by transfers.
 inline constexpr int DEF = 0x80;
 
-/// TFLG of a row made in the program: DEF and MadeFlag.
+/// TFLG of a row created in the program: DEF and MadeFlag.
 inline constexpr const char* TflgMade = "A0";
 /// TFLG of a row read from a radio: DEF and InRadioFlag.
 inline constexpr const char* TflgRead = "C0";
@@ -96,10 +96,10 @@ inline constexpr std::uint32_t NarrowMode = 0x20;  ///< MODE "n"
 inline constexpr std::uint32_t DigitalMode = 0x10; ///< MODE "D"
 inline constexpr std::uint32_t AllModes = WideMode | NarrowMode | DigitalMode;
 
-/// The number that MFLG of a row holds, 0 for an empty cell.
+/// Number in MFLG of a row, 0 for an empty cell.
 int MemoryFlags(const wxGrid* grid, int row);
 
-/// The number that TFLG of a row holds, 0 for an empty cell.
+/// Number in TFLG of a row, 0 for an empty cell.
 int TransferFlags(const wxGrid* grid, int row);
 
 /// True when MFLG marks the row as a shadow.

@@ -25,7 +25,7 @@ void SetPageParameters(OrvZELFrame* frame, int page, int radio, int bandIndex) {
 
     PageStrings[page] = {"", "", RadioName[radio], BandName[parameters.Band], RadioTypeName[parameters.Type]};
     OpModes[page] = NarrowMode | DigitalMode;
-    // Meant: these are the flags of the page that is selected now, also while another is made.
+    // Intentional: clears the flags of the selected page, even while another page is created.
     CurrentParameters().Flags = 0;
     if (IsP25Type(parameters.Type))
         ClearZoneSlots(page);
@@ -40,12 +40,12 @@ void CreateNewPage(OrvZELFrame* frame, int page) {
     auto* grid = new wxGrid(panel, wxID_ANY);
     PageGrid[page] = grid;
     SetUpGrid(grid, page);
-    // The event names the grid's inner window that was clicked, so no id can be asked for here.
+    // The event carries the id of the grid's clicked inner window, so Bind can't filter by id here.
     grid->Bind(wxEVT_CONTEXT_MENU, &OrvZELFrame::OnGridContextMenu, frame);
     sizer->Add(grid, 1, wxEXPAND | wxALL, 5);
     panel->SetSizer(sizer);
-    // For every page but the first this raises the page-changed event before it returns, so
-    // that the new page is the current one from here on.
+    // For every page except the first, this raises the page-changed event before it returns, so the
+    // new page is the current one from here on.
     frame->m_notebook->AddPage(panel, PageStrings[page].RadioName, true);
     {
         wxGridUpdateLocker quiet(grid);

@@ -26,7 +26,7 @@ namespace {
 /// The cells of GD1 and GD2 between SaveGuardRows and RestoreGuardRows.
 std::array<wxArrayString, 2> guardRowImages;
 
-/// True when the column has to have text for a row to be complete.
+/// True when a complete row needs text in the column.
 bool CountsForCompleteness(int type, int col, bool shadow) {
     using namespace RadioCatalogue;
     if (ColumnWidth[type][col] == 0)

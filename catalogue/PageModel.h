@@ -17,7 +17,7 @@ class wxGrid;
 /// The notebook holds at most this many pages.
 constexpr int PageLimit = 6;
 
-/// What a page is for. One record a page, by page number (0-based).
+/// Target and flags of a page. One record per page, by page number (0-based).
 struct PageParameterRecord {
     int32_t Radio = 0;     ///< radio index
     int32_t BandIndex = 0; ///< band slot of the radio
@@ -30,12 +30,12 @@ struct PageParameterRecord {
 
 /// Flags: the page's content came from a file.
 constexpr int32_t PageFromFile = 0x02;
-/// Flags: a file or import brought primaries or shadows.
+/// Flags: a file or import contained primaries or shadows.
 constexpr int32_t PageHasShadows = 0x08;
 /// Flags: rows are marked for column edits.
 constexpr int32_t PageHasMarks = 0x10;
 
-/// Texts of a page. One record a page.
+/// Texts of a page. One record per page.
 struct PageStringRecord {
     wxString FileName; ///< the last file, without extension and directory
     wxString FileDir;  ///< its directory, with a separator at the end
@@ -46,7 +46,7 @@ struct PageStringRecord {
     wxArrayString OwnFiles = {};
 };
 
-/// The one main window, from start-up on.
+/// The only main window, set at start-up.
 extern ZelkFrame* MainFrame;
 /// Pages that exist, 1 to 6 once started.
 extern int32_t PageCount;
@@ -81,15 +81,14 @@ bool CurrentPageIsP25();
 /// The 32 cell texts of a row of the page.
 wxArrayString GetRowValues(int page, int row);
 
-/// On the current page: true as soon as one of the 32 cells has text.
+/// True when any of the 32 cells of the row has text, on the current page.
 bool RowHasData(int row);
 
-/// On the current page: true when every column that the page's type shows has text. Cells that
-/// checks empty by design don't count: the zone of a shadow row and the tones of FXAM; nor does
-/// the blank filler column of O12.
+/// True when every column that the page's type shows has text, on the current page. Ignores cells that checks
+/// empty by design (the zone of a shadow row, the tones of FXAM) and the blank filler column of O12.
 bool RowIsComplete(int row);
 
-/// Rows of the page that have data, from row 0 to Rows - 1: row 0 counts, the last row doesn't.
+/// Number of rows of the page that have data, from row 0 to Rows - 1: row 0 counts, the last row doesn't.
 int CountRowsWithData(int page);
 
 /// True when the row count of the page ends in the digit 2: its last two rows are guard rows.
@@ -101,15 +100,15 @@ bool IsGuardRow(int row);
 /// Sets GD1 and GD2 for a page of that many rows: -1 without guard rows.
 void SetGuardRows(OrvZELFrame* frame, int page, int rows);
 
-/// Takes the paint of a repair (FailColour) off a cell, which gets the background of cell (0, 0). Other paint
+/// Removes the paint of a repair (FailColour) from a cell: it gets the background of cell (0, 0). Other paint
 /// stays.
 void TakePaintOff(wxGrid* grid, int row, int col);
 
-/// Keeps the cells of both guard rows of the current page.
+/// Saves the cells of both guard rows of the current page.
 void SaveGuardRows(OrvZELFrame* frame);
 
-/// Writes the kept cells back into GD1 and GD2. With renumber MNUM becomes the row number, and a guard row
-/// that was blank is not written: a number alone would make an incomplete memory of it.
+/// Writes the saved cells back into GD1 and GD2. With renumber, MNUM becomes the row number, and a guard row
+/// that was blank is skipped: a number alone would make it an incomplete memory.
 void RestoreGuardRows(OrvZELFrame* frame, bool renumber);
 
 /// RadioCatalogue::GetCodeIndex for the type of the current page.

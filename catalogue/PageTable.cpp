@@ -30,7 +30,7 @@ void Apply(wxGridCellAttr& attr, const CellLook& look) {
     attr.SetEditor(look.editor.get());
 }
 
-/// A clone of the toolkit's own forgets a mark that says "writable".
+/// Clones an attribute, including an explicit "writable" mark, which the toolkit's own Clone drops.
 wxGridCellAttr* CloneOf(const wxGridCellAttr& attr) {
     wxGridCellAttr* const clone = attr.Clone();
     if (attr.HasReadWriteMode())
@@ -38,7 +38,7 @@ wxGridCellAttr* CloneOf(const wxGridCellAttr& attr) {
     return clone;
 }
 
-/// Whether the attribute says more than a CellLook can.
+/// Whether the attribute holds more than a CellLook can.
 bool HasMore(const wxGridCellAttr& attr) {
     return attr.HasTextColour() || attr.HasFont() || attr.HasAlignment() || attr.HasRenderer() ||
            attr.HasOverflowMode() || attr.HasSize();
@@ -81,7 +81,7 @@ void PageTable::StoreShared(int row, int col, const CellLook& look) {
     for (const auto& [shared, attr] : m_shared)
         if (shared == look)
             return Store(row, col, attr);
-    // The grid makes the first one, which then falls back on the grid's defaults.
+    // The grid creates the first one, so that it falls back on the grid's defaults.
     DropOwn(row, col);
     const wxGridCellAttrPtr attr = GetView()->GetOrCreateCellAttrPtr(row, col);
     Apply(*attr, look);
@@ -108,7 +108,7 @@ void PageTable::SetLook(int row, int col, CellLook look) {
     const wxGridCellAttr* own = Own(row, col);
     if (!own && look.IsPlain())
         return;
-    // The grid keeps the attribute that it has asked for last.
+    // The grid caches the attribute that it requested last.
     GetView()->RefreshAttr(row, col);
     if (own && HasMore(*own)) {
         const wxGridCellAttrPtr attr(GetAttr(row, col, wxGridCellAttr::Cell));
@@ -192,7 +192,7 @@ wxGridCellAttr* PageTable::GetAttr(int row, int col, wxGridCellAttr::wxAttrKind 
         }
         return Retained(own ? own : column);
     case wxGridCellAttr::Cell:
-        // Whoever asks for this is about to change it, and the grid may hold what it was merged into.
+        // The caller is about to change the attribute, and the grid may have cached a merged copy of it.
         GetView()->RefreshAttr(row, col);
         if (own && IsShared(own)) {
             const wxGridCellAttrPtr copy(CloneOf(*own));
@@ -222,7 +222,7 @@ void PageTable::SetColAttr(wxGridCellAttr* attr, int col) {
 }
 
 bool PageTable::InsertRows(size_t row, size_t count) {
-    // Behind the last row they are appended, by the function for that.
+    // After the last row the base class calls AppendRows, which extends m_cells.
     if (row < m_cells.size())
         m_cells.insert(m_cells.begin() + static_cast<ptrdiff_t>(row), count, OwnCells());
     return wxGridStringTable::InsertRows(row, count);

@@ -1,4 +1,4 @@
-// The table behind a page's grid: its texts, and what its cells are edited and shown with.
+// The table of a page's grid: its texts, and the editors and looks of its cells.
 #pragma once
 
 #include "catalogue/MemoryRow.h"
@@ -13,9 +13,9 @@
 
 /// How a cell differs from its column.
 struct CellLook {
-    std::optional<bool> readOnly; ///< without value as the column says
-    wxColour paint;               ///< background; not valid for that of the grid
-    wxGridCellEditorPtr editor;   ///< null for that of the column
+    std::optional<bool> readOnly; ///< no value: as the column
+    wxColour paint;               ///< background; invalid for the grid's own
+    wxGridCellEditorPtr editor;   ///< null for the column's
 
     bool IsPlain() const { return !readOnly && !paint.IsOk() && !editor; }
     bool operator==(const CellLook& other) const {
@@ -23,24 +23,25 @@ struct CellLook {
     }
 };
 
-/// Texts, and attributes by column. A cell has an attribute of its own only where it differs from its column,
-/// and cells that differ alike share it. Rows have no attributes.
+/// Holds texts, and attributes by column. A cell has its own attribute only where it differs from its column;
+/// cells with the same differences share one. Rows have no attributes.
 class PageTable : public wxGridStringTable {
 public:
     /// rows counts the default row.
     explicit PageTable(int rows);
 
-    /// How the cell differs.
+    /// Returns how the cell differs from its column.
     CellLook LookOf(int row, int col) const;
 
-    /// Lets the cell differ so. What the column has anyway is no difference.
+    /// Sets how the cell differs from its column. A value equal to the column's is no difference.
     void SetLook(int row, int col, CellLook look);
 
     void SetReadOnly(int row, int col, bool readOnly);
     void SetEditor(int row, int col, const wxGridCellEditorPtr& editor);
     void SetPaint(int row, int col, const wxColour& colour);
 
-    /// Calls change(row, column, look) for each cell that differs, which then differs as look says.
+    /// Calls change(row, column, look) for each cell that differs from its column, then sets the changed
+    /// look.
     template <class Change>
     void ChangeLooks(Change change) {
         for (int row = 0; row < static_cast<int>(m_cells.size()); ++row)
@@ -51,14 +52,15 @@ public:
             }
     }
 
-    /// Makes the cells of a row differ in nothing but paint and read-only mark.
+    /// Resets the cells of a row to the editors of their columns. Paint and read-only marks stay.
     void ForgetEditors(int row);
 
-    /// ForgetEditors for all rows, with the editors of SharedEditor: columns are about to be set up anew.
+    /// ForgetEditors for all rows; also drops the editors of SharedEditor. Call before setting up columns
+    /// again.
     void ForgetEditors();
 
-    /// An editor for all cells that need the same one, by a key of the caller's. make() is called for the
-    /// first of them and gives the ownership of a new editor.
+    /// Returns an editor shared by all cells that need the same one, by a key that the caller chooses. The
+    /// first call with a key calls make(), which returns a new editor and passes on its ownership.
     template <class Make>
     wxGridCellEditorPtr SharedEditor(int key, Make make) {
         wxGridCellEditorPtr& editor = m_editors[key];
@@ -67,14 +69,13 @@ public:
         return editor;
     }
 
-    /// The cells of row to, whose former looks are lost, differ as those of row from did; these don't any
-    /// more.
+    /// Moves the looks of row `from` to row `to`, whose former looks are lost. Row `from` keeps none.
     void MoveLooks(int from, int to);
 
-    /// The cells of the row differ in nothing.
+    /// Drops all differences of the cells of the row.
     void ForgetLooks(int row);
 
-    // What the grid calls.
+    // Called by the grid.
     bool CanHaveAttributes() override { return true; }
     wxGridCellAttr* GetAttr(int row, int col, wxGridCellAttr::wxAttrKind kind) override;
     void SetAttr(wxGridCellAttr* attr, int row, int col) override;
@@ -108,8 +109,8 @@ private:
 /// The table of a page's grid.
 PageTable& TableOf(const wxGrid* grid);
 
-/// Makes a cell of a page's grid read-only, or writable.
+/// Makes a cell of a page's grid read-only or writable.
 void LockCell(wxGrid* grid, int row, int col, bool readOnly = true);
 
-/// Gives a cell of a page's grid a background.
+/// Sets the background of a cell of a page's grid.
 void PaintCell(wxGrid* grid, int row, int col, const wxColour& colour);

@@ -28,13 +28,13 @@ wxString EntryOf(const wxArrayString& list, int i) {
     return list[static_cast<size_t>(i)];
 }
 
-/// The positions of a choice list's texts. A page's check looks up four texts a row, in lists of up to
-/// 84: searching the lists would take most of its time.
+/// Positions of the texts of a choice list. The check of a page looks up four texts per row in lists of up to
+/// 84; searching the lists would take most of its time.
 class ListIndex {
 public:
     void Fill(const wxArrayString& list) {
         m_positions.clear();
-        // The first of equal texts stays.
+        // Of equal texts the first one stays.
         for (size_t i = 0; i < list.size(); ++i)
             m_positions.emplace(list[i].ToStdWstring(), static_cast<int>(i));
     }
@@ -51,7 +51,7 @@ private:
 
 ListIndex tonePositions, ctcssPositions, codePositions;
 
-/// Choice texts of BandDialog by band id; bands that no choice offers have none.
+/// Choice texts of BandDialog by band id, empty for bands that no radio offers as a choice.
 constexpr const char* BandChoiceText[BandTotal] = {
     "FM: 30-50 MHz",   "FM: 66-88 MHz",   "",           "AM: 118-138 MHz", "", "FM: 138-174 MHz",
     "AM: 225-400 MHz", "FM: 403-512 MHz", "K6: 3-BAND",
@@ -141,7 +141,7 @@ void MakeBandList(int radio, wxArrayString& list) {
         list.push_back("Error Bad Band Config");
         return;
     }
-    // The position chosen is the band slot.
+    // The position chosen in the list is used as the band slot.
     for (int band : RadioBands[radio])
         if (band != NoBand)
             list.push_back(BandChoiceText[band]);

@@ -1,4 +1,4 @@
-// The catalogue of radios: which exist, their bands, rows and types, and what cells may hold.
+// Catalogue of radios: their bands, rows and types, and the values that cells may hold.
 #pragma once
 
 #include "catalogue/ChoiceLists.h"
@@ -17,8 +17,8 @@ extern wxArrayString ToneList;
 extern wxArrayString CtcssList;
 extern wxArrayString CodeList;
 
-/// Zone choices of the P25 page that was set up last; the one list that changes. It tells nothing about
-/// the zones of a page: those go by ZoneNames.
+/// Zone choices of the P25 page that was set up last; the only list that changes. Not a source for the zones
+/// of a given page: use ZoneNames.
 extern wxArrayString ZoneList;
 
 /// Fills ToneList, CtcssList and CodeList, and ZoneList with ZoneNames32.
@@ -58,8 +58,8 @@ int FindRadioType(const wxString& tag);
 /// Band id of the exact text in BandName, or -1.
 int FindBand(const wxString& name);
 
-/// Band slot (0 to 5) of the radio that holds the band id, or -1. Answers -1 for a radio index
-/// outside the table as well.
+/// Band slot (0 to 5) of the radio that holds the band id, or -1. Also -1 for a radio index outside the
+/// table.
 int FindBandIndex(int radio, int band);
 
 /// Appends the choice texts of the radio's bands to list. A radio without a choice
@@ -82,16 +82,18 @@ wxString GetCtcssText(int i);
 /// and "OFF" -1; -1 when absent.
 int GetCodeIndex(const wxString& text, int type);
 
-/// The reverse of GetCodeIndex; empty past the ends.
+/// Inverse of GetCodeIndex; empty past the ends.
 wxString GetCodeText(int i, int type);
 
 /// 0 for "w" and "W", 1 for "n" and "N", 2 for "D", otherwise -1.
 int GetModeIndex(const wxString& text);
 
-/// True when text is an analog squelch letter of the column: RSQL, or else the transmit one.
+/// True when text is an analog squelch letter of the column: a receive letter for RSQL, a transmit letter for
+/// any other column.
 bool IsAnalogSquelch(const wxString& text, int column);
 
-/// True when text is a digital squelch letter of the column: RSQL, or else the transmit one.
+/// True when text is a digital squelch letter of the column: a receive letter for RSQL, a transmit letter for
+/// any other column.
 bool IsDigitalSquelch(const wxString& text, int column);
 
 } // namespace RadioCatalogue

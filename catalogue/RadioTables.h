@@ -19,7 +19,7 @@ enum RadioIndex : int {
     Kdrv716,  ///< the P25 radio of the first generation
     Kdrv716B, ///< the P25 radio of the second generation
     Kdar2000,
-    Krv610, ///< this one and those below have several bands
+    Krv610, ///< this one and all following ones have several bands
     Krv620,
     Krv630,
     Krv630Qnt,
@@ -59,11 +59,11 @@ constexpr bool HasBandChoice(int radio) {
     return radio >= Krv610 && radio < RadioTotal;
 }
 
-/// Radio types: they choose the columns of a page and, with the band, the protocol of a transfer.
+/// Radio types. They determine the columns of a page and, with the band, the protocol of a transfer.
 enum RadioType : int { ANFM, RP25, NP25, MDLX, O12, KDAR, ANAM, FXAM };
 
-/// Memories of P25 radios, by type, without the guard rows behind them. The old record layout and the files
-/// of the 716 family have as many as RP25.
+/// Number of memories of P25 radios, by type, without the guard rows after them. The old record layout and
+/// the files of the 716 family have as many as RP25.
 inline constexpr int RP25Memories = 230;
 inline constexpr int NP25Memories = 500;
 
@@ -80,7 +80,7 @@ inline constexpr const char* RadioName[RadioTotal] = {
     "KRV-630_QNT", "KRV-650",   "KRV-656",   "KRV-666", "KDRV-8400", "KDRV-4xxx",
 };
 
-/// What RadioDialog offers, by radio index. Three differ from the internal name (6, 7 and 12).
+/// Labels that RadioDialog offers, by radio index. Three differ from the internal name (6, 7 and 12).
 inline constexpr const char* RadioLabel[RadioTotal] = {
     "KRV-21",        "KRV-47",       "ORV-12",    "KRV-214", "KRV-214B",  "KRV-305",
     "KDRV-716[A|B]", "KDRV-716B-V2", "KDAR-2000", "KRV-610", "KRV-620",   "KRV-630",
@@ -109,7 +109,7 @@ inline constexpr int RadioBands[RadioTotal][BandSlotTotal] = {
     {Fm30To50, Am118To138, Fm138To174, Am225To400, Fm403To512, K6Module}, // KDRV-4xxx
 };
 
-/// The band slot of KDRV-4xxx that is the module.
+/// Band slot of the module in KDRV-4xxx.
 inline constexpr int ModuleSlot = 5;
 static_assert(RadioBands[Kdrv4xxx][ModuleSlot] == K6Module);
 
@@ -138,20 +138,20 @@ inline constexpr int RadioRows[RadioTotal][BandSlotTotal] = {
 static_assert(RadioRows[Kdrv716][0] == RP25Memories + GuardRowTotal);
 static_assert(RadioRows[Kdrv716B][0] == NP25Memories + GuardRowTotal);
 
-/// The BAND text of a band id (0 to 8), also that of channel files.
+/// BAND text of a band id (0 to 8), also used in channel files.
 inline constexpr const char* BandName[BandTotal] = {
     "FM 30-50",   "FM 66-88",   "AM 108-138", "AM 118-138", "FM 136-174",
     "FM 138-174", "AM 225-400", "FM 403-512", "K6 3-BAND",
 };
 
-/// Lowest and highest whole MHz of a band id. The pair of the module (8) is no range of its
-/// own rows, and it is meant to stand so: its rows carry a band each.
+/// Lowest and highest MHz of a band id, as integers.
+/// Intentional: the pair of the module (8) is not the range of its rows, each of which has its own band.
 inline constexpr int BandLimit[BandTotal][2] = {
     {30, 50}, {66, 88}, {108, 138}, {118, 138}, {136, 174}, {138, 174}, {225, 400}, {403, 512}, {896, 960},
 };
 
-/// What a legacy import puts in place of a frequency that it can't use, by band id.
-/// "118.0000" for AM 108-138 and "31.0000" for the module are meant.
+/// Replacement that a legacy import writes for a frequency that it can't use, by band id.
+/// Intentional: "118.0000" for AM 108-138 and "31.0000" for the module.
 inline constexpr const char* BandStart[BandTotal] = {
     "30.0000", "66.0000", "118.0000", "118.0000", "136.0000", "138.0000", "225.0000", "403.0000", "31.0000",
 };
@@ -161,11 +161,11 @@ inline constexpr const char* RadioTypeName[TypeTotal] = {
     "ANFM", "RP25", "NP25", "MDLX", "O12", "KDAR", "ANAM", "FXAM",
 };
 
-/// How many columns the user sees and edits, by radio type.
+/// Number of columns that the user sees and edits, by radio type.
 inline constexpr int ColumnCount[TypeTotal] = {10, 19, 20, 11, 2, 6, 5, 7};
 
-/// One word per radio index. Bits 8 to 15 are the PIB number of an analog radio; the last two
-/// entries belong to no radio that can be chosen.
+/// One word per radio index. Bits 8 to 15 are the PIB number of an analog radio. The last two entries belong
+/// to no radio that users can choose.
 inline constexpr unsigned AnalogRadioCode[20] = {
     0x0028027A, 0x004D027A, 0x00760006, 0x009B0466, 0x009B017A, 0x01C2037A, 0x008D0000,
     0x008D0000, 0x00760064, 0x009B00CA, 0x009B00C8, 0x009B00CA, 0x009B00C8, 0x009B00C8,

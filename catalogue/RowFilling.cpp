@@ -14,8 +14,7 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// Fills the rows that a P25 page begins with, as far as they are blank: after a change of target they can
-/// hold memories.
+/// Fills the starting rows of a P25 page that are blank; after a change of target they can hold memories.
 void FillStartingRows() {
     CurrentGrid()->ClearSelection();
     for (int row : {1, GD1, GD2})
@@ -56,7 +55,7 @@ bool NumberedDescription(const wxString& text, int width, wxString& base) {
 
 namespace {
 
-/// A row image on its way into rows of a page.
+/// A row image, prepared for writing into rows of a page.
 class RowImage {
 public:
     RowImage(int page, const wxArrayString& values, bool allColumns)
@@ -126,7 +125,7 @@ void ClearRowData(int row, bool releaseZone) {
     for (int col = 0; col < ColumnTotal; ++col) {
         grid->SetCellValue(row, col, "");
         TakePaintOff(grid, row, col);
-        // The mark on SHAD stays: no one types into that column, whatever the row is.
+        // Keep the mark on SHAD: users never type into that column, whatever the row is.
         if (col != SHAD)
             LockCell(grid, row, col, false);
     }

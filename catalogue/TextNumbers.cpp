@@ -22,8 +22,8 @@ int DigitOf(wchar_t c, int base) {
     return -1;
 }
 
-/// The value in the base, with its sign and zeros in front at least width characters. wxString::Format
-/// takes many times as long.
+/// Text of the value in the base, with its sign, padded with leading zeros to at least width characters.
+/// wxString::Format takes many times as long.
 wxString Digits(uint32_t value, bool negative, uint32_t base, int width) {
     wchar_t text[16];
     wchar_t* const end = std::end(text);
@@ -40,8 +40,8 @@ wxString Digits(uint32_t value, bool negative, uint32_t base, int width) {
 
 } // namespace
 
-// On the characters as they are held: the check of a page reads thousands of numbers, and to convert
-// each text would cost more than all else.
+// Reads the characters as stored: the check of a page reads thousands of numbers, and converting each text
+// would cost more than everything else.
 std::optional<int> ReadNumber(const wxString& text, int base) {
     return ReadNumber(std::wstring_view(text.ToStdWstring()), base);
 }
@@ -91,7 +91,7 @@ wxString FlagText(int flags) {
 }
 
 wxString NumberList(const std::vector<int>& numbers) {
-    // A tool tip of more would not fit the screen.
+    // A tool tip with more numbers would not fit the screen.
     constexpr size_t most = 260;
     wxString list;
     for (size_t i = 0; i < numbers.size() && i < most; ++i)

@@ -1,4 +1,4 @@
-// Numbers that live in cells as text.
+// Numbers stored in cells as text.
 #pragma once
 
 #include <wx/string.h>
@@ -8,22 +8,22 @@
 #include <string_view>
 #include <vector>
 
-/// The number that text begins with, in the given base (10 or 16). Leading blanks and a sign
-/// are taken, what follows the digits is not looked at. More than 32 bits saturate, so that
-/// such a number is out of every range. Without a digit there is no number.
+/// Number at the beginning of text, in the given base (10 or 16). Accepts leading blanks and a sign; ignores
+/// everything after the digits. Values beyond 32 bits saturate, so that they are out of every range. Returns
+/// nothing when there is no digit.
 std::optional<int> ReadNumber(const wxString& text, int base = 10);
 std::optional<int> ReadNumber(std::wstring_view text, int base = 10);
 
-/// ReadNumber in base 10, and 0 where there is no number.
+/// ReadNumber in base 10, 0 if there is no number.
 int ReadDecimal(const wxString& text);
 
-/// ReadNumber in base 16, and 0 where there is no number.
+/// ReadNumber in base 16, 0 if there is no number.
 int ReadHex(const wxString& text);
 
-/// A number in decimal digits, with zeros in front at least so many.
+/// A number in decimal, padded with leading zeros to at least width digits.
 wxString DecimalText(std::uint32_t number, int width = 1);
 
-/// A number in upper-case hexadecimal digits, with zeros in front at least so many.
+/// A number in upper-case hexadecimal, padded with leading zeros to at least width digits.
 wxString HexadecimalText(std::uint32_t number, int width);
 
 /// A memory or row number as cells hold it: at least three decimal digits.
@@ -32,5 +32,5 @@ wxString NumberText(int number);
 /// Flags as cells hold them: at least two upper-case hexadecimal digits.
 wxString FlagText(int flags);
 
-/// Numbers as a sentence names them: "5, 17, 40". Hundreds of them end in an ellipsis.
+/// Numbers as a list for a sentence: "5, 17, 40". A list of hundreds is cut and ends in an ellipsis.
 wxString NumberList(const std::vector<int>& numbers);

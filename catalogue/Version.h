@@ -1,7 +1,7 @@
 // The program's version, from CMakeLists.txt.
 #pragma once
 
-/// Three numbers with points between them.
+/// Three numbers separated by points.
 extern const char* const ProgramVersion;
 
 /// The day of the release, such as "10 JUN 2026".

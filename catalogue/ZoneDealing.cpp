@@ -10,8 +10,8 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// The zone index that a row is to have. The rows behind the ordinary memories, which are the
-/// guard rows, belong to the last zone of their generation.
+/// Zone index wanted for a row. The rows after the ordinary memories are guard rows and belong to the last
+/// zone of their generation.
 int WantedZone(int type, int row, const wxString& text) {
     if (type == RP25 && row > RP25Memories)
         return RP25GuardZone;

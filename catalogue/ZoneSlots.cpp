@@ -6,7 +6,7 @@ std::array<int32_t, PageLimit * ZonesPerPage + 1> ZoneSlots{};
 
 namespace {
 
-/// The counter of a zone on the current page; none outside the reach.
+/// The counter of a zone on the current page; null outside 0 to 32.
 int32_t* CounterOf(int zone) {
     return zone >= 0 && zone < ZoneReach ? ZoneSlotsOf(CurrentPage) + zone : nullptr;
 }

@@ -1,4 +1,4 @@
-// What the row and column commands ask before they begin: none of them can be undone.
+// Questions before the row and column commands, none of which can be undone.
 #pragma once
 
 #include "commands/CommandIds.h"
@@ -24,6 +24,6 @@ inline constexpr CommandQuestion CommandQuestions[] = {
 };
 // clang-format on
 
-/// Asks the question of the command. True when the user wants it carried out, and for a command
-/// that has no question.
+/// Asks the question of the command. Returns true when the user confirms, and for a command that
+/// has no question.
 bool UserConfirms(int command);

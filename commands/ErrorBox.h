@@ -1,4 +1,4 @@
-// Boxes for the result codes of dialogs and checks.
+// Message boxes for the result codes of dialogs and checks.
 #pragma once
 
 /// Result codes of dialogs and checks.

@@ -1,11 +1,11 @@
-// The keyboard's place, kept over a time in which other windows take it.
+// Keeps the keyboard focus over a time in which other windows take it.
 #pragma once
 
 #include <wx/weakref.h>
 #include <wx/window.h>
 
-/// Gives the keyboard back to the window that had it, if that still stands: windows that are disabled for
-/// a while lose it.
+/// Restores the keyboard focus to the window that had it, if that window still exists: windows lose the focus
+/// while they are disabled.
 class FocusKeeper {
 public:
     FocusKeeper() : m_focus(wxWindow::FindFocus()) {}

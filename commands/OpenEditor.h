@@ -1,6 +1,6 @@
-// The cell editor that is open while a command begins.
+// The cell editor that may be open when a command begins.
 #pragma once
 
-/// Takes the text of an open cell editor of the current page into its cell and closes the
-/// editor, so that a command works on what the user sees.
+/// Stores the text of an open cell editor of the current page in its cell and closes the editor, so that a
+/// command works on what the user sees.
 void CommitOpenEditor();

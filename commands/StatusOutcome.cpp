@@ -15,11 +15,11 @@ bool outcomeIsTold = false;
 
 constexpr int StatusFields = 5;
 
-/// Pixels that the toolkit leaves free beside a field's text, both sides together.
+/// Pixels that the toolkit leaves free beside a field's text, sum of both sides.
 constexpr int FieldMargin = 8;
 
-/// Gives the first field room for a text that is wider than it, up to two fifths of the bar; its neighbours
-/// share the rest. The text as it then fits.
+/// Widens the first field for a text that does not fit, up to two fifths of the bar; the other fields share
+/// the rest. Returns the text, shortened to fit.
 wxString MakeRoomFor(wxStatusBar* statusBar, const wxString& text) {
     statusBar->SetStatusWidths(StatusFields, nullptr);
     wxRect field;

@@ -36,7 +36,7 @@ void ReportRowParameters(int page) {
 void ReportPageP25OnlyParameters(int page) {
     if (!RadioCatalogue::IsP25Type(PageParameters[static_cast<size_t>(page)].Type))
         return;
-    // One counter more than the page has is meant: the last line shows zone 0 of the next page.
+    // Intentional: one counter more than the page has. The last line shows zone 0 of the next page.
     LogLines(ZoneLines({ZoneSlotsOf(page), ZoneReach}));
     LogLines(OpModeLines(OpModes[static_cast<size_t>(page)]));
 }

@@ -1,13 +1,12 @@
-// A dump of a page into the log. It changes nothing on the page.
+// Dump of a page into the log. Changes nothing on the page.
 #pragma once
 
-/// Logs what the page (0-based) is for. pages is the number of pages reported beside it; unused has no
-/// effect.
+/// Logs the target and size of the page (0-based). pages is the page count to report; unused has no effect.
 void ReportPageParameters(int page, int unused, int pages);
 
-/// Logs the cells of every row of the page that is selected and has a memory number, row 0 and guard rows
-/// too. A row counts as selected when its PRIM cell is.
+/// Logs the cells of every selected row of the page that has a memory number, including row 0 and guard rows.
+/// A row counts as selected when its PRIM cell is.
 void ReportRowParameters(int page);
 
-/// Logs the zone counters and the operating modes of a P25 page, and nothing of any other page.
+/// Logs the zone counters and the operating modes of a P25 page; logs nothing for other pages.
 void ReportPageP25OnlyParameters(int page);

@@ -7,7 +7,7 @@ namespace {
 /// Pages that a line is written for.
 enum class On { Every, P25, Module, SecondP25 };
 
-/// What a line shows behind the cell's text.
+/// Text that a line shows after the cell's text.
 enum class Behind { Nothing, Semicolon, HexNumber };
 
 struct CellLine {
@@ -29,7 +29,8 @@ constexpr CellLine CellLines[] = {
     {"MODE", MODE, On::Every},
     {"RFRQ", RFRQ, On::Every},
     {"RSQL", RSQL, On::P25},
-    {"RNSV", RNSV, On::SecondP25, Behind::Semicolon}, // with nothing behind it: meant
+    // Intentional: nothing follows the semicolon.
+    {"RNSV", RNSV, On::SecondP25, Behind::Semicolon},
     {"RTON", RTON, On::Every},
     {"RCOD", RCOD, On::Every},
     {"RTGP", RTGP, On::P25},
@@ -48,8 +49,9 @@ constexpr CellLine CellLines[] = {
     {"SHD4", SHD4, On::P25},
     {"SHD5", SHD5, On::P25},
     {"SHD6", SHD6, On::P25},
-    // No line for RONL, not on KDAR pages either: meant.
-    {"Tflg", TFLG, On::Every, Behind::HexNumber}, // the small letters are meant
+    // Intentional: no line for RONL, not on KDAR pages either.
+    // Intentional: the small letters in the tag.
+    {"Tflg", TFLG, On::Every, Behind::HexNumber},
 };
 
 bool IsWritten(On pages, int type) {
@@ -114,7 +116,7 @@ wxArrayString OpModeLines(uint32_t modes) {
     lines.push_back(">-- Debug - Report P25 Page OpMode Parameters ---------<");
     lines.push_back(wxString("  Op Mode: w - ") + YesOr(" No", modes & WideMode));
     lines.push_back(wxString("  Op Mode: n - ") + YesOr(" No", modes & NarrowMode));
-    lines.push_back(wxString("  Op Mode: D - ") +
-                    YesOr(" no", modes & DigitalMode)); // the small letter is meant
+    // Intentional: the small letter in " no".
+    lines.push_back(wxString("  Op Mode: D - ") + YesOr(" no", modes & DigitalMode));
     return lines;
 }

@@ -1,4 +1,4 @@
-// The lines of the page and row reports, as texts.
+// Lines of the page and row reports, as texts.
 #pragma once
 
 #include "catalogue/PageModel.h"
@@ -9,13 +9,12 @@
 #include <cstdint>
 #include <span>
 
-/// What a page is for. page is 0-based, and counts from 1 in the report; pages is the number to report
-/// beside it.
+/// Target and size of a page. page is 0-based, and is shown 1-based; pages is the page count to report.
 wxArrayString PageParameterLines(int page, int pages, const PageParameterRecord& parameters,
                                  const PageStringRecord& strings);
 
-/// One row's heading and its cells, those that pages of the radio type have. row is 0-based; cells are the
-/// row's 32 texts. The numbers of MFLG and TFLG are what their texts hold in hexadecimal, 0 without one.
+/// Heading of a row, and the cells that pages of the radio type have. row is 0-based; cells are the row's 32
+/// texts. The texts of MFLG and TFLG are also shown as hexadecimal numbers, 0 for a text without a number.
 wxArrayString RowLines(int type, int row, const wxArrayString& cells);
 
 /// Heading and zone counters, one line each.

@@ -1,4 +1,4 @@
-// Builds the window: its controls, its first page and the way from events to commands.
+// Builds the window: its controls, its first page and the links from events to commands.
 #include "catalogue/PageCreation.h"
 #include "commands/StatusOutcome.h"
 #include "files/ZelkPrinting.h"
@@ -21,7 +21,7 @@ namespace {
 
 using CommandHandler = void (OrvZELFrame::*)(wxCommandEvent&);
 
-/// Which operation a command id runs, whether it comes from a menu, a tool or the context menu.
+/// Operation that a command id runs, whether it comes from a menu, a tool or the context menu.
 struct CommandEntry {
     int id;
     CommandHandler handler;
@@ -90,7 +90,7 @@ void Link(bool connect, wxEvtHandler* source, const Tag& tag, Handler handler, O
         source->Unbind(tag, handler, frame, id);
 }
 
-/// Null for an id that is no command's.
+/// Returns null for an id that belongs to no command.
 CommandHandler HandlerOf(int id) {
     for (const std::span<const CommandEntry> commands :
          {std::span<const CommandEntry>(MenuCommands), std::span<const CommandEntry>(ContextCommands)})
@@ -123,8 +123,7 @@ OrvZELFrame::OrvZELFrame(wxWindow* parent)
     ConnectEvents(true);
     InitPrinting();
 
-    // Where this device exists it is only tried: held open, it would stand in the way of the
-    // first transfer.
+    // Only probe the device, if it exists; an open port would block the first transfer.
     m_serialPort = std::make_unique<wxAsyncSerial>(this, "/dev/ttyUSB0", 9600);
     m_serialPort->close();
 
@@ -135,7 +134,7 @@ OrvZELFrame::OrvZELFrame(wxWindow* parent)
 
 OrvZELFrame::~OrvZELFrame() {
     ConnectEvents(false);
-    // Entries that no menu holds at this moment belong to the frame alone.
+    // The menu deletes only the entries that it holds, so all entries are taken out and deleted here.
     for (wxMenuItem* item : m_contextItems) {
         if (m_contextMenu->FindItem(item->GetId()))
             m_contextMenu->Remove(item);
@@ -178,7 +177,7 @@ void OrvZELFrame::BuildToolBar() {
 void OrvZELFrame::BuildFirstPage() {
     PageCount = 0;
     CurrentPage = 0;
-    // Stands for the page until there is one.
+    // Takes the place of the page until it exists.
     auto* placeholder = new wxPanel(this, wxID_ANY, wxDefaultPosition, wxSize(0, 0));
     placeholder->Hide();
     m_lastPanel = placeholder;
@@ -222,7 +221,7 @@ void OrvZELFrame::OnMenuClose(wxMenuEvent& event) {
 }
 
 void OrvZELFrame::DoGiveHelp(const wxString& text, bool show) {
-    // The pointer still stands on the tool that was clicked; its help would cover what became of the click.
+    // The pointer is still on the clicked tool, and the help of the tool would cover the outcome.
     if (show && OutcomeIsTold() && !m_menuIsOpen)
         return;
     wxFrame::DoGiveHelp(text, show);

@@ -1,4 +1,4 @@
-// Menus, context menu and tool bar as tables. House for their labels and help strings.
+// Menus, context menu and tool bar as tables. Sole source of labels and help strings.
 #pragma once
 
 #include "commands/CommandIds.h"
@@ -54,7 +54,7 @@ inline constexpr MenuEntry HelpMenu[] = {
     {IdAbout, "&About",     "Information About Zelk"},
 };
 
-/// Entries of the context menu; a click shows those that fit its place.
+/// Entries of the context menu; a click shows those that apply to its place.
 inline constexpr MenuEntry ContextMenu[] = {
     {IdDefaultRow,         "de&Fault row",    "Set row to default values"},
     {IdCreateShadow,       "create &Shadow",  "Create Shadow of this Primary"},

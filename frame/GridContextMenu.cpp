@@ -1,4 +1,4 @@
-// The context menu of the grids, made afresh for the place of each click.
+// The context menu of the grids, rebuilt for the place of each click.
 #include "commands/CommandIds.h"
 #include "commands/OpenEditor.h"
 #include "frame/ZelkMain.h"
@@ -11,7 +11,7 @@ namespace {
 
 enum class ClickPlace { Corner, RowLabel, ColumnLabel, Cells };
 
-/// What was clicked, by the position in the grid's cell area.
+/// Returns the part of the grid that was clicked, from a position relative to the cell area.
 ClickPlace PlaceOf(int x, int y) {
     if (x < 0 && y >= 0)
         return ClickPlace::RowLabel;
@@ -33,7 +33,7 @@ int RowAt(wxGrid* grid, int y) {
 } // namespace
 
 void OrvZELFrame::OnGridContextMenu(wxContextMenuEvent& event) {
-    // The text of an open edit may be the row's first: it decides what can be offered.
+    // The text in an open editor may be the first of its row; the offer depends on it.
     CommitOpenEditor();
     wxGrid* grid = CurrentGrid();
     for (wxMenuItem* item : m_contextItems)
@@ -41,7 +41,7 @@ void OrvZELFrame::OnGridContextMenu(wxContextMenuEvent& event) {
             m_contextMenu->Remove(item);
 
     if (event.GetPosition() == wxDefaultPosition) {
-        // Asked for with the keyboard: the menu of the row that the cursor is in.
+        // Opened with the keyboard: show the menu of the row with the cursor.
         const int row = grid->GetGridCursorRow();
         if (row < 0)
             return;

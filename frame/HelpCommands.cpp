@@ -41,7 +41,7 @@ void ZelkFrame::OnHelp(wxCommandEvent&) {
 
 void ZelkFrame::OnAbout(wxCommandEvent&) {
     wxAboutDialogInfo info = MakeAboutInfo();
-    // Without one, desktops show the sign of a missing image.
+    // Without an icon, desktops show the sign of a missing image.
     info.SetIcon(GetZelkIcon());
     wxAboutBox(info);
 }

@@ -4,7 +4,7 @@
 #include <wx/aboutdlg.h>
 #include <wx/string.h>
 
-/// Full path of the user guide, which stands beside the executable whatever link started it.
+/// Full path of the user guide, which is beside the executable, even when a link started the program.
 wxString UserGuidePath();
 
 /// The texts of the About box.

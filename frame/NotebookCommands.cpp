@@ -32,8 +32,8 @@ void ZelkFrame::OnPageAdd(wxCommandEvent&) {
 
 namespace {
 
-/// Moves everything kept for the page after page one number down; zone counters by the reach
-/// that they are cleared with.
+/// Moves the data of the page after page down by one number. Zone counters are moved in the range in which
+/// ClearZoneSlots clears them.
 void TakeNextPagesPlace(OrvZELFrame* frame, int page) {
     const int next = page + 1;
     PageGrid[page] = PageGrid[next];
@@ -70,14 +70,14 @@ void ZelkFrame::OnPageDelete(wxCommandEvent&) {
         m_lastPanel = nullptr;
     m_notebook->DeletePage(static_cast<size_t>(page));
     CurrentPage = m_notebook->GetSelection();
-    // OpModes stays where it is, and that is meant.
+    // Intentional: OpModes is not moved.
     for (; page + 1 < pages; ++page) {
         TakeNextPagesPlace(this, page);
         UpdateStatus(this, page);
     }
     ForgetPage(this, page);
     UpdateStatus(this, CurrentPage);
-    // Meant: only now, so that the title keeps the former count until its next update.
+    // Intentional: lower the count only now, so that the title keeps the former count until its next update.
     --PageCount;
     for (int remaining = 0; remaining < PageCount; ++remaining)
         ShowPageParameters(this, remaining);
@@ -87,7 +87,7 @@ void ZelkFrame::OnPageChanged(wxBookCtrlEvent&) {
     const int selection = m_notebook->GetSelection();
     if (selection == wxNOT_FOUND)
         return;
-    // What is being typed belongs to the page that was left.
+    // Text in an open editor belongs to the page that was left.
     CommitOpenEditor();
     ForgetOutcome();
     CurrentPage = selection;

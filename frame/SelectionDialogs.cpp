@@ -19,7 +19,7 @@ wxArrayString BandList;
 
 SelectionDialog::SelectionDialog(wxWindow* parent, const wxString& title, const wxString& label,
                                  const wxArrayString& choices)
-    // Without wxCLOSE_BOX: the dialog is left by its buttons.
+    // No wxCLOSE_BOX: users close the dialog with its buttons.
     : wxDialog(parent, wxID_ANY, title, wxDefaultPosition, wxSize(192, 111), wxCAPTION) {
     auto* labelText = new wxStaticText(this, wxID_ANY, label);
     labelText->SetMinSize(wxSize(50, -1));
@@ -67,7 +67,7 @@ int PositionOfRadio(int page) {
 PortDialog::PortDialog(wxWindow* parent, const wxString& title)
     : SelectionDialog(parent, title, "Port", FindPorts()) {
     PortChoice = m_choice;
-    // A port that the user may not open is not offered: tell what is missing.
+    // The dialog does not offer ports that the user may not open; the hint explains what is missing.
     const wxString hint = SerialPortGroupHint();
     if (!hint.empty()) {
         SetToolTip(hint);
@@ -104,7 +104,7 @@ BandDialog::BandDialog(wxWindow* parent, const wxString& title, int page)
 }
 
 bool BandDialog::TransferDataToWindow() {
-    // Meant: a position among the radios chooses among the bands.
+    // Intentional: a position among the radios selects one of the bands.
     const int position = PositionOfRadio(m_page);
     if (position != wxNOT_FOUND && position < static_cast<int>(m_choice->GetCount()))
         m_choice->SetSelection(position);

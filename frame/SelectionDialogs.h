@@ -7,29 +7,28 @@
 
 class wxUpdateUIEvent;
 
-/// The choices of the dialogs. A pointer stays set when its dialog is gone: it is good only while
-/// the dialog lives.
+/// Choices of the dialogs. Use them only while the dialog exists: the pointers are not reset when
+/// it is destroyed.
 extern wxChoice* PortChoice;
 extern wxChoice* RadioChoice;
 extern wxChoice* BandChoice;
 
-/// The choices of PortDialog while it lives.
+/// The choices of PortDialog while it exists.
 extern wxArrayString PortList;
-/// The choices of BandDialog while it lives.
+/// The choices of BandDialog while it exists.
 extern wxArrayString BandList;
 
-/// A label with a choice, and OK and Cancel under it. OK can be pressed only while something is
-/// chosen.
+/// A label with a choice, and OK and Cancel under it. OK is enabled only while something is chosen.
 class SelectionDialog : public wxDialog {
 public:
-    /// The text chosen, empty until there is one.
+    /// Chosen text, empty until there is one.
     const wxString& GetValue() const { return m_value; }
 
 protected:
     SelectionDialog(wxWindow* parent, const wxString& title, const wxString& label,
                     const wxArrayString& choices);
 
-    /// Takes the chosen text, if any, as the value. False when nothing is chosen.
+    /// Stores the chosen text, if any, as the value. Returns false when nothing is chosen.
     bool TakeChoice();
 
     wxChoice* m_choice = nullptr;
@@ -45,7 +44,7 @@ class PortDialog : public SelectionDialog {
 public:
     PortDialog(wxWindow* parent, const wxString& title);
 
-    /// Chooses PortName, if it is offered.
+    /// Selects PortName if it is offered.
     bool TransferDataToWindow() override;
     /// Copies the choice, if there is one, to PortName.
     bool TransferDataFromWindow() override;
@@ -57,19 +56,19 @@ public:
     /// page (0-based) need not exist yet.
     RadioDialog(wxWindow* parent, const wxString& title, int page);
 
-    /// Chooses the page's radio, where its label is also its name.
+    /// Selects the page's radio if its label is also its name.
     bool TransferDataToWindow() override;
 
 private:
     int m_page;
 };
 
-/// Offers the bands in BandList. The RadioDialog that was answered before must still live.
+/// Offers the bands in BandList. The RadioDialog that the user has answered must still exist.
 class BandDialog : public SelectionDialog {
 public:
     BandDialog(wxWindow* parent, const wxString& title, int page);
 
-    /// Chooses the band at the position that the page's former radio has among the radios.
+    /// Selects the band at the position that the page's former radio has among the radios.
     bool TransferDataToWindow() override;
 
 private:

@@ -8,24 +8,25 @@
 #include <wx/arrstr.h>
 #include <wx/string.h>
 
-/// Names of the serial ports that can be opened at this moment, as `wxAsyncSerial::open` takes them. A port
-/// that somebody else holds, or that the user may not open, is not among them. No port is left locked.
+/// Names of the serial ports that can be opened at this moment, as `wxAsyncSerial::open` takes them. Excludes
+/// ports that are in use elsewhere or that the user may not open. Leaves no port locked.
 wxArrayString ListSerialPorts();
 
-/// A sentence for the user about ports that are missing from the list because of their access rights; empty
-/// where a system knows no such rights.
+/// Hint for the user about ports that are missing from the list because of their access rights; empty on
+/// systems without such rights.
 wxString SerialPortGroupHint();
 
 namespace serialports {
 
-/// File name patterns of serial devices on systems without COM names. "/dev" stands for the device folder.
+/// File name patterns of serial devices on systems without COM names. "/dev" is a placeholder for the device
+/// folder.
 inline constexpr std::string_view kDevicePatterns[] = {
     "/dev/ttyS*", "/dev/tts/*", "/dev/ttyUSB*", "/dev/ttyACM*", "/dev/ttyXRUSB*", "/dev/usb/tts/*",
 };
 
-/// Where ports are looked for.
+/// Folders to search for ports.
 struct Folders {
-    std::string devices = "/dev"; ///< the patterns' folder; stable names stand in its "serial/by-id"
+    std::string devices = "/dev"; ///< folder of the patterns; its "serial/by-id" holds the stable names
     std::string links;            ///< folder of links that the user keeps, empty for none
 };
 
@@ -36,24 +37,24 @@ struct FoundPort {
     bool stable = false;      ///< whether the name stays the same when the device is plugged in elsewhere
 };
 
-/// Order for people: a run of digits counts as a number, so that "ttyUSB2" stands before "ttyUSB10".
+/// Natural order: a run of digits counts as a number, so that "ttyUSB2" is before "ttyUSB10".
 bool NaturalLess(std::string_view a, std::string_view b);
 
 /// One name for each device, the stable one if it has any, in natural order.
 std::vector<std::string> OneNamePerDevice(std::vector<FoundPort> ports);
 
-/// Whether a node has a port behind it. Most nodes "ttyS0", "ttyS1" ... stand for nothing, which their type
-/// of chip tells; other devices may have none to tell and count in any case.
+/// Whether a node has hardware. Most nodes "ttyS0", "ttyS1" ... have none, which shows in their chip type.
+/// Other devices may have no chip type and count in any case.
 ///
 /// @param nodeName the device's own name, without folders
-/// @param chipType what the driver calls its chip, 0 for unknown; nothing if the driver doesn't answer
+/// @param chipType chip type that the driver reports, 0 for unknown; nothing if the driver doesn't answer
 bool HasHardware(std::string_view nodeName, std::optional<int> chipType);
 
 /// As ListSerialPorts, for other folders. Not on Windows.
 std::vector<std::string> ListPorts(const Folders& folders);
 
-/// Name of the group that may open serial ports: that of the first device that exists and is barred to this
-/// user, else of the first device, else "dialout". Not on Windows.
+/// Name of the group that may open serial ports: the group of the first device that exists and is barred to
+/// this user, else of the first device, else "dialout". Not on Windows.
 std::string PortGroup(const Folders& folders);
 
 } // namespace serialports

@@ -46,7 +46,7 @@ std::vector<std::string> NamesIn(const std::string& folder, const std::string& p
 std::vector<std::string> PatternNames(const Folders& folders) {
     std::vector<std::string> names;
     for (const std::string_view pattern : kDevicePatterns) {
-        const fs::path path = folders.devices + std::string(pattern.substr(4)); // behind "/dev"
+        const fs::path path = folders.devices + std::string(pattern.substr(4)); // after "/dev"
         const auto found = NamesIn(path.parent_path(), path.filename());
         names.insert(names.end(), found.begin(), found.end());
     }
@@ -60,7 +60,7 @@ std::optional<int> ChipType(int descriptor) {
     return facts.type;
 }
 
-// The device's settings are left alone, and its lock is taken for a moment only.
+// Does not change the device's settings, and holds its lock only for a moment.
 bool CanBeOpened(const std::string& name) {
     const int descriptor = open(name.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0)
@@ -70,7 +70,7 @@ bool CanBeOpened(const std::string& name) {
     termios settings{};
     const bool good = tcgetattr(descriptor, &settings) == 0 && HasHardware(node, ChipType(descriptor)) &&
                       flock(descriptor, LOCK_EX | LOCK_NB) == 0;
-    close(descriptor); // and with it the lock
+    close(descriptor); // also releases the lock
     return good;
 }
 
@@ -123,7 +123,7 @@ bool NaturalLess(std::string_view a, std::string_view b) {
     }
     if (i < a.size() || j < b.size())
         return j < b.size();
-    return a < b; // the same but for leading zeros
+    return a < b; // equal except for leading zeros
 }
 
 std::vector<std::string> OneNamePerDevice(std::vector<FoundPort> ports) {
@@ -151,7 +151,7 @@ std::vector<std::string> ListPorts(const Folders& folders) {
     AddPorts(ports, NamesIn(folders.devices + "/serial/by-id", "*"), true);
     if (!folders.links.empty())
         AddPorts(ports, NamesIn(folders.links, "*"), true);
-    // Opening comes last: each device is opened once, under whatever name it is offered.
+    // Open last, so that each device is opened only once, under the name that is offered.
     std::vector<std::string> names = OneNamePerDevice(std::move(ports));
     std::erase_if(names, [](const std::string& name) { return !CanBeOpened(name); });
     return names;
@@ -178,7 +178,7 @@ std::string PortGroup(const Folders& folders) {
 wxArrayString ListSerialPorts() {
     wxArrayString list;
     for (const std::string& name : serialports::ListPorts(serialports::SystemFolders())) {
-        // A name that this conversion can't read could not be opened by it either.
+        // Opening a port uses the same conversion, so a name that it can't read could not be opened.
         if (const wxString text(name.c_str(), wxConvLibc); !text.empty())
             list.Add(text);
     }

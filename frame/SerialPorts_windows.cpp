@@ -1,7 +1,7 @@
 // The serial ports that can be opened now, on Windows.
 #include "frame/SerialPorts.h"
 
-#include <utility> // boost/asio of 1.74 takes std::exchange for granted
+#include <utility> // boost/asio 1.74 uses std::exchange without this include
 
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/serial_port.hpp>
@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kHighestPort = 29;
 
-// The short name does for the first nine ports only; the rest open under their device name.
+// Only the first nine ports open under their short name; the rest need the device name.
 std::string DeviceName(int number) {
     return (number > 9 ? "\\\\.\\COM" : "COM") + std::to_string(number);
 }

@@ -1,4 +1,4 @@
-// The command that chooses the serial port.
+// The command that selects the serial port.
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
 #include "transfer/ChosenPort.h"

@@ -1,4 +1,4 @@
-// The command that gives a page another target.
+// The command that changes the target of a page.
 #include "catalogue/PageModel.h"
 #include "catalogue/RowFilling.h"
 #include "commands/ErrorBox.h"
@@ -18,7 +18,7 @@
 
 namespace {
 
-/// What a change of target has to know of the page as it was.
+/// State of the page before a change of target.
 struct FormerPage {
     PageParameterRecord parameters = CurrentParameters();
     bool p25 = CurrentPageIsP25();
@@ -40,15 +40,15 @@ int CountMemories() {
     return count;
 }
 
-/// How many used guard rows of the former target come back without taking another memory's row.
+/// Number of used guard rows of the former target that are restored without taking another memory's row.
 int CountGuardsThatComeBack(const FormerPage& former) {
     if (!HasGuardRows(CurrentPage))
         return 0;
     return (former.guardUsed[0] && !RowHasData(GD1)) + (former.guardUsed[1] && !RowHasData(GD2));
 }
 
-/// Grid, default row and guard rows become those of the new target. Gives the number of memories that find no
-/// row in it.
+/// Changes grid, default row and guard rows to those of the new target. Returns the number of memories that
+/// have no row in it.
 int MovePage(OrvZELFrame* frame, const FormerPage& former) {
     const int memories = CountMemories();
     if (former.hadGuards)
@@ -63,15 +63,15 @@ int MovePage(OrvZELFrame* frame, const FormerPage& former) {
     return memories - kept;
 }
 
-/// Takes away read-only marks that the rules of the former type have left. Marks of linked rows stay where
-/// both types have links.
+/// Removes read-only marks left by the rules of the former type. Marks of linked rows stay where both types
+/// have links.
 void ForgetFormerLocks(const FormerPage& former) {
     if (former.p25 && CurrentPageIsP25())
         return;
     MakeCellsWritable(CurrentGrid());
 }
 
-/// Makes the memories those of the new type: locks, numbers, cells that the former type had not, and at last
+/// Adapts the memories to the new type: locks, numbers, cells that the former type lacks, and finally
 /// whatever the checks find.
 void FitMemories(const FormerPage& former) {
     wxGrid* grid = CurrentGrid();

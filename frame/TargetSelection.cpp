@@ -13,7 +13,7 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// Asks for one of the bands in BandList: a position there, or ResultCancelled, or ResultBadBand.
+/// Asks for one of the bands in BandList. Returns its position there, ResultCancelled or ResultBadBand.
 int AskBand(OrvZELFrame* frame, int page) {
     BandDialog dialog(frame, "<-- Select Frequency Band -->", page);
     if (dialog.ShowModal() != wxID_OK)
@@ -25,7 +25,7 @@ int AskBand(OrvZELFrame* frame, int page) {
 } // namespace
 
 int UserSelectRadioAndBand(OrvZELFrame* frame, int page) {
-    // The band dialog looks into this one's choice, so it lives to the end.
+    // The band dialog reads this dialog's choice, so this one must outlive it.
     RadioDialog dialog(frame, "<-- Select Target Radio -->", page);
     if (dialog.ShowModal() != wxID_OK)
         return ResultCancelled;

@@ -3,13 +3,13 @@
 
 class OrvZELFrame;
 
-/// Asks for radio and, where a radio has several, band of page. On success 0, and
-/// SetPageParameters has run for the page; otherwise ResultCancelled, ResultBadRadio or
-/// ResultBadBand, and the page is as it was.
+/// Asks for the radio of page and, if the radio has several bands, for the band. Returns 0 on
+/// success, after a call of SetPageParameters for the page. Otherwise returns ResultCancelled,
+/// ResultBadRadio or ResultBadBand and leaves the page unchanged.
 int UserSelectRadioAndBand(OrvZELFrame* frame, int page);
 
-/// FitGridToTarget, and the editors of the page.
+/// Calls FitGridToTarget and sets the editors of the current page.
 void AdjustEditGrid(OrvZELFrame* frame, int oldRadio, int oldBandIndex);
 
-/// AdjustEditGrid, if the page's target has changed, and UpdateStatus.
+/// Calls AdjustEditGrid if the page's target has changed, then UpdateStatus.
 void UpdatePage(OrvZELFrame* frame, int page, int oldRadio, int oldBandIndex);

@@ -21,8 +21,8 @@ class wxStatusBar;
 class wxToolBar;
 class wxToolBarToolBase;
 
-/// The one main window without its commands' work. The operations below do nothing but skip
-/// their event; ZelkFrame overrides them. There is one window in a run.
+/// The main window without the work of its commands. The operations below only skip their event; ZelkFrame
+/// overrides them. There is one window per run.
 class OrvZELFrame : public wxFrame {
 public:
     explicit OrvZELFrame(wxWindow* parent);
@@ -44,7 +44,7 @@ public:
     virtual void OnSelectAll(wxCommandEvent& event) { event.Skip(); }
     virtual void OnDeSelectAll(wxCommandEvent& event) { event.Skip(); }
     virtual void OnClearHighlight(wxCommandEvent& event) { event.Skip(); }
-    /// Connected to no command: a diagnostic that stands ready.
+    /// A diagnostic, connected to no command.
     virtual void OnDebug(wxCommandEvent& event) { event.Skip(); }
     virtual void OnSetPort(wxCommandEvent& event) { event.Skip(); }
     virtual void OnSetTarget(wxCommandEvent& event) { event.Skip(); }
@@ -70,14 +70,14 @@ public:
     virtual void OnDefaultFile(wxCommandEvent& event) { event.Skip(); }
     virtual void OnSaveDefault(wxCommandEvent& event) { event.Skip(); }
     virtual void OnLoadDefault(wxCommandEvent& event) { event.Skip(); }
-    /// Connected to nothing and empty in both classes: a place kept free.
+    /// Reserved: connected to nothing, and empty in both classes.
     virtual void OnSpare(wxCommandEvent& event) { event.Skip(); }
 
-    /// Runs the operation of the event's command id, whether a menu, a tool or the context menu asks for it.
-    /// What an earlier command told of its outcome goes first.
+    /// Removes the outcome of an earlier command, then runs the operation of the event's command id, whether
+    /// it comes from a menu, a tool or the context menu.
     void OnCommand(wxCommandEvent& event);
 
-    /// Help of tools gives way to the outcome of a command; help of menu entries doesn't.
+    /// Shows no help of tools while an outcome is shown; help of menu entries is shown in any case.
     void DoGiveHelp(const wxString& text, bool show) override;
 
     /// Builds the context menu for the place of the click and shows it.
@@ -86,7 +86,7 @@ public:
     wxMenuBar* m_menuBar = nullptr;
     wxMenu* m_helpMenu = nullptr;
     std::unique_ptr<wxMenu> m_contextMenu;
-    /// Entries of the context menu, made once; those that a click shows are in the menu.
+    /// Entries of the context menu, created once. The menu holds those that the last click offered.
     std::array<wxMenuItem*, 15> m_contextItems{};
     wxToolBar* m_toolBar = nullptr;
     std::array<wxToolBarToolBase*, 11> m_tools{};
@@ -95,7 +95,7 @@ public:
     wxPanel* m_lastPanel = nullptr;
     std::array<wxPanel*, PageLimit> m_pagePanels{};
     wxStatusBar* m_statusBar = nullptr;
-    /// Made at start-up; transfers make ports of their own.
+    /// Created at start-up; transfers create their own ports.
     std::unique_ptr<wxAsyncSerial> m_serialPort;
 
 private:
@@ -114,5 +114,5 @@ private:
     bool m_menuIsOpen = false;
 };
 
-/// Brings status bar, tab text, title, GD1 and GD2 up to date for the page (0-based).
+/// Updates status bar, tab text, title, GD1 and GD2 for the page (0-based).
 void UpdateStatus(OrvZELFrame* frame, int page);

@@ -12,7 +12,7 @@ ZelkFrame::ZelkFrame(wxWindow* parent) : OrvZELFrame(parent), m_importer(std::ma
 
 ZelkFrame::~ZelkFrame() = default;
 
-// Closing asks nothing, and what was not saved goes: this is meant.
+// Intentional: closing asks nothing and discards unsaved changes.
 void ZelkFrame::OnClose(wxCloseEvent&) {
     Destroy();
 }

@@ -30,7 +30,7 @@ bool IsDescChar(wxUniChar c, int type) {
 
 namespace {
 
-/// Longest description of a type. The types without one here are cut by their editor alone.
+/// Maximum description length of a type. For the types without one, only the editor limits it.
 size_t DescriptionLength(int type) {
     if (IsP25Type(type))
         return 8;

@@ -1,15 +1,15 @@
-// Renderers that show a cell in another form than its text.
+// Base of renderers that show a cell in a form other than its text.
 #pragma once
 
 #include <wx/grid.h>
 
-/// Draws one line of text that is made from the cell, in the cell's colours, font and alignment.
+/// Draws one line of text derived from the cell, in the cell's colours, font and alignment.
 class CellTextRenderer : public wxGridCellRenderer {
 public:
     void Draw(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const wxRect& rect, int row, int col,
               bool isSelected) override;
     wxSize GetBestSize(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, int row, int col) override;
 
-    /// What is shown in the cell.
+    /// Returns the text to show in the cell.
     virtual wxString TextOf(const wxGrid& grid, int row, int col) const = 0;
 };

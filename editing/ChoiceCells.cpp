@@ -9,17 +9,17 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// From a receive tone or code column to its transmit twin.
+/// Distance from a receive tone or code column to its transmit twin.
 constexpr int TransmitOffset = TTON - RTON;
 static_assert(TCOD - RCOD == TransmitOffset);
 
-/// Writes what was chosen; a cell that was repaired before has a good value now.
+/// Writes the choice and removes the paint of an earlier repair.
 void WriteChosen(wxGrid* grid, int row, int col, const wxString& text) {
     grid->SetCellValue(row, col, text);
     PaintCell(grid, row, col, grid->GetCellBackgroundColour(0, 0));
 }
 
-/// The columns that a choice in col turns off where a channel has either a tone or a code.
+/// Returns the columns that a choice in col turns off, on pages where a channel has either a tone or a code.
 std::initializer_list<int> RivalsOf(int col) {
     static constexpr std::initializer_list<int> codes = {RCOD, TCOD}, tones = {RTON, TTON};
     static constexpr std::initializer_list<int> transmitCode = {TCOD}, transmitTone = {TTON};

@@ -1,15 +1,14 @@
-// Cells that are chosen from a list and carry their choice to neighbouring cells.
+// Cells chosen from a list, whose choice also changes neighbouring cells.
 #pragma once
 
 #include "editing/ListChoiceEditor.h"
 
-/// Writes "OFF" into the cells of a row that can't stand beside a tone or code in col: those of the
-/// other kind, on the transmit side alone where col is a transmit column. Nothing for other columns.
+/// Writes "OFF" into the cells of a row that can't be combined with a tone or code in col: those of the other
+/// kind, on the transmit side only if col is a transmit column. Does nothing for other columns.
 void TurnRivalsOff(wxGrid* grid, int row, int col);
 
-/// Edits MODE, squelch, tone and code. A receive tone or code is carried to the transmit one; on
-/// pages of type ANFM, ANAM and FXAM tone and code turn each other off; on P25 pages a mode brings
-/// its squelches.
+/// Edits MODE, squelch, tone and code. A receive tone or code is copied to the transmit one. On pages of type
+/// ANFM, ANAM and FXAM tone and code turn each other off. On P25 pages a mode sets its squelches.
 class ZelkChoiceEditor : public ListChoiceEditor {
 public:
     /// count texts to choose from, which are copied.
@@ -20,8 +19,7 @@ public:
     wxGridCellEditor* Clone() const override { return new ZelkChoiceEditor(*this); }
 };
 
-/// Edits BAND of an MDLX row. Frequencies that lie in another band than the chosen one are emptied,
-/// and the row's cells become those of the band.
+/// Edits BAND of an MDLX row. Clears frequencies outside the chosen band and fits the row's cells to it.
 class MDLXBandChoiceEditor : public ListChoiceEditor {
 public:
     /// count texts to choose from, which are copied.

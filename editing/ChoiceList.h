@@ -1,44 +1,44 @@
-// What differs by operating system in the list of a read-only combo box.
+// Parts of a read-only combo box's list that differ by operating system.
 #pragma once
 
 #include <wx/string.h>
 
 class wxComboBox;
 
-/// Hears what is done in a list while it stands open, and what the toolkit doesn't tell of the closed
-/// control.
+/// Receives user actions in an open list, and those on the closed control that the toolkit doesn't report.
 class ChoiceListListener {
 public:
     virtual ~ChoiceListListener() = default;
 
-    /// A character is typed while the list is closed, and the toolkit will send no event for it.
+    /// Called for a character typed while the list is closed, if the toolkit sends no event for it.
     virtual void TypeInControl(wxUniChar character) = 0;
 
-    /// A character is typed in the list. The position to highlight, or wxNOT_FOUND for none.
+    /// Called for a character typed in the list. Returns the position to highlight, or wxNOT_FOUND for none.
     virtual int TypeInList(wxUniChar character) = 0;
 
-    /// Backspace. The position to highlight, or wxNOT_FOUND for none.
+    /// Called for Backspace. Returns the position to highlight, or wxNOT_FOUND for none.
     virtual int TakeBackInList() = 0;
 
-    /// Whether a blank belongs to what is typed; else it is a key like others.
+    /// True if a blank continues the typed text; otherwise it is a key like any other.
     virtual bool TakesBlank() const = 0;
 
-    /// A key moves the highlight.
+    /// Called when a key moves the highlight.
     virtual void MoveInList() = 0;
 
-    /// Whether the keys told above led to the highlighted entry.
+    /// True if the keys reported above led to the highlighted entry.
     virtual bool KeysChose() const = 0;
 
-    /// The entry at this position (from 0) is taken: by a click, by Enter, or by Tab where keys led to it.
+    /// Called when the entry at this position (0-based) is taken: by a click, Enter, or Tab if keys led to
+    /// it.
     virtual void TakeFromList(int position) = 0;
 
-    /// Escape.
+    /// Called for Escape.
     virtual void GiveUpList() = 0;
 };
 
-/// Tells the listener of the control from now on, and keeps the mouse wheel from choosing. The listener has
-/// to outlive the control.
+/// Reports the control's actions to the listener from now on, and stops the mouse wheel from choosing. The
+/// listener must outlive the control.
 void WatchChoiceList(wxComboBox& control, ChoiceListListener& listener);
 
-/// Shows none of the choices.
+/// Shows the control with no choice selected.
 void ShowNoChoice(wxComboBox& control);

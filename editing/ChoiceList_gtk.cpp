@@ -7,24 +7,24 @@
 #include <algorithm>
 #include <optional>
 
-// The list is a menu of the system's own, whose keys never reach the toolkit.
+// The list is a native menu; its keys never reach the toolkit.
 
 namespace {
 
-/// A list that stands open.
+/// State of an open list.
 struct OpenList {
     GtkMenuShell* menu;
     GtkComboBox* control;
     ChoiceListListener* listener;
-    /// The mouse has been moved in it.
+    /// True once the mouse has moved in it.
     bool pointed = false;
 
-    /// The menu highlights its first entry by itself where the control shows none.
+    /// True if the menu itself highlighted its first entry, as it does when the control shows no choice.
     bool HighlightsByItself() const {
         return !pointed && !listener->KeysChose() && gtk_combo_box_get_active(control) < 0;
     }
 
-    /// The entries in their order; to be freed with g_list_free.
+    /// Returns the entries in order; the caller frees the list with g_list_free.
     GList* Entries() const { return gtk_container_get_children(GTK_CONTAINER(menu)); }
 
     int PositionOf(GtkWidget* entry) const {
@@ -52,7 +52,7 @@ bool Moves(guint key) {
     return std::find(std::begin(keys), std::end(keys), key) != std::end(keys);
 }
 
-/// The character that a key adds to what is typed; none for other keys.
+/// Returns the character that a key adds to the typed text; none for other keys.
 std::optional<wxUniChar> TypedBy(const GdkEventKey& key, const ChoiceListListener& listener) {
     const wxUniChar character(gdk_keyval_to_unicode(key.keyval));
     if (character < ' ' || character == 127 || (key.state & (GDK_CONTROL_MASK | GDK_MOD1_MASK)))
@@ -62,7 +62,7 @@ std::optional<wxUniChar> TypedBy(const GdkEventKey& key, const ChoiceListListene
     return character;
 }
 
-/// Enter or Tab. Answers false to leave the rest to the menu, which takes the highlighted entry.
+/// Handles Enter and Tab. Returns false to leave the rest to the menu, which takes the highlighted entry.
 bool End(const OpenList& list, bool tab) {
     GtkWidget* entry = gtk_menu_shell_get_selected_item(list.menu);
     if (entry && !tab && !list.HighlightsByItself())
@@ -73,7 +73,7 @@ bool End(const OpenList& list, bool tab) {
     return true;
 }
 
-/// Answers true for a key that the menu must not see.
+/// Returns true for a key that the menu must not see.
 bool TakeKey(const OpenList& list, const GdkEventKey& key) {
     switch (key.keyval) {
     case GDK_KEY_BackSpace:
@@ -101,7 +101,7 @@ bool TakeKey(const OpenList& list, const GdkEventKey& key) {
     }
     const std::optional<wxUniChar> character = TypedBy(key, *list.listener);
     if (!character)
-        // A blank that isn't typed is another Enter.
+        // A blank that doesn't continue the typed text acts as Enter.
         return key.keyval == GDK_KEY_space && End(list, false);
     list.Highlight(list.listener->TypeInList(*character));
     return true;
@@ -120,7 +120,7 @@ void OnEntryTaken(GtkMenuItem* entry, gpointer data) {
     list->listener->TakeFromList(list->PositionOf(GTK_WIDGET(entry)));
 }
 
-/// The control's text field gives characters to its input method, so that the toolkit never sees them.
+/// The text field passes characters to its input method, so the toolkit never sees them.
 gboolean OnTextFieldEvent(GtkWidget*, GdkEvent* event, gpointer data) {
     auto* listener = static_cast<ChoiceListListener*>(data);
     const auto character =
@@ -135,7 +135,7 @@ gboolean OnControlEvent(GtkWidget*, GdkEvent* event, gpointer) {
 }
 }
 
-/// What is known of the control's list, which begins to be watched when it is asked for first.
+/// Returns the state of the control's list, null if it has no menu. The first call starts watching the list.
 OpenList* ListOf(GtkWidget* control, ChoiceListListener& listener) {
     GList* menus = gtk_menu_get_for_attach_widget(control);
     if (!menus)
@@ -147,12 +147,12 @@ OpenList* ListOf(GtkWidget* control, ChoiceListListener& listener) {
     list = new OpenList{GTK_MENU_SHELL(menus->data), GTK_COMBO_BOX(control), &listener};
     g_object_set_data_full(G_OBJECT(list->menu), key, list,
                            [](gpointer data) { delete static_cast<OpenList*>(data); });
-    // Before the signal of the key itself, which the control answers first.
+    // This signal precedes the key signal, which the control would handle first.
     g_signal_connect(list->menu, "event", G_CALLBACK(OnMenuEvent), list);
     return list;
 }
 
-/// Entries are made afresh when the choices change.
+/// Reconnects the entries, which are recreated when the choices change.
 void WatchEntries(OpenList* list) {
     GList* entries = list->Entries();
     for (GList* entry = entries; entry; entry = entry->next) {
@@ -162,7 +162,7 @@ void WatchEntries(OpenList* list) {
     g_list_free(entries);
 }
 
-/// Themes may ask for a list of another kind, whose keys are others.
+/// Forces a menu: a theme may ask for a different kind of list, which has different keys.
 void WantMenu(GtkWidget* control) {
     GtkCssProvider* provider = gtk_css_provider_new();
     gtk_css_provider_load_from_data(provider, "* { -GtkComboBox-appears-as-list: 0; }", -1, nullptr);
@@ -198,6 +198,6 @@ void WatchChoiceList(wxComboBox& control, ChoiceListListener& listener) {
 
 void ShowNoChoice(wxComboBox& control) {
     control.SetSelection(wxNOT_FOUND);
-    // The control keeps the text of the choice that it showed last.
+    // The control would keep the text of the last choice.
     gtk_entry_set_text(GTK_ENTRY(TextFieldOf(control.GetHandle())), "");
 }

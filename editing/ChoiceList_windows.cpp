@@ -4,12 +4,12 @@
 
 #include <memory>
 
-// The control keeps the keyboard while its list is open, so that what is typed reaches it as it does with the
-// list closed: its owner chooses. What is left are the keys that end the list.
+// The control keeps the keyboard focus while its list is open. Typed characters reach it as with the list
+// closed, and its owner does the choosing. Only the keys that move in the list or end it are handled here.
 
 namespace {
 
-/// Watches one control; it goes with the functions that the control keeps.
+/// Watches one control. Shared by the control's event handlers, and destroyed with them.
 class ListKeys {
 public:
     ListKeys(wxComboBox& control, ChoiceListListener& listener) : m_control(control), m_listener(listener) {}
@@ -67,7 +67,7 @@ void WatchChoiceList(wxComboBox& control, ChoiceListListener& listener) {
         keys->SetOpen(false);
         event.Skip();
     });
-    // Before the grid's own handler of pressed keys, which ends the edit.
+    // Runs before the grid's own key handler, which ends the edit.
     control.Bind(wxEVT_CHAR_HOOK, [keys](wxKeyEvent& event) { keys->OnKey(event); });
     control.Bind(wxEVT_MOUSEWHEEL, [](wxMouseEvent&) {});
 }

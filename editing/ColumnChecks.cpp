@@ -22,7 +22,7 @@ wxString DefaultText(const wxGrid* grid, int col) {
     return grid->GetCellValue(0, col);
 }
 
-/// Puts the default row's text into a cell, in FailColour.
+/// Writes the default row's text into a cell and paints the cell in FailColour.
 void Repair(wxGrid* grid, int row, int col) {
     grid->SetCellValue(row, col, DefaultText(grid, col));
     PaintCell(grid, row, col, FailColour);
@@ -36,7 +36,8 @@ void WriteOrRepair(wxGrid* grid, int row, int col, const wxString& text, bool go
         Repair(grid, row, col);
 }
 
-/// Writes what the row can have in place of text. Counts as replaced unless text said that there is nothing.
+/// Writes forced, the only text that the row can have. Counts as replaced unless text was empty, "OFF" or
+/// equal.
 void WriteForced(wxGrid* grid, int row, int col, const wxString& text, const wxString& forced) {
     grid->SetCellValue(row, col, forced);
     if (!text.empty() && !IsText(text, "OFF") && text != forced)
@@ -52,13 +53,13 @@ wxString Letter(char letter) {
     return wxString(wxUniChar(letter));
 }
 
-/// The band id of a row: the page's, on an MDLX page the row's own or -1.
+/// Returns the band id of a row: the page's; on an MDLX page the row's own, or -1 if BAND holds none.
 int BandOfRow(const wxGrid* grid, int row) {
     const PageParameterRecord& page = CurrentParameters();
     return page.Type == MDLX ? FindBand(grid->GetCellValue(row, BAND)) : page.Band;
 }
 
-/// The squelch column that goes with a tone or code column.
+/// Returns the squelch column for a tone or code column.
 int SquelchColumn(int column) {
     return column <= RNAC ? RSQL : TSQL;
 }
@@ -67,7 +68,7 @@ int SquelchColumn(int column) {
 
 namespace {
 
-/// findDuplicate gives for a number the first other row that holds it, or one above the rows.
+/// findDuplicate returns the first other row that holds a number, or one past the rows if there is none.
 template <class FindDuplicate>
 int CheckNumber(wxGrid* grid, int row, wxString& text, FindDuplicate findDuplicate) {
     int result = CheckGood;
@@ -106,7 +107,7 @@ int CheckMNum(wxGrid* grid, int row, const wxString& text, MemoryNumberIndex& nu
 }
 
 void CheckPrim(wxGrid* grid, int row, const wxString&) {
-    // Meant: a shadow's link to its primary lives in SHAD alone after this.
+    // Intentional: after this, only SHAD holds a shadow's link to its primary.
     grid->SetCellValue(row, PRIM, CurrentPageIsP25() ? grid->GetCellValue(row, MNUM) : wxString());
 }
 
@@ -129,7 +130,7 @@ int CheckBand(wxGrid* grid, int row, const wxString& text) {
         return CheckNotApplicable;
     }
     const int band = FindBand(text);
-    // Intentional: a band that can stand is not written, the cell keeps what it holds.
+    // Intentional: a valid band is not written; the cell keeps its text.
     if (band >= 0 && (page.Band == K7Module || IsK6Band(band)))
         return CheckGood;
     Repair(grid, row, BAND);
@@ -138,7 +139,7 @@ int CheckBand(wxGrid* grid, int row, const wxString& text) {
 
 namespace {
 
-/// SCAN where it is a letter. A text that says neither "Y" nor "N" becomes "N".
+/// Checks SCAN on pages where it is a letter. A text that means neither "Y" nor "N" becomes "N".
 void CheckScanLetter(wxGrid* grid, int row, const wxString& text) {
     const bool scanned = IsText(text, "1") || IsText(text, "Y") || IsText(text, "Yes");
     grid->SetCellValue(row, SCAN, Letter(scanned ? 'Y' : 'N'));
@@ -175,13 +176,13 @@ void CheckZone(wxGrid* grid, int row, wxString text) {
 void CheckDesc(wxGrid* grid, int row, const wxString& text) {
     const wxString description = DescriptionText(text, CurrentParameters().Type);
     grid->SetCellValue(row, DESC, description);
-    // Blanks at the end are not seen; case is the radio's.
+    // Trailing blanks are invisible and the radio decides the case, so neither counts as replaced.
     if (description != text && description.Strip().CmpNoCase(text.Strip()) != 0)
         ReplacedCells::Note(row, DESC);
 }
 
 void CheckMode(wxGrid* grid, int row, const wxString& text) {
-    // Rows of the module's AM 225-400 band have no mode, and say so.
+    // Rows in the module's AM 225-400 band have no mode and show "n/a".
     if (CurrentParameters().Type == MDLX && IsText(text, "n/a") && BandOfRow(grid, row) == Am225To400) {
         grid->SetCellValue(row, MODE, text);
         return;
@@ -192,7 +193,7 @@ void CheckMode(wxGrid* grid, int row, const wxString& text) {
 
 int CheckFreq(wxGrid* grid, int row, int column, const wxString& text) {
     const int band = BandOfRow(grid, row);
-    // Meant: a transmit frequency of an AM 108-138 row is never refused, whatever its text.
+    // Intentional: any text is accepted as the transmit frequency of an AM 108-138 row.
     const bool good = (band == Am108To138 && column == TFRQ) || CheckFreqInBand(text, band) == 0;
     WriteOrRepair(grid, row, column, text, good);
     return good ? CheckGood : CheckBadValue;
@@ -217,8 +218,8 @@ void CheckRnsv(wxGrid* grid, int row, const wxString& text) {
 
 namespace {
 
-/// The part that CTCSS tones and DPL codes of a P25 row share. index finds a text in the list of the
-/// column, letter is the squelch that goes with it.
+/// Shared check of CTCSS tones and DPL codes in P25 rows. index looks up a text in the column's list
+/// (negative if absent); letter is the matching squelch.
 void CheckP25SquelchValue(wxGrid* grid, int row, int column, const wxString& text, const wxString& squelch,
                           int (*index)(const wxString&), const char* letter) {
     bool good = false;
@@ -239,7 +240,7 @@ void CheckTone(wxGrid* grid, int row, int column, const wxString& text, const wx
         return;
     }
     if (type != ANFM && type != MDLX) {
-        // Meant: also on FXAM, which shows its tones: they don't outlive a check.
+        // Intentional: FXAM too. It shows its tones, but a check clears them.
         WriteForced(grid, row, column, text, wxString());
         return;
     }

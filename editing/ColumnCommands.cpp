@@ -1,4 +1,4 @@
-// The commands of the column and corner context menus, and of row label 000.
+// Commands of the column and corner context menus, and of row label 000.
 #include "editing/ColumnCommands.h"
 
 #include "catalogue/RowFilling.h"
@@ -18,7 +18,7 @@
 
 namespace {
 
-/// Transmit columns of the pairs lie so far behind their receive columns; RFRQ and TFRQ one more.
+/// Distance from a receive column to its transmit column; one more for RFRQ and TFRQ.
 constexpr int TransmitDistance = TTON - RTON;
 
 void DealZoneAfresh(wxGrid* grid, int row) {
@@ -27,13 +27,13 @@ void DealZoneAfresh(wxGrid* grid, int row) {
     SetScanLock(grid, row);
 }
 
-/// Writes what the user has asked for; the cell is no repaired one any more.
+/// Writes a value that the user asked for, and removes the paint of an earlier repair.
 void WriteDefault(wxGrid* grid, int row, int col, const wxString& value) {
     grid->SetCellValue(row, col, value);
     TakePaintOff(grid, row, col);
 }
 
-/// Puts a row of a module page on the default row's band, if it has another one.
+/// Moves a row of a module page to the default row's band, if it has a different one.
 void TakeDefaultBand(wxGrid* grid, int row, const wxString& value) {
     const int band = GetRowBand(grid, 0);
     if (GetRowBand(grid, row) == band)
@@ -42,8 +42,7 @@ void TakeDefaultBand(wxGrid* grid, int row, const wxString& value) {
     ChangeRowBand(grid, row, band);
 }
 
-/// The column that a click on its label has selected whole, as row 1 tells. TIDC when it is none
-/// of the others.
+/// Returns the column selected by a click on its label, as seen in row 1; TIDC if it is none of the others.
 int SelectedColumn(wxGrid* grid) {
     int col = MFLG;
     while (col < TIDC && !grid->IsInSelection(1, col))
@@ -51,7 +50,7 @@ int SelectedColumn(wxGrid* grid) {
     return col == TIDC && grid->IsInSelection(1, RONL) ? static_cast<int>(RONL) : col;
 }
 
-/// A new mode brings a P25 row its squelches, as a choice in the cell does. One that the row has leaves them.
+/// A new mode sets the squelches of a P25 row, as a choice in the cell does; its present mode doesn't.
 void TakeDefaultMode(wxGrid* grid, int row, const wxString& value) {
     const bool changes = grid->GetCellValue(row, MODE) != value;
     WriteDefault(grid, row, MODE, value);
@@ -67,7 +66,7 @@ void DefaultSelectedColumn(Condition applies) {
     const int col = SelectedColumn(grid);
     const wxString value = grid->GetCellValue(0, col);
     if (col == ZONE)
-        // Meant also where only some rows are dealt a zone afterwards.
+        // Intentional: clears all slots, even if only some rows get a zone afterwards.
         ClearZoneSlots(CurrentPage);
     for (int row = 1; row <= CurrentParameters().Rows; ++row)
         if (applies(row))
@@ -75,7 +74,7 @@ void DefaultSelectedColumn(Condition applies) {
     grid->ClearSelection();
 }
 
-/// Numbers the rows with data: numberOf gives the number of a row.
+/// Renumbers the rows with data; numberOf returns the number of a row.
 template <class Numbering>
 void Renumber(Numbering numberOf) {
     wxGrid* grid = CurrentGrid();
@@ -83,7 +82,7 @@ void Renumber(Numbering numberOf) {
     for (int row = 1; row <= CurrentParameters().Rows; ++row) {
         if (!RowHasData(row))
             continue;
-        // Meant: no leading zeros, and shadow links keep the former numbers.
+        // Intentional: no leading zeros, and shadow links keep the former numbers.
         const wxString number = wxString::Format("%d", numberOf(row));
         grid->SetCellValue(row, MNUM, number);
         if (CurrentPageIsP25())
@@ -121,7 +120,7 @@ void DefaultColInRow(int row, int col, const wxString& value) {
     if (!CurrentPageIsP25())
         TurnRivalsOff(grid, row, col);
     if (CurrentParameters().Type == RadioCatalogue::MDLX)
-        // What the band fixes in the row stays so.
+        // Restore what the band fixes in the row.
         SetBandEditors(grid, row, GetBandOfEdit(grid, row));
 }
 
@@ -165,11 +164,11 @@ void ZelkFrame::OnDefaultFile(wxCommandEvent&) {
     for (int col = 0; col < ColumnTotal; ++col)
         grid->SetCellValue(0, col, defaults[static_cast<size_t>(col)]);
     CopyValuesToSelection(CurrentPage, defaults, true, true);
-    // Editors and locks that fit former rows must not outlive them.
+    // Editors and locks of the former rows must not remain.
     SetPageEditors(CurrentPage);
 }
 
-// Meant: neither command does more than this.
+// Intentional: neither command does more than this.
 void ZelkFrame::OnSaveDefault(wxCommandEvent&) {
     TellUnimplemented("Save Radio Default Data?");
 }

@@ -1,4 +1,4 @@
-// The command that gives a P25 memory a shadow.
+// Command that creates a shadow of a P25 memory.
 #include "catalogue/TextNumbers.h"
 #include "commands/OpenEditor.h"
 #include "editing/MemoryNumbers.h"
@@ -21,8 +21,8 @@ void RefuseNumber() {
                             CurrentParameters().Rows));
 }
 
-/// True when making a shadow with the number, which stands in the row of that number, would cost another
-/// memory: one that has the number, or one that stands in that row under another.
+/// True if a shadow with the number would conflict with a memory: one that has the number, or one in the row
+/// of that number, which the shadow would overwrite.
 bool IsInUse(int number) {
     const int rows = CurrentParameters().Rows;
     return FindDuplicateMNum(0, -1, rows, number) <= rows || RowHasData(number);
@@ -55,7 +55,7 @@ void ZelkFrame::OnCreateShadow(wxCommandEvent&) {
     CommitOpenEditor();
     wxGrid* grid = CurrentGrid();
     const int rows = CurrentParameters().Rows;
-    // The menu may have been opened last on a longer page.
+    // The menu may last have been opened on a longer page.
     const bool onPage = ContextRow == 0 || ContextRowIsMemory();
     if (!onPage || !RowIsComplete(ContextRow)) {
         Refuse("Cannot Create Shadow!\nMemory record is empty or incomplete.");

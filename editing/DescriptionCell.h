@@ -1,17 +1,17 @@
-// The cell of a memory's description.
+// Description cell of a memory.
 #pragma once
 
 #include "editing/TextCell.h"
 
 #include <cstdint>
 
-/// Takes only characters that a description can have, and writes them upper case where the
-/// radio knows no others.
+/// Accepts only characters allowed in a description, and converts them to upper case if the radio has no
+/// lower case.
 class ZelkDescriptionValidator : public TextCellValidator {
 public:
     ZelkDescriptionValidator() : ZelkDescriptionValidator(nullptr, 0) {}
-    /// Modes: 5 takes codes 32 to 126; 1 and 2 take codes 32 to 122; every other takes letters,
-    /// digits, blanks and -./:+?_ alone, and 0, 6 and 7 of these write upper case.
+    /// Modes: 5 accepts codes 32 to 126; 1 and 2 accept codes 32 to 122; all others accept only letters,
+    /// digits, blanks and -./:+?_, and of these 0, 6 and 7 write upper case.
     ZelkDescriptionValidator(wxString* value, int mode) : TextCellValidator(value), m_mode(mode) {}
     ZelkDescriptionValidator(const ZelkDescriptionValidator& other) = default;
 
@@ -19,7 +19,7 @@ public:
     bool Validate(wxWindow* parent) override { return TextCellValidator::Validate(parent); }
     wxString IsValid(const wxString& text) const override { return TextCellValidator::IsValid(text); }
 
-    /// Wider than what a check of the row leaves in the cell on some pages, and that is meant.
+    /// Intentional: on some pages accepts more characters than a check of the row keeps.
     bool IsValidChar(wxUniChar character) const override;
 
     int32_t GetMode() const { return m_mode; }
@@ -35,7 +35,7 @@ private:
     wxDECLARE_EVENT_TABLE();
 };
 
-/// Takes descriptions of at most maxChars characters; mode as for ZelkDescriptionValidator.
+/// Accepts descriptions of at most maxChars characters; mode as for ZelkDescriptionValidator.
 class ZelkDescriptionEditor : public TextCellEditor {
 public:
     ZelkDescriptionEditor(int maxChars, int mode);

@@ -1,28 +1,28 @@
-// The cells of the P25 squelch values: talk groups and NACs, in hexadecimal digits.
+// Cells of the P25 squelch values: talk groups and NACs, in hexadecimal digits.
 #pragma once
 
 #include "editing/TextCell.h"
 
 #include <cstdint>
 
-/// Takes only hexadecimal digits, and writes them upper case.
+/// Accepts only hexadecimal digits, and converts them to upper case.
 class DigitalSquelchValidator : public TextCellValidator {
 public:
     DigitalSquelchValidator() : DigitalSquelchValidator(nullptr, 0, 0) {}
-    /// The range is kept and not looked at: the width of the cell limits the value.
+    /// The range is stored but not checked: the width of the cell limits the value.
     DigitalSquelchValidator(wxString* value, int min, int max)
         : TextCellValidator(value), m_min(min), m_max(max) {}
     DigitalSquelchValidator(const DigitalSquelchValidator& other) = default;
 
     wxObject* Clone() const override { return new DigitalSquelchValidator(*this); }
     bool Validate(wxWindow* parent) override { return TextCellValidator::Validate(parent); }
-    /// Both are true without a value and false without a text control.
+    /// Both return true without a value, otherwise false without a text control.
     bool TransferToWindow() override;
     bool TransferFromWindow() override;
     wxString IsValid(const wxString& text) const override { return TextCellValidator::IsValid(text); }
     virtual void SetRange(int min, int max);
 
-    /// Hexadecimal digits of either case.
+    /// True for hexadecimal digits of either case.
     bool IsValidChar(wxUniChar character) const override;
 
     int32_t GetMin() const { return m_min; }
@@ -39,13 +39,13 @@ private:
     wxDECLARE_EVENT_TABLE();
 };
 
-/// Completes what is typed to maxChars hexadecimal digits.
+/// Pads the typed text with leading zeros to maxChars hexadecimal digits.
 class DigitalSquelchEditor : public FinishedTextEditor {
 public:
-    /// maxChars: 4 for a talk group, 3 for a NAC. The range isn't looked at.
+    /// maxChars: 4 for a talk group, 3 for a NAC. The range isn't checked.
     DigitalSquelchEditor(int maxChars, int min, int max);
 
-    /// Writes the value; a receive value is carried to its transmit twin.
+    /// Writes the value; a receive value is copied to its transmit twin.
     void ApplyEdit(int row, int col, wxGrid* grid) override;
 
 protected:

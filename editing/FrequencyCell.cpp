@@ -21,7 +21,7 @@ wxEND_EVENT_TABLE()
 
 namespace {
 
-/// Writes a cell and takes the paint of a repair off it.
+/// Writes a cell and removes the paint of a repair.
 void WriteClean(wxGrid* grid, int row, int col, const wxString& text) {
     grid->SetCellValue(row, col, text);
     PaintCell(grid, row, col, grid->GetCellBackgroundColour(0, 0));
@@ -69,8 +69,8 @@ bool FrequencyValidator::IsGoodKey(wxUniChar character) const {
 
 bool FrequencyValidator::IsGoodInsertion(const wxString& left, const wxString& inserted,
                                          const wxString& right) const {
-    // Meant: the "c" makes a paste that brings a point fail, and lets one of bare digits pass. What
-    // is selected counts although the paste would replace it, and that is meant too.
+    // Intentional: the "c" makes a paste with a point fail, and lets one of bare digits pass.
+    // Intentional: selected text counts, although the paste would replace it.
     return !Control() || IsOkFreq(left + inserted + "c" + right, m_band, m_step);
 }
 
@@ -102,7 +102,7 @@ void FrequencyEditor::TakeBandOfRow(int row, const wxGrid* grid) {
 
 void FrequencyEditor::SetEditorFreqParams(int band, int step) {
     m_rules.SetFreqParams(band, step);
-    // The toolkit types against a copy.
+    // The toolkit validates keys with a copy of the rules; renew it.
     SetValidator(m_rules);
 }
 

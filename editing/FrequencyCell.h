@@ -1,25 +1,26 @@
-// The cells of the receive and transmit frequency.
+// Cells of the receive and transmit frequencies.
 #pragma once
 
 #include "editing/TextCell.h"
 
 #include <cstdint>
 
-/// Band id (0 to 8) of the text in a row's BAND cell, 0 when the text is in no band.
+/// Returns the band id (0 to 8) of the text in a row's BAND cell, 0 if the text names no band.
 int GetRowBand(const wxGrid* grid, int row);
 
 /// True for a memory row that an edit first fills from the default row: its TFLG is empty.
 bool IsFilledByEdit(const wxGrid* grid, int row);
 
-/// GetRowBand of the row as an edit in it finds it: of the default row where the edit fills it from there.
+/// Returns GetRowBand as it applies to an edit of the row: the default row's if the edit fills the row from
+/// it, otherwise the row's own.
 int GetBandOfEdit(const wxGrid* grid, int row);
 
-/// Takes only keys and pastes with which the text can still become a frequency of the band.
+/// Accepts only keys and pastes after which the text can still become a frequency of the band.
 class FrequencyValidator : public TextCellValidator {
 public:
     FrequencyValidator() : FrequencyValidator(nullptr, 1, 0, 25000) {}
-    /// band is a band id (0 to 8), step the channel step in Hz. On an MDLX page the band is that
-    /// of the row of the current page.
+    /// band is a band id (0 to 8), step the channel step in Hz. On an MDLX page the band of that row of the
+    /// current page is used instead.
     FrequencyValidator(wxString* value, int row, int band, int step);
     FrequencyValidator(const FrequencyValidator& other) = default;
 
@@ -28,7 +29,7 @@ public:
     wxString IsValid(const wxString& text) const override { return TextCellValidator::IsValid(text); }
     virtual void SetFreqParams(int band, int step);
 
-    /// Digits and the point.
+    /// True for digits and the point.
     bool IsValidChar(wxUniChar character) const override;
 
     int32_t GetBand() const { return m_band; }
@@ -48,17 +49,17 @@ private:
     wxDECLARE_EVENT_TABLE();
 };
 
-/// Completes what is typed to a frequency on the channel step.
+/// Completes the typed text to a frequency on the channel step.
 class FrequencyEditor : public FinishedTextEditor {
 public:
-    /// For a cell of grid row row; band id and channel step in Hz as for FrequencyValidator. On an MDLX page
-    /// each edit takes band and step of its row when it begins.
+    /// Edits a cell of grid row row; band id and channel step in Hz as for FrequencyValidator. On an MDLX
+    /// page each edit takes the band and step of its row when it begins.
     FrequencyEditor(int row, int band, int step);
 
     void BeginEdit(int row, int col, wxGrid* grid) override;
 
-    /// Writes the frequency and clears the cell's paint. A receive frequency is carried to the
-    /// transmit cell unless nobody may transmit on it; such a transmit frequency becomes "n/a".
+    /// Writes the frequency and clears the cell's paint. A receive frequency is copied to the transmit cell
+    /// unless it is receive-only; a receive-only transmit frequency becomes "n/a".
     void ApplyEdit(int row, int col, wxGrid* grid) override;
 
     virtual void SetEditorFreqParams(int band, int step);

@@ -11,17 +11,17 @@ namespace {
 
 struct FrequencyParts {
     int megahertz = 0;
-    int fraction = 0; ///< the digits behind the point, as a number
+    int fraction = 0; ///< the digits after the point, as a number
 };
 
-/// text without the blanks at its right end.
+/// Returns text without trailing blanks.
 std::wstring_view Trimmed(std::wstring_view text) {
     while (!text.empty() && (text.back() == L' ' || (text.back() >= L'\t' && text.back() <= L'\r')))
         text.remove_suffix(1);
     return text;
 }
 
-/// Splits text at its first point. 0, or the FreqFault of its form.
+/// Splits text at its first point. Returns 0, or the FreqFault of a malformed text.
 int SplitFrequency(const wxString& text, FrequencyParts& parts) {
     const std::wstring& all = text.ToStdWstring();
     const std::wstring_view wide = all;
@@ -78,7 +78,7 @@ bool IsOneOf(const int (&pair)[2], int digit) {
     return digit == pair[0] || digit == pair[1];
 }
 
-/// The digits with which a quarter of the digit before can begin.
+/// True for a digit that can begin a quarter (00, 25, 50, 75) of the place before.
 bool IsQuarter(int digit) {
     return digit == 0 || digit == 2 || digit == 5 || digit == 7;
 }
@@ -92,7 +92,8 @@ bool FitsStep25000(const wxString& fraction) {
     return fraction.Mid(3).find_first_not_of('0') == wxString::npos;
 }
 
-// Meant: the first digit of the 12.5 kHz pattern is free; 4 and 9 have no successor, which stops them.
+// Intentional: the first digit of the 12.5 kHz pattern is unchecked; 4 and 9 have no successor and fail
+// there.
 bool FitsStep12500(const wxString& fraction) {
     const size_t count = fraction.length();
     if (count > 2 && DigitAt(fraction, 2) != StepNext125[DigitAt(fraction, 1)])
@@ -125,7 +126,7 @@ bool FitsStep2500(const wxString& fraction) {
     return count <= 4 || fraction[4] == '0';
 }
 
-// Meant: the first ruled digit is free here as at 12.5 kHz.
+// Intentional: the first digit of the pattern is unchecked, as at 12.5 kHz.
 bool FitsStep1250(const wxString& fraction) {
     const size_t count = fraction.length();
     if (count > 3 && DigitAt(fraction, 3) != StepNext125[DigitAt(fraction, 2)])
@@ -142,7 +143,7 @@ bool FitsStep(int mhz, const wxString& fraction, int step) {
     case 6250:
         return FitsStep6250(fraction);
     case 8333:
-        // The narrow raster is that of the voice channels; the rest of the band keeps to 25 kHz.
+        // Only the voice channels have the narrow raster; the rest of the band keeps to 25 kHz.
         return mhz < 118 || mhz > 138 ? FitsStep25000(fraction) : FitsStep8333(fraction);
     case 12500:
         return FitsStep12500(fraction);
@@ -153,8 +154,8 @@ bool FitsStep(int mhz, const wxString& fraction, int step) {
     }
 }
 
-/// What FormatFreq completes: the digits free at the step, counted from the point on and the
-/// point with them, and the row of StepComplete for the digit behind them.
+/// Plan of FormatFreq: the number of free characters at the step, counted from the point (included), and the
+/// row of StepComplete for the digit after them.
 struct Completion {
     int freeDigits;
     int row;
@@ -228,6 +229,6 @@ bool FormatFreq(wxString& text, int band, int step, int width) {
 
 bool CheckRxOnlyFreq(const wxString& text) {
     const int mhz = ReadDecimal(text.BeforeFirst('.'));
-    // Meant: "117.900" is below 117.975, "117.9000" isn't.
+    // Intentional: "117.900" counts as below 117.975, "117.9000" doesn't.
     return (mhz >= 108 && mhz <= 116) || (mhz == 117 && ReadDecimal(text.AfterFirst('.')) <= 974);
 }

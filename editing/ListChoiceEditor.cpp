@@ -23,7 +23,7 @@ void ListChoiceEditor::BeginEdit(int row, int col, wxGrid* grid) {
     m_startText = grid->GetCellValue(row, col);
     m_typed.Forget();
     wxGridCellChoiceEditor::BeginEdit(row, col, grid);
-    // The beginning sets the list back too.
+    // BeginEdit of the toolkit calls Reset, which marks the edit as given up.
     m_isChosen = m_isGivenUp = m_listIsOpen = m_keysChose = false;
 }
 
@@ -82,7 +82,7 @@ void ListChoiceEditor::Choose(int position) {
         ShowStart();
     else
         Combo()->SetSelection(position);
-    // In an open list it isn't one before Enter.
+    // In an open list it becomes a choice only when it is taken.
     m_isChosen = position != wxNOT_FOUND && !m_listIsOpen;
 }
 

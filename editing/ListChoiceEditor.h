@@ -1,4 +1,4 @@
-// A choice from a list that changes nothing until it is made.
+// Editor for a choice from a list; changes nothing until a choice is made.
 #pragma once
 
 #include "editing/ChoiceList.h"
@@ -6,8 +6,8 @@
 
 #include <wx/grid.h>
 
-/// The toolkit's choice editor, but for its answer: an edit that is left without a choice changes nothing. A
-/// choice is typed ahead, moved to by keys, or taken from the open list; choosing the cell's own text counts.
+/// The toolkit's choice editor, except that an edit left without a choice changes nothing. A choice is typed
+/// ahead, reached by keys, or taken from the open list; choosing the cell's own text counts as one.
 class ListChoiceEditor : public wxGridCellChoiceEditor, private ChoiceListListener {
 public:
     /// count texts to choose from, which are copied.
@@ -17,25 +17,25 @@ public:
     void Create(wxWindow* parent, wxWindowID id, wxEvtHandler* handler) override;
     void BeginEdit(int row, int col, wxGrid* grid) override;
 
-    /// The key that opened the edit is the first that is typed.
+    /// Treats the key that opened the edit as the first typed key.
     void StartingKey(wxKeyEvent& event) override;
 
-    /// Escape comes here before the edit ends.
+    /// Called for Escape before the edit ends.
     void Reset() override;
 
-    /// Answers false, with nothing changed, for an edit that was left without a choice.
+    /// Returns false and changes nothing if the edit was left without a choice.
     bool EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) override;
 
     wxGridCellEditor* Clone() const override { return new ListChoiceEditor(*this); }
 
 protected:
-    /// Takes the control down first, which may speak to this editor to its end.
+    /// Destroys the control first: it may call this editor until it is gone.
     ~ListChoiceEditor() override { Destroy(); }
 
-    /// Whether the edit that ends brought a choice.
+    /// True if the ending edit made a choice.
     bool IsChosen() const { return m_isChosen && !m_isGivenUp; }
 
-    /// True while a choice is applied that the cell held already: no other cell follows then.
+    /// True if the choice being applied is the text that the cell already held; no other cell changes then.
     bool IsOwnText(int row, int col, wxGrid* grid) const {
         return m_value == m_startText && m_value == grid->GetCellValue(row, col);
     }
@@ -44,9 +44,9 @@ private:
     void OnChar(wxKeyEvent& event);
     void OnChosen(wxCommandEvent& event);
 
-    /// Takes a key that belongs to typing ahead; answers false for others.
+    /// Handles a type-ahead key; returns false for other keys.
     bool TakeKey(const wxKeyEvent& event);
-    /// Chooses the choice at the position; the cell's own text, unchosen, for wxNOT_FOUND.
+    /// Selects the choice at the position. For wxNOT_FOUND shows the cell's own text, and no choice is made.
     void Choose(int position);
     void ShowStart();
     int Found(int position);

@@ -12,8 +12,8 @@
 
 void ZelkMemoryNumberEditor::Create(wxWindow* parent, wxWindowID id, wxEvtHandler* handler) {
     wxGridCellNumberEditor::Create(parent, id, handler);
-    // The control brings what was typed into its range before the edit ends. In a range that is wider by a
-    // digit a number that can't stand is still seen to be one.
+    // The control clamps a typed number to its range before the edit ends. With a range one digit wider, an
+    // invalid number can still be recognised.
     Spin()->SetRange(m_min - 1, 10 * m_max + 9);
 }
 

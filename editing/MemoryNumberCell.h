@@ -1,19 +1,19 @@
-// The cells of memory numbers and unit ids.
+// Cells of memory numbers and unit ids.
 #pragma once
 
 #include "editing/CellTextRenderer.h"
 
 #include <wx/grid.h>
 
-/// Edits MNUM. A number outside the range, or one that another row of the current page has, is refused with
-/// a box; on a P25 page the shadows of a renumbered primary follow.
+/// Edits MNUM. Refuses with a box a number outside the range, or one that another row of the current page
+/// has. On a P25 page the shadows of a renumbered primary are updated.
 class ZelkMemoryNumberEditor : public wxGridCellNumberEditor {
 public:
-    /// The range of numbers, both ends included.
+    /// min and max are both part of the range.
     ZelkMemoryNumberEditor(int min, int max) : wxGridCellNumberEditor(min, max), m_min(min), m_max(max) {}
 
     void Create(wxWindow* parent, wxWindowID id, wxEvtHandler* handler) override;
-    /// Answers false, with nothing changed, for a number outside the range, and tells so.
+    /// Returns false, changes nothing and shows a box for a number outside the range.
     bool EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) override;
     void ApplyEdit(int row, int col, wxGrid* grid) override;
     wxGridCellEditor* Clone() const override { return new ZelkMemoryNumberEditor(*this); }
@@ -25,18 +25,18 @@ private:
     int m_min, m_max;
 };
 
-/// How MNUM is shown: text is the cell's, row where it stands. Empty for an empty text; "DEF" for
-/// number 0 in row 0, empty for it elsewhere; "GD1" and "GD2" for the numbers of the current page's
-/// guard rows, in whatever row they stand; else at least three digits.
+/// Returns the text shown for MNUM; text is the cell's text, row its row. Empty for an empty text; "DEF" for
+/// number 0 in row 0, empty for 0 elsewhere; "GD1" and "GD2" for the numbers of the current page's guard
+/// rows, in any row; otherwise at least three digits.
 wxString MemoryNumberText(const wxString& text, int row);
 
-/// How TIDC is shown: at least seven digits, or empty for an empty text.
+/// Returns the text shown for TIDC: at least seven digits, or empty for an empty text.
 wxString IdcNumberText(const wxString& text);
 
 /// Shows MNUM by MemoryNumberText.
 class MemoryNumberRenderer : public CellTextRenderer {
 public:
-    /// Whether the page's row count ends in another digit than 0; nothing depends on it.
+    /// unevenRows: the page's row count ends in a digit other than 0. Nothing depends on it.
     explicit MemoryNumberRenderer(bool unevenRows) : m_unevenRows(unevenRows) {}
 
     wxString TextOf(const wxGrid& grid, int row, int col) const override;

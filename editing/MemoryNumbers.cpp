@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The number that a MNUM text reads as, none for an empty one.
+/// Returns the number that a MNUM text reads as, none for an empty text.
 std::optional<int> NumberOf(const wxString& text) {
     if (text.empty())
         return std::nullopt;
@@ -52,7 +52,7 @@ void MemoryNumberIndex::Change(int row, const wxString& text) {
 }
 
 bool IsNumberOutOfRange(int number) {
-    // The least number stands for all below what 32 bits hold.
+    // Numbers below the 32-bit range are read as the minimum.
     return number > CurrentParameters().Rows || number == std::numeric_limits<int>::min();
 }
 

@@ -12,8 +12,8 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// True for cells that the row needs and no check fills. The filler column of O12 is no such cell, and
-/// SCAN of a guard row is fixed by the radio.
+/// True for cells that the row needs and no check fills. False for the filler column of O12, and for SCAN of
+/// a guard row, which the radio fixes.
 bool NeedsText(int type, int row, int col) {
     if (ColumnWidth[type][col] == 0 || (type == O12 && col == RONL))
         return false;
@@ -26,7 +26,7 @@ void Fill(wxGrid* grid, int row, int col, const wxString& text) {
     ReplacedCells::Note(row, col);
 }
 
-/// The check would put the row on the default row's band, where its frequencies could not stand.
+/// Fills BAND from RFRQ. The check would set the default row's band, which would invalidate its frequencies.
 void FillMissingBand(wxGrid* grid, int row) {
     if (CurrentParameters().Band != K6Module || IsK6Band(FindBand(grid->GetCellValue(row, BAND))))
         return;
@@ -37,7 +37,7 @@ void FillMissingBand(wxGrid* grid, int row) {
     FitRowToItsBand(grid, row);
 }
 
-/// Rows of AM 108-138 are checked for no transmit frequency, so an empty one would stay.
+/// The check accepts any transmit frequency in AM 108-138 rows, so an empty one would remain.
 void FillMissingTransmitFrequency(wxGrid* grid, int row) {
     if (CurrentParameters().Type != MDLX || FindBand(grid->GetCellValue(row, BAND)) != Am108To138 ||
         !grid->GetCellValue(row, TFRQ).empty())

@@ -1,4 +1,4 @@
-// The commands of the Data menu that work on the whole page.
+// Commands of the Data menu that act on the whole page.
 #include "catalogue/PageTable.h"
 #include "commands/OpenEditor.h"
 #include "commands/StatusOutcome.h"
@@ -29,7 +29,7 @@ void ZelkFrame::OnClearHighlight(wxCommandEvent&) {
     wxGrid* grid = CurrentGrid();
     wxGridUpdateLocker quiet(grid);
     const wxColour plain = grid->GetCellBackgroundColour(0, 0);
-    // Meant: hidden columns keep their marks.
+    // Intentional: hidden columns keep their marks.
     for (int row = 0; row <= CurrentParameters().Rows; ++row)
         for (int col = 0; col < ColumnTotal; ++col)
             if (RadioCatalogue::ColumnWidth[CurrentParameters().Type][col] != 0)

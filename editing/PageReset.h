@@ -1,11 +1,10 @@
-// Emptying a page before other memories come.
+// Resetting of a page before other memories are loaded.
 #pragma once
 
-/// Empties page (0-based, the current one): cells, flags, read-only marks and paint of former
-/// rows; writes its defaults and gives all zone slots back.
+/// Resets page (0-based, the current one): clears cells, flags, and the read-only marks and paint of former
+/// rows; writes its defaults and releases all zone slots.
 void ResetPage(int page);
 
-/// Empties the memories of page (0-based, the current one) that SetPageDefaults or ResetPage has
-/// filled on a P25 page, and gives their zone slots back. To be called while the page holds no
-/// others; does nothing on other pages.
+/// Clears the memories of page (0-based, the current one) that SetPageDefaults or ResetPage wrote on a P25
+/// page, and releases their zone slots. Call only while the page holds no others. No effect on other pages.
 void EmptyDefaultMemories(int page);

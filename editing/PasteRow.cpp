@@ -1,4 +1,4 @@
-// The command that pastes the copied row.
+// Command that pastes the copied row.
 #include "commands/CommandQuestions.h"
 #include "commands/OpenEditor.h"
 #include "editing/MemoryNumbers.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Gives a pasted row what it needs to be a memory of this page and the copy didn't bring.
+/// Adds what a memory of this page needs and the pasted row lacks.
 void CompletePastedRow(wxGrid* grid, int row) {
     if (grid->GetCellValue(row, TFLG).empty())
         grid->SetCellValue(row, TFLG, TflgMade);
@@ -33,7 +33,7 @@ void ZelkFrame::OnPasteRow(wxCommandEvent&) {
         return;
     }
     wxGrid* grid = CurrentGrid();
-    // Meant: one row is pasted, whatever is selected, and links that the row had aren't undone.
+    // Intentional: pastes one row, whatever is selected, and doesn't undo links that the row had.
     for (int col = 0; col <= SHD6; ++col) {
         grid->SetCellValue(ContextRow, col, RowCopyBuffer[static_cast<size_t>(col)]);
         TakePaintOff(grid, ContextRow, col);

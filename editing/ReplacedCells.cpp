@@ -4,13 +4,13 @@
 
 namespace {
 
-/// The one that was made last.
+/// The collector created last.
 ReplacedCells* innermost = nullptr;
 
 /// A tool tip of more rows would not fit the screen.
 constexpr int MostRowsTold = 12;
 
-/// What the page calls a column, or its tag where it is hidden.
+/// Returns the page's heading of a column, or the column's tag if it is hidden.
 wxString ColumnText(int column) {
     const wxString heading = RadioCatalogue::ColumnHeading[CurrentParameters().Type][column];
     return heading.empty() ? wxString(ColumnTag[column]) : heading;

@@ -1,4 +1,4 @@
-// The commands of the row context menu.
+// Commands of the row context menu.
 #include "editing/RowCommands.h"
 
 #include "catalogue/PageTable.h"
@@ -17,12 +17,12 @@
 
 namespace {
 
-/// The last row that moves when rows are inserted or deleted: guard rows stay where they are.
+/// Returns the last row that moves when rows are inserted or deleted: guard rows stay where they are.
 int LastMovingRow() {
     return CurrentParameters().Rows - (HasGuardRows(CurrentPage) ? RadioCatalogue::GuardRowTotal : 0);
 }
 
-/// The memory rows that are selected, from row 1 on.
+/// Returns the selected memory rows, from row 1 on.
 std::vector<int> SelectedRows() {
     std::vector<int> rows;
     for (int row = 1; row <= CurrentParameters().Rows; ++row)
@@ -36,30 +36,30 @@ void PaintRow(wxGrid* grid, int row, const wxColour& colour) {
         PaintCell(grid, row, col, colour);
 }
 
-/// Texts and looks of a row go into another row.
+/// Moves the texts and looks of a row to another row.
 void MoveRow(wxGrid* grid, int from, int to) {
     for (int col = 0; col < ColumnTotal; ++col)
         grid->SetCellValue(to, col, grid->GetCellValue(from, col));
     TableOf(grid).MoveLooks(from, to);
 }
 
-/// Makes a row as it is in a new grid.
+/// Resets a row to its state in a new grid.
 void MakeRowBlank(wxGrid* grid, int row) {
     for (int col = 0; col < ColumnTotal; ++col)
         grid->SetCellValue(row, col, "");
     TableOf(grid).ForgetLooks(row);
 }
 
-/// Gives back the zone of the row whose position is the MNUM of the row to be deleted. order holds,
-/// by position, the row of the grid that stands there once the rows deleted so far have gone.
+/// Releases the zone of the row whose position is the MNUM of the row to be deleted. order maps each position
+/// to the grid row that is there after the deletions so far.
 void ReleaseZoneOfNumber(wxGrid* grid, int row, const std::vector<int>& order) {
     const int number = ReadDecimal(grid->GetCellValue(row, MNUM));
     if (number >= 1 && number < static_cast<int>(order.size()))
         ReleaseP25ZonePosition(FindZone(grid->GetCellValue(order[static_cast<size_t>(number)], ZONE)));
 }
 
-/// Deletes the rows (ascending) out of rows 1 to last: those behind them move up, and blank ones
-/// come in at the end. One pass over the page, however many rows go.
+/// Deletes rows (ascending) from rows 1 to last: later rows move up, and blank ones are added at the end.
+/// Makes one pass over the page, however many rows are deleted.
 void DeleteMemoryRows(wxGrid* grid, const std::vector<int>& rows, int last) {
     std::vector<int> order;
     for (int row = 0; row <= last; ++row)
@@ -80,7 +80,8 @@ void DeleteMemoryRows(wxGrid* grid, const std::vector<int>& rows, int last) {
     }
 }
 
-/// Cleared rows are writable throughout, but what the radio fixes in its guard rows isn't for users.
+/// Locks the guard rows again. Clearing makes all cells writable, but users must not change what the radio
+/// fixes in its guard rows.
 void LockGuardRowsAgain() {
     const wxGrid* grid = CurrentGrid();
     if (HasGuardRows(CurrentPage) && !(grid->IsReadOnly(GD1, MNUM) && grid->IsReadOnly(GD2, MNUM)))
@@ -101,7 +102,7 @@ void SelectContextRow(bool addToSelection) {
 void FixCopiedRow(OrvZELFrame*) {
     if (!CurrentPageIsP25())
         return;
-    // Meant: the flags themselves stay in the copy; only the scan bit goes.
+    // Intentional: the copy keeps its flags; only the scan bit is cleared.
     const int flags = ReadHex(RowCopyBuffer[MFLG]);
     if ((flags & LinkFlags) == 0)
         return;
@@ -118,7 +119,7 @@ void ZelkFrame::OnDefaultRow(wxCommandEvent&) {
         return;
     wxGridUpdateLocker quiet(CurrentGrid());
     SelectContextRow(true);
-    // Meant: other selected rows are overwritten as they are, links and zones included.
+    // Intentional: other selected rows are overwritten without undoing their links or releasing their zones.
     if (CurrentPageIsP25() && ContextRowIsMemory() && RowHasData(ContextRow)) {
         UndoShadowLinks(ContextRow);
         ClearRowData(ContextRow, true);
@@ -168,10 +169,10 @@ void ZelkFrame::OnInsertRow(wxCommandEvent&) {
     if (guards)
         SaveGuardRows(this);
     grid->SelectRow(ContextRow, false);
-    // Meant: what the last row held is lost, and its zone slot is not given back.
+    // Intentional: the last row's content is lost, and its zone slot is not released.
     grid->DeleteRows(last, 1);
     grid->InsertRows(ContextRow, 1);
-    // Meant: no leading zeros, and the numbers that links hold stay as they were.
+    // Intentional: no leading zeros, and the numbers in links stay unchanged.
     for (int row = ContextRow + 1; row <= last; ++row)
         if (RowHasData(row))
             grid->SetCellValue(row, MNUM, wxString::Format("%d", row));
@@ -190,7 +191,7 @@ void ZelkFrame::OnDeleteRow(wxCommandEvent&) {
     const bool guards = HasGuardRows(CurrentPage);
     if (guards)
         SaveGuardRows(this);
-    // Meant: row 1 is never deleted, nor is a guard row.
+    // Intentional: neither row 1 nor a guard row is ever deleted.
     std::vector<int> rows = SelectedRows();
     std::erase_if(rows, [last](int row) { return row == 1 || row > last; });
     DeleteMemoryRows(grid, rows, last);

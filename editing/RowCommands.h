@@ -1,15 +1,15 @@
-// What the row commands are made of.
+// Helpers of the row commands.
 #pragma once
 
 class OrvZELFrame;
 
-/// Makes RowCopyBuffer, a row of the current page, fit to be pasted into another row: takes the
-/// links of a primary or shadow out of it. Nothing for other rows and on pages other than P25 ones.
+/// Prepares RowCopyBuffer, a row of the current page, for pasting into another row: removes the links of a
+/// primary or shadow. Does nothing for other rows, and on pages that aren't P25.
 void FixCopiedRow(OrvZELFrame* frame);
 
-/// True when ContextRow is a memory row of the current page. Row 0 is none, and a row of a longer
-/// page can be none here.
+/// True when ContextRow is a memory row of the current page. False for row 0, and for a row that only a
+/// longer page has.
 bool ContextRowIsMemory();
 
-/// Selects ContextRow, alone or together with what is selected. Outside the grid it selects nothing.
+/// Selects ContextRow, alone or in addition to the selection. Selects nothing if it is outside the grid.
 void SelectContextRow(bool addToSelection);

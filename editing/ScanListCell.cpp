@@ -9,8 +9,8 @@ namespace {
 
 constexpr int Boxes = 5;
 
-/// The box (0 to 4) under a mouse position of the grid's window, -1 when there is none. width is that
-/// of all boxes.
+/// Returns the box (0 to 4) under a mouse position in the grid's window, -1 if there is none. width is that
+/// of all boxes together.
 int BoxAt(const wxPoint& position, int col, int width, const wxGrid* grid) {
     int left = 0;
     for (int before = 0; before < col; ++before)
@@ -27,7 +27,7 @@ int BoxAt(const wxPoint& position, int col, int width, const wxGrid* grid) {
 
 namespace {
 
-/// Whether the cell, by its column or by itself, is one of boxes.
+/// True if the cell has the renderer, editor and font of boxes, from its column or of its own.
 bool HasBoxes(const wxGrid* grid, int row, int col) {
     const wxGridCellRendererPtr renderer(grid->GetCellRenderer(row, col));
     const wxGridCellEditorPtr editor(grid->GetCellEditor(row, col));
@@ -39,7 +39,7 @@ bool HasBoxes(const wxGrid* grid, int row, int col) {
 
 void SetScanCell(wxGrid* grid, int row, int col, const wxString& text, bool flag) {
     grid->SetCellValue(row, col, text);
-    // The grid may hold an older answer than what the cell's attribute has become.
+    // The grid may have cached an outdated attribute of the cell.
     grid->RefreshAttr(row, col);
     if (HasBoxes(grid, row, col))
         return;
@@ -83,7 +83,7 @@ wxGridActivationResult ScanlistEditor::TryActivate(int row, int col, wxGrid* gri
     }
     if (box < 0)
         return wxGridActivationResult::DoNothing();
-    // Meant: without a number the mask is -1, and a key turns over a bit of that.
+    // Intentional: without a number the mask is -1, and a key flips a bit of that.
     m_value.Printf("%d", mask ^ 1 << box);
     return wxGridActivationResult::DoChange(m_value);
 }

@@ -1,22 +1,22 @@
-// The SCAN cell of pages whose channels belong to five scan lists: five boxes.
+// SCAN cell of pages whose channels belong to five scan lists: five boxes.
 #pragma once
 
 #include "editing/CellTextRenderer.h"
 
 #include <wx/grid.h>
 
-/// Puts text into a scan cell. A cell that hasn't got them by its column gets its editor, renderer and the
-/// grid's default font.
+/// Writes text into a scan cell. Sets the cell's editor and renderer and the grid's default font if its
+/// column doesn't provide them.
 void SetScanCell(wxGrid* grid, int row, int col, const wxString& text, bool flag);
 
-/// The scan lists of a row, bit 0 being list 1: 0 to 31. -1 when the row has no number; 0 when the
-/// cell is no number of that range.
+/// Returns the scan lists of a row as a mask from 0 to 31; bit 0 is list 1. -1 if the row has no number; 0 if
+/// the cell is not a number in that range.
 int GetScanMask(const wxGrid* grid, int row, int col);
 
-/// Five boxes, the first for bit 0, crossed where the bit is set. Empty for a negative mask.
+/// Returns five boxes, the first for bit 0, crossed where the bit is set. Empty for a negative mask.
 wxString ScanMaskText(int mask);
 
-/// Turns a box over by a click on it or by the keys "1" to "5".
+/// Toggles a box on a click on it or on the keys "1" to "5".
 class ScanlistEditor : public wxGridCellActivatableEditor {
 public:
     /// Nothing depends on flag.

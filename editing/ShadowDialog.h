@@ -1,4 +1,4 @@
-// Asks for the memory that a new shadow is to live in.
+// Asks for the memory number of a new shadow.
 #pragma once
 
 #include <wx/dialog.h>
@@ -12,7 +12,7 @@ public:
 
     bool TransferDataFromWindow() override;
 
-    /// What the user typed, as it stands, once OK has closed the dialog.
+    /// Returns the unchanged text that the user typed, after OK has closed the dialog.
     const wxString& EnteredText() const { return m_enteredText; }
 
 private:

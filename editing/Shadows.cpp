@@ -15,8 +15,8 @@ bool IsMemoryRow(int row) {
     return row >= 1 && row <= CurrentParameters().Rows;
 }
 
-/// True when the row can be one that a slot names. After rows have moved a slot can name a row of
-/// another memory, which must not be touched.
+/// True if the row can be one that a slot names. After rows have moved, a slot can name a row of another
+/// memory, which must not be changed.
 bool IsShadowRow(wxGrid* grid, int row) {
     return IsMemoryRow(row) && IsShadow(grid, row);
 }
@@ -91,8 +91,8 @@ void RemovePrimary(int row) {
 void RemoveShadow(int row) {
     wxGrid* grid = CurrentGrid();
     const int primary = GetMnumRow(ReadDecimal(grid->GetCellValue(row, PRIM)));
-    // Meant: the primary keeps its flag, its SHAD and its locks, also when its last shadow goes. A
-    // shadow that has been checked names itself here, and its primary's slot stays taken.
+    // Intentional: the primary keeps its flag, its SHAD and its locks, even when its last shadow is removed.
+    // Intentional: after a check, PRIM of a shadow names the shadow itself; the primary's slot stays taken.
     if (IsMemoryRow(primary))
         for (int col = SHD0; col <= SHD6; ++col)
             if (ReadDecimal(grid->GetCellValue(primary, col)) == row)

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// The character that a key press types, or a control code below 32 where it types none.
+/// Returns the character that a key press types, or a control code below 32 if it types none.
 int TypedCharacter(const wxKeyEvent& event) {
     if (const int character = static_cast<int>(event.GetUnicodeKey()))
         return character;
@@ -49,7 +49,7 @@ bool TextCellValidator::Validate(wxWindow* parent) {
 }
 
 wxString TextCellValidator::IsValid(const wxString& text) const {
-    // Meant: a good text is answered with a sentence too.
+    // Intentional: a valid text also returns a sentence.
     for (const wxUniChar character : text)
         if (!IsValidChar(character))
             return wxString::Format("'%s' contains invalid character(s)", text);
@@ -127,7 +127,7 @@ void TextCellValidator::OnText(wxCommandEvent& event) {
     m_expected.clear();
     m_isTooLong = false;
     if (!good) {
-        // The middle mouse button and a drop ask nobody before they insert.
+        // The middle mouse button and a drop insert text without asking first.
         const long caret = control->GetInsertionPoint();
         control->ChangeValue(m_text);
         control->SetInsertionPoint(std::min(caret, control->GetLastPosition()));
@@ -140,7 +140,7 @@ void TextCellValidator::OnText(wxCommandEvent& event) {
 }
 
 void TextCellValidator::OnTooLong(wxCommandEvent& event) {
-    // What was selected may be taken away for a text that then doesn't fit.
+    // The selection may be deleted for a text that then doesn't fit.
     m_isTooLong = true;
     event.Skip();
 }
@@ -155,7 +155,7 @@ void TextCellValidator::EndOwnChange() {
 
 namespace {
 
-/// While it lives, what changes the text of the control is its editor.
+/// Marks changes of the control's text as the editor's own during its lifetime.
 class OwnChange {
 public:
     explicit OwnChange(wxTextCtrl* control)

@@ -1,4 +1,4 @@
-// What the typed cells share: which keys and pastes their text control takes, and how an edit ends.
+// Base of the typed cells: which keys and pastes their text control accepts, and how an edit ends.
 #pragma once
 
 #include <wx/grid.h>
@@ -9,42 +9,42 @@
 class wxClipboardTextEvent;
 class wxTextCtrl;
 
-/// Refuses keys and pastes of characters that a cell can't hold, while the user types, and takes back what
-/// the mouse pastes or drops of them. Refusing is silent but for the bell.
+/// Refuses typed and pasted characters that a cell can't hold, and reverts insertions of such characters by
+/// mouse paste or drop. Refusing is silent except for the bell.
 class TextCellValidator : public wxValidator {
 public:
-    /// value is the text of the edit, which belongs to the editor; it may be null.
+    /// value is the text of the edit, owned by the editor; it may be null.
     explicit TextCellValidator(wxString* value) : m_value(value) {}
     TextCellValidator(const TextCellValidator& other) : wxValidator(other), m_value(other.m_value) {}
 
-    /// Asks IsValid about the control's text and shows its answer, which is never empty: so the
-    /// result is false, unless the control is disabled. The grid doesn't call this.
+    /// Passes the control's text to IsValid and shows the result, which is never empty. So this returns false
+    /// unless the control is disabled. The grid doesn't call this.
     bool Validate(wxWindow* parent) override;
 
-    /// A sentence that tells whether all characters of text can stand in the cell.
+    /// Returns a sentence that says whether the cell can hold all characters of text.
     virtual wxString IsValid(const wxString& text) const;
 
-    /// Whether a character can stand in the cell.
+    /// True if the cell can hold the character.
     virtual bool IsValidChar(wxUniChar character) const = 0;
 
-    /// The editor itself is about to change the control's text, which then stands whatever it is.
+    /// Announces a change of the control's text by the editor itself, which is accepted whatever the text.
     void BeginOwnChange() { m_isOwnChange = true; }
     void EndOwnChange();
 
 protected:
-    /// The control, or null when the validator's window isn't a text control.
+    /// Returns the control, or null if the validator's window isn't a text control.
     wxTextCtrl* Control() const;
 
-    /// Whether the key's character may be typed.
+    /// True if the key's character may be typed.
     virtual bool IsGoodKey(wxUniChar character) const { return IsValidChar(character); }
 
-    /// Whether inserted, all of whose characters are valid, may come between the two parts of the text.
+    /// True if inserted, whose characters are all valid, may go between the two parts of the text.
     virtual bool IsGoodInsertion(const wxString& left, const wxString& inserted, const wxString& right) const;
 
-    /// Whether a whole text, however it came, could have been typed key by key.
+    /// True if the complete text could have been typed key by key, however it was entered.
     virtual bool CouldBeTyped(const wxString&) const { return false; }
 
-    /// Whether the control's text is made upper case.
+    /// True if the control's text is converted to upper case.
     virtual bool WritesUpperCase() const { return false; }
 
     void OnChar(wxKeyEvent& event);
@@ -56,25 +56,25 @@ protected:
 
 private:
     bool MayInsert(const wxString& left, const wxString& inserted, const wxString& right) const;
-    /// Whether text can follow m_text: by the user's key or paste, or by an insertion that could have been
+    /// True if text can follow m_text: by the user's key or paste, or by an insertion that could have been
     /// either.
     bool MayFollow(const wxString& text) const;
     void MakeUpperCase();
 
-    /// The control's text as it was before the change that comes next.
+    /// The control's text before the next change.
     wxString m_text;
-    /// What a key or a paste, already found good, is about to insert.
+    /// Text that an accepted key or paste is about to insert.
     wxString m_expected;
     bool m_isOwnChange = false;
     bool m_isTooLong = false;
 };
 
-/// A text cell that is opened only by keys whose character it can hold.
+/// Text cell that opens only on keys whose character it can hold.
 class TextCellEditor : public wxGridCellTextEditor {
 public:
     explicit TextCellEditor(size_t width) : wxGridCellTextEditor(width), m_width(width) {}
 
-    /// Answers false for a key that StartingKey would refuse, so that it opens no edit.
+    /// Returns false for a key that StartingKey would refuse, so that the key opens no edit.
     bool IsAcceptedKey(wxKeyEvent& event) override;
     void BeginEdit(int row, int col, wxGrid* grid) override;
     void StartingKey(wxKeyEvent& event) override;
@@ -83,7 +83,7 @@ public:
 protected:
     size_t Width() const { return m_width; }
 
-    /// Whether an edit can be opened with the character.
+    /// True if the character can open an edit.
     virtual bool CanStartWith(wxUniChar character) const = 0;
 
 private:
@@ -92,8 +92,7 @@ private:
     size_t m_width;
 };
 
-/// A text cell whose text is finished when its edit ends, and the finished text is what reaches
-/// the table.
+/// Text cell that completes its text when its edit ends; the completed text is what reaches the table.
 class FinishedTextEditor : public TextCellEditor {
 public:
     using TextCellEditor::TextCellEditor;
@@ -102,7 +101,7 @@ public:
     bool EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) override;
 
 protected:
-    /// The finished form of what was typed; nothing when the cell has to stay as it was.
+    /// Returns the completed form of the typed text; nothing if the cell must stay unchanged.
     virtual std::optional<wxString> Finish(const wxString& typed) const = 0;
 
     /// The text kept between the phases of an edit.

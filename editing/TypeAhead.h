@@ -4,22 +4,22 @@
 #include <wx/arrstr.h>
 #include <wx/string.h>
 
-/// Position (from 0) of the first choice that begins with the text: in the same case if there is one, else in
-/// any case. wxNOT_FOUND when none does.
+/// Returns the position (0-based) of the first choice that begins with the text: in the same case if there is
+/// one, otherwise in any case. wxNOT_FOUND if there is none.
 int ChoiceBeginningWith(const wxArrayString& choices, const wxString& text);
 
-/// The characters typed in one edit. They add up, without regard to pauses: what is chosen depends on the
-/// keys alone. Where no choice has more than one character, each character begins anew.
+/// The characters typed in one edit. They accumulate regardless of pauses, so that the choice depends on the
+/// keys alone. If no choice has more than one character, each character starts over.
 class TypeAhead {
 public:
-    /// Adds a character. The position of the choice that all characters together begin; wxNOT_FOUND when they
-    /// begin none, in which case they stay until they are taken back.
+    /// Adds a character. Returns the position of the choice that begins with all characters typed;
+    /// wxNOT_FOUND if none does, in which case the characters stay until they are taken back.
     int Type(wxUniChar character, const wxArrayString& choices);
 
-    /// Takes the last character back and answers as Type; wxNOT_FOUND when none is left.
+    /// Removes the last character and returns as Type does; wxNOT_FOUND if no character is left.
     int TakeBack(const wxArrayString& choices);
 
-    /// Whether Type would find a choice.
+    /// True if Type would find a choice.
     bool Fits(wxUniChar character, const wxArrayString& choices) const;
 
     bool IsEmpty() const { return m_typed.empty(); }

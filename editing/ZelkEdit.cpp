@@ -14,13 +14,13 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// What the check of a cell gets to know.
+/// Arguments of a cell's check.
 struct CellToCheck {
     wxGrid* grid;
     int row;
     int column;
     wxString text;
-    /// RSQL or TSQL, whichever was met last, as its cell stood before its check.
+    /// Text of RSQL or TSQL, whichever came last, before its check.
     wxString squelch;
     MemoryNumberIndex* numbers;
 };
@@ -76,7 +76,7 @@ void CheckCellsOfRow(wxGrid* grid, int row, MemoryNumberIndex* numbers) {
         FitRowToItsBand(grid, row);
 }
 
-/// Makes the zone counters of the current page forget its rows, and the rows their slots.
+/// Clears the zone counters of the current page and the taken slots of its rows.
 void ForgetZones() {
     wxGrid* grid = CurrentGrid();
     std::fill_n(ZoneSlotsOf(CurrentPage), ZonesPerPage, 0);

@@ -16,18 +16,18 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// The entries of a constant list. The lists of RadioCatalogue would not do: the first page is made
-/// before they are filled.
+/// Returns the entries of a constant list. The lists of RadioCatalogue can't be used: the first page is
+/// created before they are filled.
 template <const auto& texts>
 const wxString* Choices() {
     static const wxArrayString list = ListOf(texts);
     return &list[0];
 }
 
-/// How the texts of a column stand.
+/// Alignment of a column's texts.
 enum class Placed { AsOthers, Centred, AtTheTopLeft };
 
-/// Sets up a column of a page. The grid takes editor and renderer over; null stands for its own.
+/// Sets up a column of a page. The grid takes ownership of editor and renderer; null selects the grid's own.
 wxGridCellAttr& SetColumn(wxGrid* grid, int col, Placed placed, wxGridCellEditor* editor = nullptr,
                           wxGridCellRenderer* renderer = nullptr) {
     auto* const attr = new wxGridCellAttr;
@@ -46,7 +46,7 @@ void LockCells(wxGrid* grid, int row, std::initializer_list<int> cols, bool read
         LockCell(grid, row, col, readOnly);
 }
 
-/// Writes texts that are right as they stand, whatever a check has said of the former ones.
+/// Writes texts known to be valid, and removes the paint of an earlier repair.
 void SetTexts(wxGrid* grid, int row, std::initializer_list<int> cols, const wxString& text) {
     for (int col : cols) {
         grid->SetCellValue(row, col, text);
@@ -85,18 +85,18 @@ wxGridCellEditor* NewBandEditor(int pageBand) {
     return new MDLXBandChoiceEditor(std::size(MdlxBands3), Choices<MdlxBands3>());
 }
 
-// The zones of both lists end before that of the guard rows, or the one that isn't scanned.
+// Neither list offers its last zone: that of the guard rows, or the one that isn't scanned.
 wxGridCellEditor* NewZoneEditor(int type) {
     return type == NP25 ? new P25ZoneEditor(std::size(ZoneNames32) - 1, Choices<ZoneNames32>())
                         : new P25ZoneEditor(std::size(ZoneNames16) - 1, Choices<ZoneNames16>());
 }
 
-/// Without "OFF", the first.
+/// Leaves out the first code, "OFF".
 wxGridCellEditor* NewCodeEditorWithoutOff() {
     return new ZelkChoiceEditor(std::size(CodeTexts) - 1, Choices<CodeTexts>() + 1);
 }
 
-/// Editors that cells of several columns or rows share: the keys of PageTable::SharedEditor.
+/// Keys of PageTable::SharedEditor, for editors shared by cells of several columns or rows.
 enum SharedEditorKey {
     AnalogSquelch,
     ReceiveDigitalSquelch,
@@ -109,7 +109,7 @@ wxGridCellEditorPtr FrequencyEditorOf(wxGrid* grid, int band) {
     return TableOf(grid).SharedEditor(FrequencyOfBand + band, [band] {
         const int step = GetChannelStep(CurrentParameters().Radio, band);
         auto* const editor = new FrequencyEditor(0, band, step);
-        // On an MDLX page that of the row was taken.
+        // On an MDLX page the constructor took the row's band.
         editor->SetEditorFreqParams(band, step);
         return editor;
     });
@@ -128,7 +128,7 @@ wxGridCellEditorPtr TransmitSquelchEditor(wxGrid* grid, bool digital, bool shado
                : TableOf(grid).SharedEditor(TransmitDigitalSquelch, NewLinkedEditor<TxDigitalSquelch>);
 }
 
-/// For an attribute, which takes the reference.
+/// Adds the reference that an attribute takes over.
 wxGridCellEditor* Referenced(const wxGridCellEditorPtr& editor) {
     editor->IncRef();
     return editor.get();
@@ -145,7 +145,7 @@ void SetNumberColumn(wxGrid* grid) {
               new MemoryNumberRenderer(rows % 10 != 0));
 }
 
-/// Whether tones of a page that isn't P25 have a list. Rows of the module have it in every band.
+/// True if tones have a list on a page that isn't P25. Rows of the module have it in every band.
 bool HasToneList(const PageParameterRecord& page) {
     return page.Type == MDLX ||
            (page.Band != Am108To138 && page.Band != Am118To138 && page.Band != Am225To400);
@@ -156,7 +156,7 @@ void SetScanColumn(wxGrid* grid, int type) {
         SetColumn(grid, SCAN, Placed::Centred, NewListEditor<ScanYesNo>());
         return;
     }
-    // Clicks find the boxes from the cell's left edge on.
+    // Clicks are mapped to boxes from the cell's left edge.
     SetColumn(grid, SCAN, Placed::AtTheTopLeft, new ScanlistEditor(false), new ScanlistRenderer)
         .SetFont(grid->GetDefaultCellFont());
 }
@@ -169,7 +169,7 @@ void SetColumns(wxGrid* grid) {
     SetScanColumn(grid, page.Type);
     SetColumn(grid, DESC, Placed::AsOthers, NewDescriptionEditor(page.Type));
     SetColumn(grid, MODE, Placed::Centred, NewListEditor<AnalogModes>());
-    // Rows of a module that were never used have the band of the default row.
+    // Unused rows of a module have the band of the default row.
     SetFrequencyColumns(grid, page.Type == MDLX ? GetRowBand(grid, 0) : page.Band);
     for (int col : {RTON, TTON})
         SetColumn(grid, col, Placed::Centred, HasToneList(page) ? NewLinkedEditor<ToneTexts>() : nullptr);
@@ -203,7 +203,7 @@ void SetColumnsP25(wxGrid* grid) {
     SetColumn(grid, TIDC, Placed::AsOthers, new wxGridCellNumberEditor(0, 9999999), new IDCNumberRenderer);
 }
 
-/// What the cells of a row have besides their columns' editors.
+/// Sets what the cells of a row need besides their columns' editors.
 void FitRow(wxGrid* grid, int row) {
     if (row == 0)
         LockCell(grid, 0, MNUM);
@@ -222,7 +222,7 @@ void FitRowP25(wxGrid* grid, int row) {
     SetSquelchChoices(grid, row, grid->GetCellValue(row, MODE), false);
 }
 
-/// What a page that was another radio's before, or rows that have moved, may have left read-only.
+/// Unlocks cells that the page's former radio, or rows that have moved, may have left read-only.
 void Unlock(wxGrid* grid, int row) {
     LockCells(grid, row, {MNUM, SCAN, ZONE, MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}, false);
 }
@@ -279,7 +279,7 @@ void SetFrequencyEditors(wxGrid* grid, int row, int band) {
 
 void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
     const int type = CurrentParameters().Type;
-    // A row that is still to be filled has the locks of its texts to come, but none of them.
+    // A row yet to be filled has the locks of its future texts, but not the texts.
     const bool hasTexts = !IsFilledByEdit(grid, row);
     if (band == Am118To138)
         return;
@@ -304,11 +304,11 @@ void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
         LockCells(grid, row, {RTON, TTON, RCOD, TCOD}, true);
         return;
     }
-    // Intentional: TCOD keeps the mark that a former band gave it until the page is set up again.
+    // Intentional: TCOD keeps the read-only mark of a former band until the page is set up again.
     LockCells(grid, row, {MODE, RTON, TTON, RCOD}, false);
     if (!IsP25Type(type))
         return;
-    // Intentional: TTON keeps the editor that it has.
+    // Intentional: TTON keeps its editor.
     TableOf(grid).SetEditor(row, RTON, wxGridCellEditorPtr());
     LockCell(grid, row, SCAN, grid->GetCellValue(row, ZONE) == ZoneNames32[NP25GuardZone]);
 }

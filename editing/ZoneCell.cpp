@@ -13,7 +13,8 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// Moves the count of a row's slot. Intentional: the default row holds none, so its zone moves none.
+/// Takes a slot of the zone for a row.
+/// Intentional: the default row holds no slot, so none is taken or released.
 bool TakeZone(int row, int zone) {
     return row == 0 ? zone != wxNOT_FOUND : TakeP25ZonePosition(zone);
 }
@@ -25,14 +26,14 @@ bool ReleaseZone(int row, const wxString& name) {
 } // namespace
 
 void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
-    // The last zone of a first generation radio is for its guard rows alone.
+    // The last zone of a first generation radio is reserved for its guard rows.
     const int limit = CurrentParameters().Type == RP25 ? RP25GuardZone - 1 : NP25GuardZone;
-    // The row holds no slot while the edit runs, so that its own zone is offered when that is full.
+    // The row's slot is released during the edit, so that its own zone is offered even if full.
     m_startZone = grid->GetCellValue(row, ZONE);
     m_slotReleased = ReleaseZone(row, m_startZone);
 
     const bool scanned = grid->GetCellValue(row, SCAN) == "Y";
-    // A memory's own zone has room now; the default row's may be full and is offered all the same.
+    // A memory's own zone has room now. The default row's may be full, but is offered anyway.
     const int ownOfDefaultRow = row == 0 ? FindZone(m_startZone) : wxNOT_FOUND;
     const int32_t* slots = ZoneSlotsOf(CurrentPage);
     wxString names;
@@ -46,7 +47,7 @@ void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
     }
     SetParameters(names);
     if (names.empty()) {
-        // No parameters have left the former list.
+        // SetParameters ignores an empty text and keeps the former list.
         m_choices.clear();
         Combo()->Clear();
     }
@@ -66,7 +67,7 @@ void P25ZoneEditor::ApplyEdit(int row, int, wxGrid* grid) {
     const int zone = FindZone(m_value);
     if (!TakeZone(row, zone))
         return;
-    // A blank row has been filled since the edit began, and given a zone.
+    // A blank row was filled after the edit began, and got a zone.
     if (before != m_startZone)
         ReleaseZone(row, before);
     grid->SetCellValue(row, ZONE, m_value);

@@ -1,4 +1,4 @@
-// The ZONE cell of P25 pages.
+// ZONE cell of P25 pages.
 #pragma once
 
 #include "editing/ListChoiceEditor.h"
@@ -6,7 +6,7 @@
 /// Offers the zones of the current page that have room and moves the row's slot to the chosen one.
 class P25ZoneEditor : public ListChoiceEditor {
 public:
-    /// count names to begin with, which are copied; each edit makes its own list.
+    /// count initial names, which are copied; each edit builds its own list.
     P25ZoneEditor(size_t count, const wxString names[], bool allowOthers = false)
         : ListChoiceEditor(count, names, allowOthers) {}
 

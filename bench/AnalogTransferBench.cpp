@@ -1,4 +1,4 @@
-// Analog transfers with a radio that keeps the line's pace.
+// Analog transfers with a radio that runs at line speed.
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "bench/PacedRadio.h"
@@ -18,7 +18,7 @@ namespace {
 constexpr PageCase RadioPage{"ANFM", Krv214, 0};
 constexpr int Rows = 102;
 
-// What the dialogue prescribes, in seconds.
+// Times that the dialogue prescribes, in seconds.
 constexpr double SlowCharacter = 0.350;
 constexpr double FastCharacter = 0.002;
 constexpr double WireByte = 10.0 / 9600;
@@ -30,9 +30,8 @@ constexpr int LineLength = 76;
 constexpr int WriteCommands = 5 + 3;
 constexpr int ReadCommands = 5 + 4;
 
-/// A line of n characters and its end, each with its pause; then the radio's byte comes back. The
-/// pauses are longer than a byte's time on the wire, so only that of the last one and of the answer
-/// could show, and the last pause covers the first of these two.
+/// Each line and its end are sent with a pause per character; then the radio's answer byte arrives. A pause
+/// is longer than a byte's time on the wire and covers it, so only the wire time of the answer is added.
 constexpr double WriteFloor = WriteCommands * SlowCharacter + OpeningWait +
                               Rows * ((LineLength + 1) * FastCharacter + WireByte) +
                               (3 + 74 + 1) * FastCharacter + ClosingDelay;
@@ -64,8 +63,8 @@ void Run(benchmark::State& state, bool read) {
 } // namespace
 
 void RegisterAnalogTransfer() {
-    // A read: every line with its end, and the short end line, arrive at the speed of the wire. The
-    // radio begins when it has the last character of the command, within that character's pause.
+    // In a read, every line with its end, and the short end line, arrive at wire speed. The radio starts when
+    // it has the last character of the command, during that character's pause.
     constexpr int ReadBytes = Rows * (LineLength + 1) + (3 + 1);
     constexpr double ReadFloor =
         (ReadCommands - 1) * SlowCharacter + (1 + ReadBytes) * WireByte + ClosingDelay;

@@ -1,4 +1,4 @@
-// Speed as ratios in one run: the program against what the toolkit and the wire need by themselves.
+// Speed as ratios in one run: the program against the bare toolkit and the wire.
 #include "bench/Benches.h"
 #include "bench/RatioReport.h"
 #include "frame/ZelkApp.h"
@@ -60,8 +60,8 @@ int main(int argc, char** argv) {
     report.SetAim("start", 1.2);
     report.SetAim("page", 1.5);
     report.SetAim("file", 1.5);
-    // Their floors are a few columns and texts, tenths of a millisecond. Attributes by cell would be 50 times
-    // that.
+    // Their floors are a few columns and texts and take tenths of a millisecond. Attributes per cell would
+    // take 50 times that.
     report.SetAim("SetPageEditors", 6);
     report.SetAim("OnInsertRow", 7);
     report.SetAim("OnDeleteRow", 10);

@@ -1,16 +1,16 @@
-// The groups of benchmarks; each registers its pairs of "/program" and "/floor".
+// Benchmark groups; each registers its pairs of "/program" and "/floor".
 #pragma once
 
 #include <string>
 
-/// From the start of a process to a window that answers: the program against a bare toolkit frame with
-/// one equal grid. self is this program's own path.
+/// Time from the start of a process to a responsive window: the program against a bare toolkit frame with an
+/// identical grid. self is the path of this program.
 void RegisterStart(const std::string& self);
 
-/// Making a page for each radio type.
+/// Creation of a page for each radio type.
 void RegisterPages();
 
-/// What six full pages of 502 rows add to the anonymous memory of the window as it starts.
+/// Anonymous memory that six full pages of 502 rows add to that of the window at its start.
 void RegisterMemory(const std::string& self);
 
 /// Opening a full channel file of each radio type.
@@ -22,26 +22,27 @@ void RegisterCsv();
 /// Importing full memory files, printed lists and lists of analog radios into pages of several sizes.
 void RegisterImports();
 
-/// The checks, set-ups and commands that go over a whole page, on full pages of several sizes.
+/// Checks, set-ups and commands that process all of a page, on full pages of several sizes.
 void RegisterEditing();
 
-/// Sending to and reading from a radio that keeps the line's pace, against the pauses and wire time
-/// that the protocol prescribes.
+/// Writing to and reading from a radio that runs at line speed, against the pauses and wire time that the
+/// protocol prescribes.
 void RegisterAnalogTransfer();
 
-/// The same with a digital radio, by the latest protocol and on a full page.
+/// The same for a digital radio, with the latest protocol and a full page.
 void RegisterDigitalTransfer();
 
-/// Rows made into the records of the digital radios and back, and the bare cells read and written.
+/// Conversion of rows into the records of the digital radios and back, and reading and writing of the bare
+/// cells.
 void RegisterRecordCodec();
 
 /// Laying out and drawing the sheets of a full page, against the toolkit drawing a plain grid in the same
 /// pieces.
 void RegisterPrint();
 
-/// The child processes of RegisterStart: run the program's window or the bare one until it answers,
-/// say so on standard output, and end.
+/// Child processes of RegisterStart: show the program's window or the bare one, report on standard output
+/// when it responds, and exit.
 int RunStartChild(bool bare, int argc, char** argv);
 
-/// The child process of RegisterMemory: prints what the pages have added, in KiB, and ends.
+/// Child process of RegisterMemory: prints the memory that the pages have added, in KiB, and exits.
 int RunMemoryChild(int argc, char** argv);

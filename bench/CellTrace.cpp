@@ -52,7 +52,7 @@ wxString TracingTable::GetValue(int row, int col) {
 }
 
 void TracingTable::SetValue(int row, int col, const wxString& text) {
-    // The grid looks at a cell before it writes it. Done again, it will do so by itself.
+    // The grid reads a cell before it writes it, and does so by itself in a replay.
     if (!m_trace.steps.empty()) {
         const CellTrace::Step& last = m_trace.steps.back();
         if (last.kind == CellTrace::Kind::Read && last.row == row && last.col == col)

@@ -1,4 +1,4 @@
-// What an operation does to the texts and rows of a grid, to be done again on another grid.
+// Record of what an operation does to the texts and rows of a grid, for replay on another grid.
 #pragma once
 
 #include "catalogue/PageTable.h"
@@ -13,26 +13,26 @@ struct CellTrace {
     enum class Kind : uint8_t { Read, Write, InsertRows, DeleteRows, AppendRows, Clear };
     struct Step {
         Kind kind;
-        int16_t row;       ///< of InsertRows and DeleteRows the first row
-        int16_t col;       ///< of InsertRows, DeleteRows and AppendRows the number of rows
-        uint16_t text = 0; ///< of Write
+        int16_t row;       ///< first row for InsertRows and DeleteRows
+        int16_t col;       ///< number of rows for InsertRows, DeleteRows and AppendRows
+        uint16_t text = 0; ///< index into texts, for Write
     };
-    /// Steps are small and each text is there once: to go through them must not cost what is measured.
+    /// Steps are small and each text is stored once, so that reading them doesn't distort the measurement.
     std::vector<Step> steps;
     std::vector<wxString> texts;
 
-    /// Does the steps in their order.
+    /// Performs the steps in order.
     void Replay(wxGrid* grid) const;
 };
 
-/// A grid's table of texts that writes down what is done to it. A text that a cell holds already does
-/// not get as far as the table: the grid only reads the cell, and so it counts as a read.
+/// A grid's table of texts that records its operations. Writing a text that a cell already holds counts as a
+/// read: the grid then only reads the cell and doesn't write to the table.
 class TracingTable : public PageTable {
 public:
-    /// A table with as many rows and columns as the other, and its texts.
+    /// Makes a table with as many rows and columns as the other, and with its texts.
     explicit TracingTable(wxGridTableBase& other);
 
-    /// What has been done so far; from here on the table writes down afresh.
+    /// Returns the operations so far and starts a new trace.
     CellTrace TakeTrace();
 
     wxString GetValue(int row, int col) override;
@@ -46,5 +46,5 @@ private:
     void Note(CellTrace::Kind kind, size_t row, size_t col);
 
     CellTrace m_trace;
-    std::map<wxString, uint16_t> m_positions; ///< of texts
+    std::map<wxString, uint16_t> m_positions; ///< index of each text in the trace
 };

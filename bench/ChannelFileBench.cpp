@@ -18,18 +18,18 @@
 
 namespace {
 
-/// Saves the current page, full, into the system's temporary folder. Its path.
+/// Fills the current page and saves it in the system's temporary folder. Returns the file's path.
 wxString SaveFullPage(const PageCase& page) {
     FillPage();
     PageStrings[CurrentPage].FileDir = wxFileName::GetTempDir() + "/";
     PageStrings[CurrentPage].FileName = wxString("zelk-bench-") + page.type;
     const wxString path = PageStrings[CurrentPage].FileDir + PageStrings[CurrentPage].FileName + ".zelk";
-    // Nobody answers the question about a file of an earlier run.
+    // No one would answer the question about a file of an earlier run.
     if (wxFileExists(path))
         wxRemoveFile(path);
     SaveZelkFile(CurrentPage, false);
     if (page.forcedType >= 0) {
-        // A file names this type only by hand: a save leaves the name out.
+        // A save omits the name of this type; only an edited file has it.
         wxTextFile file(path);
         file.Open();
         for (size_t line = 0; line < 10; ++line)
@@ -51,8 +51,8 @@ void OpenInProgram(benchmark::State& state, const wxString& path) {
     }
 }
 
-/// The toolkit alone, on a bare page: load the document, look at each element, empty the grid, set its
-/// columns up, write each text of the page.
+/// The toolkit alone, on a bare page: loads the document, visits each element, empties the grid, sets up its
+/// columns and writes each text of the page.
 void OpenBare(benchmark::State& state, const wxString& path) {
     const GridContent content = ContentOfCurrentPage();
     DropPage();

@@ -1,4 +1,4 @@
-// Comma-separated lists into a page and out of it.
+// Import and export of comma-separated lists.
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "bench/OperationRecord.h"
@@ -21,7 +21,7 @@
 
 namespace {
 
-/// As in the other groups, pages of one type in three sizes, besides the full ones of real radios.
+/// Pages of one type in three sizes, as in the other groups, besides the full pages of real radios.
 constexpr PageCase CsvPages[] = {
     {"NP25", Kdrv716B, 0, -1, 102}, {"NP25", Kdrv716B, 0, -1, 232},
     {"NP25", Kdrv716B, 0},          {"ANFM", Krv214, 0},
@@ -43,7 +43,7 @@ void ExportMemories(const wxString& path) {
     list.CloseCsv();
 }
 
-/// A full page whose memories are selected and in the list.
+/// Makes a full page whose memories are selected and exported to the list.
 void MakeListedPage(const PageCase& page) {
     MakePage(page);
     FillPage();
@@ -68,7 +68,7 @@ void RunImport(benchmark::State& state, const PageCase& page) {
     DropListedPage();
 }
 
-/// The toolkit alone: read the file, and read, write and paint the cells that the import does.
+/// The toolkit alone: reads the file, and reads, writes and paints the same cells as the import.
 void RunImportBare(benchmark::State& state, const PageCase& page) {
     MakeListedPage(page);
     const OperationRecord record = RecordOperation(EmptyPage, ImportList);
@@ -93,8 +93,8 @@ void RunExport(benchmark::State& state, const PageCase& page) {
     DropListedPage();
 }
 
-/// The toolkit alone: read the cells that are listed, write their texts into a file that replaces the
-/// former one.
+/// The toolkit alone: reads the cells to be listed and writes their texts into a file that replaces the
+/// previous one.
 void RunExportBare(benchmark::State& state, const PageCase& page) {
     MakeListedPage(page);
     TakeFastest(

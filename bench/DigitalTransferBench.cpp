@@ -1,4 +1,4 @@
-// Digital transfers of a full page, with a radio that keeps the line's pace.
+// Digital transfers of a full page, with a radio that runs at line speed.
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "bench/PacedRadio.h"
@@ -18,21 +18,21 @@
 
 namespace {
 
-/// KDRV-716B: 500 memories and two guards; the default row travels with them.
+/// KDRV-716B: 500 memories and two guards; the default row is transferred with them.
 constexpr PageCase RadioPage{"NP25", Kdrv716B, 0};
 constexpr int Records = 503;
 
-/// Told to the radio, so that the floor knows what is on the line: its stamp, which the program knows, so
+/// Set in the radio, so that the floor knows the traffic on the line: its stamp, which the program knows, so
 /// that nothing is purged; its serial number; and one hardware text.
 constexpr const char* Stamp = "20260102030405";
 constexpr const char* Serial = "SIM00716";
 constexpr const char* HardwareText = "KDRV-716B";
 
-// Characters of a line, its end among them.
+// Characters of a line, including its end.
 constexpr int DataLine(size_t dataBytes) {
     return static_cast<int>(2 + 2 + 4 + 2 * dataBytes + 2 + 1);
 }
-constexpr int Message = DataLine(1); // Ack, Nak and all that is only a number
+constexpr int Message = DataLine(1); // Ack, Nak and all messages of only a number
 constexpr int HelloLine = DataLine(4);
 constexpr int SpeedLine = DataLine(3);
 constexpr int ModesLine = DataLine(2);
@@ -46,18 +46,18 @@ constexpr int SlowCharacters = 3 * (HelloLine + Message) + SpeedLine + Message;
 /// Modes; serial number, hardware text and their end; firmware version.
 constexpr int QuestionCharacters = Message + ModesLine + Message + DataLine(8) + Message + DataLine(9) +
                                    Message + EndLine + Message + VersionLine;
-/// The stamp asked for or set, and what is announced.
+/// The stamp, requested or set, and the announcement.
 constexpr int OpeningCharacters = Message + StampLine + 2 * Message;
 constexpr int WriteCharacters = Records * (MemoryLine + Message);
-/// The acknowledgement of the last memory fetches the end.
+/// The acknowledgement of the last memory requests the end line.
 constexpr int ReadCharacters = Records * (Message + MemoryLine) + Message + EndLine;
 
-// What the dialogue prescribes, in seconds.
+// Times that the dialogue prescribes, in seconds.
 constexpr double SlowCharacter = 10.0 / 9600, FastCharacter = 10.0 / 115200;
 constexpr double SpeedDelay = 0.050, ClosingDelay = 1.0;
 
-/// The line carries one character at a time: each side waits for the other's line. The end line of a write
-/// goes out within the closing delay.
+/// Each side waits for the other's line, so the wire carries one character at a time. The end line of a write
+/// is sent within the closing delay.
 constexpr double FloorOf(int memoryCharacters) {
     return SlowCharacters * SlowCharacter + SpeedDelay +
            (QuestionCharacters + OpeningCharacters + memoryCharacters) * FastCharacter + ClosingDelay;

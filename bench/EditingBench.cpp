@@ -1,4 +1,4 @@
-// What editing does to whole pages: set-up, checks, and the row and column commands.
+// Editing of full pages: set-up, checks, and the row and column commands.
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "bench/OperationRecord.h"
@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Says OK to the question before a command.
+/// Answers OK to the question before a command.
 class SayOk : public wxModalDialogHook {
 public:
     SayOk() { Register(); }
@@ -27,9 +27,9 @@ protected:
     int Enter(wxDialog*) override { return wxID_OK; }
 };
 
-/// Growth can only be seen between pages of one type, but no type's radios come in three such sizes:
-/// besides the pages of real radios (NP25 with 502 rows, RP25 with 232, ANFM with 102) these are pages
-/// whose number of rows is set to that of the others.
+/// Growth can only be seen between pages of one type, but no type has radios of three such sizes. Besides the
+/// pages of real radios (NP25 with 502 rows, RP25 with 232, ANFM with 102), there are pages set to the number
+/// of rows of the others.
 constexpr PageCase EditingPages[] = {
     {"NP25", Kdrv716B, 0, -1, 102},
     {"NP25", Kdrv716B, 0, -1, 232},
@@ -49,7 +49,7 @@ int MiddleRow(const wxGrid* grid) {
     return LastRow(grid) / 2;
 }
 
-/// What the user has selected before each command.
+/// Selections that the user makes before the commands.
 void SelectNothing(wxGrid* grid) {
     grid->ClearSelection();
 }
@@ -106,8 +106,8 @@ void InsertRowBare(wxGrid* grid, const OperationRecord& record) {
     DoTextsAndColumns(grid, record);
 }
 
-/// The grid deletes and appends the rows one by one; the guard rows leave before and come back after.
-/// The record is that of setting the editors anew.
+/// Deletes and appends the rows one by one; removes the guard rows before and restores them after. The record
+/// covers only setting the editors again.
 void DeleteRowsBare(wxGrid* grid, const OperationRecord& record) {
     AskBare();
     const int last = LastRow(grid), firstGuard = last - 1;
@@ -151,7 +151,7 @@ struct Operation {
     const char* name;
     void (*select)(wxGrid*);
     void (*program)();
-    void (*recorded)(); ///< what of it the floor takes from a record
+    void (*recorded)(); ///< the part that the floor takes from a record
     void (*floor)(wxGrid*, const OperationRecord&);
 };
 
@@ -221,7 +221,7 @@ void RegisterSide(const Operation& operation, const PageCase& page, bool floor) 
 } // namespace
 
 void RegisterEditing() {
-    // Pass after pass, so that what else the machine does for a while can't spoil one case alone.
+    // Several passes, so that a temporary load on the machine can't spoil one case alone.
     constexpr int Passes = 6;
     for (int pass = 0; pass < Passes; ++pass)
         for (const Operation& operation : Operations)

@@ -1,4 +1,4 @@
-// Files of older programming software into a page.
+// Import of files of older programming software.
 #include "bench/Benches.h"
 #include "bench/OperationRecord.h"
 #include "bench/PageSide.h"
@@ -19,7 +19,8 @@
 
 namespace {
 
-/// A page of the digital radio as no radio has it: its rows are full without numbers that move.
+/// KDRV-716 pages, some of sizes that no radio has. An import shifts none of their numbers, so it fills all
+/// rows.
 constexpr PageCase DigitalPages[] = {
     {"NP25", Kdrv716, 0, RadioCatalogue::NP25, 102},
     {"RP25", Kdrv716, 0},
@@ -43,7 +44,7 @@ std::string FrequencyOf(int row) {
     return wxString::Format("%08.4f", 138 + row * 0.0125).utf8_string();
 }
 
-/// A plain memory.
+/// Returns the record of a plain memory.
 std::string BinaryRecordOf(int row) {
     std::string record(106, '\0');
     const auto word = [&record](size_t at, int value) {
@@ -139,7 +140,7 @@ wxString Path() {
     return wxFileName::GetTempDir() + "/zelk-bench-import";
 }
 
-/// A full page, and a file with a memory for each of its rows.
+/// Makes a full page and a file with a memory for each of its rows.
 template <MakeFile make>
 void MakeImportedPage(const PageCase& page) {
     MakePage(page);
@@ -166,7 +167,7 @@ void RunImport(benchmark::State& state, const PageCase& page) {
     wxRemoveFile(Path());
 }
 
-/// Reads the file in the toolkit's way: a list of analog radios as lines, others whole.
+/// Reads the file with toolkit functions: a list of analog radios line by line, others in one piece.
 void ReadFileBare(bool byLines) {
     if (byLines) {
         wxTextFile file;
@@ -179,7 +180,7 @@ void ReadFileBare(bool byLines) {
     }
 }
 
-/// The toolkit alone: read the file, do with the cells what the import does.
+/// The toolkit alone: reads the file and does the same to the cells as the import.
 template <MakeFile make>
 void RunBare(benchmark::State& state, const PageCase& page) {
     MakeImportedPage<make>(page);

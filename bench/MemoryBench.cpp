@@ -1,4 +1,4 @@
-// What full pages add to the memory of the window.
+// Memory that full pages add to the window.
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "catalogue/PageCreation.h"
@@ -23,7 +23,7 @@ namespace {
 /// Its pages have 502 rows.
 constexpr int Radio = RadioCatalogue::Kdrv716B;
 
-/// Memory of this process that is backed by no file, in KiB; -1 when the system doesn't tell.
+/// Returns this process's memory that isn't backed by a file, in KiB; -1 if the system doesn't report it.
 long AnonymousMemory() {
     std::ifstream status("/proc/self/status");
     for (std::string word; status >> word;)
@@ -35,7 +35,7 @@ long AnonymousMemory() {
     return -1;
 }
 
-/// Lets the window draw all that it has to.
+/// Lets the window finish its drawing.
 void Settle() {
     for (int i = 0; i < 20; ++i) {
         wxTheApp->Yield();
@@ -43,8 +43,7 @@ void Settle() {
     }
 }
 
-/// Makes the window's first page one of 502 rows, and adds pages of that size until there is no room for
-/// more.
+/// Makes the window's first page one of 502 rows and adds pages of that size up to the page limit.
 void MakeSixPages() {
     const PageParameterRecord former = PageParameters[0];
     SetPageParameters(MainFrame, 0, Radio, 0);

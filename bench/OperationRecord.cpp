@@ -29,7 +29,7 @@ OperationRecord RecordOperation(const std::function<void()>& prepare,
     record.before = ContentOfCurrentPage();
     auto* table = new TracingTable(*grid->GetTable());
     grid->SetTable(table, true);
-    // The attributes went with the former table.
+    // The previous table took the attributes with it.
     SetPageEditors(CurrentPage);
     prepare();
     table->TakeTrace();

@@ -1,5 +1,4 @@
-// What an operation of the program does to texts and paint of the current page, written down while it runs
-// once.
+// Record of what a program operation does to texts and paint of the current page, taken during one run.
 #pragma once
 
 #include "bench/CellTrace.h"
@@ -11,13 +10,14 @@
 struct OperationRecord {
     GridContent before;
     CellTrace trace;
-    /// Cells of memories that are painted when the operation has ended.
+    /// Cells of memories that are painted after the operation.
     std::vector<wxGridCellCoords> painted;
 
-    /// Does the same to the texts and paint of a grid of the same size that has the content before.
+    /// Applies the same changes to the texts and paint of a grid of the same size that has the content
+    /// `before`.
     void Redo(wxGrid* grid) const;
 };
 
-/// Does the operation once, on the current page, and tells what it did. prepare comes before it and
-/// is not told of. The page's grid goes on recording: drop the page.
+/// Runs the operation once, on the current page, and returns what it did. prepare runs first and isn't
+/// recorded. The page's grid keeps recording: drop the page.
 OperationRecord RecordOperation(const std::function<void()>& prepare, const std::function<void()>& operation);

@@ -1,4 +1,4 @@
-// A simulated radio that keeps the line's pace, for transfers that are timed.
+// A simulated radio that runs at line speed, for timed transfers.
 #pragma once
 
 #include "robot/RadioProcess.h"
@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-/// Plays a radio on a port of its own from its construction to its destruction. Options are those of
-/// zelk-radio. Its folder holds the port, the memories and what the caller puts there.
+/// Runs a radio on a port of its own from construction to destruction. Options are those of zelk-radio. Its
+/// folder holds the port, the memories and files of the caller.
 class PacedRadio {
 public:
     PacedRadio(const std::string& model, const std::vector<std::string>& options);
@@ -21,16 +21,16 @@ public:
 
     std::filesystem::path Port() const { return m_process.Port(); }
 
-    /// The folder of all radios of this process; made if it isn't there.
+    /// Returns the folder of all radios of this process; creates it if missing.
     static std::filesystem::path Folder();
 
 private:
     testbench::RadioProcess m_process;
 };
 
-/// Seconds that a transfer took; one that didn't end as complete spoils the benchmark.
+/// Returns the seconds that a transfer took. Any status except complete fails the benchmark.
 ///
-/// @param transfer runs it and answers its TransferStatus
+/// @param transfer runs the transfer and returns its TransferStatus
 template <class F>
 double TimedTransfer(benchmark::State& state, F&& transfer) {
     constexpr int complete = 1;
@@ -40,5 +40,5 @@ double TimedTransfer(benchmark::State& state, F&& transfer) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
-/// The prescribed time itself: such a floor is computed, not measured.
+/// Sets the prescribed time itself: such a floor is computed, not measured.
 void Prescribed(benchmark::State& state, double seconds);

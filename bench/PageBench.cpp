@@ -1,4 +1,4 @@
-// Making a page, for each radio type.
+// Creation of a page, for each radio type.
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "bench/ToolkitFloor.h"
@@ -19,7 +19,7 @@ void MakePages(benchmark::State& state, const PageCase& page) {
     }
 }
 
-/// The content that such a page has, taken from one that the program has made.
+/// Returns the content of such a page, taken from one that the program has made.
 GridContent ContentOf(const PageCase& page) {
     MakePage(page);
     const GridContent content = ContentOfCurrentPage();

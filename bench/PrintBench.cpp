@@ -19,10 +19,10 @@ namespace {
 /// The page with the most rows.
 constexpr PageCase FullestPage = {"NP25", Kdrv716B, 0};
 
-/// A4 with 150 pixels an inch.
+/// A4 at 150 pixels per inch.
 constexpr int PixelsPerInch = 150;
 const wxSize SheetSize(1240, 1754);
-/// What the margins and the heading leave of it.
+/// Area of the sheet inside the margins and below the heading.
 const wxPoint GridPosition(88, 124);
 const wxSize GridSize(1064, 1542);
 
@@ -39,7 +39,7 @@ private:
     wxMemoryDC m_dc;
 };
 
-/// Lays the page out and draws all its sheets. How many rows went onto each.
+/// Lays out the page and draws all its sheets. Returns the number of rows per sheet.
 int PrintPage(wxMemoryDC& dc) {
     ZelkPrintout printout(MainFrame, CurrentGrid(), PageStrings[CurrentPage].RadioName);
     printout.SetPPIScreen(96, 96);

@@ -12,7 +12,7 @@ void RatioReport::ReportRuns(const std::vector<Run>& runs) {
             m_failed = true;
             continue;
         }
-        // "group/case/side" and then what the library appends.
+        // "group/case/side", without what the library appends.
         const std::string& name = run.run_name.function_name;
         const size_t slash = name.rfind('/');
         const std::string pairName = name.substr(0, slash);

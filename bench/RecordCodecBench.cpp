@@ -1,4 +1,4 @@
-// How fast memory rows become records and records become rows.
+// Speed of the conversion between memory rows and records.
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "catalogue/PageModel.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-/// KDRV-716B, and its memories that each layout carries.
+/// KDRV-716B and the number of its memories that each layout carries.
 constexpr PageCase RadioPage{"NP25", Kdrv716B, 0};
 constexpr int RowsOfV1 = RadioCatalogue::RP25Memories, RowsOfV2 = RadioCatalogue::NP25Memories;
 
@@ -39,7 +39,7 @@ void Encode(benchmark::State& state, Encoder encode, int rows) {
     DropPage();
 }
 
-/// Makes rows that hold no zones, as a read finds them.
+/// Removes the rows from their zones: a read finds them without zones.
 void ForgetZones(int rows) {
     ClearZoneSlots(CurrentPage);
     for (int row = 1; row <= rows; ++row)
@@ -63,7 +63,7 @@ void Decode(benchmark::State& state, Encoder encode, Decoder decode, int rows) {
     DropPage();
 }
 
-/// The texts of a row and of the default row, as a record is made from them.
+/// Reads the texts of a row and of the default row, as the making of a record does.
 void ReadBare(benchmark::State& state) {
     OpenFullPage();
     for ([[maybe_unused]] auto _ : state)

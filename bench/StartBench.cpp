@@ -1,4 +1,4 @@
-// From the start of a process to a window that answers.
+// Time from the start of a process to a responsive window.
 #include "bench/Benches.h"
 #include "bench/ToolkitFloor.h"
 #include "catalogue/PageModel.h"
@@ -48,7 +48,7 @@ public:
     }
 };
 
-/// A frame of the same size with one grid like that of the program's first page.
+/// Frame of the program's size with one grid like that of the program's first page.
 class BareChild : public wxApp {
 public:
     bool OnInit() override {

@@ -1,4 +1,4 @@
-// Short work, timed many times.
+// Timing of short work in many rounds.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <chrono>
 
-/// Runs prepare and work by turns and gives the benchmark the fastest work.
+/// Runs prepare and work alternately and reports the fastest work to the benchmark.
 template <class Prepare, class Work>
 void TakeFastest(benchmark::State& state, Prepare prepare, Work work) {
     using Seconds = std::chrono::duration<double>;

@@ -13,7 +13,7 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// The columns of one kind that pages of a type have.
+/// Columns of a page type, by kind.
 struct BareColumns {
     std::vector<int> numbers, choices, texts, rendered, centred;
 };
@@ -38,7 +38,7 @@ BareColumns ColumnsOf(int type) {
     return columns;
 }
 
-/// As many choices as the column's list has.
+/// Returns as many choices as the column's list has.
 wxArrayString ChoicesOf(int type, int col) {
     if (col == RTON || col == TTON)
         return IsP25Type(type) ? ListOf(CtcssTexts) : ListOf(ToneTexts);

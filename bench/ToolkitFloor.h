@@ -1,4 +1,4 @@
-// What the toolkit alone needs for the same cells.
+// Work of the toolkit alone for the same cells.
 #pragma once
 
 #include "catalogue/MemoryRow.h"
@@ -11,26 +11,26 @@ class wxGrid;
 class wxNotebook;
 class wxWindow;
 
-/// What a page's grid holds: its type, which says what its columns are edited with, and its texts.
+/// Content of a page's grid: its texts, and its type, which determines the editors of its columns.
 struct GridContent {
     int type = 0;
-    int rows = 0; ///< grid rows, the default row counted
+    int rows = 0; ///< grid rows, including the default row
     std::vector<wxArrayString> texts;
     wxString radioName;
 };
 
-/// The content of the current page.
+/// Returns the content of the current page.
 GridContent ContentOfCurrentPage();
 
-/// A grid of the same size, columns and labels, made bare.
+/// Makes a bare grid of the same size, columns and labels.
 wxGrid* MakeBareGrid(wxWindow* parent, const GridContent& content);
 
-/// Editor, renderer and alignment of each column that a page of the type edits, of the toolkit's own plain
-/// classes, as a toolkit user would set them.
+/// Sets editor, renderer and alignment of each column that a page of the type edits. Uses the toolkit's own
+/// plain classes, as a toolkit user would.
 void SetBareColumns(wxGrid* grid, int type);
 
-/// The cells that have text.
+/// Writes the cells that have text.
 void WriteTexts(wxGrid* grid, const GridContent& content);
 
-/// Panel, grid, columns, texts and tab. The grid.
+/// Adds panel, grid, columns, texts and tab. Returns the grid.
 wxGrid* AddBarePage(wxNotebook* notebook, const GridContent& content);

@@ -1,4 +1,4 @@
-// Channel lines of the analog radios, on the page of a module, whose rows have a band each.
+// Channel lines of the analog radios, on the page of a module, where each row has its own band.
 #include "fuzz/RecordFuzz.h"
 #include "transfer/AnalogInformation.h"
 #include "transfer/AnalogRecord.h"

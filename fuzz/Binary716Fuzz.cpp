@@ -1,4 +1,4 @@
-// Binary memory files of the KDRV-716 family: the input is a header, which is passed over, and records.
+// Binary memory files of the KDRV-716 family: the input is a header, which is skipped, and records.
 #include "files/FileKind.h"
 #include "files/Import716.h"
 #include "fuzz/FileFuzz.h"

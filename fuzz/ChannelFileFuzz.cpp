@@ -1,4 +1,4 @@
-// The channel file: what Open reads.
+// Channel files, as read by Open.
 #include "catalogue/PageModel.h"
 #include "editing/PageReset.h"
 #include "files/XmlFile.h"

@@ -1,4 +1,4 @@
-// Lines of comma-separated lists, and what both dialects make of them, without a window.
+// Lines of comma-separated lists, read in both dialects without a window.
 #include "files/CsvReader.h"
 
 #include <wx/init.h>
@@ -24,7 +24,7 @@ std::string_view WithoutMark(std::string_view bytes) {
     return bytes.starts_with(mark) ? bytes.substr(mark.size()) : bytes;
 }
 
-/// Takes the next line off bytes, with the line ends behind it.
+/// Takes the next line off bytes, with the line ends after it.
 std::string_view NextLine(std::string_view& bytes) {
     const std::string_view line = bytes.substr(0, bytes.find_first_of("\r\n"));
     bytes.remove_prefix(line.size());
@@ -32,7 +32,7 @@ std::string_view NextLine(std::string_view& bytes) {
     return line;
 }
 
-/// What a line without quotes is split into, by counting alone.
+/// Checks the fields of a line without quotes by counting alone.
 void DemandSplitAtCommas(std::string_view line, const std::vector<std::string>& fields) {
     const auto commas = static_cast<size_t>(std::count(line.begin(), line.end(), ','));
     Demand(fields.size() == commas + 1, "the count of fields is not that of the commas and one");
@@ -43,8 +43,8 @@ void DemandSplitAtCommas(std::string_view line, const std::vector<std::string>& 
     Demand(line.empty(), "the fields are not the whole line");
 }
 
-/// Quotes keep commas from splitting and go away themselves. A comma splits where the quotes before it are
-/// of an even number, doubled ones being two.
+/// Checks the fields of a line with quotes, which protect commas and are removed. A comma splits the line if
+/// the number of quotes before it is even; a doubled quote counts as two.
 void DemandSplitOutsideQuotes(std::string_view line, const std::vector<std::string>& fields) {
     size_t commas = 0, characters = 0;
     bool quoted = false;
@@ -87,7 +87,7 @@ void CheckTexts(const CsvTexts& texts) {
 
 void CheckData(std::string_view bytes, CsvReader::Dialect dialect) {
     CsvReader reader(bytes, dialect);
-    // The list of the KDAR-2000 has its banner in front.
+    // The list of the KDAR-2000 begins with its banner.
     if (dialect == CsvReader::Dialect::Kdar)
         reader.GetHeader_CSV();
     const bool found = reader.GetHeader_CSV();

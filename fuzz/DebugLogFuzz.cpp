@@ -1,4 +1,4 @@
-// The radio's debug log, both generations: records of one log, a line each.
+// The radio's debug log, both generations: records of one log, one per line.
 #include "transfer/DebugLog.h"
 #include "transfer/TransferContext.h"
 

@@ -1,4 +1,4 @@
-// What the fuzzers of foreign files share: the input as a file, and one page, which takes many of them.
+// Common part of the fuzzers of foreign files: the input as a file, and one page for many inputs.
 #pragma once
 
 #include "catalogue/RadioTables.h"
@@ -11,8 +11,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-/// Writes the input into a file, lets the importer find out its kind, and hands the path to read, which
-/// writes into the grid of a page of that radio and band slot. To be called with the same page always.
+/// Writes the input into a file, has the importer identify its kind and passes the path to read, which writes
+/// into the grid of a page of that radio and band slot. Always call it with the same page.
 template <class Read>
 int FuzzFile(const std::uint8_t* data, std::size_t size, int radio, int bandIndex, Read read) {
     constexpr int filesOfPage = 100;

@@ -1,4 +1,4 @@
-// Lists of the analog radios, on the page of a module, whose rows have a band each.
+// Lists of the analog radios, on the page of a module, where each row has its own band.
 #include "files/ImportMultiZEL.h"
 
 #include "fuzz/FileFuzz.h"

@@ -1,4 +1,4 @@
-// What the fuzzers of single records share: one page, which takes many of them.
+// Common part of the fuzzers of single records: one page for many inputs.
 #pragma once
 
 #include "catalogue/PageModel.h"
@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <wx/string.h>
 
-/// Hands the input, as a line, to decode, which writes into the grid of a page of that radio and band slot.
-/// To be called with the same page always.
+/// Passes the input, as a line, to decode, which writes into the grid of a page of that radio and band slot.
+/// Always call it with the same page.
 template <class Decode>
 int FuzzRecord(const std::uint8_t* data, std::size_t size, int radio, int bandIndex, Decode decode) {
     constexpr int recordsOfPage = 500;

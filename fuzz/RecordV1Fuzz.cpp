@@ -1,4 +1,4 @@
-// Memory records of the digital radios, layout V1, and what is done with any line of theirs.
+// Memory records of the digital radios, layout V1, and the checks that all their lines go through.
 #include "fuzz/RecordFuzz.h"
 #include "transfer/TRecord.h"
 #include "transfer/TRecordCodec.h"

@@ -22,15 +22,15 @@ namespace {
 
 constexpr wxChar Acknowledgement = 0x05;
 constexpr int EndLineBlanks = 74;
-/// Up to this count of rows "300" in a received line is no channel but the end.
+/// Highest row count at which "300" in a received line marks the end.
 constexpr int NumberedEndRows = 200;
 
-/// True for radios whose sending the user starts with a key of the radio.
+/// True for radios that start sending when the user presses one of their keys.
 bool StartsWithKey(int radio) {
     return radio >= Krv610 && radio <= Kdrv8400;
 }
 
-/// Takes what stands before and with the acknowledgement out of the buffer.
+/// Removes the acknowledgement and everything before it from the buffer.
 void DropAcknowledgement(TransferContext& context) {
     context.RxBuffer = context.RxBuffer.Mid(static_cast<std::size_t>(context.FoundAt) + 1);
 }
@@ -62,7 +62,7 @@ void AskForKey(TransferContext& context, int radio) {
                  "Read channel data from radio", wxOK | wxCENTRE, context.Progress);
 }
 
-/// Radios print headings before their list; it begins with channel 1. False for a line without it.
+/// Removes the headings that radios print before channel 1. False for a line without that channel.
 bool CutToFirstChannel(wxString& line) {
     const int start = line.Find("001");
     if (start == wxNOT_FOUND)
@@ -114,7 +114,7 @@ TransferStatus ReadChannels(TransferContext& context, wxGrid* grid) {
         if (status == TransferTimeout)
             break;
         TakeReceivedLine(context);
-        // Its parity bits were cleared when it came: acknowledgements and line ends have them too.
+        // The parity bits were cleared on arrival, because acknowledgements and line ends have them too.
         context.RxLine = PrintableText(context.RxLine).Trim(false);
         if (!started && !CutToFirstChannel(context.RxLine))
             continue;

@@ -13,7 +13,7 @@
 
 namespace {
 
-/// False when the radio has no configuration. The gauge counts lines.
+/// Sets the gauge to count lines. False if the radio has no configuration.
 bool PrepareGauge(TransferContext& context) {
     const int count = static_cast<int>(context.ConfigCount);
     if (count < 1)
@@ -22,13 +22,13 @@ bool PrepareGauge(TransferContext& context) {
     return true;
 }
 
-/// Intentional: unlike a digital radio's text (IsGoodConfigText), a line that lacks fields is good if those
-/// that it has add up.
+/// Intentional: unlike in a digital radio's text (IsGoodConfigText), fields may be missing if the others add
+/// up.
 bool HasGoodChecksum(const wxString& line) {
     return HasConfigChecksum(wxSplit(line, ':', '\\'));
 }
 
-/// Sends one line and takes the radio's answer.
+/// Sends one line and checks the radio's answer.
 TransferStatus WriteConfigLine(TransferContext& context, const wxString& line) {
     SendPaced(context, line, false);
     WriteTransferLog(context.LogFile, ">" + line);

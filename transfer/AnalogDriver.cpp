@@ -45,7 +45,8 @@ void Report(TransferContext& context, TransferMode mode) {
     }
 }
 
-/// Asks the radio for its information block. TransferOk also when it doesn't answer: it is unknown then.
+/// Asks the radio for its information block. Returns TransferOk also if it doesn't answer; the block is then
+/// unchanged.
 TransferStatus AskForInformation(TransferContext& context, wxString& block) {
     SendPaced(context, "SV", false);
     context.RxLine.clear();
@@ -76,7 +77,8 @@ wxString ChannelCommand(std::uint32_t rows, const wxString& shortForm, const wxS
     return rows > ShortCommandRows ? CountedCommand(longForm, rows) : shortForm + "\r";
 }
 
-/// Sets TxLine and StatusText for the mode. TransferOk, or the status with which there is nothing to open.
+/// Sets TxLine and StatusText for the mode. Returns TransferOk, or the status with which the transfer ends
+/// here.
 TransferStatus ChooseCommand(TransferContext& context, TransferMode mode) {
     switch (mode) {
     case WriteChannelsMode:
@@ -122,7 +124,7 @@ TransferStatus RunExchange(TransferContext& context, wxGrid* grid, TransferMode 
 TransferStatus Exchange(TransferContext& context, wxGrid* grid, TransferMode mode) {
     const PageParameterRecord& page = CurrentParameters();
     const int pibNumber = GetPibNumber(page.Radio);
-    // Some radios set it on everything, acknowledgements and line ends too.
+    // Some radios set the parity bit on everything, including acknowledgements and line ends.
     context.Arriving = ClearParity;
     context.StatusText = "Initializing....";
     ShowStatus(context);
@@ -139,7 +141,7 @@ TransferStatus Exchange(TransferContext& context, wxGrid* grid, TransferMode mod
         return status;
     if (pibNumber != 0) {
         SendPaced(context, wxString::Format("rt\r%d\r", pibNumber), true);
-        // Radios that need the opening begin to send with the character behind the command.
+        // Radios that need the opening start sending at the character after the command.
         if (mode == ReadChannelsMode)
             context.TxLine += " ";
     }

@@ -1,4 +1,4 @@
-// Commands and lines on their way to an analog radio.
+// Paced sending of commands and lines to an analog radio.
 #include "transfer/AnalogDialogue.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferTimes.h"

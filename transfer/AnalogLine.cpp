@@ -15,29 +15,29 @@ constexpr int ScanWidth = 5;
 constexpr int HighestScanMask = 31;
 constexpr int NoTone = 64; // the second "OFF" of ToneList
 constexpr std::size_t NumberWidth = 3;
-constexpr std::size_t FormMark = 45; // where the forms part
+constexpr std::size_t FormMark = 45; // position at which the forms differ
 
 bool IsDigits(const wxString& text) {
     return std::all_of(text.begin(), text.end(), [](wxUniChar c) { return c >= '0' && c <= '9'; });
 }
 
-/// "OFF" and "n/a" read as a code that sets nothing.
+/// Replaces "OFF" and "n/a" with a code that sets nothing.
 wxString NothingAsZeros(const wxString& text) {
     return text == "OFF" || text == "n/a" ? wxString("000") : text;
 }
 
-/// Lines have three digits before the point, cells no more than needed.
+/// Lines have three digits before the point, cells only as many as needed.
 wxString WithoutLeadingZero(const wxString& frequency) {
     return frequency.StartsWith("0") ? frequency.Mid(1) : frequency;
 }
 
-/// A field's cell text; none for a field that the line didn't hold whole.
+/// Returns a field's cell text; no value for a field that the line cut short.
 template <typename Reader>
 std::optional<wxString> IfWhole(const wxString& field, Reader read) {
     return field.empty() ? std::nullopt : std::optional<wxString>(read(field));
 }
 
-/// The module has tone or code.
+/// The module uses either a tone or codes.
 bool SetsNoCodes(const wxString& txTone) {
     // Intentional: 64, which is no tone, leaves out the codes as well.
     return ReadDecimal(txTone) >= 1 && ReadDecimal(txTone) <= NoTone;
@@ -57,7 +57,7 @@ wxString PadFrequency(const wxString& text) {
     if (megahertz.length() < MegahertzDigits && !text.empty())
         megahertz.Pad(MegahertzDigits - megahertz.length(), '0', false);
     fraction.Pad(FractionDigits - fraction.length(), '0');
-    // The columns of the line must hold, whatever a cell says.
+    // The columns of the line must keep their positions, whatever a cell contains.
     if (megahertz.length() != MegahertzDigits || !IsDigits(megahertz) || !IsDigits(fraction))
         return "000.0000";
     return megahertz + "." + fraction;
@@ -115,8 +115,8 @@ wxString ModeToText(const wxString& mode) {
 
 void AppendAnalogFields(const AnalogTexts& texts, wxString& out) {
     for (const AnalogField& field : std::span(LongAnalogForm).subspan(2)) {
-        // Guards go out under their numbers, so no line begins with their letter. Intentional: the test
-        // stays.
+        // Intentional: guards are sent under their numbers, so no line begins with "G"; the test stays
+        // nevertheless.
         if (field.notOnGuards && out.StartsWith("G"))
             continue;
         out += field.part == LiteralPart ? wxString(field.literal) : texts[field.part];

@@ -13,7 +13,7 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// The number of a row to be sent, 0 when it has none.
+/// Returns the number of a row to be sent, 0 if it has none.
 int NumberToSend(wxGrid* grid, int row) {
     wxString text = grid->GetCellValue(row, MNUM);
     if (text == "GD1")
@@ -38,7 +38,7 @@ AnalogTexts TextsOfRow(wxGrid* grid, int row) {
     return texts;
 }
 
-/// The text of MNUM for the number field of a line.
+/// Returns the text of MNUM for the number field of a line.
 wxString NumberFieldToCell(wxGrid* grid, const wxString& field) {
     if (field == "GD1")
         return wxString::Format("%d", grid->GetNumberRows() - 2);
@@ -47,7 +47,7 @@ wxString NumberFieldToCell(wxGrid* grid, const wxString& field) {
     return field;
 }
 
-/// Writes what the line told, or the default row's text, painted.
+/// Writes the text from the line. Without one, writes the default row's text and paints the cell.
 void WriteField(wxGrid* grid, int row, int column, const std::optional<wxString>& text) {
     grid->SetCellValue(row, column, text ? *text : grid->GetCellValue(0, column));
     if (!text)
@@ -56,7 +56,7 @@ void WriteField(wxGrid* grid, int row, int column, const std::optional<wxString>
         TakePaintOff(grid, row, column);
 }
 
-/// Rows of a module carry a band each, which the line tells by its receive frequency only.
+/// Each row of a module has its own band, which the line gives only by its receive frequency.
 void WriteBand(wxGrid* grid, int row, const wxString& rxFrequency) {
     const int band = GetFreqBand(rxFrequency, MDLX);
     WriteField(grid, row, BAND, band >= 0 ? std::optional<wxString>(BandName[band]) : std::nullopt);
@@ -83,7 +83,7 @@ int encodeAnalogRecord(TransferContext&, wxGrid* grid, int row, wxString& out) {
     if (const int number = NumberToSend(grid, row))
         out = NumberText(number) + " ";
     else
-        ++errors; // Intentional: the line continues whatever out held.
+        ++errors; // Intentional: the line is appended to whatever out held.
     AppendAnalogFields(TextsOfRow(grid, row), out);
     return errors;
 }

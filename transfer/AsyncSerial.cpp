@@ -29,13 +29,13 @@ struct AsyncSerialImpl {
     boost::shared_array<char> writeBuffer; // empty while no write is in progress
     std::size_t writeBufferSize = 0;
     std::mutex writeQueueMutex;
-    std::condition_variable writesEnded; // tells of an empty queue, and of a failure
+    std::condition_variable writesEnded; // signals an empty queue or a failure
 
     std::array<char, 512> readBuffer{};
     AsyncSerial::ReadCallback callback;
-    std::mutex callbackMutex; // held while the callback runs, so that taking it away waits for its end
+    std::mutex callbackMutex; // held while the callback runs, so that clearing it waits for its end
 
-    std::mutex portMutex; // between a change of speed and the port's thread closing a device that failed
+    std::mutex portMutex; // separates a change of speed from the port's thread closing a failed device
 };
 
 AsyncSerial::AsyncSerial() : m_impl(std::make_shared<AsyncSerialImpl>()) {}
@@ -53,7 +53,7 @@ AsyncSerial::~AsyncSerial() {
     try {
         close();
     } catch (...) {
-        // Nobody is left who could be told.
+        // Destructors must not throw.
     }
 }
 
@@ -65,13 +65,13 @@ void AsyncSerial::open(const std::string& deviceName, unsigned int baudRate,
     if (isOpen())
         close();
 
-    setErrorStatus(true); // stays so if a step below throws
+    setErrorStatus(true); // remains if a step below throws
     auto& port = m_impl->port;
     port.open(deviceName);
     try {
 #ifndef _WIN32
         if (const int held = LockPort(port.native_handle()); held != 0) {
-            // Not through doClose, which would lift the mark of the one who holds the device.
+            // Not doClose, which would clear the mark of the opener that holds the device.
             port.close();
             throw boost::system::system_error(held, boost::system::system_category(), "lock");
         }
@@ -83,7 +83,7 @@ void AsyncSerial::open(const std::string& deviceName, unsigned int baudRate,
         port.set_option(stopBits);
 
         boost::asio::post(m_impl->io, [this] { doRead(); });
-        // Before the thread runs, so that a device which fails at its first read counts as an open one.
+        // Before the thread runs, so that a device that fails at its first read counts as opened.
         setErrorStatus(false);
         m_impl->open = true;
         std::thread thread([impl = m_impl] { impl->io.run(); });
@@ -115,7 +115,7 @@ void AsyncSerial::close() {
     if (!isOpen())
         return;
 
-    // First, so that the read which doClose cancels is not taken for a failure of the device.
+    // First, so that the read cancelled by doClose isn't taken for a device failure.
     m_impl->open = false;
     boost::asio::post(m_impl->io, [this] { doClose(); });
     m_impl->backgroundThread.join();
@@ -124,8 +124,8 @@ void AsyncSerial::close() {
         throw boost::system::system_error(boost::system::error_code(), "Error while closing the device");
 }
 
-// After a failure of the device the thread has ended by itself and runs nothing that is posted, the closing
-// neither. What is left must not reach the port that is opened next.
+// After a device failure the thread has ended and runs no posted work, not even the close. Leftover work must
+// not reach the port that is opened next.
 void AsyncSerial::dropPendingWork() {
     m_impl->io.restart();
     m_impl->io.poll();
@@ -142,7 +142,7 @@ void AsyncSerial::setBaudRate(unsigned int baudRate) {
 }
 
 void AsyncSerial::write(const char* data, std::size_t size) {
-    // The port that is opened next would get them.
+    // Otherwise the port opened next would send them.
     if (!isOpen())
         return;
     {
@@ -199,7 +199,7 @@ void AsyncSerial::readEnd(const boost::system::error_code& error, std::size_t by
 
 void AsyncSerial::doWrite() {
     const std::lock_guard lock(m_impl->writeQueueMutex);
-    // A write in progress picks the queue up at its end; the write before may have taken it all.
+    // A write in progress takes the queue when it ends; the previous write may have taken all of it.
     if (!m_impl->writeBuffer && !m_impl->writeQueue.empty())
         startWrite();
 }
@@ -228,16 +228,16 @@ void AsyncSerial::writeEnd(const boost::system::error_code& error) {
     }
 }
 
-// The device is gone, or the port is being closed.
+// Called when the device is gone or the port is being closed.
 void AsyncSerial::fail() {
     setErrorStatus(true);
     doClose();
-    // Not between a waiting owner's look at the flag and its falling asleep.
+    // The lock keeps the notification from falling between a waiting owner's check of the flag and its sleep.
     const std::lock_guard lock(m_impl->writeQueueMutex);
     m_impl->writesEnded.notify_all();
 }
 
-// Goes on after a step that fails: the device must be given up in any case.
+// Continues after a failed step: the device must be released in any case.
 void AsyncSerial::doClose() {
     const std::lock_guard lock(m_impl->portMutex);
     boost::system::error_code error;

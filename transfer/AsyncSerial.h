@@ -1,7 +1,7 @@
 // Full-duplex asynchronous serial port with a background thread, a write queue and a read callback.
 #pragma once
 
-#include <utility> // boost/asio of 1.74 takes std::exchange for granted
+#include <utility> // boost/asio 1.74 uses std::exchange without including it
 
 #include <boost/asio/serial_port_base.hpp>
 #include <boost/system/error_code.hpp>
@@ -14,20 +14,20 @@
 
 struct AsyncSerialImpl;
 
-/// A serial port that never makes its caller wait: a write is a queue append, and what arrives is handed to
-/// a function on the port's own thread. The thread lives only while the port is open.
+/// A serial port whose writes and reads never block the caller: a write is appended to a queue, and received
+/// data is passed to a function on the port's own thread. The thread lives only while the port is open.
 ///
-/// All public operations belong to one thread, that of the owner.
+/// All public functions must be called from one thread, the owner's.
 class AsyncSerial {
 public:
-    /// Receives what one read brought: the bytes, valid only during the call, and their count, 1 to 512.
-    /// Runs on the port's thread, and must not set or clear the callback itself.
+    /// Receives the bytes of one read, valid only during the call, and their count, 1 to 512. Runs on the
+    /// port's thread and must not set or clear the callback itself.
     using ReadCallback = std::function<void(const char*, std::size_t)>;
 
     /// Leaves the port closed.
     AsyncSerial();
 
-    /// Opens the port at once; arguments and failures are those of open().
+    /// Opens the port at once; arguments and failures as for open().
     AsyncSerial(const std::string& deviceName, unsigned int baudRate,
                 boost::asio::serial_port_base::parity parity,
                 boost::asio::serial_port_base::character_size characterSize,
@@ -37,15 +37,15 @@ public:
     AsyncSerial(const AsyncSerial&) = delete;
     AsyncSerial& operator=(const AsyncSerial&) = delete;
 
-    /// Closes an open port and swallows whatever that close throws.
+    /// Closes an open port and ignores exceptions of the close.
     virtual ~AsyncSerial() = 0;
 
-    /// Opens the device for this object alone and starts the port's thread. An open port is closed first.
+    /// Opens the device for exclusive use and starts the port's thread. An open port is closed first.
     ///
-    /// @param deviceName name that the system knows the device by, such as "/dev/ttyUSB0" or "COM3"
-    /// @param baudRate   speed in baud, one that the device knows
+    /// @param deviceName system name of the device, such as "/dev/ttyUSB0" or "COM3"
+    /// @param baudRate   speed in baud; the device must support it
     /// @throws boost::system::system_error of the step that failed, also when another program or another
-    ///         object holds the device. The port is then closed and errorStatus() true.
+    ///         object holds the device. The port is then closed and errorStatus() is true.
     void
     open(const std::string& deviceName, unsigned int baudRate,
          boost::asio::serial_port_base::parity parity =
@@ -57,49 +57,49 @@ public:
          boost::asio::serial_port_base::stop_bits stopBits =
              boost::asio::serial_port_base::stop_bits(boost::asio::serial_port_base::stop_bits::one));
 
-    /// True between a successful open() and close(), also after the device has failed or gone in between.
+    /// True from a successful open() until close(), even if the device has failed or disappeared meanwhile.
     bool isOpen() const;
 
     /// True if the last open() failed, or the device has failed since.
     bool errorStatus() const;
 
-    /// Stops the port's thread and closes the device. Does nothing on a closed port. Bytes that are still
-    /// queued are dropped; waitUntilWritten() before it gives them their time.
+    /// Stops the port's thread and closes the device. Does nothing on a closed port. Drops queued bytes; call
+    /// waitUntilWritten() first to have them sent.
     ///
-    /// @throws boost::system::system_error whose text begins "Error while closing the device", with the
-    ///         port closed all the same, if the device had failed before or failed in closing.
+    /// @throws boost::system::system_error whose text begins "Error while closing the device" if the device
+    ///         failed before or during the close; the port is closed nevertheless.
     void close();
 
-    /// Changes the speed of the open port at once, in the middle of a transfer too.
+    /// Changes the speed of the open port at once, even during a transfer.
     ///
-    /// @throws boost::system::system_error if the port is closed, gone, or doesn't know the speed
+    /// @throws boost::system::system_error if the port is closed or gone, or doesn't support the speed
     void setBaudRate(unsigned int baudRate);
 
-    /// Queues bytes for sending and returns at once. Bytes leave in the order in which they were queued. On a
-    /// closed port they are dropped.
+    /// Queues bytes for sending and returns at once. Bytes are sent in the order in which they were queued. A
+    /// closed port drops them.
     void write(const char* data, std::size_t size);
     /// \overload
     void write(const std::vector<char>& data);
-    /// Queues the bytes of a text for sending, zeros included.
+    /// Queues the bytes of a text for sending, including zeros.
     void writeString(const std::string& text);
 
-    /// Waits until all queued bytes have been handed to the device, at most that long. Returns at once if
-    /// there are none, and on a port that is closed or has failed.
+    /// Waits up to limit until all queued bytes have been handed to the device. Returns at once if there are
+    /// none, and on a port that is closed or has failed.
     ///
-    /// @return true if nothing is left to be sent
+    /// @return true if nothing is left to send
     bool waitUntilWritten(std::chrono::milliseconds limit);
 
 protected:
     void setErrorStatus(bool error);
 
-    /// Names the function that receives what is read from now on; with none, what arrives is dropped.
+    /// Sets the function that receives all data read from now on; without one, data is dropped.
     void setReadCallback(const ReadCallback& callback);
 
-    /// Takes the function away. It doesn't run any more once this has returned.
+    /// Removes the callback. It no longer runs once this has returned.
     void clearReadCallback();
 
 private:
-    // Completion handlers: they run on the port's thread.
+    // Completion handlers, run on the port's thread.
     void doRead();
     void readEnd(const boost::system::error_code& error, std::size_t bytesTransferred);
     void doWrite();
@@ -113,12 +113,12 @@ private:
     std::shared_ptr<AsyncSerialImpl> m_impl;
 };
 
-/// An AsyncSerial whose owner says where received data goes.
+/// An AsyncSerial whose owner sets the function for received data.
 class CallbackAsyncSerial : public AsyncSerial {
 public:
     using AsyncSerial::AsyncSerial;
 
-    /// Clears the callback first, so that it can't run while its object goes.
+    /// Clears the callback first, so that it can't run during destruction.
     ~CallbackAsyncSerial() override;
 
     /// See AsyncSerial::setReadCallback.

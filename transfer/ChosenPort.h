@@ -1,4 +1,4 @@
-// The serial port that transfers use.
+// Serial port used by transfers.
 #pragma once
 
 #include <wx/string.h>

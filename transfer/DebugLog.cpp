@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::uint32_t SampleProtocol = 2;
 
-// Intentional: these records are read at odd positions, one behind the place where other records have their
-// address and data. The first byte of the data is byte 5.
+// Intentional: in these records the address and data begin at odd positions, one after their positions in
+// other records. The first byte of the data is byte 5.
 constexpr size_t AddressPosition = 5, AddressDigits = 4;
 constexpr std::uint32_t FirstDataByte = 5, FirstDataByteOfBlock = 9;
 constexpr int BlockMask = 0x1FFF; // a block has 8192 bytes
@@ -51,13 +51,13 @@ wxString TraceCharacter(std::uint32_t c) {
     return c >= ' ' && c <= '~' ? wxString(wxUniChar(c)) : wxString::Format("<%02X>", c);
 }
 
-/// What the bytes outside messages leave behind for the next one, within a record.
+/// State carried from one byte outside messages to the next, within a record.
 struct Traffic {
     std::uint32_t lastCharacter = 0;
-    wxString text; ///< as it was made last
+    wxString text; ///< last text made
 };
 
-/// @return what is to be written
+/// @return text to write
 wxString TakeMessageByte(TRecordContext& context, std::uint32_t c) {
     if (c != MessageEnd) {
         context.DebugRxText += wxUniChar(c);
@@ -69,8 +69,8 @@ wxString TakeMessageByte(TRecordContext& context, std::uint32_t c) {
     return message;
 }
 
-/// Puts the text of a byte on its line: the echo of the byte before comes right under it, anything else
-/// begins where the other line ends.
+/// Appends the text of a byte to its line. The echo of the previous byte is placed right under it; anything
+/// else begins where the other line ends.
 void AddToLines(TRecordContext& context, std::uint32_t byte, const Traffic& traffic) {
     const std::uint32_t c = byte & SevenBits;
     if (c == 0)
@@ -85,7 +85,7 @@ void AddToLines(TRecordContext& context, std::uint32_t byte, const Traffic& traf
     }
 }
 
-/// @return what is to be written
+/// @return text to write
 wxString TakeTrafficByte(TRecordContext& context, std::uint32_t byte, Traffic& traffic) {
     const std::uint32_t c = byte & SevenBits;
     wxString written;
@@ -93,8 +93,7 @@ wxString TakeTrafficByte(TRecordContext& context, std::uint32_t byte, Traffic& t
         written = PairOfLines(context);
         context.Work2 = 1;
         context.DebugRxText = "Msg: ";
-        // Intentional: no text is made for this byte, so that the text of the byte before it is added once
-        // more.
+        // Intentional: this byte makes no text, so the text of the previous byte is added again.
     } else {
         traffic.text = TraceCharacter(c);
     }
@@ -103,7 +102,7 @@ wxString TakeTrafficByte(TRecordContext& context, std::uint32_t byte, Traffic& t
     return written;
 }
 
-/// The text that a record of the trace adds to the file.
+/// Returns the text that a record of the trace adds to the file.
 wxString TraceText(TRecordContext& context) {
     const wxString& line = context.RxLine;
     wxString text;
@@ -133,7 +132,7 @@ int SignedByte(std::uint32_t byte) {
     return byte > 127 ? static_cast<int>(byte) - 256 : static_cast<int>(byte);
 }
 
-/// One line of the table; base is the position at which the entry's positions count from 0.
+/// Returns one line of the table; base is the position from which the entry's positions count.
 wxString SampleText(const wxString& line, size_t base) {
     const auto byte = [&](size_t position) { return HexNumberAt(line, base + position, 2); };
     const auto word = [&](size_t position) { return HexNumberAt(line, base + position, 4); };
@@ -145,7 +144,7 @@ wxString SampleText(const wxString& line, size_t base) {
                                    SignedByte(byte(21)), SignedByte(byte(23)));
 }
 
-/// The lines of a record of samples. Entries that the line doesn't hold count as unused.
+/// Returns the lines of a record of samples. Entries missing from the line count as unused.
 wxString SamplesText(const wxString& line) {
     wxString text;
     for (size_t base = 0; base < EntryCount * EntryLength; base += EntryLength)
@@ -163,7 +162,7 @@ void OpenDebugLog(TRecordContext& context, const wxString& serial, const wxStrin
         context.DebugLogFile.Detach();
     if (!context.DebugLogFile.Open("KDRV-716_" + serial + "_Dbg.log", "w"))
         return;
-    // Intentional: the heading follows the date on its line.
+    // Intentional: the heading is on the same line as the date.
     Write(context.DebugLogFile, "SN," + serial + "\nDate," + now +
                                     "Timestamp,Flags,Main_RxTx_State,Guard_RxTx_State,"
                                     "MB_Temp,MCU_Temp,MainRF_Temp,GuardRF_Temp\n");

@@ -19,7 +19,7 @@ struct DriverEntry {
     const char* writeTitle;
 };
 
-// The first entry that fits counts.
+// The first matching entry applies.
 constexpr DriverEntry Drivers[] = {
     {ANFM, AnyBand, Analog, Analog, "Send to ANFM Radio Progress"},
     {ANAM, AnyBand, Analog, Analog, "Send to ANFM Radio Progress"},

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// No digit has a value of more than four bits.
+/// Out of range for a digit, which has four bits.
 constexpr std::uint32_t NoDigit = 16;
 
 constexpr std::uint32_t DigitValue(wchar_t c) {
@@ -19,7 +19,7 @@ constexpr std::uint32_t DigitValue(wchar_t c) {
 
 } // namespace
 
-// On the characters as they are held: to convert or copy parts of a line costs more than to read them.
+// Works on the characters as stored: converting or copying parts of a line costs more than reading them.
 
 int HexByteSum(const wxString& text) {
     const std::wstring_view line = text.ToStdWstring();

@@ -8,8 +8,8 @@
 #include <sys/ioctl.h>
 
 int LockPort(int descriptor) {
-    // The lock holds against every program that asks for it, the superuser's too; the terminal's own mark
-    // keeps out programs that don't ask.
+    // The lock works against every program that asks for it, even the superuser's; the terminal's exclusive
+    // mark keeps out programs that don't ask.
     if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 || ioctl(descriptor, TIOCEXCL) != 0)
         return errno;
     fcntl(descriptor, F_SETFD, FD_CLOEXEC);

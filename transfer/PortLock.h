@@ -1,14 +1,14 @@
 // Exclusive use of an open serial device.
 #pragma once
 
-/// Takes the device behind an open descriptor for this opener alone, until UnlockPort or the close of the
-/// descriptor, and keeps the descriptor from programs that this one starts.
+/// Locks the device of an open descriptor for this opener alone, until UnlockPort or the descriptor's close,
+/// and keeps programs started by this one from inheriting the descriptor.
 ///
-/// @param descriptor what `boost::asio::serial_port::native_handle` gives
-/// @return 0, or the system's error number if somebody else holds the device; the caller then closes it.
-///         On Windows, where every opener is alone anyway, this is not to be called.
+/// @param descriptor value of `boost::asio::serial_port::native_handle`
+/// @return 0, or the system's error number if another opener holds the device; the caller then closes the
+///         descriptor. Not to be called on Windows, where every open is exclusive.
 int LockPort(int descriptor);
 
-/// Gives back what LockPort took. To be called before the descriptor is closed: the mark against further
-/// openers belongs to the device, and on a device that somebody else has open too it would stay.
+/// Releases the lock of LockPort. Call it before closing the descriptor: the mark against further openers
+/// belongs to the device, and would remain on a device that another opener has open too.
 void UnlockPort(int descriptor);

@@ -3,7 +3,7 @@
 
 #include <wx/dialog.h>
 
-/// A gauge of range 100 in a dialog of its own, at 0 and centred. Not shown by any part of the program.
+/// Dialog with a gauge of range 100 at 0, centred. No part of the program shows it.
 class ProgressDialog : public wxDialog {
 public:
     explicit ProgressDialog(wxWindow* parent, wxWindowID id = wxID_ANY, const wxString& title = wxString(),

@@ -1,4 +1,4 @@
-// The window that shows a transfer and carries its Cancel.
+// Window that shows the progress of a transfer and has its Cancel button.
 #include "transfer/ProgressFrame.h"
 
 #include <wx/button.h>
@@ -87,7 +87,7 @@ void ProgressFrame::OnCancel(wxCommandEvent& event) {
 }
 
 void ProgressFrame::OnCloseRequest(wxCloseEvent& event) {
-    // The transfer still works with this window; it ends it when it sees the flag.
+    // The transfer still uses this window and destroys it when it sees the flag.
     Cancelled = true;
     if (event.CanVeto())
         event.Veto();

@@ -1,4 +1,4 @@
-// The window that shows a transfer and carries its Cancel.
+// Window that shows the progress of a transfer and has its Cancel button.
 #pragma once
 
 #include <memory>
@@ -10,11 +10,11 @@ class wxGauge;
 class wxStaticLine;
 class wxStaticText;
 
-/// Shows how far a transfer is. While it lives, all other windows are disabled, so that a transfer which
-/// pumps events can't be entered a second time. Its size and place are kept between runs of the program.
+/// Shows the progress of a transfer. While it exists, all other windows are disabled, so that a transfer that
+/// pumps events can't be started a second time. Its size and position are kept between runs of the program.
 ///
-/// The transfer makes it on the heap and destroys it; the user can't: the window manager's close counts as
-/// Cancel.
+/// The transfer creates it on the heap and destroys it. The user can't destroy it: closing the window counts
+/// as Cancel.
 class ProgressFrame : public wxFrame {
 public:
     /// @param parent window to centre on, or null for the middle of the screen
@@ -26,7 +26,7 @@ public:
     /// Shows a text above the gauges.
     void SetStatus(const wxString& text);
 
-    /// Adds to the text that is shown.
+    /// Appends to the text shown.
     void AppendStatus(const wxString& text);
 
     /// Gauge of the rows done, range 100 and value 10 until the transfer sets them. The frame owns it.
@@ -35,7 +35,7 @@ public:
     /// Gauge that moves while a transfer waits. The frame owns it.
     wxGauge* PulseGauge() const { return m_pulseGauge; }
 
-    /// True once the user has asked for an end; the waits of a transfer look at it.
+    /// True once the user has cancelled; the waits of a transfer check it.
     bool Cancelled = false;
 
 private:

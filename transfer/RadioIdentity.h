@@ -1,4 +1,4 @@
-// What the radio that was connected last said of itself.
+// Data that the last connected radio reported about itself.
 #pragma once
 
 #include <set>
@@ -8,17 +8,17 @@
 extern wxString RadioVersion;
 /// Serial number, empty before the first transfer. Outlives the transfer.
 extern wxString RadioSerial;
-/// Identity stamp of the radio whose content the page's InRadioFlag tells of: the one that the last read gave
-/// its radio, or that the radio of the last complete write told. 14 digits. Empty while no radio is known:
-/// before the first transfer, and from a purge until a write is complete. Outlives the transfer.
+/// Identity stamp, 14 digits, of the radio whose content the page's InRadioFlag describes: the stamp that the
+/// last read gave to its radio, or that the radio of the last complete write reported. Empty while no radio
+/// is known: before the first transfer, and from a purge until a write is complete. Outlives the transfer.
 extern wxString RadioStamp;
 
-/// What this program has read from a digital radio and put there.
+/// Content of a digital radio that this program has read or written.
 struct KnownContent {
     wxString stamp;            ///< identity stamp of the radio
     std::set<int> rows;        ///< grid rows that the radio holds
-    bool readBrokeOff = false; ///< the last read didn't reach its end: the radio holds more
+    bool readBrokeOff = false; ///< the last read didn't complete: the radio holds more
 };
 
-/// The content of the radio of RadioStamp; of another stamp it says nothing. Outlives the transfer.
+/// Content of the radio identified by RadioStamp; not valid for any other stamp. Outlives the transfer.
 extern KnownContent HeldByRadio;

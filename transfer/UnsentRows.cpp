@@ -8,7 +8,7 @@
 #include <wx/grid.h>
 
 wxString RowRanges(const std::set<int>& rows) {
-    constexpr int ShortestRange = 2; // from its first row to its last
+    constexpr int ShortestRange = 2; // difference between its first and last row
     wxString text;
     for (auto row = rows.begin(); row != rows.end(); ++row) {
         const int first = *row;

@@ -4,12 +4,14 @@
 #include <set>
 #include <wx/string.h>
 
-/// Rows in ascending order as a person lists them: "3, 7, 201 to 500". Two neighbours are listed one by one.
+/// Returns rows in ascending order as readable text: "3, 7, 201 to 500". Two adjacent rows are listed one by
+/// one.
 wxString RowRanges(const std::set<int>& rows);
 
-/// The memory rows (from 1 on, guards included) of the current page that are selected whole and have data.
+/// Returns the memory rows (from 1, guards included) of the current page that are fully selected and have
+/// data.
 std::set<int> SelectedMemories();
 
-/// Tells in the status bar how many of the selected rows were sent, and as its tool tip which were not. Says
-/// nothing if all of them were.
+/// Shows in the status bar how many of the selected rows were sent, and in its tool tip which were not. Does
+/// nothing if all were sent.
 void TellUnsentRows(const std::set<int>& selected, const std::set<int>& sent);

@@ -43,7 +43,7 @@ bool GuardIsSelected(int row) {
     return row < CurrentGrid()->GetNumberRows() && RowHasData(row) && CurrentGrid()->IsInSelection(row, 0);
 }
 
-/// How a transfer ended, and the memory rows that the radio has acknowledged in it.
+/// Result of a transfer and the memory rows that the radio has acknowledged in it.
 struct TransferResult {
     TransferStatus status = TransferUnsupported;
     std::set<int> rowsSent = {};
@@ -75,10 +75,10 @@ bool UserAgreesToOverwrite() {
 
 bool MainAndGuardsAreSelected() {
     const PageParameterRecord& page = CurrentParameters();
-    // Meant: the default row stands for the main channels.
+    // Intentional: the default row represents the main channels.
     if (page.Rows > 0 && !RowHasData(0))
         return false;
-    // Of the single channel radios KRV-214 has 100 channels, the others 120.
+    // Among the single channel radios, KRV-214 has 100 channels, the others 120.
     const int firstGuard = page.Radio == Krv214 ? 101 : 121;
     return GuardIsSelected(firstGuard) && GuardIsSelected(firstGuard + 1);
 }
@@ -96,7 +96,7 @@ void ZelkFrame::OnDownload(wxCommandEvent&) {
     TransferStatus status = TransferUnsupported;
     if (choice.driver != TransferDriver::None) {
         ResetPage(CurrentPage);
-        // What was read must not stand among the memories that such a page begins with.
+        // Rows read must not mix with the memories that such a page begins with.
         EmptyDefaultMemories(CurrentPage);
         status = RunDriver(choice.driver, ReadChannelsMode,
                            wxString("Read ") + RadioTypeName[page.Type] + " Memory Data Progress")
@@ -121,7 +121,7 @@ void ZelkFrame::OnUpload(wxCommandEvent&) {
         Refuse("ORV-12 is not currently supported!");
     const std::set<int> selected = SelectedMemories();
     const TransferResult result = RunDriver(choice.driver, WriteChannelsMode, choice.title);
-    // Complete or not: what isn't in the radio must not be taken for sent.
+    // Also after an incomplete write: rows that aren't in the radio must not be taken for sent.
     TellUnsentRows(selected, result.rowsSent);
     ShowResult(result.status, "Write to Radio Status");
 }

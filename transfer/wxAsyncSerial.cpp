@@ -1,4 +1,4 @@
-// The serial port as the transfer code holds it: text out, text in by polling.
+// Serial port for the transfer code: text output, and text input by polling.
 #include "transfer/wxAsyncSerial.h"
 
 #include "transfer/AsyncSerial.h"
@@ -36,7 +36,7 @@ wxAsyncSerial::~wxAsyncSerial() {
     try {
         close();
     } catch (...) {
-        // Nobody is left who could be told.
+        // Destructors must not throw.
     }
 }
 
@@ -44,7 +44,7 @@ void wxAsyncSerial::open(const wxString& deviceName, unsigned int baudRate) {
     try {
         m_impl->port.open(LibcBytes(deviceName), baudRate);
     } catch (const boost::system::system_error&) {
-        // isOpen() tells.
+        // isOpen() reports the failure.
     }
     m_impl->port.setCallback([this](const char* data, std::size_t length) { readCallback(data, length); });
     const wxMutexLocker lock(SerialRxMutex);
@@ -55,7 +55,7 @@ void wxAsyncSerial::setBaudRate(unsigned int baudRate) {
     try {
         m_impl->port.setBaudRate(baudRate);
     } catch (const boost::system::system_error&) {
-        // A device that went away in mid-transfer shows as a radio that doesn't answer.
+        // A device removed during a transfer looks like a radio that doesn't answer.
     }
 }
 
@@ -80,7 +80,7 @@ void wxAsyncSerial::close() {
     try {
         m_impl->port.close();
     } catch (const boost::system::system_error&) {
-        // The port is closed all the same.
+        // The port is closed nevertheless.
     }
     m_impl->text.clear();
 }

@@ -1,4 +1,4 @@
-// The serial port as the transfer code holds it: text out, text in by polling.
+// Serial port for the transfer code: text output, and text input by polling.
 #pragma once
 
 #include <cstddef>
@@ -10,16 +10,16 @@
 class wxWindow;
 struct wxAsyncSerialImpl;
 
-/// Text received and not yet taken, one character per byte, of the byte's value. There is one such buffer
-/// for the whole program, so only one port may be open at a time.
+/// Text received but not yet taken, one character per byte, with the byte's value. The program has only one
+/// such buffer, so only one port may be open at a time.
 extern wxString SerialRxBuffer;
-/// Guards SerialRxBuffer. Nobody takes another lock while holding it.
+/// Guards SerialRxBuffer. No one takes another lock while holding it.
 extern wxMutex SerialRxMutex;
 
-/// A serial port with 8 data bits, no parity, one stop bit and no flow control. No failure of the device
-/// comes out of it as an exception: a port that failed simply brings no more text.
+/// A serial port with 8 data bits, no parity, one stop bit and no flow control. Device failures throw no
+/// exceptions: a failed port simply delivers no more text.
 ///
-/// Belongs to the main thread; what arrives meanwhile is collected in SerialRxBuffer.
+/// Used from the main thread only; text that arrives meanwhile is collected in SerialRxBuffer.
 class wxAsyncSerial : public wxObject {
 public:
     /// Leaves the port closed. `parent` may be null.
@@ -34,32 +34,32 @@ public:
     /// Closes an open port.
     ~wxAsyncSerial() override;
 
-    /// Opens the device for this object alone, closing first what it had open, and empties SerialRxBuffer.
-    /// Whether it went well is told by isOpen(): a device that is missing or in use leaves the port closed.
+    /// Opens the device for exclusive use, closing an open one first, and empties SerialRxBuffer. isOpen()
+    /// reports success: a missing or busy device leaves the port closed.
     void open(const wxString& deviceName, unsigned int baudRate);
 
-    /// Changes the speed of the open port at once. On a closed port, on one that has failed, and for a speed
-    /// that the device doesn't know, nothing happens.
+    /// Changes the speed of the open port at once. Does nothing if the port is closed or has failed, or if
+    /// the device doesn't support the speed.
     void setBaudRate(unsigned int baudRate);
 
-    /// True between a successful open() and close(), also after the device has failed or gone in between.
+    /// True from a successful open() until close(), even if the device has failed or disappeared meanwhile.
     bool isOpen() const;
 
     /// True if the last open() failed, or the device has failed since.
     bool errorStatus() const;
 
-    /// Queues a text for sending and returns at once. The bytes are those of the C library's encoding; of
-    /// a text that it can't express nothing is sent. On a closed port the text is dropped.
+    /// Queues a text for sending, in the C library's encoding, and returns at once. Sends nothing of a text
+    /// that the encoding can't express. A closed port drops the text.
     void write(const wxString& text);
 
-    /// Waits until all that was written has been handed to the device, at most that many milliseconds, and
-    /// not at all on a port that is closed or has failed. True if nothing is left to be sent.
+    /// Waits up to limitMs milliseconds until all written text has been handed to the device. Doesn't wait on
+    /// a port that is closed or has failed. Returns true if nothing is left to send.
     bool waitUntilWritten(int limitMs);
 
-    /// Closes the port; does nothing on a closed one. No text arrives after it.
+    /// Closes the port; does nothing on a closed one. No text arrives afterwards.
     void close();
 
-    /// Takes what has been received since the last call: empty if nothing has. Never waits for data.
+    /// Returns the text received since the last call, empty if there is none. Never waits for data.
     static wxString GetData();
 
 private:

@@ -1,4 +1,4 @@
-// Clicking at something that is known by its picture, in whichever program's window.
+// Clicks on something found by its picture, in the window of any program.
 #pragma once
 
 class wxImage;
@@ -7,8 +7,8 @@ namespace testbench {
 
 class Hands;
 
-/// Waits until the screen shows the picture (see FindPicture) and clicks at its middle. False if it didn't
-/// come within `ms`. To be called in the window thread, whose windows are kept alive meanwhile.
+/// Waits until the screen shows the picture (see FindPicture) and clicks on its middle. Returns false if it
+/// doesn't appear within `ms`. Call in the window thread; the wait dispatches that thread's events.
 bool ClickPicture(Hands& hands, const wxImage& picture, int ms = 10000);
 
 } // namespace testbench

@@ -1,4 +1,4 @@
-// Whole files as byte strings.
+// Files read and written as byte strings.
 #pragma once
 
 #include <filesystem>
@@ -10,13 +10,13 @@ namespace testbench {
 /// All bytes of the file, unchanged. Throws std::runtime_error naming the file if it can't be read.
 std::string ReadFile(const std::filesystem::path& file);
 
-/// The same of a file that need not exist: empty if it can't be read.
+/// Same as ReadFile, but returns an empty string if the file can't be read.
 std::string ReadFileIfAny(const std::filesystem::path& file);
 
 /// The lines of the file without their line feeds. Throws as ReadFile does.
 std::vector<std::string> ReadLines(const std::filesystem::path& file);
 
-/// Makes or replaces the file with these bytes. Throws std::runtime_error naming the file on failure.
+/// Creates or replaces the file with these bytes. Throws std::runtime_error naming the file on failure.
 void WriteFile(const std::filesystem::path& file, const std::string& bytes);
 
 } // namespace testbench

@@ -30,9 +30,9 @@ std::deque<Job>& Jobs() {
     return jobs;
 }
 
-/// Looks for jobs by a timer: the toolkit's own queued calls wait while a handler yields for some kinds
-/// of events only, timers don't. Each tick starts the next timer first, because a timer doesn't tick
-/// again while its handler runs, and a job may open a dialog.
+/// Polls for jobs with a timer. The toolkit's own queued calls wait while a handler yields for only some
+/// kinds of events; timers don't. Each tick first restarts the timer: a timer doesn't fire again while its
+/// handler runs, and a job may open a dialog.
 class Postman : public wxTimer {
 public:
     void Begin() {
@@ -61,7 +61,7 @@ private:
         if (jobs.empty()) {
             return {};
         }
-        // A window that is never at rest must not keep a job waiting for ever.
+        // A window that is never idle must not block a job forever.
         wxEventLoopBase* const loop = wxEventLoopBase::GetActive();
         const bool busy = loop != nullptr && loop->Pending();
         if (busy && Clock::now() - jobs.front().queued < std::chrono::milliseconds(200)) {
@@ -76,14 +76,14 @@ private:
     int m_users = 0;
 };
 
-/// To be used in the window thread.
+/// Use in the window thread only.
 Postman& ThePostman() {
-    // Never destroyed: the toolkit's timers go before it.
+    // Never destroyed: the toolkit shuts its timers down first.
     static Postman* const postman = new Postman;
     return *postman;
 }
 
-/// At once in the window thread, else when its event loop is at rest.
+/// Runs the work at once in the window thread; from other threads, queues it until the event loop is idle.
 void Soon(void (*work)()) {
     if (wxTheApp == nullptr) {
         return;
@@ -128,7 +128,7 @@ void RunInGui(const std::function<void()>& job, int ms) {
     }
     using State = Errand::State;
     auto errand = std::make_shared<Errand>();
-    // The job is used by reference: it runs only while this call waits.
+    // Capturing the job by reference is safe: it runs only while this call waits.
     TellGui([errand, &job] {
         {
             std::lock_guard lock(errand->mutex);

@@ -1,4 +1,4 @@
-// Work handed from any thread to the thread that runs the windows.
+// Hands work from any thread to the window thread.
 #pragma once
 
 #include <functional>
@@ -9,15 +9,15 @@
 
 namespace testbench {
 
-/// The window thread did not come round to a job within its deadline.
+/// The window thread did not start a job before its deadline.
 class GuiSilent : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// While one of these lives, the window thread takes jobs, also inside modal dialogs, menus and
-/// handlers that yield for some kinds of events only. Every Robot holds one. May be made in any thread;
-/// does nothing in a program without windows.
+/// While an instance exists, the window thread runs jobs, even inside modal dialogs, menus and handlers
+/// that yield for only some kinds of events. Every Robot holds one. May be created in any thread; does
+/// nothing in a program without windows.
 class GuiMailbox {
 public:
     GuiMailbox();
@@ -26,16 +26,16 @@ public:
     GuiMailbox& operator=(const GuiMailbox&) = delete;
 };
 
-/// Runs the job in the window thread and waits for its end; in the window thread itself it runs at
-/// once. Jobs wait until the thread has no more events to work on. What the job throws is thrown here.
-/// If the job has not begun within `ms` it never will, and GuiSilent is thrown. The job must not open a
-/// modal dialog or menu (its end would have to be waited for): TellGui does.
+/// Runs the job in the window thread and waits until it ends. Called in the window thread itself, runs the
+/// job at once. Jobs wait until the thread has no pending events, for 200 ms at most. Rethrows what the job
+/// throws. If the job has not started within `ms`, cancels it and throws GuiSilent. The job must not open a
+/// modal dialog or menu, because this call would wait for it to close; use TellGui for that.
 void RunInGui(const std::function<void()>& job, int ms = 10000);
 
 /// Queues the job for the window thread and returns at once.
 void TellGui(std::function<void()> job);
 
-/// RunInGui for a job with a result.
+/// Same as RunInGui, and returns the result of the job.
 template <class F>
 auto AskGui(F&& question, int ms = 10000) {
     using Answer = std::decay_t<std::invoke_result_t<F&>>;

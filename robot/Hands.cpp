@@ -16,7 +16,7 @@ void Sleep(int ms) {
     std::this_thread::sleep_for(std::chrono::milliseconds(ms));
 }
 
-/// "Ctrl+Shift+Tab" as {"Ctrl", "Shift", "Tab"}; a plus at the end is a key itself.
+/// Splits "Ctrl+Shift+Tab" into {"Ctrl", "Shift", "Tab"}; a plus at the end is a key.
 std::vector<std::string> Parts(const std::string& chord) {
     std::vector<std::string> parts;
     size_t begin = 0;
@@ -52,7 +52,7 @@ void Hands::Click(const wxPoint& screen, int button) {
 
 void Hands::DoubleClick(const wxPoint& screen, int button) {
     Click(screen, button);
-    // Not at the robot's pace: a slow one would make two clicks of it.
+    // Ignore the robot's pace: at a slow one the toolkit would see two single clicks.
     for (const bool down : {true, false}) {
         m_desk.Button(static_cast<unsigned>(button), down);
         Sleep(8);
@@ -63,8 +63,7 @@ void Hands::DoubleClick(const wxPoint& screen, int button) {
 void Hands::Drag(const wxPoint& from, const wxPoint& to, int button) {
     Move(from);
     m_desk.Button(static_cast<unsigned>(button), true);
-    // A window that is slower than the mouse would see one leap, which makes no drag: the hand moves
-    // slowly and trembles at the end.
+    // A slow window would see a single jump, which starts no drag. So move slowly, and jiggle at the end.
     constexpr int steps = 8, slowMs = 30;
     Sleep(3 * slowMs);
     for (int step = 1; step <= steps; step++) {
@@ -89,7 +88,7 @@ XDesk::KeySpot Hands::KeyNamed(const std::string& name) const {
     static const std::map<std::string, std::string> modifiers = {
         {"Ctrl", "Control_L"}, {"Alt", "Alt_L"}, {"Shift", "Shift_L"}, {"Super", "Super_L"}};
     const auto modifier = modifiers.find(name);
-    // The X symbol of a printable ASCII character is its code.
+    // The X key symbol of a printable ASCII character equals its code.
     const XDesk::KeySpot key = name.size() == 1
                                    ? m_desk.FindKey(static_cast<unsigned char>(name[0]))
                                    : m_desk.FindKey(modifier == modifiers.end() ? name : modifier->second);

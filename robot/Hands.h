@@ -1,4 +1,4 @@
-// Keyboard and mouse, used as by a person.
+// Keyboard and mouse input as from a person.
 #pragma once
 
 #include <string>
@@ -7,35 +7,35 @@
 
 namespace testbench {
 
-/// Real key presses and clicks on the X display of the environment, whichever program's windows are
-/// there. For one thread at a time. Failures to act throw std::runtime_error.
+/// Sends real key presses and clicks to the X display named by the environment, to windows of any program.
+/// Use from one thread at a time. Throws std::runtime_error if an action fails.
 class Hands {
 public:
-    /// `paceMs` is the rest after each key press, click and move.
+    /// `paceMs` is the pause after each key press, click and move, in milliseconds.
     explicit Hands(int paceMs = 8) : m_paceMs(paceMs) {}
 
-    /// Changes the rest after each action.
+    /// Changes the pause after each action.
     void SetPace(int paceMs) { m_paceMs = paceMs; }
 
-    // The mouse, in screen coordinates; ScreenSpots.h finds them. Buttons: 1 left, 2 middle, 3 right.
+    // Mouse actions take screen coordinates; see ScreenSpots.h. Buttons: 1 left, 2 middle, 3 right.
     void Move(const wxPoint& screen);
     void Click(const wxPoint& screen, int button = 1);
     void DoubleClick(const wxPoint& screen, int button = 1);
     void Drag(const wxPoint& from, const wxPoint& to, int button = 1);
-    /// Turns the wheel by steps: up if positive.
+    /// Turns the wheel by this many steps: up if positive, down if negative.
     void Wheel(const wxPoint& screen, int steps);
 
-    /// Presses a key with the modifiers before it held: "Return", "F10", "Alt+P", "Ctrl+Shift+Tab",
+    /// Presses a key while holding the modifiers before it: "Return", "F10", "Alt+P", "Ctrl+Shift+Tab",
     /// "Shift+F10". Modifiers are Ctrl, Alt, Shift and Super; a key is an X key symbol ("Escape",
-    /// "Page_Down", "Menu") or a character ("a", "%"). Behind a modifier a letter means its key:
-    /// "Alt+P" holds no Shift.
+    /// "Page_Down", "Menu") or a character ("a", "%"). After a modifier, a letter means its key:
+    /// "Alt+P" doesn't press Shift.
     void Press(const std::string& chord);
-    /// Presses a key that many times.
+    /// Presses a key or chord `times` times.
     void Press(const std::string& chord, int times);
-    /// Types printable ASCII, line feeds as Return and tabs as Tab.
+    /// Types printable ASCII text; line feeds are typed as Return, tabs as Tab.
     void Type(const std::string& text);
 
-    /// The title (UTF-8) of the window that key presses go to; empty if none.
+    /// Title (UTF-8) of the window that has the keyboard focus; empty if there is none.
     std::string FocusedTitle() const { return m_desk.FocusedTitle(); }
 
 protected:

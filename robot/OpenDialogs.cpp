@@ -18,8 +18,8 @@ std::vector<DialogFacts>& Open() {
     return open;
 }
 
-/// Lets every dialog through: the toolkit asks the oldest hook last, so only dialogs that no other
-/// hook has answered arrive here.
+/// Records every dialog and answers none. The toolkit calls the oldest hook last, so only dialogs that no
+/// other hook has answered arrive here.
 class Watcher : public wxModalDialogHook {
 protected:
     int Enter(wxDialog* dialog) override {
@@ -74,7 +74,7 @@ std::string Describe(const DialogFacts& facts) {
 }
 
 void WatchDialogs() {
-    // Never destroyed: the toolkit's own list of hooks may go before it.
+    // Never destroyed: the toolkit may destroy its list of hooks first.
     static Watcher* const watcher = [] {
         auto* made = new Watcher;
         made->Register();

@@ -1,4 +1,4 @@
-// The modal dialogs that stand open, as any thread may ask for them.
+// List of the open modal dialogs; any thread may read it.
 #pragma once
 
 #include <string>
@@ -10,26 +10,26 @@ namespace testbench {
 
 enum class DialogKind { Any, Message, File, Print, PageSetup, Other };
 
-/// What a dialog says of itself before it is shown.
+/// Properties of a dialog, read before it is shown.
 struct DialogFacts {
-    wxDialog* dialog = nullptr; ///< to be used in the window thread only, while the dialog is open
+    wxDialog* dialog = nullptr; ///< use in the window thread only, while the dialog is open
     DialogKind kind = DialogKind::Other;
     std::string caption; ///< UTF-8
     std::string message; ///< UTF-8; empty for kinds without one
-    long style = 0;      ///< of a message: wxOK, wxICON_... as given by the caller; else the window style
+    long style = 0;      ///< of a message box: wxOK, wxICON_... as given by the caller; else the window style
 };
 
-/// Reads the facts of a dialog; to be called in the window thread.
+/// Reads the facts of a dialog. Call in the window thread.
 DialogFacts FactsOf(wxDialog* dialog);
 
-/// A line for a person: kind, caption and message.
+/// Human-readable line with kind, caption and message.
 std::string Describe(const DialogFacts& facts);
 
-/// Begins to keep the list of OpenDialogs, from the next dialog on. To be called in the window thread;
-/// calling it again does nothing.
+/// Starts to fill the list of OpenDialogs, from the next dialog on. Call in the window thread. Further
+/// calls do nothing.
 void WatchDialogs();
 
-/// The dialogs that run modally now, the outermost first.
+/// The dialogs that are modal now, outermost first.
 std::vector<DialogFacts> OpenDialogs();
 
 } // namespace testbench

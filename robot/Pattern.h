@@ -5,11 +5,11 @@
 
 namespace testbench {
 
-/// Whether the Perl-like expression is found somewhere in the text. Both are UTF-8. Throws
-/// std::runtime_error if the expression isn't one.
+/// True if the Perl-like expression matches anywhere in the text. Both are UTF-8. Throws
+/// std::runtime_error if the expression is invalid.
 bool Finds(const std::string& expression, const std::string& text);
 
-/// Whether the expression matches the whole text.
+/// True if the expression matches the whole text. Encoding and failure as for Finds.
 bool MatchesWhole(const std::string& expression, const std::string& text);
 
 } // namespace testbench

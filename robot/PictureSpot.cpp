@@ -9,7 +9,7 @@ namespace testbench {
 
 namespace {
 
-/// An opaque pixel of the picture, by its place.
+/// An opaque pixel of the picture, with its position.
 struct Pixel {
     int x, y;
     unsigned char rgb[3];

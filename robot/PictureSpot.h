@@ -1,4 +1,4 @@
-// Finding something on the screen by what it looks like.
+// Finds something on the screen by its picture.
 #pragma once
 
 #include <optional>
@@ -9,8 +9,8 @@ class wxImage;
 
 namespace testbench {
 
-/// The middle of the first place, from the top, at which `screen` shows `picture`; only the picture's
-/// opaque pixels count. Both are searched as they stand, without scaling.
+/// Middle of the first place, from the top, where `screen` shows `picture`; nothing if there is none. Only
+/// the picture's opaque pixels are compared, without scaling.
 std::optional<wxPoint> FindPicture(const wxImage& screen, const wxImage& picture);
 
 } // namespace testbench

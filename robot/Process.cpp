@@ -26,7 +26,7 @@ std::set<pid_t>& Living() {
     return pids;
 }
 
-/// Our environment with the given entries set, as texts "NAME=value".
+/// This process's environment with the given entries set, as strings "NAME=value".
 std::vector<std::string> Environment(const std::vector<std::pair<std::string, std::string>>& changes) {
     std::vector<std::string> entries;
     for (char** entry = environ; *entry != nullptr; entry++) {
@@ -60,7 +60,7 @@ Process::Process(const std::vector<std::string>& command, const Options& options
     if (command.empty()) {
         throw std::runtime_error("no program named");
     }
-    // Everything that allocates is done before the fork: other threads may hold the heap's lock.
+    // Allocate everything before the fork: another thread may hold the heap's lock during it.
     std::vector<std::string> arguments = command;
     std::vector<std::string> entries = Environment(options.environment);
     const std::vector<char*> argv = Pointers(arguments);
@@ -117,7 +117,7 @@ Process::~Process() {
     Terminate();
     CloseInput();
     {
-        // A grandchild may hold the pipe open for ever: the reader gives up on its own then.
+        // A grandchild may keep the pipe open forever. With this flag the reader stops anyway.
         std::lock_guard lock(m_mutex);
         m_outputEnded = true;
     }
@@ -196,7 +196,7 @@ bool Process::Reap() {
     if (m_exit) {
         return true;
     }
-    // The lock keeps KillAll from hitting a process number that has just been given back.
+    // The lock keeps KillAll from killing a process ID that has just been freed.
     std::lock_guard lock(livingMutex);
     int status = 0;
     if (waitpid(m_pid, &status, WNOHANG) != m_pid) {
@@ -213,7 +213,7 @@ std::optional<int> Process::WaitForExit(int ms) {
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     if (m_exit) {
-        // What it wrote last may still be on its way; a grandchild may keep the pipe open for ever.
+        // Its last output may not have arrived yet. Don't wait long: a grandchild may keep the pipe open.
         std::unique_lock lock(m_mutex);
         m_arrived.wait_for(lock, std::chrono::milliseconds(500), [&] { return m_outputEnded; });
     }

@@ -1,4 +1,4 @@
-// A child process whose output can be watched line by line.
+// Child process whose output can be watched line by line.
 #pragma once
 
 #include <condition_variable>
@@ -13,41 +13,43 @@
 
 namespace testbench {
 
-/// Starts a program and ends it with the object. What it writes to its standard output and error is
-/// kept, in the order of arrival. May be used from any thread, but by one thread at a time.
+/// Runs a program for the lifetime of the object. Keeps its standard output and error, in order of arrival.
+/// Use from any thread, but only one at a time.
 class Process {
 public:
     struct Options {
-        std::filesystem::path folder = {}; ///< starts here; empty: where we are
-        std::vector<std::pair<std::string, std::string>> environment = {}; ///< set on top of ours
+        std::filesystem::path folder = {}; ///< working directory; empty: that of this process
+        std::vector<std::pair<std::string, std::string>> environment =
+            {}; ///< set on top of the inherited ones
     };
 
-    /// Starts `command[0]` (looked up in PATH if it has no slash) with the rest as arguments.
+    /// Starts `command[0]` (looked up in PATH if it has no slash) with the rest of `command` as arguments.
     /// Throws std::runtime_error if it can't be started.
     explicit Process(const std::vector<std::string>& command) : Process(command, Options{}) {}
     Process(const std::vector<std::string>& command, const Options& options);
-    /// Ends the program if it still runs: asked first, forced two seconds later.
+    /// Ends the program if it still runs, as Terminate does.
     ~Process();
     Process(const Process&) = delete;
     Process& operator=(const Process&) = delete;
 
-    /// The next whole line (without its line end) in which the regular expression is found, counted
-    /// from behind the line that the last successful call gave. Nothing if none came within `ms`, or
-    /// the program ended without one.
+    /// Returns the next complete line, without its line end, that contains a match of the regular
+    /// expression. Searches after the line that the last successful call returned. Returns nothing if none
+    /// arrives within `ms` or before the program ends.
     std::optional<std::string> WaitForLine(const std::string& expression, int ms = 10000);
 
-    /// Sends text to the program's standard input. False if the program no longer listens.
+    /// Sends text to the program's standard input. Returns false if the input is closed.
     bool Write(const std::string& text);
     void CloseInput();
 
-    /// The exit code, 128 + signal number if a signal ended it; nothing if it still runs after `ms`.
-    /// After an end Output() is complete.
+    /// Returns the exit code, or 128 + signal number if a signal ended the program; nothing if it still runs
+    /// after `ms`. Once this returns a code, Output() is complete.
     std::optional<int> WaitForExit(int ms = 10000);
 
-    /// Sends SIGTERM, two seconds later SIGKILL, and gives the exit code as WaitForExit does.
+    /// Sends SIGTERM, and SIGKILL if the program still runs two seconds later. Returns the exit code as
+    /// WaitForExit does.
     int Terminate();
 
-    /// Sends a signal; nothing happens if the program has ended.
+    /// Sends a signal; does nothing if the program has ended.
     void Signal(int number);
 
     bool IsRunning();
@@ -56,7 +58,7 @@ public:
     /// All output so far.
     std::string Output() const;
 
-    /// Kills the children of all objects at once, for a test program that is about to abort.
+    /// Kills the programs of all objects, for a test program that is about to abort.
     static void KillAll();
 
 private:

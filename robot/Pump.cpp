@@ -29,12 +29,12 @@ void PumpFor(int ms) {
 }
 
 void PumpUntilIdle() {
-    // Less than the time between two frames of an animation, of which a theme may always show one.
+    // Shorter than an animation's frame time: a theme may show an animation all the time.
     constexpr int nothingCame = -1, quietRounds = 3, roundMs = 5;
     wxGUIEventLoop loop;
     wxEventLoopActivator activate(&loop);
     const auto deadline = Clock::now() + Milliseconds(500);
-    // Counted, not timed: on a busy machine time passes although nobody looked for events.
+    // Count rounds, don't measure time: on a busy machine time passes without any look at the events.
     for (int quiet = 0; quiet < quietRounds && Clock::now() < deadline;) {
         const bool nothing = loop.DispatchTimeout(roundMs) == nothingCame && !loop.Pending();
         quiet = nothing ? quiet + 1 : 0;

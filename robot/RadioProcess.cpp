@@ -33,7 +33,7 @@ void RadioProcess::RequireReady() const {
 }
 
 std::chrono::milliseconds RadioProcess::ProcessorTime() const {
-    // Fields 14 and 15: clock ticks in the program and in the system on its behalf.
+    // Fields 14 and 15: clock ticks in user mode and in kernel mode.
     std::istringstream fields(ReadFile("/proc/" + std::to_string(Pid()) + "/stat"));
     std::string word;
     long ticks = 0;

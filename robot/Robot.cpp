@@ -53,7 +53,7 @@ wxDialog* Robot::WaitForDialog(const std::string& caption, int ms) {
             if (open.empty() || !MatchesWhole(caption, open.back().caption)) {
                 return false;
             }
-            // The toolkit gives some dialogs no title of their own: then any dialog must do.
+            // The toolkit gives some dialogs no title; then accept any dialog.
             const std::string focused = Desk().FocusedTitle();
             if (focused == open.back().caption || (focused.empty() && Desk().FocusIsDialog())) {
                 found = open.back().dialog;
@@ -78,8 +78,8 @@ bool Robot::WaitForWindow(const std::string& title, int ms) {
 }
 
 void Robot::Settle(int ms) {
-    // Jobs for the window thread wait until its event queue is empty; the second one is queued behind
-    // what the events of the first round have set off.
+    // Jobs wait until the window thread's event queue is empty. The second job also waits for the events
+    // that the first round caused.
     for (int round = 0; round < 2; round++) {
         Sleep(10);
         RunInGui([] {}, ms);

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int aLongTime = 24 * 60 * 60 * 1000;
 
-/// Runs the part and adds what it throws to the problems.
+/// Runs the work and adds what it throws to the problems.
 void Guarded(const std::string& part, std::vector<std::string>& problems, const std::function<void()>& work) {
     try {
         work();
@@ -44,7 +44,7 @@ void Dismiss(Robot& robot, const DialogFacts& facts) {
     }
 }
 
-/// Waits until the action in the window thread is over, and makes it so by cancelling its dialogs.
+/// Waits until the action in the window thread ends. Cancels its dialogs if it takes too long.
 void AwaitAction(Robot& robot, const std::atomic<bool>& actionEnded, size_t openBefore,
                  std::vector<std::string>& problems) {
     const auto finished = [&] { return actionEnded && OpenDialogs().size() <= openBefore; };

@@ -1,4 +1,4 @@
-// A robot's script and the windows it works on, side by side.
+// Runs a robot's script in parallel to the windows that it works on.
 #pragma once
 
 #include <functional>
@@ -9,10 +9,10 @@ namespace testbench {
 
 class Robot;
 
-/// Called in the window thread: runs `script` in a thread of its own and `guiAction` (something that
-/// may open modal dialogs, which the script then answers) here, then keeps the windows alive until the
-/// script has ended. Gives what went wrong, a line each: an exception of either; a modal dialog that
-/// still stands open five seconds after the script's end, which is then cancelled.
+/// Runs `script` in a separate thread and `guiAction` in the calling thread, then dispatches events until the
+/// script has ended. Call in the window thread. `guiAction` may open modal dialogs, which the script answers.
+/// Returns the problems, one line each: exceptions of either, and modal dialogs that are still open five
+/// seconds after the script's end. Such dialogs are cancelled.
 std::vector<std::string> RunScript(const std::function<void(Robot&)>& script,
                                    const std::function<void()>& guiAction = {});
 

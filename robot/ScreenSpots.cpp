@@ -7,7 +7,7 @@ namespace testbench {
 
 namespace {
 
-/// The cell in the coordinates of the window that shows its grid's cells.
+/// Area of the cell in coordinates of the grid's cell window. Scrolls the cell into view.
 wxRect CellInWindow(wxGrid& grid, int row, int column) {
     grid.MakeCellVisible(row, column);
     const wxRect cell = grid.CellToRect(row, column);

@@ -1,4 +1,4 @@
-// Where on the screen a person would point to.
+// Screen positions that a person would point to.
 #pragma once
 
 #include <wx/gdicmn.h>
@@ -8,7 +8,7 @@ class wxWindow;
 
 namespace testbench {
 
-// All of these give screen coordinates and are to be called in the window thread.
+// All of these return screen coordinates. Call them in the window thread.
 
 /// A point of a window's client area.
 wxPoint SpotIn(const wxWindow& window, const wxPoint& client);
@@ -16,13 +16,13 @@ wxPoint SpotIn(const wxWindow& window, const wxPoint& client);
 /// The middle of a window.
 wxPoint MiddleOf(const wxWindow& window);
 
-/// The middle of a grid's cell (0-based); the cell is scrolled into sight first.
+/// The middle of a grid's cell (0-based). Scrolls the cell into view first.
 wxPoint CellSpot(wxGrid& grid, int row, int column);
 
-/// The middle of a row's label; the row is scrolled into sight first.
+/// The middle of a row's label. Scrolls the row into view first.
 wxPoint RowLabelSpot(wxGrid& grid, int row);
 
-/// The middle of a column's label; the column is scrolled into sight first.
+/// The middle of a column's label. Scrolls the column into view first.
 wxPoint ColumnLabelSpot(wxGrid& grid, int column);
 
 /// The middle of the corner above the row labels.

@@ -1,4 +1,4 @@
-// A folder of its own that goes away with the object.
+// Temporary folder that is removed with its object.
 #pragma once
 
 #include <filesystem>
@@ -6,10 +6,10 @@
 
 namespace testbench {
 
-/// A fresh, empty folder below the system's temporary folder, removed with all it holds at the end.
+/// A new, empty folder in the system's temporary folder. The destructor removes it with its contents.
 class TempFolder {
 public:
-    /// Throws std::runtime_error if no folder can be made. `name` is the start of the folder's name.
+    /// `name` is the start of the folder's name. Throws std::runtime_error if no folder can be created.
     explicit TempFolder(const std::string& name = "zelk-test");
     ~TempFolder();
     TempFolder(const TempFolder&) = delete;
@@ -17,10 +17,10 @@ public:
 
     const std::filesystem::path& Path() const { return m_path; }
 
-    /// The full path of an entry of this folder, whether it exists or not.
+    /// Full path of an entry of this folder, which need not exist.
     std::filesystem::path operator/(const std::string& entry) const { return m_path / entry; }
 
-    /// Removes the folder now; the destructor then has nothing left to do.
+    /// Removes the folder now instead of in the destructor.
     void Remove();
 
 private:

@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <vector>
 
-// Last: these define macros with everyday names.
+// Include last: these headers define macros with common names.
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
@@ -26,8 +26,8 @@ std::set<Display*>& OwnDisplays() {
 
 int (*nextHandler)(Display*, XErrorEvent*) = nullptr;
 
-/// Windows go away while we look at them: errors on our connections are no harm, all others are
-/// somebody else's.
+/// Ignores errors on our own connections: windows may disappear while we inspect them. Passes all other
+/// errors on.
 int IgnoreOwnErrors(Display* display, XErrorEvent* error) {
     {
         std::lock_guard lock(ownMutex);
@@ -44,7 +44,7 @@ struct FreeX {
 template <class T>
 using XData = std::unique_ptr<T, FreeX>;
 
-/// Where in a byte a colour mask begins.
+/// Position of the lowest set bit of a colour mask.
 int ShiftOf(unsigned long mask) {
     int shift = 0;
     while (mask != 0 && (mask & 1) == 0) {
@@ -125,7 +125,7 @@ std::string XDesk::Property(unsigned long window, const char* name) const {
         return {};
     }
     const XData<unsigned char> owner(data);
-    // Items of 32 bits come as C longs.
+    // Xlib returns 32-bit items as C longs.
     const size_t itemSize = format == 32 ? sizeof(long) : static_cast<size_t>(format) / 8;
     return {reinterpret_cast<const char*>(data), count * itemSize};
 }
@@ -134,7 +134,7 @@ unsigned long XDesk::FocusedTop() const {
     Window window = None;
     int revert = 0;
     XGetInputFocus(m_display, &window, &revert);
-    // The focus may lie in a helper window; the one that the window manager cares for has a state.
+    // A helper window may have the focus. The window that the window manager handles has a WM_STATE.
     while (window != None && window != PointerRoot) {
         if (!Property(window, "WM_STATE").empty()) {
             return window;
@@ -169,7 +169,7 @@ bool XDesk::FocusIsDialog() const {
 
 wxRect XDesk::FocusedArea() const {
     Window window = FocusedTop();
-    // The window manager puts its frame around the window: what lies on the screen's root is wanted.
+    // The window manager puts a frame around the window. Find the outermost window, a child of the root.
     while (window != None) {
         Window root = None, parent = None;
         Window* children = nullptr;

@@ -1,4 +1,4 @@
-// The X display seen from outside the window toolkit, over a connection of its own.
+// Access to the X display without the window toolkit, over a separate connection.
 #pragma once
 
 #include <string>
@@ -10,12 +10,12 @@ struct _XDisplay;
 
 namespace testbench {
 
-/// A connection of its own, so that it works in any thread and whatever the program's windows do.
-/// To be used by one thread at a time.
+/// A separate connection to the X display, so it works in any thread and whatever the program's windows do.
+/// Use from one thread at a time.
 class XDesk {
 public:
-    /// Connects to the display of the environment; throws std::runtime_error if there is none, or if
-    /// it lacks the XTest extension.
+    /// Connects to the display named by the environment. Throws std::runtime_error if there is none or it
+    /// lacks the XTest extension.
     XDesk();
     ~XDesk();
     XDesk(const XDesk&) = delete;
@@ -28,23 +28,23 @@ public:
     /// Moves the pointer, in screen coordinates.
     void Pointer(const wxPoint& screen);
 
-    /// Which key brings a symbol on the present keyboard.
+    /// The key that types a symbol on the current keyboard.
     struct KeySpot {
         unsigned code = 0; ///< X keycode; 0: the keyboard has no such symbol
         bool shift = false;
     };
     KeySpot FindKey(unsigned long symbol) const;
-    /// For a symbol's X name ("Return", "F10", "a"); code 0 if there is no such name or key.
+    /// Finds the key by the symbol's X name ("Return", "F10", "a"). Code 0 if there is no such name or key.
     KeySpot FindKey(const std::string& name) const;
 
-    /// The title (UTF-8) of the window that key presses go to now; empty if there is none.
+    /// Title (UTF-8) of the window that has the keyboard focus; empty if there is none.
     std::string FocusedTitle() const;
-    /// Whether the window that key presses go to is a dialog, as it told the window manager.
+    /// True if the focused window is a dialog by its declared window type.
     bool FocusIsDialog() const;
-    /// Where the window that key presses go to is on the screen, with its frame; empty if there is none.
+    /// Screen area of the focused window, including its frame; empty if there is none.
     wxRect FocusedArea() const;
 
-    /// What the screen shows, or the part of it in `part` (an empty one: all).
+    /// Returns a picture of the part of the screen in `part`; of the full screen if `part` is empty.
     wxImage Picture(const wxRect& part) const;
 
 private:

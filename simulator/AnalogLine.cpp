@@ -33,7 +33,7 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// The value of a field of decimal digits only, or -1.
+/// The value of a field of decimal digits, or -1 if it holds anything else.
 long Digits(std::string_view field) {
     long value = 0;
     for (char c : field) {
@@ -44,14 +44,14 @@ long Digits(std::string_view field) {
     return value;
 }
 
-/// "ddd.dddd" in units of 100 Hz, or -1.
+/// Reads "ddd.dddd" (MHz) in units of 100 Hz; -1 if malformed.
 long Frequency(std::string_view field) {
     const long whole = Digits(field.substr(0, 3));
     const long fraction = Digits(field.substr(4));
     return whole < 0 || fraction < 0 || field[3] != '.' ? -1 : whole * 10000 + fraction;
 }
 
-/// The range of the model that holds the frequency, or nullptr.
+/// The range of the model that contains the frequency, or nullptr.
 const FrequencyRange* RangeOf(const AnalogModel& model, long frequency) {
     for (const FrequencyRange& range : model.ranges)
         if (range.high > 0 && frequency >= range.low * 10000L && frequency <= range.high * 10000L)
@@ -59,7 +59,7 @@ const FrequencyRange* RangeOf(const AnalogModel& model, long frequency) {
     return nullptr;
 }
 
-/// The navigation part of the airband, where the radio never transmits.
+/// True in the navigation part of the airband, where the radio never transmits.
 bool IsReceiveOnly(const FrequencyRange& range, long frequency) {
     return range.low == 108 && frequency < 118 * 10000L;
 }
@@ -85,7 +85,7 @@ bool IsScan(std::string_view field) {
             return false;
         any = any || field[k] != '_';
     }
-    return any; // a channel in no list says "LOCK "
+    return any; // a channel in no list has "LOCK "
 }
 
 std::string FrequencyField(long frequency) {

@@ -112,7 +112,7 @@ bool AnalogRadio::TakeMemoryCommand(const std::string& text) {
 }
 
 void AnalogRadio::TakeLine(const std::string& line) {
-    // The uncounted opening reaches no memory 300, so that number can end its list.
+    // An opening without a count never reaches memory 300, so that number marks the end of the list.
     if (line.starts_with(m_counted ? "END" : "300")) {
         TakeEndLine(line);
         return;
@@ -153,7 +153,7 @@ void AnalogRadio::SendMemories() {
         m_link.Print(OnTheWire(*m_habits.banner, m_habits.banner->size()));
     for (int number = 1; number <= m_reach; ++number) {
         const auto found = m_memories.find(number);
-        // Memory 1 always goes out: a reader takes everything before it for a banner.
+        // Always send memory 1: readers treat everything before it as a banner.
         if (found == m_memories.end() && number != 1 && !m_habits.allRows)
             continue;
         const AnalogMemory memory = found == m_memories.end() ? EmptyMemory(m_model, number) : found->second;
@@ -168,7 +168,7 @@ void AnalogRadio::SendMemories() {
     m_link.EndTransferWhenSent();
 }
 
-/// The line with its parity bits and its end; `plain` characters at its start carry no bit in Parity::Text.
+/// The line with parity bits and line end. With Parity::Text, the first `plain` characters get no parity bit.
 std::string AnalogRadio::OnTheWire(std::string_view line, std::size_t plain) const {
     std::string bytes = std::string(line) + '\r';
     if (m_habits.parity == Parity::None)

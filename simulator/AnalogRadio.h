@@ -1,4 +1,4 @@
-// The dialogue of the analog radios.
+// Dialogue of the analog radios.
 #pragma once
 
 #include "simulator/MemoryList.h"
@@ -10,27 +10,27 @@
 
 namespace Simulator {
 
-/// What carries a set bit 7 when the radio sends.
+/// Which characters the radio sends with bit 7 set.
 enum class Parity {
     None,
-    Text, ///< characters of memory lines behind the number field, which a reader looks for as it stands
-    All,  ///< every character, banner and end line included, but no carriage return
-    Bytes ///< every byte, carriage returns and acknowledgements included
+    Text, ///< memory lines after the number field; readers search for the number without bit 7
+    All,  ///< every character including banner and end line, except carriage returns
+    Bytes ///< every byte including carriage returns and acknowledgements
 };
 
-/// How this one radio differs from its sisters.
+/// Settings that can differ between radios of the same model.
 struct AnalogHabits {
-    std::optional<std::string> banner; ///< printed before the first memory; none given: the radio's own
+    std::optional<std::string> banner; ///< sent before the first memory; not set: the radio's own
     bool shortForm = false;            ///< sends the short line form
     bool guardNames = false;           ///< sends guards as GD1 and GD2
-    bool allRows = false;              ///< sends memories that hold nothing, too
-    bool endLine = true;               ///< says that the list is over
+    bool allRows = false;              ///< also sends empty memories
+    bool endLine = true;               ///< sends an end line after the list
     Parity parity = Parity::None;
     std::chrono::milliseconds keyDelay{500};
-    std::string memoryFile; ///< empty: memories are lost at the end
+    std::string memoryFile; ///< empty: memories are not kept
 };
 
-/// Plays one band of one analog radio. Silent on everything that a real one wouldn't understand.
+/// Plays one band of one analog radio. Doesn't answer anything that a real one wouldn't understand.
 class AnalogRadio : public Radio {
 public:
     /// `model` and `link` must outlive the radio.
@@ -46,11 +46,11 @@ public:
 private:
     enum class State {
         Command,       // collects a command
-        OpeningNumber, // "rt" was heard, its number comes next
-        Blank,         // the read command of an opened radio takes effect with the blank behind it
+        OpeningNumber, // "rt" was received, its number comes next
+        Blank,         // read command received; after an opening it needs a blank to take effect
         Writing,       // takes memory lines
-        Sending,       // the memory list is going out
-        Deaf           // spoken to like another radio: nothing until the port is closed
+        Sending,       // sends the memory list
+        Deaf           // got an opening for another radio; ignores all input until the port is closed
     };
 
     void TakeCommand(const std::string& text);
@@ -68,9 +68,9 @@ private:
     RadioLink& m_link;
     State m_state = State::Command;
     std::string m_text;     // characters since the last carriage return
-    bool m_opened = false;  // the "rt" opening was right
+    bool m_opened = false;  // got the right "rt" opening
     int m_reach = 0;        // highest memory of this transfer
-    bool m_counted = false; // opened with a count: the list ends in END
+    bool m_counted = false; // opened with a count: the list ends with END
     bool m_changed = false; // memories differ from the file
 };
 

@@ -1,4 +1,4 @@
-// How many bytes a serial line has had time for.
+// Counts the bytes that a serial line has had time to carry.
 #pragma once
 
 #include <chrono>
@@ -9,20 +9,20 @@ namespace Simulator {
 using Clock = std::chrono::steady_clock;
 using TimePoint = Clock::time_point;
 
-/// One direction of a line: 10 bits a byte (start, 8 data, stop). A speed of 0 is a line without limit.
+/// One direction of a line: 10 bits per byte (start, 8 data, stop). A speed of 0 means no limit.
 class BaudClock {
 public:
-    /// The line is idle: the next byte begins when it is asked for.
+    /// Marks the line as idle: the next byte begins at the next Take.
     void Rest() { m_idle = true; }
 
-    /// How many of `waiting` bytes are through by `now` at `baud`; they count as gone.
+    /// Returns how many of `waiting` bytes have been carried by `now` at `baud`, and counts them as sent.
     std::size_t Take(TimePoint now, int baud, std::size_t waiting);
 
-    /// When to ask again for `waiting` more bytes; a few are taken together to spare wake-ups.
+    /// Returns when to call Take again for `waiting` more bytes. Groups a few bytes to save wake-ups.
     TimePoint NextDue(int baud, std::size_t waiting) const;
 
 private:
-    TimePoint m_free{}; // the last byte was through by then
+    TimePoint m_free{}; // when the last byte ended
     bool m_idle = true;
 };
 

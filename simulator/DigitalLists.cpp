@@ -26,7 +26,8 @@ std::vector<std::string> ConfigFields(std::string_view line) {
     return fields;
 }
 
-/// A sample of the log: two values of state in the high bits of minute and second, four temperatures.
+/// A sample of the log: time with two state values in the high bits of minute and second, then four
+/// temperatures.
 std::string Sample(int flags, int hour, int minute, int second, std::string_view values) {
     const auto Byte = [](int value) { return Hex(static_cast<unsigned long>(value), 2); };
     return Byte(flags) + Byte(hour) + Byte(1 << 6 | minute) + Byte(2 << 6 | second) + std::string(values);
@@ -128,8 +129,8 @@ std::vector<std::string> DefaultLog(int protocol) {
         return {LogRecord("2000", Sample(0x01, 12, 34, 56, "191AFF1B") + Sample(0x01, 12, 35, 6, "191B001C") +
                                       Sample(0x08, 12, 35, 16, "01F402BC") + Unused(5)),
                 LogRecord("2040", Sample(0x03, 12, 36, 0, "1A1C051D") + Unused(7))};
-    // A block begins with error code and insert pointer. Bit 7 marks what was received; 02 and 03 enclose
-    // a message of the radio itself.
+    // A block begins with error code and insert pointer. Bit 7 marks received bytes; 02 and 03 enclose a
+    // message from the radio itself.
     return {LogRecord("2000", "00030123" + HexOfText("ATI") + "0D" + "CFCB8D" + "02" + HexOfText("Power up")),
             LogRecord("2020", HexOfText(", 12.6 V") + "03" + HexOfText("AT") + "05" + "CFCB")};
 }

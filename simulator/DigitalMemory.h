@@ -1,4 +1,4 @@
-// A memory of a digital radio, and its two layouts on the wire.
+// Memory of a digital radio, and its two layouts on the wire.
 #pragma once
 
 #include "simulator/DigitalModels.h"
@@ -11,11 +11,11 @@
 
 namespace Simulator {
 
-/// One memory as the radio holds it, whatever the layout in which it came.
+/// One memory as the radio holds it, independent of the record layout.
 struct DigitalMemory {
-    int address = 0;         ///< its place, 0 to the model's highest
-    int number = 0;          ///< the number that its user sees; usually its place
-    int primary = 0;         ///< number of the primary that a shadow follows; its own on others
+    int address = 0;         ///< 0 to the model's highest
+    int number = 0;          ///< number shown to the user; usually equal to the address
+    int primary = 0;         ///< of a shadow: number of its primary; of other memories: their own number
     int flags = 0;           ///< 10 bits: 0x007 a shadow's slot + 1, 0x008 scanned, 0x010 has shadows
     int zone = 0;            ///< 0 to 31
     std::string description; ///< 8 characters, blank-padded
@@ -23,7 +23,7 @@ struct DigitalMemory {
     long rxFrequency = 0; ///< Hz; 0: none
     char rxSquelch = 'x';
     int rxTone = 0; ///< 1 to 42; 0: none
-    int rxCode = 0; ///< as transmitted codes count: 0 none, 1 the first
+    int rxCode = 0; ///< numbered like transmit codes: 0 none, 1 the first
     int rxTalkGroup = 0;
     int rxNac = 0; ///< 12 bits
     long txFrequency = 0;
@@ -31,7 +31,7 @@ struct DigitalMemory {
     int txTone = 0;
     int txCode = 0;
     int txTalkGroup = 0;
-    int txNac = 0;        ///< 16 bits are kept, 12 mean something
+    int txNac = 0;        ///< keeps 16 bits, only 12 have a meaning
     long txId = 0;        ///< 0 to 9999999
     int squelchValue = 0; ///< 0 to 15
 
@@ -41,24 +41,22 @@ struct DigitalMemory {
 /// Memories by address.
 using DigitalMemoryList = std::map<int, DigitalMemory>;
 
-/// Numbers of a primary's shadows by slot, 0 for a free one.
+/// Numbers of a primary's shadows by slot; 0 marks a free slot.
 using ShadowSlots = std::array<int, 7>;
 
-/// Reads a memory record with its checksum, and refuses whatever the program has no business to send: a
-/// broken frame, fields out of their range, literals that aren't there. On refusal the answer is empty and
-/// `trouble` says what is wrong.
+/// Reads a memory record with its checksum. Refuses whatever the program must not send: a broken frame,
+/// fields out of range, missing literals. On refusal returns nothing and puts the reason into `trouble`.
 std::optional<DigitalMemory> ParseMemory(Layout layout, std::string_view line, const DigitalModel& model,
                                          std::string& trouble);
 
-/// The record with its checksum. Empty if the layout has no number for the memory, or the memory isn't one
-/// that it can hold.
+/// Returns the record with its checksum. Empty if the layout has no number for the memory or can't hold it.
 std::string FormatMemory(Layout layout, const DigitalMemory& memory, const ShadowSlots& shadows,
                          const DigitalModel& model);
 
-/// The shadows of `primary` in the list, each in the slot that its flags name.
+/// Returns the shadows of `primary` in the list, each in the slot from its flags.
 ShadowSlots ShadowsOf(const DigitalMemory& primary, const DigitalMemoryList& memories);
 
-// The two layouts; bodies are without their checksums, which ParseMemory has tested.
+// The two layouts. Bodies come without their checksums, which ParseMemory has checked.
 std::optional<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalModel& model,
                                            std::string& trouble);
 std::optional<DigitalMemory> ParseMemoryV2(std::string_view body, const DigitalModel& model,

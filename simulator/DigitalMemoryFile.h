@@ -1,19 +1,19 @@
-// The text file that keeps the memories of a digital radio.
+// Text file that keeps the memories of a digital radio.
 #pragma once
 
 #include "simulator/DigitalMemory.h"
 
 namespace Simulator {
 
-/// Reads the file into `memories`: one memory a line, the number of its layout ("1" or "2"), a blank, and
-/// its record with checksum and without shadows; empty lines and lines that begin with '#' are comments. A
-/// file that doesn't exist is an empty radio. A line that `model` couldn't hold answers false with file,
-/// line and reason in `trouble`; `memories` is then unchanged.
+/// Reads the file into `memories`. Each line holds one memory: the number of its layout ("1" or "2"), a
+/// blank, and its record with checksum and without shadows. Skips empty lines and comments, which begin with
+/// '#'. A missing file means an empty radio. If `model` couldn't hold a line, or the file can't be read,
+/// returns false, puts file, line and reason into `trouble`, and leaves `memories` unchanged.
 bool LoadDigitalMemories(const std::string& path, const DigitalModel& model, DigitalMemoryList& memories,
                          std::string& trouble);
 
-/// Writes the file in one step, each memory in `layout` unless only the other one can hold it whole.
-/// Answers false with the reason in `trouble` when that can't be done.
+/// Writes the file in one step. Each memory is in `layout`, unless only the other layout can hold all of it.
+/// On failure returns false and puts the reason into `trouble`.
 bool SaveDigitalMemories(const std::string& path, const DigitalModel& model, Layout layout,
                          const DigitalMemoryList& memories, std::string& trouble);
 

@@ -1,4 +1,4 @@
-// The first layout: numbers of one byte, frequencies as text.
+// First layout: one-byte numbers, frequencies as text.
 #include "simulator/DigitalMemory.h"
 #include "simulator/HexRecord.h"
 #include "simulator/RecordFields.h"
@@ -21,7 +21,7 @@ int FromWire(int number, const DigitalModel& model) {
     return model.remoteGuards && number > LastOrdinaryV1 ? number + GuardOffset : number;
 }
 
-/// The number on the wire, or -1 for one that this layout can't name.
+/// The number on the wire, or -1 if this layout has none for it.
 int OnWire(int number, const DigitalModel& model) {
     const int wire = model.remoteGuards && number > LastOrdinaryV1 ? number - GuardOffset : number;
     const bool named = wire <= HighestV1 && (!model.remoteGuards || number == wire || wire > LastOrdinaryV1);
@@ -67,7 +67,7 @@ std::optional<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalM
     memory.rxSquelch = fields.Letter(54, model.rxSquelch, "receive squelch");
     memory.rxTalkGroup = static_cast<int>(fields.Number(56, 4, 0, 0xFFFF, "receive talk group"));
     memory.rxTone = static_cast<int>(fields.Number(60, 2, 0, 42, "receive tone"));
-    // Received codes count from 0 and have FF for none; transmitted ones count from 1.
+    // Receive codes count from 0, with FF for none; transmit codes count from 1.
     const int code = static_cast<int>(fields.Number(62, 2, 0, 0xFF, "receive code"));
     if (code != NoRxCode && code > HighestRxCode)
         fields.Refuse(62, "receive code is neither from 0 to 82 nor FF");

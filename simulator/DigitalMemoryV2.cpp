@@ -1,4 +1,4 @@
-// The second layout: numbers of two bytes, frequencies in Hz.
+// Second layout: two-byte numbers, frequencies in Hz.
 #include "simulator/DigitalMemory.h"
 #include "simulator/HexRecord.h"
 #include "simulator/RecordFields.h"

@@ -1,4 +1,4 @@
-// The messages that a digital radio answers.
+// Messages that a digital radio answers.
 #include "simulator/DigitalRadio.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@ namespace Simulator {
 namespace {
 
 constexpr int FastBaud = 115200;
-constexpr int FastCode = 0x0480; // its 1152 hundreds of baud
+constexpr int FastCode = 0x0480; // FastBaud in units of 100 baud
 
 enum Message {
     Ack = 0x00,
@@ -28,7 +28,7 @@ enum Message {
     TakeConfigs = 0x35,
 };
 
-/// Bytes behind the message's code.
+/// Number of bytes after the message's code.
 std::size_t ExtraBytes(int code) {
     return code == SetStamp ? 7 : code == ChangeSpeed ? 2 : 0;
 }

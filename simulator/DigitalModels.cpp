@@ -13,7 +13,7 @@ constexpr DigitalModel Models[] = {
      "010203"},
     {"KDRV-716B", "FM 136-174", false, Vhf, 502, true, true, true, "wnD", "xtcmng", "xtc-gi", 83, 2,
      "020103"},
-    // The module's lists have analog channels too, which know no squelch letters and count "OFF" as a code.
+    // The module's lists also hold analog channels, which have no squelch letters and count "OFF" as a code.
     {"KDRV-4xxx", "K7", true, ModuleBands, 500, false, true, false, "WNwnD ", "xtcmng ", "xtc-gi ", 84, 2,
      "020103"},
 };

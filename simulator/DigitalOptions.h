@@ -1,4 +1,4 @@
-// What the command line says about a digital radio.
+// Command line options of a digital radio.
 #pragma once
 
 #include "simulator/DigitalRadio.h"
@@ -8,7 +8,7 @@
 
 namespace Simulator {
 
-/// The options as they were given; what is empty takes the model's or the radio's default.
+/// The options as given. Empty ones take the model's or the radio's default.
 struct DigitalOptions {
     std::optional<int> protocol;
     std::string firmware;
@@ -17,18 +17,18 @@ struct DigitalOptions {
     std::string logFile; ///< of the debug log
 };
 
-// Each reads the value of one option and answers false with a sentence in `trouble` if it can't be used.
+// Each reads the value of one option. If it is invalid, returns false and puts a sentence into `trouble`.
 bool TakeProtocol(const std::string& value, DigitalOptions& options, std::string& trouble);
 bool TakeFirmware(const std::string& value, DigitalOptions& options, std::string& trouble);
 bool TakeModes(const std::string& value, DigitalOptions& options, std::string& trouble);
 bool TakeStamp(const std::string& value, DigitalOptions& options, std::string& trouble);
 bool TakeSerial(const std::string& value, DigitalOptions& options, std::string& trouble);
 
-/// Puts the model's defaults where nothing was said. Answers false with a sentence in `trouble` if the model
-/// doesn't know the record layout that protocol and firmware lead to.
+/// Sets missing options to the model's defaults. If the model doesn't support the record layout that results
+/// from protocol and firmware, returns false and puts a sentence into `trouble`.
 bool CompleteHabits(const DigitalModel& model, DigitalOptions& options, std::string& trouble);
 
-/// Reads all files that the options name. Answers false with the reason in `trouble` on failure.
+/// Reads all files named by the options. On failure returns false and puts the reason into `trouble`.
 bool LoadContents(const DigitalModel& model, const DigitalOptions& options, DigitalContents& contents,
                   std::string& trouble);
 

@@ -32,8 +32,8 @@ void DigitalRadio::Hear(std::uint8_t byte) {
 }
 
 bool DigitalRadio::FitsSpeed() {
-    // Once it has ended a dialogue itself, the radio is ready for the next one; the other side may still
-    // have a last word at the old speed.
+    // After it has ended a dialogue itself, the radio already accepts the next one at the slow speed. The
+    // other side may still send its last record at the old speed.
     const bool fits = m_lineSpeed == m_speed || (m_state == State::Over && m_lineSpeed == SlowBaud);
     if (!fits && !m_garbled) {
         m_text.clear();
@@ -233,7 +233,7 @@ bool DigitalRadio::IsAtRest() const {
 }
 
 bool DigitalRadio::BeginsAnew(std::string_view bytes) const {
-    // The rest of a hello may still be on its way.
+    // The rest of a hello may not have arrived yet.
     constexpr std::string_view hello = "T007";
     return m_text.empty() && hello.starts_with(bytes.substr(0, hello.size()));
 }

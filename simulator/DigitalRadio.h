@@ -1,4 +1,4 @@
-// The dialogue of the digital radios.
+// Dialogue of the digital radios.
 #pragma once
 
 #include "simulator/DigitalLists.h"
@@ -12,18 +12,18 @@
 
 namespace Simulator {
 
-/// How this one radio differs from its sisters.
+/// Settings that can differ between radios of the same model.
 struct DigitalHabits {
     int protocol = 0;                     ///< transfer protocol, 0 to 2
     std::string firmware;                 ///< six hexadecimal digits
     int modes = 0x70;                     ///< enabled operating modes: 0x40 wide, 0x20 narrow, 0x10 P25
     std::string stamp = "20200101000000"; ///< identity stamp, 14 decimal digits
     std::string serial = "SIM00716";
-    std::string memoryFile; ///< empty: memories are lost at the end
-    std::string configFile; ///< empty: configuration lines are lost at the end
+    std::string memoryFile; ///< empty: memories are not kept
+    std::string configFile; ///< empty: configuration lines are not kept
 };
 
-/// What it holds.
+/// Contents of the radio.
 struct DigitalContents {
     DigitalMemoryList memories;
     std::vector<std::string> hardware = DefaultHardware();
@@ -31,7 +31,7 @@ struct DigitalContents {
     std::vector<std::string> log; ///< records without checksums
 };
 
-/// Plays one digital radio. Whatever breaks the rules is refused, complained of and counted.
+/// Plays one digital radio. Refuses, reports and counts every violation of the rules.
 class DigitalRadio : public Radio {
 public:
     /// `model` and `link` must outlive the radio.
@@ -51,13 +51,13 @@ public:
 
 private:
     enum class State {
-        Idle,          // nothing but a hello makes it listen
-        Greeted,       // a hello was accepted, and nothing has come since
+        Idle,          // waits for a hello
+        Greeted,       // has accepted a hello and received nothing since
         Ready,         // takes messages
-        Sending,       // a list goes out, one record for each acknowledgement
+        Sending,       // sends a list, one record for each acknowledgement
         WritingMemory, // takes memory records
         WritingConfig, // takes configuration records
-        Over,          // has said the end record itself
+        Over,          // has sent the end record itself
         Deaf           // plays dead until the port is closed
     };
     enum class List { Hardware, Memories, Config, Log };
@@ -91,12 +91,12 @@ private:
     const Layout m_layout;
     State m_state = State::Idle;
     std::string m_text;     // characters since the last carriage return
-    int m_lineSpeed;        // what the other side has set
-    int m_speed;            // what the radio listens at
-    bool m_garbled = false; // has complained of a wrong speed
+    int m_lineSpeed;        // set by the other side
+    int m_speed;            // the radio listens at this speed
+    bool m_garbled = false; // has reported a wrong speed
     List m_list = List::Memories;
-    std::vector<std::string> m_bodies; // the list that goes out
-    std::size_t m_next = 0;            // first of it that hasn't been sent
+    std::vector<std::string> m_bodies; // the list being sent
+    std::size_t m_next = 0;            // its first record that hasn't been sent
     bool m_repeated = false;           // the last one was sent twice
     std::vector<std::string> m_newConfig;
     bool m_changed = false;       // memories differ from the file

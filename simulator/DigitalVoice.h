@@ -1,4 +1,4 @@
-// What a digital radio says, with the faults that need to know its records.
+// Output of a digital radio, with the faults that depend on its records.
 #pragma once
 
 #include "simulator/Radio.h"
@@ -8,34 +8,34 @@
 
 namespace Simulator {
 
-/// Frames what is said and puts it into the cable. Counted are the memory records that are sent and the
-/// acknowledgements of those that were heard.
+/// Frames the radio's records and sends them over the link. Counted answers are the memory records it sends
+/// and the acknowledgements of those it receives.
 class DigitalVoice {
 public:
     /// `link` must outlive the voice.
     explicit DigitalVoice(RadioLink& link) : m_link(link) {}
 
-    /// A dialogue begins; no fault has been played in it.
+    /// Begins a dialogue, in which no fault has been played yet.
     void BeginDialogue();
 
-    /// A line that isn't counted; `body` is without its checksum.
+    /// Sends a line that isn't counted; `body` has no checksum.
     void Say(std::string_view body);
     void SayAck();
     void SayNak();
     void SayEnd();
-    /// Asks for patience while it erases, if it was told to.
+    /// Sends a wait message and pauses, if the busy fault is to be played.
     void MaybeBusy();
 
-    /// What is to come instead of the next counted answer.
+    /// What to send instead of the next counted answer.
     enum class Instead { Nothing, Nak, End };
-    /// Asks for it; a single refusal comes once.
+    /// Returns the fault to play now; reports a single refusal only once.
     Instead NextInstead();
 
-    /// The acknowledgement of a memory record.
+    /// Sends the acknowledgement of a memory record.
     void Acknowledge();
-    /// A memory record; `body` is without its checksum.
+    /// Sends a memory record; `body` has no checksum.
     void SendRecord(std::string_view body);
-    /// The last one once more; it is counted only once.
+    /// Sends the last memory record again, without counting it again.
     void RepeatRecord(std::string_view body);
 
 private:
@@ -43,7 +43,7 @@ private:
     std::string Line(std::string_view body, int answer, bool spoiled = false);
 
     RadioLink& m_link;
-    int m_refused = 0; // the answer that was refused once already
+    int m_refused = 0; // number of the answer that was already refused once
 };
 
 } // namespace Simulator

@@ -6,7 +6,7 @@ namespace Simulator {
 
 namespace {
 
-/// At which answers a fault is played, seen from its own.
+/// Answers at which a fault is played, relative to its own.
 enum class Reach { There, Onwards, Anywhere };
 
 struct KindName {
@@ -54,7 +54,7 @@ bool IsReached(const Fault& fault, int answer) {
     return answer == fault.answer;
 }
 
-/// A number from 1 up that fills the whole text, or 0.
+/// Returns the number in the text, or 0 if the text isn't exactly one number of at least 1.
 int PositiveNumber(std::string_view text) {
     int value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);

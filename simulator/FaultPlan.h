@@ -1,4 +1,4 @@
-// The faults that a simulated radio is asked to play.
+// Faults that a simulated radio is asked to play.
 #pragma once
 
 #include <optional>
@@ -9,41 +9,42 @@
 namespace Simulator {
 
 enum class FaultKind {
-    Silence, ///< dead from this answer on, until the port is closed
-    LateAck, ///< the acknowledgement comes late
-    NoAck,   ///< the acknowledgement doesn't come
-    Noise,   ///< garbage bytes before the answer
-    Torn,    ///< the line comes in pieces
-    Cut,     ///< the line breaks off in its middle
+    Silence, ///< the radio is dead from this answer on, until the port is closed
+    LateAck, ///< the acknowledgement is late
+    NoAck,   ///< the acknowledgement is missing
+    Noise,   ///< garbage bytes precede the answer
+    Torn,    ///< the line arrives in pieces
+    Cut,     ///< the line breaks off in the middle
     Unplug,  ///< the device disappears
-    // Only digital radios, which speak in records, can play these:
+    // Only digital radios, which use records, can play these:
     Checksum,       ///< the answer has a wrong checksum
-    ChecksumAlways, ///< so have it and all later ones
-    Nak,            ///< refused once instead
-    NakAlways,      ///< refused from then on
-    Wait,           ///< asks for patience first
-    Joined,         ///< the same, and the answer in one burst with it
-    LineFeed,       ///< line feeds after the carriage returns, from this answer on
-    End,            ///< an end record instead of the answer
-    Deaf,           ///< dead once the speed has changed, whatever the answer
-    Busy            ///< asks for patience before it has erased, whatever the answer
+    ChecksumAlways, ///< this answer and all later ones have a wrong checksum
+    Nak,            ///< a refusal replaces the answer once
+    NakAlways,      ///< refusals replace this answer and all later ones
+    Wait,           ///< a wait message precedes the answer
+    Joined,         ///< a wait message and the answer arrive in one burst
+    LineFeed,       ///< line feeds follow the carriage returns, from this answer on
+    End,            ///< an end record replaces the answer
+    Deaf,           ///< the radio is dead after a change of speed, at any answer
+    Busy            ///< a wait message precedes the confirmation of erasing, at any answer
 };
 
-/// One fault at one answer of a transfer. Answers are memory lines on reading and acknowledgements on
-/// writing, counted from 1.
+/// One fault at one answer of a transfer. Answers count from 1: memory lines when reading, acknowledgements
+/// when writing.
 struct Fault {
     FaultKind kind;
     int answer;
     int transfer = 0; ///< counted from 1 over the life of the process; 0: in every transfer
 };
 
-/// Reads "KIND@N" or "KIND@N/T" (only in transfer T). Empty with a sentence in `trouble` on anything else.
+/// Reads "KIND@N" or "KIND@N/T" (only in transfer T). For anything else returns nothing and puts a sentence
+/// into `trouble`.
 std::optional<Fault> ParseFault(std::string_view text, std::string& trouble);
 
-/// All kinds, as ParseFault knows them.
+/// Names of all kinds as ParseFault reads them, separated by commas.
 std::string FaultNames();
 
-/// The text that ParseFault reads.
+/// Returns the fault as text that ParseFault reads.
 std::string FaultText(const Fault& fault);
 
 /// All faults of one run.
@@ -51,8 +52,8 @@ class FaultPlan {
 public:
     explicit FaultPlan(std::vector<Fault> faults = {}) : m_faults(std::move(faults)) {}
 
-    /// The fault of that kind that is played at that answer of that transfer, or nullptr: lasting kinds
-    /// from their answer on, those that have nothing to do with answers at any.
+    /// Returns the fault of this kind to play at this answer of this transfer, or nullptr. Lasting kinds
+    /// match from their answer on; kinds that don't depend on answers match at any.
     const Fault* Find(FaultKind kind, int transfer, int answer) const;
 
 private:

@@ -6,7 +6,7 @@ namespace Simulator {
 
 namespace {
 
-// Neither an acknowledgement (05) nor a line end (0D) is among them: noise must not pass for an answer.
+// Contains neither an acknowledgement (05) nor a line end (0D): noise must not look like an answer.
 constexpr unsigned char Garbage[] = {0x00, 0xFF, 0x80, 0x1B, 0xFE, 0x7F, 0x00, 0xF5};
 constexpr char MarkedReturn = '\x8D'; // a carriage return whose bit 7 is set
 constexpr std::size_t Pieces = 4;
@@ -16,7 +16,7 @@ std::string Played(const Fault& fault) {
     return "! " + FaultText(fault);
 }
 
-/// What the log shows of a message: its text without the line end.
+/// Log entry of a message: its text without the line end.
 std::string Sent(std::string_view bytes) {
     if (bytes.ends_with('\r'))
         bytes.remove_suffix(1);
@@ -79,7 +79,7 @@ void FaultyLink::MakeNoise(AnswerKind kind) {
     if (!fault)
         return;
     std::string noise(std::begin(Garbage), std::end(Garbage));
-    // Records are told from noise by their first letter, which has to stand at the start of a line.
+    // Readers recognise a record by its first letter at the start of a line, so noise needs a line end.
     if (kind == AnswerKind::Record || kind == AnswerKind::RecordAcknowledgement)
         noise += '\r';
     m_outlet.Say(noise, Played(*fault));

@@ -1,4 +1,4 @@
-// The cable of a simulated radio, with the faults that were asked for.
+// Cable of a simulated radio, with the requested faults.
 #pragma once
 
 #include "simulator/FaultPlan.h"
@@ -8,7 +8,7 @@
 
 namespace Simulator {
 
-/// Puts what the radio says into the outlet and plays the faults of the plan on the way.
+/// Passes the radio's output to the outlet and plays the plan's faults on it.
 class FaultyLink : public RadioLink {
 public:
     /// `outlet` and `journal` must outlive the link. `late` is the delay of a late acknowledgement.
@@ -29,9 +29,9 @@ public:
     void Note(std::string_view text) override { m_journal.Note(text); }
     void Complain(std::string_view text) override { m_journal.Complain(text); }
 
-    /// True when the radio plays dead: it neither hears nor speaks.
+    /// True while the radio plays dead: it neither receives nor sends.
     bool IsDead() const { return m_dead; }
-    /// The other side has gone: a dead radio is switched on again.
+    /// Call when the other side has closed the port. A dead radio works again.
     void PortClosed() { m_dead = false; }
 
 private:
@@ -46,7 +46,7 @@ private:
     Outlet& m_outlet;
     Journal& m_journal;
     int m_transfer = 0;
-    int m_answer = 0; // the answer at hand, from 1
+    int m_answer = 0; // the current answer, from 1
     bool m_dead = false;
 };
 

@@ -6,7 +6,7 @@ namespace {
 
 constexpr std::string_view Digits = "0123456789ABCDEF";
 
-/// One's complement of the sum of the bytes behind letter and type.
+/// One's complement of the sum of the bytes after letter and type.
 unsigned Checksum(std::string_view body) {
     unsigned sum = 0;
     for (std::size_t k = 2; k + 1 < body.size(); k += 2)

@@ -1,4 +1,4 @@
-// The lines of the digital radios: type, count, address, data and checksum in upper-case hexadecimal.
+// Lines of the digital radios: type, count, address, data and checksum in upper-case hexadecimal.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace Simulator {
 
-/// What a line holds between its frame.
+/// Content of a line without its frame.
 struct HexRecord {
     enum class Type { Hello = 0, Data = 1, Message = 2, End = 9 };
 
@@ -18,26 +18,26 @@ struct HexRecord {
     std::vector<std::uint8_t> data; ///< at least one byte, except in an end record
 };
 
-/// Longest line that a count of one byte allows, its end not counted.
+/// Greatest length that a count of one byte allows, without the line end.
 constexpr std::size_t LongestRecord = 4 + 2 * 255;
 
-/// Reads a line without its carriage return and refuses everything that isn't exactly in shape: first
-/// letter, type, upper case, count against the length, checksum. On refusal `trouble` says why.
+/// Reads a line without its carriage return. Checks first letter, type, upper case, count against the length,
+/// and checksum. If one is wrong, returns nothing and puts the reason into `trouble`.
 std::optional<HexRecord> ParseRecord(std::string_view line, std::string& trouble);
 
-/// The line, with count and checksum, without an end.
+/// Returns the line with count and checksum, without a line end.
 std::string FormatRecord(const HexRecord& record);
 
-/// The body (a line without its checksum) with its checksum behind it.
+/// Returns the body (a line without its checksum) followed by its checksum.
 std::string WithChecksum(std::string_view body);
 
-/// The last `digits` digits of the value in upper-case hexadecimal.
+/// Returns the last `digits` digits of the value in upper-case hexadecimal.
 std::string Hex(unsigned long value, int digits);
 
-/// True for a text of upper-case hexadecimal digits only, the empty one among them.
+/// True if the text contains only upper-case hexadecimal digits or is empty.
 bool IsHex(std::string_view text);
 
-/// The value of at most eight upper-case hexadecimal digits, or -1 for anything else and an empty text.
+/// Returns the value of one to eight upper-case hexadecimal digits, or -1 for any other text.
 long HexValue(std::string_view text);
 
 } // namespace Simulator

@@ -1,4 +1,4 @@
-// The log of a simulated radio: every line on the wire with its time.
+// Log of a simulated radio: every line on the wire with its time.
 #pragma once
 
 #include "simulator/BaudClock.h"
@@ -10,19 +10,19 @@
 
 namespace Simulator {
 
-/// Writes one line an event: milliseconds since the start, then the text. By convention "<" is what the
-/// radio heard, ">" what it said, "!" a fault played, "?" what it refused, "-" anything else.
+/// Writes one line per event: milliseconds since the start, then the text. By convention, "<" begins input of
+/// the radio, ">" its output, "!" a played fault, "?" a refusal, "-" anything else.
 class Journal {
 public:
-    /// A journal that writes nothing but complaints.
+    /// A journal without a file: only complaints are written, to standard error.
     Journal() = default;
 
-    /// Begins the file anew. Answers false with the reason in `trouble` if it can't be written.
+    /// Creates or empties the file. If it can't be written, returns false and puts the reason into `trouble`.
     bool Open(const std::string& path, std::string& trouble);
 
-    /// Bytes that aren't printable ASCII are shown as \xNN.
+    /// Writes a line. Bytes that aren't printable ASCII are written as \xNN.
     void Note(std::string_view text);
-    /// The same, marked "?", and to the standard error output as well.
+    /// Writes a line marked "?", also to standard error.
     void Complain(std::string_view text);
 
 private:

@@ -1,4 +1,4 @@
-// The memories that a simulated radio holds, and the text file that keeps them.
+// Memories of a simulated analog radio, and the text file that keeps them.
 #pragma once
 
 #include "simulator/AnalogLine.h"
@@ -11,14 +11,14 @@ namespace Simulator {
 /// Memories that hold data, by number.
 using MemoryList = std::map<int, AnalogMemory>;
 
-/// Reads the file into `memories`: one line of the long form a memory; empty lines and lines that begin
-/// with '#' are comments. A file that doesn't exist is an empty radio. A line that `model` couldn't hold
-/// answers false with file, line and reason in `trouble`; `memories` is then unchanged.
+/// Reads the file into `memories`: one line of the long form per memory. Skips empty lines and comments,
+/// which begin with '#'. A missing file means an empty radio. If `model` couldn't hold a line, or the file
+/// can't be read, returns false, puts file, line and reason into `trouble`, and leaves `memories` unchanged.
 bool LoadMemories(const std::string& path, const AnalogModel& model, MemoryList& memories,
                   std::string& trouble);
 
-/// Writes the file in one step: it holds the old or the new list at any moment. Answers false with the
-/// reason in `trouble` when that can't be done.
+/// Writes the file in one step: at any time it holds either the old or the new list. On failure returns false
+/// and puts the reason into `trouble`.
 bool SaveMemories(const std::string& path, const AnalogModel& model, const MemoryList& memories,
                   std::string& trouble);
 

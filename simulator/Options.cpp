@@ -92,7 +92,7 @@ Taker Switch(Member member) {
     };
 }
 
-/// An option that keeps its text.
+/// An option that stores its text.
 template <typename Member>
 Taker Text(Member member) {
     return [member](Options& options, const std::string& value, std::string&) {

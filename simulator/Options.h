@@ -1,4 +1,4 @@
-// The command line of zelk-radio.
+// Command line of zelk-radio.
 #pragma once
 
 #include "simulator/AnalogRadio.h"
@@ -15,8 +15,8 @@ struct Options {
     enum class Task { Play, List, Help };
 
     Task task = Task::Play;
-    const AnalogModel* model = nullptr;         ///< the radio if it is an analog one
-    const DigitalModel* digitalModel = nullptr; ///< the radio if it is a digital one
+    const AnalogModel* model = nullptr;         ///< set for an analog radio
+    const DigitalModel* digitalModel = nullptr; ///< set for a digital radio
     AnalogHabits habits;
     DigitalOptions digital;
     std::string memoryFile;
@@ -24,19 +24,19 @@ struct Options {
     std::chrono::milliseconds late{5500};
     bool pace = false;
     bool once = false;
-    std::string portsFolder; ///< empty: the program's own
+    std::string portsFolder; ///< empty: the default folder
     std::string name;        ///< of the link; the model's by default
     std::string logFile;
 };
 
-/// Reads the arguments behind the program's name; a value follows its option or stands behind "=". Options
-/// that concern only the other kind of radio change nothing.
-/// Answers false with a sentence in `trouble` when they can't be understood.
+/// Reads the arguments after the program's name. A value is the argument after its option, or follows "=".
+/// Options for the other kind of radio have no effect. If the arguments are invalid, returns false and puts a
+/// sentence into `trouble`.
 bool ParseOptions(const std::vector<std::string>& arguments, Options& options, std::string& trouble);
 
 /// The text of --help.
 std::string HelpText();
-/// The text of --list: one model and band a line.
+/// The text of --list: one model and band per line.
 std::string ListText();
 
 } // namespace Simulator

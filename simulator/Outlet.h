@@ -1,4 +1,4 @@
-// What is still to go out of a simulated radio, with its pauses, in order.
+// Pending output of a simulated radio, with its pauses, in order.
 #pragma once
 
 #include "simulator/BaudClock.h"
@@ -10,40 +10,40 @@
 
 namespace Simulator {
 
-/// A queue of bytes, pauses and events that is played against the clock.
+/// A queue of bytes, pauses and events, played in real time.
 class Outlet {
 public:
-    /// What has become due.
+    /// Output that has become due.
     struct Delivery {
         std::string bytes;
-        std::vector<std::string> notes; ///< log lines of what has gone out in full
-        bool vanish = false;            ///< the device is to disappear now
+        std::vector<std::string> notes; ///< log lines of all that was sent completely
+        bool vanish = false;            ///< the device must disappear now
     };
 
-    /// Bytes; `note` is for the log once they are out, empty for none.
+    /// Queues bytes. `note` is logged after they are sent; empty for none.
     void Say(std::string bytes, std::string note);
-    /// Nothing goes out for that long; `note` as above, at its start.
+    /// Queues a pause. `note` is logged at its start; empty for none.
     void Pause(std::chrono::milliseconds duration, std::string note);
-    /// Nothing goes out until the key is pressed or `patience` is over.
+    /// Queues a wait until the key is pressed or `patience` has passed.
     void AwaitKey(std::chrono::milliseconds patience);
-    /// The device disappears; nothing comes after it.
+    /// Queues the disappearance of the device, which discards all that follows.
     void Vanish(std::string note);
-    /// Counts a completed transfer when it is reached.
+    /// Counts a completed transfer after all that is queued before it.
     void Complete();
     /// Counts a completed transfer now.
     void CountCompleted() { ++m_completed; }
 
-    /// Ends the wait for the key, if that is what is going on.
+    /// Ends the wait for the key, if one is in progress.
     void PressKey();
-    /// Forgets everything that hasn't gone out.
+    /// Discards everything that hasn't been sent.
     void Clear();
 
     bool IsEmpty() const { return m_actions.empty(); }
     int Completed() const { return m_completed; }
 
-    /// Takes what is due at `now` on a line of `baud` (0: no limit), at most one message at a time.
+    /// Removes and returns what is due at `now` on a line of `baud` (0: no limit): one message at most.
     Delivery Take(TimePoint now, int baud);
-    /// When to ask again; empty when nothing waits.
+    /// Returns when to call Take again; nothing if the queue is empty.
     std::optional<TimePoint> NextDue() const { return m_due; }
 
 private:
@@ -59,7 +59,7 @@ private:
     bool HoldIsOver(const Action& action, TimePoint now, Delivery& delivery);
 
     std::deque<Action> m_actions;
-    std::size_t m_sent = 0; // bytes of the first action that are out
+    std::size_t m_sent = 0; // bytes already sent of the first action
     std::optional<TimePoint> m_holdEnd;
     std::optional<TimePoint> m_due;
     BaudClock m_clock;

@@ -25,13 +25,13 @@ Player::Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, Outlet& out
       m_once(once) {}
 
 void Player::Run(int signals) {
-    // The system may wake us up late, by default half a byte's time at 115200 baud.
+    // By default the system may wake us up late by half a byte's time at 115200 baud.
     if (m_pace)
         prctl(PR_SET_TIMERSLACK, 1UL);
     while (!m_stop) {
         Wait(signals);
         TakeSignals(signals);
-        // Visits are handled first, but a user who has gone is heard out before he is forgotten.
+        // Handle visits first; Leave still reads the last bytes of a user who has gone.
         HandleVisits();
         if (m_stop)
             return;
@@ -48,7 +48,7 @@ void Player::Wait(int signals) {
         const TimePoint heard = m_hearing.NextDue(Baud(), m_heard.size());
         due = due ? std::min(*due, heard) : heard;
     }
-    // To the nanosecond: at 115200 baud a millisecond is the time of eleven bytes.
+    // Use nanoseconds: at 115200 baud a millisecond is the time of eleven bytes.
     std::optional<timespec> timeout;
     if (due) {
         using namespace std::chrono;
@@ -61,7 +61,7 @@ void Player::Wait(int signals) {
         wanted |= POLLIN;
     if (!m_pending.empty())
         wanted |= POLLOUT;
-    // With nobody there the port reports a hang-up all the time: the watch tells when somebody comes.
+    // While the other side is closed, the port constantly reports a hang-up; only the watch reports an open.
     pollfd watched[] = {
         {m_port.IsOpen() ? m_port.Descriptor() : -1, wanted, 0},
         {m_port.WatchDescriptor(), POLLIN, 0},
@@ -94,9 +94,9 @@ void Player::Leave() {
     for (std::string last = m_port.Read(ReadSize); !last.empty(); last = m_port.Read(ReadSize))
         m_heard += last;
     if (m_port.IsOpen()) {
-        // Somebody else has come at once, and nothing tells his first bytes from the last ones of the
-        // user who has gone. A dialogue that had come to its end is where the new one begins, and so is what
-        // can't belong to the old one. The old one was at the speed at which it was last heard.
+        // Another user has already opened the port, and nothing separates his first bytes from the last
+        // user's last bytes. The new dialogue begins where the old one has ended, or at bytes that can't
+        // belong to the old one. The last user's bytes had the speed at which he was last heard.
         while (!m_heard.empty() && !(m_radio.IsAtRest() && !m_link.IsDead()) && !m_radio.BeginsAnew(m_heard))
             FeedRadio(1, m_speed);
     } else {

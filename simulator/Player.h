@@ -1,4 +1,4 @@
-// Plays a radio on a simulated port until it is told to stop.
+// Plays a radio on a simulated port until it has to stop.
 #pragma once
 
 #include "simulator/FaultyLink.h"
@@ -11,16 +11,16 @@
 
 namespace Simulator {
 
-/// The loop that moves bytes between a port and a radio, with pacing and pauses. Waits in poll only.
+/// The loop that moves bytes between a port and a radio, with pacing and pauses. Only blocks in poll.
 class Player {
 public:
-    /// Everything must outlive the player. With `pace`, neither direction is faster than the speed that
-    /// the other side has set. With `once`, it ends when the port is closed after a completed transfer.
+    /// All arguments must outlive the player. With `pace`, neither direction is faster than the speed that
+    /// the other side has set. With `once`, Run ends when the port is closed after a completed transfer.
     Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, Outlet& outlet, Journal& journal, bool pace,
            bool once);
 
-    /// Plays until SIGTERM, SIGINT, SIGHUP, the unplug fault or `once` ends it. `signals` is a signalfd
-    /// of these and of SIGUSR1, which presses the radio's key.
+    /// Plays until SIGTERM, SIGINT, SIGHUP, the unplug fault or `once` ends it. `signals` is a signalfd for
+    /// these signals and for SIGUSR1, which presses the radio's key.
     void Run(int signals);
 
 private:
@@ -41,8 +41,8 @@ private:
     bool m_pace;
     bool m_once;
     bool m_stop = false;
-    int m_speed = 9600;    // the user's when he was last heard
-    std::string m_heard;   // arrived, but not yet through at the line's speed
+    int m_speed = 9600;    // the user's speed at his last input
+    std::string m_heard;   // read from the port, but still on the way at the line's speed
     std::string m_pending; // due, but the port had no room
     BaudClock m_hearing;
 };

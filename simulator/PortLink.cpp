@@ -67,7 +67,7 @@ void PortLink::Lock() {
                 Fail(m_path + " is played by another zelk-radio: end that one, or give this one a --name");
             Fail(m_lockPath + ": " + std::strerror(error));
         }
-        // The former holder may have removed the file between the opening and the lock.
+        // The previous holder may have removed the file between our open and our lock.
         if (IsSameFile(m_lockPath, m_lock))
             return;
         close(m_lock);
@@ -79,7 +79,7 @@ void PortLink::MakeLink() {
     const fs::file_status there = fs::symlink_status(m_path, error);
     if (fs::exists(there)) {
         const std::string target = fs::is_symlink(there) ? fs::read_symlink(m_path, error).string() : "";
-        // Nobody holds the lock: a link to a pseudo-terminal, or to nothing, is left over.
+        // No other process holds the lock, so a link to a pseudo-terminal or to nothing is a leftover.
         if (!target.starts_with("/dev/pts/") && (target.empty() || fs::exists(m_path, error)))
             Fail(m_path + " is no simulated port: it is left alone, choose another --name");
     }

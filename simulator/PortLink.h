@@ -1,19 +1,19 @@
-// The name under which a simulated port is found.
+// Name of a simulated port in the folder of ports.
 #pragma once
 
 #include <string>
 
 namespace Simulator {
 
-/// A symbolic link in the folder of simulated ports. A lock file beside it (".NAME.lock") is held by the
-/// process that plays the port, so that a link of a process that died is told from one in use.
+/// A symbolic link in the folder of simulated ports. The process that plays the port locks a file next to it
+/// (".NAME.lock"). The lock distinguishes a link in use from a leftover of a process that died.
 class PortLink {
 public:
-    /// Makes `folder` if need be, and in it the link `name` to `device`. A link that nobody plays any
-    /// more is replaced. Throws std::runtime_error with a sentence for the user when the name is played
-    /// by another process, stands for something that isn't a simulated port, or can't be made.
+    /// Creates `folder` if necessary, and in it the link `name` to `device`. Replaces a leftover link. Throws
+    /// std::runtime_error with a sentence for the user if another process plays this name, if the name exists
+    /// but isn't a simulated port, or if the link can't be created.
     PortLink(const std::string& folder, const std::string& name, const std::string& device);
-    /// Removes the link unless it has come to point elsewhere.
+    /// Removes the link unless it now points elsewhere.
     ~PortLink();
     PortLink(const PortLink&) = delete;
     PortLink& operator=(const PortLink&) = delete;
@@ -31,8 +31,8 @@ private:
     int m_lock = -1;
 };
 
-/// The folder "ports" in the user data directory of the program: ".zelk/ports" in the home directory,
-/// which is $HOME, or the one of the password database without it.
+/// Returns the folder "ports" in the program's user data directory: ".zelk/ports" in the home directory. The
+/// home directory is $HOME or, if that isn't set, the one in the password database.
 std::string DefaultPortsFolder();
 
 } // namespace Simulator

@@ -77,7 +77,7 @@ PseudoTerminal::Visit PseudoTerminal::TakeVisits() {
             if ((event.mask & IN_CLOSE) && m_users > 0 && --m_users == 0)
                 visit.closed = true;
             if (event.mask & IN_Q_OVERFLOW) {
-                // Counting has been lost: the hang-up state of the line says whether anybody is left.
+                // Events were lost, so the count is wrong. The hang-up state shows if the port is open.
                 pollfd line{m_master, 0, 0};
                 poll(&line, 1, 0);
                 m_users = line.revents & POLLHUP ? 0 : 1;
@@ -114,8 +114,8 @@ int PseudoTerminal::Speed() const {
 }
 
 void PseudoTerminal::Flush() {
-    // Settings go through to the other side, and setting them with TCSAFLUSH drops its unread input,
-    // which TCOFLUSH alone doesn't; that in turn drops what is still between the two sides.
+    // TCOFLUSH discards bytes in transit between the two sides, but not the other side's unread input.
+    // TCSAFLUSH discards that: settings made here apply to the other side.
     tcflush(m_master, TCOFLUSH);
     termios line{};
     if (tcgetattr(m_master, &line) != 0)

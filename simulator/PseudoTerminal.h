@@ -1,4 +1,4 @@
-// The pseudo-terminal that stands in for a serial port.
+// Pseudo-terminal that simulates a serial port.
 #pragma once
 
 #include <string>
@@ -6,38 +6,38 @@
 
 namespace Simulator {
 
-/// The radio's side of a pseudo-terminal, and a watch on who opens and closes the other side. The other
-/// side is never held open here: only then does the system tell when its user has gone, and a lock that
-/// a user left on the device goes with him.
+/// The radio's side of a pseudo-terminal, and a watch on opens and closes of the other side. Never keeps the
+/// other side open: only then does the system report when its user has gone, and release a lock that he left
+/// on the device.
 class PseudoTerminal {
 public:
-    /// Opens one, raw and at 9600 baud. Throws std::system_error when the system has none to give.
+    /// Opens a pseudo-terminal, raw and at 9600 baud. Throws std::system_error if that fails.
     PseudoTerminal();
     ~PseudoTerminal();
     PseudoTerminal(const PseudoTerminal&) = delete;
     PseudoTerminal& operator=(const PseudoTerminal&) = delete;
 
-    /// Name of the side that others open.
+    /// Device name of the other side.
     const std::string& DeviceName() const { return m_device; }
     int Descriptor() const { return m_master; }
     int WatchDescriptor() const { return m_watch; }
 
-    /// What opening and closing has done since the last call.
+    /// Opens and closes of the other side since the last call.
     struct Visit {
         bool opened = false;
-        bool closed = false; ///< the last user went (a new one may have come since, see IsOpen)
+        bool closed = false; ///< the last user has closed it (another may have opened it since, see IsOpen)
     };
     Visit TakeVisits();
-    /// True while somebody has the other side open.
+    /// True while the other side is open.
     bool IsOpen() const { return m_users > 0; }
 
-    /// Bytes that have arrived, up to `limit`; empty when there are none.
+    /// Reads bytes that have arrived, up to `limit`; empty if there are none.
     std::string Read(std::size_t limit);
-    /// Writes what fits and answers how many bytes that were. Bytes for nobody count as written.
+    /// Writes as many bytes as fit and returns their number; all of them while the other side is closed.
     std::size_t Write(std::string_view bytes);
-    /// The speed that the other side has set, in baud.
+    /// Speed that the other side has set, in baud.
     int Speed() const;
-    /// Drops what the other side hasn't read. With nobody there the line also becomes raw again.
+    /// Discards what the other side hasn't read. If it is closed, also resets the line to raw and 9600 baud.
     void Flush();
 
 private:

@@ -1,4 +1,4 @@
-// What stands on the two sides of a simulated port: the radio, and the cable that it speaks into.
+// Interfaces of a simulated radio and of the cable that connects it to a port.
 #pragma once
 
 #include "simulator/FaultPlan.h"
@@ -10,7 +10,7 @@
 
 namespace Simulator {
 
-/// What an answer is; some faults concern only lines, some only acknowledgements.
+/// Kind of an answer. Some faults apply only to lines, some only to acknowledgements.
 enum class AnswerKind {
     Line,
     Acknowledgement, ///< a single character
@@ -18,39 +18,40 @@ enum class AnswerKind {
     RecordAcknowledgement
 };
 
-/// The radio's end of its cable. What is said here goes out in order, as fast as the line allows.
+/// The radio's end of its cable. Sends all output in order, as fast as the line allows.
 class RadioLink {
 public:
     virtual ~RadioLink() = default;
 
-    /// A new exchange begins: its answers are counted from 1.
+    /// Begins a transfer, whose answers are counted from 1.
     virtual void BeginTransfer() = 0;
-    /// The same for a radio that has more to say before its first answer; BeginAnswers comes next to that.
+    /// Same as BeginTransfer, for a radio that sends other output before its first counted answer. Call
+    /// BeginAnswers when counted answers follow.
     virtual void BeginDialogue() { BeginTransfer(); }
-    /// Counted answers follow.
+    /// Announces that counted answers follow.
     virtual void BeginAnswers() {}
-    /// The next counted answer, from 1.
+    /// Number of the next counted answer, from 1.
     virtual int NextAnswer() const { return 1; }
-    /// True when that fault is to be played at that answer; it is then noted as played. For faults that a
-    /// radio has to play itself; a cable without faults plays none.
+    /// True if this fault is to be played at this answer; also logs it as played. For faults that the radio
+    /// itself must play. A cable without faults returns false.
     virtual bool Plays(FaultKind, int) { return false; }
-    /// Nothing that is said from here on goes out before this time is over.
+    /// Delays all later output by this time.
     virtual void Pause(std::chrono::milliseconds) {}
-    /// One counted answer, its end included.
+    /// Sends one counted answer, including its line end.
     virtual void Answer(std::string_view bytes, AnswerKind kind) = 0;
-    /// Text that isn't counted: a banner, an end line.
+    /// Sends text that isn't counted: a banner, an end line.
     virtual void Print(std::string_view bytes) = 0;
-    /// What is said after this waits until the radio's key is pressed; `patience` presses it.
+    /// Holds all later output until the radio's key is pressed, or until `patience` has passed.
     virtual void WaitForKey(std::chrono::milliseconds patience) = 0;
-    /// The exchange is complete.
+    /// Counts the transfer as completed now.
     virtual void EndTransfer() = 0;
-    /// The exchange is complete as soon as all that was said before has gone out.
+    /// Counts the transfer as completed when all earlier output has been sent.
     virtual void EndTransferWhenSent() = 0;
-    /// True while something is still to go out.
+    /// True while output is pending.
     virtual bool IsSending() const = 0;
-    /// A line for the log.
+    /// Writes a line to the log.
     virtual void Note(std::string_view text) = 0;
-    /// Something that the other side got wrong: for the log and for the person watching.
+    /// Reports a mistake of the other side in the log and on standard error.
     virtual void Complain(std::string_view text) = 0;
 };
 
@@ -59,19 +60,20 @@ class Radio {
 public:
     virtual ~Radio() = default;
 
-    /// The speed that the other side has set, in baud; told before bytes are heard.
+    /// Sets the speed of the other side, in baud. Call before Hear.
     virtual void LineSpeed(int) {}
-    /// Takes one byte from the wire.
+    /// Receives one byte from the wire.
     virtual void Hear(std::uint8_t byte) = 0;
-    /// True between two dialogues: nothing has been heard of the next one yet.
+    /// True between two dialogues, before the first byte of the next one.
     virtual bool IsAtRest() const = 0;
-    /// True if bytes that come next can only be the first of a new dialogue, whatever went before.
+    /// True if these next bytes can only be the start of a new dialogue, whatever came before.
     virtual bool BeginsAnew(std::string_view) const { return false; }
-    /// The other side has gone: a dialogue in progress is forgotten, memories stay.
+    /// Call when the other side has closed the port. Drops a dialogue in progress; keeps the memories.
     virtual void PortClosed() = 0;
-    /// Writes the memories to their file if there is one. Answers false with a reason on failure.
+    /// Writes the memories to their file if there is one. On failure returns false and puts the reason into
+    /// `trouble`.
     virtual bool Store(std::string& trouble) = 0;
-    /// How often the other side has broken the rules; counted by radios that tell every breach.
+    /// Number of violations by the other side; 0 for radios that don't count them.
     virtual int Violations() const { return 0; }
 };
 

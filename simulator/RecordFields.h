@@ -1,4 +1,4 @@
-// Reads the fields of a memory record one by one and remembers the first that is wrong.
+// Reads the fields of a memory record one by one and keeps the first error.
 #pragma once
 
 #include "simulator/DigitalModels.h"
@@ -8,33 +8,33 @@
 
 namespace Simulator {
 
-/// Positions count characters of the line from 0. After a failure the answers mean nothing, but asking on
-/// is safe; the first failure stands.
+/// Positions count the characters of the line from 0. After a failure, returned values are meaningless, but
+/// further calls are safe; the first failure is kept.
 class RecordFields {
 public:
-    /// `body` is a record without its checksum, made of upper-case hexadecimal digits behind its T.
+    /// `body` is a record without its checksum: T followed by upper-case hexadecimal digits.
     explicit RecordFields(std::string_view body) : m_body(body) {}
 
     bool IsGood() const { return m_trouble.empty(); }
-    /// What is wrong, with its position; empty if all is good.
+    /// The first error, with its position; empty if there is none.
     const std::string& Trouble() const { return m_trouble; }
 
-    /// The text must stand there.
+    /// Requires this text at the position.
     void Literal(int position, std::string_view text, std::string_view name);
-    /// Zeros must stand there.
+    /// Requires `length` zeros at the position.
     void Zeros(int position, int length, std::string_view name);
-    /// A number of `digits` hexadecimal digits, from `low` to `high`.
+    /// Reads a number of `digits` hexadecimal digits, which must be from `low` to `high`.
     long Number(int position, int digits, long low, long high, std::string_view name);
-    /// A character, which must be one of `allowed`.
+    /// Reads a character, which must be one of `allowed`.
     char Letter(int position, std::string_view allowed, std::string_view name);
-    /// `length` printable ASCII characters.
+    /// Reads `length` printable ASCII characters.
     std::string Text(int position, int length, std::string_view name);
-    /// Frequency in Hz from eight characters such as "154.1234": 0 or in one of the model's ranges.
+    /// Reads a frequency from eight characters such as "154.1234". Returns Hz: 0 or in a range of the model.
     long FrequencyText(int position, const DigitalModel& model, std::string_view name);
-    /// The same from eight digits of Hz.
+    /// Same as FrequencyText, from eight hexadecimal digits in Hz.
     long FrequencyHertz(int position, const DigitalModel& model, std::string_view name);
 
-    /// Reports a failure found outside.
+    /// Records a failure found by the caller.
     void Refuse(int position, const std::string& why);
 
 private:
@@ -44,7 +44,7 @@ private:
     std::string m_trouble;
 };
 
-/// ASCII characters as pairs of hexadecimal digits.
+/// Returns ASCII characters as pairs of hexadecimal digits.
 std::string HexOfText(std::string_view text);
 
 } // namespace Simulator

@@ -1,4 +1,4 @@
-// Text files of a simulated radio: lines with comments in, whole files out.
+// Text files of a simulated radio: reads lines and skips comments, writes complete files.
 #pragma once
 
 #include <functional>
@@ -8,15 +8,15 @@ namespace Simulator {
 
 enum class Missing { IsEmpty, IsTrouble };
 
-/// Gives each line to `take`, without its end; empty lines and those that begin with '#' are passed over.
-/// `take` answers false with a reason to refuse a line: then, or if the file can't be read, the answer is
-/// false with file, line and reason in `trouble`.
+/// Passes each line, without its end, to `take`. Skips empty lines and lines that begin with '#'. To refuse a
+/// line, `take` returns false and puts the reason into `why`. Then, or if the file can't be read, returns
+/// false and puts file, line (if one was refused) and reason into `trouble`.
 bool ReadLines(const std::string& path, Missing missing,
                const std::function<bool(const std::string& line, std::string& why)>& take,
                std::string& trouble);
 
-/// Writes the file in one step: it holds the old or the new text at any moment. Answers false with the
-/// reason in `trouble` when that can't be done.
+/// Writes the file in one step: at any time it holds either the old or the new text. On failure returns false
+/// and puts the reason into `trouble`.
 bool WriteTextFile(const std::string& path, const std::string& text, std::string& trouble);
 
 } // namespace Simulator

@@ -23,7 +23,7 @@ int Complain(const std::string& text, int code) {
     return code;
 }
 
-/// A descriptor that the loop can wait on for the signals that it answers.
+/// Returns a descriptor on which the loop waits for the signals it handles.
 int WatchSignals() {
     sigset_t watched;
     sigemptyset(&watched);
@@ -40,7 +40,8 @@ std::string RadioName(const Options& options) {
     return options.model ? Name(*options.model) : Name(*options.digitalModel);
 }
 
-/// The radio with all that its files hold; empty with the reason in `trouble` if one can't be read.
+/// Returns the radio with the contents of its files. If one can't be read, returns null and puts the reason
+/// into `trouble`.
 std::unique_ptr<Radio> MakeRadio(const Options& options, RadioLink& link, std::string& trouble) {
     if (options.digitalModel) {
         DigitalContents contents;
@@ -70,7 +71,7 @@ int Play(const Options& options) {
         return Complain("signals can't be watched", Trouble);
 
     {
-        // The link goes before the port does: nobody finds a name without a device behind it.
+        // The link is destroyed before the port, so that no link without a device is ever visible.
         PseudoTerminal port;
         PortLink name(options.portsFolder.empty() ? DefaultPortsFolder() : options.portsFolder, options.name,
                       port.DeviceName());

@@ -42,13 +42,13 @@ Channel FromTexts(const std::string& description, const std::string& receive, co
             {}};
 }
 
-/// The radio's own numbering of tones; the last one is none.
+/// Converts the radio's tone number to text; the last number means none.
 std::string ToneOfNumber(const std::string& digits) {
     const size_t i = static_cast<size_t>(Number(digits));
     return i < std::size(RadioCatalogue::ToneTexts) ? RadioCatalogue::ToneTexts[i] : "?" + digits;
 }
 
-/// Scan lists 1 to 5 as bits, from their marks in a line.
+/// Converts the marks of scan lists 1 to 5 to bits.
 int ScanOfMarks(const std::string& marks) {
     int mask = 0;
     for (int list = 0; list < 5; ++list)
@@ -107,7 +107,7 @@ ChannelList ChannelsOfGrid(wxGrid& grid) {
         const auto cell = [&](int col) { return grid.GetCellValue(row, col).utf8_string(); };
         if (cell(MNUM).empty())
             continue;
-        // Only pages of P25 radios have anything there.
+        // Only pages of P25 radios have text in this column.
         if (!cell(SHAD).empty())
             channels[Number(cell(MNUM))] = P25OfElements(P25ElementsOfRow(grid, row));
         else

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int Colours = 64;
 
-/// Moves the pointer out of the picture, so that it marks no control.
+/// Pointer position outside of the pictures, so that the pointer highlights no control.
 const wxPoint PointerRest{1270, 1015};
 
 } // namespace

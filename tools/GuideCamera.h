@@ -12,21 +12,21 @@ class Robot;
 
 namespace Guide {
 
-/// Takes pictures of the program's windows into one folder, as PNG of few colours: small files.
+/// Takes pictures of the program's windows into one folder, as PNG files with few colours to keep them small.
+/// The picture functions throw std::runtime_error if a picture can't be written.
 class Camera {
 public:
-    /// Makes the folder if it doesn't exist.
+    /// Creates the folder if it doesn't exist.
     Camera(testbench::Robot& robot, std::filesystem::path folder);
 
-    /// The main window as it stands, with all that lies over it. `name` is that of the file, without
-    /// extension.
-    /// Of a `height` above 0 only so many pixels from the top are pictured.
+    /// Pictures the main window with everything on top of it. `name` is the file name without extension. If
+    /// `height` is above 0, pictures only that many pixels from the top.
     void Window(const std::string& name, int height = 0);
 
-    /// The window or dialog that has the keyboard, alone.
+    /// Pictures only the window or dialog that has the keyboard focus. Throws std::runtime_error if none has.
     void FocusedWindow(const std::string& name);
 
-    /// A part of the screen.
+    /// Pictures a part of the screen.
     void Part(const std::string& name, const wxRect& part);
 
 private:

@@ -29,7 +29,7 @@ void TakeAll(Robot& robot) {
     Guide::TakeTransferBoxes(hand, camera, places);
 }
 
-/// The home folder that the pictures show: short, and the same each time, where that can be had.
+/// The home folder that the pictures show. Its path is short and the same each time, unless it is taken.
 class PicturedHome {
 public:
     PicturedHome() {

@@ -1,4 +1,4 @@
-// The scenes on the page: kinds of pages, cells, and commands on rows and columns.
+// Scenes of pages: kinds of pages, cells, and commands on rows and columns.
 #include "tools/GuideScenes.h"
 
 #include "catalogue/PageModel.h"
@@ -50,7 +50,7 @@ void ResizeWindow(Robot& robot, int width, int height) {
 
 namespace {
 
-/// The part of the grid from one cell to another, labels of the rows and columns included.
+/// Screen area of the grid from its labels' corner to this cell.
 wxRect CellsWithLabels(int lastRow, int lastColumn) {
     wxGrid& grid = *CurrentGrid();
     const wxRect corner(grid.GetScreenPosition(), wxSize(1, 1));
@@ -66,7 +66,7 @@ void Replace(std::string& text, const std::string& what, const std::string& by) 
     text.replace(at, what.size(), by);
 }
 
-/// An example with mistakes as a file from elsewhere may have them.
+/// An example with mistakes that a file from another program may have.
 fs::path FileWithMistakes(const Places& places) {
     std::string text = ReadFile(places.examples / "krv-650-vhf.zelk");
     Replace(text, "<RF>151.1375</RF>", "<RF>251.1375</RF>");
@@ -77,7 +77,7 @@ fs::path FileWithMistakes(const Places& places) {
     return file;
 }
 
-/// An example without the memories behind the row.
+/// An example without the memories after the row.
 fs::path FirstMemories(const Places& places, const std::string& example, int lastRow) {
     std::string text = ReadFile(places.examples / example);
     const std::string next = "  <MEMORY row=\"" + std::to_string(lastRow + 1) + '"';

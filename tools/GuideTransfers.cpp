@@ -1,4 +1,4 @@
-// The scenes of transfers with simulated radios.
+// Scenes of transfers with simulated radios.
 #include "catalogue/PageModel.h"
 #include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
@@ -22,7 +22,7 @@ constexpr const char* RadioQuestion = "<-- Select Target Radio -->";
 constexpr const char* BandQuestion = "<-- Select Frequency Band -->";
 constexpr const char* PortQuestion = "<-- Select Serial Port -->";
 
-/// A simulated radio, which is there as long as the object.
+/// Starts a simulated radio, which runs for the lifetime of the object.
 std::unique_ptr<RadioProcess> StartRadio(const Places& places, const std::string& model,
                                          const std::string& name, const std::vector<std::string>& more = {}) {
     std::vector<std::string> arguments{
@@ -45,11 +45,11 @@ void AnswerBox(Tour::TourHand& hand, Camera& camera, const std::string& caption,
     hand.Need(robot.WaitFor(gone), caption + " stays open");
 }
 
-/// Pictures the progress window when the transfer has come to the row.
+/// Waits for the progress window and pictures it during the transfer.
 void TakeProgress(Tour::TourHand& hand, Camera& camera, const std::string& title,
                   const std::string& picture) {
     hand.Need(hand.TheRobot().WaitForWindow(title, 20000), "no window " + title);
-    // Far enough for the gauge to have moved.
+    // Long enough for the gauge to move.
     wxMilliSleep(4500);
     camera.Part(picture, XDesk().FocusedArea());
 }
@@ -65,7 +65,7 @@ void TypeIntoCell(Robot& robot, int row, int column, const std::string& text, bo
     }
 }
 
-/// Takes the entry of a cell with a list by stepping through it.
+/// Sets a cell with a list to one of its entries.
 void ChooseInCell(Robot& robot, int row, int column, const wxString& text) {
     robot.Ask([&] { CurrentGrid()->SetCellValue(row, column, text); });
 }

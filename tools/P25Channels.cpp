@@ -18,7 +18,7 @@ namespace Tour {
 
 namespace {
 
-/// Columns that a file has as elements.
+/// Names of the file's elements for the columns.
 constexpr struct {
     const char* element;
     Column column;
@@ -34,7 +34,7 @@ unsigned Hex(const std::string& text) {
     return static_cast<unsigned>(std::strtoul(text.c_str(), nullptr, 16));
 }
 
-/// A frequency without the zeros that say nothing; its point and one decimal stay.
+/// A frequency without leading and trailing zeros; keeps its point and one decimal.
 std::string Shortest(std::string frequency) {
     frequency.erase(0, frequency.find_first_not_of('0'));
     if (const size_t point = frequency.find('.'); point != std::string::npos)
@@ -42,12 +42,12 @@ std::string Shortest(std::string frequency) {
     return frequency;
 }
 
-/// The entry at a position from 0, or a text that no list holds.
+/// The entry at a position from 0; past the end, a text that no list contains.
 std::string EntryOf(std::span<const char* const> list, unsigned position) {
     return position < list.size() ? list[position] : "?" + std::to_string(position);
 }
 
-/// The fields of a record in the new layout, by their places in the line.
+/// The fields of a record in the new layout, by their positions in the line.
 class Record {
 public:
     explicit Record(const std::string& line) : m_line(line) {}
@@ -71,14 +71,14 @@ public:
     std::string Tone(size_t position) const {
         return EntryOf(RadioCatalogue::CtcssTexts, Bits(position, 2) - 1);
     }
-    /// And codes too: 0 is none.
+    /// Radios count codes from 1; 0 is none.
     std::string Code(size_t position) const { return EntryOf(RadioCatalogue::CodeTexts, Bits(position, 2)); }
 
 private:
     std::string m_line;
 };
 
-constexpr size_t RecordLength = 138; // its checksum among them
+constexpr size_t RecordLength = 138; // including the checksum
 
 } // namespace
 

@@ -1,4 +1,4 @@
-// The memories of P25 radios, for the lists of channels.
+// Reads memories of P25 radios into lists of channels.
 #pragma once
 
 #include "tools/Channel.h"
@@ -10,30 +10,30 @@ class wxGrid;
 
 namespace Tour {
 
-/// A memory from the elements of a channel file, by name. Numbers, frequencies and unit ids count by their
-/// value: leading zeros, and zeros at the end of a frequency, say nothing.
+/// Reads a memory from the elements of a channel file, by name. Takes numbers, frequencies and unit IDs by
+/// value: ignores leading zeros, and trailing zeros of a frequency.
 Channel P25OfElements(const std::map<std::string, std::string>& elements);
 
-/// The same elements from a row of a P25 page.
+/// Returns the same elements from a row of a P25 page.
 std::map<std::string, std::string> P25ElementsOfRow(wxGrid& grid, int row);
 
 /// True for a line of the memory file of a digital radio.
 bool IsP25Record(const std::string& line);
 
-/// Adds the memory of such a line, but for memory 0. Throws std::runtime_error on the old layout.
+/// Adds the memory of such a line, except memory 0. Throws std::runtime_error on the old layout.
 void AddP25Record(const std::string& line, ChannelList& channels);
 
-/// Tells primaries of their shadows, as a radio does, from what the shadows say: each has its place (the low
-/// flags) in the list of its primary.
+/// Builds the primaries' lists of shadows, as a radio does. Each shadow names its primary and its place (the
+/// low flags) in that list.
 void LinkP25Shadows(ChannelList& channels);
 
 std::string Describe(const P25Facts& facts);
 
-/// The channels of a P25 page as the page shows them when the radio has sent them back: every code comes
-/// one place further down the list, and where that has an end, the default row's stands. The default row
-/// came from the radio too.
+/// Returns the channels of a P25 page as the page shows them after they are read back from the radio. Each
+/// code is one place further down the list. A code without a next one becomes the default row's code, also
+/// one place further down, because the default row came from the radio too.
 ///
-/// @param defaultCode the default row's code before it was sent; "023" on a new page
+/// @param defaultCode the default row's code before sending; "023" on a new page
 ChannelList AsReadBack(ChannelList channels, const std::string& defaultCode);
 
 } // namespace Tour

@@ -1,4 +1,4 @@
-// Opens channel files one after another and pictures the window with each, for documents and for looking at.
+// Opens channel files one after another and pictures the window with each, for documents and for review.
 #include "catalogue/PageModel.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/ZelkMain.h"

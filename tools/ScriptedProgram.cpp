@@ -41,7 +41,7 @@ int RunScripted(const char* program, const std::filesystem::path& home,
     userScript = std::move(script);
     for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
         setenv(name, home.c_str(), 1);
-    // Without a session bus the toolkit's settings service only complains.
+    // Without a session bus the toolkit's settings service would only print warnings.
     setenv("GSETTINGS_BACKEND", "memory", 1);
     wxApp::SetInstance(new ScriptedApp);
     std::string name = program;

@@ -1,4 +1,4 @@
-// The program with a script in place of its user.
+// Runs the program with a script in place of its user.
 #pragma once
 
 #include <filesystem>
@@ -10,8 +10,8 @@ class Robot;
 
 namespace Tour {
 
-/// Runs the program until the script has ended, and prints what failed. The program takes `home` for the
-/// user's home folder: it neither sees nor touches the real one's ports and settings.
+/// Runs the program until the script has ended, and prints failures. The program uses `home` as the user's
+/// home folder, so it neither sees nor changes the ports and settings in the real one.
 ///
 /// @return exit code: 0 if nothing failed, 1 otherwise
 int RunScripted(const char* program, const std::filesystem::path& home,

@@ -1,4 +1,4 @@
-// Small readings of texts.
+// Small helpers to read texts.
 #pragma once
 
 #include <cstdlib>
@@ -6,14 +6,14 @@
 
 namespace Tour {
 
-/// Without blanks at its ends.
+/// Returns the text without leading and trailing blanks.
 inline std::string Trimmed(std::string text) {
     text.erase(0, text.find_first_not_of(' '));
     text.erase(text.find_last_not_of(' ') + 1);
     return text;
 }
 
-/// The decimal number at the text's beginning, 0 where none is.
+/// Returns the decimal number at the start of the text, or 0 if there is none.
 inline int Number(const std::string& text) {
     return std::atoi(text.c_str());
 }

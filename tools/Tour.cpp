@@ -1,5 +1,5 @@
-// Plays a day's first jobs on a display of its own: for an analog and for a digital radio a channel file
-// into the radio, and the radio back into an empty page, by real keys and clicks.
+// Plays a day's first jobs by real keys and clicks, for an analog and a digital radio: sends a channel file
+// to the radio, then reads the radio back into an empty page.
 #include "frame/ZelkMain.h"
 #include "robot/Robot.h"
 #include "robot/TempFolder.h"
@@ -36,7 +36,7 @@ constexpr Tour::Job AnalogJob{
     .pageRule = "",
 };
 
-/// By the latest protocol and the new layout.
+/// Uses the latest protocol and the new layout.
 constexpr Tour::Job DigitalJob{
     .model = "KDRV-716B",
     .choice = "KDRV-716B-V2",

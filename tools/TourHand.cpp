@@ -95,7 +95,7 @@ void TourHand::Choose(const std::string& step, const std::string& caption, wxCho
 }
 
 void TourHand::OpenPageMenu() {
-    // The second menu, its first entry.
+    // The first entry of the second menu.
     m_robot.Press("F10");
     m_robot.Settle();
     m_robot.Press("Right");

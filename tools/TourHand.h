@@ -1,5 +1,4 @@
-// The hands of the tour: what every job of it does with the program's windows, step by step, told and
-// pictured.
+// Steps in the program's windows that all jobs of the tour use, with a report line and a picture of each.
 #pragma once
 
 #include "resources/ToolImages.h"
@@ -20,22 +19,22 @@ public:
     testbench::Robot& TheRobot() { return m_robot; }
     const std::filesystem::path& Pictures() const { return m_pictures; }
 
-    /// Ends a step: a picture of the screen, numbered, and a line that tells how it went.
+    /// Ends a step: saves a numbered picture of the screen and prints a line with the outcome.
     void Done(const std::string& step, const std::string& outcome);
 
-    /// Gives the tour up, by std::runtime_error, if the condition doesn't hold.
+    /// Throws std::runtime_error with `what`, which ends the tour, if the condition doesn't hold.
     void Need(bool condition, const std::string& what);
 
-    /// Finds the tool by its picture and clicks it.
+    /// Finds the tool by its picture and clicks on it.
     void ClickTool(ToolImage tool);
 
-    /// Answers the dialog of that caption with its default button.
+    /// Answers the dialog with this caption by its default button.
     void AnswerWithReturn(const std::string& caption);
 
-    /// Walks to a choice's entry with the keyboard in the dialog of that caption, which stays open.
+    /// Selects a choice's entry with the keyboard, in the dialog with this caption. The dialog stays open.
     wxDialog* Pick(const std::string& caption, wxChoice*& choice, const std::string& text);
 
-    /// Clicks OK in an open dialog and waits until it has gone.
+    /// Clicks OK in an open dialog and waits until it is closed.
     void ClickOk(wxDialog* dialog, const std::string& caption);
 
     /// Picks a choice's entry, ends the step, and clicks OK.

@@ -26,7 +26,7 @@ std::string MessageOfOpenDialog() {
     return open.empty() ? "" : open.back().message;
 }
 
-/// The primaries, each with its shadows; empty if there are none.
+/// Text with the primaries, each with its shadows; empty if there are none.
 std::string ShadowsOf(const ChannelList& channels) {
     std::string text;
     for (const auto& [number, channel] : channels) {
@@ -69,7 +69,7 @@ void TourJob::OpenExample() {
     m_hand.ClickTool(ToolImage::Open);
     m_hand.AnswerWithReturn("Open File\\?");
     m_hand.Need(m_robot.WaitForDialog("Select Zelk file") != nullptr, "no file dialog");
-    // A path that begins with a slash opens the dialog's entry for paths.
+    // Typing a path that begins with a slash opens the dialog's entry for paths.
     m_robot.Type(file.string());
     m_robot.Settle();
     m_robot.Press("Return");
@@ -92,7 +92,7 @@ void TourJob::PickPort() {
     m_hand.Need(m_robot.Ask([&] { return PortName == wxString::FromUTF8(port); }), "the port was not taken");
 }
 
-/// The simulated radio's entry in the port dialog, which is open.
+/// Returns the simulated radio's entry in the port dialog. Waits for that dialog to be open.
 std::string TourJob::PortText() {
     m_hand.Need(m_robot.WaitForDialog("<-- Select Serial Port -->") != nullptr, "no port dialog");
     const std::string text = m_robot.Ask([this] {
@@ -152,7 +152,7 @@ void TourJob::Compare(const ChannelList& wanted, const ChannelList& found, const
 
 void TourJob::CompareRadio() {
     ChannelList found;
-    // The radio writes its file when it has taken the end line.
+    // The radio writes its file after it has received the end line.
     m_robot.WaitFor([&] {
         found = ChannelsOfRadio(Memories().string());
         return Differences(m_wanted, found).empty();
@@ -178,7 +178,7 @@ void TourJob::ComparePage() {
     Compare(m_job.readBack(m_wanted), found, "the page read back");
     m_hand.Done("page against file", "equal, " + std::to_string(found.size()) + " channels" + m_job.pageRule);
     if (const std::string shadows = ShadowsOf(found); !shadows.empty()) {
-        // Into the page, and down to where they are.
+        // Click into the page and scroll down to the shadows.
         m_robot.Click(m_robot.Ask([] { return MiddleOf(*CurrentGrid()); }));
         m_robot.Press("Next");
         m_robot.Press("Down", 6);

@@ -1,4 +1,4 @@
-// One job of the tour: a channel file into a radio, and the radio back into an empty page.
+// One job of the tour: sends a channel file to a radio, then reads the radio back into an empty page.
 #pragma once
 
 #include "robot/TempFolder.h"
@@ -10,19 +10,20 @@
 
 namespace Tour {
 
-/// What makes one job different from another.
+/// Properties that differ between jobs.
 struct Job {
-    const char* model;     ///< of the radio; its port has the same name
-    const char* choice;    ///< the radio in the dialog of target radios
+    const char* model;     ///< model of the radio, also the name of its port
+    const char* choice;    ///< entry of the radio in the dialog of target radios
     const char* example;   ///< name of the channel file
-    const char* sendTitle; ///< titles of the transfers' windows
+    const char* sendTitle; ///< title of the progress window, as is readTitle
     const char* readTitle;
-    /// The file uses modes that the program doesn't know of the radio before it first talks to it: it asks.
+    /// True if the program asks before it sends the file: the file uses operating modes, and the program
+    /// doesn't know the radio's modes before it first talks to it.
     bool asksForModes;
-    /// The channels of the file as the page shows them when they come back.
+    /// Returns the channels of the file as the page shows them after they are read back.
     ChannelList (*readBack)(ChannelList channels);
-    const char* radioRule; ///< how radio and file are compared, where not as they stand
-    const char* pageRule;  ///< the same of the page read back
+    const char* radioRule; ///< report text: special rules for comparing radio and file
+    const char* pageRule;  ///< report text: special rules for comparing page and file
 };
 
 class TourJob {
@@ -34,7 +35,7 @@ public:
     /// Plays the job on the current page and a new one. Throws std::runtime_error when a step fails.
     void Play();
 
-    /// Adds a page for the job's radio, which becomes the current one.
+    /// Adds a page for the job's radio and makes it the current page.
     void AddPage();
 
 private:
@@ -47,7 +48,7 @@ private:
     void ReadBack();
     void ComparePage();
 
-    /// Pictures a transfer's window, and answers the status box at its end.
+    /// Pictures a transfer's window and answers the status box at its end.
     void Transfer(const std::string& step, const std::string& title, const std::string& caption,
                   bool asksForModes);
     void Compare(const ChannelList& wanted, const ChannelList& found, const std::string& where);

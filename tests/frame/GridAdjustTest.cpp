@@ -14,7 +14,7 @@ namespace {
 
 class Adjusting : public ZelkWindowTest {
 protected:
-    /// What a file for another radio does: new parameters first, then the grid.
+    /// Does what a file for another radio does: sets new parameters, then adjusts the grid.
     static void Adjust(int radio, int slot) {
         const PageParameterRecord before = CurrentParameters();
         SetPageParameters(MainFrame, CurrentPage, radio, slot);
@@ -121,7 +121,7 @@ TEST_F(Adjusting, LeavesNoHiddenColumnThatCanBeDraggedOpen) {
     ShowAndFocus(*MainFrame);
     int resized = 0;
     RunWithRobot([&resized](Robot& robot) {
-        // At both sides of each border between shown columns, where hidden ones lie.
+        // On both sides of each border between shown columns, where hidden ones are.
         for (int col : {SCAN, DESC, RFRQ, TFRQ, RONL}) {
             for (int side : {-2, 2}) {
                 const wxPoint border = robot.Ask([col, side] {

@@ -78,7 +78,7 @@ TEST_F(ContextMenu, OfTheCornerSelectsTheGridAndOffersTheDefaultFile) {
 TEST_F(ContextMenu, OfRowLabel000OffersOnlyTheDefaultsCommands) {
     EXPECT_EQ(MenuOfRow(0), (Ids{LoadDefault, SaveDefault}));
     EXPECT_EQ(ContextRow, 0);
-    // Whatever else the row contains.
+    // The row's other cells don't matter.
     SetCell(0, MFLG, "13");
     EXPECT_EQ(MenuOfRow(0), (Ids{LoadDefault, SaveDefault}));
     CurrentGrid()->ClearGrid();

@@ -54,7 +54,7 @@ Hands& Person() {
 void ClickButton(wxDialog* dialog, int id) {
     wxWindow* button = dialog->FindWindow(id);
     ASSERT_NE(button, nullptr) << "no button " << id;
-    // A click is lost on a dialog that isn't shown yet, or on a button that isn't enabled yet.
+    // A click is lost on a dialog that isn't shown yet, or on a button that isn't ready yet.
     EXPECT_TRUE(PumpUntil([dialog] { return Person().FocusedTitle() == dialog->GetTitle().utf8_string(); }));
     PumpFor(30);
     Person().Click(MiddleOf(*button));

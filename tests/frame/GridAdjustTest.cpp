@@ -172,7 +172,7 @@ TEST_F(Adjusting, UpdatePageOfANewTargetBringsGridAndStatusUpToDate) {
     EXPECT_EQ(CurrentGrid()->GetNumberRows(), 101);
     EXPECT_EQ(MainFrame->m_statusBar->GetStatusText(1), "KDAR-2000");
 
-    // The band slot alone.
+    // Changes only the band slot.
     SetPageParameters(MainFrame, 0, Krv630, 0);
     UpdatePage(MainFrame, 0, Kdar2000, 0);
     SetPageParameters(MainFrame, 0, Krv630, 1);

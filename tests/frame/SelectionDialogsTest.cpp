@@ -391,7 +391,7 @@ TEST_F(SelectingAPort, StoresItAndShowsItInTheStatusBar) {
     EXPECT_EQ(StatusField(), names[1]);
     EXPECT_TRUE(PortList.empty());
 
-    // From the second time on it is chosen from the start.
+    // The next time, this port is preselected.
     ExpectPort(dialogs).Do([](wxDialog* dialog) {
         EXPECT_EQ(PortChoice->GetSelection(), 1);
         ChooseAndAccept(dialog, PortChoice, 0);

@@ -330,7 +330,7 @@ TEST_F(ChangingTheTarget, ToTheSameP25RadioKeepsTheFirstMemory_Departure) {
     const Texts first = RowTexts(1);
     ChangeTarget(Kdrv716);
     Texts kept = RowTexts(1);
-    kept[TFLG] = first[TFLG]; // the check has given the row its zone slot
+    kept[TFLG] = first[TFLG]; // the check has set the row's zone slot
     EXPECT_EQ(kept, first);
     EXPECT_EQ(MemoriesSaved(), 40);
 }

@@ -175,7 +175,7 @@ private:
             SetCell(row, DESC, memory.description);
         PickOthers(from.Type(), row);
         if (m_dice.Chance(50))
-            // Leaves the row as a check or a file does.
+            // Clears the hidden cells, as a check or a file does.
             for (int col = 0; col < ColumnTotal; ++col)
                 if (ColumnWidth[from.Type()][col] == 0 && col != TFLG)
                     SetCell(row, col, "");

@@ -100,7 +100,7 @@ TEST(RadioPort, LosesNothingOfAUserWhoComesAfterACompletedTransfer) {
         ASSERT_TRUE(IsTaken(writer, VhfLine("001"))) << k;
         writer.Send(EndLine("300"));
         writer.Close();
-        // Data that arrive before the radio has noticed the end of the former user may be lost with it.
+        // Data that arrive before the radio notices that its former user has gone may be lost.
         const auto deadline = Clock::now() + 5s;
         while (CountOf(ReadFileIfAny(log), "- port closed") < 2 * k + 1 && Clock::now() < deadline)
             std::this_thread::sleep_for(1ms);

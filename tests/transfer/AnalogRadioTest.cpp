@@ -1,4 +1,4 @@
-// Whole transfers between the window and simulated analog radios.
+// Complete transfers between the window and simulated analog radios.
 #include "tests/transfer/ProgressWatch.h"
 #include "tests/transfer/RadioUnderTest.h"
 #include "tests/transfer/TransferTest.h"

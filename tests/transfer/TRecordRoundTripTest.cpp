@@ -60,7 +60,7 @@ protected:
         return cells;
     }
 
-    /// The row and the cells of a row that was sent and read back. "nothing" stands for a text that the lists
+    /// The row and the cells of a row that was sent and read back. "nothing" marks a text that the lists
     /// don't contain.
     static std::pair<int, std::map<int, std::string>> ThereAndBack(std::span<const TRecordField> layout,
                                                                    int row) {

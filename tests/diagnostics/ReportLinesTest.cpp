@@ -27,7 +27,7 @@ wxArrayString NamedCells() {
     return cells;
 }
 
-/// A line of a row's report, and the radio types whose pages have it by the digits of their numbers.
+/// A line of a row's report, with the digits of the radio types whose pages have it.
 struct TableLine {
     const char* text;
     const char* types;
@@ -67,7 +67,7 @@ constexpr TableLine RowTable[] = {
     {"  Tflg: A9; 0xA9", "01234567"},
 };
 
-/// The line of a row's report that begins with the tag.
+/// The line of a row's report that starts with the tag.
 std::string LineOf(const std::string& tag, const wxArrayString& cells, int type) {
     for (const std::string& line : Utf8(RowLines(type, 1, cells)))
         if (line.rfind("  " + tag + ":", 0) == 0)

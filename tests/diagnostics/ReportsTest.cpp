@@ -1,4 +1,4 @@
-// The dump of the current page into the log, as a developer who connects it finds it there.
+// The dump of the current page into the log. Only a developer connects it to an event.
 #include "diagnostics/PageReports.h"
 
 #include "catalogue/TextNumbers.h"
@@ -20,7 +20,7 @@ using Lines = std::vector<std::string>;
 
 class Reports : public ZelkWindowTest {
 protected:
-    /// Runs the handler with an event of the object, and gives the records that it logged.
+    /// Runs the handler with an event of the object and returns the records that it logged.
     static Lines Debug(wxObject* source = MainFrame->m_notebook) {
         wxCommandEvent event;
         event.SetEventObject(source);
@@ -40,7 +40,7 @@ protected:
             CurrentGrid()->SelectRow(row, true);
     }
 
-    /// The rows of which there is a group of lines.
+    /// The rows that have a group of lines.
     static std::vector<int> RowsIn(const Lines& lines) {
         const std::string heading = ">-- Data for Row ";
         std::vector<int> rows;
@@ -63,7 +63,7 @@ Lines operator+(Lines lines, const Lines& more) {
     return lines;
 }
 
-/// The lines of zone counters of which all others are 0.
+/// The lines of the zone counters; all zones that aren't named have 0.
 Lines ZoneCounters(const std::vector<std::pair<int, int>>& taken) {
     Lines lines = {">-- Debug - Report P25 Page Zone Parameters -----------<"};
     for (int zone = 0; zone <= 32; ++zone) {

@@ -1,4 +1,4 @@
-// The example files as their tests see them: which there are, and what stands in them.
+// The example files as their tests see them: a list of them, and their contents.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -26,7 +26,7 @@ struct ExampleFile {
     int channels; ///< memories without the default row and the guards
 };
 
-/// Makes a failing case print the name of its file.
+/// Prints the name of the file for a failing case.
 inline void PrintTo(const ExampleFile& file, std::ostream* stream) {
     *stream << file.name;
 }
@@ -105,7 +105,7 @@ inline unsigned GetFlags(const Memory& memory) {
     return static_cast<unsigned>(std::stoul(memory.Get("MF"), nullptr, 16));
 }
 
-/// A further memory on the frequencies of a P25 one: its place in the primary's list is in its flags.
+/// A further memory on the frequencies of a P25 one. Its flags contain its place in the primary's list.
 inline bool IsShadow(const Memory& memory) {
     return memory.Get("SH").starts_with("S-");
 }

@@ -1,5 +1,5 @@
-// The example channel files, held against the list of channels they are made from.
-// No code of the program takes part: limits and forms are typed here.
+// The example channel files, compared with the list of channels that they are made from. Independent of the
+// program's code: limits and forms are stated here.
 #include "tests/examples/ExampleFiles.h"
 #include "robot/Files.h"
 
@@ -85,7 +85,7 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 std::vector<Source> ReadSources() {
     std::vector<Source> sources;
     const std::vector<std::string> lines = ReadLines(fs::path(ZELK_EXAMPLES_DIR) / "public-channels.csv");
-    // The first line has the headings.
+    // The first line contains the headings.
     for (size_t k = 1; k < lines.size(); ++k) {
         std::vector<std::string> f = Split(lines[k], ',');
         f.resize(8);
@@ -100,7 +100,7 @@ std::string ToneOrOff(const std::string& tone) {
 
 INSTANTIATE_TEST_SUITE_P(, ExampleFiles, testing::ValuesIn(Files), NameOfFile);
 
-/// The same for a P25 memory that is no shadow. The memory has a tone and an id whether they count or not.
+/// As IsMadeFrom, for a P25 memory that isn't a shadow. It has a tone and an id even if they aren't used.
 bool IsP25MadeFrom(const Source& source, const Memory& memory) {
     const bool isDigital = source.mode == "P25";
     const auto squelch = [&](const std::string& tone) { return isDigital ? "g" : tone.empty() ? "x" : "t"; };
@@ -117,7 +117,7 @@ bool IsP25MadeFrom(const Source& source, const Memory& memory) {
            memory.Get("TG") == memory.Get("RG") && (!isDigital || source.note == id);
 }
 
-/// Gives elements that lost an empty text while loading that text back.
+/// Restores empty texts in elements, which loading removes.
 void RestoreEmptyTexts(wxXmlNode& element) {
     if (element.GetChildren() == nullptr) {
         element.AddChild(new wxXmlNode(wxXML_TEXT_NODE, "", "")); // the element owns it
@@ -129,7 +129,7 @@ void RestoreEmptyTexts(wxXmlNode& element) {
     }
 }
 
-/// True when source and memory agree on all that the memory says of the channel.
+/// True if source and memory agree on everything that the memory states about the channel.
 bool IsMadeFrom(const Source& source, const Memory& memory, bool isGuard) {
     const auto agrees = [&memory](const char* element, const std::string& expected) {
         const std::string text = memory.Get(element);
@@ -225,7 +225,7 @@ TEST_P(ExampleFiles, TakeEveryChannelFromTheList) {
     ASSERT_EQ(sources.size(), 64u);
     for (const Memory& memory : GetChannels()) {
         if (IsShadow(memory)) {
-            continue; // made up for the example; held against their primaries elsewhere
+            continue; // made up for the example; other tests compare them with their primaries
         }
         const auto source = std::find_if(sources.begin(), sources.end(), [&](const Source& candidate) {
             return IsP25(GetParam()) ? IsP25MadeFrom(candidate, memory)
@@ -251,14 +251,14 @@ TEST_P(ExampleFiles, KeepFrequenciesInTheFormAndTheLimitsOfTheirBand) {
         for (const char* element : {"RF", "TF"}) {
             const std::string text = memory.Get(element);
             if (text.empty() && std::string(element) == "TF") {
-                continue; // the six-channel radio has one frequency a channel
+                continue; // the six-channel radio has one frequency per channel
             }
             SCOPED_TRACE("row " + std::to_string(memory.row) + ", " + element + " " + text);
             const size_t point = text.find('.');
             ASSERT_NE(std::string::npos, point);
             EXPECT_EQ(text.size() - point - 1, rule.decimals);
             EXPECT_EQ(text.find_first_not_of("0123456789."), std::string::npos);
-            // The last two digits of a channel at a multiple of 2.5 kHz, and of 25 kHz in the airband.
+            // Last two digits of a channel at a multiple of 2.5 kHz, or of 25 kHz in the airband.
             const std::set<std::string> ends{"00", "25", "50", "75"};
             EXPECT_TRUE(ends.contains(text.substr(text.size() - 2)));
             EXPECT_GE(std::stod(text), rule.low);
@@ -278,7 +278,7 @@ TEST_P(ExampleFiles, KeepScanListsAndDescriptionsInTheirLimits) {
         EXPECT_EQ(description.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-./:+ ?_"),
                   std::string::npos);
         if (isP25) {
-            // What the flags say is what travels; linked memories and guards are never scanned.
+            // The radio receives the flags. Linked memories and guards are never scanned.
             EXPECT_TRUE(memory.Get("SC") == "Y" || memory.Get("SC") == "N");
             const bool isScanned = memory.Get("SC") == "Y";
             EXPECT_EQ((GetFlags(memory) & 0x08) != 0, isScanned);

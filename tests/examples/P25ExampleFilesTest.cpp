@@ -1,4 +1,4 @@
-// What the example files of P25 radios hold beyond those of analog ones: zones, shadows, digital squelch.
+// What only the example files of P25 radios contain: zones, shadows, digital squelch.
 #include "tests/examples/ExampleFiles.h"
 
 #include <map>
@@ -8,7 +8,7 @@ using namespace exampletest;
 
 namespace {
 
-/// Only the files of P25 radios.
+/// The files of P25 radios.
 std::vector<ExampleFile> P25Files() {
     std::vector<ExampleFile> files;
     std::copy_if(Files.begin(), Files.end(), std::back_inserter(files), IsP25);
@@ -117,7 +117,7 @@ TEST_P(P25ExampleFiles, PutAtMostSixteenMemoriesIntoAZoneAndTheGuardsIntoTheLast
 TEST_P(P25ExampleFiles, KeepSquelchTonesCodesAndIdsInTheirLimits) {
     const std::set<std::string> analogReceive{"x", "t", "c"}, analogTransmit{"x", "t", "c", "-"};
     const std::set<std::string> digitalReceive{"m", "n", "g"}, digitalTransmit{"g", "i", "-"};
-    // Of the 42 tones and 83 codes that P25 radios know, those that the files use.
+    // The files use only these of the 42 tones and 83 codes of P25 radios.
     const std::set<std::string> tones{"67.0", "110.9", "136.5", "156.7"}, codes{"023", "754"};
     const auto isHex = [](const std::string& text, size_t length) {
         return text.size() == length && text.find_first_not_of("0123456789ABCDEF") == std::string::npos;

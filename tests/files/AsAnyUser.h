@@ -1,4 +1,4 @@
-// A user without special rights, for tests of what the system forbids.
+// A user without special rights, for tests of operations that the system forbids.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 #include <sys/types.h>
 #include <unistd.h>
 
-/// Has no more rights than any user while it lives, also when the tests run as root.
+/// Drops special rights during its life, so that tests run by root see a user's permissions.
 class AsAnyUser {
 public:
     AsAnyUser() {

@@ -12,8 +12,7 @@ namespace {
 
 const std::string TypeNames[] = {"ANFM", "RP25", "NP25", "MDLX", "O12", "KDAR", "ANAM", "FXAM"};
 
-/// One line a cell, in the order of the file: names, column, and the types of which a file has it
-/// read.
+/// One line per cell in file order: names, column, and the types for which the cell is read from a file.
 struct PrintedCell {
     const char* name;
     const char* formerName;

@@ -34,7 +34,7 @@ bool IsRead(const Names& cell, const std::string& type) {
     return std::string(cell.readTypes) == "*" || std::string(cell.readTypes).find(type) != std::string::npos;
 }
 
-/// All 31 elements with the texts "v00" to "v30".
+/// All 31 elements, with the texts "v00" to "v30".
 std::string AllCells(const char* Names::*name, bool reversed = false) {
     std::string text;
     for (int col = 0; col < 31; ++col) {
@@ -46,7 +46,7 @@ std::string AllCells(const char* Names::*name, bool reversed = false) {
     return text;
 }
 
-/// A P25 memory with the cells that matter here.
+/// A P25 memory with the cells that these tests need.
 std::string P25Memory(int row, const std::string& flags, const std::string& shad, const std::string& zone,
                       const std::string& scan = "Y") {
     return Memory(row, "<MF>" + flags + "</MF><MN>" + std::to_string(row) + "</MN><PR>1</PR><SH>" + shad +
@@ -64,7 +64,7 @@ TEST_F(ChannelFileReader, ReadsTheCellsOfEachTypeUnderBothNames) {
                 std::string expected =
                     IsRead(CellNames[col], type) ? wxString::Format("v%02d", col).utf8_string() : "";
                 if (col == ZONE && !expected.empty())
-                    expected = "1"; // a zone that no list has
+                    expected = "1"; // a zone missing from every list
                 EXPECT_EQ(Text(5, col), expected) << type << " " << CellNames[col].*name;
             }
             EXPECT_EQ(Text(5, TFLG), "A0") << type;
@@ -309,7 +309,7 @@ TEST_F(ChannelFileReader, LocksScanOfRowsInZoneX) {
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(6, SCAN));
 }
 
-// A departure: tuned or numbered alone, a shadow would leave its primary.
+// Intentional: otherwise a shadow could be tuned or numbered apart from its primary.
 TEST_F(ChannelFileReader, KeepsShadowsAndPrimariesLockedAsBeforeTheyWereSaved_Departure) {
     for (const char* type : {"RP25", "NP25"}) {
         SCOPED_TRACE(type);

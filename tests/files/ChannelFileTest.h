@@ -1,4 +1,4 @@
-// What tests of the channel file have in common.
+// Common base of the channel file tests.
 #pragma once
 
 #include "catalogue/TextNumbers.h"
@@ -61,7 +61,7 @@ inline std::string Document(const std::string& content) {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ZelkMem>" + content + "</ZelkMem>\n";
 }
 
-/// A document of the type with these memories.
+/// A document of the type with the given memories.
 inline std::string FileOf(const std::string& type, const std::string& memories) {
     return Document(HeaderOf(type) + memories);
 }
@@ -70,7 +70,7 @@ inline std::string Memory(int row, const std::string& children) {
     return "<MEMORY row=\"" + std::to_string(row) + "\">" + children + "</MEMORY>";
 }
 
-/// Processor seconds of this program.
+/// Processor seconds used by this program.
 inline double ProcessorSeconds() {
     return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
@@ -79,8 +79,8 @@ class ChannelFileTest : public ZelkWindowTest {
 protected:
     static constexpr int NotLoaded = -1;
 
-    /// Loads the bytes from a file and opens them as the command does. NotLoaded when they can't be
-    /// loaded: the page is then as it was.
+    /// Loads the bytes from a file and opens them as the command does. Returns NotLoaded if they can't be
+    /// loaded; the page is then unchanged.
     int Open(const std::string& bytes) {
         testbench::WriteFile(m_folder / "open.zelk", bytes);
         wxXmlDocument document;
@@ -90,21 +90,21 @@ protected:
         return OpenZelkFile(document, CurrentPage);
     }
 
-    /// Saves the page under a name that it is given here, and gives the file's bytes.
+    /// Saves the page under the given name and returns the file's bytes.
     std::string Save(const std::string& name = "saved") {
         PageStrings[CurrentPage].FileDir = m_folder.Path().string() + "/";
         PageStrings[CurrentPage].FileName = name;
-        // Where there is none, no question is asked.
+        // Without a former file, no question is asked.
         std::filesystem::remove(m_folder / (name + ".zelk"));
         SaveZelkFile(CurrentPage, false);
         return testbench::ReadFile(m_folder / (name + ".zelk"));
     }
 
-    /// The page becomes one of the type.
+    /// Makes the page one of the type.
     static void RetargetTo(const std::string& type) {
         const TypedTarget& target = TargetOf(type);
         Retarget(target.radioIndex, target.bandSlot);
-        // No radio of the catalogue gives this type: only a file does.
+        // No radio of the catalogue has this type; only files do.
         if (type == "FXAM") {
             CurrentParameters().Type = RadioCatalogue::FXAM;
             CurrentParameters().Cols = 7;
@@ -120,7 +120,7 @@ protected:
         testbench::PumpUntilIdle();
     }
 
-    /// Imports a file of the folder by the menu; box is the text of the report.
+    /// Imports a file of the folder by menu; box is the text of the report.
     void ImportByMenu(const std::string& name, const testbench::TextRule& box) {
         testbench::DialogScript script;
         script.ExpectFile("Import file", (m_folder / name).string());
@@ -151,7 +151,7 @@ protected:
         return taken;
     }
 
-    /// The bytes of a file with date and time, if of the right form, replaced by "D" and "T".
+    /// The bytes of a file, with date and time replaced by "D" and "T" if they have the right form.
     static std::string Masked(std::string bytes) {
         Mask(bytes, "<Date>", "00-Aaa-0000", "D");
         Mask(bytes, "<Time>", "00:00:00", "T");
@@ -159,7 +159,7 @@ protected:
     }
 
 private:
-    /// Replaces the text behind mark, where it has the form: 0 for a digit, A and a for letters.
+    /// Replaces the text after mark if it has the form: 0 for a digit, A and a for letters.
     static void Mask(std::string& bytes, const std::string& mark, const std::string& form, const char* mask) {
         const size_t start = bytes.find(mark) + mark.size();
         std::string found = bytes.substr(start, form.size());

@@ -36,7 +36,7 @@ protected:
         return children;
     }
 
-    /// Texts of the row attributes in the order of the file.
+    /// Row attributes in file order.
     static std::vector<std::string> SavedRows(const std::string& bytes) {
         const std::string mark = "<MEMORY row=\"";
         std::vector<std::string> rows;
@@ -109,7 +109,7 @@ TEST_F(ChannelFileWriter, DatesTheFileWithTheLocalTime) {
 TEST_F(ChannelFileWriter, NamesTypeRadioAndBand) {
     for (const TypedTarget& target : Targets) {
         RetargetTo(target.type);
-        // Two types are saved without a text, and that is meant.
+        // Intentional: two types are saved with an empty text.
         const bool nameless = std::string(target.type) == "O12" || std::string(target.type) == "FXAM";
         const std::string expected = std::string("  <FType>") + (nameless ? "" : target.type) +
                                      "</FType>\n  <FRadio>" + target.radio + "</FRadio>\n  <FBand>" +
@@ -253,7 +253,7 @@ TEST(ChannelFileText, WritesMemoryNumbersWithThreeDigitsAndKeepsTheLastForWhatIs
         const char* cell;
         const char* written;
     };
-    // In the order in which they are written.
+    // In writing order.
     constexpr Case cases[] = {
         {"none", "000"}, {"7", "007"},     {"x", "007"},  {"", "007"},    {"12abc", "012"},
         {" 9", "009"},   {"1234", "1234"}, {"-5", "-05"}, {"GD1", "-05"}, {"0", "000"},

@@ -1,4 +1,4 @@
-// Exporting as a person does: by menu and file dialog.
+// Exporting as a user does: by menu and file dialog.
 #include "files/CsvExport.h"
 
 #include "tests/files/AsAnyUser.h"
@@ -26,7 +26,7 @@ protected:
         return names;
     }
 
-    /// Exports to a path that can't be written.
+    /// Exports to a path that can't be written and expects the error box.
     void ExportInVain(const fs::path& path) {
         DialogScript script;
         script.ExpectFile("Export CSV file", path.string());
@@ -235,7 +235,7 @@ TEST_F(CsvExportCommand, ThatCannotBeWrittenSaysSo) {
 TEST_F(CsvExportCommand, ThatCannotBeWrittenLeavesTheFormerFile) {
     EmptyPageOf("O12");
     Select({1});
-    // A name just short enough for the file, but not for a new one beside it.
+    // The name is just short enough for the file, but too long for a new file next to it.
     const std::string name = std::string(251, 'n') + ".csv";
     testbench::WriteFile(m_folder / name, "former");
     ExportInVain(m_folder / name);

@@ -1,11 +1,11 @@
-// What a field of a list becomes in its cell.
+// Conversion of a list's fields into cells.
 #include "tests/files/CsvImportTest.h"
 
 TEST_F(CsvImport, PutsEachFieldOfTheTableIntoItsCell) {
-    // With the headings RCOD and TTGP no squelch is emptied.
+    // With the headings RCOD and TTGP no squelch is left empty.
     const struct {
         const char *name, *field;
-        Cells changes; ///< against a row that has no such field
+        Cells changes; ///< compared with a row without such a field
     } cases[] = {
         {"BAND", "FM 30-50", {{4, ""}}},
         {"SCAN", "Yes", {{5, "Y"}}},
@@ -40,7 +40,7 @@ TEST_F(CsvImport, PutsEachFieldOfTheTableIntoItsCell) {
 }
 
 TEST_F(CsvImport, ChecksEachFieldOfTheTable) {
-    // A bad text gives the default row's text, painted where the check of the column paints.
+    // A bad text is replaced by the default row's, painted if the column's check paints.
     const struct {
         const char *name, *field;
         int column;
@@ -209,7 +209,7 @@ TEST_F(CsvImport, OfABandThatCanNotBeTheDefaultKeepsTheDefaultRowsBandSoThatOthe
             EXPECT_EQ(Text(5, BAND), "FM 30-50");
             EXPECT_EQ(Text(5, RFRQ), "39.4600");
             EXPECT_EQ(Text(5, TFRQ), "39.4600");
-            // Rows without a band of their own, or with one that can't stand, go by the default row's.
+            // Rows without a band of their own, or with an invalid one, follow the default row's.
             for (int row : {6, 7}) {
                 EXPECT_EQ(Text(row, BAND), kept) << row;
                 EXPECT_EQ(IsPainted(row, BAND), row == 7) << row;

@@ -1,4 +1,4 @@
-// Lists into the page: which rows they fill, and lists that are none.
+// Importing lists into the page: the rows that they fill, and files that aren't lists.
 #include "tests/files/CsvImportTest.h"
 
 using testbench::DialogKind;

@@ -1,4 +1,4 @@
-// What tests of the import of lists have in common.
+// Common base of the list import tests.
 #pragma once
 
 #include "tests/files/CsvTest.h"
@@ -15,7 +15,7 @@ class CsvImport : public CsvTest {
 protected:
     using Cells = std::map<int, std::string>;
 
-    /// Columns of a row whose text is another than before.
+    /// Columns of a row whose text differs from before.
     static Cells Changes(int row, const std::vector<std::string>& before) {
         Cells changes;
         const std::vector<std::string> now = RowTexts(row);

@@ -15,7 +15,7 @@ using Fields = std::vector<std::string>;
 using Lines = std::vector<Fields>;
 using Dialect = CsvReader::Dialect;
 
-/// The lines of a list, to its end.
+/// All lines of a list, up to its end.
 Lines LinesOf(const std::string& bytes) {
     CsvReader reader(bytes, Dialect::General);
     Lines lines;
@@ -32,7 +32,7 @@ std::string Bytes(const char* text, size_t length) {
     return {text, length};
 }
 
-/// The rows that the lines of a list go to, on a grid of 103 rows.
+/// Target rows of a list's lines on a grid of 103 rows.
 std::vector<int> RowsOf(const std::string& bytes) {
     CsvReader reader(bytes, Dialect::General);
     EXPECT_TRUE(reader.GetHeader_CSV());
@@ -43,7 +43,7 @@ std::vector<int> RowsOf(const std::string& bytes) {
     return rows;
 }
 
-/// The texts of the first line that counts.
+/// The texts of the first line with data.
 CsvTexts DataOf(const std::string& bytes, Dialect dialect = Dialect::General) {
     CsvReader reader(bytes, dialect);
     EXPECT_TRUE(reader.GetHeader_CSV());

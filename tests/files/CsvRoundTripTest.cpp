@@ -1,4 +1,4 @@
-// What is exported and imported again comes back, but for what the dialects can't hold.
+// Export followed by import returns everything except what the dialects can't hold.
 #include "tests/files/CsvTest.h"
 
 #include "editing/PageReset.h"
@@ -7,7 +7,7 @@ namespace {
 
 class CsvRoundTrip : public CsvTest {
 protected:
-    /// A cell that comes back with another text.
+    /// A cell that comes back with a different text.
     struct Difference {
         int row, col;
         std::string before, after;
@@ -25,8 +25,8 @@ protected:
         return texts;
     }
 
-    /// Exports the rows and imports the list, both by menu and dialogs. What differs then. A list that is too
-    /// narrow to be recognised is read as what it is.
+    /// Exports the rows and imports the list, both by menu and dialogs, and returns the differences. A list
+    /// too narrow to be recognised is imported directly.
     std::vector<Difference> ThereAndBack(std::initializer_list<int> rows) {
         const auto before = PageTexts();
         Select(rows);
@@ -54,7 +54,7 @@ protected:
         return std::find(list.begin(), list.end(), difference) != list.end();
     }
 
-    /// Exactly these cells differ.
+    /// Expects differences in exactly these cells.
     void ExpectDifferences(std::initializer_list<int> rows, const std::vector<Difference>& expected) {
         const std::vector<Difference> found = ThereAndBack(rows);
         for (const Difference& d : found)
@@ -65,7 +65,7 @@ protected:
                                          << "\", \"" << d.after << "\"} doesn't come: " << d.why;
     }
 
-    /// A memory as the program fills it, with these cells.
+    /// Fills a row with a memory as the program does, then sets these cells.
     static void MakeRow(int row, const std::vector<std::pair<int, const char*>>& cells) {
         FillRowsFromDefault({row});
         SetCells(row, cells);
@@ -295,11 +295,11 @@ TEST_F(CsvRoundTrip, OfTextsThatAFieldCannotHold) {
     const struct {
         const char *cell, *field, *back;
     } cases[] = {
-        {"A,B", "A,B", "A"},          // not quoted, and so two fields
+        {"A,B", "A,B", "A"},          // not quoted, so it is two fields
         {"A\"B", "\"A\"\"\"", "A\""}, // ends with its last quote
         {"\"AB\"", "\"\"\"AB\"\"\"", "\"AB\""},
-        {" A ", " A ", "A"},  // blanks at both ends go
-        {"", "", "VHFAM001"}, // an empty field leaves the default
+        {" A ", " A ", "A"},  // blanks at both ends are lost
+        {"", "", "VHFAM001"}, // an empty field keeps the default
     };
     for (const auto& [cell, field, back] : cases) {
         EmptyPageOf("KDAR");
@@ -326,7 +326,7 @@ TEST_F(CsvRoundTrip, OfAPurgeListAsksForThePurgeInEveryRow) {
 }
 
 TEST_F(CsvRoundTrip, OfANarrowListHasTooFewCommasToBeRecognised) {
-    // A list is told by five commas in each of its first four lines; this radio's have two.
+    // A list is recognised by five commas in each of its first four lines; this radio's lists have two.
     EmptyPageOf("O12");
     for (int row = 1; row <= 6; ++row)
         MakeRow(row, {});

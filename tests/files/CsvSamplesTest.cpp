@@ -1,4 +1,4 @@
-// Comma-separated lists as programs and people leave them, by menu and dialogs.
+// Comma-separated lists as written by programs and users, imported by menu and dialogs.
 #include "tests/files/ImportTest.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// What tests of comma-separated lists have in common.
+// Common base of the tests of comma-separated lists.
 #pragma once
 
 #include "editing/PageReset.h"
@@ -11,7 +11,7 @@
 
 class CsvTest : public ChannelFileTest {
 protected:
-    /// The page becomes one of the type with its default row only.
+    /// Makes the page one of the type, with only its default row.
     static void EmptyPageOf(const std::string& type) {
         RetargetTo(type);
         EmptyDefaultMemories(CurrentPage);
@@ -26,7 +26,7 @@ protected:
             CurrentGrid()->SelectRow(row, true);
     }
 
-    /// Exports what is selected, by menu and file dialog. The file's bytes.
+    /// Exports the selection by menu and file dialog. Returns the file's bytes.
     std::string Export(const std::string& name = "list.csv") {
         testbench::DialogScript script;
         script.ExpectFile("Export CSV file", (m_folder / name).string());
@@ -38,7 +38,7 @@ protected:
         return CurrentGrid()->GetCellBackgroundColour(row, col) == FailColour;
     }
 
-    /// Takes the paint of former imports away.
+    /// Removes the paint of former imports.
     static void ForgetLooks() { ForgetLooksOfRows(CurrentGrid()); }
 
 private:

@@ -18,7 +18,7 @@ namespace {
 constexpr std::size_t MostBytesOfAWrite = 512;
 
 struct Plan {
-    std::string folder; ///< with a separator at its end
+    std::string folder; ///< ends with a separator
     int which, error;
     int calls = 0;
     std::set<int> files = {}; ///< descriptors that are open for writing in the folder
@@ -27,7 +27,7 @@ struct Plan {
 
 Plan* plan = nullptr;
 
-/// The plan where the calling thread follows one.
+/// The plan if it is the calling thread's, otherwise null.
 Plan* OwnPlan() {
     return plan && plan->thread == std::this_thread::get_id() ? plan : nullptr;
 }
@@ -40,7 +40,7 @@ bool IsOwnFile(int file) {
     return OwnPlan() && plan->files.count(file);
 }
 
-/// Counts a call that the plan is about. True if it is the one that fails.
+/// Counts a call that the plan covers. Returns true if it is the failing one.
 bool Fails() {
     if (++plan->calls != plan->which)
         return false;
@@ -63,7 +63,7 @@ bool FailingCalls::HasFailed() const {
     return plan->calls >= plan->which;
 }
 
-// Every library of the program calls these, so they go straight to the system.
+// All libraries of the program call these functions, so they call the system directly.
 extern "C" {
 
 int open64(const char* path, int flags, ...) {

@@ -1,10 +1,10 @@
-// A disk that is full, for tests of writing.
+// A full disk, for tests of writing.
 #pragma once
 
 #include <csignal>
 #include <sys/resource.h>
 
-/// Lets no file of this program grow beyond a size while it lives.
+/// Keeps this program's files from growing beyond a size during its life.
 class FileSizeLimit {
 public:
     explicit FileSizeLimit(rlim_t bytes) : m_signal(std::signal(SIGXFSZ, SIG_IGN)) {

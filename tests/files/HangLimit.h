@@ -1,4 +1,4 @@
-// How long a hostile file may keep the program busy.
+// Maximum time that the program may need for a hostile file.
 #pragma once
 
 #if defined(__has_feature)

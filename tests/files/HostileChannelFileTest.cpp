@@ -1,4 +1,4 @@
-// Files that nobody's program wrote: each ends with a code or is passed over, in little time.
+// Files that no program wrote: each returns a code or is skipped, in a short time.
 #include "tests/files/ChannelFileTest.h"
 #include "tests/files/HangLimit.h"
 
@@ -8,7 +8,7 @@ namespace {
 
 class HostileChannelFile : public ChannelFileTest {
 protected:
-    /// The page can be used: its target is of the catalogue, and row 0 holds a default row.
+    /// Expects a usable page: its target is in the catalogue, and row 0 holds a default row.
     static void ExpectUsablePage() {
         const PageParameterRecord& page = CurrentParameters();
         ASSERT_GE(page.Radio, 0);
@@ -22,7 +22,7 @@ protected:
         EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
     }
 
-    /// A file of the type with three whole rows, as the program writes it.
+    /// A file of the type with three complete rows, as the program writes it.
     std::string WrittenFile(const char* type) {
         RetargetTo(type);
         FillRowsFromDefault({1, 2});

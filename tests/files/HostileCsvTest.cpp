@@ -1,4 +1,4 @@
-// Lists that nobody's program wrote: lines are passed over or repaired, in little time.
+// Lists that no program wrote: lines are skipped or repaired, in a short time.
 #include "tests/files/CsvTest.h"
 
 #include "tests/files/HangLimit.h"
@@ -12,7 +12,7 @@ namespace {
 
 class HostileCsv : public CsvTest {
 protected:
-    /// Row 0 stands, cells are of a bearable length, and each zone slot is in its bounds.
+    /// Expects a default row, cells of reasonable length and zone slots within their bounds.
     static void ExpectUsablePage(const std::string& name) {
         EXPECT_TRUE(RowHasData(0)) << name;
         EXPECT_EQ(CurrentGrid()->GetNumberRows(), CurrentParameters().Rows + 1) << name;
@@ -27,10 +27,10 @@ protected:
         const char* name;
         std::string bytes;
         int count;
-        bool tells = false; ///< that there is no heading
+        bool tells = false; ///< reports that there is no heading
     };
 
-    /// Reads each list into an empty page of the type.
+    /// Imports each list into an empty page of the type.
     template <class Reader>
     void ReadAll(const char* type, const std::vector<Hostile>& lists, Reader reader) {
         for (const Hostile& list : lists) {
@@ -126,7 +126,7 @@ TEST_F(HostileCsv, WithBytesChangedLeavesAUsablePage) {
         for (int run = 0; run < 40; ++run) {
             EmptyPageOf(type);
             std::string bytes = whole;
-            // The heading stays: without it nothing is read.
+            // The heading is kept, since nothing is read without it.
             const size_t lines = bytes.find('\n') + 1;
             for (int change = 0; change < 12; ++change)
                 bytes[lines + random() % (bytes.size() - lines)] = static_cast<char>(random() % 256);

@@ -1,4 +1,4 @@
-// Files that no programming software wrote: each is read as far as it goes, in little time.
+// Files that no programming software wrote: each is read as far as possible, in a short time.
 #include "tests/files/HangLimit.h"
 #include "tests/files/ImportTest.h"
 
@@ -17,12 +17,12 @@ struct HostileFile {
     const char* name;
     std::string bytes;
     TextRule box;
-    bool tells = false; ///< before the report, that there is no heading
+    bool tells = false; ///< reports, before the import's box, that there is no heading
 };
 
 class HostileImport : public ImportTest {
 protected:
-    /// Imports each file into a page of each type, into the first by the menu.
+    /// Imports each file into a page of each type; the first type by menu.
     void ImportAll(const std::vector<HostileFile>& files, std::initializer_list<const char*> types) {
         for (const char* type : types) {
             for (const HostileFile& file : files) {
@@ -88,7 +88,7 @@ std::string Counted(const std::string& kind, size_t lines) {
     return "Imported " + std::to_string(lines) + " Lines from " + kind + " file.";
 }
 
-/// Whatever it is, it is said as it is to be.
+/// Accepts any count, or the refusal, but only in the right words.
 TextRule AnyCount(const std::string& kind) {
     return Matching("(Imported \\d+ Lines from " + kind + " file\\.|Error: Unknown File Type\\.)");
 }
@@ -257,7 +257,7 @@ TEST_F(HostileImport, OfKdarListsEndsWithTheCount) {
              headings + "1," + std::string(Megabyte, 'W') + "," + std::string(Megabyte, '1') + "\n",
              counted(1)},
             {"empty lines", headings + std::string(Megabyte, '\n') + line(1), counted(1)},
-            // The first of the zero bytes is a key, and an empty one.
+            // The first zero byte is a key, an empty one.
             {"zero bytes", headings + std::string(Megabyte, '\0'), counted(1)},
             {"zero bytes as fields", headings + Repeated(std::string("1,\0,\0,\0,\0,\0\n", 12), 3),
              counted(3)},

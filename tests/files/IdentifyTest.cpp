@@ -1,4 +1,4 @@
-// Which kind a file is, by its contents alone.
+// Recognition of a file's kind by its contents alone.
 #include "tests/files/ImportTest.h"
 
 namespace {

@@ -106,7 +106,8 @@ TEST_F(Binary716, EachWordAndTextReachesItsOwnFieldAlone) {
     for (size_t i = 0; i < std::size(fields); ++i) {
         const size_t begin = fields[i].first, end = i + 1 < std::size(fields) ? fields[i + 1].first : 106;
         for (size_t at = begin; at < end; at += 2) {
-            // No word of the plain record is this one, and as two characters it is no blank.
+            // This word differs from all words of the plain record, and neither of its two characters is a
+            // blank.
             const Record716 changed = Decode(BinaryRecord().Word(at, 0x3837));
             for (const Field716 field : all)
                 EXPECT_EQ(plain.*field != changed.*field, field == fields[i].second)
@@ -152,7 +153,7 @@ TEST_F(Binary716, DescriptionsAreUtf8OrLatin1) {
 }
 
 TEST_F(Binary716, ANewlineCutsATextAndShiftsTheRest) {
-    // Five bytes of the text and the newline stand for its eight.
+    // Five bytes of the text and the newline replace its eight bytes.
     const std::string whole = BinaryRecord(5).Bytes();
     const std::string cut = whole.substr(0, 10) + "VCALL\n" + whole.substr(18);
     Record716 record;
@@ -162,7 +163,7 @@ TEST_F(Binary716, ANewlineCutsATextAndShiftsTheRest) {
     EXPECT_EQ(record.Mode, "n");
     EXPECT_EQ(record.Tfrq, "155.7525");
     EXPECT_EQ(record.Tidc, "0000001");
-    // A newline in place of a blank: the blanks that follow are the next words.
+    // A newline replaces a blank: the blanks after it become the next words.
     EXPECT_EQ(Read716Record(BinaryRecord().Text(10, 8, "\nABCDEFG").Bytes(), RadioCatalogue::RP25, record),
               99u);
     EXPECT_EQ(record.Desc, "");
@@ -186,7 +187,7 @@ TEST_F(Binary716, TheUnitIdIsPackedDecimal) {
         {0, 0, 0, 0x1F, "0000025"},  // 1 * 10 + 15
         {0, 0, 0, 0x100, "0000160"}, // 16 * 10
         {0x99, 0x99, 0x99, 0x99, "99999999"},
-        {0x99, 0x99, 0x99, 0x9A, "0000000"}, // one above the most
+        {0x99, 0x99, 0x99, 0x9A, "0000000"}, // one above the maximum
         {0xFFFF, 0xFFFF, 0xFFFF, 0xFFFF, "0000000"},
     };
     for (const auto& [a, b, c, d, text] : cases)

@@ -48,7 +48,7 @@ TEST_F(List716, FieldsStandInTheirColumns) {
         {83, 3, &Record716::Tnac},
     };
     for (const ColumnCase& c : cases) {
-        // Every character of the field is its own, and those around it are others.
+        // Each character of the field is unique and differs from those around it.
         const std::string text = std::string("abcdefgh").substr(0, c.length);
         std::string line(90, ' ');
         line.replace(c.position, c.length, text);
@@ -377,7 +377,7 @@ TEST_F(List716, TheSamplesHoldTheirChannels) {
     for (const char* name :
          {"kdrv-716.txt", "kdrv-716-crlf.txt", "kdrv-716-cr.txt", "kdrv-716-no-last-end.txt"}) {
         SCOPED_TRACE(name);
-        // With the default row and the two numbers without a memory.
+        // Includes the default row and the two numbers without a memory.
         EXPECT_EQ(Import(SampleFile(name)), 41);
         ExpectCells(0, {{DESC, "VHF 136"}, {MNUM, "000"}});
         ExpectCells(1, {{DESC, "VCALL10"}, {SCAN, "Y"}, {RTON, "156.7"}, {ZONE, "1"}});

@@ -1,4 +1,4 @@
-// The import as a person does it: by menu and dialogs.
+// The import as a user does it: by menu and dialogs.
 #include "tests/files/ImportTest.h"
 
 #include <wx/filedlg.h>
@@ -19,11 +19,11 @@ protected:
     std::string PathOf(const std::string& name) const { return (m_folder / name).string(); }
 };
 
-/// What a page of a type makes of 155.7525 MHz.
+/// What a page of a type does with 155.7525 MHz.
 struct PageCase {
     const char* type;
     const char* checked;     ///< in the 716 files and comma-separated lists
-    bool isPainted;          ///< because it had to give way
+    bool isPainted;          ///< because it was replaced
     const char* checkedTone; ///< of 156.7
     const char* replaced;    ///< in a MultiZEL file
 };
@@ -35,7 +35,7 @@ constexpr PageCase PageCases[] = {
     {"ANAM", "225.0000", true, "", "225.0000"},       {"FXAM", "225.0000", true, "", "225.0000"},
 };
 
-/// An importer that can't open the lines of a file.
+/// An importer that fails to open the lines of a file.
 class FailingImporter : public FileImporter {
 public:
     bool OpenLines(const wxString&) override { return false; }
@@ -198,7 +198,7 @@ TEST_F(ImportCommand, TellsALineFileThatCannotBeOpenedAndLeavesThePage) {
         EXPECT_EQ(PageStrings[0].FileName, "");
         EXPECT_EQ(CurrentParameters().Flags, 0);
     }
-    // Only this kind is read by lines.
+    // Only this kind is read line by line.
     WriteToFolder("list.716", BinaryFile({BinaryRecord(5)}));
     ImportByMenu("list.716", "Imported 1 Lines from 716 Binary file.");
 }

@@ -47,7 +47,7 @@ TEST_F(MultiZEL, FieldsStandInTheirColumns) {
 
 TEST_F(MultiZEL, FieldsEndWhereOthersCouldBegin) {
     RetargetTo("ANFM");
-    // Other characters on both sides of every field.
+    // Different characters on both sides of every field.
     Write({{3, "9"},
            {13, "9"},
            {22, "9"},
@@ -127,7 +127,7 @@ TEST_F(MultiZEL, ScanCellsOfAnalogPagesGetTheirBoxes) {
 }
 
 TEST_F(MultiZEL, AlignmentOfAnAnalogFile) {
-    // Rows: the page's band; columns: the source's from 0 on; the last one is a frequency in no band.
+    // Rows: the page's band; columns: the source's band from 0 on; the last column is a frequency in no band.
     const int expected[9][10] = {
         {0, 2, 2, 2, 2, 2, 2, 2, 2, 2}, {2, 0, 2, 2, 2, 2, 2, 2, 2, 2}, {2, 2, 0, 2, 2, 2, 2, 2, 2, 2},
         {2, 2, 2, 0, 2, 2, 2, 2, 2, 2}, {2, 2, 2, 2, 0, 1, 2, 2, 2, 2}, {2, 2, 2, 2, 1, 0, 2, 2, 2, 2},

@@ -1,4 +1,4 @@
-// What the status bar tells of an import, behind its report.
+// The status bar's message on an import, shown after its report.
 #include "files/ImportOutcome.h"
 
 #include "tests/files/ImportTest.h"
@@ -9,7 +9,7 @@ namespace {
 
 class ImportOutcome : public ImportTest {
 protected:
-    /// Imports the bytes by the menu, whatever the report says.
+    /// Imports the bytes by menu, with any report accepted.
     void ImportFile(const std::string& bytes) {
         testbench::WriteFile(m_folder / "list", bytes);
         ImportByMenu("list", testbench::AnyText());
@@ -159,6 +159,6 @@ TEST_F(ImportOutcome, FitsItsFieldInAWindowOfDefaultSize) {
     for (int line = 1; line < 1000; ++line)
         SkippedLines::Note(line);
     TellImport(cells, lines);
-    // The page shows ten of the columns; the others are nobody's loss.
+    // The page shows ten of the columns; replaced cells of hidden columns don't matter to the user.
     EXPECT_EQ(Status(0), "4020 cells replaced from row 101; 999 lines skipped");
 }

@@ -1,4 +1,4 @@
-// What tests of the import have in common.
+// Common base of the import tests.
 #pragma once
 
 #include "editing/PageReset.h"
@@ -12,7 +12,7 @@
 
 #include <initializer_list>
 
-/// A text with each part at its position.
+/// A text with each part placed at its position.
 inline std::string Placed(const std::vector<std::pair<size_t, std::string>>& parts, size_t length = 0) {
     std::string text(length, ' ');
     for (const auto& [position, part] : parts) {
@@ -40,7 +40,7 @@ inline std::string BinaryHeader() {
                    {25, std::string(7, '\0')}});
 }
 
-/// A record of a 716 binary file of which a test sets what it is about.
+/// A record of a 716 binary file. A test sets only the values that it is about.
 class BinaryRecord {
 public:
     /// A plain memory on 155.7525 MHz.
@@ -76,7 +76,7 @@ inline std::string BinaryFile(std::initializer_list<BinaryRecord> records) {
     return bytes;
 }
 
-/// A line of a 716 list with a plain memory on 155.7525 MHz, and what a test puts over it.
+/// A line of a 716 list with a plain memory on 155.7525 MHz, overwritten by the test's parts.
 inline std::string ListLine(const std::string& number,
                             const std::vector<std::pair<size_t, std::string>>& parts = {}) {
     std::vector<std::pair<size_t, std::string>> all = {
@@ -103,7 +103,7 @@ inline std::string ListFile(const std::vector<std::string>& lines, const std::st
     return Joined(all, end);
 }
 
-/// A line of a MultiZEL file with a memory on 155.7525 MHz, and what a test puts over it.
+/// A line of a MultiZEL file with a memory on 155.7525 MHz, overwritten by the test's parts.
 inline std::string MultiZELLine(const std::string& number,
                                 const std::vector<std::pair<size_t, std::string>>& parts = {}) {
     std::vector<std::pair<size_t, std::string>> all = {
@@ -114,7 +114,7 @@ inline std::string MultiZELLine(const std::string& number,
     return Placed(all);
 }
 
-/// A file of lines 1 and 2, by which its kind is told, and these.
+/// A file of lines 1 and 2, by which its kind is recognised, followed by these lines.
 inline std::string MultiZELFileOf(const std::vector<std::string>& lines, const std::string& end = "\n") {
     return Joined({MultiZELLine("001"), MultiZELLine("002")}, end) + Joined(lines, end);
 }
@@ -133,7 +133,7 @@ protected:
         return importer.Identify((m_folder / "file").string());
     }
 
-    /// Reads the bytes into the emptied page as the command does, but without its dialogs. The count.
+    /// Reads the bytes into the emptied page as the command does, without its dialogs. Returns the count.
     int Import(const std::string& bytes) {
         testbench::WriteFile(m_folder / "file", bytes);
         const wxString path = (m_folder / "file").string();

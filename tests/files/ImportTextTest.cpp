@@ -1,4 +1,4 @@
-// Bytes of foreign files as texts, lines and columns.
+// Bytes of foreign files read as texts, lines and columns.
 #include "files/ImportText.h"
 
 #include "tests/files/ImportTest.h"
@@ -34,7 +34,7 @@ TEST(ImportText, OfBytesIsUtf8OrElseLatin1AndEndsWithAZeroByte) {
         {"\t\v\f\r\nA\t\v\f\r\n", "\t\v\f\r\nA\t\v\f\r\n", "A"},
         {" M\xC3\xBCller ", " M\xC3\xBCller ", "M\xC3\xBCller"},
         {" M\xFCller ", " M\xC3\xBCller ", "M\xC3\xBCller"},
-        {"\xA0", "\xC2\xA0", "\xC2\xA0"}, // a hard blank is a character
+        {"\xA0", "\xC2\xA0", "\xC2\xA0"}, // a no-break space is a character
         {std::string(" A \0 B", 6), " A ", "A"},
         {std::string("\0A", 2), "", ""},
     };
@@ -89,7 +89,7 @@ TEST_F(ImportedLines, EndInCrLfOrBoth) {
 TEST_F(ImportedLines, AreTheSameWhereverTheFileIsCutIntoBlocks) {
     const std::string tail = "M\xC3\xBCller\r\nnext\rlast";
     for (size_t length = 4080; length <= 4100; ++length) {
-        // Lines of 60 characters, then what may lie on a block's end.
+        // Lines of 60 characters, then text that may fall on the end of a block.
         std::string bytes;
         size_t lines = 0;
         for (; bytes.size() + 61 <= length; ++lines)

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// A file in memory whose operations fail from one of them on, for so many; a write that fails has written
+/// A file in memory. A number of its operations fail, starting at one of them. A failing write has written
 /// half.
 class FailingBytes : public FileBytes {
 public:
@@ -61,7 +61,7 @@ private:
     int m_operation = 0;
 };
 
-/// Overwrites former by fresh with the first, second, third ... operation failing until none does.
+/// Overwrites former with fresh while the first, second, third ... operation fails, until none does.
 void ExpectWholeOrTold(const std::string& former, const std::string& fresh, int failures, bool& sawDamage) {
     for (int first = 0;; ++first) {
         SCOPED_TRACE("operation " + std::to_string(first) + " of " + std::to_string(former.size()) + " to " +

@@ -1,4 +1,4 @@
-// Lists of the KDAR-2000 into the page.
+// Importing lists of the KDAR-2000 into the page.
 #include "tests/files/CsvImportTest.h"
 
 using testbench::DialogKind;
@@ -8,7 +8,7 @@ namespace {
 
 class KdarImport : public CsvImport {
 protected:
-    /// Imports the lines behind their heading.
+    /// Imports the lines after their heading.
     int ImportLines(const std::string& lines, const std::string& banner = "KDAR-2000,,,,,") {
         return ImportKdar(banner + "\nMemory,Name,Receive,Transmit,Scan,Rx Only\n" + lines);
     }

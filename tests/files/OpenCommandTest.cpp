@@ -1,4 +1,4 @@
-// Opening as a person does: by menu and dialogs.
+// Opening as a user does: by menu and dialogs.
 #include "tests/files/OpenSaveCommandsTest.h"
 
 #include <wx/filedlg.h>

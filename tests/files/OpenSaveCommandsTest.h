@@ -1,4 +1,4 @@
-// What tests of opening and saving have in common: a person with menus and dialogs, and a folder.
+// Common base of the open and save tests: a user with menus and dialogs, and a folder.
 #pragma once
 
 #include "tests/files/ChannelFileTest.h"
@@ -12,7 +12,7 @@ inline constexpr const char* OpenQuestion = "This will overwrite all data on thi
 
 class OpenSaveCommands : public ChannelFileTest {
 protected:
-    /// Opens a file of the folder by the menu; box is the message expected behind the file dialog.
+    /// Opens a file of the folder by menu; box is the message expected after the file dialog.
     void OpenByMenu(const std::string& name, const std::string& box = "") {
         testbench::DialogScript script;
         script.ExpectMessage("Open File?", OpenQuestion);
@@ -30,7 +30,7 @@ protected:
 
     std::string FolderText() const { return m_folder.Path().string() + "/"; }
 
-    /// Saves by the menu; file is the one that the question is about, and answer is given.
+    /// Saves by menu; file is the file that the question names, and answer the reply to it.
     static void SaveOver(const std::string& file, int answer, int command = IdSave) {
         testbench::DialogScript script;
         ExpectReplaceQuestion(script, file, answer);
@@ -44,7 +44,7 @@ protected:
             .Answer(answer);
     }
 
-    /// Saves under a name by the menu and the file dialog.
+    /// Saves under a name by menu and file dialog.
     void SaveAs(const std::string& name) {
         testbench::DialogScript script;
         script.ExpectFile("Save .zelk file...", (m_folder / name).string());
@@ -56,7 +56,7 @@ protected:
         PageStrings[CurrentPage].FileName = name;
     }
 
-    /// A page of the radio, which becomes the current one.
+    /// Adds a page of the radio, which becomes the current one.
     static void AddPageOf(int page, int radio) {
         SetPageParameters(MainFrame, page, radio, 0);
         CreateNewPage(MainFrame, page);

@@ -1,4 +1,4 @@
-// Paper for tests: a sheet of pixels, and what was drawn on it.
+// Paper for tests: a sheet of pixels, and the texts drawn on it.
 #pragma once
 
 #include "files/ZelkPrinting.h"
@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-/// A sheet of A4 with ten pixels a millimetre, for a screen of half as many.
+/// An A4 sheet with ten pixels per millimetre, for a screen with half as many.
 inline constexpr int Width = 2100, Height = 2970;
 
 class Sheet {
@@ -29,7 +29,7 @@ public:
     ~Sheet() { m_printout.SetDC(nullptr); }
 
     wxMemoryDC& Dc() { return m_dc; }
-    /// What has been drawn.
+    /// The drawing so far.
     wxImage Picture() {
         m_dc.SelectObject(wxNullBitmap);
         return m_bitmap.ConvertToImage();
@@ -51,7 +51,7 @@ inline Pixel PixelOf(const wxColour& colour) {
     return {colour.Red(), colour.Green(), colour.Blue()};
 }
 
-/// The smallest rectangle that holds every pixel of the part for which it is true. Empty if none.
+/// The smallest rectangle that contains every pixel of the part for which holds is true. Empty if none.
 template <class Holds>
 wxRect Where(const wxImage& picture, const wxRect& part, Holds holds) {
     int left = part.GetRight() + 1, top = part.GetBottom() + 1, right = -1, bottom = -1;
@@ -80,7 +80,7 @@ inline wxRect WhereInk(const wxImage& picture, const wxRect& part) {
     return Where(picture, part, [](const Pixel& found) { return found != Pixel{255, 255, 255}; });
 }
 
-/// A text as it was drawn, its place in device pixels.
+/// A text that was drawn, with its place in device pixels.
 struct DrawnText {
     std::string text;
     wxPoint place;
@@ -89,7 +89,7 @@ struct DrawnText {
     wxFont font;
 };
 
-/// Draws on a bitmap and keeps the texts.
+/// Draws on a bitmap and records the texts.
 class TracingDevice : public wxDC {
 public:
     TracingDevice(wxMemoryDC& paper, std::vector<DrawnText>& texts) : wxDC(new Device(this, paper, texts)) {}

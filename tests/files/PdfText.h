@@ -1,4 +1,4 @@
-// What a printed PDF file says.
+// Text of a printed PDF file.
 #pragma once
 
 #include "robot/Process.h"
@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// A word on a sheet; its box in millimetres from the sheet's left and upper edge.
+/// A word on a sheet. Its box is in millimetres from the sheet's left and upper edge.
 struct PdfWord {
     std::string text;
     double left, top, right, bottom;
@@ -27,7 +27,7 @@ inline std::string OutputOf(const std::vector<std::string>& command) {
     return process.Output();
 }
 
-/// The lines of each sheet, as a person reads them.
+/// The lines of each sheet in reading order.
 inline std::vector<std::vector<std::string>> PdfLines(const std::filesystem::path& file) {
     std::istringstream sheets(OutputOf({"pdftotext", "-layout", file.string(), "-"}));
     std::vector<std::vector<std::string>> pages;
@@ -41,7 +41,7 @@ inline std::vector<std::vector<std::string>> PdfLines(const std::filesystem::pat
     return pages;
 }
 
-/// The sheets with the places of their words.
+/// The sheets with the positions of their words.
 inline std::vector<PdfPage> PdfWords(const std::filesystem::path& file) {
     constexpr double Point = 25.4 / 72;
     std::istringstream lines(OutputOf({"pdftotext", "-bbox", file.string(), "-"}));

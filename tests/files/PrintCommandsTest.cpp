@@ -1,4 +1,4 @@
-// Printing, preview and page set-up as a person uses them: by menu, mouse and keys, onto real sheets.
+// Printing, preview and page set-up as a user works with them: by menu, mouse and keys, onto real sheets.
 #include "tests/files/PrintTest.h"
 #include "tests/support/LogKeeper.h"
 
@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Where the entries stand in the File menu; the separator is passed by.
+/// Positions of the entries in the File menu, not counting the separator.
 enum FileMenuEntry { PrintEntry = 6, PreviewEntry = 7, PageSetupEntry = 8 };
 
 constexpr const char* PrintTrouble =
@@ -36,10 +36,10 @@ class PrintCommands : public PrintTest {
 protected:
     void SetUp() override {
         PrintTest::SetUp();
-        // Sheets that are printed to a file go into the present folder, unless told otherwise.
+        // By default, printing to a file writes into the current folder.
         m_former = fs::current_path();
         fs::current_path(m_folder.Path());
-        // The toolkit asks for the folder of half-printed sheets once, when it prints the first one.
+        // The toolkit looks up the folder of half-printed sheets only once, when it prints the first one.
         if (const char* folder = std::getenv("TMPDIR"))
             m_formerSpool = folder;
         setenv("TMPDIR", Spool().c_str(), 1);
@@ -67,11 +67,11 @@ protected:
         return folder.Path();
     }
 
-    /// In the print dialog: prints to a file, the only printer there is.
+    /// Prints to a file, the only printer available in the print dialog.
     static void AcceptPrintDialog(Robot& robot) {
         ASSERT_TRUE(robot.WaitForWindow("Print"));
         robot.Press("Tab");
-        // The list of printers comes a moment later than the dialog.
+        // The list of printers appears a moment after the dialog.
         for (int tries = 0; tries < 50 && robot.FocusedTitle() == "Print"; ++tries) {
             robot.Press("Down");
             robot.Press("Alt+P");
@@ -85,7 +85,7 @@ protected:
         EXPECT_TRUE(fs::exists(Output()));
     }
 
-    /// The grid's cursor goes down by a key, wherever the keyboard is.
+    /// Moves the grid's cursor down by a key, whatever window had the keyboard.
     static void ExpectKeysInTheGrid(Robot& robot) {
         const int row = robot.Ask([] { return CurrentGrid()->GetGridCursorRow(); });
         robot.Press("Down");
@@ -96,8 +96,8 @@ protected:
 
     /// Prints the current page by menu and dialog.
     void PrintPage() {
-        // Clipping on paper is asked for by the toolkit's grid and not done by its printer device,
-        // which asserts.
+        // The toolkit's grid asks for clipping on paper. The toolkit's printer device doesn't support it and
+        // asserts.
         const AssertsOff quiet;
         fs::remove(Output());
         RunWithRobot([this](Robot& robot) {
@@ -107,7 +107,7 @@ protected:
         });
     }
 
-    /// The file has these pages, each with its heading, and every row of the page once and in order.
+    /// Expects these pages, each with its heading, and every row of the page once and in order.
     void ExpectEveryRow(int pages, int rowsPerPage) {
         const std::vector<std::vector<std::string>> sheets = PdfLines(Output());
         ASSERT_EQ(sheets.size(), static_cast<size_t>(pages));
@@ -141,7 +141,7 @@ protected:
         return WordsOf(line);
     }
 
-    /// The words of a row as the window shows it, after its label.
+    /// The words of a row after its label, as the window shows it.
     static std::vector<std::string> ShownTexts(int row) {
         std::string line = CurrentGrid()->GetRowLabelValue(row).utf8_string();
         for (int col = 0; col < ColumnTotal; ++col)
@@ -166,7 +166,7 @@ protected:
         return boxes;
     }
 
-    /// Memories that differ from each other.
+    /// Fills the page with memories that differ from each other.
     static void FillPageWithScanLists() {
         FillPage();
         if (CurrentPageIsP25() || Text(1, SCAN).find_first_not_of("0123456789") != std::string::npos)
@@ -197,7 +197,7 @@ protected:
             << status;
     }
 
-    /// What the preview shows of its page.
+    /// The preview's picture of its page.
     static wxImage PreviewPicture(Robot& robot) {
         robot.Settle();
         const wxRect canvas = robot.Ask([] {
@@ -215,13 +215,13 @@ protected:
                std::equal(one.GetData(), one.GetData() + bytes, other.GetData());
     }
 
-    /// What the window shows of the grid.
+    /// The window's picture of the grid.
     static wxImage GridPicture() {
         PumpUntilIdle();
         return XDesk().Picture(CurrentGrid()->GetScreenRect());
     }
 
-    /// Opens the page set-up, works on it and closes it with the button.
+    /// Opens the page set-up, runs work on it and closes it with the button.
     static void SetUpPage(int button,
                           const std::function<void(Robot&, wxGenericPageSetupDialog*)>& work = {}) {
         RunWithRobot([&](Robot& robot) {
@@ -244,7 +244,7 @@ protected:
     }
 
     static void ClickLandscape(Robot& robot, wxGenericPageSetupDialog* dialog) {
-        // The right one of two buttons under the box's title.
+        // The right one of the two buttons under the box's title.
         robot.Click(robot.Ask([=] {
             const wxSize size = dialog->m_orientationRadioBox->GetSize();
             return SpotIn(*dialog->m_orientationRadioBox, wxPoint(size.x * 3 / 4, size.y * 3 / 4));
@@ -311,7 +311,7 @@ TEST_F(PrintCommands, PaperHasItsHeadingInTheStripAndTheGridBetweenTheMargins) {
         ASSERT_GT(page.words.size(), 20u);
         double left = 1000, right = 0;
         for (const PdfWord& word : page.words) {
-            // Coordinates are whole pixels of the screen, a quarter of a millimetre.
+            // Coordinates are rounded to pixels of the screen, a quarter of a millimetre.
             EXPECT_GE(word.left, 14.7) << word.text;
             EXPECT_LE(word.right, 195.3) << word.text;
             EXPECT_LE(word.bottom, 282) << word.text;

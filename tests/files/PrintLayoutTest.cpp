@@ -1,4 +1,4 @@
-// How much of a grid goes onto a sheet of paper.
+// How much of a grid fits on a sheet of paper.
 #include "files/PrintLayout.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ std::vector<int> Rows(int count, int height = 23) {
     return std::vector<int>(static_cast<size_t>(count), height);
 }
 
-/// All four margins alike, as a page begins with.
+/// Four equal margins, as on a new page.
 PageMargins Margins(int millimetres) {
     return {{millimetres, millimetres}, {millimetres, millimetres}};
 }
@@ -25,7 +25,7 @@ struct SheetCase {
     PageMargins margins;         ///< millimetres
     bool landscape;
     int totalWidth; ///< pixels
-    int rows;       ///< of 23 pixels
+    int rows;       ///< of 23 pixels each
     int rowsPerPage;
 };
 
@@ -33,8 +33,8 @@ void PrintTo(const SheetCase& sheet, std::ostream* out) {
     *out << sheet.name;
 }
 
-// 180 by 261 mm of an upright A4 sheet with the margins of the start can be used, 267 by 174 of one
-// that lies on its side.
+// With the initial margins, 180 by 261 mm of an upright A4 sheet are usable, and 267 by 174 mm of one on its
+// side.
 const SheetCase SheetCases[] = {
     {"1305 pixels hold 56.7 rows", 210, 297, Margins(15), Upright, 900, 500, 56},
     {"1334 pixels hold 58 rows", 210, 297, Margins(15), Upright, 920, 500, 58},
@@ -80,13 +80,13 @@ namespace {
 
 struct TypeCase {
     const char* type;
-    int totalWidth;     ///< of its columns
-    int rows;           ///< of its page, the default row counted
+    int totalWidth;     ///< of all its columns
+    int rows;           ///< of its page, including the default row
     int upright, pages; ///< rows per page and pages
     int onItsSide, asidePages;
 };
 
-// All columns as wide as a page begins with.
+// All columns have their initial width.
 constexpr TypeCase TypeCases[] = {
     {"ANFM", 620, 123, 39, 4, 17, 8},   {"RP25", 1060, 233, 66, 4, 30, 8}, {"NP25", 1110, 503, 69, 8, 31, 17},
     {"MDLX", 710, 501, 44, 12, 20, 26}, {"O12", 625, 7, 7, 1, 7, 1},       {"KDAR", 390, 101, 24, 5, 11, 10},

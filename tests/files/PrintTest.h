@@ -1,11 +1,11 @@
-// What tests of printing have in common.
+// Common base of the printing tests.
 #pragma once
 
 #include "editing/RowLooks.h"
 #include "files/ZelkPrinting.h"
 #include "tests/files/ChannelFileTest.h"
 
-/// All that a grid's look consists of.
+/// Everything that makes up a grid's look.
 struct GridLook {
     wxColour line, labelBackground, labelText, cellBackground, cellText;
     wxFont label, cell;
@@ -22,7 +22,7 @@ inline GridLook LookOf(const wxGrid& grid) {
 
 class PrintTest : public ChannelFileTest {
 protected:
-    /// Every memory of the page, made from its default row.
+    /// Fills every memory of the page from its default row.
     static void FillPage() {
         CurrentGrid()->SelectAll();
         CopyValuesToSelection(CurrentPage, GetRowValues(CurrentPage, 0), true, true);

@@ -13,7 +13,7 @@ namespace {
 const wxColour Red(255, 0, 0), Blue(0, 0, 255), Yellow(255, 255, 0), Black(0, 0, 0);
 const wxColour PaleGrey(245, 245, 245), DarkGrey(48, 48, 48);
 
-/// Tells what the grid looks like while its cells are drawn.
+/// Records the grid's look while its cells are drawn.
 class LookSpy : public wxGridCellStringRenderer {
 public:
     explicit LookSpy(std::vector<GridLook>& seen) : m_seen(seen) {}
@@ -34,7 +34,7 @@ public:
     wxGridCellRenderer* Clone() const override { return new ThrowingRenderer; }
 };
 
-/// A device that takes no document.
+/// A device that accepts no document.
 class RefusingDevice : public wxDC {
 public:
     RefusingDevice() : wxDC(new Device(this)) {}
@@ -51,7 +51,7 @@ class Printing : public PrintTest {
 protected:
     static ZelkPrintout Printout() { return ZelkPrintout(MainFrame, CurrentGrid(), "KRV-47"); }
 
-    /// How many pages the grid comes to.
+    /// Number of pages for the grid.
     static int Pages(ZelkPrintout& printout) {
         int min = -1, max = -1, from = -1, to = -1;
         printout.GetPageInfo(&min, &max, &from, &to);
@@ -75,7 +75,7 @@ protected:
         return sheet.Picture();
     }
 
-    /// The texts of a page in the order in which they are drawn.
+    /// The texts of a page in drawing order.
     static std::vector<DrawnText> Trace(int page) {
         ZelkPrintout printout = Printout();
         Pages(printout);
@@ -87,7 +87,7 @@ protected:
         return texts;
     }
 
-    /// The row labels of a page. The toolkit draws one several times.
+    /// The row labels of a page. The toolkit draws some of them several times.
     static std::vector<std::string> RowLabels(int page) {
         std::vector<std::string> labels;
         for (const DrawnText& drawn : Trace(page))
@@ -152,7 +152,7 @@ TEST_F(Printing, InLandscapeFewerRowsGoOntoAPage) {
     EXPECT_EQ(RowsAPage(), 39);
     SetLandscape();
     EXPECT_EQ(RowsAPage(), 17);
-    // The orientation is that of the print data alone.
+    // The print data alone decide on the orientation.
     PageSetupData->GetPrintData().SetOrientation(wxLANDSCAPE);
     PrintData->SetOrientation(wxPORTRAIT);
     EXPECT_EQ(RowsAPage(), 39);
@@ -262,7 +262,7 @@ TEST_F(Printing, FillsTheWidthBetweenTheMarginsAndLeavesThemFree) {
 
 TEST_F(Printing, HeadsThePageInTheStripAboveTheGrid) {
     const wxImage picture = Draw(1);
-    // The grid begins 6 mm below the margin; between its head and the heading's line nothing stands.
+    // The grid begins 6 mm below the margin. The space between its head and the heading's line is empty.
     const wxRect line = WhereColour(picture, wxRect(0, 150, Width, 60), Black);
     EXPECT_NEAR(150, line.GetLeft(), 3);
     EXPECT_NEAR(1950, line.GetRight(), 3);
@@ -304,7 +304,7 @@ TEST_F(Printing, SplitsRowsAtTheSamePlaceForEachPage) {
 TEST_F(Printing, DrawsTheLastPageOnlyToTheLastRow) {
     const wxImage whole = Draw(3), last = Draw(4);
     const wxRect all = whole.GetSize();
-    const int rowHeight = (WhereInk(whole, all).GetBottom() - 210) / 40; // and the head
+    const int rowHeight = (WhereInk(whole, all).GetBottom() - 210) / 40; // 40 rows with the head
     EXPECT_NEAR(210 + 7 * rowHeight, WhereInk(last, all).GetBottom(), 8);
 }
 
@@ -383,7 +383,7 @@ TEST_F(Printing, TextsOfHiddenColumnsAreNotDrawn) {
 }
 
 TEST_F(Printing, ColoursOfRowsGoOntoPaper) {
-    // A marked row, a repaired cell, and the default row as somebody painted it.
+    // A marked row, a repaired cell, and the default row as painted by a user.
     for (int col = 0; col < ColumnTotal; ++col) {
         CurrentGrid()->SetCellBackgroundColour(5, col, MarkColour);
         CurrentGrid()->SetCellBackgroundColour(0, col, Yellow);
@@ -441,7 +441,7 @@ TEST_F(Printing, TextsAndLinesHaveTheColoursOfPaper) {
                       [](const Pixel& c) { return c.red > c.blue + 60 || c.blue > c.red + 60; })
                     .IsEmpty())
         << "nothing of the screen's colours";
-    // Down through a blank column the lines between rows are all there is.
+    // A blank column shows only the lines between rows.
     const wxRect lines = WhereColour(picture, wxRect(1000, 1000, 1, 1000), PaleGrey);
     EXPECT_FALSE(lines.IsEmpty());
 }
@@ -521,7 +521,7 @@ TEST_F(Printing, APreviewShowsWhatIsPrinted) {
     auto* printout = new ZelkPrintout(MainFrame, CurrentGrid(), "KRV-47");
     wxPrintPreview preview(printout, nullptr, PrintData.get());
     ASSERT_EQ(Pages(*printout), 4);
-    // A quarter of the paper's size on a screen of 127 pixels an inch, for a printer of 254.
+    // A quarter of the paper's size on a screen of 127 pixels per inch, for a printer of 254.
     Sheet sheet(*printout, Width / 4, Height / 4);
     printout->SetPageSizePixels(Width, Height);
     ASSERT_TRUE(printout->OnPrintPage(1));

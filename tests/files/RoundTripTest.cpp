@@ -1,4 +1,4 @@
-// What is saved comes back.
+// A saved page comes back unchanged.
 #include "tests/files/ChannelFileTest.h"
 
 #include <map>
@@ -11,8 +11,7 @@ using Cells = std::map<int, std::vector<std::string>>;
 
 class RoundTrip : public ChannelFileTest {
 protected:
-    /// Texts of all rows by row, without what a file doesn't hold: TFLG, and the hidden columns of
-    /// the type.
+    /// Texts of all rows, without what a file doesn't hold: TFLG and the hidden columns of the type.
     static Cells Rows(const std::vector<int>& columns) {
         Cells rows;
         for (int row : FilledRows(0))
@@ -21,7 +20,7 @@ protected:
         return rows;
     }
 
-    /// Some rows at both ends of the grid and between.
+    /// Fills some rows at both ends of the grid and in between.
     static void FillSomeRows() {
         const int last = CurrentParameters().Rows;
         FillRowsFromDefault({1, 2, 3, last / 2, last - 1, last});
@@ -68,7 +67,7 @@ TEST_F(RoundTrip, BringsThePagesOfEachTypeBackOnAnyPage) {
             const std::string saved = Save();
             RetargetTo(onto);
             ASSERT_EQ(Open(saved), 0);
-            // A file of FXAM names no type, and its radio's own is another.
+            // A file of FXAM names no type, and its radio has another type.
             const std::string type = std::string(target.type) == "FXAM" ? "ANAM" : target.type;
             EXPECT_EQ(PageStrings[0].TypeName, type);
             EXPECT_EQ(Rows(Columns(target.type)), before);
@@ -83,7 +82,7 @@ TEST_F(RoundTrip, KeepsPrimariesAndShadows) {
     for (const char* type : {"RP25", "NP25"}) {
         SCOPED_TRACE(type);
         RetargetTo(type);
-        RetargetTo(type); // the first rows get their zones by the list that stood before
+        RetargetTo(type); // the first rows get their zones by the previous list
         FillRowsFromDefault({10, 20, 21});
         SetCells(10, {{MFLG, "10"}, {SHAD, "P-2"}, {SCAN, "N"}, {SHD0, "20"}, {SHD1, "21"}});
         SetCells(20, {{MFLG, "01"}, {SHAD, "S-010"}, {SCAN, "N"}, {PRIM, "010"}, {ZONE, ""}});

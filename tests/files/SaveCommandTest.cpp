@@ -1,4 +1,4 @@
-// Saving as a person does: by menu and dialogs.
+// Saving as a user does: by menu and dialogs.
 #include "tests/files/OpenSaveCommandsTest.h"
 #include "tests/support/Keys.h"
 

@@ -1,4 +1,4 @@
-// Saving while the first, second, third ... call that changes a file fails, until none fails.
+// Saving while the first, second, third ... call that changes a file fails, until none does.
 #include "tests/files/AsAnyUser.h"
 #include "tests/files/FailingCalls.h"
 #include "tests/files/OpenSaveCommandsTest.h"
@@ -24,7 +24,7 @@ protected:
         ASSERT_NE(m_fresh, Masked(m_former));
     }
 
-    /// Saves over the former file by the menu with that call failing.
+    /// Saves over the former file by menu while that call fails.
     bool SaveWithFailure(int which, int error) {
         testbench::WriteFile(m_folder / "a.zelk", m_former);
         const FailingCalls calls(m_folder.Path(), which, error);
@@ -32,7 +32,7 @@ protected:
         return calls.HasFailed();
     }
 
-    /// The file is the former one or the new one, whole, and the status bar tells which.
+    /// Expects the complete former or new file, and the status bar to report which.
     void ExpectWholeFileAsTold() {
         EXPECT_EQ(Entries(), std::vector<std::string>{"a.zelk"});
         const std::string bytes = ReadFromFolder("a.zelk");
@@ -44,7 +44,7 @@ protected:
         }
     }
 
-    /// Saves until no call fails any more. The number of calls that a save takes.
+    /// Saves until no call fails any more. Returns the number of calls that a save makes.
     int SaveWithEachFailure(int error) {
         int which = 1;
         while (SaveWithFailure(which, error)) {
@@ -62,7 +62,7 @@ protected:
     }
 
     std::string m_former, m_fresh;
-    int m_refused = 0; ///< saves that were told to have failed
+    int m_refused = 0; ///< saves that were reported as failed
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-// Which files a save asks about before it replaces them.
+// Files that a save asks about before it replaces them.
 #include "tests/files/FileSizeLimit.h"
 #include "tests/files/OpenSaveCommandsTest.h"
 
@@ -16,7 +16,7 @@ TEST_F(OpenSaveCommands, SaveAsksBeforeItReplacesAFileThatThePageDoesNotKnow) {
     SaveOver("a.zelk", wxID_OK);
     EXPECT_NE(std::string::npos, ReadFromFolder("a.zelk").find("<ZelkMem>"));
     EXPECT_EQ(Status(0), "Saved a.zelk");
-    Choose(IdSave); // it is the page's own now
+    Choose(IdSave); // it now belongs to the page
 }
 
 TEST_F(OpenSaveCommands, SaveAsAsksBeforeItReplacesAFileThatThePageDoesNotKnow) {
@@ -32,7 +32,7 @@ TEST_F(OpenSaveCommands, SaveAsAsksBeforeItReplacesAFileThatThePageDoesNotKnow) 
         EXPECT_EQ(PageStrings[0].FileName, answer == wxID_CANCEL ? "mine" : "other");
         EXPECT_EQ(PageStrings[0].FileDir, FolderText());
     }
-    // Both are the page's own now.
+    // Both now belong to the page.
     SaveAs("mine.zelk");
     SaveAs("other.zelk");
 }
@@ -95,7 +95,7 @@ TEST_F(OpenSaveCommands, FilesStayWithTheirPageWhenAPageBeforeItIsDeleted) {
     EXPECT_EQ(Status(0), "Saved second.zelk");
     NamePage("first");
     SaveOver("first.zelk", wxID_CANCEL);
-    // A page that is made anew in a former page's place knows none of its files.
+    // A new page in a former page's place knows none of its files.
     AddPageOf(1, Krv214);
     NamePage("second");
     SaveOver("second.zelk", wxID_CANCEL);

@@ -1,4 +1,4 @@
-// What the status bar tells of a save, also of one that fails.
+// The status bar's report of a save, including a failed one.
 #include "tests/files/FileSizeLimit.h"
 #include "tests/files/OpenSaveCommandsTest.h"
 
@@ -119,7 +119,7 @@ TEST_F(OpenSaveCommands, SaveThatFailsOpensNoBoxButTellsItInTheStatusBar) {
 }
 
 TEST_F(OpenSaveCommands, SaveThatFailsLeavesTheFormerFileAndThePagesName) {
-    // A name just short enough for the file, but not for a new one beside it.
+    // The name is just short enough for the file, but too long for a new file next to it.
     const std::string name(250, 'n');
     WriteToFolder(name + ".zelk", "former");
     NamePage(name);

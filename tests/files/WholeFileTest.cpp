@@ -27,7 +27,7 @@ protected:
         return error ? error.message() : "";
     }
 
-    /// Writes as a user who may not write to the folder, however full the disk is.
+    /// Writes as a user who may not write to the folder, with the disk's room limited.
     std::string WriteInClosedFolder(const std::string& name, const std::string& bytes,
                                     rlim_t room = RLIM_INFINITY) {
         EXPECT_EQ(chmod(m_folder.Path().c_str(), 0555), 0);
@@ -121,7 +121,7 @@ TEST_F(WholeFile, StandsAsItWasWhenWritingFailsHalfWay) {
         std::string problem;
         {
             const FileSizeLimit full(limit);
-            errno = 0; // a former error must not tell this one
+            errno = 0; // a former error must not be reported
             problem = Write(m_folder / "a", std::string(100000, 'n'));
         }
         EXPECT_EQ(problem, "File too large") << limit;

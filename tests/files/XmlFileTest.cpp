@@ -25,7 +25,7 @@ std::string Nested(int depth) {
     return Repeat("<a>", depth) + Repeat("</a>", depth);
 }
 
-/// The text in UTF-16 as a file would have it.
+/// The text in UTF-16, as in a file.
 std::string Utf16(const std::string& ascii, bool littleEndian, bool mark) {
     std::string bytes = !mark ? "" : littleEndian ? "\xFF\xFE" : "\xFE\xFF";
     for (char c : ascii) {
@@ -101,7 +101,7 @@ TEST(HarmlessMarkup, NestsNoDeeperInUtf16Either) {
             EXPECT_TRUE(IsHarmlessMarkup(Utf16(Nested(64), littleEndian, mark)));
             EXPECT_FALSE(IsHarmlessMarkup(Utf16(Nested(65), littleEndian, mark)));
         }
-    // The low bytes of these characters are a comment's start.
+    // The low bytes of these characters form the start of a comment.
     std::string hidden = Utf16("<a>", true, true) + "<!!!-!-!";
     for (int i = 0; i < 65; ++i)
         hidden += Utf16("<a>", true, false);

@@ -1,4 +1,4 @@
-// A blank row becomes a memory as soon as somebody types into it.
+// A blank row becomes a memory as soon as the user types into it.
 #include "commands/OpenEditor.h"
 #include "tests/support/ZelkWindowTest.h"
 
@@ -51,7 +51,7 @@ TEST_F(TypingInto, ABlankP25RowGivesItAZoneAndItsOwnPrimary) {
         SCOPED_TRACE(radio);
         Retarget(radio, 0);
         TypeIntoCell(*CurrentGrid(), 2, RFRQ, "150.0000");
-        // Second generation radios tune finer.
+        // Second generation radios tune in finer steps.
         const char* const typed = radio == Kdrv716 ? "150.0000" : "150.00000";
         const Texts expected = {"0",    "002",      "002",  "N",   "FM 136-174", "N",
                                 "1",    "VHF  002", "n",    typed, "x",          radio == Kdrv716 ? "" : "10",
@@ -101,12 +101,12 @@ TEST_F(TypingInto, ABlankRowSelectsItAlone) {
     CurrentGrid()->GoToCell(5, DESC);
     CurrentGrid()->SetFocus();
     TypeText("ALPHA");
-    // Not with Return: the cursor would move and take the selection with it.
+    // Return would move the cursor and the selection with it.
     CommitOpenEditor();
     EXPECT_EQ(SelectedRows(), std::vector<int>{5});
 }
 
-// A departure: the rows that were selected would otherwise be overwritten in silence.
+// Intentional: otherwise the selected rows would be overwritten silently.
 TEST_F(TypingInto, ABlankRowLeavesOtherSelectedRowsAsTheyAre_Departure) {
     TypeIntoCell(*CurrentGrid(), 2, DESC, "KEPT");
     TypeIntoCell(*CurrentGrid(), 2, RFRQ, "71.0000");

@@ -1,4 +1,4 @@
-// The program as a desktop starts it, with a file's name or without.
+// The program as a desktop starts it, with or without a file name.
 #include "resources/ToolImages.h"
 #include "robot/ClickPicture.h"
 #include "robot/Files.h"
@@ -30,7 +30,7 @@ protected:
 
     void Save() { ASSERT_TRUE(ClickPicture(m_hands, GetToolImage(ToolImage::Save))); }
 
-    /// The file's text from the radio type on: what stands before it tells when it was saved.
+    /// The file's text from the radio type on. The text before it contains the time of the save.
     static std::string Contents(const fs::path& file) {
         const std::string text = ReadFile(file);
         return text.substr(std::min(text.find("<FType>"), text.size()));
@@ -42,7 +42,7 @@ protected:
         return Process(command, {.folder = folder});
     }
 
-    /// A copy of the example in the folder of the test; it is marked as saved in 1999.
+    /// Copies the example into the test's folder and dates it 1999.
     fs::path CopyExample(const std::string& name) {
         std::string text = ReadFile(fs::path(ZELK_EXAMPLES_DIR) / name);
         const size_t date = text.find("<Date>") + 6;
@@ -51,7 +51,7 @@ protected:
         return m_folder / name;
     }
 
-    /// Saves the page and expects it to go back into the file as it came.
+    /// Saves the page and expects an unchanged file.
     void ExpectPageIsOf(const fs::path& file) {
         const std::string before = Contents(file);
         Save();
@@ -95,7 +95,7 @@ TEST_F(CommandLine, WithoutAFileOpensNone) {
         const Process zelk = Start(arguments, m_folder.Path());
         ASSERT_TRUE(WaitForFocus(mainWindow)) << arguments.size();
         Save();
-        // The new page has a default row and no file of its own, so that it asks for one.
+        // The new page has a default row and no file of its own, so the save asks for one.
         EXPECT_TRUE(WaitForFocus("Save .zelk file...")) << arguments.size();
     }
 }

@@ -1,4 +1,4 @@
-// Every command reaches its operation.
+// Every command runs its operation.
 #include "frame/ZelkGUI.h"
 
 #include "tests/support/Keys.h"
@@ -18,7 +18,7 @@ using namespace testbench;
 
 namespace {
 
-/// A window whose operations only write down their names.
+/// A window whose operations only record their names.
 class RecordingFrame : public OrvZELFrame {
 public:
     using OrvZELFrame::OrvZELFrame;
@@ -83,7 +83,7 @@ protected:
 
     using Names = std::vector<std::string>;
 
-    /// The operations that ran since the last call.
+    /// The operations run since the last call.
     Names Taken() {
         Names taken;
         taken.swap(frame->calls);
@@ -134,7 +134,7 @@ TEST_F(Commands, OfTheContextMenuRunTheirOperations) {
 }
 
 TEST_F(Commands, OfTheToolBarRunTheirOperationsOnAClick) {
-    // From the top to the bottom of the column, in steps smaller than a tool.
+    // From top to bottom of the column, in steps smaller than a tool.
     const wxSize size = frame->m_toolBar->GetClientSize();
     Names inOrder;
     for (int y = 8; y < size.y; y += 14) {
@@ -148,7 +148,7 @@ TEST_F(Commands, OfTheToolBarRunTheirOperationsOnAClick) {
 }
 
 TEST_F(Commands, OfTheMenusAreReachedWithTheKeyboard) {
-    // The operations in the order of the entries.
+    // The operations in menu order.
     const std::vector<Names> byMenu = {
         {"OnOpen", "OnSave", "OnSaveAs", "OnImport", "OnExport", "OnPrint", "OnPrintPreview", "OnPageSetup",
          "OnQuit"},

@@ -26,7 +26,7 @@ protected:
 
     static bool IsOpen() { return MainFrame->m_contextMenu->GetInvokingWindow() != nullptr; }
 
-    /// Ids of the menu that the action opens, which is then closed again; empty when none opens.
+    /// Ids of the menu that the action opens; the menu is then closed again. Empty if none opens.
     static Ids MenuOf(const std::function<void(Robot&)>& action) {
         Ids ids;
         RunWithRobot([&](Robot& robot) {
@@ -49,7 +49,7 @@ protected:
     }
 
     static Ids MenuAt(const std::function<wxPoint()>& spot) {
-        // Two clicks at one place would make a double click, which asks for no menu.
+        // Two clicks in one place would be a double click, which opens no menu.
         static int aside = 7;
         aside = -aside;
         return MenuOf([&spot](Robot& robot) { robot.Click(robot.Ask(spot) + wxPoint(aside, 0), 3); });
@@ -63,7 +63,7 @@ protected:
         return MenuAt([col] { return ColumnLabelSpot(*CurrentGrid(), col); });
     }
 
-    /// Puts data into a row as defaults do.
+    /// Puts data into a row, as defaults do.
     static void Fill(int row) { FillRowsFromDefault({row}); }
 };
 
@@ -78,7 +78,7 @@ TEST_F(ContextMenu, OfTheCornerSelectsTheGridAndOffersTheDefaultFile) {
 TEST_F(ContextMenu, OfRowLabel000OffersOnlyTheDefaultsCommands) {
     EXPECT_EQ(MenuOfRow(0), (Ids{LoadDefault, SaveDefault}));
     EXPECT_EQ(ContextRow, 0);
-    // Whatever else the row contains.
+    // The row's other cells don't matter.
     SetCell(0, MFLG, "13");
     EXPECT_EQ(MenuOfRow(0), (Ids{LoadDefault, SaveDefault}));
     CurrentGrid()->ClearGrid();
@@ -174,7 +174,7 @@ TEST_F(ContextMenu, OfAColumnOffersMarkedRowsOnlyWhileThereAreMarks) {
 }
 
 TEST_F(ContextMenu, OfThePrimaryColumnIsNone) {
-    // No page shows this column: it is shown here so that there is a label to click on.
+    // No page shows this column. It is shown here to provide a label to click on.
     CurrentGrid()->SetColSize(PRIM, 60);
     EXPECT_EQ(MenuOfColumn(PRIM), Ids{});
     EXPECT_FALSE(CurrentGrid()->IsInSelection(1, PRIM));
@@ -208,7 +208,7 @@ TEST_F(ContextMenu, OfAScrolledGridBelongsToTheRowThatWasClicked) {
     }
 }
 
-// A departure: another column, often out of sight, would be set to defaults.
+// Intentional: otherwise another column, often out of sight, would be set to defaults.
 TEST_F(ContextMenu, OfAGridScrolledSidewaysBelongsToTheColumnThatWasClicked_Departure) {
     Retarget(Kdrv716B, 0);
     wxGrid* grid = CurrentGrid();

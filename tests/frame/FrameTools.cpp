@@ -18,7 +18,8 @@ namespace testbench {
 
 namespace {
 
-/// What the application does before it makes its window: without it the tools have no images.
+/// Registers the image handlers as the application does before it creates its window. Without them the tools
+/// have no images.
 class ImageHandlers : public ::testing::Environment {
     void SetUp() override { wxInitAllImageHandlers(); }
 };
@@ -53,7 +54,7 @@ Hands& Person() {
 void ClickButton(wxDialog* dialog, int id) {
     wxWindow* button = dialog->FindWindow(id);
     ASSERT_NE(button, nullptr) << "no button " << id;
-    // A click is lost on a dialog that doesn't stand yet, or on a button that is about to wake up.
+    // A click is lost on a dialog that isn't shown yet, or on a button that isn't ready yet.
     EXPECT_TRUE(PumpUntil([dialog] { return Person().FocusedTitle() == dialog->GetTitle().utf8_string(); }));
     PumpFor(30);
     Person().Click(MiddleOf(*button));

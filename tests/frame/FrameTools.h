@@ -1,4 +1,4 @@
-// Commands and selection dialogs of the main window, as a person uses them.
+// Commands and selection dialogs of the main window, as a user works with them.
 #pragma once
 
 #include "tests/support/Modals.h"
@@ -16,7 +16,7 @@ class wxGrid;
 
 namespace testbench {
 
-/// Style of a plain message box: OK and centred, and the icon that the toolkit adds where none is asked for.
+/// Style of a plain message box: OK and centred, plus the icon that the toolkit adds if none is requested.
 constexpr long plainBox = wxOK | wxCENTRE | wxICON_INFORMATION;
 
 /// Chooses an entry of the main window's menus.
@@ -25,20 +25,20 @@ void RunCommand(int id);
 /// Chooses the entry at this position and clicks OK once it can be pressed.
 void ChooseAndAccept(wxDialog* dialog, wxChoice* choice, int position);
 
-/// Clicks a button of a modal dialog. The dialog takes the click after this has returned: it can end in
-/// its own event loop only.
+/// Clicks a button of a modal dialog. The dialog handles the click after this returns, since it can end only
+/// in its own event loop.
 void ClickButton(wxDialog* dialog, int id);
 
-/// Presses Escape in a modal dialog, which takes it as it takes a click.
+/// Presses Escape in a modal dialog, which handles it like a click.
 void CancelWithKey(wxDialog* dialog);
 
-/// Waits until a window that was closed has been destroyed. False if that doesn't happen.
+/// Waits until a window that was closed has been destroyed. Returns false if that doesn't happen.
 bool IsGone(const wxWindowRef& window);
 
-/// Adds the radio dialog, in which the radio with this index is chosen.
+/// Expects the radio dialog and chooses the radio with this index.
 void ExpectRadio(DialogScript& dialogs, int radio);
 
-/// Adds the band dialog, in which the band at this position is chosen.
+/// Expects the band dialog and chooses the band at this position.
 void ExpectBand(DialogScript& dialogs, int slot);
 
 /// Adds a page through menu and dialogs. slot is for radios with several bands.

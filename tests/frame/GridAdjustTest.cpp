@@ -14,7 +14,7 @@ namespace {
 
 class Adjusting : public ZelkWindowTest {
 protected:
-    /// What a file for another radio does: new parameters first, then the grid.
+    /// Does what a file for another radio does: sets new parameters, then adjusts the grid.
     static void Adjust(int radio, int slot) {
         const PageParameterRecord before = CurrentParameters();
         SetPageParameters(MainFrame, CurrentPage, radio, slot);
@@ -121,7 +121,7 @@ TEST_F(Adjusting, LeavesNoHiddenColumnThatCanBeDraggedOpen) {
     ShowAndFocus(*MainFrame);
     int resized = 0;
     RunWithRobot([&resized](Robot& robot) {
-        // At both sides of each border between shown columns, where hidden ones lie.
+        // On both sides of each border between shown columns, where hidden ones are.
         for (int col : {SCAN, DESC, RFRQ, TFRQ, RONL}) {
             for (int side : {-2, 2}) {
                 const wxPoint border = robot.Ask([col, side] {
@@ -172,7 +172,7 @@ TEST_F(Adjusting, UpdatePageOfANewTargetBringsGridAndStatusUpToDate) {
     EXPECT_EQ(CurrentGrid()->GetNumberRows(), 101);
     EXPECT_EQ(MainFrame->m_statusBar->GetStatusText(1), "KDAR-2000");
 
-    // The band slot alone.
+    // Changes only the band slot.
     SetPageParameters(MainFrame, 0, Krv630, 0);
     UpdatePage(MainFrame, 0, Kdar2000, 0);
     SetPageParameters(MainFrame, 0, Krv630, 1);

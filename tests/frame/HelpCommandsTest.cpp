@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The guide beside this program, which has none before and after a test.
+/// The guide next to this program. It is absent before and after each test.
 class HelpFile : public ZelkWindowTest {
 protected:
     void SetUp() override {
@@ -35,7 +35,7 @@ protected:
         ZelkWindowTest::TearDown();
     }
 
-    /// The system's way to open a document only writes down which.
+    /// Replaces the system's command that opens a document by one that records its arguments.
     void PutOpenerIntoPlace() {
         const fs::path opener = m_folder / "xdg-open";
         WriteFile(opener, "#!/bin/sh\nprintf '%s' \"$*\" >'" + OpenedFile().string() + ".part'\nmv '" +

@@ -1,4 +1,4 @@
-// What menus, context menu and tool bar say.
+// Texts of menus, context menu and tool bar.
 #include "tests/support/ZelkWindowTest.h"
 
 #include "tests/support/Keys.h"

@@ -194,7 +194,7 @@ TEST_F(Pages, TitleKeepsTheFormerCountAfterADeleteUntilThePageChanges) {
 }
 
 TEST_F(Pages, CurrentOneAfterADeleteIsTheOneThatIsShown) {
-    // Each page of three in turn.
+    // Deletes each of three pages in turn.
     for (size_t deleted = 0; deleted < 3; ++deleted) {
         SCOPED_TRACE("page " + std::to_string(deleted));
         while (PageCount < 3)
@@ -237,7 +237,7 @@ TEST_F(Pages, MoveTheirZoneCountersAndOneMore) {
         int expected = 1000 + static_cast<int>(i);
         if (i < 64)
             expected += 32;
-        else if (i <= 96) // the freed page's 32 and the first of the page behind
+        else if (i <= 96) // the freed page's 32 and the first of the next page
             expected = 0;
         EXPECT_EQ(ZoneSlots[i], expected) << "entry " << i;
     }
@@ -318,7 +318,7 @@ TEST_F(Pages, ChangedByAClickOnTheTabWhileACellIsEditedKeepTheTextOnItsPage) {
     CurrentGrid()->SetFocus();
     TypeText("HALF");
     ASSERT_TRUE(CurrentGrid()->IsCellEditControlShown());
-    // Tabs stand in a row above the pages: somewhere in it is the second one's.
+    // Tabs are in a row above the pages; the second page's tab is somewhere in it.
     const wxPoint corner = PageGrid[0]->GetScreenPosition();
     for (int x = 20; x < 300 && CurrentPage == 0; x += 20)
         ClickAt(wxPoint(corner.x + x, corner.y - 20));

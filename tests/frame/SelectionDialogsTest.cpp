@@ -41,7 +41,7 @@ bool OkCanBePressed(wxDialog* dialog) {
     return dialog->FindWindow(wxID_OK)->IsEnabled();
 }
 
-/// The form that the three dialogs share.
+/// Checks the form that the three dialogs share.
 void ExpectForm(wxDialog* dialog, const wxString& label, const wxChoice* choice) {
     EXPECT_EQ(dialog->GetParent(), MainFrame);
     EXPECT_TRUE(dialog->HasFlag(wxCAPTION));
@@ -64,7 +64,7 @@ void ExpectForm(wxDialog* dialog, const wxString& label, const wxChoice* choice)
     ASSERT_NE(ok, nullptr);
     ASSERT_NE(cancel, nullptr);
     EXPECT_GT(ok->GetPosition().y, choice->GetPosition().y);
-    // Nothing is cut off.
+    // Nothing is clipped.
     const wxSize room = dialog->GetClientSize();
     for (const wxWindow* child : {ok, cancel, static_cast<wxWindow*>(const_cast<wxChoice*>(choice))}) {
         EXPECT_GE(child->GetRect().GetLeft(), 5);
@@ -81,13 +81,13 @@ protected:
         ShowAndFocus(*MainFrame);
     }
 
-    /// The target of the current page, as texts.
+    /// The target of the current page as texts.
     static Texts Target() {
         const PageStringRecord& texts = PageStrings[CurrentPage];
         return {texts.RadioName.utf8_string(), texts.BandName.utf8_string(), texts.FileName.utf8_string()};
     }
 
-    /// Makes the page one for the radio, as far as the dialogs look at it.
+    /// Makes the page look like one for the radio to the dialogs.
     static void PretendRadio(int radio) {
         SetPageParameters(MainFrame, CurrentPage, radio, 0);
         PageStrings[CurrentPage].FileName = "kept";
@@ -241,7 +241,7 @@ TEST_F(Selecting, CancelledInEitherDialogLeavesThePageUntouched) {
 TEST_F(Selecting, AnInvalidChoiceIsRefusedAndLeavesThePageUntouched) {
     PageStrings[0].FileName = "kept";
     DialogScript dialogs;
-    // These answers come without a choice, as no person can give them.
+    // No user can give these answers, because they come without a choice.
     dialogs.Expect(DialogKind::Other, radioTitle).Answer(wxID_OK);
     EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -12);
 
@@ -260,7 +260,7 @@ TEST_F(Selecting, AnInvalidChoiceIsRefusedAndLeavesThePageUntouched) {
 
 namespace {
 
-/// Goes from the choice to OK, which stands before or behind Cancel, and presses it.
+/// Moves from the choice to OK, which may be before or after Cancel, and presses it.
 void PressOk(Robot& robot, const wxChoice* choice) {
     robot.Settle();
     for (int tabs = 0; tabs < 3; ++tabs) {
@@ -312,12 +312,12 @@ TEST_F(Selecting, HasNoWindowManagersWayOut) {
 
 namespace {
 
-/// A port list that this test alone decides on.
+/// A port list under the test's sole control.
 class SelectingAPort : public Selecting {
 protected:
     void SetUp() override {
         Selecting::SetUp();
-        // Ports of this machine are held, so that they don't count as free.
+        // Locks this machine's own ports, so that they don't count as free.
         for (const wxString& port : ListSerialPorts()) {
             const int descriptor = ::open(port.utf8_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
             if (descriptor >= 0 && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
@@ -337,7 +337,7 @@ protected:
         return std::filesystem::path(wxStandardPaths::Get().GetUserDataDir().utf8_string()) / "ports";
     }
 
-    /// Puts a link to the pseudo-terminal where simulated radios put theirs; gives its full name.
+    /// Creates a link to the pseudo-terminal in the folder of simulated radios. Returns its full name.
     static wxString Offer(PseudoTerminal& port, const std::string& name) {
         port.HoldSlave();
         std::filesystem::create_directories(Folder());
@@ -391,7 +391,7 @@ TEST_F(SelectingAPort, StoresItAndShowsItInTheStatusBar) {
     EXPECT_EQ(StatusField(), names[1]);
     EXPECT_TRUE(PortList.empty());
 
-    // The next time it is chosen from the start.
+    // The next time, this port is preselected.
     ExpectPort(dialogs).Do([](wxDialog* dialog) {
         EXPECT_EQ(PortChoice->GetSelection(), 1);
         ChooseAndAccept(dialog, PortChoice, 0);

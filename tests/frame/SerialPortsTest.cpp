@@ -1,4 +1,4 @@
-// Which serial ports are offered, under which names, in which order.
+// The list of serial ports: which ones, their names and their order.
 #include "frame/SerialPorts.h"
 
 #include "robot/TempFolder.h"
@@ -22,7 +22,7 @@ using Names = std::vector<std::string>;
 
 constexpr uid_t kNobody = 65534;
 
-// A device folder of links to pseudo-terminals, and a folder for the user's links.
+// A device folder with links to pseudo-terminals, and a folder for the user's links.
 class SerialPortsTest : public ::testing::Test {
 protected:
     SerialPortsTest() {
@@ -47,7 +47,7 @@ protected:
     testbench::TempFolder m_folder;
 };
 
-// Works as a user without rights for as long as it lives; the superuser may open everything.
+// Drops the superuser's rights during its life, since the superuser may open everything.
 class WithoutRights {
 public:
     explicit WithoutRights(const PseudoTerminal& device) : m_name(device.SlaveName()) {

@@ -1,4 +1,4 @@
-// The window as it comes up.
+// The window at start-up.
 #include "tests/support/ZelkWindowTest.h"
 
 #include "tests/frame/FrameTools.h"
@@ -145,7 +145,7 @@ TEST_F(StartUp, KeepsThePanelOfThePageBuiltLast) {
 
 namespace {
 
-/// The end of a window with an unsaved row.
+/// Closes a window with an unsaved row.
 class Closing : public ZelkWindowTest {
 protected:
     void SetUp() override {

@@ -1,4 +1,4 @@
-// Another target for a page that holds data.
+// Change of the target of a page that holds data.
 #include "tests/support/ZelkWindowTest.h"
 
 #include "commands/CommandIds.h"
@@ -29,13 +29,13 @@ protected:
         ShowAndFocus(*MainFrame);
     }
 
-    /// Expects text in the cells of a row that hold no value to be checked, and in its description.
+    /// Expects text in the description and in the cells of a row that have no checked values.
     static void ExpectKept(int row, const std::string& text) {
         for (int col : {MFLG, DESC, SHD0, SHD1, SHD2, SHD3, SHD4, SHD5, SHD6, TFLG})
             EXPECT_EQ(Cell(row, col), text) << "row " << row << ", " << ColumnTag[col];
     }
 
-    /// Everything that the page holds, cell by cell.
+    /// All cells of the page.
     static std::vector<Texts> AllRows() {
         std::vector<Texts> rows;
         for (int row = 0; row < CurrentGrid()->GetNumberRows(); ++row)
@@ -47,7 +47,7 @@ protected:
         ASSERT_TRUE(OpenChannelFile(std::string(ZELK_EXAMPLES_DIR "/") + name + ".zelk"));
     }
 
-    /// Memories in the file that File > Save writes, the default row left out.
+    /// Number of memories in the file that File > Save writes, without the default row.
     static int MemoriesSaved() {
         const TempFolder folder;
         const std::string path = (folder / "saved.zelk").string();
@@ -140,7 +140,7 @@ TEST_F(ChangingTheTarget, FromKrv47ToKrv305KeepsTheGuards) {
     EXPECT_TRUE(IsLocked(122, {MNUM, SCAN, RTON, RCOD}));
 }
 
-// A departure: a number alone would make a row of the blank one that is never saved.
+// Intentional: a number alone would make the blank row a row that is never saved.
 TEST_F(ChangingTheTarget, WithOneUsedGuardLeavesTheBlankOneBlank_Departure) {
     FillRow(CurrentGrid(), 122, "SECOND");
     ChangeTarget(Krv305);
@@ -249,7 +249,7 @@ TEST_F(ChangingTheTarget, WritesTheDefaultRowOfTheNewTarget) {
     EXPECT_TRUE(CurrentGrid()->IsReadOnly(0, MNUM));
 }
 
-// A departure: the first memory would be lost.
+// Intentional: otherwise the first memory would be lost.
 TEST_F(ChangingTheTarget, ToAP25RadioFillsOnlyBlankStartingRows_Departure) {
     FillRow(CurrentGrid(), 1, "one");
     FillRow(CurrentGrid(), 2, "two");
@@ -330,12 +330,12 @@ TEST_F(ChangingTheTarget, ToTheSameP25RadioKeepsTheFirstMemory_Departure) {
     const Texts first = RowTexts(1);
     ChangeTarget(Kdrv716);
     Texts kept = RowTexts(1);
-    kept[TFLG] = first[TFLG]; // the check has given the row its zone slot
+    kept[TFLG] = first[TFLG]; // the check has set the row's zone slot
     EXPECT_EQ(kept, first);
     EXPECT_EQ(MemoriesSaved(), 40);
 }
 
-// A departure: without a squelch value every memory would be incomplete and left out of the file.
+// Intentional: without a squelch value every memory would be incomplete and left out of the file.
 TEST_F(ChangingTheTarget, ToTheSecondP25GenerationSavesEveryMemory_Departure) {
     OpenExample("kdrv-716-p25");
     ASSERT_EQ(MemoriesSaved(), 40);
@@ -405,7 +405,7 @@ TEST_F(ChangingTheTarget, BetweenP25RadiosKeepsTheLocksOfLinkedRows) {
     EXPECT_TRUE(IsLocked(3, {MNUM, SHAD, SCAN, ZONE, RFRQ, TFRQ}));
 }
 
-// A departure: its number is above the smaller page's rows, and without one it would not be saved.
+// Intentional: its number exceeds the smaller page's rows, and without a number it would not be saved.
 TEST_F(ChangingTheTarget, ToASmallerGridGivesTheLastRowItsNewNumber_Departure) {
     Retarget(Krv650, 1);
     FillRowsFromDefault({7, 150, 200});
@@ -449,7 +449,7 @@ TEST_F(ChangingTheTarget, TellsHowManyCellsWereReplacedAndTheFirstRow) {
 TEST_F(ChangingTheTarget, CountsTheCellsThatItFills) {
     OpenExample("kdrv-716-p25");
     ChangeTarget(Kdrv716B);
-    // The squelch values of the memories and the guards.
+    // The squelch values of the memories and guards.
     EXPECT_EQ(Status(), "40 cells replaced from row 1");
 }
 
@@ -467,7 +467,7 @@ TEST_F(ChangingTheTarget, TellsOfMemoriesThatFindNoRow) {
                "2 rows found no place in the smaller page; 1 cell was replaced: row 102 Chan");
 }
 
-// A departure: on the default row's band the frequencies could not stand.
+// Intentional: on the default row's band the frequencies would be invalid.
 TEST_F(ChangingTheTarget, ToTheModulePutsRowsOnTheBandOfTheirFrequency_Departure) {
     OpenExample("krv-620-milair");
     const wxString frequency = Cell(1, RFRQ);

@@ -1,4 +1,4 @@
-// Every target changed to every other one, with random memories: none is lost on the way into the file.
+// Changes from every target to every other one, with random memories. None may be missing in the saved file.
 #include "tests/support/ZelkWindowTest.h"
 
 #include "catalogue/TextNumbers.h"
@@ -29,7 +29,7 @@ struct Target {
     int Type() const { return GetRadioType(radio, Band()); }
     int Rows() const { return RadioRows[radio][slot]; }
     std::string Name() const { return std::string(RadioName[radio]) + " " + BandName[Band()]; }
-    /// The bands that its rows can be of.
+    /// The bands that its rows can have.
     std::vector<int> RowBands() const {
         return Type() == MDLX ? std::vector<int>{0, 2, 6} : std::vector<int>{Band()};
     }
@@ -46,7 +46,7 @@ const std::vector<Target>& AllTargets() {
     return targets;
 }
 
-/// Whole megahertz that both bands hold, the upper one excluded, and the two bands.
+/// A range of whole megahertz in both bands, without the upper limit, and the two bands.
 struct SharedRange {
     int low = 0, high = 0, fromBand = 0, toBand = 0;
 };
@@ -63,10 +63,10 @@ std::vector<SharedRange> RangesOf(const Target& from, const Target& to) {
     return ranges;
 }
 
-/// What the test remembers of a memory that it has made.
+/// The test's record of a memory that it has made.
 struct Memory {
     wxString frequency, description;
-    bool mayBeLost = false; ///< incomplete, or with a number that can't stand and no other to take
+    bool mayBeLost = false; ///< incomplete, or with an invalid number and no other to take
 };
 
 class EveryTargetToEvery : public ZelkWindowTest {
@@ -123,13 +123,13 @@ private:
                 .Answer(wxID_OK);
         wxMenu* menu = nullptr;
         ASSERT_NE(MainFrame->m_menuBar->FindItem(IdSetTarget, &menu), nullptr);
-        menu->SendEvent(IdSetTarget); // thousands of changes don't wait for what the window draws
+        menu->SendEvent(IdSetTarget); // thousands of changes don't wait for the window to redraw
     }
 
-    /// A row that stays where it is when the page takes the other target.
+    /// A row that keeps its place when the page takes the other target.
     int PickRow(const Target& from, const Target& to) {
         const int from2 = from.Rows() - (from.Rows() % 10 == 2 ? 2 : 0);
-        // The last row of the smaller page is taken by the last of the larger one, or by guards.
+        // The last row of the smaller page is replaced by the last row of the larger one, or by guards.
         return m_dice.Between(1, std::min(from2, to.Rows() - 3));
     }
 
@@ -175,7 +175,7 @@ private:
             SetCell(row, DESC, memory.description);
         PickOthers(from.Type(), row);
         if (m_dice.Chance(50))
-            // As a check or a file leaves a row.
+            // Clears the hidden cells, as a check or a file does.
             for (int col = 0; col < ColumnTotal; ++col)
                 if (ColumnWidth[from.Type()][col] == 0 && col != TFLG)
                     SetCell(row, col, "");
@@ -195,7 +195,7 @@ private:
         return step == 8333 ? text.Left(text.length() - 1) : step == 1250 ? text + "0" : text;
     }
 
-    /// Random values for cells that the type shows.
+    /// Sets random values in cells that the type shows.
     void PickOthers(int type, int row) {
         if (IsP25Type(type)) {
             SetCell(row, MODE, m_dice.Pick(P25Modes));
@@ -220,8 +220,8 @@ private:
         }
     }
 
-    /// Numbers that the new page can't have, two rows that have each other's, and memories that a save leaves
-    /// out.
+    /// Sets numbers that the new page can't have, swaps the numbers of two rows, and makes memories that a
+    /// save leaves out.
     void GiveOddNumbers(const Target& from, const Target& to) {
         auto next = m_memories.begin();
         if (from.Rows() > to.Rows() + 3 && next != m_memories.end())
@@ -256,7 +256,7 @@ private:
         }
     }
 
-    /// Every row with data is in the file, or the save tells that it isn't.
+    /// Expects every row with data in the file, unless the save reports that it was left out.
     void ExpectSaved() {
         wxXmlDocument document;
         const std::vector<int> leftOut = BuildChannelFile(CurrentPage, document);

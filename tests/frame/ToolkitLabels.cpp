@@ -4,8 +4,8 @@
 
 #include <stdexcept>
 
-// The program is linked with GTK through wxWidgets, but GTK's headers are a package of their own: the few
-// functions that are needed are looked up by their names.
+// The program is linked with GTK through wxWidgets, but GTK's headers are a separate package. So the few
+// functions needed are looked up by name.
 
 namespace testbench {
 

@@ -1,4 +1,4 @@
-// Texts in windows that the desktop toolkit builds by itself.
+// Texts in windows that the desktop toolkit builds itself.
 #pragma once
 
 #include <string>
@@ -6,8 +6,8 @@
 
 namespace testbench {
 
-/// The texts, in UTF-8, of all labels that can be seen in open windows of this GTK class ("GtkAboutDialog").
-/// To be called in the window thread.
+/// The texts, in UTF-8, of all visible labels in open windows of this GTK class ("GtkAboutDialog"). Call only
+/// from the window thread.
 std::vector<std::string> ShownLabels(const std::string& windowClass);
 
 } // namespace testbench

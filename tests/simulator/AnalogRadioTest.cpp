@@ -11,7 +11,7 @@ using namespace testbench;
 using namespace Simulator;
 using namespace std::chrono_literals;
 
-/// Writes down what the radio says.
+/// Records what the radio says.
 class RecordingLink : public RadioLink {
 public:
     void BeginTransfer() override { ++m_begun; }
@@ -49,7 +49,7 @@ public:
         return *FindAnalogModel(name, band, trouble);
     }
 
-    /// What the radio says to these bytes.
+    /// Returns what the radio says to these bytes.
     std::string Tell(std::string_view bytes) {
         for (char c : bytes)
             m_radio.Hear(static_cast<std::uint8_t>(c));

@@ -1,4 +1,4 @@
-// A digital radio on the table: what it is told, what it answers, time being no object.
+// A digital radio on the table: what it is sent and what it answers, without waiting for real time.
 #pragma once
 
 #include "simulator/FaultyLink.h"
@@ -13,7 +13,7 @@
 
 namespace digitaltest {
 
-// Lines of the dialogue as they stand on the wire, without their ends.
+// Lines of the dialogue as they are sent, without their ends.
 constexpr char Hello0[] = "T007000020030000D5";
 constexpr char Hello1[] = "T007000021030000D4";
 constexpr char Hello2[] = "T007000022030000D3";
@@ -33,7 +33,7 @@ constexpr char ReadModes[] = "T204000033C8";
 constexpr char SendConfig[] = "T204000034C7";
 constexpr char TakeConfig[] = "T204000035C6";
 
-/// A body with its checksum: the complement of the sum of all bytes behind letter and type.
+/// A body with its checksum: the complement of the sum of all bytes after letter and type.
 inline std::string Framed(const std::string& body) {
     unsigned sum = 0;
     for (std::size_t k = 2; k + 1 < body.size(); k += 2)
@@ -43,7 +43,7 @@ inline std::string Framed(const std::string& body) {
     return body + text;
 }
 
-/// Digits of a number, and of a text.
+/// Hexadecimal digits of a number, and of a text.
 inline std::string Digits(unsigned value, int count) {
     char text[16];
     std::snprintf(text, sizeof text, "%0*X", count, value);
@@ -56,13 +56,13 @@ inline std::string TextDigits(std::string_view text) {
     return digits;
 }
 
-/// The body with other characters at a position.
+/// The body with text at a position.
 inline std::string With(std::string body, std::size_t position, std::string_view text) {
     return body.replace(position, text.size(), text);
 }
 
-/// A plain memory of each layout, without its checksum: its number in all its places, 136.0000 and 174.0000
-/// MHz. Numbers from 231 are guards in V1.
+/// A plain memory of each layout without its checksum: its number in all places, 136.0000 and 174.0000 MHz.
+/// Numbers from 231 are guards in V1.
 inline std::string PlainV1(unsigned number, std::string_view name = "PLAIN   ") {
     return "T143" + Digits(number, 4) + (number > 230 ? "80" : "00") + Digits(number, 2) + Digits(number, 2) +
            "00" + TextDigits(name) + "206E" + TextDigits("136.0000") + "5278" + "0001" + "01" + "00" +
@@ -95,12 +95,12 @@ public:
     Simulator::FaultyLink& Link() { return *m_link; }
     int Completed() const { return m_outlet.Completed(); }
     bool Vanished() const { return m_vanished; }
-    /// Time that the last answer took in pauses.
+    /// Duration of the last answer's pauses.
     std::chrono::milliseconds Took() const { return m_took; }
-    /// The speed at which the other side speaks from now on.
+    /// Sets the speed of the other side from now on.
     void SetSpeed(int baud) { m_baud = baud; }
 
-    /// The answer to these bytes, line ends as '|'.
+    /// Returns the answer to these bytes, with line ends as '|'.
     std::string Raw(std::string_view bytes) {
         for (char c : bytes) {
             if (m_link->IsDead())
@@ -124,10 +124,10 @@ public:
                 c = '|';
         return all;
     }
-    /// The answer to a line.
+    /// Returns the answer to a line.
     std::string Tell(const std::string& line) { return Raw(line + "\r"); }
 
-    /// Opens a dialogue of the radio's protocol, speed change included.
+    /// Opens a dialogue of the radio's protocol, including the speed change.
     void Open() {
         SetSpeed(9600);
         const int protocol = m_options.digital.habits.protocol;
@@ -138,12 +138,12 @@ public:
         ASSERT_EQ(Tell(ChangeSpeed), std::string(Ack) + "|");
         SetSpeed(115200);
     }
-    /// Opens one and begins to write.
+    /// Opens a dialogue and starts a write.
     void OpenWrite() {
         Open();
         ASSERT_EQ(Tell(TakeMemories), std::string(Ack) + "|");
     }
-    /// Opens one, reads until the radio says nothing more or ends the list, and gives what it said.
+    /// Opens a dialogue and reads until the radio is silent or ends the list. Returns what it said.
     std::string ReadAll() {
         Open();
         EXPECT_EQ(Tell(SendMemories), std::string(Ack) + "|");

@@ -1,4 +1,4 @@
-// Every fault, on writing and on reading, as the other side meets it.
+// All faults on writing and reading, as the other side sees them.
 #include "tests/simulator/DigitalBench.h"
 
 namespace {
@@ -25,7 +25,7 @@ public:
     explicit Faulty(const std::string& fault, std::vector<std::string> more = {})
         : Bench(Arguments(fault, std::move(more))) {}
 
-    /// Writes memories 1 to 3 and gives the answers to them.
+    /// Writes memories 1 to 3 and returns the answers.
     std::vector<std::string> Write() {
         OpenWrite();
         std::vector<std::string> answers;
@@ -33,7 +33,7 @@ public:
             answers.push_back(Tell(Record(number)));
         return answers;
     }
-    /// Puts memories 1 to 3 in, opens a dialogue and begins to read.
+    /// Writes memories 1 to 3, then opens a dialogue and starts a read.
     void OpenRead() {
         OpenWrite();
         for (unsigned number = 1; number <= 3; ++number)

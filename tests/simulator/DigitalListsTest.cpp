@@ -1,4 +1,4 @@
-// Hardware, configuration and debug log: their files and how they travel.
+// Hardware, configuration and debug log: their files and their transfer.
 #include "simulator/DigitalLists.h"
 
 #include "tests/simulator/DigitalBench.h"
@@ -17,7 +17,7 @@ std::string File(const TempFolder& folder, const std::string& text) {
     return folder / "list";
 }
 
-/// What the radio says to acknowledgements until it ends its list.
+/// Returns what the radio says to acknowledgements until it ends its list.
 std::string Rest(Bench& bench) {
     std::string all;
     for (int k = 0; k < 300 && !all.ends_with(Said(End)); ++k)

@@ -166,7 +166,7 @@ TEST(MemoryRecord, OfOneLayoutTellsTheSameInTheOther) {
             << number;
 }
 
-// Everything that a program may send although it looks odd.
+// Odd values that a program may send.
 TEST(MemoryRecordV1, TakesEveryOddValueThatIsAllowed) {
     const struct {
         const char* what;

@@ -1,4 +1,4 @@
-// The program as a whole, played as a digital radio over its port.
+// The complete program as a digital radio, tested over its port.
 #include "tests/simulator/DigitalBench.h"
 #include "tests/simulator/PortClient.h"
 
@@ -13,7 +13,7 @@ using namespace testbench;
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-/// The answer to a line, without its carriage return.
+/// Returns the answer to a line, without its carriage return.
 std::string Ask(PortClient& client, const std::string& line) {
     client.Send(line + "\r");
     std::string answer = client.ReadUntil("\r", 3s);
@@ -22,7 +22,7 @@ std::string Ask(PortClient& client, const std::string& line) {
     return answer;
 }
 
-/// Opens a dialogue of protocol 2 with its change of speed.
+/// Opens a dialogue of protocol 2, including the speed change.
 void Open(PortClient& client) {
     ASSERT_EQ(Ask(client, Hello2), Ack);
     ASSERT_EQ(Ask(client, ChangeSpeed), Ack);
@@ -98,7 +98,7 @@ TEST(DigitalPort, AfterACloseListensAt9600Again) {
     EXPECT_EQ(radio.Terminate(), 0) << radio.Output();
 }
 
-// The radio is stopped meanwhile, so that it finds the old user's last bytes and the new one's first
+// The radio is stopped meanwhile, so that it receives the old user's last bytes and the new user's first ones
 // together.
 TEST(DigitalPort, TellsAUserWhoBrokeOffFromTheNextOne) {
     for (bool polite : {false, true}) {
@@ -135,7 +135,7 @@ TEST(DigitalPort, OnceEndsAfterAWriteWhoseWriterClosesAtOnce) {
     EXPECT_NE(ReadFile(folder / "m").find(Framed(PlainV2(502))), std::string::npos);
 }
 
-// Nothing is faster than its line: 10 bits a byte. How much slower a busy machine makes it says nothing.
+// No transfer is faster than its line, at 10 bits a byte. A busy machine may slow it down by any amount.
 TEST(DigitalPort, PacesBothSpeeds) {
     const TempFolder folder;
     RadioInFolder radio(folder, {"--model", "KDRV-716B", "--pace"});

@@ -1,4 +1,4 @@
-// Whatever a program has no business to send.
+// Everything that a program must not send.
 #include "tests/simulator/DigitalBench.h"
 
 namespace {
@@ -10,7 +10,7 @@ struct Bad {
     const char* what;
     std::size_t position;
     const char* text;
-    int told = -1; ///< position that the radio names; the field's own without it
+    int told = -1; ///< position that the radio reports; without it, the field's own
 };
 
 constexpr Bad BadV1[] = {
@@ -84,7 +84,7 @@ constexpr Bad BadV2[] = {
     {"last reserved field", 132, "0001", 128},
 };
 
-/// The record is refused with the field's position, and a radio answers NAK, counts it and stores nothing.
+/// Expects a refusal at the field's position; the radio answers NAK, counts it and stores nothing.
 void ExpectRefused(Bench& bench, Layout layout, const DigitalModel& model, const Bad& bad,
                    const std::string& body) {
     std::string trouble;

@@ -12,7 +12,7 @@ constexpr TimePoint Start{1h};
 constexpr char Ack[] = "\x05";
 const std::string Noise("\x00\xFF\x80\x1B\xFE\x7F\x00\xF5", 8);
 
-/// A link with one fault, and what comes out of it when time is no object.
+/// A link with one fault, and its output without waiting for real time.
 class Bench {
 public:
     explicit Bench(const char* fault) {

@@ -11,14 +11,14 @@
 #include <string_view>
 #include <vector>
 
-/// zelk-radio with its ports in a folder of the test.
+/// zelk-radio with its ports in the test's folder.
 class RadioInFolder : public testbench::RadioProcess {
 public:
     /// Starts it with `arguments` and a --ports-dir of `folder`/ports.
     RadioInFolder(const testbench::TempFolder& folder, std::vector<std::string> arguments);
 };
 
-/// The other side of the port, opened raw at a speed, without any protocol.
+/// The other side of the port, opened raw at a given speed, without any protocol.
 class PortClient {
 public:
     explicit PortClient(const std::string& port, int baud = 9600);
@@ -30,11 +30,11 @@ public:
     /// Changes the speed of the open port, 9600 or 115200 baud.
     void SetSpeed(int baud);
     void Send(std::string_view bytes);
-    /// Everything that arrives until `quiet` has passed without a byte.
+    /// Everything that arrives until no byte came for `quiet`.
     std::string ReadUntilQuiet(std::chrono::milliseconds quiet);
-    /// Everything that arrives until it ends in `end`, or `patience` is over.
+    /// Everything that arrives until it ends in `end` or `patience` is over.
     std::string ReadUntil(std::string_view end, std::chrono::milliseconds patience = std::chrono::seconds(5));
-    /// True once the device has gone; waits up to `patience` for that.
+    /// True once the device has disappeared; waits up to `patience` for that.
     bool HasVanished(std::chrono::milliseconds patience);
     void Close();
 
@@ -46,9 +46,9 @@ private:
 
 /// Waits until the file holds the text.
 bool WaitForFileText(const std::string& path, std::string_view text);
-/// How often `part` stands in `text`.
+/// Number of occurrences of `part` in `text`.
 int CountOf(std::string_view text, std::string_view part);
 /// A good memory line of the band FM 138-174, without its end.
 std::string VhfLine(const std::string& number, const std::string& description = "TOWER1   ");
-/// The end line as a program sends it, with its carriage return.
+/// The end line with its carriage return, as a program sends it.
 std::string EndLine(const std::string& word);

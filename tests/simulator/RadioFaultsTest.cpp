@@ -1,4 +1,4 @@
-// Faults as the other side of the port meets them.
+// Faults as the other side of the port sees them.
 #include "tests/simulator/PortClient.h"
 
 #include <csignal>
@@ -40,7 +40,7 @@ protected:
         return m_client->ReadUntilQuiet(200ms);
     }
 
-    /// The log tells of the fault.
+    /// True if the log reports the fault.
     bool IsLogged(const std::string& fault) {
         return WaitForFileText(m_folder / "log", " ! " + fault + "\n");
     }

@@ -1,4 +1,4 @@
-// The program as a whole, spoken to over its port.
+// The complete program, tested over its port.
 #include "tests/simulator/PortClient.h"
 
 #include <csignal>
@@ -29,7 +29,7 @@ std::string FileOf(const TempFolder& folder, const std::string& lines) {
     return folder / "radio.txt";
 }
 
-/// Sends a line and tells whether it was acknowledged.
+/// Sends a line and returns whether it was acknowledged.
 bool IsTaken(PortClient& client, const std::string& line) {
     client.Send(line + "\r");
     return client.ReadUntil(Ack, 3s) == Ack;
@@ -100,7 +100,7 @@ TEST(RadioPort, LosesNothingOfAUserWhoComesAfterACompletedTransfer) {
         ASSERT_TRUE(IsTaken(writer, VhfLine("001"))) << k;
         writer.Send(EndLine("300"));
         writer.Close();
-        // What comes before the radio has noticed that its user went may go with him.
+        // Data that arrive before the radio notices that its former user has gone may be lost.
         const auto deadline = Clock::now() + 5s;
         while (CountOf(ReadFileIfAny(log), "- port closed") < 2 * k + 1 && Clock::now() < deadline)
             std::this_thread::sleep_for(1ms);
@@ -138,8 +138,7 @@ TEST(RadioPort, ForgetsHalfACommandWhenItsUserGoes) {
     EXPECT_TRUE(IsTaken(next, VhfLine("001")));
 }
 
-/// What is set on the port when it is opened, after which it gets the settings of a terminal at another
-/// speed.
+/// Returns the port's settings on opening, then leaves it with those of a terminal at another speed.
 termios SettingsThenSpoilt(const std::string& port) {
     const int opened = open(port.c_str(), O_RDWR | O_NOCTTY);
     termios line{};

@@ -1,4 +1,4 @@
-// Information and configuration of an analog radio: what no command of the window starts.
+// Information and configuration of an analog radio, which no command of the window starts.
 #include "tests/transfer/AnalogDriverTest.h"
 #include "transfer/RadioIdentity.h"
 
@@ -7,7 +7,7 @@ using namespace transfertest;
 
 namespace {
 
-// "CR" and the line's number, then fields of which the third to the sixth add up to 255.
+// "CR" and the line's number, then fields. The third to the sixth add up to 255.
 const std::string Config0 = "CR00:x:01:02:03:F9";
 const std::string Config1 = "CR01:x:FF:::";
 const std::string BadConfig = "CR02:x:01:02:03:F8";
@@ -24,7 +24,7 @@ protected:
     }
 };
 
-/// Answers the query for the information block and takes the opening with its command.
+/// Answers the query for the information block, then receives the opening command.
 void AnswerOpening(RadioPeer& radio, const std::string& block = "A1.23:SN42:150:3:abc:def\r") {
     radio.HearLine();
     radio.Say(block);

@@ -1,4 +1,4 @@
-// The analog driver against a radio that the test plays.
+// Analog driver tests in which the test plays the radio.
 #pragma once
 
 #include "tests/transfer/ProgressWatch.h"
@@ -15,7 +15,7 @@ namespace transfertest {
 
 class AnalogDriverTest : public TransferTest {
 protected:
-    /// One transfer; also sees to what every transfer must leave.
+    /// Runs one transfer and checks what every transfer must leave.
     int Transfer(int mode, const std::string& port) {
         const auto start = std::chrono::steady_clock::now();
         const int status = AnalogProtocol::TransferData(m_context, CurrentGrid(), mode, port, "Test");
@@ -27,7 +27,7 @@ protected:
         return status;
     }
 
-    /// A transfer with a peer that stays plugged in: its port must be free afterwards.
+    /// Runs a transfer with a peer that stays plugged in. Its port must be free afterwards.
     int Transfer(int mode, RadioPeer& peer) {
         const int status = Transfer(mode, peer.PortName());
         peer.Finish();
@@ -35,7 +35,7 @@ protected:
         return status;
     }
 
-    /// Gives the module's page, of 500 rows, the radio that is asked for its information block.
+    /// Sets the module's page, of 500 rows, to the radio that is asked for its information block.
     static void UseAskingRadio(int rows) {
         Retarget(Kdrv4xxx, ModuleSlot);
         CurrentParameters().Radio = AskingRadio;
@@ -49,7 +49,7 @@ protected:
         TransferTest::TearDown();
     }
 
-    // From the peer's thread, which may come when the transfer is over.
+    // Called from the peer's thread, possibly after the end of the transfer.
     void Cancel() { m_watch.Cancel(); }
     int GaugeValue(int atLeast) { return m_watch.GaugeValue(atLeast); }
     int GaugeRange() { return m_watch.GaugeRange(); }

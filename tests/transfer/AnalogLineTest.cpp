@@ -186,7 +186,7 @@ TEST_F(ScanText, CountsADigitOnlyAtItsPlace) {
 }
 
 TEST_F(ToneText, IsThePositionInTheListForEachTone) {
-    // By position; what is no tone goes out as 64.
+    // By position. A text that isn't a tone goes out as 64.
     const char* const tones[] = {
         "OFF",   "67.0",  "71.9",  "74.4",  "77.0",  "79.7",  "82.5",  "85.4",  "88.5",  "91.5",  "94.8",
         "97.4",  "100.0", "103.5", "107.2", "110.9", "114.8", "118.8", "123.0", "127.3", "131.8", "136.5",

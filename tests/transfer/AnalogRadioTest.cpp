@@ -1,4 +1,4 @@
-// Whole transfers between the window and simulated analog radios.
+// Complete transfers between the window and simulated analog radios.
 #include "tests/transfer/ProgressWatch.h"
 #include "tests/transfer/RadioUnderTest.h"
 #include "tests/transfer/TransferTest.h"
@@ -15,13 +15,13 @@ namespace {
 constexpr const char* TimeoutBox = "Timeout Error\nVerify Radio is in PC Download mode\n"
                                    "and correct COM port is selected";
 
-/// A memory line as it is sent and stored, without its end.
+/// A memory line without its end, as it is sent and stored.
 std::string MemoryLine(const std::string& number, const std::string& frequency,
                        const std::string& tail = "TX CTCSS: 01RX 63TX DPL: 023RX 754TX 1_3__W") {
     return number + " HILL      " + frequency + "RX " + frequency + tail;
 }
 
-/// How a command is expected to end: the driver's box, if any, and the status box.
+/// Expected end of a command: the driver's box, if any, and the status box.
 struct Ending {
     const char* status;
     const char* driverBox = nullptr;
@@ -179,7 +179,7 @@ TEST_F(AnalogRadio, OfSixChannelsIsRead) {
 
 TEST_F(AnalogRadio, OfThreeBandsGetsAndGivesItsChannels) {
     Retarget(Kdrv4xxx, ModuleSlot);
-    // The module's airband knows neither tones nor codes, its upper AM band no codes.
+    // On the module, airband has no tones and no codes, the upper AM band has no codes.
     struct ModuleChannel {
         const char *frequency, *band, *tone, *code;
     };
@@ -218,13 +218,13 @@ TEST_F(AnalogRadio, ThatStopsWithoutEndLineBehindItsLastRowIsComplete) {
 
 namespace {
 
-/// A radio at fault, what it leaves of a transfer of three rows, and how that ends.
+/// A fault of the radio, what it leaves of a transfer of three rows, and how that transfer ends.
 struct FaultCase {
     const char* name;
     std::vector<std::string> options;
     Ending ending;
-    std::vector<std::string> memories; ///< of a write: what the radio then holds
-    std::vector<int> rows;             ///< of a read: what the page then holds
+    std::vector<std::string> memories; ///< of a write: the radio's memories afterwards
+    std::vector<int> rows;             ///< of a read: the page's rows afterwards
     bool portRemains = true;
 };
 
@@ -272,7 +272,7 @@ protected:
 } // namespace
 
 TEST_F(AnalogRadioFault, SilenceInAWriteTimesOut) {
-    // The row at which it fell silent never reached it.
+    // The row at which the radio fell silent never reached it.
     SendThreeRows({"silence", {"--fault", "silence@2"}, Timeout, {"001"}, {}});
 }
 
@@ -338,7 +338,7 @@ TEST_F(AnalogRadioFault, APulledPlugInAReadTimesOutAndKeepsWhatCame) {
     std::string memories;
     for (const char* number : {"001", "002", "003"})
         memories += MemoryLine(number, "138.0000") + "\n";
-    // At the speed of a real line, so that the first row is through before the third is due.
+    // At the speed of a real line, so that the first row is sent before the third is due.
     RadioUnderTest radio("KDRV-4xxx:FM 138-174", {"--pace", "--fault", "unplug@3"}, memories);
     Read(radio, Timeout);
     EXPECT_EQ(CellText(1, RFRQ), "138.0000");
@@ -354,7 +354,7 @@ TEST_F(AnalogRadioFault, CancelInAWriteLeavesTheRadioWithTheRowsBefore) {
     RadioUnderTest radio("KDRV-4xxx:FM 138-174", {"--fault", "no-ack@2"});
     ProgressWatch progress;
     std::thread user([&] {
-        // The second row is stored, and its acknowledgement is being waited for.
+        // The radio has stored the second row, and the program waits for the acknowledgement.
         radio.AwaitInLog("! no-ack@2");
         progress.Cancel();
     });

@@ -1,4 +1,4 @@
-// Channels from an analog radio.
+// Reading channels from an analog radio.
 #include "tests/transfer/AnalogDriverTest.h"
 
 using namespace testbench;
@@ -17,7 +17,7 @@ protected:
     }
 };
 
-/// Takes the opening command and sends a text.
+/// A script that receives the opening command and sends a text.
 std::function<void(RadioPeer&)> Sending(const std::string& text) {
     return [text](RadioPeer& radio) {
         radio.HearLine();

@@ -16,7 +16,7 @@ std::string Text(const wxString& text) {
 
 class AnalogRecord : public ZelkWindowTest {
 protected:
-    /// Row 1 to 9 of a low band FM page, or a guard, as a person would fill it.
+    /// Fills row 1 to 9 of a low band FM page, or a guard, as a user would.
     static void FillRow(int row, const wxString& number) {
         const std::pair<int, wxString> cells[] = {
             {MNUM, number}, {SCAN, "5"},    {DESC, "HILL 4"}, {MODE, "W"},   {RFRQ, "66.025"}, {RTON, "67.0"},
@@ -44,7 +44,7 @@ protected:
         return all;
     }
 
-    /// A default row that no line says.
+    /// Fills the default row with texts that no line of the tests contains.
     static void FillDefaults() {
         const std::pair<int, const char*> cells[] = {{RFRQ, "87.5000"}, {TFRQ, "86.5000"}, {RTON, "71.9"},
                                                      {TTON, "74.4"},    {RCOD, "031"},     {TCOD, "032"}};
@@ -56,14 +56,14 @@ protected:
         return CurrentGrid()->GetCellBackgroundColour(row, column) == FailColour;
     }
 
-    /// A cell of a row that was read, and whether the line had it.
+    /// A cell of a row that was read, and whether the line contained it.
     struct CutCell {
         int column;
         const char* text;
         bool came;
     };
 
-    /// Reads a line of memory 1 into an empty row and looks at each cell that a line can tell.
+    /// Reads a line of memory 1 into an empty row and checks each cell that a line can fill.
     void CheckCut(const wxString& line, std::initializer_list<CutCell> cells) {
         for (int column = 0; column < ColumnTotal; ++column) {
             SetCell(1, column, "");
@@ -98,7 +98,7 @@ const wxString Sent = "001 HILL 4    066.0250RX 070.5000TX CTCSS: 01RX 63TX DPL:
 const wxString Narrow = "001 HILL 4    066.0250RX 070.5000TX CTCSS: 01RX 63TX DPL: 023RX 754TX 1_3__N";
 const wxString ShortNarrow = "001 HILL 4    066.0250RX 070.5000TX CTCSS: 12TX DPL: 025TX 1_3__N";
 
-/// Sent, with another text from a position on.
+/// Sent, with its text from a position on replaced.
 wxString With(size_t position, const wxString& text) {
     wxString line = Sent;
     return line.replace(position, text.length(), text);
@@ -296,7 +296,7 @@ TEST_F(AnalogRecord, CutBehindAnyCharacterGetsDefaultTextsPaintedForWhatDidNotCo
 
 TEST_F(AnalogRecord, OfTheShortFormCutBehindAnyCharacterGetsDefaultTextsPaintedForWhatDidNotCome) {
     FillDefaults();
-    // Up to here nothing tells the short form from the long one, whose first tone is the receive tone.
+    // Up to this length the short form looks like the long one, whose first tone is the receive tone.
     for (size_t length = 4; length <= 45; ++length)
         CheckCut(ShortNarrow.Left(length), {{RFRQ, "66.0250", length >= 22},
                                             {TFRQ, "70.5000", length >= 33},
@@ -318,7 +318,7 @@ TEST_F(AnalogRecord, OfAModuleCutBehindAnyCharacterHasTheBandOfAWholeReceiveFreq
     FillDefaults();
     SetCell(0, BAND, "AM 225-400");
     for (size_t length = 4; length <= Narrow.length(); ++length)
-        // The transmit tone alone says that there are no codes.
+        // The transmit tone alone shows that there are no codes.
         CheckCut(Narrow.Left(length), {{BAND, "FM 66-88", length >= 22},
                                        {RFRQ, "66.0250", length >= 22},
                                        {TFRQ, "70.5000", length >= 33},

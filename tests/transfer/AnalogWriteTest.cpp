@@ -1,4 +1,4 @@
-// Channels to an analog radio, byte by byte.
+// Writing channels to an analog radio, byte by byte.
 #include "robot/Hands.h"
 #include "tests/transfer/AnalogDriverTest.h"
 #include "tests/transfer/CancelSpot.h"
@@ -23,7 +23,7 @@ protected:
 
 using AnalogOpening = AnalogWrite;
 
-/// Takes the opening command and acknowledges lines until the end line.
+/// Receives the opening command and acknowledges lines until the end line.
 void TakeChannels(RadioPeer& peer) {
     peer.HearLine();
     for (std::string line = peer.HearLine(); !line.empty(); line = peer.HearLine()) {
@@ -97,7 +97,7 @@ TEST_F(AnalogWrite, TakesNoAcknowledgementThatCameBeforeTheLine) {
     Select({1, 2, 3});
     std::string early;
     RadioPeer peer([&](RadioPeer& radio) {
-        // One for the opening command, which must not do for the first line either.
+        // One acknowledgement for the opening command. It must not count for the first line too.
         radio.Hear(1);
         radio.Say("\x05");
         radio.HearLine();
@@ -284,7 +284,7 @@ TEST_F(AnalogOpening, CountHasThreeCharacters) {
 
 namespace {
 
-/// The shortest time of some attempts in milliseconds: what a busy machine adds is not the driver's.
+/// Shortest time of several attempts in milliseconds, which excludes the delays of a busy machine.
 double BestPace(TransferContext& context, const wxString& text, bool slow, int attempts) {
     PseudoTerminal device;
     wxAsyncSerial port(nullptr, device.SlaveName(), 9600);
@@ -328,7 +328,7 @@ TEST_F(AnalogWrite, WaitsFiftyMillisecondsBehindTheOpeningCommand) {
     }
     m_context.Port = nullptr;
     m_context.Progress = nullptr;
-    // 78 characters of 2 ms. Of the wait's clock, which counts whole milliseconds, one may be missing.
+    // 78 characters of 2 ms. The wait's clock counts whole milliseconds and may miss one.
     EXPECT_GE(best.count(), 78 * 2 + 50 - 1);
 }
 

@@ -1,4 +1,4 @@
-// Opening that fails, devices that go away, closing and opening again.
+// Failures to open, devices that disappear, closing and opening again.
 #include "transfer/AsyncSerial.h"
 
 #include "tests/support/PseudoTerminal.h"
@@ -21,7 +21,7 @@ bool OpenThrows(AsyncSerial& port, const std::string& name, unsigned int baudRat
     return false;
 }
 
-// Text of what closing throws, empty if it throws nothing.
+// Text of the exception that closing throws, empty if it throws none.
 std::string CloseFailure(AsyncSerial& port) {
     try {
         port.close();
@@ -101,7 +101,7 @@ TEST(AsyncSerialClose, OfAClosedPortDoesNothing) {
     CallbackAsyncSerial port;
     EXPECT_NO_THROW(port.close());
     EXPECT_TRUE(OpenThrows(port, kMissing));
-    EXPECT_NO_THROW(port.close()); // although the error flag is set
+    EXPECT_NO_THROW(port.close()); // even with the error flag set
     EXPECT_FALSE(port.isOpen());
 }
 
@@ -122,7 +122,7 @@ TEST(AsyncSerialClose, WithAWriteThatCannotGoOnEndsAndThrows) {
     PseudoTerminal device;
     CallbackAsyncSerial port;
     port.open(device.SlaveName(), 9600);
-    port.writeString(std::string(100000, 'x')); // nobody reads it
+    port.writeString(std::string(100000, 'x')); // no one reads it
     EXPECT_EQ(device.Read(1), "x");
     EXPECT_TRUE(SaysErrorWhileClosing(CloseFailure(port)));
     EXPECT_FALSE(port.isOpen());
@@ -154,7 +154,7 @@ TEST(AsyncSerialClose, ForgetsWhatWasWrittenBehindItSoThatTheNextDeviceNeverGets
     EXPECT_EQ(device.ReadUntil('\r'), "fresh\r");
 }
 
-/// A port whose device can hold the line back.
+/// A port whose device can block the line.
 class AsyncSerialUnsent : public ::testing::Test {
 protected:
     AsyncSerialUnsent() {
@@ -309,7 +309,7 @@ TEST(AsyncSerialVanish, AtAnyMomentOfOpeningWritingOrClosingNeitherHangsNorCrash
             try {
                 port.setBaudRate(115200);
             } catch (const boost::system::system_error&) {
-                // The device was gone already.
+                // The device had already disappeared.
             }
             CloseFailure(port);
         }

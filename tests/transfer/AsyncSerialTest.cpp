@@ -1,4 +1,4 @@
-// What passes through an open port: bytes, order, sizes, speed.
+// Data through an open port: bytes, order, sizes, speed.
 #include "transfer/AsyncSerial.h"
 
 #include "tests/support/PseudoTerminal.h"
@@ -20,7 +20,7 @@ static_assert(!std::is_copy_constructible_v<AsyncSerial>);
 static_assert(!std::is_copy_assignable_v<CallbackAsyncSerial>);
 static_assert(std::has_virtual_destructor_v<CallbackAsyncSerial>);
 
-// A text in which every place is told from its neighbours.
+// A text in which every position differs from its neighbours.
 std::string Pattern(std::size_t size, unsigned seed) {
     std::string text;
     for (std::size_t i = 0; text.size() < size; ++i)
@@ -62,7 +62,7 @@ TEST(AsyncSerialRead, OfMoreThan512BytesComesInPiecesOf512) {
     CallbackAsyncSerial port;
     auto collect = receiver.Callback();
     port.setCallback([sent, collect](const char* data, std::size_t size) {
-        sent.wait(); // until then everything piles up in the device
+        sent.wait(); // until then the device buffers everything
         collect(data, size);
     });
     port.open(device.SlaveName(), 9600);
@@ -85,7 +85,7 @@ TEST(AsyncSerialRead, WithoutACallbackDropsWhatCameAndGoesOn) {
     port.clearCallback();
     ASSERT_TRUE(device.Write("lost"));
     ASSERT_TRUE(Eventually([&] { return device.UnreadBytes() == 0; }));
-    // The read is over, but its completion may be under way: a second one tells that the first is through.
+    // The read is over, but its completion may still be running. After a second read the first is complete.
     ASSERT_TRUE(device.Write("lost"));
     ASSERT_TRUE(Eventually([&] { return device.UnreadBytes() == 0; }));
     std::this_thread::sleep_for(std::chrono::milliseconds(50));
@@ -148,7 +148,7 @@ TEST(AsyncSerialWrite, ThatComesWhileOneIsInProgressFollowsIt) {
     PseudoTerminal device;
     CallbackAsyncSerial port;
     port.open(device.SlaveName(), 9600);
-    // More than the device takes without being read: the first write stays in progress.
+    // More than the device takes without a reader, so the first write stays in progress.
     const std::string first = Pattern(100000, 1);
     const std::string second = Pattern(70000, 2);
     port.writeString(first);
@@ -215,7 +215,7 @@ TEST(AsyncSerialSpeed, ChangesAtOnceOnTheOpenPort) {
 }
 
 TEST(AsyncSerialSettings, ReachTheDevice) {
-    // A pseudo-terminal keeps 8 bits without parity whatever it is told; the rest can be read back.
+    // A pseudo-terminal always keeps 8 bits without parity. The other settings can be read back.
     PseudoTerminal device;
     CallbackAsyncSerial port(
         device.SlaveName(), 19200, Options::parity(Options::parity::none), Options::character_size(8),
@@ -234,7 +234,7 @@ TEST(AsyncSerialSettings, ReachTheDevice) {
 }
 
 TEST(AsyncSerialSettings, OutOfRangeAreRefusedByTheirName) {
-    // 3 is no value of these kinds, but their bits can hold it.
+    // 3 is no value of these enums, but their bits can hold it.
     struct Case {
         const char* text;
         std::function<void()> make;

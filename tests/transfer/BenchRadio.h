@@ -1,4 +1,4 @@
-// A simulated digital radio within the test's own process, on a port that the program opens.
+// A simulated digital radio in the test's own process, on a port that the program opens.
 #pragma once
 
 #include "simulator/DigitalRadio.h"
@@ -16,8 +16,8 @@
 
 namespace transfertest {
 
-/// Lives without pacing and without pauses, so that thousands of transfers take minutes. All members may be
-/// called from the test's thread.
+/// Runs without pacing and pauses, so that thousands of transfers take minutes. All members may be called
+/// from the test's thread.
 class BenchRadio : private Simulator::RadioLink {
 public:
     BenchRadio(const char* model, const std::string& stamp)
@@ -42,20 +42,20 @@ public:
         const std::lock_guard lock(m_mutex);
         return m_radio.Violations();
     }
-    /// How often it was purged so far.
+    /// Number of purges so far.
     int Purges() const {
         const std::lock_guard lock(m_mutex);
         return m_purges;
     }
-    /// What it has refused, one complaint a line.
+    /// Complaints about what it refused, one a line.
     std::string Complaints() const {
         const std::lock_guard lock(m_mutex);
         return m_complaints;
     }
 
-    /// What the radio does at a memory record of the next transfer, counted from 1, instead of taking it.
+    /// What the radio does at a memory record of the next transfer, counted from 1, instead of storing it.
     enum class Trouble { None, End, Silence };
-    /// @param whenSilent is called from the radio's thread when it falls silent
+    /// @param whenSilent called from the radio's thread when it falls silent
     void Expect(Trouble trouble, int record, std::function<void()> whenSilent = {}) {
         const std::lock_guard lock(m_mutex);
         m_trouble = trouble;
@@ -63,7 +63,7 @@ public:
         m_whenSilent = std::move(whenSilent);
     }
 
-    /// The program has closed the port: takes what it said last, and is ready for the next transfer.
+    /// Call after the program has closed the port. Reads its last bytes and gets ready for the next transfer.
     void EndVisit() {
         const std::lock_guard lock(m_mutex);
         m_port.TakeVisits();
@@ -74,7 +74,7 @@ public:
         m_silent = false;
     }
 
-    /// Another stamp, as if a program had read the radio at another time.
+    /// Sets another stamp, as if a program had read the radio at another time.
     void SetStamp(const std::string& stamp) {
         const std::lock_guard lock(m_mutex);
         m_mute = true;
@@ -129,12 +129,12 @@ private:
             bytes.remove_prefix(m_port.Write(bytes));
     }
 
-    // The cable, as the radio sees it.
+    // The cable, seen from the radio.
     void BeginTransfer() override { m_answer = 1; }
     void BeginAnswers() override { m_answer = 1; }
     int NextAnswer() const override { return m_answer; }
     bool Plays(Simulator::FaultKind kind, int answer) override {
-        // A radio asks for this one first, before it keeps a record.
+        // The radio asks for this fault first, before it stores a record.
         if (kind != Simulator::FaultKind::End || m_trouble == Trouble::None || answer != m_troubleAt)
             return false;
         if (m_trouble == Trouble::Silence && !m_silent) {
@@ -156,7 +156,7 @@ private:
     void Note(std::string_view text) override { m_purges += text == "< T204000011EA"; }
     void Complain(std::string_view text) override { m_complaints += std::string(text) + "\n"; }
 
-    mutable std::mutex m_mutex; ///< of all below
+    mutable std::mutex m_mutex; ///< protects all members below
     Simulator::PseudoTerminal m_port;
     Simulator::DigitalRadio m_radio;
     int m_answer = 1, m_purges = 0;

@@ -1,4 +1,4 @@
-// Cancel, pressed by the thread that plays the radio.
+// A press of Cancel by the thread that plays the radio.
 #pragma once
 
 #include "tests/transfer/TransferTest.h"
@@ -8,15 +8,14 @@
 
 namespace transfertest {
 
-/// Does what the Cancel button does, for a thread that doesn't have the window. The transfer may be over by
-/// the time that it gets here, and its progress window gone: so the thread of the window looks for a press
-/// every few milliseconds, and a press that finds no progress window is forgotten. A waiting transfer takes
-/// no posted events, but lets timers run.
+/// Does what the Cancel button does, for a thread without access to the window. The transfer may already be
+/// over and its progress window gone. So the window's thread polls for a press every few milliseconds and
+/// forgets one that finds no progress window. A waiting transfer handles no posted events, but timers run.
 class CancelFromPeer : private wxTimer {
 public:
     CancelFromPeer() { Start(Interval); }
 
-    /// May be called from any thread, at any time.
+    /// May be called from any thread at any time.
     void Press() { m_pressed = true; }
 
 private:

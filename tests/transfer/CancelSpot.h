@@ -1,4 +1,4 @@
-// Where a person finds the Cancel button of a transfer.
+// Position of a transfer's Cancel button on the screen.
 #pragma once
 
 #include "robot/ScreenSpots.h"
@@ -12,7 +12,7 @@
 
 namespace transfertest {
 
-/// Where the Cancel button stands, as told by the events that the progress window gets.
+/// Finds the position of the Cancel button through the events that the progress window receives.
 class CancelSpot : public wxEventFilter {
 public:
     CancelSpot() { wxEvtHandler::AddFilter(this); }

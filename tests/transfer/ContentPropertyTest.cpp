@@ -1,4 +1,4 @@
-// Random work with two radios: what the program put into one stays there as long as the page shows it.
+// Random work with two radios: a memory that the program wrote stays in its radio while the page shows it.
 #include "editing/PageReset.h"
 #include "tests/transfer/BenchRadio.h"
 #include "tests/transfer/TRecordDriverTest.h"
@@ -26,20 +26,20 @@ using namespace transfertest;
 
 namespace {
 
-/// Frequencies of a memory in Hz, receive and transmit. No two memories of a run are made with the same ones.
+/// Frequencies of a memory in Hz, receive and transmit. No two memories of a run start with the same ones.
 using Channel = std::pair<long, long>;
 
-/// One radio, and what it must hold: by number, the channels that it may have been given for that memory.
+/// One radio and its required content: by number, the channels that it may have been given for that memory.
 struct KnownRadio {
     KnownRadio(const char* model, const std::string& stamp) : radio(model, stamp) {}
 
     BenchRadio radio;
     std::map<int, std::set<Channel>> given;
-    /// A write failed behind its purge: the next complete one has to restore what is missing.
+    /// A write failed after its purge. The next complete write must restore what is missing.
     bool owes = false;
 };
 
-/// How often what the test is about has happened.
+/// Counts of the events that the test is about.
 struct Tally {
     int steps = 0, writes = 0, reads = 0, purges = 0, questions = 0, refusals = 0, failures = 0, shadows = 0;
     long memoriesChecked = 0;
@@ -55,7 +55,7 @@ protected:
         RadioStamp = "";
     }
 
-    /// One run. The same seed gives the same run.
+    /// Runs once. The same seed repeats the run.
     void Run(unsigned seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         m_random.seed(seed);
@@ -71,7 +71,7 @@ protected:
         for (KnownRadio& known : m_radios)
             EXPECT_EQ(known.radio.Violations(), 0) << known.radio.Complaints();
         Report(seed, std::chrono::steady_clock::now() - start);
-        // None of what the property is about may be missing in a run.
+        // Each of these events must occur in a run.
         for (const int count : {m_tally.reads, m_tally.purges, m_tally.questions, m_tally.refusals,
                                 m_tally.failures, m_tally.shadows})
             EXPECT_GT(count, 0);
@@ -85,7 +85,7 @@ private:
     bool Once(int outOf) { return Below(outOf) == 0; }
     KnownRadio& AnyRadio() { return m_radios[static_cast<std::size_t>(Below(2))]; }
 
-    /// Few rows, so that they meet often; the guards are among them.
+    /// Returns one of a few rows, so that rows meet often. The guards are among them.
     int AnyRow() {
         constexpr int rows[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 229, 230, 231, 232};
         return rows[Below(std::size(rows))];
@@ -135,8 +135,8 @@ private:
         SetCell(row, TFRQ, wxString::Format("1%d%d.0000", 4 + Below(3), Below(10)));
     }
 
-    /// The user corrects a memory: it is the same one, so either channel will do in the radio until it is
-    /// sent.
+    /// The user corrects a memory. It stays the same memory, so until it is sent either channel will do in
+    /// the radio.
     void Retune(int row) {
         m_what = "retune " + std::to_string(row);
         if (!RowHasData(row))
@@ -192,7 +192,7 @@ private:
             MainFrame->OnInsertRow(event);
         else
             MainFrame->OnDeleteRow(event);
-        // As the user does it after a deletion: a record bears the memory's number.
+        // As the user does after a deletion, because a record contains the memory's number.
         for (int each = 1; each < CurrentGrid()->GetNumberRows(); ++each)
             if (RowHasData(each))
                 SetCell(each, MNUM, wxString::Format("%03d", each));
@@ -207,7 +207,7 @@ private:
         });
         wxCommandEvent event;
         MainFrame->OnSetTarget(event);
-        // Rows that the command fills are new memories, and look alike whenever it does.
+        // Rows that the command fills are new memories, and they look the same each time.
         for (const int row : {1, GD1, GD2})
             if (Cell(row, RFRQ) == Cell(0, RFRQ))
                 Tune(row);
@@ -220,7 +220,7 @@ private:
 
     // ---- Transfers ----
 
-    /// Answers the question before a purge; no other box is wrong, and no other is answered in any other way.
+    /// Answers the question before a purge. The only other box allowed is "Error", which gets OK.
     class Person : public DialogPolicy {
     public:
         explicit Person(bool agrees) : m_agrees(agrees) {}
@@ -299,8 +299,8 @@ private:
         m_tally.purges += known.radio.Purges() - purges;
         const bool gotThatFar =
             ending.status != TransferNoDataSelected && ending.status != TransferInvalidTransmitData;
-        // The known radio may hold more than the page: ExpectNothingLostUnasked tells whether it is asked
-        // about.
+        // The known radio may hold more than the page. ExpectNothingLostUnasked checks for a missing
+        // question.
         const bool mayAsk = isKnown && ShadowIsSelected();
         if (mayAsk) {
             EXPECT_LE(ending.questions, 1);
@@ -323,7 +323,7 @@ private:
         TakeOver(known, ending, purged);
     }
 
-    /// The rows whose memory the user wants out of the radio.
+    /// Rows whose memory the user wants to erase in the radio.
     std::set<int> ErasedRows() const {
         std::set<int> rows;
         for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
@@ -332,7 +332,7 @@ private:
         return rows;
     }
 
-    /// What the known radio held and nobody was asked about is still there, or was erased by the user.
+    /// Without a question to the user, the known radio still holds all its memories except erased ones.
     void ExpectNothingLostUnasked(const KnownRadio& known, const Simulator::DigitalMemoryList& before,
                                   const std::set<int>& erased) {
         const auto held = known.radio.Memories();
@@ -349,7 +349,7 @@ private:
         return false;
     }
 
-    /// What the radio must hold from now on.
+    /// Updates what the radio must hold from now on.
     void TakeOver(KnownRadio& known, const Ending& ending, bool purged) {
         for (const int row : ending.sent)
             known.given[row] = {ShownChannel(row)};
@@ -371,7 +371,7 @@ private:
         return rows;
     }
 
-    /// As the command does it.
+    /// Reads as the command does.
     void Read(KnownRadio& known) {
         ++m_tally.reads;
         ResetPage(CurrentPage);
@@ -381,7 +381,7 @@ private:
         SetPageEditors(CurrentPage);
         m_what = "read radio " + std::to_string(&known - m_radios.data());
         EXPECT_EQ(ending.status, TransferComplete);
-        // Two radios that are read within a second would get the same stamp; nobody reads that fast.
+        // Two radios read within the same second would get the same stamp. No user reads that fast.
         const std::string stamp = Text(wxString::Format("2031%010d", ++m_reads));
         known.radio.SetStamp(stamp);
         RadioStamp = HeldByRadio.stamp = stamp;
@@ -390,7 +390,7 @@ private:
         known.owes = false;
         for (const auto& [number, memory] : known.radio.Memories()) {
             EXPECT_EQ(ShownChannel(number), Channel(memory.rxFrequency, memory.txFrequency)) << number;
-            if (number > 0) // the default row is no memory: a purge takes it
+            if (number > 0) // the default row is no memory: a purge erases it
                 known.given[number] = {ShownChannel(number)};
         }
     }
@@ -404,10 +404,10 @@ private:
     }
     static Channel ShownChannel(int row) { return {Hertz(Cell(row, RFRQ)), Hertz(Cell(row, TFRQ))}; }
 
-    /// Each radio holds each memory that it was given and that the page still shows complete.
+    /// Each radio holds each memory that it was given, while the page still shows it complete.
     void ExpectContent() {
         for (KnownRadio& known : m_radios) {
-            // What the page has once shown otherwise is another memory for good.
+            // A memory that the page has once shown otherwise counts as another one for good.
             std::erase_if(known.given, [](const auto& given) {
                 return !RowIsComplete(given.first) || !given.second.count(ShownChannel(given.first));
             });
@@ -439,7 +439,7 @@ private:
     std::array<KnownRadio, 2> m_radios{KnownRadio("KDRV-716", "20200101000000"),
                                        KnownRadio("KDRV-716", "20210101000000")};
     Tally m_tally;
-    std::string m_what; ///< the last step, for a person
+    std::string m_what; ///< last step, for the failure text
     int m_made = 0, m_reads = 0;
 };
 

@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// In an empty working directory.
+/// A test in an empty working directory.
 class DebugLog : public ::testing::Test {
 protected:
     DebugLog() : m_former(fs::current_path()) { fs::current_path(m_folder.Path()); }
@@ -23,13 +23,13 @@ protected:
         fs::current_path(m_former);
     }
 
-    /// Lets records come into a file without heading.
+    /// Starts a file without heading for the records that follow.
     void Begin(std::uint32_t protocol) {
         m_context.Protocol = protocol;
         ASSERT_TRUE(m_context.DebugLogFile.Open("log", "w"));
     }
 
-    /// A record. The four digits of the address stand at position 5, the data from position 9 on.
+    /// Passes on a record. The four digits of the address are at position 5, the data start at position 9.
     void Take(const std::string& address, const std::string& data) {
         m_context.RxLine = "T1430" + address + data;
         m_context.Phase = 1;
@@ -37,7 +37,7 @@ protected:
         EXPECT_EQ(m_context.Phase, 0u);
     }
 
-    /// What has been written, once no more comes.
+    /// Ends the records and returns the file's text.
     std::string Written(const std::string& file = "log") {
         m_context.DebugLogFile.Close();
         return testbench::ReadFile(file);
@@ -53,7 +53,7 @@ private:
 using DebugTrace = DebugLog;
 using DebugSamples = DebugLog;
 
-// The last byte of a record of the trace isn't read.
+// The last byte of a record of the trace, which isn't read.
 const std::string Last = "AA";
 
 } // namespace
@@ -121,7 +121,7 @@ TEST_F(DebugTrace, ControlCharacterSentStandsOnTheTransmitLine) {
 TEST_F(DebugTrace, AnswerBeginsBehindWhatWasSent) {
     Begin(0);
     Take("0020", "4142C3C444" + Last); // sent "AB", received "CD", sent "D"
-    // "D" differs from the last character only by its direction, which a transmit byte doesn't ask for.
+    // "D" differs from the last character only by its direction, which doesn't matter for a transmit byte.
     EXPECT_EQ(Written(), "Rx:0020:   CD\n"
                          "Tx:0020: AB  D\n");
 }
@@ -179,7 +179,7 @@ TEST_F(DebugTrace, MessageLosesItsHighBits) {
 
 TEST_F(DebugTrace, ReceivedBeginOfAMessageRepeatsTheByteBeforeIt) {
     Begin(0);
-    Take("0020", "41824803" + Last); // the "A" comes again where the transmit line ended
+    Take("0020", "41824803" + Last); // "A" is repeated where the transmit line ended
     EXPECT_EQ(Written(), "Rx:0020: \n"
                          "Tx:0020: A\n"
                          "Msg:      AH\n"
@@ -272,7 +272,7 @@ TEST_F(DebugTrace, EndOfTheLogWritesTheMessageInProgress) {
         Begin(c.protocol);
         m_context.Work2 = 0;
         Take("0020", c.data + Last);
-        std::ofstream("log").close(); // what has come so far isn't looked at here
+        std::ofstream("log").close(); // the text up to here isn't checked
         m_context.DebugLogFile.Close();
         ASSERT_TRUE(m_context.DebugLogFile.Open("log", "w"));
         EndDebugLog(m_context);
@@ -426,7 +426,7 @@ TEST_F(DebugSamples, EntryThatTheRecordDoesNotHoldIsUnused) {
     Take("0020", "000102");
     m_context.RxLine = "T1";
     decodeDebugLog(m_context);
-    // The second entry is there, but three of its temperatures aren't.
+    // The second entry is present, but three of its temperatures aren't.
     EXPECT_EQ(Written(), "1:2:3,0,0,0,4,5,6,7\n"
                          "1:2:3,0,0,0,0,0,0,0\n");
 }

@@ -1,4 +1,4 @@
-// Links of shadows and scan marks on their whole way: into the page, through a check, to a radio and back.
+// Links of shadows and scan marks on their complete way: into the page, through a check, to a radio and back.
 #include "catalogue/TextNumbers.h"
 #include "commands/CommandIds.h"
 #include "files/ZelkFile_OpenSave.h"
@@ -21,7 +21,7 @@ protected:
     void SetUp() override {
         TRecordDriverTest::SetUp();
         ShowAndFocus(*MainFrame);
-        RadioStamp = "20200101000000"; // as if the radio had been read last: nothing is purged
+        RadioStamp = "20200101000000"; // as if the radio had been read last, so nothing is purged
     }
 
     /// Chooses a command of the menus.
@@ -53,7 +53,7 @@ protected:
         Choose(IdValidatePage);
     }
 
-    /// Sends the whole page and reads it back.
+    /// Sends the complete page and reads it back.
     static void SendAllAndReadBack(RadioUnderTest& radio) {
         Choose(IdSelectAll);
         OpModes[0] = AllModes;
@@ -104,7 +104,7 @@ protected:
         EXPECT_EQ(ReadDecimal(Cell(32, PRIM)), 31);
     }
 
-    /// Chooses "Y" or "N" in SCAN by keys.
+    /// Chooses "Y" or "N" in SCAN by keyboard.
     static void ChooseScan(int row, const std::string& letter) {
         CurrentGrid()->GoToCell(row, SCAN);
         CurrentGrid()->SetFocus();

@@ -1,4 +1,4 @@
-// Whole transfers between the window and simulated digital radios.
+// Complete transfers between the window and simulated digital radios.
 #include "tests/transfer/DigitalRadioTest.h"
 
 #include "robot/Hands.h"
@@ -74,7 +74,7 @@ TEST_F(DigitalRadio, OfTheModuleGetsAndGivesItsChannels) {
     ExpectAllOver(radio);
     EXPECT_EQ(FilledRows().size(), 3u);
     for (const auto& [row, frequency] : channels) {
-        // Nine characters come back, so that below 100 MHz there are six decimals.
+        // Nine characters come back, so there are six decimals below 100 MHz.
         EXPECT_EQ(CellText(row, RFRQ), row == 1 ? "31.000000" : frequency);
         EXPECT_EQ(CellText(row, MNUM), std::to_string(row));
         EXPECT_EQ(CellText(row, DESC), "HILL");
@@ -212,7 +212,7 @@ TEST_F(DigitalRadio, HearsNothingAfterAPurgeOfARowToBeErasedThatIsNotSelected) {
 // ---- Questions and refusals ----
 
 TEST_F(DigitalRadio, WithoutTheModesGetsTheMemoriesAfterYes) {
-    OpModes[0] = NarrowMode | DigitalMode; // as it is before anything was transferred
+    OpModes[0] = NarrowMode | DigitalMode; // the value before any transfer
     FillP25Row(1);
     SetCell(1, MODE, "w");
     Select({1});

@@ -10,7 +10,7 @@
 
 namespace transfertest {
 
-/// The stamp that a simulated radio begins with.
+/// Initial stamp of a simulated radio.
 constexpr const char* RadiosStamp = "20200101000000";
 constexpr const char* UpdateText = "Selected operation requires updated software in Radio";
 constexpr const char* PurgeMessage = "< T204000011EA";
@@ -23,7 +23,7 @@ inline std::string QuestionText(const std::string& modes) {
            "\nDo you wish to continue the transfer?";
 }
 
-/// How a command is expected to end: the driver's box, if any, and the status box.
+/// Expected end of a command: the driver's box, if any, and the status box.
 struct Ending {
     const char* status;
     const char* driverBox = nullptr;
@@ -40,7 +40,7 @@ protected:
         OpModes[0] = AllModes;
     }
 
-    /// @param modes expected in the question about operating modes, which is answered with `answer`
+    /// @param modes expected in the question about operating modes; `answer` is the reply to it
     static void Send(RadioUnderTest& radio, const Ending& ending, const std::string& modes = "",
                      int answer = wxID_YES) {
         PortName = radio.PortName();
@@ -55,7 +55,7 @@ protected:
         ExpectAllOver(radio);
     }
 
-    /// A write that asks first whether the radio may be purged.
+    /// Runs a write that first asks whether the radio may be purged.
     static void SendAsked(RadioUnderTest& radio, const Ending& ending, int answer = wxID_OK,
                           const std::string& reason = UnknownRadio) {
         PortName = radio.PortName();
@@ -85,7 +85,7 @@ protected:
         EXPECT_TRUE(PortIsFree(radio.PortName())) << "the port was not given back";
     }
 
-    /// Switches the radio off; it may have had nothing to complain of.
+    /// Switches the radio off and expects that it complained of nothing.
     static void ExpectContent(RadioUnderTest& radio) {
         EXPECT_EQ(radio.SwitchOff(), 0);
         EXPECT_EQ(radio.Complaints(), "");
@@ -107,7 +107,7 @@ protected:
         return count;
     }
 
-    /// Rows of all modes and zones, a primary with two shadows, and the page's last row.
+    /// Fills rows of all modes and zones, a primary with two shadows, and the page's last row.
     static std::vector<int> FillMixedRows() {
         const int last = CurrentParameters().Rows;
         const char* const modes[] = {"w", "n", "D"};
@@ -165,7 +165,7 @@ protected:
             EXPECT_EQ(record[0], layout) << address;
     }
 
-    /// Texts of the cells that neither layout changes.
+    /// Texts of the cells that both layouts leave unchanged.
     static std::vector<std::string> KeptTexts(int row) {
         std::vector<std::string> texts;
         for (const int column :
@@ -176,7 +176,7 @@ protected:
         return texts;
     }
 
-    /// Memories 1, 2 and 3 in the radio and, as it gave them, on the page.
+    /// Puts memories 1, 2 and 3 into the radio and reads them back into the page.
     static void Share(RadioUnderTest& radio) {
         for (const int row : {1, 2, 3})
             FillP25Row(row);

@@ -68,7 +68,7 @@ protected:
         CurrentGrid()->SelectBlock(1, 0, CurrentGrid()->GetNumberRows() - 1, ColumnTotal - 1);
     }
 
-    /// Both commands, which must succeed and have nothing to be complained of.
+    /// Runs both commands, which must succeed without a complaint of the radio.
     static void SendAndRead(RadioUnderTest& radio) {
         PortName = radio.PortName();
         DialogScript script;
@@ -85,7 +85,7 @@ protected:
         EXPECT_EQ(radio.Log().find(" ? "), std::string::npos);
     }
 
-    /// Compares the page with what it was, and tells how many cells each rule has changed.
+    /// Compares the page with its former cells and reports how many cells each rule changed.
     template <std::size_t count>
     static void ExpectChanges(const RoundTripPage& page, const std::set<int>& absent,
                               const ColumnRule (&rules)[count]) {

@@ -1,4 +1,4 @@
-// Transfers of five memories with a digital radio at fault, and what is left of each.
+// Transfers of five memories with a faulty digital radio, and what each leaves.
 #pragma once
 
 #include "tests/transfer/RadioUnderTest.h"
@@ -13,23 +13,23 @@
 
 namespace transfertest {
 
-/// The memories that are left, seen from the record N at which the fault is played.
+/// Memories that are left, relative to the record N at which the fault is played.
 enum class Left { All, UpToN, BeforeN, None };
 
-/// A kind of fault and how its transfer must end.
+/// A kind of fault and the required end of its transfer.
 struct FaultEnding {
     const char* name;
     std::vector<std::string> options; ///< for zelk-radio; "#" stands for N
     const char* status;               ///< text of the status
-    const char* box = "";             ///< box that tells it; "#" stands for the channel; empty: no box
+    const char* box = "";             ///< box that reports it; "#" stands for the channel; empty: no box
     Left left = Left::All;
-    bool once = false; ///< N means nothing: it is played at the first record only
+    bool once = false; ///< N has no meaning: the fault is played at the first record only
     bool portRemains = true;
-    bool purged = false; ///< of a write: the radio isn't the one that was read last, and is emptied before
+    bool purged = false; ///< of a write: the radio isn't the last one read, so it is purged first
     bool erases = false; ///< of a write: the radio holds memory 3, which is erased
 };
 
-/// Keeps the boxes of a transfer and answers each with OK.
+/// Keeps the texts of a transfer's boxes and answers each with OK.
 class BoxKeeper : public testbench::DialogPolicy {
 public:
     int Decide(const testbench::DialogFacts& facts) override {
@@ -46,17 +46,17 @@ private:
     std::string m_boxes;
 };
 
-/// Five memories travel; the radio that is written to holds memory 9 before.
+/// Five memories are transferred. A radio that is written to already holds memory 9.
 class FaultMatrix : public TRecordDriverTest {
 protected:
     using Order = std::vector<int>;
-    /// The page's last row is among them: nothing comes behind its refusal.
+    /// The page's last row is among them: after its refusal no row follows.
     static inline const Order Memories = {1, 2, 3, 4, 502};
     static constexpr int Bystander = 9;
     static constexpr std::chrono::seconds Patience{20};
     static constexpr const char* RadiosStamp = "20200101000000";
 
-    /// Finds out how a radio of the protocol keeps memory 9.
+    /// Finds out how a radio of the protocol stores memory 9.
     void MakeBystander(int protocol) {
         RadioUnderTest radio("KDRV-716B", {"--protocol", std::to_string(protocol)});
         FillMemory(Bystander);
@@ -66,7 +66,7 @@ protected:
         UsePage(Kdrv716B);
     }
 
-    /// Of a row's frequencies.
+    /// Decimals of a row's frequencies.
     static int Decimals(int row) { return 125 * (row % 100); }
 
     static void FillMemory(int row) {
@@ -85,7 +85,7 @@ protected:
         SetCell(502, ZONE, "X");
     }
 
-    /// A transfer that must succeed, to have something to compare with.
+    /// Runs a transfer that must succeed, as a reference.
     void WriteTo(const RadioUnderTest& radio) {
         RadioStamp = RadiosStamp;
         ASSERT_EQ(Run(radio, WriteChannelsMode).status, TransferComplete);
@@ -97,7 +97,7 @@ protected:
         std::chrono::milliseconds took;
     };
 
-    /// One transfer. Only one that must time out does so soon; a busy machine needs its time.
+    /// Runs one transfer. Only one that must time out has a short timeout, since a busy machine needs time.
     Result Run(const RadioUnderTest& radio, int mode, bool timesOut = false) {
         TRecordContext context;
         context.ReplyTimeout = timesOut ? 1500 : 10000;
@@ -126,7 +126,7 @@ protected:
         return options;
     }
 
-    /// The memories that are left, in the order in which they travel.
+    /// Memories that are left, in transfer order.
     static Order MemoriesLeft(Left left, const Order& order, int n) {
         int count = 0;
         switch (left) {
@@ -145,7 +145,7 @@ protected:
         return {order.begin(), order.begin() + count};
     }
 
-    /// How a transfer ended, apart from the memories, as a line of the matrix has it.
+    /// End of a transfer without its memories, as one line of the matrix.
     static std::string Ending(const std::string& status, const std::string& boxes, bool endRecord,
                               bool portIsFree) {
         return status + " | " + (boxes.empty() ? "no box" : boxes) + " | " +
@@ -155,8 +155,8 @@ protected:
     /// @param channel that a box names
     static std::string ExpectedEnding(const FaultEnding& fault, int mode, int channel) {
         const std::string box = fault.box, status = fault.status;
-        // The program has the last word when it has written all, and after a refusal. Not when the radio
-        // can't be understood or isn't heard, nor in a read that the radio has ended.
+        // The program sends the end record when it has written everything, and after a refusal. It doesn't
+        // when the radio can't be understood or heard, or when the radio has ended a read.
         const bool endRecord =
             status == "Communication Error" || (status == "Complete" && mode == WriteChannelsMode);
         return Ending(status, box.empty() ? "" : "Error: " + WithNumber(box, channel), endRecord,
@@ -164,7 +164,7 @@ protected:
     }
 
     static std::string EndingOf(const Result& result, RadioUnderTest& radio) {
-        // What was said last must have come through before somebody else speaks.
+        // The radio must receive the program's last bytes before another program talks to it.
         radio.AwaitClosedPort();
         const bool endRecord = radio.Log().find("< T9030000FC") != std::string::npos;
         return Ending(Text(GetStatusText(result.status)), result.boxes, endRecord,
@@ -190,13 +190,13 @@ protected:
 
     static bool TimesOut(const FaultEnding& fault) { return std::string(fault.status) == "Timeout"; }
 
-    /// A radio may complain of nothing, whatever it plays itself.
+    /// Expects that the radio complained of nothing, whatever fault it plays.
     static void ExpectContent(RadioUnderTest& radio) {
         EXPECT_EQ(radio.SwitchOff(), 0) << radio.Log();
         EXPECT_EQ(radio.Complaints(), "");
     }
 
-    /// All kinds of a direction over one protocol, each at those records.
+    /// Runs all kinds of a direction over one protocol, each at the given records.
     template <std::size_t count, class Check>
     static void ForEachCell(const FaultEnding (&kinds)[count], const std::vector<int>& places, Check check) {
         int cells = 0;

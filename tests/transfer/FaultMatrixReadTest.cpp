@@ -1,4 +1,4 @@
-// Every fault of a digital radio while it is read.
+// All faults of a digital radio during a read.
 #include "tests/transfer/FaultMatrix.h"
 
 using namespace testbench;
@@ -11,13 +11,13 @@ constexpr const char* RejectedText = "Radio rejected channel #";
 
 const FaultEnding KindsOfRead[] = {
     {"none", {}, "Complete"},
-    // The record is asked for once more.
+    // The program asks for the record again.
     {"checksum", {"--fault", "checksum@#"}, "Complete"},
     {"checksum-always", {"--fault", "checksum-always@#"}, "Checksum Error", ChecksumText, Left::BeforeN},
     {"nak", {"--fault", "nak@#"}, "Complete"},
     {"nak-always", {"--fault", "nak-always@#"}, "Communication Error", RejectedText, Left::BeforeN},
     {"wait", {"--fault", "wait@#"}, "Complete"},
-    // Nothing is erased, nothing acknowledged by the radio.
+    // Nothing is erased and the radio acknowledges nothing.
     {.name = "busy", .options = {"--fault", "busy@#"}, .status = "Complete", .once = true},
     {"silence", {"--fault", "silence@#"}, "Timeout", TimeoutText, Left::BeforeN},
     {"no-ack", {"--fault", "no-ack@#"}, "Complete"},
@@ -26,7 +26,7 @@ const FaultEnding KindsOfRead[] = {
     {"linefeed", {"--fault", "linefeed@#"}, "Complete"},
     {"joined", {"--fault", "joined@#"}, "Complete"},
     {"torn", {"--fault", "torn@#"}, "Complete"},
-    // Half a record has no good checksum.
+    // Half a record has no valid checksum.
     {"cut", {"--fault", "cut@#"}, "Complete"},
     {.name = "unplug",
      .options = {"--fault", "unplug@#"},
@@ -34,7 +34,7 @@ const FaultEnding KindsOfRead[] = {
      .box = TimeoutText,
      .left = Left::BeforeN,
      .portRemains = false},
-    // An end record ends a read, whatever came before it.
+    // An end record ends a read, whatever preceded it.
     {"end", {"--fault", "end@#"}, "Complete", "", Left::BeforeN},
 };
 const FaultEnding DeafToTheNewSpeed[] = {{.name = "deaf",
@@ -60,7 +60,7 @@ protected:
     }
 
 private:
-    /// Finds out what a radio holds that was written without faults, and how its memories are read.
+    /// Finds out what a radio holds after a write without faults, and how its memories are read.
     void FillRadio(int protocol) {
         const std::vector<std::string> options = {"--protocol", std::to_string(protocol)};
         FillMemories();
@@ -87,7 +87,7 @@ private:
         RadioUnderTest radio("KDRV-716B", OptionsOf(fault, protocol, n), m_content);
         const Result result = Run(radio, ReadChannelsMode, TimesOut(fault));
         const std::string ending = EndingOf(result, radio);
-        // A read counts what it has asked for from 0: its first record is channel 0.
+        // A read counts its requests from 0: its first record is channel 0.
         EXPECT_EQ(ending, ExpectedEnding(fault, ReadChannelsMode, n - 1));
         EXPECT_LT(result.took, Patience);
         std::map<int, std::string> expected;
@@ -106,7 +106,7 @@ private:
                 ClearRowData(row, true);
     }
 
-    /// The rows that hold anything, with all their cells.
+    /// The rows with any text, with all their cells.
     static std::map<int, std::string> Rows() {
         std::map<int, std::string> rows;
         for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
@@ -116,9 +116,9 @@ private:
         return rows;
     }
 
-    std::string m_content;             ///< memory file of a radio that holds the five
+    std::string m_content;             ///< memory file of a radio with the five memories
     std::map<int, std::string> m_held; ///< its records
-    std::map<int, std::string> m_good; ///< rows that are read from it without faults
+    std::map<int, std::string> m_good; ///< rows read from it without faults
 };
 
 } // namespace

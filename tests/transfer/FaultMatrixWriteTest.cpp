@@ -1,4 +1,4 @@
-// Every fault of a digital radio while it is written to.
+// All faults of a digital radio during a write.
 #include "tests/transfer/FaultMatrix.h"
 
 #include <algorithm>
@@ -13,7 +13,7 @@ constexpr const char* RejectedText = "Radio rejected channel #";
 
 const FaultEnding KindsOfWrite[] = {
     {"none", {}, "Complete"},
-    // The record is sent once more, and stored twice.
+    // The program sends the record again, and the radio stores it twice.
     {"checksum", {"--fault", "checksum@#"}, "Complete"},
     {"checksum-always", {"--fault", "checksum-always@#"}, "Checksum Error", ChecksumText, Left::UpToN},
     {"nak", {"--fault", "nak@#"}, "Complete"},
@@ -33,7 +33,7 @@ const FaultEnding KindsOfWrite[] = {
     {"linefeed", {"--fault", "linefeed@#"}, "Complete"},
     {"joined", {"--fault", "joined@#"}, "Complete"},
     {"torn", {"--fault", "torn@#"}, "Complete"},
-    // Half an acknowledgement has no good checksum.
+    // Half an acknowledgement has no valid checksum.
     {"cut", {"--fault", "cut@#"}, "Complete"},
     {.name = "unplug",
      .options = {"--fault", "unplug@#"},
@@ -65,7 +65,7 @@ protected:
             ForEachCell(DeafWithoutANewSpeed, {1}, cell);
     }
 
-    /// The last record is that of a shadow. The radio is purged before.
+    /// Makes the last record that of a shadow, so the radio is purged first.
     void WriteShadow(int protocol) {
         Prepare(protocol, {1, 2, 4, 502, 3});
         ASSERT_FALSE(HasFailure());
@@ -74,7 +74,7 @@ protected:
     }
 
 private:
-    /// Fills the page, and finds out what a radio without faults then holds.
+    /// Fills the page and finds out what a radio then holds after a write without faults.
     void Prepare(int protocol, const Order& order) {
         MakeBystander(protocol);
         m_order = order;
@@ -116,7 +116,7 @@ private:
         Print(fault, protocol, n, ending, "radio " + Numbers(held), result);
     }
 
-    /// The rows whose acknowledgement has come through carry the mark for it, which this takes off again.
+    /// Checks that exactly the rows whose acknowledgement arrived have its mark, and removes the mark.
     void ExpectAcknowledged(const FaultEnding& fault, int n, bool erases) const {
         const bool complete = std::string(fault.status) == "Complete";
         const Order taken = MemoriesLeft(complete ? Left::All : Left::BeforeN, m_order, n);
@@ -139,9 +139,9 @@ private:
         return expected;
     }
 
-    Order m_order;         ///< rows in the order in which they are sent
+    Order m_order;         ///< rows in sending order
     bool m_shadow = false; ///< the last of them is a shadow
-    /// What a radio without faults holds, by row: the record with its address.
+    /// Content of a radio after a write without faults: by row, the record with its address.
     std::map<int, std::pair<int, std::string>> m_good;
 };
 

@@ -1,4 +1,4 @@
-// An open port belongs to its opener alone.
+// Exclusive use of an open port.
 #include "transfer/PortLock.h"
 
 #include "tests/support/PseudoTerminal.h"
@@ -22,8 +22,7 @@ bool CanOpen(AsyncSerial& port, const std::string& name) {
     return true;
 }
 
-// A second process that opens the port when told to, and closes it when told again. To be made before this
-// process has a thread.
+// A second process that opens and closes the port on request. Create it before this process has a thread.
 class OtherProcess {
 public:
     explicit OtherProcess(const std::string& portName) {
@@ -42,7 +41,7 @@ public:
             ::close(descriptor);
     }
 
-    /// What became of the order: 'y' for opened, 'n' for refused, 'c' for closed.
+    /// Result of the request: 'y' for opened, 'n' for refused, 'c' for closed.
     char Order(char order) {
         char answer = '?';
         EXPECT_EQ(::write(m_order[1], &order, 1), 1);
@@ -115,7 +114,7 @@ TEST(PortLock, KeepsAnotherProcessOutUntilThePortIsClosed) {
 
 TEST(PortLock, MarksTheDeviceForOpenersThatAskForNoLockAndLiftsTheMarkAtTheClose) {
     PseudoTerminal device;
-    device.HoldSlave(); // keeps the mark alive behind the close, if it isn't lifted
+    device.HoldSlave(); // if the close doesn't lift the mark, this keeps it alive
     const int watcher = ::open(device.SlaveName().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK);
     ASSERT_GE(watcher, 0);
     const auto marked = [watcher] {

@@ -1,4 +1,4 @@
-// The window that shows a transfer.
+// Tests of the window that shows a transfer.
 #include "transfer/ProgressFrame.h"
 
 #include "robot/Pump.h"
@@ -31,7 +31,7 @@ wxWindow* Child(const wxWindow& parent, const wxClassInfo* kind) {
 
 class ProgressFrameTest : public ::testing::Test {
 protected:
-    // Nothing is known of a former window's place at first.
+    // At first the configuration has no place of a former window.
     ProgressFrameTest() : m_formerConfig(wxConfigBase::Set(new wxMemoryConfig)) {}
 
     ~ProgressFrameTest() override {
@@ -135,7 +135,7 @@ TEST_F(ProgressFrameTest, ShowsTheStatusAndWhatIsAppendedToIt) {
 TEST_F(ProgressFrameTest, StandsInTheMiddleOfItsParentOrElseOfTheScreen) {
     auto* parent = new wxFrame(nullptr, wxID_ANY, "Parent", wxPoint(100, 80), wxSize(700, 500));
     ShowAndFocus(*parent);
-    // Rounding and the window manager's decorations may move it by some pixels.
+    // Rounding and the window manager's decorations may shift it by some pixels.
     const auto near = [](const wxRect& inner, const wxRect& outer) {
         const wxPoint a = inner.GetPosition() + inner.GetSize() / 2;
         const wxPoint b = outer.GetPosition() + outer.GetSize() / 2;

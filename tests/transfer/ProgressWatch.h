@@ -1,4 +1,4 @@
-// The progress window of a transfer, reached from a thread of the test.
+// Access to a transfer's progress window from a thread of the test.
 #pragma once
 
 #include "transfer/ProgressFrame.h"
@@ -11,8 +11,8 @@
 
 namespace transfertest {
 
-/// Knows the progress window by the events that it gets, as long as it lives. A thread that comes too late
-/// finds none.
+/// Knows the progress window by the events that it receives, while it exists. A thread that is too late finds
+/// none.
 class ProgressWatch : public wxEventFilter {
 public:
     ProgressWatch() { wxEvtHandler::AddFilter(this); }
@@ -21,7 +21,7 @@ public:
     int FilterEvent(wxEvent& event) override {
         const std::lock_guard lock(m_mutex);
         if (event.GetEventType() == wxEVT_DESTROY) {
-            // By then it is no ProgressFrame any more.
+            // By then it is no longer a ProgressFrame.
             if (m_frame && event.GetEventObject() == m_object)
                 m_frame = nullptr;
         } else if (auto* frame = dynamic_cast<ProgressFrame*>(event.GetEventObject())) {
@@ -31,15 +31,17 @@ public:
         return Event_Skip;
     }
 
-    /// Does what the Cancel button does: the waits of a transfer poll the flag. A transfer takes no events
-    /// but the user's, so nothing can be handed to the window's thread meanwhile. Nothing if it is over.
+    /// Does what the Cancel button does: the waits of a transfer poll the flag. A transfer handles only the
+    /// user's events, so the window's thread can't be given work meanwhile. Does nothing if the transfer is
+    /// over.
     void Cancel() {
         const std::lock_guard lock(m_mutex);
         if (m_frame)
             m_frame->Cancelled = true;
     }
 
-    /// The main gauge's value once it is at least that or some time has passed; -1 if the transfer is over.
+    /// The main gauge's value, once it is at least that or a time limit has passed; -1 if the transfer is
+    /// over.
     int GaugeValue(int atLeast) {
         int value = Gauge(&wxGauge::GetValue);
         for (int tries = 0; tries < 300 && value >= 0 && value < atLeast; ++tries) {

@@ -1,4 +1,4 @@
-// What a digital radio holds after any number of writes.
+// Content of a digital radio after several writes.
 #include "tests/transfer/DigitalRadioTest.h"
 
 using namespace testbench;
@@ -8,7 +8,7 @@ namespace {
 
 class RadioContent : public DigitalRadioTest {
 protected:
-    /// Nothing was read since the program's start.
+    /// Sets the state of a program that has read nothing since its start.
     static void ForgetRadio() { RadioStamp = ""; }
 
     static void FillMemories(int first, int last) {
@@ -16,7 +16,7 @@ protected:
             FillP25Row(row);
     }
 
-    /// A new shadow of a row, as the command makes it.
+    /// Makes a new shadow of a row, as the command does.
     static void MakeShadow(int shadow, const wxString& primary) {
         const int row = wxAtoi(primary);
         FillP25Row(shadow, "A0", "01", primary);

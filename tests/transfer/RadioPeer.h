@@ -10,8 +10,8 @@
 
 namespace transfertest {
 
-/// Plays a script on a serial port of its own while the test's own thread transfers. What the script says
-/// is up to the test; it should read by deadlines, as PseudoTerminal does.
+/// Runs a script on its own serial port while the test's thread transfers. The test provides the script,
+/// which should read with deadlines, as PseudoTerminal does.
 class RadioPeer {
 public:
     explicit RadioPeer(std::function<void(RadioPeer&)> script) {
@@ -31,13 +31,14 @@ public:
     const std::string& PortName() const { return m_port.SlaveName(); }
     PseudoTerminal& Port() { return m_port; }
 
-    /// Takes count bytes, or what came within the time, and keeps them in Heard.
+    /// Reads count bytes, or what arrived within the time, and keeps them in Heard.
     std::string Hear(std::size_t count, int ms = 15000) {
         const std::string text = m_port.Read(count, std::chrono::milliseconds(ms));
         m_heard += text;
         return text;
     }
-    /// Takes text up to and with a carriage return, or what came within the time, and keeps it in Heard.
+    /// Reads text up to and including a carriage return, or what arrived within the time, and keeps it in
+    /// Heard.
     std::string HearLine(int ms = 15000) {
         const std::string text = m_port.ReadUntil('\r', std::chrono::milliseconds(ms));
         m_heard += text;
@@ -45,15 +46,15 @@ public:
     }
     void Say(const std::string& text) { m_port.Write(text); }
 
-    /// Pulls the plug.
+    /// Unplugs the radio.
     void Vanish() {
         m_port.ReleaseSlave();
         m_port.CloseMaster();
     }
 
-    /// All that the script has heard. To be asked when it has finished.
+    /// Everything that the script has heard. Call only after the script has finished.
     const std::string& Heard() const { return m_heard; }
-    /// What the program sent and the script did not take.
+    /// What the program sent and the script did not read.
     std::string Rest() { return m_port.Read(10000, std::chrono::milliseconds(100)); }
 
 private:
@@ -62,14 +63,14 @@ private:
     std::thread m_thread;
 };
 
-/// A text as a radio sends it that sets bit 7 on every byte.
+/// A text as sent by a radio that sets bit 7 of every byte.
 inline std::string Marked(std::string text) {
     for (char& byte : text)
         byte = static_cast<char>(byte | 0x80);
     return text;
 }
 
-/// A memory line of the long form as a radio sends it, with its carriage return.
+/// A memory line of the long form with its carriage return, as a radio sends it.
 inline std::string RadioLine(const std::string& number, const std::string& frequency = "138.0000",
                              const std::string& description = "RADIO    ") {
     return number + " " + description + " " + frequency + "RX " + frequency +

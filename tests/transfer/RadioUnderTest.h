@@ -1,4 +1,4 @@
-// A simulated radio that runs as a program of its own.
+// A simulated radio that runs as a separate program.
 #pragma once
 
 #include "robot/Files.h"
@@ -16,10 +16,10 @@
 
 namespace transfertest {
 
-/// Plays one radio from its start to the end of the object. Its memories can be asked for when it has ended.
+/// Runs one radio from its start to the end of the object. Its memories can be read once it has ended.
 class RadioUnderTest {
 public:
-    /// model as zelk-radio takes it, such as "KRV-650:FM 138-174"; memories are lines that it starts with.
+    /// model as zelk-radio accepts it, such as "KRV-650:FM 138-174"; memories are its initial lines.
     explicit RadioUnderTest(const std::string& model, const std::vector<std::string>& options = {},
                             const std::string& memories = "") {
         testbench::WriteFile(MemoryFile(), memories);
@@ -33,11 +33,10 @@ public:
 
     std::string PortName() const { return (m_folder / "ports" / "radio").string(); }
 
-    /// Switches the radio off and gives its exit code, which for a digital one is 3 if it had something to
-    /// refuse.
+    /// Switches the radio off and returns its exit code. A digital radio's code is 3 if it refused something.
     int SwitchOff() { return m_process->Terminate(); }
 
-    /// Switches the radio off. What it then holds, by number: the line's first three characters.
+    /// Switches the radio off. Returns its memory lines by number, their first three characters.
     std::map<std::string, std::string> Memories() {
         std::map<std::string, std::string> memories;
         for (const std::string& line : MemoryLines())
@@ -45,8 +44,8 @@ public:
         return memories;
     }
 
-    /// Switches a digital radio off. The records that it then holds, by their address, with their layout:
-    /// "1 T143..." or "2 T143...".
+    /// Switches a digital radio off. Returns its records by their address, with their layout: "1 T143..." or
+    /// "2 T143...".
     std::map<int, std::string> Records() {
         std::map<int, std::string> records;
         for (const std::string& line : MemoryLines())
@@ -54,16 +53,16 @@ public:
         return records;
     }
 
-    /// What the radio has heard and said so far, one event a line.
+    /// Everything that the radio has received and sent so far, one event a line.
     std::string Log() const { return testbench::ReadFileIfAny(LogFile()); }
 
-    /// Waits until the log has that text, for ten seconds at most.
+    /// Waits until the log contains that text, for ten seconds at most.
     void AwaitInLog(const std::string& text) const {
         for (int tries = 0; tries < 1000 && Log().find(text) == std::string::npos; ++tries)
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
 
-    /// What the radio has complained about: whatever a real one would have refused or not understood.
+    /// Everything that the radio has complained about: what a real one would have refused or not understood.
     std::string Complaints() const {
         std::string complaints;
         std::istringstream output(m_process->Output());
@@ -73,14 +72,14 @@ public:
         return complaints;
     }
 
-    /// Waits until the radio has noticed that its port was closed, or has gone.
+    /// Waits until the radio has noticed that its port was closed, or has ended.
     void AwaitClosedPort() {
         for (int tries = 0; tries < 500 && m_process->IsRunning() && !Log().ends_with("port closed\n");
              ++tries)
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
 
-    /// Waits for the end of a radio that ends by itself.
+    /// Waits for a radio that ends by itself.
     void AwaitEnd() { m_process->WaitForExit(); }
 
 private:

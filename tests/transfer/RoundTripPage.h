@@ -1,4 +1,4 @@
-// A full page of memories of all kinds, and what becomes of its cells on their way to a radio and back.
+// A full page of memories of all kinds, and the changes to its cells on their way to a radio and back.
 #pragma once
 
 #include "catalogue/PageModel.h"
@@ -12,16 +12,16 @@ namespace transfertest {
 
 using CellTexts = std::array<std::string, ColumnTotal>;
 
-/// What a column's cell is after its way; a column without a rule comes back as it was.
+/// Text of a column's cells after the round trip. A column without a rule comes back unchanged.
 struct ColumnRule {
     std::vector<int> columns;
     const char* reason;
     std::string (*after)(const CellTexts& before, int column);
-    /// Former text of a cell that is painted, since what came for it wasn't in its list.
+    /// Former text of a cell that is painted because the received text wasn't in its list.
     const char* painted = "";
 };
 
-/// A primary and its shadows, by slot; 0 for a free slot.
+/// A primary and its shadows by slot; 0 for a free slot.
 struct Family {
     int primary;
     std::array<int, 7> shadows;
@@ -33,7 +33,7 @@ inline const Family Families[] = {
     {200, {201, 0, 219, 0, 0, 0, 218}},
 };
 
-/// The texts of the lists, as the radios count them.
+/// The texts of the lists, in the order of the radios' numbers.
 inline const std::vector<std::string> Tones = {
     "67.0",  "69.3",  "71.9",  "74.4",  "77.0",  "79.7",  "82.5",  "85.4",  "88.5",  "91.5",  "94.8",
     "97.4",  "100.0", "103.5", "107.2", "110.9", "114.8", "118.8", "123.0", "127.3", "131.8", "136.5",
@@ -49,17 +49,17 @@ inline const std::vector<std::string> Codes = {
 inline const std::vector<std::string> Zones = {"1",  "2",  "3",  "4",  "5",  "6", "7", "8", "9", "10", "11",
                                                "12", "13", "14", "15", "16", "A", "C", "E", "F", "H",  "I",
                                                "K",  "L",  "M",  "N",  "P",  "T", "U", "V", "W", "X"};
-/// What the default rows of the P25 pages have.
+/// Texts of the P25 pages' default rows.
 inline const std::string DefaultTone = "67.0", DefaultCode = "023";
 
 inline std::string Formatted(const char* format, int value) {
     return wxString::Format(wxString(format), value).utf8_string();
 }
 
-/// What pages differ in.
+/// The differences between pages.
 struct RoundTripShape {
-    int rows;           ///< memories, the last two being the guards
-    int zones;          ///< zones of the other memories, in turn
+    int rows;           ///< memories; the last two are the guards
+    int zones;          ///< zones of the other memories, used in turn
     const char* guards; ///< zone of the guards
     bool squelchValues; ///< whether RNSV is filled
     int frequencyDecimals;
@@ -71,7 +71,7 @@ public:
     explicit RoundTripPage(const RoundTripShape& shape)
         : m_squelchValues(shape.squelchValues), m_decimals(shape.frequencyDecimals) {
         const int rows = shape.rows;
-        int placed = 0; // memories that have a zone of their own
+        int placed = 0; // memories with a zone of their own
         for (int row = 1; row <= rows; ++row) {
             m_cells[row] = Plain(row);
             if (row > rows - 2)
@@ -96,7 +96,7 @@ private:
 
     std::string Frequency(int hertz) const {
         const std::string text = Formatted("%d.", hertz / 1'000'000) + Formatted("%06d", hertz % 1'000'000);
-        // Four decimals, and a fifth where it says something.
+        // Four decimals, and a fifth unless it is 0.
         return text.substr(0, m_decimals == 5 && text[8] != '0' ? 9 : 8);
     }
 
@@ -164,7 +164,7 @@ private:
     std::map<int, CellTexts> m_cells;
 };
 
-// ---- What happens to cells ----
+// ---- Changes to cells ----
 
 inline std::string WithoutZeros(const CellTexts& before, int column) {
     return std::to_string(std::stoi(before[static_cast<std::size_t>(column)]));

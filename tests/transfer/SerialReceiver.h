@@ -1,4 +1,4 @@
-// Collects what a port's read callback is given.
+// Collector of the data that a port's read callback receives.
 #pragma once
 
 #include "tests/transfer/SerialWaiting.h"
@@ -25,7 +25,7 @@ public:
         return m_text;
     }
 
-    /// How many bytes each call brought.
+    /// Number of bytes of each call.
     std::vector<std::size_t> Sizes() const {
         const std::lock_guard lock(m_mutex);
         return m_sizes;

@@ -1,10 +1,10 @@
-// Waiting for what the port's thread does.
+// Waiting for the port's thread.
 #pragma once
 
 #include <chrono>
 #include <thread>
 
-/// Polls a condition for up to ten seconds; true as soon as it holds.
+/// Polls a condition for up to ten seconds. Returns true as soon as it holds, false if it never does.
 template <typename Condition>
 bool Eventually(Condition condition) {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);

@@ -1,4 +1,4 @@
-// The digital driver where things go another way than in the transcripts.
+// The digital driver in cases that the transcripts don't cover.
 #include "tests/transfer/TRecordDriverTest.h"
 
 #include <chrono>
@@ -36,7 +36,7 @@ const std::string End = Sends("T9030000");
 std::string Hello(int protocol) {
     return Sends("T00700002" + std::to_string(protocol) + "030000");
 }
-/// A protocol 0 up to the place where data begin.
+/// A protocol 0 dialogue up to the place where data begin.
 std::string Opening(const std::string& openingMessage) {
     return Hello(0) + Ack + Sends("T204000022") + Says("T207000023010203") + ">T20B000021" + AnyStamp + "\n" +
            Ack + Sends(openingMessage) + Ack;
@@ -52,13 +52,13 @@ std::string DataRecord(const std::string& text) {
         line += Text(wxString::Format("%02X", static_cast<int>(static_cast<unsigned char>(c))));
     return Says(line);
 }
-/// A whole read of the hardware from a radio of that serial number.
+/// A complete read of the hardware from a radio of that serial number.
 std::string HardwareOf(const std::string& serial) {
     return HardwareOpening() + DataRecord(serial) + Sends("T204000000") + DataRecord("Board 3") +
            Sends("T204000000") + Says("T9030000");
 }
 
-/// A transcript up to its nth line of the program, counted from 0, or empty if it has no such line.
+/// A transcript up to the program's nth line, counted from 0, or empty if it has no such line.
 std::string UpToProgramLine(const Transcript& whole, int n) {
     std::string part;
     for (const std::string& line : whole.Lines()) {
@@ -406,7 +406,7 @@ TEST_F(TRecordDriver, LineFeedsBehindTheLinesAreDropped) {
 }
 
 TEST_F(TRecordDriver, LateLineFeedCostsNoRecord) {
-    // Each line feed comes when its line has been answered, in front of the next line.
+    // Each line feed is sent after the program has answered its line, before the next line.
     RadioPeer peer([](RadioPeer& radio) {
         for (const char* line : {"T204000000", "T207000023010203", "T204000000", "T204000000", "T9030000"}) {
             radio.HearLine();

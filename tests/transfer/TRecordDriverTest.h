@@ -1,4 +1,4 @@
-// The digital driver against radios that the test plays.
+// Digital driver tests in which the test plays the radio.
 #pragma once
 
 #include "robot/TempFolder.h"
@@ -23,10 +23,10 @@ using TRecordProtocol::TransferData;
 
 constexpr const char* TimeoutText = "Timeout Error\nVerify Radio is in PC Download mode (3-8)\n"
                                     "and correct COM port is selected";
-/// The stamp that radios of the transcripts have.
+/// Stamp of the radios in the transcripts.
 constexpr const char* KnownStamp = "20240131235959";
 
-/// Gives a context its port and its progress window for the object's life.
+/// Provides a context with its port and its progress window while the object lives.
 class Attachment {
 public:
     Attachment(TRecordContext& context, const std::string& portName)
@@ -58,7 +58,7 @@ private:
     wxAsyncSerial m_port;
 };
 
-/// A page of a digital radio without memories, in a working directory of its own.
+/// A page of a digital radio without memories, in its own working directory.
 class TRecordDriverTest : public TransferTest {
 protected:
     void SetUp() override {
@@ -87,7 +87,7 @@ protected:
         OpModes[0] = NarrowMode | DigitalMode;
     }
 
-    /// A memory as the records of the transcripts have it.
+    /// Fills a row with a memory as in the records of the transcripts.
     static void FillP25Row(int row, const wxString& transferFlags = "A0", const wxString& flags = "00",
                            const wxString& primary = "000") {
         const bool shadow = (flags[1].GetValue() & 7) != 0;
@@ -113,7 +113,7 @@ protected:
 
     static void AskForWorkingLog() { testbench::WriteFile("Zelk.log", "former text\n"); }
 
-    /// One transfer by the file of a transcript, with a log that is held against it too.
+    /// Runs one transfer by a transcript's file, and compares the log too.
     int TransferBy(const std::string& name, int mode) {
         SCOPED_TRACE(name);
         AskForWorkingLog();
@@ -122,7 +122,7 @@ protected:
         return status;
     }
 
-    /// One transfer by a transcript; also sees to what every transfer must leave.
+    /// Runs one transfer by a transcript and checks what every transfer must leave.
     int Transfer(const Transcript& transcript, int mode) {
         TranscriptPeer peer(transcript, [this] { Cancel(); });
         const int status = TransferData(m_context, CurrentGrid(), mode, peer.PortName(), "Test");
@@ -137,7 +137,7 @@ protected:
         return status;
     }
 
-    /// The dialogue alone, without boxes, log and end record.
+    /// Runs the dialogue alone, without boxes, log and end record.
     int Converse(const Transcript& transcript, int mode) {
         TranscriptPeer peer(transcript, [this] { Cancel(); });
         const int status = ConverseOn(peer.PortName(), mode);
@@ -152,7 +152,7 @@ protected:
     static constexpr const char* UnknownRadio = "This radio's memories were not read by this program.\n";
     static constexpr const char* RadioHoldsMore = "This radio holds memories that this page doesn't.\n";
 
-    /// Expects the question before a radio is emptied that holds, by reason, what the page doesn't.
+    /// Expects the question before a purge of a radio that holds, by reason, what the page doesn't.
     static testbench::ExpectedDialog& ExpectPurgeQuestion(testbench::DialogScript& script,
                                                           int answer = wxID_OK,
                                                           const std::string& reason = UnknownRadio) {

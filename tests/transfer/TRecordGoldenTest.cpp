@@ -1,4 +1,4 @@
-// Whole conversations with digital radios, held against the transcripts line by line.
+// Complete conversations with digital radios, compared with the transcripts line by line.
 #include "tests/transfer/TRecordDriverTest.h"
 
 #include <wx/regex.h>
@@ -23,7 +23,7 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(Protocol, TRecordGeneration, testing::Values(0, 1, 2));
 
-/// A date and time as files have it.
+/// A date and time as in files.
 constexpr const char* Date = R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d)";
 
 void ExpectMatch(const std::string& text, const std::string& expression) {

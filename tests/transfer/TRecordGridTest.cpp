@@ -1,4 +1,4 @@
-// What a transfer does to a page beside its records: the choice of the layout, flags, the gauge.
+// Effects of a transfer on a page other than its records: the choice of the layout, flags, the gauge.
 #include "editing/ColumnChecks.h"
 #include "tests/transfer/TRecordPage.h"
 #include "transfer/DebugLog.h"
@@ -20,7 +20,7 @@ protected:
         return out.utf8_string();
     }
 
-    /// The zones of the slots that are taken on the page, a name for each slot.
+    /// The zones of the page's occupied slots, with a name for each slot.
     static std::string SlotText() {
         std::string text;
         for (int zone = 0; zone < ZonesPerPage; ++zone)
@@ -105,7 +105,7 @@ TEST_F(TRecordGrid, ThatComesTwiceTakesNoOtherRowsSlotAlsoWhereItFoundItsZoneFul
     Open(Kdrv716B);
     ZoneSlots.fill(0);
     m_context.RecordVersion = 2;
-    // Of 17 rows the last finds the zone full: it shows the zone and holds no slot of it.
+    // The last of the 17 rows finds the zone full: it shows the zone but holds no slot of it.
     for (int row = 10; row <= 26; ++row) {
         Fill(row, Sample, {{ZONE, "3"}});
         const std::string line = Line(2, row);
@@ -164,7 +164,7 @@ TEST_F(TRecordGrid, DebugLogMovesTheMainGauge) {
         EXPECT_EQ(progress.MainGauge()->GetValue(), value) << address;
     }
     progress.MainGauge()->SetRange(100);
-    decodeDebugLog(m_context); // 128 lies outside
+    decodeDebugLog(m_context); // 128 is out of range
     EXPECT_LE(progress.MainGauge()->GetValue(), 100);
     m_context.Progress = nullptr;
 }

@@ -1,4 +1,4 @@
-// A test with a page, rows for it, and the records of those rows field by field.
+// A test with a page, its rows, and the records of these rows field by field.
 #pragma once
 
 #include "catalogue/PageModel.h"
@@ -16,11 +16,11 @@ namespace trecordtest {
 
 using Cells = std::vector<std::pair<int, wxString>>;
 
-/// A page of the tests: the first one of a radio, or one of those below.
+/// A page of the tests: the first page of a radio, or one of those below.
 struct Page {
     int radio, bandIndex;
-    int band = RadioCatalogue::NoBand; ///< where it isn't that of the band slot
-    int type = -1;                     ///< where it isn't the radio's own
+    int band = RadioCatalogue::NoBand; ///< if it differs from that of the band slot
+    int type = -1;                     ///< if it differs from the radio's own
 
     constexpr Page(RadioCatalogue::RadioIndex index) : radio(index), bandIndex(0) {}
     constexpr Page(RadioCatalogue::RadioIndex index, int slot) : radio(index), bandIndex(slot) {}
@@ -47,9 +47,9 @@ inline constexpr Page K7 = K6.OnBand(RadioCatalogue::K7Module);
 inline constexpr Page Krv620AM(Krv620, 1);
 inline constexpr Page Fxam = Page(Krv47).OfType(RadioCatalogue::FXAM);
 
-// The fields of a record, in its order, with what they hold in the record of the usual memory. A case names
-// only the fields that it changes. What a field holds is told by the printed layout of the record; the two
-// digits of a byte stand together.
+// The fields of a record in order, with their values in the record of the usual memory. A case names only the
+// fields that it changes. The record's layout defines the content of a field. The two digits of a byte stay
+// together.
 struct V1Line {
     std::string tag = "T143";
     std::string address = "0005";
@@ -125,7 +125,7 @@ struct V2Line {
     }
 };
 
-/// A row with cells other than Sample's, over a default row with other cells, and its record.
+/// A row that differs from Sample in these cells, its default row's other cells, and its record.
 template <class Line>
 struct EncodeCase {
     const char* name;
@@ -137,8 +137,8 @@ struct EncodeCase {
 
 enum RowKind { PlainRow, PrimaryRow, ShadowRow };
 
-/// A record and the row that it makes, with cells other than those of the usual memory, its painted cells
-/// and its locks.
+/// A record and the row made from it: the cells that differ from the usual memory's, the painted cells and
+/// the locks.
 template <class Line>
 struct DecodeCase {
     const char* name;
@@ -150,7 +150,7 @@ struct DecodeCase {
     RowKind kind;
 };
 
-/// Row 5 as a person would fill it.
+/// Row 5 as a user would fill it.
 inline const Cells Sample = {
     {MFLG, "00"},    {MNUM, "005"},    {PRIM, "005"},  {SHAD, "N"},        {BAND, "FM 136-174"}, {SCAN, "N"},
     {ZONE, "3"},     {DESC, "HILL 4"}, {MODE, "n"},    {RFRQ, "154.1250"}, {RSQL, "t"},          {RNSV, "3"},
@@ -160,7 +160,7 @@ inline const Cells Sample = {
     {RONL, ""},      {TFLG, "A1"},
 };
 
-/// Nothing in any cell that goes out.
+/// Empty texts in all cells that are sent.
 inline const Cells EmptyCells = {
     {MFLG, ""}, {MNUM, ""}, {PRIM, ""}, {ZONE, ""}, {DESC, ""}, {MODE, ""}, {RFRQ, ""},
     {RSQL, ""}, {RNSV, ""}, {RTON, ""}, {RCOD, ""}, {RTGP, ""}, {RNAC, ""}, {TFRQ, ""},
@@ -169,7 +169,7 @@ inline const Cells EmptyCells = {
 
 class TRecordPage : public ZelkWindowTest {
 protected:
-    /// The page as it is when it has been made.
+    /// Opens the page in its initial state.
     void Open(Page page) {
         Retarget(page.radio, page.bandIndex);
         if (page.band != RadioCatalogue::NoBand)
@@ -179,7 +179,7 @@ protected:
         m_page = page;
     }
 
-    /// The same, sparing the work where the page is open and its default row untouched.
+    /// As Open, but skips the work if the page is open and its default row untouched.
     void OpenFor(Page page, int row) {
         if (m_page != page || row == 0 || m_defaultsTouched)
             Open(page);
@@ -204,7 +204,7 @@ protected:
             CurrentGrid()->SetReadOnly(row, column, false);
     }
 
-    /// A row as blank as a new page has it.
+    /// Clears a row to its state on a new page.
     static void Blank(int row) {
         for (int column = 0; column < ColumnTotal; ++column) {
             SetCell(row, column, "");
@@ -214,7 +214,7 @@ protected:
         Unlock(row);
     }
 
-    /// All cells of a row, one tag and text a line, with a mark for a cell that is painted or read-only.
+    /// All cells of a row, one tag and text a line, with a mark for a painted or read-only cell.
     static std::string RowText(int row) {
         std::string text;
         for (int column = 0; column < ColumnTotal; ++column) {
@@ -228,7 +228,7 @@ protected:
         return text;
     }
 
-    /// RowText of a row with those cells.
+    /// RowText of a row with these cells.
     static std::string ExpectedText(const Cells& cells, const Cells& changes, const std::vector<int>& painted,
                                     RowKind kind) {
         std::vector<wxString> texts(ColumnTotal);
@@ -277,7 +277,7 @@ protected:
         std::cout << "[   lines  ] " << count << " whole lines to the radio\n";
     }
 
-    /// @param usual cells of the row of the first case
+    /// @param usual cells of the row in the first case
     template <class Line, size_t count>
     void CheckLinesFromRadio(const DecodeCase<Line> (&cases)[count], const Cells& usual, Decoder decode) {
         for (const auto& c : cases) {

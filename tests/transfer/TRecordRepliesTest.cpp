@@ -1,4 +1,4 @@
-// What each line of a digital radio does.
+// Effects of each line from a digital radio.
 #include "transfer/TRecordDialogue.h"
 
 #include "tests/transfer/TRecordDriverTest.h"
@@ -36,7 +36,7 @@ protected:
 
     PseudoTerminal m_port;
     std::unique_ptr<Attachment> m_attachment;
-    std::string m_offered; ///< a line that was newly set
+    std::string m_offered; ///< a newly set line
 };
 
 } // namespace
@@ -50,7 +50,7 @@ TEST_F(TRecordReply, DoesWhatItsStateAndModeSay) {
         std::uint32_t protocol;
         int index;
         std::uint32_t retries;
-        // what comes of it
+        // expected results
         std::uint32_t phase;
         int status, indexAfter;
         std::uint32_t retriesAfter;

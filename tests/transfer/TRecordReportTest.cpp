@@ -1,4 +1,4 @@
-// How a transfer with a digital radio is told to have ended.
+// Reports of how a transfer with a digital radio ended.
 #include "transfer/TRecordDialogue.h"
 
 #include "tests/transfer/TRecordDriverTest.h"

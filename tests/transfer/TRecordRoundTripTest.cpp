@@ -1,4 +1,4 @@
-// A whole page goes out and comes back: what a radio that keeps each record as it is gives back.
+// A complete page sent and read back through a radio that keeps each record unchanged.
 #include "catalogue/RadioCatalogue.h"
 #include "catalogue/TextNumbers.h"
 #include "transfer/TRecordFields.h"
@@ -12,7 +12,7 @@ using namespace RadioCatalogue;
 
 namespace {
 
-/// Rows of a page of the second generation, the default row among them.
+/// Rows of a page of the second generation, including the default row.
 constexpr int GridRows = 1 + NP25Memories + GuardRowTotal;
 
 wxString Nth(const wxArrayString& list, int n) {
@@ -28,7 +28,7 @@ class TRecordRoundTrip : public ::testing::Test {
 protected:
     TRecordRoundTrip() { FillChoiceLists(); }
 
-    /// Every column in values of its own; the lists of tones, codes and zones from end to end.
+    /// Different values in every column, with the lists of tones, codes and zones from end to end.
     static wxArrayString CellsOf(int row) {
         wxArrayString cells;
         cells.resize(ColumnTotal);
@@ -60,8 +60,8 @@ protected:
         return cells;
     }
 
-    /// The row and the cells of a row that went out and came back. "nothing" stands for a text that the
-    /// lists don't hold.
+    /// The row and the cells of a row that was sent and read back. "nothing" marks a text that the lists
+    /// don't contain.
     static std::pair<int, std::map<int, std::string>> ThereAndBack(std::span<const TRecordField> layout,
                                                                    int row) {
         TRecordSource source;
@@ -77,7 +77,7 @@ protected:
         return {values.row, cells};
     }
 
-    /// The place behind a code in the list.
+    /// The code after this one in the list, "nothing" after the last.
     static std::string OneFurther(const wxString& code) {
         const size_t place = static_cast<size_t>(CodeList.Index(code)) + 1;
         return place < CodeList.size() ? CodeList[place].utf8_string() : "nothing";
@@ -85,12 +85,13 @@ protected:
 
     static std::string Number(int number) { return std::to_string(number); }
 
-    /// Compares what came back of a row with what went out but for changes, and counts those by column.
+    /// Compares a row that was read back with the sent one, expects only these changes, and counts them by
+    /// column.
     void Check(std::span<const TRecordField> layout, int row, const std::map<int, std::string>& changes) {
         const wxArrayString before = CellsOf(row);
         const auto [rowBack, after] = ThereAndBack(layout, row);
         EXPECT_EQ(rowBack, row);
-        EXPECT_EQ(after.size(), 27u) << row; // all columns but SHAD, BAND, SCAN, RONL and TFLG
+        EXPECT_EQ(after.size(), 27u) << row; // all columns except SHAD, BAND, SCAN, RONL and TFLG
         for (const auto& [column, text] : after) {
             const std::string was = before[static_cast<size_t>(column)].utf8_string();
             const auto change = changes.find(column);
@@ -117,7 +118,7 @@ TEST_F(TRecordRoundTrip, OfV2ChangesTheseCellsOnly) {
             {TFRQ, before[TFRQ].utf8_string() + "0"},
             {RCOD, OneFurther(before[RCOD])},
             {TCOD, OneFurther(before[TCOD])},
-            {SHD0, "0"}, // shadows don't go out
+            {SHD0, "0"}, // shadows aren't sent
         };
         if (before[RTON] == "OFF")
             changes[RTON] = "nothing";
@@ -144,11 +145,11 @@ TEST_F(TRecordRoundTrip, OfV1ChangesTheseCellsOnly) {
         ++carried;
         const wxArrayString before = CellsOf(row);
         std::map<int, std::string> changes = {
-            {RNSV, wxString::Format("%2d", row % 16).utf8_string()}, // a blank before one digit
+            {RNSV, wxString::Format("%2d", row % 16).utf8_string()}, // a blank before a single digit
             {TCOD, OneFurther(before[TCOD])},
             {TIDC, Number(row * 1991)}, // no leading zeros
             {SHD0, "0"},
-            {ZONE, Number(row % 16 + 1)}, // only 16 zones have a place
+            {ZONE, Number(row % 16 + 1)}, // only 16 zones fit
         };
         if (row > 500)
             changes[ZONE] = "16";

@@ -1,4 +1,4 @@
-// Which rows go to a digital radio, and as what.
+// Choice of the rows that are sent to a digital radio, and their form.
 #include "transfer/TRecordDialogue.h"
 
 #include "tests/transfer/TRecordDriverTest.h"
@@ -18,7 +18,7 @@ protected:
             new TRecordDialogue{m_context, CurrentGrid(), WriteChannelsMode, CurrentGrid()->GetNumberRows()});
     }
 
-    /// What is found out about the page as it is.
+    /// Evaluates the page in its present state.
     void Evaluate() {
         m_context.XferFlags = 0x30;
         m_context.InvalidModes = 0;
@@ -27,7 +27,7 @@ protected:
         EvaluateRows(*m_dialogue);
     }
 
-    /// What the row at index is sent as: the line without its checksum.
+    /// The line that is sent for the row at index, without its checksum.
     std::string LineOf(int index) {
         m_context.Index = index;
         m_context.TxLine.clear();
@@ -61,7 +61,7 @@ TEST_F(TRecordEvaluation, CountsSelectedRowsThatAreDefined) {
     EXPECT_EQ(CellText(502, TFLG), "A1");
 }
 
-// Not the letter of the protocol's set-up, which selects blank rows as well.
+// Intentional: the protocol's set-up would select blank rows too.
 TEST_F(TRecordEvaluation, KeepsBlankRowsBlankByDeparture) {
     FillP25Row(1);
     FillP25Row(2, "A0", "01", "001");
@@ -105,7 +105,7 @@ TEST_F(TRecordEvaluation, KeepsTheSelectionOfTheFamilyOfASelectedShadow) {
     SetCell(20, SHD1, "019");
     FillP25Row(21, "A1", "01", "020");
     FillP25Row(19, "A1", "02", "020");
-    FillP25Row(22, "A1", "01", "020"); // the primary doesn't know it
+    FillP25Row(22, "A1", "01", "020"); // missing in the primary's list
     Select({21});
     Evaluate();
     for (const int row : {19, 20, 21})
@@ -267,7 +267,7 @@ TEST_F(TRecordRows, GoOutByTheirFlagsTheSelectionAndThePass) {
         const char* flags;
         bool selected;
         std::uint32_t xferFlags;
-        char sent; // 's'ent, 'e'rased, or '-'
+        char sent; // 's' for sent, 'e' for erased, or '-'
     } const cases[] = {
         {"selected", "A1", "00", true, primaries, 's'},
         {"not selected", "A1", "00", false, primaries, '-'},

@@ -1,4 +1,4 @@
-// Rules of a memory record that look at several cells: the primary of a shadow, and whether a row is scanned.
+// Rules of a memory record that involve several cells: a shadow's primary, and whether a row is scanned.
 #include "catalogue/RadioCatalogue.h"
 #include "transfer/TRecordFields.h"
 

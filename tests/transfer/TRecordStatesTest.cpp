@@ -1,4 +1,4 @@
-// What the program says to a digital radio in each state.
+// The program's line to a digital radio in each state.
 #include "transfer/TRecordDialogue.h"
 
 #include "tests/transfer/TRecordDriverTest.h"
@@ -23,7 +23,7 @@ protected:
         TRecordDriverTest::TearDown();
     }
 
-    /// The line that is chosen, without its checksum.
+    /// The chosen line without its checksum.
     std::string Choose(int index, int mode) {
         m_context.Index = index;
         m_context.TxLine = "a former line";

@@ -93,7 +93,7 @@ TEST(TRecord, MessagesWithDataBeginWithThese) {
         {"MSG_SID", MSG_SID, "20261121001907",
          "T20B00002120261121001907"
          "3B"},
-        // 07 00 00 23 and six bytes: the checksum counts them as pairs of digits
+        // 07 00 00 23 and six bytes, which the checksum counts as pairs of digits
         {"version reply", VersionReply, "020001",
          "T207000023020001"
          "D2"},
@@ -126,12 +126,12 @@ TEST(TRecord, ChecksumOfALineIsLookedAt) {
         {"T204000000fb", true},
         {"T204000000FA", false},
         {"T204000001FB", false},
-        {"T20400000FB", true}, // a half byte before it does not count
+        {"T20400000FB", true}, // a half byte before the checksum doesn't count
         {"T204000000F", false},
         {"T204000000 B", false},
         {"T204000000-5", false},
         {"T9030000FC", true},
-        {"T203000000FC", true}, // the count isn't held against the length
+        {"T203000000FC", true}, // the count isn't compared with the length
         {"T", false},
         {"", false},
         {"T2FF", true},
@@ -253,8 +253,8 @@ TEST(ConfigText, IsWholeWhenItsSumsMakeAMultipleOf256) {
         {"00:name:0102:03:04:F5", true},
         {"00:name:0102:03:04:F4", false},
         {"00:name:0102:03:04:F6", false},
-        {"zz:FFFFFF:0102:03:04:F5", true},    // what stands before field 2 doesn't count
-        {"00:name:0102:03:04:F5:1234", true}, // nor what stands behind field 5
+        {"zz:FFFFFF:0102:03:04:F5", true},    // fields before field 2 don't count
+        {"00:name:0102:03:04:F5:1234", true}, // nor do fields after field 5
         {"00:na\\:me:0102:03:04:F5", true},   // a colon within a field
         {"00:na:me:0102:03:04:F5", false},
         {"::FF:::", true},

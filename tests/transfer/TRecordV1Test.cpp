@@ -15,7 +15,7 @@ protected:
     }
 };
 
-/// The usual memory below, when it comes from the radio.
+/// The usual memory below, as read from the radio.
 const Cells Received = {
     {MFLG, "00"},     {MNUM, "005"},  {PRIM, "005"},      {SHAD, "N"},        {SCAN, "N"},  {ZONE, "3"},
     {DESC, "HILL 4"}, {MODE, "n"},    {RFRQ, "154.1250"}, {RSQL, "t"},        {RNSV, "10"}, {RTON, "100.0"},
@@ -25,7 +25,7 @@ const Cells Received = {
 };
 
 // clang-format off
-/// Row 0 as a new page of the first generation has it.
+/// Row 0 of a new page of the first generation.
 const Cells DefaultCells = {
     {MFLG, "0"}, {MNUM, "0"}, {PRIM, "0"}, {ZONE, "1"}, {DESC, "VHF  136"}, {MODE, "n"}, {RFRQ, "136.0000"}, {RSQL, "x"},
     {RTON, "67.0"}, {RCOD, "023"}, {RTGP, "0001"}, {RNAC, "293"}, {TFRQ, "174.0000"}, {TSQL, "x"}, {TTON, "67.0"},

@@ -15,7 +15,7 @@ protected:
     }
 };
 
-/// The usual memory below, when it comes from the radio.
+/// The usual memory below, as read from the radio.
 const Cells Received = {
     {MFLG, "00"},     {MNUM, "5"},    {PRIM, "5"},         {SHAD, "N"},         {SCAN, "N"}, {ZONE, "3"},
     {DESC, "HILL 4"}, {MODE, "n"},    {RFRQ, "154.12500"}, {RSQL, "t"},         {RNSV, "3"}, {RTON, "100.0"},

@@ -1,4 +1,4 @@
-// Whole conversations with a digital radio, as text that a person can read.
+// Complete conversations with a digital radio as readable text.
 #pragma once
 
 #include "robot/Files.h"
@@ -12,10 +12,10 @@
 
 namespace transfertest {
 
-/// Stands in a transcript for the digits and the checksum of a stamp that the program has just made.
+/// Replaces, in a transcript, the digits and the checksum of a stamp that the program has just made.
 constexpr const char* AnyStamp = "{stamp}";
 
-/// A line of the digital radios with its checksum, worked out apart from the program.
+/// A line of the digital radios with its checksum, computed independently of the program.
 inline std::string Framed(const std::string& line) {
     unsigned sum = 0;
     for (std::size_t at = 2; at + 1 < line.size(); at += 2)
@@ -25,7 +25,7 @@ inline std::string Framed(const std::string& line) {
     return line + checksum;
 }
 
-/// A line of the program as a transcript has it: one that sets a good stamp gets AnyStamp for its digits.
+/// A line of the program as in a transcript: one that sets a valid stamp gets AnyStamp for its digits.
 inline std::string WithoutStamp(const std::string& line) {
     const std::string start = "T20B000021";
     const bool isStamp = line.size() == 26 && line.starts_with(start) &&
@@ -34,7 +34,7 @@ inline std::string WithoutStamp(const std::string& line) {
     return isStamp ? start + AnyStamp : line;
 }
 
-/// A conversation, line by line in its order:
+/// A conversation, line by line in order:
 ///
 ///     >TEXT   sent by the program
 ///     <TEXT   sent by the radio
@@ -56,7 +56,7 @@ public:
 
     const std::vector<std::string>& Lines() const { return m_lines; }
 
-    /// What the log of such a transfer says.
+    /// The expected log of such a transfer.
     std::string Log() const {
         std::string log;
         for (const std::string& line : m_lines)
@@ -78,10 +78,10 @@ inline std::string LogWithoutStamps(const std::string& log) {
     return result;
 }
 
-/// The radio of a transcript: says its lines and holds the program's against it.
+/// The radio of a transcript: sends its lines and compares the program's lines with it.
 class TranscriptPeer {
 public:
-    /// cancel is what the user does at "@cancel"; it runs in the peer's thread.
+    /// cancel is the user's action at "@cancel"; it runs in the peer's thread.
     explicit TranscriptPeer(Transcript transcript, std::function<void()> cancel = {})
         : m_transcript(std::move(transcript)), m_cancel(std::move(cancel)),
           m_peer([this](RadioPeer& radio) { Play(radio); }) {}
@@ -90,7 +90,7 @@ public:
     RadioPeer& Peer() { return m_peer; }
     const Transcript& Text() const { return m_transcript; }
 
-    /// Waits for the end; empty if all went by the transcript, else what did not.
+    /// Waits for the end. Returns the deviation from the transcript, empty if there is none.
     std::string Finish() {
         m_peer.Finish();
         if (m_mismatch.empty())

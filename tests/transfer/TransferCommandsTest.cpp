@@ -1,4 +1,4 @@
-// The commands that read from and send to the radio: what they refuse, ask and tell.
+// The commands that read from and write to the radio: what they refuse, ask and report.
 #include "transfer/ZelkTransfer.h"
 
 #include "tests/support/Keys.h"
@@ -29,7 +29,7 @@ protected:
     }
 };
 
-/// Title of the progress window that stands while a box of the driver is shown.
+/// Keeps the title of the progress window that is open while a box of the driver is shown.
 std::function<void(wxDialog*)> KeepTitle(std::string& title) {
     return [&title](wxDialog*) {
         title = OpenProgress() ? Text(OpenProgress()->GetTitle()) : std::string("no progress window");

@@ -1,4 +1,4 @@
-// The log that a transfer writes when its file has been put in place.
+// The log of a transfer, written after its file has been put in place.
 #include "transfer/TransferLog.h"
 
 #include "robot/Files.h"
@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Fails the test if anything is told to the user.
+// Fails the test on any message to the user.
 class NothingIsTold : public wxLog {
 public:
     NothingIsTold() : m_former(wxLog::SetActiveTarget(this)) {}

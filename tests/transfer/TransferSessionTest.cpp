@@ -1,4 +1,4 @@
-// How a transfer leaves its port and the other windows.
+// State of the port and the other windows after a transfer.
 #include "transfer/TransferSession.h"
 
 #include "tests/support/PseudoTerminal.h"

@@ -1,4 +1,4 @@
-// The texts of the transfer results, and what a transfer starts with.
+// Texts of the transfer results, and the initial state of a transfer.
 #include "transfer/TransferStatus.h"
 
 #include "transfer/TransferContext.h"

@@ -1,4 +1,4 @@
-// A window test that transfers: pages with rows to send, and what is left when a transfer is over.
+// A window test that transfers: pages with rows to send, and checks after a transfer.
 #pragma once
 
 #include "robot/Files.h"
@@ -16,7 +16,7 @@
 
 namespace transfertest {
 
-/// No radio of the catalogue: the one that is asked for its information block.
+/// No radio of the catalogue, but one that is asked for its information block.
 constexpr int AskingRadio = RadioCatalogue::RadioTotal;
 
 constexpr const char* NoSuchPort = "/dev/no-such-port";
@@ -33,7 +33,7 @@ inline ProgressFrame* OpenProgress() {
     return nullptr;
 }
 
-/// A ZelkWindowTest without a log, without a port, and without a former place of the progress window.
+/// A ZelkWindowTest without a log, a port, or a former place of the progress window.
 class TransferTest : public ZelkWindowTest {
 protected:
     TransferTest() : m_formerConfig(wxConfigBase::Set(new wxMemoryConfig)) {}
@@ -54,7 +54,7 @@ protected:
         return std::filesystem::path(Text(wxStandardPaths::Get().GetUserDataDir())) / "Zelk.log";
     }
 
-    /// Asks for a log as a user does.
+    /// Requests a log as a user does.
     static void AskForLog() {
         std::filesystem::create_directories(LogPath().parent_path());
         testbench::WriteFile(LogPath(), "former text\n");
@@ -62,7 +62,7 @@ protected:
 
     static std::string LogText() { return testbench::ReadFile(LogPath()); }
 
-    /// A memory as a person makes it; the frequencies in MHz.
+    /// Fills a row with a memory as a user does; the frequencies in MHz.
     static void FillRow(int row, const wxString& frequency, const wxString& description = "HILL") {
         const std::pair<int, wxString> cells[] = {
             {MNUM, wxString::Format("%03d", row)},
@@ -89,7 +89,7 @@ protected:
 
     static std::string CellText(int row, int column) { return Text(Cell(row, column)); }
 
-    /// All cells of the memory rows in one text.
+    /// All cells of the memory rows as one text.
     static std::string PageText() {
         std::string all;
         for (int row = 1; row < CurrentGrid()->GetNumberRows(); ++row)
@@ -98,13 +98,13 @@ protected:
         return all;
     }
 
-    /// What every transfer must leave: a window that can be used, and nothing of its own.
+    /// Checks what every transfer must leave: a usable window, and nothing of the transfer.
     static void ExpectOver() {
         EXPECT_EQ(OpenProgress(), nullptr) << "the progress window is still there";
         EXPECT_TRUE(MainFrame->IsEnabled()) << "the main window is still disabled";
     }
 
-    /// Whether the port could be opened again now.
+    /// Whether the port can be opened again now.
     static bool PortIsFree(const std::string& port) {
         const wxAsyncSerial again(nullptr, port, 9600);
         return again.isOpen();
@@ -120,7 +120,7 @@ protected:
         MainFrame->OnDownload(event);
     }
 
-    /// Expects the question before a read.
+    /// Expects the question that precedes a read.
     static testbench::ExpectedDialog& ExpectQuestion(testbench::DialogScript& script, int answer = wxID_OK) {
         return script
             .ExpectMessage("Read Channel Data from Radio?",
@@ -128,7 +128,7 @@ protected:
             .Style(wxOK | wxCANCEL);
     }
 
-    /// Expects a box of one button; the toolkit adds the icon where none was asked for.
+    /// Expects a box with one button. The toolkit adds the icon where none was requested.
     static testbench::ExpectedDialog& ExpectBox(testbench::DialogScript& script, const char* caption,
                                                 const char* message) {
         return script.ExpectMessage(caption, message).Style(wxOK | wxCENTRE | wxICON_INFORMATION);

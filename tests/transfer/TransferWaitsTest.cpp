@@ -41,7 +41,7 @@ protected:
         SerialRxBuffer += text;
     }
 
-    // Text that the port brings some time from now.
+    // Receives text after a delay, on another thread.
     std::thread ReceiveLater(const char* text, int ms) {
         return std::thread([text, ms] {
             std::this_thread::sleep_for(std::chrono::milliseconds(ms));
@@ -57,7 +57,7 @@ protected:
         throw std::runtime_error("no Cancel button");
     }
 
-    // Clicks, and leaves the events of it waiting for somebody to look at them.
+    // Clicks and leaves the click's events in the queue.
     void LeaveClickOnCancel() const {
         Hands().Click(MiddleOf(CancelButton()));
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
@@ -170,7 +170,7 @@ TEST_F(WaitForLineTest, AClickOnCancelEndsItWith10) {
 }
 
 TEST_F(WaitForLineTest, ACancelIsSeenInThePassThatBringsIt) {
-    // The line has come too: had the pass gone by without the click, the result would be 0.
+    // The line has arrived too: if the pass had missed the click, the result would be 0.
     Receive("line\r");
     LeaveClickOnCancel();
     EXPECT_EQ(WaitForReturn(5000), 10);
@@ -206,7 +206,7 @@ TEST_F(WaitForLineTest, WithoutAnActiveEventLoopDoesNotYield) {
 
 TEST_F(WaitForLineTest, PulsesEvery50MillisecondsWhateverItsFlagSays) {
     for (const bool pulse : {true, false}) {
-        // A busy machine may stretch any pass, so only what holds at the end of each one is asked for.
+        // A busy machine may stretch any pass, so the test checks only what holds at the end of each.
         for (const int timeout : {0, 70, 330}) {
             m_context.LastPulse = -999;
             EXPECT_EQ(WaitForLine(m_context, timeout, '\r', pulse), 4);

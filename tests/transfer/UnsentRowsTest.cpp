@@ -1,4 +1,4 @@
-// Selected rows that a write didn't send, as the status bar tells them.
+// Selected rows that a write didn't send, as the status bar reports them.
 #include "transfer/UnsentRows.h"
 
 #include "commands/CommandIds.h"
@@ -14,7 +14,7 @@ using namespace transfertest;
 
 namespace {
 
-/// The module K6, whose page has 500 rows of which a radio takes 200.
+/// The module K6. Its page has 500 rows, of which a radio accepts 200.
 class UnsentRows : public TransferTest {
 protected:
     void SetUp() override {
@@ -37,7 +37,7 @@ protected:
         MainFrame->OnCommand(event);
     }
 
-    /// A radio that acknowledges so many lines and then does something else with the next.
+    /// A radio that acknowledges a number of lines and handles the next one differently.
     static std::function<void(RadioPeer&)> Radio(int lines, std::function<void(RadioPeer&)> then) {
         return [lines, then](RadioPeer& peer) {
             peer.HearLine();

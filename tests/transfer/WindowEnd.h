@@ -8,10 +8,10 @@
 #include <wx/toplevel.h>
 #include <wx/weakref.h>
 
-/// Destroys a top-level window and waits until it is really gone: the toolkit deletes it some time later.
+/// Destroys a top-level window and waits until the toolkit has deleted it, which happens some time later.
 inline void DestroyAndWait(wxTopLevelWindow* window) {
     const wxWeakRef<wxTopLevelWindow> watched(window);
     window->Destroy();
-    wxWakeUpIdle(); // the deletion is idle work, which without an event would not be asked for
+    wxWakeUpIdle(); // the deletion is idle work, which doesn't run without an event
     EXPECT_TRUE(testbench::PumpUntil([&] { return !watched; }));
 }

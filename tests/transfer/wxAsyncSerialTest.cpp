@@ -1,4 +1,4 @@
-// The port as the transfer code sees it: texts out, texts in by polling, no exceptions.
+// The port as the transfer code uses it: sending texts, polling for texts, no exceptions.
 #include "transfer/wxAsyncSerial.h"
 
 #include "tests/support/PseudoTerminal.h"
@@ -11,7 +11,7 @@ namespace {
 
 const char kMissing[] = "/dev/no-such-port";
 
-// Polls until `size` characters are there, or ten seconds are over.
+// Polls until `size` characters have arrived or ten seconds have passed.
 wxString ReceiveText(std::size_t size) {
     wxString text;
     Eventually([&] {

@@ -9,7 +9,6 @@
 #include "transfer/TransferMode.h"
 
 #include <benchmark/benchmark.h>
-
 #include <wx/grid.h>
 
 namespace {

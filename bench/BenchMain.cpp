@@ -2,14 +2,12 @@
 #include "bench/Benches.h"
 #include "bench/RatioReport.h"
 #include "frame/ZelkApp.h"
+#include "frame/ZelkMain.h"
 
 #include <benchmark/benchmark.h>
-
 #include <wx/app.h>
 #include <wx/init.h>
 #include <wx/window.h>
-
-#include "frame/ZelkMain.h"
 
 #include <cstring>
 #include <filesystem>

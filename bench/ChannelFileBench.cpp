@@ -9,7 +9,6 @@
 #include "frame/ZelkMain.h"
 
 #include <benchmark/benchmark.h>
-
 #include <wx/filename.h>
 #include <wx/grid.h>
 #include <wx/notebook.h>

@@ -11,7 +11,6 @@
 #include "transfer/TransferMode.h"
 
 #include <benchmark/benchmark.h>
-
 #include <wx/grid.h>
 
 #include <fstream>

@@ -9,7 +9,6 @@
 #include "frame/ZelkMain.h"
 
 #include <benchmark/benchmark.h>
-
 #include <wx/grid.h>
 #include <wx/modalhook.h>
 #include <wx/msgdlg.h>

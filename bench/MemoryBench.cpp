@@ -9,14 +9,14 @@
 #include "frame/ZelkMain.h"
 
 #include <benchmark/benchmark.h>
-
 #include <wx/init.h>
 #include <wx/utils.h>
+
+#include <unistd.h>
 
 #include <cstdio>
 #include <fstream>
 #include <string>
-#include <unistd.h>
 
 namespace {
 

@@ -5,7 +5,6 @@
 #include "frame/ZelkMain.h"
 
 #include <benchmark/benchmark.h>
-
 #include <wx/notebook.h>
 
 namespace {

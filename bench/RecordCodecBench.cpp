@@ -6,7 +6,6 @@
 #include "transfer/TRecordCodec.h"
 
 #include <benchmark/benchmark.h>
-
 #include <wx/grid.h>
 
 #include <string>

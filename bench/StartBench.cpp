@@ -6,7 +6,6 @@
 #include "frame/ZelkMain.h"
 
 #include <benchmark/benchmark.h>
-
 #include <wx/app.h>
 #include <wx/dcclient.h>
 #include <wx/frame.h>
@@ -14,8 +13,9 @@
 #include <wx/init.h>
 #include <wx/sizer.h>
 
-#include <cstdio>
 #include <unistd.h>
+
+#include <cstdio>
 
 namespace {
 

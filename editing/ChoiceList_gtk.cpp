@@ -1,8 +1,7 @@
 #include "editing/ChoiceList.h"
 
-#include <wx/combobox.h>
-
 #include <gtk/gtk.h>
+#include <wx/combobox.h>
 
 #include <algorithm>
 #include <optional>

@@ -6,9 +6,9 @@
 #include "editing/MemoryNumbers.h"
 #include "editing/ZelkEditors.h"
 
-#include <algorithm>
-
 #include <wx/grid.h>
+
+#include <algorithm>
 
 using namespace RadioCatalogue;
 

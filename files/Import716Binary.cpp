@@ -1,8 +1,7 @@
-#include "files/Import716.h"
-
 #include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "files/Import716.h"
 #include "files/ImportOutcome.h"
 #include "files/ImportText.h"
 #include "files/LastOfRow.h"

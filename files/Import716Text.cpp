@@ -1,9 +1,8 @@
-#include "files/Import716.h"
-
 #include "catalogue/AsciiText.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
+#include "files/Import716.h"
 #include "files/ImportOutcome.h"
 #include "files/ImportText.h"
 #include "files/LastOfRow.h"

@@ -1,12 +1,13 @@
 // The serial ports that can be opened now.
 #pragma once
 
+#include <wx/arrstr.h>
+#include <wx/string.h>
+
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-#include <wx/arrstr.h>
-#include <wx/string.h>
 
 /// Names of the serial ports that can be opened at this moment, as `wxAsyncSerial::open` takes them. Excludes
 /// ports that are in use elsewhere or that the user may not open. Leaves no port locked.

@@ -1,21 +1,23 @@
 // The serial ports that can be opened now, on Linux.
 #include "frame/SerialPorts.h"
 
-#include <algorithm>
-#include <cctype>
+#include <wx/stdpaths.h>
+#include <wx/strconv.h>
+
 #include <fcntl.h>
-#include <filesystem>
 #include <fnmatch.h>
 #include <grp.h>
 #include <linux/serial.h>
-#include <map>
 #include <sys/file.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
-#include <wx/stdpaths.h>
-#include <wx/strconv.h>
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <map>
 
 namespace serialports {
 

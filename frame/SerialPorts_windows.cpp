@@ -1,12 +1,13 @@
 // The serial ports that can be opened now, on Windows.
 #include "frame/SerialPorts.h"
 
-#include <utility> // boost/asio 1.74 uses std::exchange without this include
-
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/serial_port.hpp>
 #include <boost/system/error_code.hpp>
+
 #include <windows.h>
+
+#include <utility> // boost/asio 1.74 uses std::exchange without this include
 
 namespace {
 

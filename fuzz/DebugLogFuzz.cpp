@@ -4,10 +4,11 @@
 
 #include <wx/init.h>
 
+#include <unistd.h>
+
 #include <cstdint>
 #include <cstdlib>
 #include <string>
-#include <unistd.h>
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
     static wxInitializer toolkit;

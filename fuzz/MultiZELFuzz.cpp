@@ -1,7 +1,7 @@
 // Lists of the analog radios, on the page of a module, where each row has its own band.
 #include "files/ImportMultiZEL.h"
-
 #include "fuzz/FileFuzz.h"
+
 #include <wx/textfile.h>
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {

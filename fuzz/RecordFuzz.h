@@ -4,8 +4,9 @@
 #include "catalogue/PageModel.h"
 #include "fuzz/FuzzWindow.h"
 
-#include <cstdint>
 #include <wx/string.h>
+
+#include <cstdint>
 
 /// Passes the input, as a line, to decode, which writes into the grid of a page of that radio and band slot.
 /// Always call it with the same page.

@@ -1,5 +1,10 @@
 #include "robot/GuiThread.h"
 
+#include <wx/app.h>
+#include <wx/evtloop.h>
+#include <wx/thread.h>
+#include <wx/timer.h>
+
 #include <chrono>
 #include <condition_variable>
 #include <deque>
@@ -7,11 +12,6 @@
 #include <memory>
 #include <mutex>
 #include <string>
-
-#include <wx/app.h>
-#include <wx/evtloop.h>
-#include <wx/thread.h>
-#include <wx/timer.h>
 
 namespace testbench {
 

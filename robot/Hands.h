@@ -1,9 +1,9 @@
 // Keyboard and mouse input as from a person.
 #pragma once
 
-#include <string>
-
 #include "robot/XDesk.h"
+
+#include <string>
 
 namespace testbench {
 

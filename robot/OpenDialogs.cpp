@@ -1,12 +1,12 @@
 #include "robot/OpenDialogs.h"
 
-#include <mutex>
-
 #include <wx/filedlg.h>
 #include <wx/generic/prntdlgg.h>
 #include <wx/modalhook.h>
 #include <wx/msgdlg.h>
 #include <wx/printdlg.h>
+
+#include <mutex>
 
 namespace testbench {
 

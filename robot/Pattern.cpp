@@ -1,8 +1,8 @@
 #include "robot/Pattern.h"
 
-#include <stdexcept>
-
 #include <wx/regex.h>
+
+#include <stdexcept>
 
 namespace testbench {
 

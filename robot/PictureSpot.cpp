@@ -1,9 +1,9 @@
 #include "robot/PictureSpot.h"
 
+#include <wx/image.h>
+
 #include <cstring>
 #include <vector>
-
-#include <wx/image.h>
 
 namespace testbench {
 

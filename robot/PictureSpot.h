@@ -1,9 +1,9 @@
 // Finds something on the screen by its picture.
 #pragma once
 
-#include <optional>
-
 #include <wx/gdicmn.h>
+
+#include <optional>
 
 class wxImage;
 

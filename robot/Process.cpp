@@ -1,18 +1,19 @@
 #include "robot/Process.h"
 
-#include <cerrno>
-#include <chrono>
-#include <csignal>
-#include <cstring>
+#include "robot/Pattern.h"
+
 #include <fcntl.h>
 #include <poll.h>
-#include <set>
-#include <stdexcept>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "robot/Pattern.h"
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstring>
+#include <set>
+#include <stdexcept>
 
 namespace testbench {
 

@@ -1,12 +1,13 @@
 // Child process whose output can be watched line by line.
 #pragma once
 
+#include <sys/types.h>
+
 #include <condition_variable>
 #include <filesystem>
 #include <mutex>
 #include <optional>
 #include <string>
-#include <sys/types.h>
 #include <thread>
 #include <utility>
 #include <vector>

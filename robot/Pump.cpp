@@ -1,8 +1,8 @@
 #include "robot/Pump.h"
 
-#include <chrono>
-
 #include <wx/evtloop.h>
+
+#include <chrono>
 
 namespace testbench {
 

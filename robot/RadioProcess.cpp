@@ -2,9 +2,10 @@
 
 #include "robot/Files.h"
 
+#include <unistd.h>
+
 #include <sstream>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace testbench {
 

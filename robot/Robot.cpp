@@ -1,16 +1,16 @@
 #include "robot/Robot.h"
 
-#include <chrono>
-#include <stdexcept>
-#include <thread>
-#include <vector>
+#include "robot/OpenDialogs.h"
+#include "robot/Pattern.h"
 
 #include <wx/app.h>
 #include <wx/imagpng.h>
 #include <wx/wfstream.h>
 
-#include "robot/OpenDialogs.h"
-#include "robot/Pattern.h"
+#include <chrono>
+#include <stdexcept>
+#include <thread>
+#include <vector>
 
 namespace testbench {
 

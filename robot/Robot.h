@@ -1,13 +1,13 @@
 // Simulated user at keyboard and mouse, run from a separate thread.
 #pragma once
 
+#include "robot/GuiThread.h"
+#include "robot/Hands.h"
+
 #include <filesystem>
 #include <functional>
 #include <string>
 #include <utility>
-
-#include "robot/GuiThread.h"
-#include "robot/Hands.h"
 
 class wxDialog;
 

@@ -1,16 +1,16 @@
 #include "robot/RunScript.h"
 
-#include <atomic>
-#include <chrono>
-#include <exception>
-#include <thread>
+#include "robot/OpenDialogs.h"
+#include "robot/Pump.h"
+#include "robot/Robot.h"
 
 #include <wx/app.h>
 #include <wx/dialog.h>
 
-#include "robot/OpenDialogs.h"
-#include "robot/Pump.h"
-#include "robot/Robot.h"
+#include <atomic>
+#include <chrono>
+#include <exception>
+#include <thread>
 
 namespace testbench {
 

@@ -1,10 +1,10 @@
 // Access to the X display without the window toolkit, over a separate connection.
 #pragma once
 
-#include <string>
-
 #include <wx/gdicmn.h>
 #include <wx/image.h>
+
+#include <string>
 
 struct _XDisplay;
 

@@ -1,15 +1,16 @@
 #include "simulator/Player.h"
 
+#include <poll.h>
+#include <sys/prctl.h>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <ctime>
 #include <iterator>
 #include <optional>
-#include <poll.h>
-#include <sys/prctl.h>
-#include <sys/signalfd.h>
-#include <unistd.h>
 
 namespace Simulator {
 

@@ -1,14 +1,15 @@
 #include "simulator/PseudoTerminal.h"
 
-#include <cerrno>
-#include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/inotify.h>
-#include <system_error>
 #include <termios.h>
 #include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <system_error>
 
 namespace Simulator {
 

@@ -1,10 +1,11 @@
 #include "simulator/TextFile.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
-#include <unistd.h>
 
 namespace Simulator {
 

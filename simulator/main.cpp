@@ -3,12 +3,13 @@
 #include "simulator/Player.h"
 #include "simulator/PortLink.h"
 
+#include <sys/signalfd.h>
+#include <unistd.h>
+
 #include <csignal>
 #include <cstdio>
 #include <exception>
 #include <memory>
-#include <sys/signalfd.h>
-#include <unistd.h>
 
 namespace {
 

@@ -3,11 +3,12 @@
 #include "frame/ZelkMain.h"
 #include "robot/Robot.h"
 
+#include <wx/image.h>
+#include <wx/quantize.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <stdexcept>
-#include <wx/image.h>
-#include <wx/quantize.h>
 
 using namespace testbench;
 

@@ -1,10 +1,10 @@
 // Takes the pictures of the user guide.
 #pragma once
 
+#include <wx/gdicmn.h>
+
 #include <filesystem>
 #include <string>
-
-#include <wx/gdicmn.h>
 
 namespace testbench {
 class Robot;

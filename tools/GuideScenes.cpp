@@ -11,10 +11,11 @@
 #include "robot/OpenDialogs.h"
 #include "robot/ScreenSpots.h"
 
-#include <stdexcept>
 #include <wx/grid.h>
 #include <wx/menu.h>
 #include <wx/xml/xml.h>
+
+#include <stdexcept>
 
 using namespace testbench;
 namespace fs = std::filesystem;

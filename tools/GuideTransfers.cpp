@@ -8,9 +8,10 @@
 #include "robot/ScreenSpots.h"
 #include "tools/GuideScenes.h"
 
-#include <memory>
 #include <wx/dialog.h>
 #include <wx/grid.h>
+
+#include <memory>
 
 using namespace testbench;
 

@@ -12,9 +12,10 @@
 #include "transfer/TransferTimes.h"
 #include "transfer/TransferWaits.h"
 
-#include <algorithm>
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
+
+#include <algorithm>
 
 using namespace RadioCatalogue;
 

@@ -4,8 +4,9 @@
 
 #include "transfer/TransferStatus.h"
 
-#include <cstdint>
 #include <wx/string.h>
+
+#include <cstdint>
 
 class wxGrid;
 struct TransferContext;

@@ -1,9 +1,10 @@
 // Information that an analog radio reports about itself before a transfer.
 #pragma once
 
-#include <cstdint>
 #include <wx/arrstr.h>
 #include <wx/string.h>
+
+#include <cstdint>
 
 /// Fields of an information block.
 struct AnalogInformation {

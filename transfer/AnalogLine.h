@@ -1,10 +1,11 @@
 // Fixed-column text line of one analog channel and the meaning of its fields, independent of any grid.
 #pragma once
 
+#include <wx/string.h>
+
 #include <array>
 #include <optional>
 #include <span>
-#include <wx/string.h>
 
 /// Content of a field of the line. The first ten are contents of the channel.
 enum AnalogPart : int {

@@ -3,9 +3,6 @@
 
 #include "transfer/PortLock.h"
 
-#include <algorithm>
-#include <array>
-#include <atomic>
 #include <boost/asio/buffer.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/post.hpp>
@@ -13,6 +10,10 @@
 #include <boost/asio/write.hpp>
 #include <boost/smart_ptr/shared_array.hpp>
 #include <boost/system/system_error.hpp>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <thread>

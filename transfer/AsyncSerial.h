@@ -1,15 +1,15 @@
 // Full-duplex asynchronous serial port with a background thread, a write queue and a read callback.
 #pragma once
 
-#include <utility> // boost/asio 1.74 uses std::exchange without including it
-
 #include <boost/asio/serial_port_base.hpp>
 #include <boost/system/error_code.hpp>
+
 #include <chrono>
 #include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility> // boost/asio 1.74 uses std::exchange without including it
 #include <vector>
 
 struct AsyncSerialImpl;

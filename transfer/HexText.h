@@ -1,11 +1,12 @@
 // Numbers that records carry as pairs of hexadecimal digits.
 #pragma once
 
+#include <wx/arrstr.h>
+#include <wx/string.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-#include <wx/arrstr.h>
-#include <wx/string.h>
 
 /// Returns the sum of the bytes written as pairs of hexadecimal digits in text, from position 0. A pair that
 /// isn't a number counts as 0, and so does a single character at the end.

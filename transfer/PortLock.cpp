@@ -2,10 +2,11 @@
 #include "transfer/PortLock.h"
 
 #ifndef _WIN32
-#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/ioctl.h>
+
+#include <cerrno>
 
 int LockPort(int descriptor) {
     // The lock works against every program that asks for it, even the superuser's; the terminal's exclusive

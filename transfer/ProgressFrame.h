@@ -1,9 +1,10 @@
 // Window that shows the progress of a transfer and has its Cancel button.
 #pragma once
 
-#include <memory>
 #include <wx/frame.h>
 #include <wx/utils.h>
+
+#include <memory>
 
 class wxButton;
 class wxGauge;

@@ -1,8 +1,9 @@
 // Data that the last connected radio reported about itself.
 #pragma once
 
-#include <set>
 #include <wx/string.h>
+
+#include <set>
 
 /// Firmware version, empty before the first transfer. Outlives the transfer.
 extern wxString RadioVersion;

@@ -2,10 +2,11 @@
 
 #include "transfer/HexText.h"
 
+#include <wx/datetime.h>
+
 #include <algorithm>
 #include <array>
 #include <string_view>
-#include <wx/datetime.h>
 
 namespace {
 

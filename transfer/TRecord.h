@@ -1,8 +1,9 @@
 // Framing of one line of the digital radios' protocol, independent of its content.
 #pragma once
 
-#include <cstdint>
 #include <wx/string.h>
+
+#include <cstdint>
 
 /// Returns the last `digits` characters, at most 8, of a value as "%08X". A wider value loses its high
 /// digits; -1 in two digits is "FF".

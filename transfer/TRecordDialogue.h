@@ -5,8 +5,9 @@
 #include "transfer/TransferContext.h"
 #include "transfer/TransferMode.h"
 
-#include <set>
 #include <wx/string.h>
+
+#include <set>
 
 class wxGrid;
 

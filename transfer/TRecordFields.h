@@ -3,12 +3,13 @@
 
 #include "catalogue/MemoryRow.h"
 
+#include <wx/arrstr.h>
+#include <wx/string.h>
+
 #include <cstddef>
 #include <optional>
 #include <span>
 #include <vector>
-#include <wx/arrstr.h>
-#include <wx/string.h>
 
 /// Content of a field: how it is written from the cell of its column, and how it is read.
 enum class TRecordKind {

@@ -5,9 +5,10 @@
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TransferLog.h"
 
-#include <algorithm>
 #include <wx/filefn.h>
 #include <wx/log.h>
+
+#include <algorithm>
 
 namespace {
 

@@ -7,8 +7,9 @@
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TRecordFields.h"
 
-#include <algorithm>
 #include <wx/grid.h>
+
+#include <algorithm>
 
 using namespace RadioCatalogue;
 

@@ -4,12 +4,13 @@
 #include "transfer/TransferStatus.h"
 #include "transfer/TransferTimes.h"
 
-#include <cstdint>
-#include <set>
 #include <wx/arrstr.h>
 #include <wx/datetime.h>
 #include <wx/ffile.h>
 #include <wx/string.h>
+
+#include <cstdint>
+#include <set>
 
 class ProgressFrame;
 class wxAsyncSerial;

@@ -4,10 +4,11 @@
 #include "transfer/TransferLog.h"
 #include "transfer/TransferTimes.h"
 
-#include <utility>
 #include <wx/gauge.h>
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
+
+#include <utility>
 
 namespace {
 

@@ -5,9 +5,10 @@
 #include "transfer/TransferStatus.h"
 #include "transfer/wxAsyncSerial.h"
 
+#include <wx/string.h>
+
 #include <functional>
 #include <memory>
-#include <wx/string.h>
 
 class wxGrid;
 struct TransferContext;

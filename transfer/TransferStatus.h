@@ -1,9 +1,10 @@
 // Results of a transfer and their texts.
 #pragma once
 
-#include <cstdint>
 #include <wx/arrstr.h>
 #include <wx/string.h>
+
+#include <cstdint>
 
 /// Result of a transfer and of its waits. The numbers are fixed: users see them in a message box.
 enum TransferStatus : std::int32_t {

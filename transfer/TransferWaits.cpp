@@ -5,9 +5,10 @@
 #include "transfer/TransferContext.h"
 #include "transfer/wxAsyncSerial.h"
 
-#include <chrono>
 #include <wx/evtloop.h>
 #include <wx/gauge.h>
+
+#include <chrono>
 
 namespace {
 

@@ -3,9 +3,10 @@
 #include "catalogue/PageModel.h"
 #include "commands/StatusOutcome.h"
 
+#include <wx/grid.h>
+
 #include <algorithm>
 #include <iterator>
-#include <wx/grid.h>
 
 wxString RowRanges(const std::set<int>& rows) {
     constexpr int ShortestRange = 2; // difference between its first and last row

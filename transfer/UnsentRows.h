@@ -1,8 +1,9 @@
 // Selected rows that a write didn't send.
 #pragma once
 
-#include <set>
 #include <wx/string.h>
+
+#include <set>
 
 /// Returns rows in ascending order as readable text: "3, 7, 201 to 500". Two adjacent rows are listed one by
 /// one.

@@ -14,9 +14,10 @@
 #include "transfer/TransferMode.h"
 #include "transfer/UnsentRows.h"
 
-#include <set>
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
+
+#include <set>
 
 using namespace RadioCatalogue;
 

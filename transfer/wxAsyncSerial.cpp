@@ -4,8 +4,9 @@
 #include "transfer/AsyncSerial.h"
 
 #include <boost/system/system_error.hpp>
-#include <string>
 #include <wx/strconv.h>
+
+#include <string>
 
 wxString SerialRxBuffer;
 wxMutex SerialRxMutex;

@@ -1,11 +1,12 @@
 // Serial port for the transfer code: text output, and text input by polling.
 #pragma once
 
-#include <cstddef>
-#include <memory>
 #include <wx/object.h>
 #include <wx/string.h>
 #include <wx/thread.h>
+
+#include <cstddef>
+#include <memory>
 
 class wxWindow;
 struct wxAsyncSerialImpl;

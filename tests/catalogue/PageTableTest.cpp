@@ -1,7 +1,7 @@
 // Attributes of columns, and of cells that differ from their column.
-#include "tests/catalogue/PageTest.h"
-
 #include "catalogue/PageTable.h"
+
+#include "tests/catalogue/PageTest.h"
 
 namespace {
 

@@ -1,5 +1,4 @@
 #include "catalogue/RadioCatalogue.h"
-
 #include "tests/catalogue/PrintedRadios.h"
 
 #include <gtest/gtest.h>

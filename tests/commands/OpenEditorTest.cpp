@@ -1,9 +1,8 @@
 // Commands given while a cell is being edited: they use the typed text.
-#include "tests/editing/GridHabits.h"
-
 #include "commands/CommandIds.h"
 #include "robot/Files.h"
 #include "robot/TempFolder.h"
+#include "tests/editing/GridHabits.h"
 
 #include <wx/notebook.h>
 #include <wx/print.h>

@@ -1,7 +1,6 @@
 // The dump of the current page into the log. Only a developer connects it to an event.
-#include "diagnostics/PageReports.h"
-
 #include "catalogue/TextNumbers.h"
+#include "diagnostics/PageReports.h"
 #include "tests/support/AssertsOff.h"
 #include "tests/support/LogKeeper.h"
 #include "tests/support/ZelkWindowTest.h"

@@ -1,12 +1,12 @@
 // Order of the sources of each driver, as stated in their shared header.
+#include <gtest/gtest.h>
+
 #include <filesystem>
 #include <fstream>
 #include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
 

@@ -8,11 +8,12 @@
 #include "tests/docs/ProgramTexts.h"
 #include "tests/docs/SourceTexts.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <gtest/gtest.h>
 #include <iomanip>
 #include <set>
 #include <sstream>

@@ -2,6 +2,8 @@
 #include "robot/Files.h"
 #include "tests/docs/Markdown.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
@@ -9,8 +11,6 @@
 #include <sstream>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 using namespace docstest;
 namespace fs = std::filesystem;

@@ -2,6 +2,8 @@
 // #include lines.
 #include "tests/docs/Markdown.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -10,8 +12,6 @@
 #include <sstream>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 using namespace docstest;
 namespace fs = std::filesystem;

@@ -1,14 +1,14 @@
 // The version number is defined in CMakeLists.txt only; everything else takes it from there.
 #include "catalogue/Version.h"
 
+#include <gtest/gtest.h>
+
 #include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
 

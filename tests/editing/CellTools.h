@@ -2,10 +2,9 @@
 #pragma once
 
 #include "commands/OpenEditor.h"
-#include "tests/support/ZelkWindowTest.h"
-
 #include "tests/support/Keys.h"
 #include "tests/support/Modals.h"
+#include "tests/support/ZelkWindowTest.h"
 
 #include <wx/combobox.h>
 #include <wx/generic/grideditors.h>

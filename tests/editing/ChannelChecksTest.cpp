@@ -1,7 +1,6 @@
 // Checks of a channel's band, scan, zone, description and mode.
-#include "tests/editing/ColumnCheckTest.h"
-
 #include "editing/ScanListCell.h"
+#include "tests/editing/ColumnCheckTest.h"
 
 namespace {
 

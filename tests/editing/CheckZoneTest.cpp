@@ -1,5 +1,4 @@
 #include "editing/ZelkEdit.h"
-
 #include "tests/catalogue/PageTest.h"
 
 namespace {

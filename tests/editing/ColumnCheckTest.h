@@ -2,7 +2,6 @@
 #pragma once
 
 #include "editing/ColumnChecks.h"
-
 #include "tests/catalogue/PageTest.h"
 
 #include <string>

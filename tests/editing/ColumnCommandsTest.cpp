@@ -2,7 +2,6 @@
 
 #include "editing/CellTextRenderer.h"
 #include "editing/RowLooks.h"
-
 #include "editing/ZelkEdit.h"
 #include "tests/editing/CommandTest.h"
 

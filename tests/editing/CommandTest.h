@@ -1,12 +1,11 @@
 // Row and column commands in tests: pages, selections, questions.
 #pragma once
 
-#include "tests/support/ZelkWindowTest.h"
-
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/Modals.h"
 #include "tests/support/RunWithRobot.h"
+#include "tests/support/ZelkWindowTest.h"
 
 #include <wx/menu.h>
 

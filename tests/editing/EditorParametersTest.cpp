@@ -1,11 +1,10 @@
 // Parameters of the editor of each cell, on a page of each of the eight radio types.
-#include "tests/editing/CellTools.h"
-
 #include "editing/ChoiceCells.h"
 #include "editing/DescriptionCell.h"
 #include "editing/DigitalSquelchCell.h"
 #include "editing/MemoryNumberCell.h"
 #include "editing/ZoneCell.h"
+#include "tests/editing/CellTools.h"
 
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>

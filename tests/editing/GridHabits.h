@@ -2,7 +2,6 @@
 #pragma once
 
 #include "tests/editing/CellTools.h"
-
 #include "tests/frame/FrameTools.h"
 
 #include <wx/menu.h>

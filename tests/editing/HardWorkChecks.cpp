@@ -1,8 +1,7 @@
 // Conditions that must hold on P25 pages after any step.
-#include "tests/editing/HardWork.h"
-
 #include "catalogue/TextNumbers.h"
 #include "editing/ZelkEdit.h"
+#include "tests/editing/HardWork.h"
 
 #include <algorithm>
 #include <functional>

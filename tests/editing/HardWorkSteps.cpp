@@ -1,10 +1,9 @@
 // The possible steps of random work on a page.
-#include "commands/OpenEditor.h"
-#include "tests/editing/HardWork.h"
-
 #include "catalogue/TextNumbers.h"
+#include "commands/OpenEditor.h"
 #include "editing/Shadows.h"
 #include "editing/ZelkEdit.h"
+#include "tests/editing/HardWork.h"
 #include "tests/support/AssertsOff.h"
 
 #include <wx/combobox.h>

@@ -8,6 +8,8 @@
 
 #include <wx/notebook.h>
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
@@ -15,8 +17,6 @@
 #include <iomanip>
 #include <iostream>
 #include <numeric>
-
-#include <unistd.h>
 
 namespace {
 

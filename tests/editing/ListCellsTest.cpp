@@ -1,6 +1,5 @@
 // Cells with a list under real keys and clicks: typing ahead, the open list, and leaving.
 #include "tests/editing/CellTools.h"
-
 #include "tests/frame/FrameTools.h"
 
 #include <wx/notebook.h>

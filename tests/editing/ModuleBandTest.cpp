@@ -1,9 +1,8 @@
 // Rows of the module page: the row's band decides what its cells accept.
-#include "tests/editing/CellTools.h"
-
 #include "commands/CommandIds.h"
 #include "editing/FrequencyCell.h"
 #include "editing/ZelkEdit.h"
+#include "tests/editing/CellTools.h"
 #include "tests/frame/FrameTools.h"
 
 #include <wx/menu.h>

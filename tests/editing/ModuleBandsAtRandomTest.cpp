@@ -1,12 +1,11 @@
 // Random work on the module page: the band that a row shows decides what its frequency cells accept, and
 // which of its cells are locked.
-#include "commands/OpenEditor.h"
-#include "tests/editing/HardWork.h"
-
 #include "commands/CommandIds.h"
+#include "commands/OpenEditor.h"
 #include "editing/FrequencyCell.h"
 #include "editing/FrequencyRules.h"
 #include "frame/SelectionDialogs.h"
+#include "tests/editing/HardWork.h"
 
 #include <wx/choice.h>
 #include <wx/combobox.h>

@@ -2,7 +2,6 @@
 #include "editing/DescriptionCell.h"
 #include "editing/DigitalSquelchCell.h"
 #include "editing/FrequencyCell.h"
-
 #include "tests/editing/TextCellTest.h"
 #include "tests/support/RunWithRobot.h"
 

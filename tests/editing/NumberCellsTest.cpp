@@ -1,9 +1,8 @@
 // Memory numbers and unit ids: their display, and the effects of a new number.
-#include "tests/editing/CellTools.h"
-
 #include "catalogue/RadioCatalogue.h"
 #include "editing/MemoryNumberCell.h"
 #include "editing/MemoryNumbers.h"
+#include "tests/editing/CellTools.h"
 
 #include <wx/dcmemory.h>
 

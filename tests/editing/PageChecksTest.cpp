@@ -1,7 +1,6 @@
 // Checks of a complete page, from the menu and after a change of target.
-#include "editing/ZelkEdit.h"
-
 #include "commands/CommandIds.h"
+#include "editing/ZelkEdit.h"
 #include "tests/catalogue/PageTest.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"

@@ -1,6 +1,5 @@
 // Checks of a complete row: their order, and their results.
 #include "editing/ZelkEdit.h"
-
 #include "tests/catalogue/PageTest.h"
 #include "tests/support/Modals.h"
 

@@ -1,6 +1,5 @@
-#include "editing/Shadows.h"
-
 #include "editing/ShadowDialog.h"
+#include "editing/Shadows.h"
 #include "tests/editing/CommandTest.h"
 
 #include <wx/stattext.h>

@@ -3,7 +3,6 @@
 #include "editing/DigitalSquelchCell.h"
 #include "editing/FrequencyCell.h"
 #include "editing/ZelkEdit.h"
-
 #include "tests/editing/TextCellTest.h"
 
 using namespace testbench;

@@ -1,9 +1,8 @@
 // Editors of text cells on a page, used with real keys.
 #pragma once
 
-#include "tests/support/ZelkWindowTest.h"
-
 #include "tests/support/Keys.h"
+#include "tests/support/ZelkWindowTest.h"
 
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>

@@ -1,10 +1,10 @@
 // Pages of both P25 generations under thousands of random steps: the record has the zone of the cell.
 #include "tests/editing/ZoneWork.h"
-#include "commands/OpenEditor.h"
-#include "editing/PageReset.h"
 
 #include "catalogue/TextNumbers.h"
 #include "commands/CommandIds.h"
+#include "commands/OpenEditor.h"
+#include "editing/PageReset.h"
 #include "editing/ZelkEdit.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "robot/Files.h"

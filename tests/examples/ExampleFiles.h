@@ -2,7 +2,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-
 #include <wx/init.h>
 #include <wx/xml/xml.h>
 

@@ -1,10 +1,10 @@
 // The example channel files, compared with the list of channels that they are made from. Independent of the
 // program's code: limits and forms are stated here.
 #include "tests/examples/ExampleFiles.h"
+
 #include "robot/Files.h"
 
 #include <gtest/gtest.h>
-
 #include <wx/mstream.h>
 #include <wx/xml/xml.h>
 

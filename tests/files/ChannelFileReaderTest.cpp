@@ -1,6 +1,5 @@
-#include "tests/files/ChannelFileTest.h"
-
 #include "editing/ZoneCell.h"
+#include "tests/files/ChannelFileTest.h"
 #include "tests/support/Keys.h"
 
 #include <wx/notebook.h>

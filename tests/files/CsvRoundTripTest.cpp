@@ -1,7 +1,6 @@
 // Export followed by import returns everything except what the dialects can't hold.
-#include "tests/files/CsvTest.h"
-
 #include "editing/PageReset.h"
+#include "tests/files/CsvTest.h"
 
 namespace {
 

@@ -1,17 +1,18 @@
 #include "tests/files/FailingCalls.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
-#include <fcntl.h>
 #include <set>
 #include <string>
 #include <string_view>
-#include <sys/stat.h>
-#include <sys/syscall.h>
 #include <thread>
-#include <unistd.h>
 
 namespace {
 

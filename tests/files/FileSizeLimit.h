@@ -1,8 +1,9 @@
 // A full disk, for tests of writing.
 #pragma once
 
-#include <csignal>
 #include <sys/resource.h>
+
+#include <csignal>
 
 /// Keeps this program's files from growing beyond a size during its life.
 class FileSizeLimit {

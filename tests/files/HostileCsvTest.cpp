@@ -1,6 +1,5 @@
 // Lists that no program wrote: lines are skipped or repaired, in a short time.
 #include "tests/files/CsvTest.h"
-
 #include "tests/files/HangLimit.h"
 
 #include <random>

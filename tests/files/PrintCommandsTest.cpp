@@ -1,13 +1,12 @@
 // Printing, preview and page set-up as a user works with them: by menu, mouse and keys, onto real sheets.
-#include "tests/files/PrintTest.h"
-#include "tests/support/LogKeeper.h"
-
 #include "commands/CommandIds.h"
 #include "robot/XDesk.h"
 #include "tests/files/PdfText.h"
+#include "tests/files/PrintTest.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/AssertsOff.h"
 #include "tests/support/Keys.h"
+#include "tests/support/LogKeeper.h"
 #include "tests/support/RunWithRobot.h"
 
 #include <wx/combobox.h>

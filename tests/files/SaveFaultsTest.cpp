@@ -3,8 +3,9 @@
 #include "tests/files/FailingCalls.h"
 #include "tests/files/OpenSaveCommandsTest.h"
 
-#include <cerrno>
 #include <sys/stat.h>
+
+#include <cerrno>
 
 namespace {
 

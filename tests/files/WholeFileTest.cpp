@@ -7,10 +7,11 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
-#include <sys/stat.h>
 
 namespace fs = std::filesystem;
 

@@ -5,12 +5,12 @@
 #include "tests/files/HangLimit.h"
 
 #include <gtest/gtest.h>
-
 #include <wx/string.h>
 #include <wx/xml/xml.h>
 
-#include <ctime>
 #include <sys/stat.h>
+
+#include <ctime>
 
 namespace {
 

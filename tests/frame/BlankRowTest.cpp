@@ -1,9 +1,8 @@
 // A blank row becomes a memory as soon as the user types into it.
 #include "commands/OpenEditor.h"
-#include "tests/support/ZelkWindowTest.h"
-
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
+#include "tests/support/ZelkWindowTest.h"
 
 using namespace testbench;
 

@@ -7,11 +7,11 @@
 #include "robot/Pump.h"
 #include "robot/TempFolder.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <string>
-
-#include <gtest/gtest.h>
 
 using namespace testbench;
 namespace fs = std::filesystem;

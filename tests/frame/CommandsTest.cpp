@@ -1,6 +1,5 @@
 // Every command runs its operation.
 #include "frame/ZelkGUI.h"
-
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
 #include "tests/support/ZelkWindowTest.h"

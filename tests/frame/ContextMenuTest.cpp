@@ -1,9 +1,8 @@
 // The right-click menu of the grids, by real clicks.
-#include "tests/support/ZelkWindowTest.h"
-
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
+#include "tests/support/ZelkWindowTest.h"
 
 #include <wx/menu.h>
 

@@ -7,7 +7,6 @@
 #include "tests/support/Keys.h"
 
 #include <gtest/gtest.h>
-
 #include <wx/app.h>
 #include <wx/button.h>
 #include <wx/grid.h>

@@ -1,10 +1,9 @@
 // A page's grid follows its target.
 #include "frame/TargetSelection.h"
-#include "tests/support/ZelkWindowTest.h"
-
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
+#include "tests/support/ZelkWindowTest.h"
 
 #include <wx/statusbr.h>
 

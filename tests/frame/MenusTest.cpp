@@ -1,8 +1,7 @@
 // Texts of menus, context menu and tool bar.
-#include "tests/support/ZelkWindowTest.h"
-
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
+#include "tests/support/ZelkWindowTest.h"
 
 #include <wx/accel.h>
 #include <wx/menu.h>

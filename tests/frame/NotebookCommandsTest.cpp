@@ -1,11 +1,10 @@
 // Adding, deleting and changing pages.
-#include "tests/support/ZelkWindowTest.h"
-
 #include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
+#include "tests/support/ZelkWindowTest.h"
 
 #include <wx/notebook.h>
 #include <wx/panel.h>

@@ -1,14 +1,14 @@
 // The dialogs for radio, band and port.
-#include "tests/support/ZelkWindowTest.h"
+#include "frame/SelectionDialogs.h"
 
 #include "commands/CommandIds.h"
-#include "frame/SelectionDialogs.h"
 #include "frame/SerialPorts.h"
 #include "frame/TargetSelection.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/PseudoTerminal.h"
 #include "tests/support/RunWithRobot.h"
+#include "tests/support/ZelkWindowTest.h"
 #include "transfer/ChosenPort.h"
 
 #include <wx/button.h>
@@ -17,8 +17,9 @@
 #include <wx/stdpaths.h>
 #include <wx/tooltip.h>
 
-#include <filesystem>
 #include <sys/file.h>
+
+#include <filesystem>
 
 using namespace testbench;
 

@@ -5,13 +5,15 @@
 #include "tests/support/PseudoTerminal.h"
 #include "transfer/wxAsyncSerial.h"
 
-#include <filesystem>
-#include <fstream>
-#include <grp.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <wx/init.h>
 #include <wx/stdpaths.h>
+
+#include <grp.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
 
 namespace {
 

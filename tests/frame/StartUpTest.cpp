@@ -1,9 +1,8 @@
 // The window at start-up.
-#include "tests/support/ZelkWindowTest.h"
-
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
+#include "tests/support/ZelkWindowTest.h"
 #include "transfer/wxAsyncSerial.h"
 
 #include <wx/log.h>

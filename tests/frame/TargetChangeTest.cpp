@@ -1,6 +1,4 @@
 // Change of the target of a page that holds data.
-#include "tests/support/ZelkWindowTest.h"
-
 #include "commands/CommandIds.h"
 #include "editing/Shadows.h"
 #include "files/ZelkFile_OpenSave.h"
@@ -8,6 +6,7 @@
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
+#include "tests/support/ZelkWindowTest.h"
 
 #include <wx/notebook.h>
 #include <wx/statusbr.h>

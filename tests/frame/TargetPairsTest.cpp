@@ -1,6 +1,4 @@
 // Changes from every target to every other one, with random memories. None may be missing in the saved file.
-#include "tests/support/ZelkWindowTest.h"
-
 #include "catalogue/TextNumbers.h"
 #include "commands/CommandIds.h"
 #include "editing/FrequencyRules.h"
@@ -8,6 +6,7 @@
 #include "frame/SelectionDialogs.h"
 #include "tests/editing/HardWork.h"
 #include "tests/frame/FrameTools.h"
+#include "tests/support/ZelkWindowTest.h"
 
 #include <wx/choice.h>
 #include <wx/menu.h>

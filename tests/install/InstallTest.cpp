@@ -7,6 +7,7 @@
 #include "robot/Pump.h"
 #include "robot/TempFolder.h"
 
+#include <gtest/gtest.h>
 #include <wx/filefn.h>
 
 #include <cstdlib>
@@ -15,8 +16,6 @@
 #include <regex>
 #include <set>
 #include <string>
-
-#include <gtest/gtest.h>
 
 using namespace testbench;
 namespace fs = std::filesystem;

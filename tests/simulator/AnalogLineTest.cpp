@@ -1,7 +1,8 @@
 #include "simulator/AnalogLine.h"
 
-#include <cstring>
 #include <gtest/gtest.h>
+
+#include <cstring>
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include "tests/simulator/PortClient.h"
 
 #include <gtest/gtest.h>
+
 #include <utility>
 
 namespace {

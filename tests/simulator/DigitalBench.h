@@ -5,6 +5,7 @@
 #include "simulator/Options.h"
 
 #include <gtest/gtest.h>
+
 #include <memory>
 #include <stdexcept>
 #include <string>

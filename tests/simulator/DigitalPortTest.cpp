@@ -2,9 +2,10 @@
 #include "tests/simulator/DigitalBench.h"
 #include "tests/simulator/PortClient.h"
 
+#include <unistd.h>
+
 #include <csignal>
 #include <fstream>
-#include <unistd.h>
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "simulator/FaultyLink.h"
 
 #include <gtest/gtest.h>
+
 #include <optional>
 
 namespace {

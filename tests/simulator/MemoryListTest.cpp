@@ -2,8 +2,9 @@
 
 #include "tests/simulator/PortClient.h"
 
-#include <fstream>
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace {
 

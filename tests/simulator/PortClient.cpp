@@ -1,12 +1,13 @@
 #include "tests/simulator/PortClient.h"
 
-#include <cerrno>
 #include <fcntl.h>
 #include <poll.h>
-#include <stdexcept>
 #include <termios.h>
-#include <thread>
 #include <unistd.h>
+
+#include <cerrno>
+#include <stdexcept>
+#include <thread>
 
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;

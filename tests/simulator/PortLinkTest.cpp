@@ -2,10 +2,11 @@
 
 #include "tests/simulator/PortClient.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <memory>
 #include <stdexcept>
 

@@ -1,10 +1,11 @@
 // Faults as the other side of the port sees them.
 #include "tests/simulator/PortClient.h"
 
+#include <gtest/gtest.h>
+
 #include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <optional>
 
 namespace {

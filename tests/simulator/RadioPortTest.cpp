@@ -1,15 +1,17 @@
 // The complete program, tested over its port.
 #include "tests/simulator/PortClient.h"
 
-#include <csignal>
+#include <gtest/gtest.h>
+
 #include <fcntl.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <sstream>
-#include <termios.h>
 #include <thread>
-#include <unistd.h>
 
 namespace {
 

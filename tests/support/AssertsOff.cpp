@@ -1,7 +1,6 @@
 #include "tests/support/AssertsOff.h"
 
 #include <gtest/gtest.h>
-
 #include <wx/string.h>
 
 namespace testbench {

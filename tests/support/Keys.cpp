@@ -1,13 +1,12 @@
 #include "tests/support/Keys.h"
 
-#include <gtest/gtest.h>
+#include "robot/Hands.h"
 
+#include <gtest/gtest.h>
 #include <wx/event.h>
 #include <wx/eventfilter.h>
 #include <wx/grid.h>
 #include <wx/toplevel.h>
-
-#include "robot/Hands.h"
 
 namespace testbench {
 

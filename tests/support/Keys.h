@@ -1,12 +1,12 @@
 // Keys and clicks from within a test. Each call also processes the events that it causes.
 #pragma once
 
-#include <string>
+#include "robot/Pump.h"
+#include "robot/ScreenSpots.h"
 
 #include <wx/gdicmn.h>
 
-#include "robot/Pump.h"
-#include "robot/ScreenSpots.h"
+#include <string>
 
 class wxGrid;
 class wxTopLevelWindow;

@@ -1,13 +1,12 @@
 #include "tests/support/Modals.h"
 
-#include <gtest/gtest.h>
+#include "robot/Pattern.h"
+#include "robot/Pump.h"
 
+#include <gtest/gtest.h>
 #include <wx/filedlg.h>
 #include <wx/modalhook.h>
 #include <wx/timer.h>
-
-#include "robot/Pattern.h"
-#include "robot/Pump.h"
 
 namespace testbench {
 

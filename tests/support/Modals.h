@@ -1,6 +1,10 @@
 // Modal dialogs in tests: a script answers expected ones, all others fail the test.
 #pragma once
 
+#include "robot/OpenDialogs.h"
+
+#include <wx/defs.h>
+
 #include <functional>
 #include <list>
 #include <memory>
@@ -8,10 +12,6 @@
 #include <optional>
 #include <string>
 #include <vector>
-
-#include <wx/defs.h>
-
-#include "robot/OpenDialogs.h"
 
 namespace testbench {
 

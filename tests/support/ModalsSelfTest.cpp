@@ -1,18 +1,16 @@
 // Dialogs answered by script.
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
+#include "tests/support/AssertsOff.h"
 #include "tests/support/Modals.h"
 
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
-
 #include <wx/button.h>
 #include <wx/choicdlg.h>
 #include <wx/filedlg.h>
 #include <wx/msgdlg.h>
 #include <wx/textdlg.h>
-
-#include "robot/Files.h"
-#include "robot/TempFolder.h"
-#include "tests/support/AssertsOff.h"
 
 using namespace testbench;
 

@@ -1,14 +1,13 @@
 // Child processes, the display script and the watchdog.
+#include "robot/Files.h"
 #include "robot/Process.h"
+#include "robot/TempFolder.h"
+
+#include <gtest/gtest.h>
 
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
-
-#include <gtest/gtest.h>
-
-#include "robot/Files.h"
-#include "robot/TempFolder.h"
 
 using namespace testbench;
 

@@ -1,18 +1,19 @@
 // A pseudo-terminal pair for tests: the program opens the slave side, the test acts as the device.
 #pragma once
 
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <termios.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
-#include <fcntl.h>
-#include <poll.h>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <sys/ioctl.h>
-#include <termios.h>
 #include <thread>
-#include <unistd.h>
 
 /// One pseudo-terminal. Its slave side has a device name and the program under test opens it like a
 /// serial port; the master side belongs to the test. Raw from the start: nothing is echoed or translated.

@@ -1,10 +1,13 @@
 // Keys, clicks and pictures.
-#include <atomic>
-#include <stdexcept>
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
+#include "tests/support/Keys.h"
+#include "tests/support/Modals.h"
+#include "tests/support/RunWithRobot.h"
+#include "tests/support/SelfTestFrame.h"
 
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
-
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/filedlg.h>
@@ -16,12 +19,8 @@
 #include <wx/textdlg.h>
 #include <wx/wfstream.h>
 
-#include "robot/Files.h"
-#include "robot/TempFolder.h"
-#include "tests/support/Keys.h"
-#include "tests/support/Modals.h"
-#include "tests/support/RunWithRobot.h"
-#include "tests/support/SelfTestFrame.h"
+#include <atomic>
+#include <stdexcept>
 
 using namespace testbench;
 

@@ -1,9 +1,9 @@
 #include "tests/support/RunWithRobot.h"
 
-#include <gtest/gtest.h>
-
 #include "robot/RunScript.h"
 #include "tests/support/Modals.h"
+
+#include <gtest/gtest.h>
 
 namespace testbench {
 

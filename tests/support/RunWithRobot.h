@@ -1,10 +1,10 @@
 // A test's robot script; its failures become failures of the test.
 #pragma once
 
-#include <functional>
-
 #include "robot/Robot.h"
 #include "robot/ScreenSpots.h"
+
+#include <functional>
 
 namespace testbench {
 

@@ -1,23 +1,22 @@
 // Main program of window tests, which run inside the toolkit's main loop.
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <sstream>
-#include <string>
-
-#include <gtest/gtest.h>
-
-#include <wx/app.h>
-#include <wx/init.h>
-#include <wx/log.h>
-#include <wx/stdpaths.h>
-
 #include "robot/Files.h"
 #include "robot/Process.h"
 #include "robot/TempFolder.h"
 #include "tests/support/AssertsOff.h"
 #include "tests/support/Modals.h"
 #include "tests/support/Watchdog.h"
+
+#include <gtest/gtest.h>
+#include <wx/app.h>
+#include <wx/init.h>
+#include <wx/log.h>
+#include <wx/stdpaths.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+#include <string>
 
 // GTK and fontconfig keep some memory until the program ends; if such leaks were reported, no
 // window test could pass. Only an address sanitizer calls this.

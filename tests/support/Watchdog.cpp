@@ -1,9 +1,9 @@
 #include "tests/support/Watchdog.h"
 
+#include "robot/OpenDialogs.h"
+
 #include <cstdio>
 #include <cstdlib>
-
-#include "robot/OpenDialogs.h"
 
 namespace testbench {
 

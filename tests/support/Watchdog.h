@@ -1,14 +1,14 @@
 // Ends a test program in which a test hangs.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <mutex>
 #include <string>
 #include <thread>
-
-#include <gtest/gtest.h>
 
 namespace testbench {
 

@@ -11,7 +11,6 @@
 #include "transfer/ChosenPort.h"
 
 #include <gtest/gtest.h>
-
 #include <wx/app.h>
 #include <wx/grid.h>
 

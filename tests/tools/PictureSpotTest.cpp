@@ -1,7 +1,6 @@
 #include "robot/PictureSpot.h"
 
 #include <gtest/gtest.h>
-
 #include <wx/image.h>
 
 using testbench::FindPicture;

@@ -1,11 +1,11 @@
 // Failures to open, devices that disappear, closing and opening again.
-#include "transfer/AsyncSerial.h"
-
 #include "tests/support/PseudoTerminal.h"
 #include "tests/transfer/SerialReceiver.h"
+#include "transfer/AsyncSerial.h"
 
 #include <boost/system/system_error.hpp>
 #include <gtest/gtest.h>
+
 #include <optional>
 
 namespace {

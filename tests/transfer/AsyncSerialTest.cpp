@@ -4,9 +4,10 @@
 #include "tests/support/PseudoTerminal.h"
 #include "tests/transfer/SerialReceiver.h"
 
+#include <gtest/gtest.h>
+
 #include <atomic>
 #include <future>
-#include <gtest/gtest.h>
 #include <memory>
 #include <stdexcept>
 #include <type_traits>

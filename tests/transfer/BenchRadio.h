@@ -4,10 +4,11 @@
 #include "simulator/DigitalRadio.h"
 #include "simulator/PseudoTerminal.h"
 
+#include <poll.h>
+
 #include <atomic>
 #include <functional>
 #include <mutex>
-#include <poll.h>
 #include <stdexcept>
 #include <string>
 #include <string_view>

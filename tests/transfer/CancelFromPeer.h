@@ -3,8 +3,9 @@
 
 #include "tests/transfer/TransferTest.h"
 
-#include <atomic>
 #include <wx/timer.h>
+
+#include <atomic>
 
 namespace transfertest {
 

@@ -4,11 +4,12 @@
 #include "robot/ScreenSpots.h"
 #include "transfer/ProgressFrame.h"
 
+#include <wx/button.h>
+#include <wx/eventfilter.h>
+
 #include <chrono>
 #include <mutex>
 #include <thread>
-#include <wx/button.h>
-#include <wx/eventfilter.h>
 
 namespace transfertest {
 

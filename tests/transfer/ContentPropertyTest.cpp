@@ -1,14 +1,16 @@
 // Random work with two radios: a memory that the program wrote stays in its radio while the page shows it.
-#include "editing/PageReset.h"
-#include "tests/transfer/BenchRadio.h"
-#include "tests/transfer/TRecordDriverTest.h"
-
 #include "catalogue/TextNumbers.h"
+#include "editing/PageReset.h"
 #include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
 #include "frame/SelectionDialogs.h"
+#include "tests/transfer/BenchRadio.h"
+#include "tests/transfer/TRecordDriverTest.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecordDialogue.h"
+
+#include <wx/choice.h>
+#include <wx/textctrl.h>
 
 #include <array>
 #include <chrono>
@@ -18,8 +20,6 @@
 #include <set>
 #include <utility>
 #include <vector>
-#include <wx/choice.h>
-#include <wx/textctrl.h>
 
 using namespace testbench;
 using namespace transfertest;

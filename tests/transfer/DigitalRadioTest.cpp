@@ -4,11 +4,12 @@
 #include "robot/Hands.h"
 #include "tests/transfer/CancelSpot.h"
 
+#include <wx/statusbr.h>
+
 #include <chrono>
 #include <string>
 #include <thread>
 #include <vector>
-#include <wx/statusbr.h>
 
 using namespace testbench;
 using namespace transfertest;

@@ -6,10 +6,12 @@
 #include "transfer/AsyncSerial.h"
 
 #include <boost/system/system_error.hpp>
-#include <filesystem>
 #include <gtest/gtest.h>
+
 #include <sys/file.h>
 #include <sys/wait.h>
+
+#include <filesystem>
 
 namespace {
 

@@ -8,7 +8,6 @@
 #include "transfer/ProgressDialog.h"
 
 #include <gtest/gtest.h>
-#include <memory>
 #include <wx/button.h>
 #include <wx/display.h>
 #include <wx/gauge.h>
@@ -16,6 +15,8 @@
 #include <wx/sizer.h>
 #include <wx/statline.h>
 #include <wx/stattext.h>
+
+#include <memory>
 
 using namespace testbench;
 

@@ -3,11 +3,12 @@
 
 #include "transfer/ProgressFrame.h"
 
+#include <wx/eventfilter.h>
+#include <wx/gauge.h>
+
 #include <chrono>
 #include <mutex>
 #include <thread>
-#include <wx/eventfilter.h>
-#include <wx/gauge.h>
 
 namespace transfertest {
 

@@ -11,10 +11,11 @@
 #include "transfer/TransferMode.h"
 #include "transfer/TransferStatus.h"
 
-#include <filesystem>
-#include <memory>
 #include <wx/gauge.h>
 #include <wx/stattext.h>
+
+#include <filesystem>
+#include <memory>
 
 namespace transfertest {
 

@@ -1,7 +1,6 @@
 // Effects of each line from a digital radio.
-#include "transfer/TRecordDialogue.h"
-
 #include "tests/transfer/TRecordDriverTest.h"
+#include "transfer/TRecordDialogue.h"
 
 using namespace testbench;
 using namespace transfertest;

@@ -1,7 +1,6 @@
 // Reports of how a transfer with a digital radio ended.
-#include "transfer/TRecordDialogue.h"
-
 #include "tests/transfer/TRecordDriverTest.h"
+#include "transfer/TRecordDialogue.h"
 
 using namespace testbench;
 using namespace transfertest;

@@ -1,7 +1,6 @@
 // Choice of the rows that are sent to a digital radio, and their form.
-#include "transfer/TRecordDialogue.h"
-
 #include "tests/transfer/TRecordDriverTest.h"
+#include "transfer/TRecordDialogue.h"
 
 using namespace testbench;
 using namespace transfertest;

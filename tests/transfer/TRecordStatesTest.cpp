@@ -1,7 +1,6 @@
 // The program's line to a digital radio in each state.
-#include "transfer/TRecordDialogue.h"
-
 #include "tests/transfer/TRecordDriverTest.h"
+#include "transfer/TRecordDialogue.h"
 
 using namespace testbench;
 using namespace transfertest;

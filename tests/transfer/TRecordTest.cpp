@@ -6,9 +6,9 @@
 #include "transfer/TransferContext.h"
 
 #include <gtest/gtest.h>
+#include <wx/datetime.h>
 
 #include <string>
-#include <wx/datetime.h>
 
 namespace {
 

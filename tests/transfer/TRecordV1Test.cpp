@@ -1,6 +1,5 @@
-#include "transfer/TRecordCodec.h"
-
 #include "tests/transfer/TRecordPage.h"
+#include "transfer/TRecordCodec.h"
 
 using namespace trecordtest;
 

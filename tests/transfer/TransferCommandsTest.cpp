@@ -1,13 +1,13 @@
 // The commands that read from and write to the radio: what they refuse, ask and report.
-#include "transfer/ZelkTransfer.h"
-
 #include "tests/support/Keys.h"
 #include "tests/transfer/TransferTest.h"
 #include "transfer/TransferStatus.h"
+#include "transfer/ZelkTransfer.h"
+
+#include <wx/textentry.h>
 
 #include <functional>
 #include <vector>
-#include <wx/textentry.h>
 
 using namespace testbench;
 using namespace transfertest;

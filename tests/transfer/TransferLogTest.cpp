@@ -4,11 +4,13 @@
 #include "robot/Files.h"
 #include "robot/TempFolder.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
-#include <unistd.h>
 #include <wx/ffile.h>
 #include <wx/log.h>
+
+#include <unistd.h>
+
+#include <filesystem>
 
 using namespace testbench;
 

@@ -4,11 +4,12 @@
 #include "tests/support/PseudoTerminal.h"
 #include "transfer/TRecordDialogue.h"
 
-#include <chrono>
 #include <gtest/gtest.h>
+#include <wx/memconf.h>
+
+#include <chrono>
 #include <optional>
 #include <stdexcept>
-#include <wx/memconf.h>
 
 namespace {
 

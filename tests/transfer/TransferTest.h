@@ -7,12 +7,13 @@
 #include "transfer/ProgressFrame.h"
 #include "transfer/wxAsyncSerial.h"
 
+#include <wx/memconf.h>
+#include <wx/stdpaths.h>
+
 #include <filesystem>
 #include <initializer_list>
 #include <string>
 #include <utility>
-#include <wx/memconf.h>
-#include <wx/stdpaths.h>
 
 namespace transfertest {
 

@@ -10,13 +10,14 @@
 #include "transfer/TransferContext.h"
 #include "transfer/wxAsyncSerial.h"
 
-#include <atomic>
 #include <gtest/gtest.h>
-#include <memory>
 #include <wx/button.h>
 #include <wx/evtloop.h>
 #include <wx/memconf.h>
 #include <wx/timer.h>
+
+#include <atomic>
+#include <memory>
 
 using namespace testbench;
 

@@ -6,8 +6,9 @@
 #include "tests/transfer/RadioPeer.h"
 #include "tests/transfer/TransferTest.h"
 
-#include <functional>
 #include <wx/statusbr.h>
+
+#include <functional>
 
 using namespace testbench;
 using namespace transfertest;

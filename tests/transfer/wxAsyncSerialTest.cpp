@@ -5,6 +5,7 @@
 #include "tests/transfer/SerialWaiting.h"
 
 #include <gtest/gtest.h>
+
 #include <memory>
 
 namespace {

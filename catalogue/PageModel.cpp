@@ -140,7 +140,7 @@ void RestoreGuardRows(OrvZELFrame*, bool renumber) {
 }
 
 int GetCodeIndex(const wxString& text) {
-    return RadioCatalogue::GetCodeIndex(text, CurrentParameters().Type);
+    return RadioCatalogue::CodeIndexForType(text, CurrentParameters().Type);
 }
 
 wxString GetCodeText(int i) {

@@ -111,7 +111,7 @@ void SaveGuardRows(OrvZELFrame* frame);
 /// that was blank is skipped: a number alone would make it an incomplete memory.
 void RestoreGuardRows(OrvZELFrame* frame, bool renumber);
 
-/// RadioCatalogue::GetCodeIndex for the type of the current page.
+/// RadioCatalogue::CodeIndexForType for the type of the current page.
 int GetCodeIndex(const wxString& text);
 
 /// RadioCatalogue::GetCodeText for the type of the current page.

@@ -163,7 +163,7 @@ wxString GetCtcssText(int i) {
     return EntryOf(CtcssList, i);
 }
 
-int GetCodeIndex(const wxString& text, int type) {
+int CodeIndexForType(const wxString& text, int type) {
     const int i = codePositions.Find(text);
     if (i < 0)
         return -1;

@@ -80,9 +80,9 @@ wxString GetCtcssText(int i);
 
 /// Position of the text in CodeList, one less on a P25 page (type 1 or 2), where "023" is 0
 /// and "OFF" -1; -1 when absent.
-int GetCodeIndex(const wxString& text, int type);
+int CodeIndexForType(const wxString& text, int type);
 
-/// Inverse of GetCodeIndex; empty past the ends.
+/// Inverse of CodeIndexForType; empty past the ends.
 wxString GetCodeText(int i, int type);
 
 /// 0 for "w" and "W", 1 for "n" and "N", 2 for "D", otherwise -1.

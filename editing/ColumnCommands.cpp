@@ -6,9 +6,9 @@
 #include "catalogue/ZoneSlots.h"
 #include "commands/CommandQuestions.h"
 #include "commands/OpenEditor.h"
+#include "editing/CellMarks.h"
 #include "editing/ChoiceCells.h"
 #include "editing/RowCommands.h"
-#include "editing/RowLooks.h"
 #include "editing/ScanLock.h"
 #include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
@@ -160,7 +160,7 @@ void ZelkFrame::OnDefaultFile(wxCommandEvent&) {
     grid->ClearGrid();
     CurrentParameters().Flags = 0;
     ClearZoneSlots(CurrentPage);
-    ForgetLooksOfRows(grid);
+    ClearMarksOfRows(grid);
     for (int col = 0; col < ColumnTotal; ++col)
         grid->SetCellValue(0, col, defaults[static_cast<size_t>(col)]);
     CopyValuesToSelection(CurrentPage, defaults, true, true);

@@ -3,7 +3,7 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/RowFilling.h"
 #include "catalogue/ZoneSlots.h"
-#include "editing/RowLooks.h"
+#include "editing/CellMarks.h"
 
 #include <wx/grid.h>
 
@@ -30,7 +30,7 @@ void ResetPage(int page) {
     wxGridUpdateLocker quiet(grid);
     grid->ClearGrid();
     PageParameters[page].Flags = 0;
-    ForgetLooksOfRows(grid);
+    ClearMarksOfRows(grid);
     SetPageDefaults(nullptr, page);
     ClearZoneSlots(page);
 }

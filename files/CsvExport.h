@@ -1,7 +1,7 @@
 // Exports the selected rows of the current page as a comma-separated list.
 #pragma once
 
-#include "files/WholeFile.h"
+#include "files/FileReplacement.h"
 
 #include <string>
 

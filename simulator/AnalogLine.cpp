@@ -109,13 +109,13 @@ std::string CommonPart(const AnalogMemory& memory, std::string_view numberField)
 } // namespace
 
 std::optional<AnalogMemory> ParseLongLine(std::string_view line, const AnalogModel& model, int highest,
-                                          std::string& trouble) {
-    const auto Refuse = [&trouble](int position, const std::string& why) {
-        trouble = "position " + std::to_string(position) + ": " + why;
+                                          std::string& problem) {
+    const auto Refuse = [&problem](int position, const std::string& why) {
+        problem = "position " + std::to_string(position) + ": " + why;
         return std::nullopt;
     };
     if (line.size() != LongLineLength) {
-        trouble = "length is " + std::to_string(line.size()) + ", not 76";
+        problem = "length is " + std::to_string(line.size()) + ", not 76";
         return std::nullopt;
     }
     for (const Literal& label : Labels)

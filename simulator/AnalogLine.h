@@ -30,9 +30,9 @@ constexpr int LongLineLength = 76;
 
 /// Reads a line of the long form, without its carriage return. Refuses whatever a radio of `model` couldn't
 /// take: numbers outside 1 to `highest`, frequencies out of band, unknown codes, shifted columns. On refusal
-/// returns nothing and puts the wrong position and the reason into `trouble`.
+/// returns nothing and puts the wrong position and the reason into `problem`.
 std::optional<AnalogMemory> ParseLongLine(std::string_view line, const AnalogModel& model, int highest,
-                                          std::string& trouble);
+                                          std::string& problem);
 
 /// Returns the long form, 76 characters without a line end. `numberField` becomes the first three.
 std::string FormatLongLine(const AnalogMemory& memory, std::string_view numberField);

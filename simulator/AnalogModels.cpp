@@ -55,7 +55,7 @@ std::span<const AnalogModel> AnalogModels() {
     return Models;
 }
 
-const AnalogModel* FindAnalogModel(std::string_view name, std::string_view band, std::string& trouble) {
+const AnalogModel* FindAnalogModel(std::string_view name, std::string_view band, std::string& problem) {
     const AnalogModel* found = nullptr;
     std::string offered;
     int bands = 0;
@@ -68,11 +68,11 @@ const AnalogModel* FindAnalogModel(std::string_view name, std::string_view band,
             found = &model;
     }
     if (bands == 0) {
-        trouble = "no analog radio is called \"" + std::string(name) + "\" (--list names them all)";
+        problem = "no analog radio is called \"" + std::string(name) + "\" (--list names them all)";
         return nullptr;
     }
     if (!found || (band.empty() && bands > 1)) {
-        trouble = std::string(name) + (band.empty() ? " has several bands" : " has no such band") +
+        problem = std::string(name) + (band.empty() ? " has several bands" : " has no such band") +
                   ", say one of " + offered + ", as in --model \"" + std::string(name) + ":BAND\"";
         return nullptr;
     }

@@ -117,10 +117,10 @@ void AnalogRadio::TakeLine(const std::string& line) {
         TakeEndLine(line);
         return;
     }
-    std::string trouble;
-    const auto memory = ParseLongLine(line, m_model, m_reach, trouble);
+    std::string problem;
+    const auto memory = ParseLongLine(line, m_model, m_reach, problem);
     if (!memory) {
-        m_link.Complain("refused \"" + line + "\": " + trouble);
+        m_link.Complain("refused \"" + line + "\": " + problem);
         return;
     }
     m_memories[memory->number] = *memory;
@@ -138,9 +138,9 @@ void AnalogRadio::TakeEndLine(const std::string& line) {
         m_link.Complain("end line \"" + line + "\" doesn't have 74 blanks behind its first three characters");
     m_state = State::Command;
     m_opened = false;
-    std::string trouble;
-    if (!Store(trouble))
-        m_link.Complain(trouble);
+    std::string problem;
+    if (!Store(problem))
+        m_link.Complain(problem);
     m_link.EndTransfer();
 }
 
@@ -197,10 +197,10 @@ void AnalogRadio::PortClosed() {
     m_opened = false;
 }
 
-bool AnalogRadio::Store(std::string& trouble) {
+bool AnalogRadio::Store(std::string& problem) {
     if (m_habits.memoryFile.empty() || !m_changed)
         return true;
-    if (!SaveMemories(m_habits.memoryFile, m_model, m_memories, trouble))
+    if (!SaveMemories(m_habits.memoryFile, m_model, m_memories, problem))
         return false;
     m_changed = false;
     return true;

@@ -39,7 +39,7 @@ public:
     void Hear(std::uint8_t byte) override;
     bool IsAtRest() const override;
     void PortClosed() override;
-    bool Store(std::string& trouble) override;
+    bool Store(std::string& problem) override;
 
     const MemoryList& Memories() const { return m_memories; }
 

@@ -42,11 +42,11 @@ std::string Unused(int entries) {
 
 } // namespace
 
-bool IsRecordText(std::string_view text, std::string& trouble) {
+bool IsRecordText(std::string_view text, std::string& problem) {
     if (text.size() > LongestText)
-        trouble = "is longer than 252 characters";
+        problem = "is longer than 252 characters";
     else if (std::any_of(text.begin(), text.end(), [](char c) { return c < ' ' || c > '~'; }))
-        trouble = "holds a character that can't be shown";
+        problem = "holds a character that can't be shown";
     else
         return true;
     return false;
@@ -56,13 +56,13 @@ std::vector<std::string> DefaultHardware() {
     return {"Main board: rev C", "RF main: 136-174 MHz", "RF guard: 136-174 MHz", "Bootloader: 1.04"};
 }
 
-bool LoadHardware(const std::string& path, std::vector<std::string>& lines, std::string& trouble) {
+bool LoadHardware(const std::string& path, std::vector<std::string>& lines, std::string& problem) {
     std::vector<std::string> read;
     const auto Take = [&read](const std::string& line, std::string& why) {
         read.push_back(line);
         return IsRecordText(line, why);
     };
-    if (!ReadLines(path, Missing::IsTrouble, Take, trouble))
+    if (!ReadLines(path, Missing::IsError, Take, problem))
         return false;
     lines = std::move(read);
     return true;
@@ -72,27 +72,27 @@ std::vector<std::string> DefaultConfig() {
     return {"C:00:01020304:10:20:C5:SQUELCH", "C:01:FF:00:00:00:BACKLIGHT", "C:02:80:40:20:1F:SIDETONE"};
 }
 
-bool IsGoodConfig(std::string_view line, std::string& trouble) {
+bool IsGoodConfig(std::string_view line, std::string& problem) {
     const std::vector<std::string> fields = ConfigFields(line);
     if (fields.size() < 6) {
-        trouble = "has fewer than 6 fields";
+        problem = "has fewer than 6 fields";
         return false;
     }
     long sum = 1;
     for (std::size_t k = 2; k <= 5; ++k) {
         if (fields[k].size() % 2 != 0 || !IsHex(fields[k])) {
-            trouble = "field " + std::to_string(k) + " is not made of bytes in hexadecimal";
+            problem = "field " + std::to_string(k) + " is not made of bytes in hexadecimal";
             return false;
         }
         for (std::size_t at = 0; at < fields[k].size(); at += 2)
             sum += HexValue(std::string_view(fields[k]).substr(at, 2));
     }
     if (sum % 256 != 0)
-        trouble = "bytes of fields 2 to 5 and 1 add up to " + std::to_string(sum) + ", no multiple of 256";
+        problem = "bytes of fields 2 to 5 and 1 add up to " + std::to_string(sum) + ", no multiple of 256";
     return sum % 256 == 0;
 }
 
-bool LoadConfig(const std::string& path, std::vector<std::string>& lines, std::string& trouble) {
+bool LoadConfig(const std::string& path, std::vector<std::string>& lines, std::string& problem) {
     std::vector<std::string> read;
     bool exists = false;
     const auto Take = [&](const std::string& line, std::string& why) {
@@ -101,18 +101,18 @@ bool LoadConfig(const std::string& path, std::vector<std::string>& lines, std::s
         why = "more than 255 lines";
         return read.size() <= MostConfigLines && IsRecordText(line, why) && IsGoodConfig(line, why);
     };
-    if (!ReadLines(path, Missing::IsEmpty, Take, trouble))
+    if (!ReadLines(path, Missing::IsEmpty, Take, problem))
         return false;
     if (exists)
         lines = std::move(read);
     return true;
 }
 
-bool SaveConfig(const std::string& path, const std::vector<std::string>& lines, std::string& trouble) {
+bool SaveConfig(const std::string& path, const std::vector<std::string>& lines, std::string& problem) {
     std::string text;
     for (const std::string& line : lines)
         text += line + "\n";
-    return WriteTextFile(path, text, trouble);
+    return WriteTextFile(path, text, problem);
 }
 
 std::string TextRecord(std::string_view text) {
@@ -135,7 +135,7 @@ std::vector<std::string> DefaultLog(int protocol) {
             LogRecord("2020", HexOfText(", 12.6 V") + "03" + HexOfText("AT") + "05" + "CFCB")};
 }
 
-bool LoadLog(const std::string& path, std::vector<std::string>& records, std::string& trouble) {
+bool LoadLog(const std::string& path, std::vector<std::string>& records, std::string& problem) {
     std::vector<std::string> read;
     const auto Take = [&read](const std::string& line, std::string& why) {
         if (line.starts_with("T1")) {
@@ -153,7 +153,7 @@ bool LoadLog(const std::string& path, std::vector<std::string>& records, std::st
         read.push_back(LogRecord(line.substr(0, 4), data));
         return true;
     };
-    if (!ReadLines(path, Missing::IsTrouble, Take, trouble))
+    if (!ReadLines(path, Missing::IsError, Take, problem))
         return false;
     records = std::move(read);
     return true;

@@ -9,31 +9,31 @@ namespace Simulator {
 
 /// Default hardware text lines.
 std::vector<std::string> DefaultHardware();
-/// Reads hardware text lines. On failure returns false and puts the reason into `trouble`.
-bool LoadHardware(const std::string& path, std::vector<std::string>& lines, std::string& trouble);
+/// Reads hardware text lines. On failure returns false and puts the reason into `problem`.
+bool LoadHardware(const std::string& path, std::vector<std::string>& lines, std::string& problem);
 
 /// Greatest length of a text in a data record.
 constexpr std::size_t LongestText = 252;
-/// True if the text fits into a data record. If not, puts the reason into `trouble`.
-bool IsRecordText(std::string_view text, std::string& trouble);
+/// True if the text fits into a data record. If not, puts the reason into `problem`.
+bool IsRecordText(std::string_view text, std::string& problem);
 
 /// Default configuration lines.
 std::vector<std::string> DefaultConfig();
 /// True if fields 2 to 5 of the line are bytes in hexadecimal whose sum plus 1 is a multiple of 256. Fields
 /// count from 0 and are separated by ":"; "\" escapes the next character. If not, puts the reason into
-/// `trouble`.
-bool IsGoodConfig(std::string_view line, std::string& trouble);
+/// `problem`.
+bool IsGoodConfig(std::string_view line, std::string& problem);
 /// Reads configuration lines, at most 255. Leaves `lines` unchanged if the file doesn't exist or has no
-/// lines. On failure returns false and puts the reason into `trouble`.
-bool LoadConfig(const std::string& path, std::vector<std::string>& lines, std::string& trouble);
-bool SaveConfig(const std::string& path, const std::vector<std::string>& lines, std::string& trouble);
+/// lines. On failure returns false and puts the reason into `problem`.
+bool LoadConfig(const std::string& path, std::vector<std::string>& lines, std::string& problem);
+bool SaveConfig(const std::string& path, const std::vector<std::string>& lines, std::string& problem);
 
 /// Default debug log records, without checksums: temperature samples for transfer protocol 2, a trace of the
 /// serial traffic for the others.
 std::vector<std::string> DefaultLog(int protocol);
 /// Reads debug log records: either an address of four digits, a blank and data, all in hexadecimal digits, or
-/// a complete "T1" record without its checksum. On failure returns false and puts the reason into `trouble`.
-bool LoadLog(const std::string& path, std::vector<std::string>& records, std::string& trouble);
+/// a complete "T1" record without its checksum. On failure returns false and puts the reason into `problem`.
+bool LoadLog(const std::string& path, std::vector<std::string>& records, std::string& problem);
 
 /// Body of the data record for a text, with address 0.
 std::string TextRecord(std::string_view text);

@@ -5,12 +5,12 @@
 namespace Simulator {
 
 std::optional<DigitalMemory> ParseMemory(Layout layout, std::string_view line, const DigitalModel& model,
-                                         std::string& trouble) {
-    const auto record = ParseRecord(line, trouble);
+                                         std::string& problem) {
+    const auto record = ParseRecord(line, problem);
     if (!record)
         return std::nullopt;
     const std::string_view body = line.substr(0, line.size() - 2);
-    return layout == Layout::V1 ? ParseMemoryV1(body, model, trouble) : ParseMemoryV2(body, model, trouble);
+    return layout == Layout::V1 ? ParseMemoryV1(body, model, problem) : ParseMemoryV2(body, model, problem);
 }
 
 std::string FormatMemory(Layout layout, const DigitalMemory& memory, const ShadowSlots& shadows,

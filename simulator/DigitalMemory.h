@@ -45,9 +45,9 @@ using DigitalMemoryList = std::map<int, DigitalMemory>;
 using ShadowSlots = std::array<int, 7>;
 
 /// Reads a memory record with its checksum. Refuses whatever the program must not send: a broken frame,
-/// fields out of range, missing literals. On refusal returns nothing and puts the reason into `trouble`.
+/// fields out of range, missing literals. On refusal returns nothing and puts the reason into `problem`.
 std::optional<DigitalMemory> ParseMemory(Layout layout, std::string_view line, const DigitalModel& model,
-                                         std::string& trouble);
+                                         std::string& problem);
 
 /// Returns the record with its checksum. Empty if the layout has no number for the memory or can't hold it.
 std::string FormatMemory(Layout layout, const DigitalMemory& memory, const ShadowSlots& shadows,
@@ -58,9 +58,9 @@ ShadowSlots ShadowsOf(const DigitalMemory& primary, const DigitalMemoryList& mem
 
 // The two layouts. Bodies come without their checksums, which ParseMemory has checked.
 std::optional<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalModel& model,
-                                           std::string& trouble);
+                                           std::string& problem);
 std::optional<DigitalMemory> ParseMemoryV2(std::string_view body, const DigitalModel& model,
-                                           std::string& trouble);
+                                           std::string& problem);
 std::string FormatMemoryV1(const DigitalMemory& memory, const ShadowSlots& shadows,
                            const DigitalModel& model);
 std::string FormatMemoryV2(const DigitalMemory& memory, const ShadowSlots& shadows);

@@ -19,7 +19,7 @@ std::string FileLine(const DigitalMemory& memory, Layout layout, const DigitalMo
 } // namespace
 
 bool LoadDigitalMemories(const std::string& path, const DigitalModel& model, DigitalMemoryList& memories,
-                         std::string& trouble) {
+                         std::string& problem) {
     DigitalMemoryList read;
     const auto Take = [&](const std::string& line, std::string& why) {
         if (!line.starts_with("1 ") && !line.starts_with("2 ")) {
@@ -31,18 +31,18 @@ bool LoadDigitalMemories(const std::string& path, const DigitalModel& model, Dig
             read[memory->address] = *memory;
         return memory.has_value();
     };
-    if (!ReadLines(path, Missing::IsEmpty, Take, trouble))
+    if (!ReadLines(path, Missing::IsEmpty, Take, problem))
         return false;
     memories = std::move(read);
     return true;
 }
 
 bool SaveDigitalMemories(const std::string& path, const DigitalModel& model, Layout layout,
-                         const DigitalMemoryList& memories, std::string& trouble) {
+                         const DigitalMemoryList& memories, std::string& problem) {
     std::string text = "# " + std::string(model.name) + " " + std::string(model.band) + "\n";
     for (const auto& [address, memory] : memories)
         text += FileLine(memory, layout, model) + "\n";
-    return WriteTextFile(path, text, trouble);
+    return WriteTextFile(path, text, problem);
 }
 
 } // namespace Simulator

@@ -41,10 +41,10 @@ unsigned long Byte(int value) {
 } // namespace
 
 std::optional<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalModel& model,
-                                           std::string& trouble) {
+                                           std::string& problem) {
     RecordFields fields(body);
     if (body.size() != LengthV1) {
-        trouble = "length is " + std::to_string(body.size() + 2) + ", not 138";
+        problem = "length is " + std::to_string(body.size() + 2) + ", not 138";
         return std::nullopt;
     }
     DigitalMemory memory;
@@ -88,7 +88,7 @@ std::optional<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalM
     fields.Zeros(130, 6, "reserved field");
     if (fields.IsGood())
         return memory;
-    trouble = fields.Trouble();
+    problem = fields.Problem();
     return std::nullopt;
 }
 

@@ -18,10 +18,10 @@ unsigned long Word(long value) {
 } // namespace
 
 std::optional<DigitalMemory> ParseMemoryV2(std::string_view body, const DigitalModel& model,
-                                           std::string& trouble) {
+                                           std::string& problem) {
     RecordFields fields(body);
     if (body.size() != LengthV2) {
-        trouble = "length is " + std::to_string(body.size() + 2) + ", not 138";
+        problem = "length is " + std::to_string(body.size() + 2) + ", not 138";
         return std::nullopt;
     }
     DigitalMemory memory;
@@ -56,7 +56,7 @@ std::optional<DigitalMemory> ParseMemoryV2(std::string_view body, const DigitalM
     fields.Zeros(128, 8, "reserved field");
     if (fields.IsGood())
         return memory;
-    trouble = fields.Trouble();
+    problem = fields.Problem();
     return std::nullopt;
 }
 

@@ -88,45 +88,45 @@ void DigitalRadio::TakeQuery(int code) {
     case Purge:
         m_changed = m_changed || !m_contents.memories.empty();
         m_contents.memories.clear();
-        m_voice.MaybeBusy();
-        m_voice.SayAck();
+        m_replies.MaybeBusy();
+        m_replies.SayAck();
         return;
     case ReadStamp:
-        m_voice.Say("T20B000021" + m_habits.stamp);
+        m_replies.Say("T20B000021" + m_habits.stamp);
         return;
     case ReadVersion:
-        m_voice.Say("T207000023" + m_habits.firmware);
+        m_replies.Say("T207000023" + m_habits.firmware);
         return;
     case SendMemories:
         BeginList(List::Memories, MemoryBodies());
-        m_voice.SayAck();
+        m_replies.SayAck();
         m_link.BeginAnswers();
         return;
     case TakeMemories:
         m_state = State::WritingMemory;
-        m_voice.SayAck();
+        m_replies.SayAck();
         m_link.BeginAnswers();
         return;
     case SendLog:
         BeginList(List::Log, m_contents.log);
-        m_voice.SayAck();
+        m_replies.SayAck();
         return;
     case SendConfig: {
         std::vector<std::string> bodies;
         for (const std::string& line : m_contents.config)
             bodies.push_back(TextRecord(line));
-        m_voice.Say("T205000034" + Hex(bodies.size(), 2));
+        m_replies.Say("T205000034" + Hex(bodies.size(), 2));
         BeginList(List::Config, std::move(bodies));
         return;
     }
     case TakeConfigs:
         m_state = State::WritingConfig;
-        m_voice.SayAck();
+        m_replies.SayAck();
         return;
     case ReadModes:
         if (m_habits.protocol == 0)
             break;
-        m_voice.Say("T205000033" + Hex(static_cast<unsigned long>(m_habits.modes), 2));
+        m_replies.Say("T205000033" + Hex(static_cast<unsigned long>(m_habits.modes), 2));
         return;
     case SendHardware: {
         if (m_habits.protocol != 2)
@@ -157,8 +157,8 @@ void DigitalRadio::TakeErase(int address) {
     }
     if (m_contents.memories.erase(address) > 0)
         m_changed = true;
-    m_voice.MaybeBusy();
-    m_voice.SayAck();
+    m_replies.MaybeBusy();
+    m_replies.SayAck();
 }
 
 void DigitalRadio::TakeStamp(const HexRecord& record) {
@@ -171,7 +171,7 @@ void DigitalRadio::TakeStamp(const HexRecord& record) {
     }
     m_state = State::Ready;
     m_habits.stamp = digits;
-    m_voice.SayAck();
+    m_replies.SayAck();
 }
 
 void DigitalRadio::TakeSpeed(const HexRecord& record) {
@@ -183,7 +183,7 @@ void DigitalRadio::TakeSpeed(const HexRecord& record) {
         Refuse("speed change to anything but 115200 baud");
         return;
     }
-    m_voice.SayAck();
+    m_replies.SayAck();
     m_speed = FastBaud;
     m_state = m_link.Plays(FaultKind::Deaf, m_link.NextAnswer()) ? State::Deaf : State::Ready;
 }

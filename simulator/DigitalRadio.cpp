@@ -14,7 +14,7 @@ constexpr int HelloBase = 0x20;
 DigitalRadio::DigitalRadio(const DigitalModel& model, DigitalHabits habits, DigitalContents contents,
                            RadioLink& link)
     : m_model(model), m_habits(std::move(habits)), m_contents(std::move(contents)), m_link(link),
-      m_voice(link), m_layout(LayoutOf(m_habits.protocol, m_habits.firmware)), m_lineSpeed(SlowBaud),
+      m_replies(link), m_layout(LayoutOf(m_habits.protocol, m_habits.firmware)), m_lineSpeed(SlowBaud),
       m_speed(SlowBaud) {}
 
 void DigitalRadio::Hear(std::uint8_t byte) {
@@ -46,10 +46,10 @@ bool DigitalRadio::FitsSpeed() {
 }
 
 void DigitalRadio::TakeLine(const std::string& line) {
-    std::string trouble;
-    const auto record = ParseRecord(line, trouble);
+    std::string problem;
+    const auto record = ParseRecord(line, problem);
     if (!record) {
-        Refuse("\"" + line + "\" " + trouble);
+        Refuse("\"" + line + "\" " + problem);
         return;
     }
     switch (record->type) {
@@ -86,12 +86,12 @@ void DigitalRadio::TakeHello(const HexRecord& hello) {
     m_state = State::Idle;
     m_speed = SlowBaud;
     if (hello.data[0] != HelloBase + m_habits.protocol) {
-        m_voice.SayNak();
+        m_replies.SayNak();
         return;
     }
     m_state = State::Greeted;
-    m_voice.BeginDialogue();
-    m_voice.SayAck();
+    m_replies.BeginDialogue();
+    m_replies.SayAck();
 }
 
 void DigitalRadio::TakeEnd() {
@@ -121,39 +121,39 @@ void DigitalRadio::TakeData(const HexRecord& record, const std::string& line) {
 }
 
 void DigitalRadio::TakeMemory(const std::string& line) {
-    std::string trouble;
-    const auto memory = ParseMemory(m_layout, line, m_model, trouble);
+    std::string problem;
+    const auto memory = ParseMemory(m_layout, line, m_model, problem);
     if (!memory) {
-        Refuse("\"" + line + "\": " + trouble);
+        Refuse("\"" + line + "\": " + problem);
         return;
     }
-    switch (m_voice.NextInstead()) {
-    case DigitalVoice::Instead::Nak:
-        m_voice.SayNak();
+    switch (m_replies.NextInstead()) {
+    case DigitalReplies::Instead::Nak:
+        m_replies.SayNak();
         return;
-    case DigitalVoice::Instead::End:
-        m_voice.SayEnd();
+    case DigitalReplies::Instead::End:
+        m_replies.SayEnd();
         m_state = State::Over;
         return;
-    case DigitalVoice::Instead::Nothing:
+    case DigitalReplies::Instead::Nothing:
         break;
     }
     m_contents.memories[memory->address] = *memory;
     m_changed = true;
-    m_voice.Acknowledge();
+    m_replies.Acknowledge();
 }
 
 void DigitalRadio::TakeConfig(const HexRecord& record) {
     const std::string text(record.data.begin(), record.data.end());
-    std::string trouble;
+    std::string problem;
     if (record.address != 0)
-        trouble = "has an address";
-    else if (IsRecordText(text, trouble) && IsGoodConfig(text, trouble)) {
+        problem = "has an address";
+    else if (IsRecordText(text, problem) && IsGoodConfig(text, problem)) {
         m_newConfig.push_back(text);
-        m_voice.SayAck();
+        m_replies.SayAck();
         return;
     }
-    Refuse("configuration \"" + text + "\" " + trouble);
+    Refuse("configuration \"" + text + "\" " + problem);
 }
 
 void DigitalRadio::BeginList(List list, std::vector<std::string> bodies) {
@@ -182,21 +182,21 @@ void DigitalRadio::SendNext() {
         return;
     }
     if (m_list != List::Memories) {
-        m_voice.Say(m_bodies[m_next++]);
+        m_replies.Say(m_bodies[m_next++]);
         return;
     }
-    switch (m_voice.NextInstead()) {
-    case DigitalVoice::Instead::Nak:
-        m_voice.SayNak();
+    switch (m_replies.NextInstead()) {
+    case DigitalReplies::Instead::Nak:
+        m_replies.SayNak();
         return;
-    case DigitalVoice::Instead::End:
+    case DigitalReplies::Instead::End:
         EndList();
         return;
-    case DigitalVoice::Instead::Nothing:
+    case DigitalReplies::Instead::Nothing:
         break;
     }
     m_repeated = false;
-    m_voice.SendRecord(m_bodies[m_next++]);
+    m_replies.SendRecord(m_bodies[m_next++]);
 }
 
 void DigitalRadio::SendAgain() {
@@ -206,13 +206,13 @@ void DigitalRadio::SendAgain() {
     }
     m_repeated = true;
     if (m_list == List::Memories)
-        m_voice.RepeatRecord(m_bodies[m_next - 1]);
+        m_replies.RepeatRecord(m_bodies[m_next - 1]);
     else
-        m_voice.Say(m_bodies[m_next - 1]);
+        m_replies.Say(m_bodies[m_next - 1]);
 }
 
 void DigitalRadio::EndList() {
-    m_voice.SayEnd();
+    m_replies.SayEnd();
     m_bodies.clear();
     if (m_list == List::Hardware) {
         m_state = State::Ready;
@@ -225,7 +225,7 @@ void DigitalRadio::EndList() {
 void DigitalRadio::Refuse(const std::string& why) {
     ++m_violations;
     m_link.Complain("refused: " + why);
-    m_voice.SayNak();
+    m_replies.SayNak();
 }
 
 bool DigitalRadio::IsAtRest() const {
@@ -247,19 +247,19 @@ void DigitalRadio::PortClosed() {
 }
 
 void DigitalRadio::Keep() {
-    std::string trouble;
-    if (!Store(trouble))
-        m_link.Complain(trouble);
+    std::string problem;
+    if (!Store(problem))
+        m_link.Complain(problem);
 }
 
-bool DigitalRadio::Store(std::string& trouble) {
+bool DigitalRadio::Store(std::string& problem) {
     if (m_changed && !m_habits.memoryFile.empty()) {
-        if (!SaveDigitalMemories(m_habits.memoryFile, m_model, m_layout, m_contents.memories, trouble))
+        if (!SaveDigitalMemories(m_habits.memoryFile, m_model, m_layout, m_contents.memories, problem))
             return false;
         m_changed = false;
     }
     if (m_configChanged && !m_habits.configFile.empty()) {
-        if (!SaveConfig(m_habits.configFile, m_contents.config, trouble))
+        if (!SaveConfig(m_habits.configFile, m_contents.config, problem))
             return false;
         m_configChanged = false;
     }

@@ -3,7 +3,7 @@
 
 #include "simulator/DigitalLists.h"
 #include "simulator/DigitalMemory.h"
-#include "simulator/DigitalVoice.h"
+#include "simulator/DigitalReplies.h"
 #include "simulator/HexRecord.h"
 #include "simulator/Radio.h"
 
@@ -42,7 +42,7 @@ public:
     bool IsAtRest() const override;
     bool BeginsAnew(std::string_view bytes) const override;
     void PortClosed() override;
-    bool Store(std::string& trouble) override;
+    bool Store(std::string& problem) override;
     int Violations() const override { return m_violations; }
 
     const DigitalMemoryList& Memories() const { return m_contents.memories; }
@@ -87,7 +87,7 @@ private:
     DigitalHabits m_habits;
     DigitalContents m_contents;
     RadioLink& m_link;
-    DigitalVoice m_voice;
+    DigitalReplies m_replies;
     const Layout m_layout;
     State m_state = State::Idle;
     std::string m_text;     // characters since the last carriage return

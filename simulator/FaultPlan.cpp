@@ -63,7 +63,7 @@ int PositiveNumber(std::string_view text) {
 
 } // namespace
 
-std::optional<Fault> ParseFault(std::string_view text, std::string& trouble) {
+std::optional<Fault> ParseFault(std::string_view text, std::string& problem) {
     const std::size_t at = text.find('@');
     const std::string_view name = text.substr(0, at);
     for (const KindName& entry : Kinds) {
@@ -77,7 +77,7 @@ std::optional<Fault> ParseFault(std::string_view text, std::string& trouble) {
             break;
         return Fault{entry.kind, answer, transfer};
     }
-    trouble = "\"" + std::string(text) +
+    problem = "\"" + std::string(text) +
               "\" is no fault: say KIND@N or KIND@N/T with N and T from 1; kinds are " + FaultNames();
     return std::nullopt;
 }

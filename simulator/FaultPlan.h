@@ -38,8 +38,8 @@ struct Fault {
 };
 
 /// Reads "KIND@N" or "KIND@N/T" (only in transfer T). For anything else returns nothing and puts a sentence
-/// into `trouble`.
-std::optional<Fault> ParseFault(std::string_view text, std::string& trouble);
+/// into `problem`.
+std::optional<Fault> ParseFault(std::string_view text, std::string& problem);
 
 /// Names of all kinds as ParseFault reads them, separated by commas.
 std::string FaultNames();

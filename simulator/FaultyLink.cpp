@@ -25,8 +25,8 @@ std::string Sent(std::string_view bytes) {
 
 } // namespace
 
-FaultyLink::FaultyLink(FaultPlan plan, std::chrono::milliseconds late, Outlet& outlet, Journal& journal)
-    : m_plan(std::move(plan)), m_late(late), m_outlet(outlet), m_journal(journal) {}
+FaultyLink::FaultyLink(FaultPlan plan, std::chrono::milliseconds late, OutputQueue& output, Journal& journal)
+    : m_plan(std::move(plan)), m_late(late), m_output(output), m_journal(journal) {}
 
 void FaultyLink::BeginDialogue() {
     ++m_transfer;
@@ -47,7 +47,7 @@ bool FaultyLink::Plays(FaultKind kind, int answer) {
 
 void FaultyLink::Pause(std::chrono::milliseconds duration) {
     if (!m_dead)
-        m_outlet.Pause(duration, "");
+        m_output.Pause(duration, "");
 }
 
 void FaultyLink::DieIfNext() {
@@ -62,7 +62,7 @@ void FaultyLink::Answer(std::string_view bytes, AnswerKind kind) {
         return;
     ++m_answer;
     if (const Fault* fault = Due(FaultKind::Unplug)) {
-        m_outlet.Vanish(Played(*fault));
+        m_output.Vanish(Played(*fault));
         m_dead = true;
         return;
     }
@@ -82,7 +82,7 @@ void FaultyLink::MakeNoise(AnswerKind kind) {
     // Readers recognise a record by its first letter at the start of a line, so noise needs a line end.
     if (kind == AnswerKind::Record || kind == AnswerKind::RecordAcknowledgement)
         noise += '\r';
-    m_outlet.Say(noise, Played(*fault));
+    m_output.Say(noise, Played(*fault));
 }
 
 void FaultyLink::AnswerLine(std::string_view bytes) {
@@ -94,15 +94,15 @@ void FaultyLink::AnswerLine(std::string_view bytes) {
     }
     const Fault* torn = Due(FaultKind::Torn);
     if (!torn) {
-        m_outlet.Say(line, Sent(line));
+        m_output.Say(line, Sent(line));
         return;
     }
     const std::size_t piece = line.size() / Pieces + 1;
     for (std::size_t at = 0; at < line.size(); at += piece) {
         if (at > 0)
-            m_outlet.Pause(PieceGap, at == piece ? Played(*torn) : "");
+            m_output.Pause(PieceGap, at == piece ? Played(*torn) : "");
         const bool last = at + piece >= line.size();
-        m_outlet.Say(line.substr(at, piece), last ? Sent(line) : "");
+        m_output.Say(line.substr(at, piece), last ? Sent(line) : "");
     }
 }
 
@@ -112,31 +112,31 @@ void FaultyLink::AnswerAcknowledgement(std::string_view bytes, AnswerKind kind) 
         return;
     }
     if (const Fault* fault = Due(FaultKind::LateAck))
-        m_outlet.Pause(m_late, Played(*fault));
+        m_output.Pause(m_late, Played(*fault));
     if (kind == AnswerKind::RecordAcknowledgement)
         AnswerLine(bytes);
     else
-        m_outlet.Say(std::string(bytes), Sent(bytes));
+        m_output.Say(std::string(bytes), Sent(bytes));
 }
 
 void FaultyLink::Print(std::string_view bytes) {
     if (!m_dead)
-        m_outlet.Say(std::string(bytes), Sent(bytes));
+        m_output.Say(std::string(bytes), Sent(bytes));
 }
 
 void FaultyLink::WaitForKey(std::chrono::milliseconds patience) {
     if (!m_dead)
-        m_outlet.AwaitKey(patience);
+        m_output.AwaitKey(patience);
 }
 
 void FaultyLink::EndTransfer() {
     if (!m_dead)
-        m_outlet.CountCompleted();
+        m_output.CountCompleted();
 }
 
 void FaultyLink::EndTransferWhenSent() {
     if (!m_dead)
-        m_outlet.Complete();
+        m_output.Complete();
 }
 
 } // namespace Simulator

@@ -3,16 +3,16 @@
 
 #include "simulator/FaultPlan.h"
 #include "simulator/Journal.h"
-#include "simulator/Outlet.h"
+#include "simulator/OutputQueue.h"
 #include "simulator/Radio.h"
 
 namespace Simulator {
 
-/// Passes the radio's output to the outlet and plays the plan's faults on it.
+/// Passes the radio's output to the output and plays the plan's faults on it.
 class FaultyLink : public RadioLink {
 public:
-    /// `outlet` and `journal` must outlive the link. `late` is the delay of a late acknowledgement.
-    FaultyLink(FaultPlan plan, std::chrono::milliseconds late, Outlet& outlet, Journal& journal);
+    /// `output` and `journal` must outlive the link. `late` is the delay of a late acknowledgement.
+    FaultyLink(FaultPlan plan, std::chrono::milliseconds late, OutputQueue& output, Journal& journal);
 
     void BeginTransfer() override;
     void BeginDialogue() override;
@@ -25,7 +25,7 @@ public:
     void WaitForKey(std::chrono::milliseconds patience) override;
     void EndTransfer() override;
     void EndTransferWhenSent() override;
-    bool IsSending() const override { return !m_outlet.IsEmpty(); }
+    bool IsSending() const override { return !m_output.IsEmpty(); }
     void Note(std::string_view text) override { m_journal.Note(text); }
     void Complain(std::string_view text) override { m_journal.Complain(text); }
 
@@ -43,7 +43,7 @@ private:
 
     FaultPlan m_plan;
     std::chrono::milliseconds m_late;
-    Outlet& m_outlet;
+    OutputQueue& m_output;
     Journal& m_journal;
     int m_transfer = 0;
     int m_answer = 0; // the current answer, from 1

@@ -40,9 +40,9 @@ std::string WithChecksum(std::string_view body) {
     return std::string(body) + Hex(Checksum(body), 2);
 }
 
-std::optional<HexRecord> ParseRecord(std::string_view line, std::string& trouble) {
-    const auto Refuse = [&trouble](const std::string& why) {
-        trouble = why;
+std::optional<HexRecord> ParseRecord(std::string_view line, std::string& problem) {
+    const auto Refuse = [&problem](const std::string& why) {
+        problem = why;
         return std::nullopt;
     };
     if (!line.starts_with('T'))

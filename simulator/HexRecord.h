@@ -22,8 +22,8 @@ struct HexRecord {
 constexpr std::size_t LongestRecord = 4 + 2 * 255;
 
 /// Reads a line without its carriage return. Checks first letter, type, upper case, count against the length,
-/// and checksum. If one is wrong, returns nothing and puts the reason into `trouble`.
-std::optional<HexRecord> ParseRecord(std::string_view line, std::string& trouble);
+/// and checksum. If one is wrong, returns nothing and puts the reason into `problem`.
+std::optional<HexRecord> ParseRecord(std::string_view line, std::string& problem);
 
 /// Returns the line with count and checksum, without a line end.
 std::string FormatRecord(const HexRecord& record);

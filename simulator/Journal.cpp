@@ -23,10 +23,10 @@ std::string Printable(std::string_view text) {
 
 } // namespace
 
-bool Journal::Open(const std::string& path, std::string& trouble) {
+bool Journal::Open(const std::string& path, std::string& problem) {
     m_file.reset(std::fopen(path.c_str(), "w"));
     if (!m_file)
-        trouble = path + ": " + std::strerror(errno);
+        problem = path + ": " + std::strerror(errno);
     return m_file != nullptr;
 }
 

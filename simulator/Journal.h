@@ -17,8 +17,8 @@ public:
     /// A journal without a file: only complaints are written, to standard error.
     Journal() = default;
 
-    /// Creates or empties the file. If it can't be written, returns false and puts the reason into `trouble`.
-    bool Open(const std::string& path, std::string& trouble);
+    /// Creates or empties the file. If it can't be written, returns false and puts the reason into `problem`.
+    bool Open(const std::string& path, std::string& problem);
 
     /// Writes a line. Bytes that aren't printable ASCII are written as \xNN.
     void Note(std::string_view text);

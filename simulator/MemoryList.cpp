@@ -5,7 +5,7 @@
 namespace Simulator {
 
 bool LoadMemories(const std::string& path, const AnalogModel& model, MemoryList& memories,
-                  std::string& trouble) {
+                  std::string& problem) {
     MemoryList read;
     const auto Take = [&](const std::string& line, std::string& why) {
         const auto memory = ParseLongLine(line, model, model.rows, why);
@@ -13,18 +13,18 @@ bool LoadMemories(const std::string& path, const AnalogModel& model, MemoryList&
             read[memory->number] = *memory;
         return memory.has_value();
     };
-    if (!ReadLines(path, Missing::IsEmpty, Take, trouble))
+    if (!ReadLines(path, Missing::IsEmpty, Take, problem))
         return false;
     memories = std::move(read);
     return true;
 }
 
 bool SaveMemories(const std::string& path, const AnalogModel& model, const MemoryList& memories,
-                  std::string& trouble) {
+                  std::string& problem) {
     std::string text = "# " + std::string(model.name) + " " + std::string(model.band) + "\n";
     for (const auto& [number, memory] : memories)
         text += FormatLongLine(memory, NumberField(number)) + "\n";
-    return WriteTextFile(path, text, trouble);
+    return WriteTextFile(path, text, problem);
 }
 
 } // namespace Simulator

@@ -9,7 +9,7 @@ namespace Simulator {
 
 namespace {
 
-using Taker = std::function<bool(Options&, const std::string& value, std::string& trouble)>;
+using Taker = std::function<bool(Options&, const std::string& value, std::string& problem)>;
 
 enum class Value { None, Needed, Optional };
 
@@ -21,41 +21,41 @@ struct Option {
     Taker take;
 };
 
-bool TakeMilliseconds(const std::string& text, std::chrono::milliseconds& out, std::string& trouble) {
+bool TakeMilliseconds(const std::string& text, std::chrono::milliseconds& out, std::string& problem) {
     int value = -1;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size() || value < 0) {
-        trouble = "\"" + text + "\" is no number of milliseconds";
+        problem = "\"" + text + "\" is no number of milliseconds";
         return false;
     }
     out = std::chrono::milliseconds(value);
     return true;
 }
 
-bool TakeModel(Options& options, const std::string& value, std::string& trouble) {
+bool TakeModel(Options& options, const std::string& value, std::string& problem) {
     const std::size_t colon = value.find(':');
     const std::string band = colon == std::string::npos ? "" : value.substr(colon + 1);
     const std::string name = value.substr(0, colon);
     options.model = nullptr;
     options.digitalModel = FindDigitalModel(name, band);
     if (!options.digitalModel)
-        options.model = FindAnalogModel(name, band, trouble);
+        options.model = FindAnalogModel(name, band, problem);
     for (const DigitalModel& model : DigitalModels())
         if (!options.model && model.name == name && model.bandNeeded)
-            trouble += ", or \"" + std::string(model.band) + "\"";
+            problem += ", or \"" + std::string(model.band) + "\"";
     return options.model || options.digitalModel;
 }
 
-bool TakeName(Options& options, const std::string& value, std::string& trouble) {
+bool TakeName(Options& options, const std::string& value, std::string& problem) {
     if (value.empty() || value[0] == '.' || value.find('/') != std::string::npos) {
-        trouble = "\"" + value + "\" can't be the name of a link";
+        problem = "\"" + value + "\" can't be the name of a link";
         return false;
     }
     options.name = value;
     return true;
 }
 
-bool TakeParity(Options& options, const std::string& value, std::string& trouble) {
+bool TakeParity(Options& options, const std::string& value, std::string& problem) {
     if (value.empty() || value == "all")
         options.habits.parity = Parity::All;
     else if (value == "text")
@@ -63,14 +63,14 @@ bool TakeParity(Options& options, const std::string& value, std::string& trouble
     else if (value == "bytes")
         options.habits.parity = Parity::Bytes;
     else {
-        trouble = "--parity is \"text\", \"all\" or \"bytes\", not \"" + value + "\"";
+        problem = "--parity is \"text\", \"all\" or \"bytes\", not \"" + value + "\"";
         return false;
     }
     return true;
 }
 
-bool TakeFault(Options& options, const std::string& value, std::string& trouble) {
-    const auto fault = ParseFault(value, trouble);
+bool TakeFault(Options& options, const std::string& value, std::string& problem) {
+    const auto fault = ParseFault(value, problem);
     if (fault)
         options.faults.push_back(*fault);
     return fault.has_value();
@@ -78,8 +78,8 @@ bool TakeFault(Options& options, const std::string& value, std::string& trouble)
 
 /// An option of the digital radios.
 Taker Digital(bool (*take)(const std::string&, DigitalOptions&, std::string&)) {
-    return [take](Options& options, const std::string& value, std::string& trouble) {
-        return take(value, options.digital, trouble);
+    return [take](Options& options, const std::string& value, std::string& problem) {
+        return take(value, options.digital, problem);
     };
 }
 
@@ -172,7 +172,7 @@ const Option* FindOption(std::string_view name) {
 
 } // namespace
 
-bool ParseOptions(const std::vector<std::string>& arguments, Options& options, std::string& trouble) {
+bool ParseOptions(const std::vector<std::string>& arguments, Options& options, std::string& problem) {
     for (std::size_t k = 0; k < arguments.size(); ++k) {
         const std::string& argument = arguments[k];
         const std::size_t equals = argument.find('=');
@@ -180,36 +180,36 @@ bool ParseOptions(const std::vector<std::string>& arguments, Options& options, s
                                    ? FindOption(std::string_view(argument).substr(2, equals - 2))
                                    : nullptr;
         if (!option) {
-            trouble = "unknown argument \"" + argument + "\" (--help tells more)";
+            problem = "unknown argument \"" + argument + "\" (--help tells more)";
             return false;
         }
         std::string value;
         if (equals != std::string::npos) {
             if (option->value == Value::None) {
-                trouble = "--" + std::string(option->name) + " takes no value";
+                problem = "--" + std::string(option->name) + " takes no value";
                 return false;
             }
             value = argument.substr(equals + 1);
         } else if (option->value == Value::Needed) {
             if (++k == arguments.size()) {
-                trouble = argument + " needs a value";
+                problem = argument + " needs a value";
                 return false;
             }
             value = arguments[k];
         }
-        if (!option->take(options, value, trouble))
+        if (!option->take(options, value, problem))
             return false;
     }
     if (options.task != Options::Task::Play)
         return true;
     if (!options.model && !options.digitalModel) {
-        trouble = "say which radio to play with --model (--list names them all)";
+        problem = "say which radio to play with --model (--list names them all)";
         return false;
     }
     if (options.name.empty())
         options.name = options.model ? options.model->name : options.digitalModel->name;
     options.habits.memoryFile = options.digital.habits.memoryFile = options.memoryFile;
-    return options.model || CompleteHabits(*options.digitalModel, options.digital, trouble);
+    return options.model || CompleteHabits(*options.digitalModel, options.digital, problem);
 }
 
 std::string HelpText() {

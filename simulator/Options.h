@@ -31,8 +31,8 @@ struct Options {
 
 /// Reads the arguments after the program's name. A value is the argument after its option, or follows "=".
 /// Options for the other kind of radio have no effect. If the arguments are invalid, returns false and puts a
-/// sentence into `trouble`.
-bool ParseOptions(const std::vector<std::string>& arguments, Options& options, std::string& trouble);
+/// sentence into `problem`.
+bool ParseOptions(const std::vector<std::string>& arguments, Options& options, std::string& problem);
 
 /// The text of --help.
 std::string HelpText();

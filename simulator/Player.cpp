@@ -20,9 +20,9 @@ constexpr std::size_t ReadSize = 512;
 
 } // namespace
 
-Player::Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, Outlet& outlet, Journal& journal,
+Player::Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, OutputQueue& output, Journal& journal,
                bool pace, bool once)
-    : m_port(port), m_radio(radio), m_link(link), m_outlet(outlet), m_journal(journal), m_pace(pace),
+    : m_port(port), m_radio(radio), m_link(link), m_output(output), m_journal(journal), m_pace(pace),
       m_once(once) {}
 
 void Player::Run(int signals) {
@@ -44,7 +44,7 @@ void Player::Run(int signals) {
 void Player::Wait(int signals) {
     std::optional<TimePoint> due;
     if (m_port.IsOpen() && m_pending.empty())
-        due = m_outlet.NextDue();
+        due = m_output.NextDue();
     if (!m_heard.empty()) {
         const TimePoint heard = m_hearing.NextDue(Baud(), m_heard.size());
         due = due ? std::min(*due, heard) : heard;
@@ -76,7 +76,7 @@ void Player::TakeSignals(int signals) {
     while (read(signals, &info, sizeof info) == sizeof info) {
         if (info.ssi_signo == SIGUSR1) {
             m_journal.Note("- key pressed");
-            m_outlet.PressKey();
+            m_output.PressKey();
         } else {
             m_stop = true;
         }
@@ -104,13 +104,13 @@ void Player::Leave() {
         FeedRadio(m_heard.size(), m_port.Speed());
     }
     m_hearing.Rest();
-    m_outlet.Clear();
+    m_output.Clear();
     m_pending.clear();
     m_radio.PortClosed();
     m_link.PortClosed();
     m_port.Flush();
     m_journal.Note("- port closed");
-    if (m_once && m_outlet.Completed() > 0)
+    if (m_once && m_output.Completed() > 0)
         m_stop = true;
 }
 
@@ -137,7 +137,7 @@ void Player::Deliver() {
         m_pending.erase(0, m_port.Write(m_pending));
         if (!m_pending.empty())
             return;
-        Outlet::Delivery delivery = m_outlet.Take(Clock::now(), Baud());
+        OutputQueue::Delivery delivery = m_output.Take(Clock::now(), Baud());
         for (const std::string& note : delivery.notes)
             m_journal.Note(note);
         if (delivery.vanish) {

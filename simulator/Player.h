@@ -3,7 +3,7 @@
 
 #include "simulator/FaultyLink.h"
 #include "simulator/Journal.h"
-#include "simulator/Outlet.h"
+#include "simulator/OutputQueue.h"
 #include "simulator/PseudoTerminal.h"
 #include "simulator/Radio.h"
 
@@ -16,8 +16,8 @@ class Player {
 public:
     /// All arguments must outlive the player. With `pace`, neither direction is faster than the speed that
     /// the other side has set. With `once`, Run ends when the port is closed after a completed transfer.
-    Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, Outlet& outlet, Journal& journal, bool pace,
-           bool once);
+    Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, OutputQueue& output, Journal& journal,
+           bool pace, bool once);
 
     /// Plays until SIGTERM, SIGINT, SIGHUP, the unplug fault or `once` ends it. `signals` is a signalfd for
     /// these signals and for SIGUSR1, which presses the radio's key.
@@ -36,7 +36,7 @@ private:
     PseudoTerminal& m_port;
     Radio& m_radio;
     FaultyLink& m_link;
-    Outlet& m_outlet;
+    OutputQueue& m_output;
     Journal& m_journal;
     bool m_pace;
     bool m_once;

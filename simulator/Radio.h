@@ -71,8 +71,8 @@ public:
     /// Call when the other side has closed the port. Drops a dialogue in progress; keeps the memories.
     virtual void PortClosed() = 0;
     /// Writes the memories to their file if there is one. On failure returns false and puts the reason into
-    /// `trouble`.
-    virtual bool Store(std::string& trouble) = 0;
+    /// `problem`.
+    virtual bool Store(std::string& problem) = 0;
     /// Number of violations by the other side; 0 for radios that don't count them.
     virtual int Violations() const { return 0; }
 };

@@ -8,7 +8,7 @@ namespace Simulator {
 
 void RecordFields::Refuse(int position, const std::string& why) {
     if (IsGood())
-        m_trouble = "position " + std::to_string(position) + ": " + why;
+        m_problem = "position " + std::to_string(position) + ": " + why;
 }
 
 void RecordFields::Literal(int position, std::string_view text, std::string_view name) {

@@ -15,9 +15,9 @@ public:
     /// `body` is a record without its checksum: T followed by upper-case hexadecimal digits.
     explicit RecordFields(std::string_view body) : m_body(body) {}
 
-    bool IsGood() const { return m_trouble.empty(); }
+    bool IsGood() const { return m_problem.empty(); }
     /// The first error, with its position; empty if there is none.
-    const std::string& Trouble() const { return m_trouble; }
+    const std::string& Problem() const { return m_problem; }
 
     /// Requires this text at the position.
     void Literal(int position, std::string_view text, std::string_view name);
@@ -41,7 +41,7 @@ private:
     long InRange(int position, long hertz, const DigitalModel& model, std::string_view name);
 
     std::string_view m_body;
-    std::string m_trouble;
+    std::string m_problem;
 };
 
 /// Returns ASCII characters as pairs of hexadecimal digits.

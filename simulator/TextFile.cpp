@@ -11,12 +11,12 @@ namespace Simulator {
 
 bool ReadLines(const std::string& path, Missing missing,
                const std::function<bool(const std::string& line, std::string& why)>& take,
-               std::string& trouble) {
+               std::string& problem) {
     std::ifstream file(path);
     if (!file) {
         if (errno == ENOENT && missing == Missing::IsEmpty)
             return true;
-        trouble = path + ": " + std::strerror(errno);
+        problem = path + ": " + std::strerror(errno);
         return false;
     }
     std::string line;
@@ -27,19 +27,19 @@ bool ReadLines(const std::string& path, Missing missing,
             continue;
         std::string why;
         if (!take(line, why)) {
-            trouble = path + ":" + std::to_string(count) + ": " + why;
+            problem = path + ":" + std::to_string(count) + ": " + why;
             return false;
         }
     }
     if (file.bad())
-        trouble = path + ": can't be read";
+        problem = path + ": can't be read";
     return !file.bad();
 }
 
-bool WriteTextFile(const std::string& path, const std::string& text, std::string& trouble) {
+bool WriteTextFile(const std::string& path, const std::string& text, std::string& problem) {
     const std::string fresh = path + ".new";
     const auto Fail = [&] {
-        trouble = path + ": " + std::strerror(errno);
+        problem = path + ": " + std::strerror(errno);
         std::remove(fresh.c_str());
         return false;
     };

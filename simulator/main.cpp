@@ -15,7 +15,7 @@ namespace {
 
 using namespace Simulator;
 
-constexpr int Trouble = 1;
+constexpr int ExitFailure = 1;
 constexpr int BadUsage = 2;
 constexpr int RulesBroken = 3;
 
@@ -42,34 +42,34 @@ std::string RadioName(const Options& options) {
 }
 
 /// Returns the radio with the contents of its files. If one can't be read, returns null and puts the reason
-/// into `trouble`.
-std::unique_ptr<Radio> MakeRadio(const Options& options, RadioLink& link, std::string& trouble) {
+/// into `problem`.
+std::unique_ptr<Radio> MakeRadio(const Options& options, RadioLink& link, std::string& problem) {
     if (options.digitalModel) {
         DigitalContents contents;
-        if (!LoadContents(*options.digitalModel, options.digital, contents, trouble))
+        if (!LoadContents(*options.digitalModel, options.digital, contents, problem))
             return nullptr;
         return std::make_unique<DigitalRadio>(*options.digitalModel, options.digital.habits,
                                               std::move(contents), link);
     }
     MemoryList memories;
-    if (!options.memoryFile.empty() && !LoadMemories(options.memoryFile, *options.model, memories, trouble))
+    if (!options.memoryFile.empty() && !LoadMemories(options.memoryFile, *options.model, memories, problem))
         return nullptr;
     return std::make_unique<AnalogRadio>(*options.model, options.habits, std::move(memories), link);
 }
 
 int Play(const Options& options) {
-    std::string trouble;
+    std::string problem;
     Journal journal;
-    if (!options.logFile.empty() && !journal.Open(options.logFile, trouble))
-        return Complain(trouble, Trouble);
-    Outlet outlet;
-    FaultyLink link(FaultPlan(options.faults), options.late, outlet, journal);
-    const std::unique_ptr<Radio> radio = MakeRadio(options, link, trouble);
+    if (!options.logFile.empty() && !journal.Open(options.logFile, problem))
+        return Complain(problem, ExitFailure);
+    OutputQueue output;
+    FaultyLink link(FaultPlan(options.faults), options.late, output, journal);
+    const std::unique_ptr<Radio> radio = MakeRadio(options, link, problem);
     if (!radio)
-        return Complain(trouble, Trouble);
+        return Complain(problem, ExitFailure);
     const int signals = WatchSignals();
     if (signals < 0)
-        return Complain("signals can't be watched", Trouble);
+        return Complain("signals can't be watched", ExitFailure);
 
     {
         // The link is destroyed before the port, so that no link without a device is ever visible.
@@ -78,11 +78,11 @@ int Play(const Options& options) {
                       port.DeviceName());
         std::printf("zelk-radio: %s is ready at %s\n", RadioName(options).c_str(), name.Path().c_str());
         std::fflush(stdout);
-        Player(port, *radio, link, outlet, journal, options.pace, options.once).Run(signals);
+        Player(port, *radio, link, output, journal, options.pace, options.once).Run(signals);
     }
     close(signals);
-    if (!radio->Store(trouble))
-        return Complain(trouble, Trouble);
+    if (!radio->Store(problem))
+        return Complain(problem, ExitFailure);
     return radio->Violations() > 0 ? RulesBroken : 0;
 }
 
@@ -90,9 +90,9 @@ int Play(const Options& options) {
 
 int main(int argc, char** argv) {
     Options options;
-    std::string trouble;
-    if (!ParseOptions({argv + 1, argv + argc}, options, trouble))
-        return Complain(trouble, BadUsage);
+    std::string problem;
+    if (!ParseOptions({argv + 1, argv + argc}, options, problem))
+        return Complain(problem, BadUsage);
     switch (options.task) {
     case Options::Task::Help:
         std::fputs(HelpText().c_str(), stdout);
@@ -106,6 +106,6 @@ int main(int argc, char** argv) {
     try {
         return Play(options);
     } catch (const std::exception& failure) {
-        return Complain(failure.what(), Trouble);
+        return Complain(failure.what(), ExitFailure);
     }
 }

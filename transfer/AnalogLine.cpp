@@ -99,7 +99,7 @@ wxString CodeToText(const wxString& code) {
 wxString TextToCode(const wxString& text, int type) {
     if (text.empty() || text == "000")
         return "OFF";
-    return GetCodeText(std::max(GetCodeIndex(text, type), 0), type);
+    return GetCodeText(std::max(CodeIndexForType(text, type), 0), type);
 }
 
 wxString DescriptionToText(const wxString& description) {

@@ -143,9 +143,9 @@ public:
         case TRecordKind::Tone:
             return number(GetCtcssIndex(cell) + 1);
         case TRecordKind::PlainCode:
-            return number(GetCodeIndex(cell, m_source.type));
+            return number(CodeIndexForType(cell, m_source.type));
         case TRecordKind::Code:
-            return number(GetCodeIndex(cell, m_source.type) + 1);
+            return number(CodeIndexForType(cell, m_source.type) + 1);
         case TRecordKind::Flags:
             return number(FlagsOf(m_source));
         case TRecordKind::TalkGroup:

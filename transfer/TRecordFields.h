@@ -30,8 +30,8 @@ enum class TRecordKind {
     FrequencyText, ///< MHz in 8 characters
     FrequencyHertz,
     Tone,         ///< position in CtcssList plus 1
-    PlainCode,    ///< GetCodeIndex; read like Code
-    Code,         ///< GetCodeIndex plus 1; read as the entry one place further down the list
+    PlainCode,    ///< CodeIndexForType; read like Code
+    Code,         ///< CodeIndexForType plus 1; read as the entry one place further down the list
     TalkGroup,    ///< hexadecimal; read as "%04X"
     MaskedNac,    ///< hexadecimal, 12 bits; read as "%03X"
     Nac,          ///< hexadecimal; read as "%03X"

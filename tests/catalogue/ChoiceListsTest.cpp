@@ -160,13 +160,13 @@ TEST_F(ChoiceLists, CodeIndexCountsFromOffOnAnalogPagesAndFrom023OnP25Pages) {
     for (int type = 0; type < 8; ++type) {
         const int shift = type == 1 || type == 2 ? 1 : 0;
         for (size_t i = 0; i < Codes.size(); ++i)
-            EXPECT_EQ(GetCodeIndex(Codes[i], type), static_cast<int>(i) - shift)
+            EXPECT_EQ(CodeIndexForType(Codes[i], type), static_cast<int>(i) - shift)
                 << Codes[i] << " type " << type;
         for (const char* text : {"", "off", "23", "0023", "000", "024", "n/a"})
-            EXPECT_EQ(GetCodeIndex(text, type), -1) << '"' << text << "\" type " << type;
+            EXPECT_EQ(CodeIndexForType(text, type), -1) << '"' << text << "\" type " << type;
     }
-    EXPECT_EQ(GetCodeIndex("023", 1), 0);
-    EXPECT_EQ(GetCodeIndex("OFF", 2), -1);
+    EXPECT_EQ(CodeIndexForType("023", 1), 0);
+    EXPECT_EQ(CodeIndexForType("OFF", 2), -1);
 }
 
 TEST_F(ChoiceLists, CodeTextOfZeroIsOffOnAnalogPagesAnd023OnP25Pages) {

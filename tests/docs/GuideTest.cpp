@@ -122,8 +122,8 @@ std::vector<std::string> CodesBeginning(const std::string& start) {
 
 void ExpectUnderstood(const std::vector<std::string>& arguments) {
     Simulator::Options options;
-    std::string trouble;
-    EXPECT_TRUE(Simulator::ParseOptions(arguments, options, trouble)) << trouble;
+    std::string problem;
+    EXPECT_TRUE(Simulator::ParseOptions(arguments, options, problem)) << problem;
 }
 
 std::string WithoutBlanks(const std::string& text) {

@@ -1,7 +1,7 @@
 #include "editing/ColumnCommands.h"
 
+#include "editing/CellMarks.h"
 #include "editing/CellTextRenderer.h"
-#include "editing/RowLooks.h"
 #include "editing/ZelkEdit.h"
 #include "tests/editing/CommandTest.h"
 
@@ -34,7 +34,7 @@ protected:
     }
 };
 class DefaultFileCommand : public CommandTest {};
-class RowLooks : public CommandTest {};
+class CellMarks : public CommandTest {};
 class DefaultsCommands : public CommandTest {};
 class ClearHighlight : public CommandTest {};
 class MissingClipboard : public CommandTest {};
@@ -411,14 +411,14 @@ TEST_F(DefaultFileCommand, ForgetsLocksAndPaintOfFormerRows) {
     EXPECT_TRUE(IsReadOnly(0, MNUM));
 }
 
-TEST_F(RowLooks, ThatAreForgottenSpareWhatThePageNeeds) {
+TEST_F(CellMarks, ThatAreForgottenSpareWhatThePageNeeds) {
     Retarget(Kdrv716, 0);
     for (int row : {5, GD1}) {
         CurrentGrid()->SetReadOnly(row, SCAN, true);
         CurrentGrid()->SetReadOnly(row, RFRQ, row == 5);
         CurrentGrid()->SetCellBackgroundColour(row, RFRQ, Orange());
     }
-    ForgetLooksOfRows(CurrentGrid());
+    ClearMarksOfRows(CurrentGrid());
     EXPECT_EQ(Locked(5), std::vector<int>{SHAD});
     EXPECT_EQ(Locked(GD1), (std::vector<int>{MNUM, SHAD, SCAN, ZONE}));
     for (int row : {5, GD1})

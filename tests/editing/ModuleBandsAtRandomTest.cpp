@@ -5,7 +5,7 @@
 #include "editing/FrequencyCell.h"
 #include "editing/FrequencyRules.h"
 #include "frame/SelectionDialogs.h"
-#include "tests/editing/HardWork.h"
+#include "tests/editing/RandomEdits.h"
 
 #include <wx/choice.h>
 #include <wx/combobox.h>

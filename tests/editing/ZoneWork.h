@@ -3,7 +3,7 @@
 
 #include "robot/TempFolder.h"
 #include "tests/editing/CommandTest.h"
-#include "tests/editing/HardWork.h"
+#include "tests/editing/RandomEdits.h"
 
 #include <array>
 #include <deque>

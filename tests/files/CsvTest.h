@@ -1,8 +1,8 @@
 // Common base of the tests of comma-separated lists.
 #pragma once
 
+#include "editing/CellMarks.h"
 #include "editing/PageReset.h"
-#include "editing/RowLooks.h"
 #include "files/CsvImport.h"
 #include "tests/files/ChannelFileTest.h"
 #include "tests/support/Keys.h"
@@ -39,7 +39,7 @@ protected:
     }
 
     /// Removes the paint of former imports.
-    static void ForgetLooks() { ForgetLooksOfRows(CurrentGrid()); }
+    static void ForgetLooks() { ClearMarksOfRows(CurrentGrid()); }
 
 private:
     int Import(int (*reader)(wxFFile&), const std::string& bytes) {

@@ -1,7 +1,7 @@
 // Common base of the printing tests.
 #pragma once
 
-#include "editing/RowLooks.h"
+#include "editing/CellMarks.h"
 #include "files/ZelkPrinting.h"
 #include "tests/files/ChannelFileTest.h"
 

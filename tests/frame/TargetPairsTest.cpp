@@ -4,7 +4,7 @@
 #include "editing/FrequencyRules.h"
 #include "files/ChannelFileWriter.h"
 #include "frame/SelectionDialogs.h"
-#include "tests/editing/HardWork.h"
+#include "tests/editing/RandomEdits.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/ZelkWindowTest.h"
 

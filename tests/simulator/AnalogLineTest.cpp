@@ -9,8 +9,8 @@ namespace {
 using namespace Simulator;
 
 const AnalogModel& Model(const char* name, const char* band = "") {
-    std::string trouble;
-    return *FindAnalogModel(name, band, trouble);
+    std::string problem;
+    return *FindAnalogModel(name, band, problem);
 }
 
 constexpr char Good[] = "001 TOWER1    150.0000RX 151.2500TX CTCSS: 64RX 12TX DPL: 000RX 023TX 1_3__W";
@@ -28,9 +28,9 @@ std::string Changed(const Change& change) {
 }
 
 TEST(LongLine, OfEveryFieldIsTakenApart) {
-    std::string trouble;
-    const auto memory = ParseLongLine(Good, Model("KRV-214"), 102, trouble);
-    ASSERT_TRUE(memory) << trouble;
+    std::string problem;
+    const auto memory = ParseLongLine(Good, Model("KRV-214"), 102, problem);
+    ASSERT_TRUE(memory) << problem;
     EXPECT_EQ(memory->number, 1);
     EXPECT_EQ(memory->description, "TOWER1   ");
     EXPECT_EQ(memory->rxFrequency, 1500000);
@@ -64,9 +64,9 @@ TEST(LongLine, IsTakenWithEveryGoodValueOfAField) {
         {"wide", 75, "W"},
     };
     for (const Change& change : good) {
-        std::string trouble;
-        EXPECT_TRUE(ParseLongLine(Changed(change), Model("KRV-214"), 102, trouble))
-            << change.name << " [" << Changed(change) << "]: " << trouble;
+        std::string problem;
+        EXPECT_TRUE(ParseLongLine(Changed(change), Model("KRV-214"), 102, problem))
+            << change.name << " [" << Changed(change) << "]: " << problem;
     }
 }
 
@@ -117,18 +117,18 @@ TEST(LongLine, IsRefusedForEachMalformedField) {
         {"mode left out", 75, " "},
     };
     for (const Change& change : bad) {
-        std::string trouble;
-        EXPECT_FALSE(ParseLongLine(Changed(change), Model("KRV-214"), 102, trouble))
+        std::string problem;
+        EXPECT_FALSE(ParseLongLine(Changed(change), Model("KRV-214"), 102, problem))
             << change.name << " [" << Changed(change) << "]";
-        EXPECT_FALSE(trouble.empty()) << change.name;
+        EXPECT_FALSE(problem.empty()) << change.name;
     }
 }
 
 TEST(LongLine, OfAnotherLengthIsRefused) {
-    std::string trouble;
+    std::string problem;
     for (const std::string& line :
          {std::string(Good) + " ", std::string(Good).substr(0, 75), std::string(), "\n" + std::string(Good)})
-        EXPECT_FALSE(ParseLongLine(line, Model("KRV-214"), 102, trouble)) << line;
+        EXPECT_FALSE(ParseLongLine(line, Model("KRV-214"), 102, problem)) << line;
 }
 
 TEST(LongLine, KnowsEverySquelchCode) {
@@ -141,15 +141,15 @@ TEST(LongLine, KnowsEverySquelchCode) {
         "631", "632", "654", "662", "664", "703", "712", "723", "731", "732", "734", "743", "754"};
     int known = 0;
     for (int code = 1; code <= 999; ++code) {
-        std::string trouble;
-        known += ParseLongLine(Changed({"", 58, NumberField(code).c_str()}), Model("KRV-214"), 102, trouble)
+        std::string problem;
+        known += ParseLongLine(Changed({"", 58, NumberField(code).c_str()}), Model("KRV-214"), 102, problem)
                      ? 1
                      : 0;
     }
     EXPECT_EQ(known, 83);
     for (const char* code : codes) {
-        std::string trouble;
-        EXPECT_TRUE(ParseLongLine(Changed({"", 64, code}), Model("KRV-214"), 102, trouble)) << code;
+        std::string problem;
+        EXPECT_TRUE(ParseLongLine(Changed({"", 64, code}), Model("KRV-214"), 102, problem)) << code;
     }
 }
 
@@ -168,14 +168,14 @@ TEST(LongLine, OfTheModuleKeepsBothFrequenciesInOneRange) {
     for (const auto& pair : pairs) {
         std::string line = Changed({"", 14, pair.rx});
         line.replace(25, 8, pair.tx);
-        std::string trouble;
-        EXPECT_EQ(ParseLongLine(line, module, 500, trouble).has_value(), pair.good) << line;
+        std::string problem;
+        EXPECT_EQ(ParseLongLine(line, module, 500, problem).has_value(), pair.good) << line;
     }
 }
 
 TEST(ShortLine, LeavesOutReceiveToneAndReceiveCode) {
-    std::string trouble;
-    const auto memory = ParseLongLine(Good, Model("KRV-214"), 102, trouble);
+    std::string problem;
+    const auto memory = ParseLongLine(Good, Model("KRV-214"), 102, problem);
     ASSERT_TRUE(memory);
     const std::string line = FormatShortLine(*memory, "001");
     EXPECT_EQ(line, "001 TOWER1    150.0000RX 151.2500TX CTCSS: 12TX DPL: 023TX 1_3__W");
@@ -188,9 +188,9 @@ TEST(ShortLine, LeavesOutReceiveToneAndReceiveCode) {
 
 TEST(EmptyMemory, IsAGoodLineOfItsBand) {
     for (const AnalogModel& model : AnalogModels()) {
-        std::string trouble;
-        EXPECT_TRUE(ParseLongLine(FormatLongLine(EmptyMemory(model, 1), "001"), model, model.rows, trouble))
-            << model.name << " " << model.band << ": " << trouble;
+        std::string problem;
+        EXPECT_TRUE(ParseLongLine(FormatLongLine(EmptyMemory(model, 1), "001"), model, model.rows, problem))
+            << model.name << " " << model.band << ": " << problem;
     }
     EXPECT_EQ(FormatLongLine(EmptyMemory(Model("KRV-21"), 7), "007"),
               "007           030.0000RX 030.0000TX CTCSS: 64RX 64TX DPL: 000RX 000TX LOCK N");

@@ -61,9 +61,9 @@ TEST(AnalogModels, HoldEveryAnalogBandOfTheProductList) {
     ASSERT_EQ(AnalogModels().size(), std::size(Radios));
     for (const Expected& expected : Radios) {
         SCOPED_TRACE(std::string(expected.name) + ":" + expected.band);
-        std::string trouble;
-        const AnalogModel* model = FindAnalogModel(expected.name, expected.band, trouble);
-        ASSERT_NE(model, nullptr) << trouble;
+        std::string problem;
+        const AnalogModel* model = FindAnalogModel(expected.name, expected.band, problem);
+        ASSERT_NE(model, nullptr) << problem;
         EXPECT_EQ(model->ranges[0].low, expected.low);
         EXPECT_EQ(model->ranges[0].high, expected.high);
         EXPECT_EQ(model->rows, expected.rows);
@@ -76,31 +76,31 @@ TEST(AnalogModels, HoldEveryAnalogBandOfTheProductList) {
 }
 
 TEST(AnalogModels, OfOneBandAreFoundWithoutIt) {
-    std::string trouble;
-    const AnalogModel* model = FindAnalogModel("KRV-305", "", trouble);
+    std::string problem;
+    const AnalogModel* model = FindAnalogModel("KRV-305", "", problem);
     ASSERT_NE(model, nullptr);
     EXPECT_EQ(model->band, "FM 403-512");
 }
 
 TEST(AnalogModels, OfSeveralBandsAskForOne) {
-    std::string trouble;
-    EXPECT_EQ(FindAnalogModel("KRV-650", "", trouble), nullptr);
-    EXPECT_NE(trouble.find("several bands"), std::string::npos) << trouble;
-    EXPECT_NE(trouble.find("\"FM 403-512\""), std::string::npos) << trouble;
+    std::string problem;
+    EXPECT_EQ(FindAnalogModel("KRV-650", "", problem), nullptr);
+    EXPECT_NE(problem.find("several bands"), std::string::npos) << problem;
+    EXPECT_NE(problem.find("\"FM 403-512\""), std::string::npos) << problem;
 }
 
 TEST(AnalogModels, RefuseUnknownNamesAndBands) {
-    std::string trouble;
-    EXPECT_EQ(FindAnalogModel("KDRV-716", "", trouble), nullptr);
-    EXPECT_NE(trouble.find("no analog radio"), std::string::npos) << trouble;
-    EXPECT_EQ(FindAnalogModel("krv-214", "", trouble), nullptr);
-    EXPECT_EQ(FindAnalogModel("KRV-214", "FM 30-50", trouble), nullptr);
-    EXPECT_NE(trouble.find("no such band"), std::string::npos) << trouble;
+    std::string problem;
+    EXPECT_EQ(FindAnalogModel("KDRV-716", "", problem), nullptr);
+    EXPECT_NE(problem.find("no analog radio"), std::string::npos) << problem;
+    EXPECT_EQ(FindAnalogModel("krv-214", "", problem), nullptr);
+    EXPECT_EQ(FindAnalogModel("KRV-214", "FM 30-50", problem), nullptr);
+    EXPECT_NE(problem.find("no such band"), std::string::npos) << problem;
 }
 
 TEST(AnalogModels, ModuleTunesThreeRanges) {
-    std::string trouble;
-    const AnalogModel* model = FindAnalogModel("KDRV-4xxx", "K6 3-BAND", trouble);
+    std::string problem;
+    const AnalogModel* model = FindAnalogModel("KDRV-4xxx", "K6 3-BAND", problem);
     ASSERT_NE(model, nullptr);
     const int expected[][2] = {{30, 50}, {108, 138}, {225, 400}};
     for (int k = 0; k < 3; ++k) {

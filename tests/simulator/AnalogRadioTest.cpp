@@ -46,8 +46,8 @@ public:
         : m_radio(Model(name, band), Quiet(habits), List(Model(name, band), memories), m_link) {}
 
     static const AnalogModel& Model(const char* name, const char* band) {
-        std::string trouble;
-        return *FindAnalogModel(name, band, trouble);
+        std::string problem;
+        return *FindAnalogModel(name, band, problem);
     }
 
     /// Returns what the radio says to these bytes.
@@ -69,9 +69,9 @@ private:
     static MemoryList List(const AnalogModel& model, std::initializer_list<const char*> lines) {
         MemoryList list;
         for (const char* line : lines) {
-            std::string trouble;
-            const auto memory = ParseLongLine(line, model, model.rows, trouble);
-            EXPECT_TRUE(memory) << line << ": " << trouble;
+            std::string problem;
+            const auto memory = ParseLongLine(line, model, model.rows, problem);
+            EXPECT_TRUE(memory) << line << ": " << problem;
             list[memory->number] = *memory;
         }
         return list;

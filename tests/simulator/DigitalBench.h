@@ -80,21 +80,21 @@ inline std::string PlainV2(unsigned number, std::string_view name = "PLAIN   ") 
 class Bench {
 public:
     explicit Bench(std::vector<std::string> arguments) {
-        std::string trouble;
+        std::string problem;
         arguments.insert(arguments.begin(), "--model");
         Simulator::DigitalContents contents;
-        if (!Simulator::ParseOptions(arguments, m_options, trouble) ||
-            !Simulator::LoadContents(*m_options.digitalModel, m_options.digital, contents, trouble))
-            throw std::runtime_error(trouble);
+        if (!Simulator::ParseOptions(arguments, m_options, problem) ||
+            !Simulator::LoadContents(*m_options.digitalModel, m_options.digital, contents, problem))
+            throw std::runtime_error(problem);
         m_link = std::make_unique<Simulator::FaultyLink>(Simulator::FaultPlan(m_options.faults),
-                                                         m_options.late, m_outlet, m_journal);
+                                                         m_options.late, m_output, m_journal);
         m_radio = std::make_unique<Simulator::DigitalRadio>(*m_options.digitalModel, m_options.digital.habits,
                                                             std::move(contents), *m_link);
     }
 
     Simulator::DigitalRadio& Radio() { return *m_radio; }
     Simulator::FaultyLink& Link() { return *m_link; }
-    int Completed() const { return m_outlet.Completed(); }
+    int Completed() const { return m_output.Completed(); }
     bool Vanished() const { return m_vanished; }
     /// Duration of the last answer's pauses.
     std::chrono::milliseconds Took() const { return m_took; }
@@ -112,11 +112,11 @@ public:
         std::string all;
         const Simulator::TimePoint start{std::chrono::hours(1)};
         Simulator::TimePoint now = start;
-        for (; !m_outlet.IsEmpty(); now += std::chrono::milliseconds(10)) {
-            const auto delivery = m_outlet.Take(now, 0);
+        for (; !m_output.IsEmpty(); now += std::chrono::milliseconds(10)) {
+            const auto delivery = m_output.Take(now, 0);
             all += delivery.bytes;
             m_vanished = m_vanished || delivery.vanish;
-            if (m_outlet.IsEmpty())
+            if (m_output.IsEmpty())
                 break;
         }
         m_took = std::chrono::duration_cast<std::chrono::milliseconds>(now - start);
@@ -161,7 +161,7 @@ public:
 private:
     Simulator::Options m_options;
     Simulator::Journal m_journal;
-    Simulator::Outlet m_outlet;
+    Simulator::OutputQueue m_output;
     std::unique_ptr<Simulator::FaultyLink> m_link;
     std::unique_ptr<Simulator::DigitalRadio> m_radio;
     std::chrono::milliseconds m_took{};

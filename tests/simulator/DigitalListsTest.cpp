@@ -58,12 +58,12 @@ TEST(ConfigRule, IsThatTheBytesOfFourFieldsAndOneAddUpToZero) {
         {"", false},
     };
     for (const auto& test : cases) {
-        std::string trouble;
-        EXPECT_EQ(IsGoodConfig(test.line, trouble), test.good) << test.line << ": " << trouble;
+        std::string problem;
+        EXPECT_EQ(IsGoodConfig(test.line, problem), test.good) << test.line << ": " << problem;
     }
-    std::string trouble;
+    std::string problem;
     for (const std::string& line : DefaultConfig())
-        EXPECT_TRUE(IsGoodConfig(line, trouble)) << line << ": " << trouble;
+        EXPECT_TRUE(IsGoodConfig(line, problem)) << line << ": " << problem;
 }
 
 TEST(ConfigList, IsReadWithItsCount) {
@@ -151,28 +151,28 @@ TEST(DebugLog, OfEachProtocolComesWithoutAFile) {
         EXPECT_EQ(bench.Tell(SendLog), Said(Ack));
         const std::string all = Rest(bench);
         EXPECT_EQ(CountOf(all, "|"), 3) << all;
-        std::string trouble;
-        EXPECT_TRUE(ParseRecord(all.substr(0, all.find('|')), trouble)) << trouble;
+        std::string problem;
+        EXPECT_TRUE(ParseRecord(all.substr(0, all.find('|')), problem)) << problem;
     }
 }
 
 TEST(ListFiles, WithBadLinesAreRefusedWithTheirPlace) {
     const TempFolder folder;
     std::vector<std::string> lines = {"old"};
-    std::string trouble;
+    std::string problem;
     for (const char* bad :
          {"xyz", "2000 012", "2000 01 02", "20001 02", "2000 ab", "T10400004", "T10500004A", "2000"}) {
-        EXPECT_FALSE(LoadLog(File(folder, "2000 01\n" + std::string(bad) + "\n"), lines, trouble)) << bad;
-        EXPECT_NE(trouble.find("list:2: "), std::string::npos) << bad << ": " << trouble;
+        EXPECT_FALSE(LoadLog(File(folder, "2000 01\n" + std::string(bad) + "\n"), lines, problem)) << bad;
+        EXPECT_NE(problem.find("list:2: "), std::string::npos) << bad << ": " << problem;
     }
-    EXPECT_FALSE(LoadConfig(File(folder, "a:b:FF:::\na:b:FE:::\n"), lines, trouble));
-    EXPECT_NE(trouble.find("list:2: "), std::string::npos) << trouble;
-    EXPECT_FALSE(LoadHardware(File(folder, "A\n\x07\n"), lines, trouble));
-    EXPECT_NE(trouble.find("list:2: "), std::string::npos) << trouble;
-    EXPECT_FALSE(LoadHardware(File(folder, std::string(253, 'A')), lines, trouble));
-    EXPECT_FALSE(LoadHardware(folder / "none", lines, trouble));
-    EXPECT_FALSE(LoadLog(folder / "none", lines, trouble));
-    EXPECT_TRUE(LoadConfig(folder / "none", lines, trouble)) << "made when it is first written";
+    EXPECT_FALSE(LoadConfig(File(folder, "a:b:FF:::\na:b:FE:::\n"), lines, problem));
+    EXPECT_NE(problem.find("list:2: "), std::string::npos) << problem;
+    EXPECT_FALSE(LoadHardware(File(folder, "A\n\x07\n"), lines, problem));
+    EXPECT_NE(problem.find("list:2: "), std::string::npos) << problem;
+    EXPECT_FALSE(LoadHardware(File(folder, std::string(253, 'A')), lines, problem));
+    EXPECT_FALSE(LoadHardware(folder / "none", lines, problem));
+    EXPECT_FALSE(LoadLog(folder / "none", lines, problem));
+    EXPECT_TRUE(LoadConfig(folder / "none", lines, problem)) << "made when it is first written";
     EXPECT_EQ(lines, std::vector<std::string>{"old"});
 }
 

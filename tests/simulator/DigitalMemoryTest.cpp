@@ -18,9 +18,9 @@ const DigitalModel& Module() {
 }
 
 DigitalMemory Parsed(Layout layout, const std::string& body, const DigitalModel& model) {
-    std::string trouble;
-    const auto memory = ParseMemory(layout, Framed(body), model, trouble);
-    EXPECT_TRUE(memory) << body << ": " << trouble;
+    std::string problem;
+    const auto memory = ParseMemory(layout, Framed(body), model, problem);
+    EXPECT_TRUE(memory) << body << ": " << problem;
     return memory.value_or(DigitalMemory{});
 }
 
@@ -85,9 +85,9 @@ constexpr char WorkedV2[] = "T143"
                             "0D";
 
 TEST(MemoryRecordV1, IsReadFieldByField) {
-    std::string trouble;
-    const auto memory = ParseMemory(Layout::V1, WorkedV1, A(), trouble);
-    ASSERT_TRUE(memory) << trouble;
+    std::string problem;
+    const auto memory = ParseMemory(Layout::V1, WorkedV1, A(), problem);
+    ASSERT_TRUE(memory) << problem;
     EXPECT_EQ(memory->address, 5);
     EXPECT_EQ(memory->number, 5);
     EXPECT_EQ(memory->primary, 5);
@@ -113,9 +113,9 @@ TEST(MemoryRecordV1, IsReadFieldByField) {
 }
 
 TEST(MemoryRecordV2, IsReadFieldByField) {
-    std::string trouble;
-    const auto memory = ParseMemory(Layout::V2, WorkedV2, B(), trouble);
-    ASSERT_TRUE(memory) << trouble;
+    std::string problem;
+    const auto memory = ParseMemory(Layout::V2, WorkedV2, B(), problem);
+    ASSERT_TRUE(memory) << problem;
     EXPECT_EQ(memory->address, 501);
     EXPECT_EQ(memory->number, 501);
     EXPECT_EQ(memory->primary, 501);
@@ -252,10 +252,10 @@ TEST(MemoryRecordV2, OfTheModuleKnowsItsBandsAndItsAnalogChannels) {
                               "0D693A40", "18054AC0", "2E9DF500", "39387000"})
         Parsed(Layout::V2, With(With(blank, 44, hertz), 68, hertz), Module());
     Parsed(Layout::V2, With(With(blank, 58, "54"), 82, "54"), Module());
-    std::string trouble;
-    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(With(blank, 44, "03938700")), Module(), trouble)) << "60 MHz";
-    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(PlainV2(501)), Module(), trouble)) << "no memory 501";
-    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(blank), B(), trouble)) << "a P25 radio needs squelch letters";
+    std::string problem;
+    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(With(blank, 44, "03938700")), Module(), problem)) << "60 MHz";
+    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(PlainV2(501)), Module(), problem)) << "no memory 501";
+    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(blank), B(), problem)) << "a P25 radio needs squelch letters";
 }
 
 TEST(ShadowFields, ArePutTogetherFromTheShadowsThatAreHeld) {

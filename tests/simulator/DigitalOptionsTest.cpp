@@ -10,9 +10,9 @@ using namespace Simulator;
 
 Options Parsed(std::vector<std::string> arguments) {
     Options options;
-    std::string trouble;
+    std::string problem;
     arguments.insert(arguments.begin(), "--model");
-    EXPECT_TRUE(ParseOptions(arguments, options, trouble)) << trouble;
+    EXPECT_TRUE(ParseOptions(arguments, options, problem)) << problem;
     return options;
 }
 
@@ -98,19 +98,19 @@ TEST(DigitalCommandLine, ThatCannotBeUnderstoodIsRefused) {
     };
     for (auto arguments : bad) {
         Options options;
-        std::string trouble;
+        std::string problem;
         arguments.insert(arguments.begin(), "--model");
-        EXPECT_FALSE(ParseOptions(arguments, options, trouble)) << testing::PrintToString(arguments);
-        EXPECT_FALSE(trouble.empty()) << testing::PrintToString(arguments);
+        EXPECT_FALSE(ParseOptions(arguments, options, problem)) << testing::PrintToString(arguments);
+        EXPECT_FALSE(problem.empty()) << testing::PrintToString(arguments);
     }
 }
 
 TEST(DigitalCommandLine, KnowsEveryKindOfFault) {
     for (const char* text : {"checksum@1", "checksum-always@2", "nak@3", "nak-always@4", "wait@5/2",
                              "joined@6", "linefeed@7", "end@8", "deaf@1", "busy@1"}) {
-        std::string trouble;
-        const auto fault = ParseFault(text, trouble);
-        ASSERT_TRUE(fault) << text << ": " << trouble;
+        std::string problem;
+        const auto fault = ParseFault(text, problem);
+        ASSERT_TRUE(fault) << text << ": " << problem;
         EXPECT_EQ(FaultText(*fault), text);
         EXPECT_NE(HelpText().find(std::string(text).substr(0, std::string(text).find('@'))),
                   std::string::npos);

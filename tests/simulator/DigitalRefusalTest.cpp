@@ -87,11 +87,11 @@ constexpr Bad BadV2[] = {
 /// Expects a refusal at the field's position; the radio answers NAK, counts it and stores nothing.
 void ExpectRefused(Bench& bench, Layout layout, const DigitalModel& model, const Bad& bad,
                    const std::string& body) {
-    std::string trouble;
-    EXPECT_FALSE(ParseMemory(layout, Framed(body), model, trouble)) << bad.what;
+    std::string problem;
+    EXPECT_FALSE(ParseMemory(layout, Framed(body), model, problem)) << bad.what;
     const int told = bad.told < 0 ? static_cast<int>(bad.position) : bad.told;
-    EXPECT_TRUE(trouble.starts_with("position " + std::to_string(told) + ": "))
-        << bad.what << ": " << trouble;
+    EXPECT_TRUE(problem.starts_with("position " + std::to_string(told) + ": "))
+        << bad.what << ": " << problem;
     const int before = bench.Radio().Violations();
     EXPECT_EQ(bench.Tell(Framed(body)), Said(Nak)) << bad.what;
     EXPECT_EQ(bench.Radio().Violations(), before + 1) << bad.what;

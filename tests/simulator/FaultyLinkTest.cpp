@@ -17,17 +17,17 @@ const std::string Noise("\x00\xFF\x80\x1B\xFE\x7F\x00\xF5", 8);
 class Bench {
 public:
     explicit Bench(const char* fault) {
-        std::string trouble;
-        m_link.emplace(FaultPlan({*ParseFault(fault, trouble)}), 300ms, m_outlet, m_journal);
+        std::string problem;
+        m_link.emplace(FaultPlan({*ParseFault(fault, problem)}), 300ms, m_output, m_journal);
     }
 
     FaultyLink& Link() { return *m_link; }
-    Outlet& Out() { return m_outlet; }
+    OutputQueue& Out() { return m_output; }
 
     std::string Played() {
         std::string all;
-        for (TimePoint now = Start; !m_outlet.IsEmpty(); now += 10ms) {
-            const auto delivery = m_outlet.Take(now, 0);
+        for (TimePoint now = Start; !m_output.IsEmpty(); now += 10ms) {
+            const auto delivery = m_output.Take(now, 0);
             all += delivery.bytes;
             m_vanished = m_vanished || delivery.vanish;
         }
@@ -48,7 +48,7 @@ public:
 
 private:
     Journal m_journal;
-    Outlet m_outlet;
+    OutputQueue m_output;
     std::optional<FaultyLink> m_link;
     bool m_vanished = false;
 };

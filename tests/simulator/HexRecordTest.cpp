@@ -14,16 +14,16 @@ TEST(HexRecord, GetsTheComplementOfTheSumAsItsChecksum) {
 }
 
 TEST(HexRecord, IsReadIntoTypeAddressAndData) {
-    std::string trouble;
+    std::string problem;
     const auto erase = ParseRecord("T20401F41"
                                    "0F6",
-                                   trouble);
-    ASSERT_TRUE(erase) << trouble;
+                                   problem);
+    ASSERT_TRUE(erase) << problem;
     EXPECT_EQ(erase->type, HexRecord::Type::Message);
     EXPECT_EQ(erase->address, 500);
     EXPECT_EQ(erase->data, std::vector<std::uint8_t>{0x10});
-    const auto end = ParseRecord("T9030000FC", trouble);
-    ASSERT_TRUE(end) << trouble;
+    const auto end = ParseRecord("T9030000FC", problem);
+    ASSERT_TRUE(end) << problem;
     EXPECT_EQ(end->type, HexRecord::Type::End);
     EXPECT_TRUE(end->data.empty());
 }
@@ -52,9 +52,9 @@ TEST(HexRecord, ThatIsNotExactlyInShapeIsRefused) {
         {"end with data", "T904000000FB", "end record"},
     };
     for (const auto& bad : cases) {
-        std::string trouble;
-        EXPECT_FALSE(ParseRecord(bad.line, trouble)) << bad.what;
-        EXPECT_NE(trouble.find(bad.why), std::string::npos) << bad.what << ": " << trouble;
+        std::string problem;
+        EXPECT_FALSE(ParseRecord(bad.line, problem)) << bad.what;
+        EXPECT_NE(problem.find(bad.why), std::string::npos) << bad.what << ": " << problem;
     }
 }
 

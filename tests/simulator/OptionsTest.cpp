@@ -9,8 +9,8 @@ using namespace std::chrono_literals;
 
 Options Parsed(const std::vector<std::string>& arguments) {
     Options options;
-    std::string trouble;
-    EXPECT_TRUE(ParseOptions(arguments, options, trouble)) << trouble;
+    std::string problem;
+    EXPECT_TRUE(ParseOptions(arguments, options, problem)) << problem;
     return options;
 }
 
@@ -120,18 +120,18 @@ TEST(CommandLine, ThatCannotBeUnderstoodIsRefused) {
     };
     for (const auto& arguments : bad) {
         Options options;
-        std::string trouble;
-        EXPECT_FALSE(ParseOptions(arguments, options, trouble)) << testing::PrintToString(arguments);
-        EXPECT_FALSE(trouble.empty()) << testing::PrintToString(arguments);
+        std::string problem;
+        EXPECT_FALSE(ParseOptions(arguments, options, problem)) << testing::PrintToString(arguments);
+        EXPECT_FALSE(problem.empty()) << testing::PrintToString(arguments);
     }
 }
 
 TEST(CommandLine, KnowsEveryKindOfFault) {
     for (const char* text :
          {"silence@1", "late-ack@2", "no-ack@3", "noise@4", "torn@5", "cut@6", "unplug@7", "unplug@7/3"}) {
-        std::string trouble;
-        const auto fault = ParseFault(text, trouble);
-        ASSERT_TRUE(fault) << text << ": " << trouble;
+        std::string problem;
+        const auto fault = ParseFault(text, problem);
+        ASSERT_TRUE(fault) << text << ": " << problem;
         EXPECT_EQ(FaultText(*fault), text);
     }
 }

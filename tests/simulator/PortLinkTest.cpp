@@ -16,7 +16,7 @@ using namespace testbench;
 namespace fs = std::filesystem;
 using Simulator::PortLink;
 
-std::string Trouble(const std::string& folder, const std::string& name) {
+std::string ProblemOf(const std::string& folder, const std::string& name) {
     try {
         PortLink link(folder, name, "/dev/pts/77");
     } catch (const std::runtime_error& failure) {
@@ -49,17 +49,17 @@ TEST(PortLink, ReplacesAnotherEvenIfTheLockFileWasLeft) {
     const TempFolder folder;
     std::ofstream(folder / ".radio.lock") << "";
     fs::create_symlink("/dev/pts/99999", folder / "radio");
-    EXPECT_EQ(Trouble(folder.Path(), "radio"), "");
+    EXPECT_EQ(ProblemOf(folder.Path(), "radio"), "");
 }
 
 TEST(PortLink, InUseIsRefused) {
     const TempFolder folder;
     auto first = std::make_unique<PortLink>(folder.Path(), "radio", "/dev/pts/78");
-    EXPECT_NE(Trouble(folder.Path(), "radio").find("played by another"), std::string::npos);
+    EXPECT_NE(ProblemOf(folder.Path(), "radio").find("played by another"), std::string::npos);
     EXPECT_EQ(fs::read_symlink(folder / "radio"), "/dev/pts/78");
-    EXPECT_EQ(Trouble(folder.Path(), "other"), "") << "another name is free";
+    EXPECT_EQ(ProblemOf(folder.Path(), "other"), "") << "another name is free";
     first.reset();
-    EXPECT_EQ(Trouble(folder.Path(), "radio"), "");
+    EXPECT_EQ(ProblemOf(folder.Path(), "radio"), "");
 }
 
 TEST(PortLink, LeavesThingsAloneThatAreNoSimulatedPort) {
@@ -68,7 +68,7 @@ TEST(PortLink, LeavesThingsAloneThatAreNoSimulatedPort) {
     fs::create_symlink("/dev/null", folder / "device");
     fs::create_directory(folder / "folder");
     for (const char* name : {"file", "device", "folder"})
-        EXPECT_NE(Trouble(folder.Path(), name).find("left alone"), std::string::npos) << name;
+        EXPECT_NE(ProblemOf(folder.Path(), name).find("left alone"), std::string::npos) << name;
     EXPECT_EQ(ReadFile(folder / "file"), "mine");
     EXPECT_EQ(fs::read_symlink(folder / "device"), "/dev/null");
 }

@@ -55,12 +55,12 @@ public:
     }
 
     /// What the radio does at a memory record of the next transfer, counted from 1, instead of storing it.
-    enum class Trouble { None, End, Silence };
+    enum class Fault { None, End, Silence };
     /// @param whenSilent called from the radio's thread when it falls silent
-    void Expect(Trouble trouble, int record, std::function<void()> whenSilent = {}) {
+    void Expect(Fault fault, int record, std::function<void()> whenSilent = {}) {
         const std::lock_guard lock(m_mutex);
-        m_trouble = trouble;
-        m_troubleAt = record;
+        m_fault = fault;
+        m_faultAt = record;
         m_whenSilent = std::move(whenSilent);
     }
 
@@ -71,7 +71,7 @@ public:
         HearAll();
         m_radio.PortClosed();
         m_port.Flush();
-        m_trouble = Trouble::None;
+        m_fault = Fault::None;
         m_silent = false;
     }
 
@@ -136,9 +136,9 @@ private:
     int NextAnswer() const override { return m_answer; }
     bool Plays(Simulator::FaultKind kind, int answer) override {
         // The radio asks for this fault first, before it stores a record.
-        if (kind != Simulator::FaultKind::End || m_trouble == Trouble::None || answer != m_troubleAt)
+        if (kind != Simulator::FaultKind::End || m_fault == Fault::None || answer != m_faultAt)
             return false;
-        if (m_trouble == Trouble::Silence && !m_silent) {
+        if (m_fault == Fault::Silence && !m_silent) {
             m_silent = true;
             if (m_whenSilent)
                 m_whenSilent();
@@ -163,8 +163,8 @@ private:
     int m_answer = 1, m_purges = 0;
     std::string m_complaints;
     bool m_mute = false, m_silent = false;
-    Trouble m_trouble = Trouble::None;
-    int m_troubleAt = 0;
+    Fault m_fault = Fault::None;
+    int m_faultAt = 0;
     std::function<void()> m_whenSilent;
     std::atomic<bool> m_ends = false;
     std::thread m_thread; ///< last: it uses the others

@@ -273,12 +273,12 @@ private:
 
     void PlanTrouble(KnownRadio& known) {
         if (!Once(6))
-            return known.radio.Expect(BenchRadio::Trouble::None, 0);
+            return known.radio.Expect(BenchRadio::Fault::None, 0);
         const int record = 1 + Below(5);
         if (Once(2))
-            known.radio.Expect(BenchRadio::Trouble::End, record);
+            known.radio.Expect(BenchRadio::Fault::End, record);
         else
-            known.radio.Expect(BenchRadio::Trouble::Silence, record, [this] { Cancel(); });
+            known.radio.Expect(BenchRadio::Fault::Silence, record, [this] { Cancel(); });
     }
 
     void Write(KnownRadio& known) {
@@ -376,7 +376,7 @@ private:
         ++m_tally.reads;
         ResetPage(CurrentPage);
         EmptyDefaultMemories(CurrentPage);
-        known.radio.Expect(BenchRadio::Trouble::None, 0);
+        known.radio.Expect(BenchRadio::Fault::None, 0);
         const Ending ending = Transfer(known, ReadChannelsMode, true);
         SetPageEditors(CurrentPage);
         m_what = "read radio " + std::to_string(&known - m_radios.data());

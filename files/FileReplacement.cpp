@@ -1,4 +1,4 @@
-#include "files/WholeFile.h"
+#include "files/FileReplacement.h"
 
 #include "files/InPlace.h"
 

@@ -1,4 +1,4 @@
-#include "files/WholeFile.h"
+#include "files/FileReplacement.h"
 
 #include "robot/Files.h"
 #include "robot/TempFolder.h"
@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class WholeFile : public ::testing::Test {
+class ReplacedFile : public ::testing::Test {
 protected:
     std::string Write(const fs::path& path, const std::string& bytes) {
         FileReplacement file;
@@ -55,26 +55,26 @@ protected:
 
 } // namespace
 
-TEST_F(WholeFile, IsMadeWithExactlyTheBytes) {
+TEST_F(ReplacedFile, IsMadeWithExactlyTheBytes) {
     const std::string bytes("a\0b\r\n\xFF", 6);
     EXPECT_EQ(Write(m_folder / "a", bytes), "");
     EXPECT_EQ(testbench::ReadFile(m_folder / "a"), bytes);
     EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
 }
 
-TEST_F(WholeFile, CanBeEmpty) {
+TEST_F(ReplacedFile, CanBeEmpty) {
     EXPECT_EQ(Write(m_folder / "a", ""), "");
     EXPECT_EQ(fs::file_size(m_folder / "a"), 0u);
 }
 
-TEST_F(WholeFile, ReplacesAFormerOneAlsoByAShorter) {
+TEST_F(ReplacedFile, ReplacesAFormerOneAlsoByAShorter) {
     testbench::WriteFile(m_folder / "a", std::string(10000, 'x'));
     EXPECT_EQ(Write(m_folder / "a", "short"), "");
     EXPECT_EQ(testbench::ReadFile(m_folder / "a"), "short");
     EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
 }
 
-TEST_F(WholeFile, KeepsThePermissionsOfTheFormerOne) {
+TEST_F(ReplacedFile, KeepsThePermissionsOfTheFormerOne) {
     for (const mode_t mode : {0600, 0640, 0664, 0755}) {
         testbench::WriteFile(m_folder / "a", "old");
         ASSERT_EQ(chmod((m_folder / "a").c_str(), mode), 0);
@@ -83,14 +83,14 @@ TEST_F(WholeFile, KeepsThePermissionsOfTheFormerOne) {
     }
 }
 
-TEST_F(WholeFile, IsMadeWithTheUsersUsualPermissions) {
+TEST_F(ReplacedFile, IsMadeWithTheUsersUsualPermissions) {
     const mode_t before = umask(027);
     EXPECT_EQ(Write(m_folder / "a", "new"), "");
     umask(before);
     EXPECT_EQ(fs::status(m_folder / "a").permissions(), static_cast<fs::perms>(0640));
 }
 
-TEST_F(WholeFile, BehindLinksIsReplacedAndTheLinksStay) {
+TEST_F(ReplacedFile, BehindLinksIsReplacedAndTheLinksStay) {
     fs::create_directory(m_folder / "far");
     testbench::WriteFile(m_folder / "far/real", "old");
     fs::create_symlink("far/real", m_folder / "near");
@@ -102,21 +102,21 @@ TEST_F(WholeFile, BehindLinksIsReplacedAndTheLinksStay) {
     EXPECT_EQ(Entries(), (std::vector<std::string>{"far", "link", "near"}));
 }
 
-TEST_F(WholeFile, IsMadeWhereALinkPointsToNothing) {
+TEST_F(ReplacedFile, IsMadeWhereALinkPointsToNothing) {
     fs::create_symlink("real", m_folder / "link");
     EXPECT_EQ(Write(m_folder / "link", "new"), "");
     EXPECT_EQ(testbench::ReadFile(m_folder / "real"), "new");
     EXPECT_TRUE(fs::is_symlink(m_folder / "link"));
 }
 
-TEST_F(WholeFile, BehindACircleOfLinksIsRefused) {
+TEST_F(ReplacedFile, BehindACircleOfLinksIsRefused) {
     fs::create_symlink("b", m_folder / "a");
     fs::create_symlink("a", m_folder / "b");
     EXPECT_NE(Write(m_folder / "a", "new"), "");
     EXPECT_EQ(Entries(), (std::vector<std::string>{"a", "b"}));
 }
 
-TEST_F(WholeFile, StandsAsItWasWhenWritingFailsHalfWay) {
+TEST_F(ReplacedFile, StandsAsItWasWhenWritingFailsHalfWay) {
     testbench::WriteFile(m_folder / "a", "old");
     for (const rlim_t limit : {0u, 1u, 4096u, 99999u}) {
         std::string problem;
@@ -133,20 +133,20 @@ TEST_F(WholeFile, StandsAsItWasWhenWritingFailsHalfWay) {
     EXPECT_EQ(Write(m_folder / "a", std::string(100000, 'n')), "");
 }
 
-TEST_F(WholeFile, IsNotMadeWhereAFolderStands) {
+TEST_F(ReplacedFile, IsNotMadeWhereAFolderStands) {
     fs::create_directory(m_folder / "a");
     EXPECT_EQ(Write(m_folder / "a", "new"), "Is a directory");
     EXPECT_TRUE(fs::is_directory(m_folder / "a"));
     EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
 }
 
-TEST_F(WholeFile, IsNotMadeWhereAPipeStands) {
+TEST_F(ReplacedFile, IsNotMadeWhereAPipeStands) {
     ASSERT_EQ(mkfifo((m_folder / "a").c_str(), 0600), 0);
     EXPECT_NE(Write(m_folder / "a", "new"), "");
     EXPECT_TRUE(fs::is_fifo(m_folder / "a"));
 }
 
-TEST_F(WholeFile, IsNotReplacedWhenTheUserMayNotWriteIt) {
+TEST_F(ReplacedFile, IsNotReplacedWhenTheUserMayNotWriteIt) {
     testbench::WriteFile(m_folder / "a", "old");
     ASSERT_EQ(chmod((m_folder / "a").c_str(), 0444), 0);
     ASSERT_EQ(chmod(m_folder.Path().c_str(), 0777), 0);
@@ -160,12 +160,12 @@ TEST_F(WholeFile, IsNotReplacedWhenTheUserMayNotWriteIt) {
     EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
 }
 
-TEST_F(WholeFile, IsNotMadeInAFolderThatTheUserMayNotWriteTo) {
+TEST_F(ReplacedFile, IsNotMadeInAFolderThatTheUserMayNotWriteTo) {
     EXPECT_EQ(WriteInClosedFolder("a", "new"), "Permission denied");
     EXPECT_EQ(Entries(), std::vector<std::string>{});
 }
 
-TEST_F(WholeFile, IsOverwrittenWhereItStandsInAFolderThatTheUserMayNotWriteTo) {
+TEST_F(ReplacedFile, IsOverwrittenWhereItStandsInAFolderThatTheUserMayNotWriteTo) {
     for (const std::string former : {"", "old", "a former file that is longer"}) {
         testbench::WriteFile(m_folder / "a", former);
         ASSERT_EQ(chmod((m_folder / "a").c_str(), 0666), 0);
@@ -176,7 +176,7 @@ TEST_F(WholeFile, IsOverwrittenWhereItStandsInAFolderThatTheUserMayNotWriteTo) {
     }
 }
 
-TEST_F(WholeFile, ThatCanNotBeOverwrittenInSuchAFolderKeepsItsFormerBytes) {
+TEST_F(ReplacedFile, ThatCanNotBeOverwrittenInSuchAFolderKeepsItsFormerBytes) {
     const std::string former(5000, 'o'), longer(100000, 'n'), shorter(4000, 'n');
     testbench::WriteFile(m_folder / "a", former);
     ASSERT_EQ(chmod((m_folder / "a").c_str(), 0666), 0);
@@ -192,7 +192,7 @@ TEST_F(WholeFile, ThatCanNotBeOverwrittenInSuchAFolderKeepsItsFormerBytes) {
     EXPECT_EQ(testbench::ReadFile(m_folder / "a"), longer);
 }
 
-TEST_F(WholeFile, OfAnotherUserIsOverwrittenInAFolderThatProtectsTheFilesOfOthers) {
+TEST_F(ReplacedFile, OfAnotherUserIsOverwrittenInAFolderThatProtectsTheFilesOfOthers) {
     if (getuid() != 0)
         GTEST_SKIP() << "only root can make a file of another user";
     testbench::WriteFile(m_folder / "a", "old");
@@ -208,12 +208,12 @@ TEST_F(WholeFile, OfAnotherUserIsOverwrittenInAFolderThatProtectsTheFilesOfOther
     EXPECT_EQ(Entries(), std::vector<std::string>{"a"});
 }
 
-TEST_F(WholeFile, IsNotMadeInAFolderThatIsMissing) {
+TEST_F(ReplacedFile, IsNotMadeInAFolderThatIsMissing) {
     EXPECT_EQ(Write(m_folder / "none/a", "new"), "No such file or directory");
     EXPECT_EQ(Entries(), std::vector<std::string>{});
 }
 
-TEST_F(WholeFile, LeavesFilesWithNamesLikeItsOwnAlone) {
+TEST_F(ReplacedFile, LeavesFilesWithNamesLikeItsOwnAlone) {
     testbench::WriteFile(m_folder / "a.new0", "other");
     testbench::WriteFile(m_folder / "a.new1", "other");
     EXPECT_EQ(Write(m_folder / "a", "new"), "");

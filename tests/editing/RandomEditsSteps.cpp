@@ -3,7 +3,7 @@
 #include "commands/OpenEditor.h"
 #include "editing/Shadows.h"
 #include "editing/ZelkEdit.h"
-#include "tests/editing/HardWork.h"
+#include "tests/editing/RandomEdits.h"
 #include "tests/support/AssertsOff.h"
 
 #include <wx/combobox.h>
@@ -110,37 +110,37 @@ bool UpsetsNumberEditor(int row, int col) {
 
 } // namespace
 
-const std::vector<HardWork::Kind>& HardWork::Kinds() {
+const std::vector<RandomEdits::Kind>& RandomEdits::Kinds() {
     static const std::vector<Kind> kinds = {
-        {"OnDefaultRow", 7, &HardWork::DefaultRows, true},
-        {"OnCopyRow", 5, &HardWork::CopyOneRow, false},
-        {"OnPasteRow", 6, &HardWork::PasteOneRow, false},
-        {"OnClearRow", 4, &HardWork::ClearRows, true},
-        {"OnInsertRow", 5, &HardWork::InsertOneRow, true},
-        {"OnDeleteRow", 5, &HardWork::DeleteRows, true},
-        {"OnMarkRow", 3, &HardWork::MarkRows, true},
-        {"OnDefaultCol", 4, &HardWork::DefaultOneCol, true},
-        {"OnDefaultMarked", 4, &HardWork::DefaultMarkedRows, true},
-        {"OnRenumberToRowNum", 2, &HardWork::RenumberByRow, true},
-        {"OnRenumberSequencial", 2, &HardWork::RenumberInSequence, true},
-        {"OnDefaultFile", 1, &HardWork::DefaultWholeFile, true},
-        {"OnSaveDefault", 1, &HardWork::SaveDefaults, true},
-        {"OnLoadDefault", 1, &HardWork::LoadDefaults, true},
-        {"OnSelectAll", 1, &HardWork::SelectEverything, true},
-        {"OnDeSelectAll", 1, &HardWork::SelectNothing, true},
-        {"OnClearHighlight", 2, &HardWork::ClearHighlights, true},
-        {"OnCreateShadow", 16, &HardWork::CreateOneShadow, false},
-        {"OnValidatePage", 2, &HardWork::ValidateByMenu, false},
-        {"CheckPage", 2, &HardWork::CheckByCall, false},
-        {"edit", 24, &HardWork::EditOneCell, false},
-        {"typed keys", 2, &HardWork::TypeIntoOneCell, false},
-        {"hostile text", 12, &HardWork::WriteHostileText, false},
-        {"page change", 3, &HardWork::ChangePage, true},
+        {"OnDefaultRow", 7, &RandomEdits::DefaultRows, true},
+        {"OnCopyRow", 5, &RandomEdits::CopyOneRow, false},
+        {"OnPasteRow", 6, &RandomEdits::PasteOneRow, false},
+        {"OnClearRow", 4, &RandomEdits::ClearRows, true},
+        {"OnInsertRow", 5, &RandomEdits::InsertOneRow, true},
+        {"OnDeleteRow", 5, &RandomEdits::DeleteRows, true},
+        {"OnMarkRow", 3, &RandomEdits::MarkRows, true},
+        {"OnDefaultCol", 4, &RandomEdits::DefaultOneCol, true},
+        {"OnDefaultMarked", 4, &RandomEdits::DefaultMarkedRows, true},
+        {"OnRenumberToRowNum", 2, &RandomEdits::RenumberByRow, true},
+        {"OnRenumberSequencial", 2, &RandomEdits::RenumberInSequence, true},
+        {"OnDefaultFile", 1, &RandomEdits::DefaultAllRows, true},
+        {"OnSaveDefault", 1, &RandomEdits::SaveDefaults, true},
+        {"OnLoadDefault", 1, &RandomEdits::LoadDefaults, true},
+        {"OnSelectAll", 1, &RandomEdits::SelectEverything, true},
+        {"OnDeSelectAll", 1, &RandomEdits::SelectNothing, true},
+        {"OnClearHighlight", 2, &RandomEdits::ClearHighlights, true},
+        {"OnCreateShadow", 16, &RandomEdits::CreateOneShadow, false},
+        {"OnValidatePage", 2, &RandomEdits::ValidateByMenu, false},
+        {"CheckPage", 2, &RandomEdits::CheckByCall, false},
+        {"edit", 24, &RandomEdits::EditOneCell, false},
+        {"typed keys", 2, &RandomEdits::TypeIntoOneCell, false},
+        {"hostile text", 12, &RandomEdits::WriteHostileText, false},
+        {"page change", 3, &RandomEdits::ChangePage, true},
     };
     return kinds;
 }
 
-void HardWork::PickSelection() {
+void RandomEdits::PickSelection() {
     wxGrid* grid = CurrentGrid();
     const int rows = CurrentParameters().Rows;
     grid->ClearSelection();
@@ -184,19 +184,19 @@ void HardWork::PickSelection() {
     }
 }
 
-void HardWork::NameRow(int row) {
+void RandomEdits::NameRow(int row) {
     m_namesRows = true;
     m_namedRows.insert(row);
 }
 
-void HardWork::NameSelectedRows() {
+void RandomEdits::NameSelectedRows() {
     m_namesRows = true;
     for (int row = 1; row <= CurrentParameters().Rows; ++row)
         if (CurrentGrid()->IsInSelection(row, 0))
             m_namedRows.insert(row);
 }
 
-int HardWork::PickRow() {
+int RandomEdits::PickRow() {
     const int rows = CurrentParameters().Rows;
     if (m_dice.Chance(60))
         if (const std::vector<int> used = FilledRows(); !used.empty())
@@ -205,7 +205,7 @@ int HardWork::PickRow() {
 }
 
 /// A complete memory that can get a shadow, likely a primary; any row if there is none.
-int HardWork::PickGoodRow() {
+int RandomEdits::PickGoodRow() {
     std::vector<int> complete, primaries;
     for (int row : FilledRows()) {
         if (!RowIsComplete(row) || IsShadow(CurrentGrid(), row))
@@ -219,20 +219,20 @@ int HardWork::PickGoodRow() {
     return complete.empty() ? PickRow() : m_dice.Pick(complete);
 }
 
-void HardWork::PickContextRow() {
+void RandomEdits::PickContextRow() {
     // A menu opened on a longer page leaves a row number that this page may not have.
     ContextRow = m_dice.Chance(8) ? m_dice.Between(-1, 600) : PickRow();
     Note("at row " + std::to_string(ContextRow));
 }
 
-void HardWork::Ask(int command) {
+void RandomEdits::Ask(int command) {
     m_cancelled = m_dice.Chance(10) && !CurrentGrid()->IsCellEditControlEnabled();
     if (m_cancelled)
         Note("cancelled");
     Run(command, m_cancelled ? wxID_CANCEL : wxID_OK);
 }
 
-void HardWork::DefaultRows() {
+void RandomEdits::DefaultRows() {
     PickSelection();
     PickContextRow();
     NameSelectedRows();
@@ -240,7 +240,7 @@ void HardWork::DefaultRows() {
     Ask(DefaultRow);
 }
 
-void HardWork::CopyOneRow() {
+void RandomEdits::CopyOneRow() {
     PickContextRow();
     const bool memory = ContextRow >= 1 && ContextRow <= CurrentParameters().Rows;
     testbench::DialogScript dialogs;
@@ -253,7 +253,7 @@ void HardWork::CopyOneRow() {
     MainFrame->m_contextMenu->SendEvent(CopyRow);
 }
 
-void HardWork::PasteOneRow() {
+void RandomEdits::PasteOneRow() {
     PickSelection();
     PickContextRow();
     NameRow(ContextRow);
@@ -274,13 +274,13 @@ void HardWork::PasteOneRow() {
     MainFrame->m_contextMenu->SendEvent(PasteRow);
 }
 
-void HardWork::ClearRows() {
+void RandomEdits::ClearRows() {
     PickSelection();
     NameSelectedRows();
     Ask(ClearRow);
 }
 
-void HardWork::InsertOneRow() {
+void RandomEdits::InsertOneRow() {
     PickSelection();
     PickContextRow();
     if (ContextRow >= 1 && ContextRow <= LastMovingRow()) {
@@ -291,18 +291,18 @@ void HardWork::InsertOneRow() {
     MainFrame->m_contextMenu->SendEvent(InsertRow);
 }
 
-void HardWork::DeleteRows() {
+void RandomEdits::DeleteRows() {
     PickSelection();
     Ask(DeleteRow);
 }
 
-void HardWork::MarkRows() {
+void RandomEdits::MarkRows() {
     PickSelection();
     Run(MarkRow);
 }
 
 /// Selects a column as a click on its label does, but sometimes something else.
-void HardWork::RunOnPickedColumn(int command) {
+void RandomEdits::RunOnPickedColumn(int command) {
     m_clearsSlots = true;
     if (m_dice.Chance(20)) {
         PickSelection();
@@ -315,25 +315,25 @@ void HardWork::RunOnPickedColumn(int command) {
     Ask(command);
 }
 
-void HardWork::DefaultOneCol() {
+void RandomEdits::DefaultOneCol() {
     RunOnPickedColumn(DefaultCol);
 }
 
-void HardWork::DefaultMarkedRows() {
+void RandomEdits::DefaultMarkedRows() {
     RunOnPickedColumn(DefaultMarked);
 }
 
-void HardWork::RenumberByRow() {
+void RandomEdits::RenumberByRow() {
     PickSelection();
     Ask(ToRowNum);
 }
 
-void HardWork::RenumberInSequence() {
+void RandomEdits::RenumberInSequence() {
     PickSelection();
     Ask(InSequence);
 }
 
-void HardWork::DefaultWholeFile() {
+void RandomEdits::DefaultAllRows() {
     PickSelection();
     if (m_dice.Chance(30))
         CurrentGrid()->SelectAll();
@@ -342,39 +342,39 @@ void HardWork::DefaultWholeFile() {
     Ask(DefaultFile);
 }
 
-void HardWork::RunUnimplemented(int command, const char* caption) {
+void RandomEdits::RunUnimplemented(int command, const char* caption) {
     testbench::DialogScript dialogs;
     dialogs.ExpectMessage(caption, " ! Currently UnImplemented !").Style(testbench::plainBox);
     m_cancelled = !CurrentGrid()->IsCellEditControlEnabled();
     MainFrame->m_contextMenu->SendEvent(command);
 }
 
-void HardWork::SaveDefaults() {
+void RandomEdits::SaveDefaults() {
     RunUnimplemented(SaveDefault, "Save Radio Default Data?");
 }
 
-void HardWork::LoadDefaults() {
+void RandomEdits::LoadDefaults() {
     RunUnimplemented(LoadDefault, "Load Radio Default Data");
 }
 
-void HardWork::SelectEverything() {
+void RandomEdits::SelectEverything() {
     wxCommandEvent event;
     MainFrame->OnSelectAll(event);
 }
 
-void HardWork::SelectNothing() {
+void RandomEdits::SelectNothing() {
     wxCommandEvent event;
     MainFrame->OnDeSelectAll(event);
 }
 
-void HardWork::ClearHighlights() {
+void RandomEdits::ClearHighlights() {
     wxCommandEvent event;
     MainFrame->OnClearHighlight(event);
 }
 
 /// The user's entry for a shadow: mostly a number of the page, used or not, and sometimes an
 /// invalid one.
-std::string HardWork::ShadowText() {
+std::string RandomEdits::ShadowText() {
     static const char* const bad[] = {"0", "-3", "abc", "12a", "1.5", " ", "503", "9999", "99999999999"};
     if (m_dice.Chance(12))
         return m_dice.Pick(bad);
@@ -386,7 +386,7 @@ std::string HardWork::ShadowText() {
     return wxString::Format(m_dice.Chance(50) ? "%d" : "%03d", number).utf8_string();
 }
 
-void HardWork::CreateOneShadow() {
+void RandomEdits::CreateOneShadow() {
     const char* const caption = "Create Shadow - Error";
     const int rows = CurrentParameters().Rows;
     const wxString outside =
@@ -446,7 +446,7 @@ void HardWork::CreateOneShadow() {
     MainFrame->m_contextMenu->SendEvent(CreateShadow);
 }
 
-void HardWork::ValidateByMenu() {
+void RandomEdits::ValidateByMenu() {
     {
         testbench::DialogScript dialogs;
         dialogs.ExpectMessage("Validate Page", "Validate row data").Style(testbench::plainBox);
@@ -457,7 +457,7 @@ void HardWork::ValidateByMenu() {
     ExpectCheckedPage();
 }
 
-void HardWork::CheckByCall() {
+void RandomEdits::CheckByCall() {
     {
         testbench::DialogScript dialogs;
         ExpectBoxesOfPageCheck(dialogs);
@@ -467,7 +467,7 @@ void HardWork::CheckByCall() {
     ExpectSecondCheckKeepsZones();
 }
 
-void HardWork::PutIntoEditor(wxGridCellEditor* editor, int row, int col) {
+void RandomEdits::PutIntoEditor(wxGridCellEditor* editor, int row, int col) {
     wxWindow* control = editor->GetControl();
     if (auto* spin = dynamic_cast<wxSpinCtrl*>(control)) {
         const int top = std::min(spin->GetMax(), m_dice.Chance(50) ? spin->GetMax() : 20);
@@ -488,7 +488,7 @@ void HardWork::PutIntoEditor(wxGridCellEditor* editor, int row, int col) {
     }
 }
 
-void HardWork::EditCell(int row, int col) {
+void RandomEdits::EditCell(int row, int col) {
     wxGrid* grid = CurrentGrid();
     grid->GoToCell(row, col);
     if (grid->IsReadOnly(row, col)) {
@@ -524,7 +524,7 @@ void HardWork::EditCell(int row, int col) {
     grid->DisableCellEditControl();
 }
 
-void HardWork::EditOneCell() {
+void RandomEdits::EditOneCell() {
     const auto& edited = m_dice.Pick(EditedColumns);
     const int col =
         edited.col == RNSV && CurrentParameters().Type != RadioCatalogue::NP25 ? RTON : edited.col;
@@ -536,7 +536,7 @@ void HardWork::EditOneCell() {
     EditCell(row, col);
 }
 
-void HardWork::TypeIntoOneCell() {
+void RandomEdits::TypeIntoOneCell() {
     static const struct {
         int col;
         const char* keys;
@@ -551,7 +551,7 @@ void HardWork::TypeIntoOneCell() {
     CommitOpenEditor();
 }
 
-void HardWork::WriteHostileText() {
+void RandomEdits::WriteHostileText() {
     const int row = PickRow();
     NameRow(row);
     const bool whole = m_dice.Chance(5);
@@ -569,7 +569,7 @@ void HardWork::WriteHostileText() {
     CheckRow(CurrentGrid(), row);
 }
 
-void HardWork::ChangePage() {
+void RandomEdits::ChangePage() {
     const int page = m_dice.Chance(75) ? 0 : 1;
     Note("to page " + std::to_string(page + 1));
     MainFrame->m_notebook->SetSelection(static_cast<size_t>(page));

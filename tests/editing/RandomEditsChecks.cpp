@@ -1,7 +1,7 @@
 // Conditions that must hold on P25 pages after any step.
 #include "catalogue/TextNumbers.h"
 #include "editing/ZelkEdit.h"
-#include "tests/editing/HardWork.h"
+#include "tests/editing/RandomEdits.h"
 
 #include <algorithm>
 #include <functional>
@@ -15,7 +15,7 @@ std::optional<int> NumberIn(const wxString& text) {
 
 } // namespace
 
-PageImage HardWork::ImageOf(int page) {
+PageImage RandomEdits::ImageOf(int page) {
     PageImage image;
     const wxGrid* grid = PageGrid[page];
     for (int row = 0; row < grid->GetNumberRows(); ++row)
@@ -26,7 +26,7 @@ PageImage HardWork::ImageOf(int page) {
     return image;
 }
 
-void HardWork::ExpectOtherRowsUntouched(const std::vector<wxArrayString>& before) const {
+void RandomEdits::ExpectOtherRowsUntouched(const std::vector<wxArrayString>& before) const {
     const int rows = static_cast<int>(before.size());
     for (int row = 0; row < rows; ++row) {
         const wxArrayString& texts = before[static_cast<size_t>(row)];
@@ -42,7 +42,7 @@ void HardWork::ExpectOtherRowsUntouched(const std::vector<wxArrayString>& before
     }
 }
 
-void HardWork::ExpectShape(int page) {
+void RandomEdits::ExpectShape(int page) {
     const wxGrid* grid = PageGrid[page];
     const int rows = PageParameters[page].Rows;
     ASSERT_EQ(grid->GetNumberCols(), 32);
@@ -63,7 +63,7 @@ void HardWork::ExpectShape(int page) {
     }
 }
 
-void HardWork::ExpectSlotsInRange() {
+void RandomEdits::ExpectSlotsInRange() {
     for (size_t i = 0; i < ZoneSlots.size(); ++i)
         if (ZoneSlots[i] < 0 || ZoneSlots[i] > 16)
             ADD_FAILURE() << "page " << i / 32 + 1 << ", zone position " << i % 32 << " holds "
@@ -73,7 +73,7 @@ void HardWork::ExpectSlotsInRange() {
         EXPECT_EQ(ZoneSlots[i], 0) << "page " << i / 32 + 1;
 }
 
-int HardWork::OtherRowWith(int row, const wxString& number) {
+int RandomEdits::OtherRowWith(int row, const wxString& number) {
     const std::optional<int> wanted = NumberIn(number);
     for (int other = 1; wanted && other <= CurrentParameters().Rows; ++other)
         if (other != row && NumberIn(Cell(other, MNUM)) == wanted)
@@ -81,14 +81,14 @@ int HardWork::OtherRowWith(int row, const wxString& number) {
     return 0;
 }
 
-void HardWork::ExpectNumberBox(testbench::DialogScript& dialogs, int row) {
+void RandomEdits::ExpectNumberBox(testbench::DialogScript& dialogs, int row) {
     if (row != 0)
         dialogs
             .ExpectMessage("Error", wxString::Format("Number already used at row: %03d", row).utf8_string())
             .Style(testbench::plainBox);
 }
 
-void HardWork::ExpectBoxesOfPageCheck(testbench::DialogScript& dialogs) {
+void RandomEdits::ExpectBoxesOfPageCheck(testbench::DialogScript& dialogs) {
     const int rows = CurrentParameters().Rows;
     std::vector<std::optional<int>> numbers{std::nullopt};
     for (int row = 1; row <= rows; ++row)
@@ -107,7 +107,7 @@ void HardWork::ExpectBoxesOfPageCheck(testbench::DialogScript& dialogs) {
     }
 }
 
-void HardWork::ExpectSlotsCounted() {
+void RandomEdits::ExpectSlotsCounted() {
     const int rows = CurrentParameters().Rows;
     const int last = CurrentParameters().Type == RadioCatalogue::NP25 ? 31 : 15;
     std::vector<int> shown(ZonesPerPage);
@@ -124,7 +124,7 @@ void HardWork::ExpectSlotsCounted() {
             << "zone position " << zone;
 }
 
-void HardWork::ExpectCheckedPage() {
+void RandomEdits::ExpectCheckedPage() {
     const int rows = CurrentParameters().Rows;
     std::set<int> numbers;
     for (int row = 1; row <= rows; ++row) {
@@ -149,7 +149,7 @@ void HardWork::ExpectCheckedPage() {
     ExpectSlotsCounted();
 }
 
-void HardWork::ExpectSecondCheckKeepsZones() {
+void RandomEdits::ExpectSecondCheckKeepsZones() {
     const auto zones = [] {
         Texts texts;
         for (int row = 1; row <= CurrentParameters().Rows; ++row)

@@ -1,9 +1,9 @@
-#include "editing/RowLooks.h"
+#include "editing/CellMarks.h"
 
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
 
-void ForgetLooksOfRows(wxGrid* grid) {
+void ClearMarksOfRows(wxGrid* grid) {
     TableOf(grid).ChangeLooks([](int row, int col, CellLook& look) {
         look.paint = wxColour();
         if (col != SHAD && !IsGuardRow(row))

@@ -1,5 +1,5 @@
 // P25 pages under thousands of random commands and edits: they stay consistent.
-#include "tests/editing/HardWork.h"
+#include "tests/editing/RandomEdits.h"
 
 #include "catalogue/TextNumbers.h"
 #include "commands/CommandIds.h"
@@ -55,22 +55,22 @@ private:
 
 } // namespace
 
-void HardWork::Note(const std::string& text) {
+void RandomEdits::Note(const std::string& text) {
     m_recent.back() += " " + text;
     snprintf(lastWords, sizeof lastWords, "%s\n", Recent().c_str());
 }
 
-void HardWork::SetUp() {
+void RandomEdits::SetUp() {
     CommandTest::SetUp();
     testbench::ShowAndFocus(*MainFrame);
 }
 
-void HardWork::TearDown() {
+void RandomEdits::TearDown() {
     CommitOpenEditor();
     CommandTest::TearDown();
 }
 
-std::string HardWork::Recent() const {
+std::string RandomEdits::Recent() const {
     std::string text =
         "seed " + std::to_string(m_seed) + ", step " + std::to_string(m_step) + "; the last steps:";
     for (const std::string& step : m_recent)
@@ -78,7 +78,7 @@ std::string HardWork::Recent() const {
     return text;
 }
 
-const HardWork::Kind& HardWork::PickKind() {
+const RandomEdits::Kind& RandomEdits::PickKind() {
     const bool editing = CurrentGrid()->IsCellEditControlEnabled();
     const auto counts = [editing](const Kind& kind) { return !editing || kind.whileEditing; };
     int sum = 0;
@@ -91,7 +91,7 @@ const HardWork::Kind& HardWork::PickKind() {
     return Kinds().front();
 }
 
-void HardWork::Step() {
+void RandomEdits::Step() {
     const Kind& kind = PickKind();
     const bool editing = CurrentGrid()->IsCellEditControlEnabled();
     const int page = CurrentPage;
@@ -122,14 +122,14 @@ void HardWork::Step() {
     const bool reaches = m_clearsSlots ? other.slots[0] == 0 : std::accumulate(own, own + 32, 0) == 32 * 16;
     if (page == 0 && reaches)
         other.slots[0] = beforeOther.slots[0];
-    EXPECT_TRUE(other == beforeOther || kind.run == &HardWork::ChangePage) << "the other page has changed";
+    EXPECT_TRUE(other == beforeOther || kind.run == &RandomEdits::ChangePage) << "the other page has changed";
 
     for (int each : {0, 1})
         ExpectShape(each);
     ExpectSlotsInRange();
 }
 
-void HardWork::Work(uint32_t seed, int steps) {
+void RandomEdits::Work(uint32_t seed, int steps) {
     m_dice = Dice(seed);
     m_seed = seed;
     const CrashReport crashReport;
@@ -154,7 +154,7 @@ void HardWork::Work(uint32_t seed, int steps) {
     EXPECT_GT(m_rowsSeen, 100U) << "the pages were all but empty";
 }
 
-void HardWork::TellSummary() const {
+void RandomEdits::TellSummary() const {
     for (int page : {0, 1}) {
         const PageParameterRecord& parameters = PageParameters[page];
         for (const auto& [name, count] : m_done[page])
@@ -166,7 +166,7 @@ void HardWork::TellSummary() const {
 
 namespace {
 
-class P25PagesWorkedHard : public HardWork {
+class P25PagesWorkedHard : public RandomEdits {
 protected:
     /// Most of the work is on a page with 502 rows; the other page has 232.
     void WorkOnTheSecondGeneration(uint32_t seed, int steps) {

@@ -1,8 +1,8 @@
-#include "simulator/Outlet.h"
+#include "simulator/OutputQueue.h"
 
 namespace Simulator {
 
-void Outlet::Push(Action action) {
+void OutputQueue::Push(Action action) {
     if (m_actions.empty()) {
         m_clock.Rest();
         m_due = TimePoint{};
@@ -10,44 +10,44 @@ void Outlet::Push(Action action) {
     m_actions.push_back(std::move(action));
 }
 
-void Outlet::Say(std::string bytes, std::string note) {
+void OutputQueue::Say(std::string bytes, std::string note) {
     Push({Kind::Bytes, std::move(bytes), {}, std::move(note)});
 }
 
-void Outlet::Pause(std::chrono::milliseconds duration, std::string note) {
+void OutputQueue::Pause(std::chrono::milliseconds duration, std::string note) {
     Push({Kind::Pause, {}, duration, std::move(note)});
 }
 
-void Outlet::AwaitKey(std::chrono::milliseconds patience) {
+void OutputQueue::AwaitKey(std::chrono::milliseconds patience) {
     Push({Kind::Key, {}, patience, "- waits for its key"});
 }
 
-void Outlet::Vanish(std::string note) {
+void OutputQueue::Vanish(std::string note) {
     Push({Kind::Vanish, {}, {}, std::move(note)});
 }
 
-void Outlet::Complete() {
+void OutputQueue::Complete() {
     if (m_actions.empty())
         CountCompleted();
     else
         Push({Kind::Complete, {}, {}, {}});
 }
 
-void Outlet::PressKey() {
+void OutputQueue::PressKey() {
     if (!m_actions.empty() && m_actions.front().kind == Kind::Key) {
         m_holdEnd = TimePoint{};
         m_due = TimePoint{};
     }
 }
 
-void Outlet::Clear() {
+void OutputQueue::Clear() {
     m_actions.clear();
     m_sent = 0;
     m_holdEnd.reset();
     m_due.reset();
 }
 
-bool Outlet::HoldIsOver(const Action& action, TimePoint now, Delivery& delivery) {
+bool OutputQueue::HoldIsOver(const Action& action, TimePoint now, Delivery& delivery) {
     if (!m_holdEnd) {
         m_holdEnd = now + action.duration;
         if (!action.note.empty())
@@ -62,7 +62,7 @@ bool Outlet::HoldIsOver(const Action& action, TimePoint now, Delivery& delivery)
     return true;
 }
 
-Outlet::Delivery Outlet::Take(TimePoint now, int baud) {
+OutputQueue::Delivery OutputQueue::Take(TimePoint now, int baud) {
     Delivery delivery;
     while (!m_actions.empty()) {
         Action& action = m_actions.front();

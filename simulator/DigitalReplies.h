@@ -10,10 +10,10 @@ namespace Simulator {
 
 /// Frames the radio's records and sends them over the link. Counted answers are the memory records it sends
 /// and the acknowledgements of those it receives.
-class DigitalVoice {
+class DigitalReplies {
 public:
     /// `link` must outlive the voice.
-    explicit DigitalVoice(RadioLink& link) : m_link(link) {}
+    explicit DigitalReplies(RadioLink& link) : m_link(link) {}
 
     /// Begins a dialogue, in which no fault has been played yet.
     void BeginDialogue();

@@ -11,7 +11,7 @@
 namespace Simulator {
 
 /// A queue of bytes, pauses and events, played in real time.
-class Outlet {
+class OutputQueue {
 public:
     /// Output that has become due.
     struct Delivery {

@@ -1,4 +1,4 @@
-#include "simulator/DigitalVoice.h"
+#include "simulator/DigitalReplies.h"
 
 #include "simulator/HexRecord.h"
 
@@ -13,42 +13,42 @@ constexpr std::chrono::milliseconds Patience{500};
 
 } // namespace
 
-void DigitalVoice::BeginDialogue() {
+void DigitalReplies::BeginDialogue() {
     m_refused = 0;
     m_link.BeginDialogue();
 }
 
-std::string DigitalVoice::Line(std::string_view body, int answer, bool spoiled) {
+std::string DigitalReplies::Line(std::string_view body, int answer, bool spoiled) {
     std::string line = WithChecksum(body);
     if (spoiled)
         line.back() = line.back() == '0' ? '1' : '0';
     return line + (m_link.Plays(FaultKind::LineFeed, answer) ? "\r\n" : "\r");
 }
 
-void DigitalVoice::Say(std::string_view body) {
+void DigitalReplies::Say(std::string_view body) {
     m_link.Print(Line(body, m_link.NextAnswer()));
 }
 
-void DigitalVoice::SayAck() {
+void DigitalReplies::SayAck() {
     Say(Ack);
 }
 
-void DigitalVoice::SayNak() {
+void DigitalReplies::SayNak() {
     Say(Nak);
 }
 
-void DigitalVoice::SayEnd() {
+void DigitalReplies::SayEnd() {
     Say("T9030000");
 }
 
-void DigitalVoice::MaybeBusy() {
+void DigitalReplies::MaybeBusy() {
     if (!m_link.Plays(FaultKind::Busy, m_link.NextAnswer()))
         return;
     Say(Wait);
     m_link.Pause(Patience);
 }
 
-DigitalVoice::Instead DigitalVoice::NextInstead() {
+DigitalReplies::Instead DigitalReplies::NextInstead() {
     const int answer = m_link.NextAnswer();
     if (m_link.Plays(FaultKind::End, answer))
         return Instead::End;
@@ -60,7 +60,7 @@ DigitalVoice::Instead DigitalVoice::NextInstead() {
     return Instead::Nak;
 }
 
-void DigitalVoice::AnswerLine(std::string_view body, AnswerKind kind) {
+void DigitalReplies::AnswerLine(std::string_view body, AnswerKind kind) {
     const int answer = m_link.NextAnswer();
     const bool spoiled =
         m_link.Plays(FaultKind::Checksum, answer) || m_link.Plays(FaultKind::ChecksumAlways, answer);
@@ -72,15 +72,15 @@ void DigitalVoice::AnswerLine(std::string_view body, AnswerKind kind) {
     m_link.Answer(before + Line(body, answer, spoiled), kind);
 }
 
-void DigitalVoice::Acknowledge() {
+void DigitalReplies::Acknowledge() {
     AnswerLine(Ack, AnswerKind::RecordAcknowledgement);
 }
 
-void DigitalVoice::SendRecord(std::string_view body) {
+void DigitalReplies::SendRecord(std::string_view body) {
     AnswerLine(body, AnswerKind::Record);
 }
 
-void DigitalVoice::RepeatRecord(std::string_view body) {
+void DigitalReplies::RepeatRecord(std::string_view body) {
     const int answer = m_link.NextAnswer() - 1;
     m_link.Print(Line(body, answer, m_link.Plays(FaultKind::ChecksumAlways, answer)));
 }

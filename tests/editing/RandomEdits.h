@@ -38,7 +38,7 @@ struct PageImage {
 };
 
 /// Works on the first two pages, both P25, and checks after each step that they are consistent.
-class HardWork : public CommandTest {
+class RandomEdits : public CommandTest {
 protected:
     void SetUp() override;
     void TearDown() override;
@@ -51,7 +51,7 @@ private:
     struct Kind {
         const char* name;
         int weight;
-        void (HardWork::*run)();
+        void (RandomEdits::*run)();
         /// Whether its questions can be predicted while a cell editor is open.
         bool whileEditing;
     };
@@ -65,7 +65,7 @@ private:
     /// Seed, step and the last ten steps.
     std::string Recent() const;
 
-    // The possible steps; in HardWorkSteps.cpp.
+    // The possible steps; in RandomEditsSteps.cpp.
     void DefaultRows();
     void CopyOneRow();
     void PasteOneRow();
@@ -77,7 +77,7 @@ private:
     void DefaultMarkedRows();
     void RenumberByRow();
     void RenumberInSequence();
-    void DefaultWholeFile();
+    void DefaultAllRows();
     void SaveDefaults();
     void LoadDefaults();
     void SelectEverything();
@@ -105,7 +105,7 @@ private:
     void PutIntoEditor(wxGridCellEditor* editor, int row, int col);
     std::string ShadowText();
 
-    // Conditions that must hold; in HardWorkChecks.cpp.
+    // Conditions that must hold; in RandomEditsChecks.cpp.
     static PageImage ImageOf(int page);
     static void ExpectShape(int page);
     static void ExpectSlotsInRange();

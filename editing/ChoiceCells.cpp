@@ -2,8 +2,7 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
-#include "editing/FrequencyRules.h"
-#include "editing/ZelkEditors.h"
+#include "editing/SharedEditors.h"
 
 using namespace RadioCatalogue;
 
@@ -37,6 +36,25 @@ std::initializer_list<int> RivalsOf(int col) {
     }
 }
 
+wxGridCellEditorPtr ReceiveSquelchEditor(wxGrid* grid, bool digital) {
+    return digital ? TableOf(grid).SharedEditor(ReceiveDigitalSquelch, NewLinkedEditor<RxDigitalSquelch>)
+                   : AnalogSquelchEditor(grid);
+}
+
+wxGridCellEditorPtr TransmitSquelchEditor(wxGrid* grid, bool digital, bool shadow) {
+    if (!digital)
+        return AnalogSquelchEditor(grid);
+    return shadow
+               ? TableOf(grid).SharedEditor(ShadowDigitalSquelch, NewLinkedEditor<TxDigitalSquelchRestricted>)
+               : TableOf(grid).SharedEditor(TransmitDigitalSquelch, NewLinkedEditor<TxDigitalSquelch>);
+}
+
+/// Writes a squelch known to be valid, and removes the paint of an earlier repair.
+void WriteSquelch(wxGrid* grid, int row, int col, const wxString& squelch) {
+    grid->SetCellValue(row, col, squelch);
+    TakePaintOff(grid, row, col);
+}
+
 } // namespace
 
 void TurnRivalsOff(wxGrid* grid, int row, int col) {
@@ -62,15 +80,17 @@ void ZelkChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
         WriteChosen(grid, row, TSQL, m_value);
 }
 
-void MDLXBandChoiceEditor::ApplyEdit(int row, int col, wxGrid* grid) {
-    if (IsOwnText(row, col, grid))
+wxGridCellEditorPtr AnalogSquelchEditor(wxGrid* grid) {
+    return TableOf(grid).SharedEditor(AnalogSquelch, NewLinkedEditor<RxAnalogSquelch>);
+}
+
+void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDefault) {
+    const bool digital = mode == "D";
+    const bool shadow = digital && IsShadow(grid, row);
+    TableOf(grid).SetEditor(row, RSQL, ReceiveSquelchEditor(grid, digital));
+    TableOf(grid).SetEditor(row, TSQL, TransmitSquelchEditor(grid, digital, shadow));
+    if (!applyDefault)
         return;
-    grid->SetCellValue(row, col, m_value);
-    const int band = GetRowBand(grid, row);
-    if (band != GetFreqBand(grid->GetCellValue(row, RFRQ), ANFM))
-        ChangeRowBand(grid, row, band);
-    else
-        SetBandEditors(grid, row, band);
-    if (row == 0)
-        FitUnusedRowsToDefaultBand(grid);
+    WriteSquelch(grid, row, RSQL, digital ? "m" : "x");
+    WriteSquelch(grid, row, TSQL, digital ? "g" : "x");
 }

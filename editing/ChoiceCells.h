@@ -19,13 +19,15 @@ public:
     wxGridCellEditor* Clone() const override { return new ZelkChoiceEditor(*this); }
 };
 
-/// Edits BAND of an MDLX row. Clears frequencies outside the chosen band and fits the row's cells to it.
-class MDLXBandChoiceEditor : public ListChoiceEditor {
-public:
-    /// count texts to choose from, which are copied.
-    MDLXBandChoiceEditor(size_t count, const wxString choices[], bool allowOthers = false)
-        : ListChoiceEditor(count, choices, allowOthers) {}
+/// Creates a ZelkChoiceEditor for the entries of a constant list.
+template <const auto& texts>
+wxGridCellEditor* NewLinkedEditor() {
+    return new ZelkChoiceEditor(std::size(texts), Choices<texts>());
+}
 
-    void ApplyEdit(int row, int col, wxGrid* grid) override;
-    wxGridCellEditor* Clone() const override { return new MDLXBandChoiceEditor(*this); }
-};
+/// Returns the editor that RSQL and TSQL of all analog rows of a P25 page share.
+wxGridCellEditorPtr AnalogSquelchEditor(wxGrid* grid);
+
+/// Sets the squelch choices of a P25 row for the text of its MODE; applyDefault also writes the mode's
+/// defaults.
+void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDefault);

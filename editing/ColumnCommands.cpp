@@ -8,6 +8,7 @@
 #include "commands/OpenEditor.h"
 #include "editing/CellMarks.h"
 #include "editing/ChoiceCells.h"
+#include "editing/RowBand.h"
 #include "editing/RowCommands.h"
 #include "editing/ScanLock.h"
 #include "editing/ZelkEdit.h"

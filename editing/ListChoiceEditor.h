@@ -1,10 +1,19 @@
 // Editor for a choice from a list; changes nothing until a choice is made.
 #pragma once
 
+#include "catalogue/RadioCatalogue.h"
 #include "editing/ChoiceList.h"
 #include "editing/TypeAhead.h"
 
 #include <wx/grid.h>
+
+/// Returns the entries of a constant list. The lists of RadioCatalogue can't be used: the first page is
+/// created before they are filled.
+template <const auto& texts>
+const wxString* Choices() {
+    static const wxArrayString list = RadioCatalogue::ListOf(texts);
+    return &list[0];
+}
 
 /// The toolkit's choice editor, except that an edit left without a choice changes nothing. A choice is typed
 /// ahead, reached by keys, or taken from the open list; choosing the cell's own text counts as one.

@@ -4,7 +4,7 @@
 #include "catalogue/PageTable.h"
 #include "editing/FrequencyRules.h"
 #include "editing/ReplacedCells.h"
-#include "editing/ZelkEditors.h"
+#include "editing/RowBand.h"
 
 #include <wx/grid.h>
 

@@ -3,10 +3,10 @@
 #include "commands/OpenEditor.h"
 #include "editing/MemoryNumbers.h"
 #include "editing/MissingCells.h"
+#include "editing/RowBand.h"
 #include "editing/RowCommands.h"
 #include "editing/ScanLock.h"
 #include "editing/ZelkEdit.h"
-#include "editing/ZelkEditors.h"
 #include "frame/ZelkMain.h"
 
 #include <wx/msgdlg.h>

@@ -7,6 +7,7 @@
 #include "catalogue/ZoneSlots.h"
 #include "commands/CommandQuestions.h"
 #include "commands/OpenEditor.h"
+#include "editing/RowBand.h"
 #include "editing/Shadows.h"
 #include "editing/ZelkEditors.h"
 #include "frame/ZelkMain.h"

@@ -4,7 +4,7 @@
 #include "catalogue/TextNumbers.h"
 #include "catalogue/ZoneSlots.h"
 #include "editing/MemoryNumbers.h"
-#include "editing/ZelkEditors.h"
+#include "editing/RowBand.h"
 
 #include <wx/grid.h>
 

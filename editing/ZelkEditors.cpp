@@ -2,10 +2,13 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
+#include "editing/BandCell.h"
 #include "editing/ChoiceCells.h"
 #include "editing/DescriptionCell.h"
 #include "editing/DigitalSquelchCell.h"
 #include "editing/MemoryNumberCell.h"
+#include "editing/RowBand.h"
+#include "editing/ScanListCell.h"
 #include "editing/ScanLock.h"
 #include "editing/ZoneCell.h"
 
@@ -15,14 +18,6 @@
 using namespace RadioCatalogue;
 
 namespace {
-
-/// Returns the entries of a constant list. The lists of RadioCatalogue can't be used: the first page is
-/// created before they are filled.
-template <const auto& texts>
-const wxString* Choices() {
-    static const wxArrayString list = ListOf(texts);
-    return &list[0];
-}
 
 /// Alignment of a column's texts.
 enum class Placed { AsOthers, Centred, AtTheTopLeft };
@@ -41,27 +36,9 @@ wxGridCellAttr& SetColumn(wxGrid* grid, int col, Placed placed, wxGridCellEditor
     return *attr;
 }
 
-void LockCells(wxGrid* grid, int row, std::initializer_list<int> cols, bool readOnly) {
-    for (int col : cols)
-        LockCell(grid, row, col, readOnly);
-}
-
-/// Writes texts known to be valid, and removes the paint of an earlier repair.
-void SetTexts(wxGrid* grid, int row, std::initializer_list<int> cols, const wxString& text) {
-    for (int col : cols) {
-        grid->SetCellValue(row, col, text);
-        TakePaintOff(grid, row, col);
-    }
-}
-
 template <const auto& texts>
 wxGridCellEditor* NewListEditor() {
     return new ListChoiceEditor(std::size(texts), Choices<texts>(), false);
-}
-
-template <const auto& texts>
-wxGridCellEditor* NewLinkedEditor() {
-    return new ZelkChoiceEditor(std::size(texts), Choices<texts>());
 }
 
 wxGridCellEditor* NewDescriptionEditor(int type) {
@@ -94,38 +71,6 @@ wxGridCellEditor* NewZoneEditor(int type) {
 /// Leaves out the first code, "OFF".
 wxGridCellEditor* NewCodeEditorWithoutOff() {
     return new ZelkChoiceEditor(std::size(CodeTexts) - 1, Choices<CodeTexts>() + 1);
-}
-
-/// Keys of PageTable::SharedEditor, for editors shared by cells of several columns or rows.
-enum SharedEditorKey {
-    AnalogSquelch,
-    ReceiveDigitalSquelch,
-    TransmitDigitalSquelch,
-    ShadowDigitalSquelch,
-    FrequencyOfBand ///< of band 0; those of the other bands follow
-};
-
-wxGridCellEditorPtr FrequencyEditorOf(wxGrid* grid, int band) {
-    return TableOf(grid).SharedEditor(FrequencyOfBand + band, [band] {
-        const int step = GetChannelStep(CurrentParameters().Radio, band);
-        auto* const editor = new FrequencyEditor(0, band, step);
-        // On an MDLX page the constructor took the row's band.
-        editor->SetEditorFreqParams(band, step);
-        return editor;
-    });
-}
-
-wxGridCellEditorPtr ReceiveSquelchEditor(wxGrid* grid, bool digital) {
-    return digital ? TableOf(grid).SharedEditor(ReceiveDigitalSquelch, NewLinkedEditor<RxDigitalSquelch>)
-                   : TableOf(grid).SharedEditor(AnalogSquelch, NewLinkedEditor<RxAnalogSquelch>);
-}
-
-wxGridCellEditorPtr TransmitSquelchEditor(wxGrid* grid, bool digital, bool shadow) {
-    if (!digital)
-        return ReceiveSquelchEditor(grid, false);
-    return shadow
-               ? TableOf(grid).SharedEditor(ShadowDigitalSquelch, NewLinkedEditor<TxDigitalSquelchRestricted>)
-               : TableOf(grid).SharedEditor(TransmitDigitalSquelch, NewLinkedEditor<TxDigitalSquelch>);
 }
 
 /// Adds the reference that an attribute takes over.
@@ -189,7 +134,7 @@ void SetColumnsP25(wxGrid* grid) {
     SetColumn(grid, MODE, Placed::Centred, NewLinkedEditor<P25Modes>());
     SetFrequencyColumns(grid, page.Band);
     for (int col : {RSQL, TSQL})
-        SetColumn(grid, col, Placed::Centred, Referenced(ReceiveSquelchEditor(grid, false)));
+        SetColumn(grid, col, Placed::Centred, Referenced(AnalogSquelchEditor(grid)));
     SetColumn(grid, RNSV, Placed::Centred,
               page.Radio == Kdrv716B ? new wxGridCellNumberEditor(0, 15) : nullptr);
     for (int col : {RTON, TTON})
@@ -203,18 +148,6 @@ void SetColumnsP25(wxGrid* grid) {
     SetColumn(grid, TIDC, Placed::AsOthers, new wxGridCellNumberEditor(0, 9999999), new IDCNumberRenderer);
 }
 
-/// Sets what the cells of a row need besides their columns' editors.
-void FitRow(wxGrid* grid, int row) {
-    if (row == 0)
-        LockCell(grid, 0, MNUM);
-    const PageParameterRecord& page = CurrentParameters();
-    if (page.Type != MDLX)
-        return SetBandEditors(grid, row, page.Band);
-    const int band = GetBandOfEdit(grid, row);
-    SetFrequencyEditors(grid, row, band);
-    SetBandEditors(grid, row, band);
-}
-
 void FitRowP25(wxGrid* grid, int row) {
     if (row == 0)
         LockCell(grid, 0, MNUM);
@@ -222,19 +155,13 @@ void FitRowP25(wxGrid* grid, int row) {
     SetSquelchChoices(grid, row, grid->GetCellValue(row, MODE), false);
 }
 
-/// Unlocks cells that the page's former radio, or rows that have moved, may have left read-only.
-void Unlock(wxGrid* grid, int row) {
-    LockCells(grid, row, {MNUM, SCAN, ZONE, MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}, false);
-}
-
 void LockGuardRows(wxGrid* grid, bool p25) {
+    static constexpr std::initializer_list<int> columns = {MNUM, SCAN, RTON, RCOD};
+    static constexpr std::initializer_list<int> p25Columns = {MNUM, SCAN, ZONE};
     const int rows = CurrentParameters().Rows;
-    for (int row : {rows - 1, rows}) {
-        if (p25)
-            LockCells(grid, row, {MNUM, SCAN, ZONE}, true);
-        else
-            LockCells(grid, row, {MNUM, SCAN, RTON, RCOD}, true);
-    }
+    for (int row : {rows - 1, rows})
+        for (int col : p25 ? p25Columns : columns)
+            LockCell(grid, row, col);
 }
 
 } // namespace
@@ -254,7 +181,7 @@ void SetPageEditors(int page) {
         if (p25) {
             FitRowP25(grid, row);
         } else {
-            Unlock(grid, row);
+            UnlockRow(grid, row);
             FitRow(grid, row);
         }
     }
@@ -270,76 +197,4 @@ void SetRowEditors(wxGrid* grid, int row) {
 void SetRowEditorsP25(wxGrid* grid, int row) {
     TableOf(grid).ForgetEditors(row);
     FitRowP25(grid, row);
-}
-
-void SetFrequencyEditors(wxGrid* grid, int row, int band) {
-    for (int col : {RFRQ, TFRQ})
-        TableOf(grid).SetEditor(row, col, FrequencyEditorOf(grid, band));
-}
-
-void SetBandEditors(wxGrid* grid, int row, int band, bool bandChanged) {
-    const int type = CurrentParameters().Type;
-    // A row yet to be filled has the locks of its future texts, but not the texts.
-    const bool hasTexts = !IsFilledByEdit(grid, row);
-    if (band == Am118To138)
-        return;
-    if (band == Am225To400) {
-        if (type != MDLX)
-            return;
-        LockCells(grid, row, {MODE, RCOD, TCOD}, true);
-        LockCells(grid, row, {RTON, TTON}, false);
-        if (hasTexts)
-            SetTexts(grid, row, {MODE, RCOD, TCOD}, "n/a");
-        for (int col : {RTON, TTON})
-            if (hasTexts && (bandChanged || GetToneIndex(grid->GetCellValue(row, col)) < 0))
-                SetTexts(grid, row, {col}, "OFF");
-        return;
-    }
-    if (band == Am108To138) {
-        if (type != MDLX)
-            return;
-        if (hasTexts)
-            SetTexts(grid, row, {RTON, TTON, RCOD, TCOD}, "n/a");
-        LockCells(grid, row, {MODE}, false);
-        LockCells(grid, row, {RTON, TTON, RCOD, TCOD}, true);
-        return;
-    }
-    // Intentional: TCOD keeps the read-only mark of a former band until the page is set up again.
-    LockCells(grid, row, {MODE, RTON, TTON, RCOD}, false);
-    if (!IsP25Type(type))
-        return;
-    // Intentional: TTON keeps its editor.
-    TableOf(grid).SetEditor(row, RTON, wxGridCellEditorPtr());
-    LockCell(grid, row, SCAN, grid->GetCellValue(row, ZONE) == ZoneNames32[NP25GuardZone]);
-}
-
-void FitRowToItsBand(wxGrid* grid, int row) {
-    if (CurrentParameters().Type != MDLX)
-        return;
-    Unlock(grid, row);
-    SetRowEditors(grid, row);
-}
-
-void FitUnusedRowsToDefaultBand(wxGrid* grid) {
-    const wxGridUpdateLocker quiet(grid);
-    for (int row = 1; row <= CurrentParameters().Rows; ++row)
-        if (IsFilledByEdit(grid, row))
-            FitRowToItsBand(grid, row);
-}
-
-void ChangeRowBand(wxGrid* grid, int row, int band) {
-    SetTexts(grid, row, {RFRQ, TFRQ}, "");
-    SetFrequencyEditors(grid, row, band);
-    SetBandEditors(grid, row, band, true);
-}
-
-void SetSquelchChoices(wxGrid* grid, int row, const wxString& mode, bool applyDefault) {
-    const bool digital = mode == "D";
-    const bool shadow = digital && IsShadow(grid, row);
-    TableOf(grid).SetEditor(row, RSQL, ReceiveSquelchEditor(grid, digital));
-    TableOf(grid).SetEditor(row, TSQL, TransmitSquelchEditor(grid, digital, shadow));
-    if (!applyDefault)
-        return;
-    SetTexts(grid, row, {RSQL}, digital ? "m" : "x");
-    SetTexts(grid, row, {TSQL}, digital ? "g" : "x");
 }

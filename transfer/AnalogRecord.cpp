@@ -4,7 +4,7 @@
 #include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
 #include "editing/FrequencyRules.h"
-#include "editing/ZelkEditors.h"
+#include "editing/RowBand.h"
 #include "transfer/TransferContext.h"
 
 #include <wx/grid.h>

@@ -47,6 +47,15 @@ protected:
 
     static bool IsLocked(int row, int col) { return Grid()->IsReadOnly(row, col); }
 
+    /// Tags of the row's read-only cells.
+    static Texts LocksOf(int row) {
+        Texts tags;
+        for (int col = 0; col < ColumnTotal; ++col)
+            if (IsLocked(row, col))
+                tags.push_back(ColumnTag[col]);
+        return tags;
+    }
+
     /// The cell's editor; the grid keeps ownership.
     static wxGridCellEditor* EditorAt(int row, int col) {
         wxGridCellEditor* editor = Grid()->GetCellEditor(row, col);

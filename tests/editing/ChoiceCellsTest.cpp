@@ -1,7 +1,7 @@
 // Choices from a list, and the values that they copy to the neighbouring cells.
-#include "tests/editing/CellTools.h"
+#include "editing/ChoiceCells.h"
 
-using testbench::TypeIntoCell;
+#include "tests/editing/CellTools.h"
 
 namespace {
 
@@ -15,25 +15,6 @@ protected:
     }
 
     static Texts TonesAndCodes(int row) { return TextsOf(row, {RTON, RCOD, TTON, TCOD}); }
-};
-
-class BandCells : public CellTest {
-protected:
-    void SetUp() override {
-        CellTest::SetUp();
-        RetargetModule();
-        Fill({5});
-    }
-
-    static Texts LocksOf(int row) {
-        Texts locked;
-        for (int col = 0; col < ColumnTotal; ++col)
-            if (IsLocked(row, col))
-                locked.push_back(ColumnTag[col]);
-        return locked;
-    }
-
-    static Texts BandTexts(int row) { return TextsOf(row, {MODE, RTON, RCOD, TTON, TCOD}); }
 };
 
 } // namespace
@@ -184,118 +165,4 @@ TEST_F(ChoiceCells, SquelchChoicesLeaveTheTextsUnlessDefaultsAreWanted) {
     EXPECT_EQ(TextsOf(5, {RSQL, TSQL}), (Texts{"x", "x"}));
     SetSquelchChoices(Grid(), 5, "D", true);
     EXPECT_EQ(TextsOf(5, {RSQL, TSQL}), (Texts{"m", "g"}));
-}
-
-TEST_F(BandCells, OfferTheBandsOfTheModule) {
-    EXPECT_EQ(OfferedIn(5, BAND), (Texts{"FM 30-50", "AM 108-138", "AM 225-400"}));
-    CurrentParameters().Band = RadioCatalogue::K7Module;
-    SetPageEditors(CurrentPage);
-    EXPECT_EQ(OfferedIn(5, BAND), (Texts{"FM 30-50", "FM 66-88", "AM 108-138", "FM 136-174", "AM 225-400",
-                                         "FM_403-512", "FM 7xx-8xx"}));
-}
-
-TEST_F(BandCells, ChangedToAM225EmptyTheFrequenciesAndLockModeAndCodes) {
-    SetCell(5, RTON, "100.0");
-    SetCell(5, TTON, "71.9");
-    Choose(5, BAND, "AM 225-400");
-    EXPECT_EQ(TextsOf(5, {BAND, RFRQ, TFRQ}), (Texts{"AM 225-400", "", ""}));
-    EXPECT_EQ(BandTexts(5), (Texts{"n/a", "OFF", "n/a", "OFF", "n/a"}));
-    EXPECT_EQ(LocksOf(5), (Texts{"MODE", "RCOD", "TCOD"}));
-    TypeIntoCell(*Grid(), 5, RFRQ, "230.5");
-    EXPECT_EQ(TextsOf(5, {RFRQ, TFRQ}), (Texts{"230.5000", "230.5000"}));
-    Choose(5, RTON, "67.0");
-    EXPECT_EQ(BandTexts(5), (Texts{"n/a", "67.0", "n/a", "67.0", "n/a"}));
-}
-
-TEST_F(BandCells, ChangedToAM108LockTonesAndCodes) {
-    Choose(5, BAND, "AM 108-138");
-    EXPECT_EQ(TextsOf(5, {BAND, RFRQ, TFRQ}), (Texts{"AM 108-138", "", ""}));
-    EXPECT_EQ(BandTexts(5), (Texts{"N", "n/a", "n/a", "n/a", "n/a"}));
-    EXPECT_EQ(LocksOf(5), (Texts{"RTON", "RCOD", "TTON", "TCOD"}));
-    TypeIntoCell(*Grid(), 5, RFRQ, "121.5");
-    EXPECT_EQ(Text(5, RFRQ).substr(0, 5), "121.5");
-}
-
-TEST_F(BandCells, ChangedBackToFMKeepTheTransmitCodeLockedUntilThePageIsSetUpAgain) {
-    Choose(5, BAND, "AM 225-400");
-    Choose(5, BAND, "FM 30-50");
-    EXPECT_EQ(LocksOf(5), (Texts{"TCOD"}));
-    SetPageEditors(CurrentPage);
-    EXPECT_EQ(LocksOf(5), Texts{});
-}
-
-TEST_F(BandCells, KeepFrequenciesThatLieInTheChosenBand) {
-    SetCell(5, BAND, "FM 30-50");
-    SetCell(5, RFRQ, "230.0000");
-    SetCell(5, TFRQ, "231.0000");
-    Choose(5, BAND, "AM 225-400");
-    EXPECT_EQ(TextsOf(5, {BAND, RFRQ, TFRQ}), (Texts{"AM 225-400", "230.0000", "231.0000"}));
-    EXPECT_EQ(Text(5, MODE), "n/a") << "the row shows the band, and has no mode there";
-    EXPECT_EQ(LocksOf(5), (Texts{"MODE", "RCOD", "TCOD"}));
-}
-
-TEST_F(BandCells, OfABlankRowFillItFirst) {
-    Choose(7, BAND, "AM 225-400");
-    EXPECT_EQ(TextsOf(7, {MNUM, BAND, RFRQ, MODE, RTON}), (Texts{"007", "AM 225-400", "", "n/a", "OFF"}));
-}
-
-TEST_F(BandCells, KeepTonesOfTheListWhenThePageIsSetUpAgain) {
-    Choose(5, BAND, "AM 225-400");
-    SetCell(5, RTON, "100.0");
-    SetCell(5, TTON, "n/a");
-    SetPageEditors(CurrentPage);
-    EXPECT_EQ(BandTexts(5), (Texts{"n/a", "100.0", "n/a", "OFF", "n/a"}));
-    EXPECT_EQ(LocksOf(5), (Texts{"MODE", "RCOD", "TCOD"}));
-}
-
-TEST_F(BandCells, LockAgainWhenThePageIsSetUpAgain) {
-    SetCell(5, BAND, "AM 108-138");
-    SetPageEditors(CurrentPage);
-    EXPECT_EQ(LocksOf(5), (Texts{"RTON", "RCOD", "TTON", "TCOD"}));
-    EXPECT_EQ(BandTexts(5), (Texts{"N", "n/a", "n/a", "n/a", "n/a"}));
-    SetCell(5, BAND, "FM 30-50");
-    SetPageEditors(CurrentPage);
-    EXPECT_EQ(LocksOf(5), Texts{});
-    SetCell(5, BAND, "no band");
-    EXPECT_EQ(GetRowBand(Grid(), 5), 0);
-    SetPageEditors(CurrentPage);
-    EXPECT_EQ(LocksOf(5), Texts{});
-}
-
-TEST_F(BandCells, OfTheAirBandAreLeftAlone) {
-    for (int col : {MODE, RTON, RCOD, TTON, TCOD})
-        Grid()->SetReadOnly(5, col, true);
-    const Texts before = BandTexts(5);
-    SetBandEditors(Grid(), 5, 3);
-    EXPECT_EQ(BandTexts(5), before);
-    EXPECT_EQ(LocksOf(5), (Texts{"MODE", "RTON", "RCOD", "TTON", "TCOD"}));
-}
-
-TEST_F(BandCells, OfOtherRadiosAreNotLockedByAMBands) {
-    for (int radio : {Krv47, Kdar2000, Kdrv716B}) {
-        Retarget(radio, 0);
-        Fill({5});
-        const Texts before = BandTexts(5), locks = LocksOf(5);
-        for (int band : {2, 3, 6}) {
-            SetBandEditors(Grid(), 5, band);
-            EXPECT_EQ(BandTexts(5), before) << radio << ", band " << band;
-            EXPECT_EQ(LocksOf(5), locks) << radio << ", band " << band;
-        }
-    }
-}
-
-TEST_F(BandCells, OfP25RowsSetTheReceiveToneAloneAndLockTheScanOfZoneX) {
-    Retarget(Kdrv716B, 0);
-    Fill({5});
-    for (int col : {RTON, TTON})
-        Grid()->SetCellEditor(5, col, new wxGridCellTextEditor);
-    SetCell(5, ZONE, "X");
-    SetBandEditors(Grid(), 5, 4);
-    EXPECT_EQ(EditorClass(5, RTON), "ZelkChoiceEditor");
-    EXPECT_EQ(EditorClass(5, TTON), "wxGridCellTextEditor");
-    EXPECT_EQ(LocksOf(5), (Texts{"SHAD", "SCAN"}));
-    EXPECT_EQ(OfferedIn(5, RTON).size(), 42u);
-    SetCell(5, ZONE, "W");
-    SetBandEditors(Grid(), 5, 4);
-    EXPECT_EQ(LocksOf(5), (Texts{"SHAD"}));
 }

@@ -1,7 +1,9 @@
 // Parameters of the editor of each cell, on a page of each of the eight radio types.
+#include "editing/BandCell.h"
 #include "editing/ChoiceCells.h"
 #include "editing/DescriptionCell.h"
 #include "editing/DigitalSquelchCell.h"
+#include "editing/FrequencyCell.h"
 #include "editing/MemoryNumberCell.h"
 #include "editing/ZoneCell.h"
 #include "tests/editing/CellTools.h"

@@ -29,15 +29,6 @@ protected:
         MainFrame->m_contextMenu->SendEvent(command);
     }
 
-    /// Tags of the read-only cells among those that depend on the band.
-    static Texts LocksOf(int row) {
-        Texts tags;
-        for (int col : {MODE, RTON, RCOD, TTON, TCOD})
-            if (IsLocked(row, col))
-                tags.push_back(ColumnTag[col]);
-        return tags;
-    }
-
     static void MakeAirRow(int row, const char* band = "AM 225-400", const char* frequency = "230.0") {
         Fill({row});
         Choose(row, BAND, band);

@@ -1,4 +1,5 @@
 // The five boxes of a scan cell, worked by mouse and keys.
+#include "editing/ScanListCell.h"
 #include "tests/editing/CellTools.h"
 
 #include <wx/dcmemory.h>

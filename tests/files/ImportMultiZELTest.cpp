@@ -1,4 +1,5 @@
 // The lists of the analog radios.
+#include "editing/ScanListCell.h"
 #include "tests/files/ImportTest.h"
 
 namespace {

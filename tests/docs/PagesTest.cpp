@@ -1,4 +1,4 @@
-// Files, folders, commands and tests that the project's pages name: they must exist.
+// Files, folders, commands, functions and tests that the project's pages name: they must exist.
 #include "robot/Files.h"
 #include "tests/docs/Markdown.h"
 
@@ -24,10 +24,12 @@ bool IsBuilt(const fs::path& folder) {
     return name.starts_with("build") || name == ".git";
 }
 
-/// Paths of all files in the rooms, each also in its shorter forms: "a/b/C.h", "b/C.h" and "C.h".
+/// Paths of all files of the tree, each also in its shorter forms: "a/b/C.h", "b/C.h" and "C.h".
 std::set<std::string> FileNames() {
     std::set<std::string> names;
     for (const auto& room : fs::directory_iterator(Tree)) {
+        if (room.is_regular_file())
+            names.insert(room.path().filename().string());
         if (!room.is_directory() || IsBuilt(room.path()))
             continue;
         for (const auto& file : fs::recursive_directory_iterator(room.path())) {
@@ -58,9 +60,48 @@ std::set<std::string> TestNames() {
     return names;
 }
 
-bool IsSource(const std::string& text) {
-    const fs::path extension = fs::path(text).extension();
-    return text.find(' ') == text.npos && (extension == ".cpp" || extension == ".h");
+/// Calls take(word) for each word of a text.
+template <class Take>
+void EachWord(const std::string& text, Take take) {
+    const auto isPart = [](unsigned char c) { return std::isalnum(c) || c == '_'; };
+    for (auto begin = text.begin(); begin != text.end();) {
+        const auto end = std::find_if_not(begin, text.end(), isPart);
+        if (begin != end)
+            take(std::string(begin, end));
+        begin = std::find_if(end, text.end(), isPart);
+    }
+}
+
+/// Adds the words of a file, apart from pages, the guide and the comments of sources.
+void AddWords(const fs::path& file, std::set<std::string>& words) {
+    const fs::path extension = file.extension();
+    if (extension == ".md" || extension == ".adoc")
+        return;
+    const bool hasComments = extension == ".cpp" || extension == ".h";
+    for (const std::string& line : testbench::ReadLines(file))
+        EachWord(hasComments ? line.substr(0, line.find("//")) : line,
+                 [&](const std::string& word) { words.insert(word); });
+}
+
+/// The words of all files of the tree, with the exceptions of AddWords.
+std::set<std::string> SourceWords() {
+    std::set<std::string> words;
+    for (const auto& entry : fs::directory_iterator(Tree)) {
+        if (entry.is_regular_file())
+            AddWords(entry.path(), words);
+        if (!entry.is_directory() || IsBuilt(entry.path()))
+            continue;
+        for (const auto& file : fs::recursive_directory_iterator(entry.path()))
+            if (file.is_regular_file())
+                AddWords(file.path(), words);
+    }
+    return words;
+}
+
+/// Whether the text is the name of a file of a kind that the tree holds, with or without its folders.
+bool IsFileName(const std::string& text) {
+    static const std::set<std::string> kinds{".adoc", ".cmake", ".cpp", ".csv", ".h", ".md", ".txt", ".yml"};
+    return text.find(' ') == text.npos && kinds.count(fs::path(text).extension().string());
 }
 
 bool IsWord(const std::string& text) {
@@ -74,6 +115,20 @@ bool IsTestName(const std::string& text) {
     return point != text.npos && IsWord(text.substr(0, point)) && IsWord(text.substr(point + 1)) &&
            std::isupper(static_cast<unsigned char>(text[0])) &&
            std::isupper(static_cast<unsigned char>(text[point + 1]));
+}
+
+/// Whether the text is the name of something in the sources: "name", "Class::name" or "name()".
+bool IsName(const std::string& text) {
+    std::string name = text.ends_with("()") ? text.substr(0, text.size() - 2) : text;
+    for (auto colons = name.find("::"); colons != name.npos; colons = name.find("::"))
+        name.replace(colons, 2, "_");
+    return IsWord(name) && !std::isdigit(static_cast<unsigned char>(name[0]));
+}
+
+/// Whether the sources have the word. One that ends in "_", as "m_" does, stands for all that begin so.
+bool IsIn(const std::set<std::string>& words, const std::string& word) {
+    const auto found = words.lower_bound(word);
+    return found != words.end() && (*found == word || (word.ends_with('_') && found->starts_with(word)));
 }
 
 /// The words of a text that look like paths of the tree: with a separator, not from the root, and not in
@@ -113,12 +168,12 @@ TEST(MarkdownPages, AreFound) {
         EXPECT_TRUE(names.count(name)) << name;
 }
 
-TEST(MarkdownPages, NameSourcesThatExist) {
+TEST(MarkdownPages, NameFilesThatExist) {
     const std::set<std::string> files = FileNames();
     size_t named = 0;
     for (const Page& page : PagesOf(Tree))
         for (const std::string& text : QuotedTexts(page.text)) {
-            if (!IsSource(text))
+            if (!IsFileName(text))
                 continue;
             ++named;
             EXPECT_TRUE(files.count(text)) << page.path << ": " << text;
@@ -140,6 +195,22 @@ TEST(MarkdownPages, NameFoldersAndCommandsThatExist) {
             }
     }
     EXPECT_GT(named, 60u);
+}
+
+TEST(MarkdownPages, NameWhatTheSourcesHave) {
+    const std::set<std::string> words = SourceWords();
+    EXPECT_GT(words.size(), 10'000u);
+    size_t named = 0;
+    for (const Page& page : PagesOf(Tree))
+        for (const std::string& text : QuotedTexts(page.text)) {
+            if (!IsName(text))
+                continue;
+            ++named;
+            EachWord(text, [&](const std::string& word) {
+                EXPECT_TRUE(IsIn(words, word)) << page.path << ": " << text;
+            });
+        }
+    EXPECT_GT(named, 200u);
 }
 
 TEST(MarkdownPages, LinkToFilesThatExist) {

@@ -36,7 +36,7 @@ TEST(RadioType, IsKeptOnAmBandsByRadiosWithATypeOfTheirOwn) {
 TEST(RadioType, OfTheModuleIsAlsoGivenToItsSecondGeneration) {
     EXPECT_EQ(GetRadioType(17, 9), printed::MDLX);
     for (int radio = 0; radio < 17; ++radio)
-        EXPECT_NE(printed::MDLX, GetRadioType(radio, 9)) << "radio " << radio;
+        EXPECT_NE(GetRadioType(radio, 9), printed::MDLX) << "radio " << radio;
 }
 
 TEST(RadioType, OfEachRadioAndBandFollowsTheRule) {
@@ -64,7 +64,7 @@ TEST(RadioType, OfEachRadioAndBandFollowsTheRule) {
 TEST(RadioType, IsNeverTheAmTypeWithTones) {
     for (int radio = -1; radio <= 18; ++radio)
         for (int band = -1; band <= 10; ++band)
-            EXPECT_NE(printed::FXAM, GetRadioType(radio, band)) << radio << " " << band;
+            EXPECT_NE(GetRadioType(radio, band), printed::FXAM) << radio << " " << band;
 }
 
 TEST(RadioType, OfARadioThatDoesNotExistGoesByTheBandAlone) {

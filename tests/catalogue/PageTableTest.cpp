@@ -129,7 +129,7 @@ TEST_F(PageAttributes, OfRowsMoveWithTheirRows) {
     Grid()->DeleteRows(5, 3);
     EXPECT_TRUE(Grid()->IsReadOnly(6, RFRQ));
     for (int row : {4, 5, 6})
-        EXPECT_NE(FailColour, Grid()->GetCellBackgroundColour(row, DESC)) << row;
+        EXPECT_NE(Grid()->GetCellBackgroundColour(row, DESC), FailColour) << row;
 }
 
 TEST_F(PageAttributes, OfRowsThatAreAddedOrTakenAwayAtTheEnd) {
@@ -150,9 +150,9 @@ TEST_F(PageAttributes, OfARowCanBeMovedAndForgotten) {
     Table().MoveLooks(9, 3);
     EXPECT_EQ(Grid()->GetCellBackgroundColour(3, DESC), FailColour);
     EXPECT_FALSE(Grid()->IsReadOnly(3, DESC));
-    EXPECT_NE(FailColour, Grid()->GetCellBackgroundColour(9, DESC));
+    EXPECT_NE(Grid()->GetCellBackgroundColour(9, DESC), FailColour);
     Table().ForgetLooks(3);
-    EXPECT_NE(FailColour, Grid()->GetCellBackgroundColour(3, DESC));
+    EXPECT_NE(Grid()->GetCellBackgroundColour(3, DESC), FailColour);
 }
 
 TEST_F(PageAttributes, KeepPaintAndLocksWhenEditorsAreForgotten) {

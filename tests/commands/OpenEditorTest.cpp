@@ -89,7 +89,7 @@ TEST_F(OpenEditor, IsTakenBySaveIntoTheFile) {
         Type(5, edit);
         RunCommand(IdSave);
         const std::string bytes = ReadFile(folder / "quay.zelk");
-        EXPECT_NE(std::string::npos, bytes.find(std::string(">") + edit.taken + "<")) << bytes;
+        EXPECT_NE(bytes.find(std::string(">") + edit.taken + "<"), std::string::npos) << bytes;
     }
 }
 
@@ -106,7 +106,7 @@ TEST_F(OpenEditor, IsTakenBySaveAsIntoTheFile) {
             RunCommand(IdSaveAs);
         }
         const std::string bytes = ReadFile(folder / file);
-        EXPECT_NE(std::string::npos, bytes.find(std::string(">") + edit.taken + "<")) << bytes;
+        EXPECT_NE(bytes.find(std::string(">") + edit.taken + "<"), std::string::npos) << bytes;
         EXPECT_FALSE(IsOpen());
     }
 }

@@ -367,7 +367,7 @@ TEST_F(ListCells, AnsweredWithTheirOwnTextChangeNoTextAndTakeThePaintOff) {
         After(5, col, std::string(typed) + "\n");
         Grid()->Unbind(wxEVT_GRID_CELL_CHANGED, count);
         EXPECT_EQ(RowTexts(5), before);
-        EXPECT_NE(FailColour, Grid()->GetCellBackgroundColour(5, col));
+        EXPECT_NE(Grid()->GetCellBackgroundColour(5, col), FailColour);
         EXPECT_EQ(changes, 1);
     }
 }

@@ -193,7 +193,7 @@ TEST_P(ExampleFiles, HoldCompleteRowsInOrderWithinTheGrid) {
             elements += (elements.empty() ? "" : " ") + name;
             // A shadow has the zone of its primary.
             const bool mayBeEmpty = name == "ZN" && memory.Get("SH").starts_with("S-");
-            EXPECT_EQ(mayBeEmpty, text.empty()) << name;
+            EXPECT_EQ(text.empty(), mayBeEmpty) << name;
         }
         EXPECT_EQ(elements, Elements.at(GetParam().type));
         if (*GetParam().type != '\0') {
@@ -255,7 +255,7 @@ TEST_P(ExampleFiles, KeepFrequenciesInTheFormAndTheLimitsOfTheirBand) {
             }
             SCOPED_TRACE("row " + std::to_string(memory.row) + ", " + element + " " + text);
             const size_t point = text.find('.');
-            ASSERT_NE(std::string::npos, point);
+            ASSERT_NE(point, std::string::npos);
             EXPECT_EQ(text.size() - point - 1, rule.decimals);
             EXPECT_EQ(text.find_first_not_of("0123456789."), std::string::npos);
             // Last two digits of a channel at a multiple of 2.5 kHz, or of 25 kHz in the airband.

@@ -578,5 +578,5 @@ TEST_F(ChannelFileReader, TakesEveryElementThatIsNamedLikeAMemory) {
 TEST_F(ChannelFileReader, EndsWithTheCellsUnpainted) {
     CurrentGrid()->SetCellBackgroundColour(5, RFRQ, FailColour);
     ASSERT_EQ(Open(FileOf("ANFM", Memory(5, "<RF>150.0000</RF>"))), 0);
-    EXPECT_NE(FailColour, CurrentGrid()->GetCellBackgroundColour(5, RFRQ));
+    EXPECT_NE(CurrentGrid()->GetCellBackgroundColour(5, RFRQ), FailColour);
 }

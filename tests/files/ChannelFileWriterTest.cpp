@@ -89,7 +89,7 @@ TEST_F(ChannelFileWriter, GivesTheBytesThatTheToolkitItselfSaves) {
         const fs::path other = m_folder / "toolkit.zelk";
         ASSERT_TRUE(document.Save(other.string(), 2));
         EXPECT_EQ(Masked(saved), Masked(testbench::ReadFile(other)));
-        EXPECT_NE(std::string::npos, Masked(saved).find("<Date>D</Date>\n  <Time>T</Time>"));
+        EXPECT_NE(Masked(saved).find("<Date>D</Date>\n  <Time>T</Time>"), std::string::npos);
     }
 }
 
@@ -114,7 +114,7 @@ TEST_F(ChannelFileWriter, NamesTypeRadioAndBand) {
         const std::string expected = std::string("  <FType>") + (nameless ? "" : target.type) +
                                      "</FType>\n  <FRadio>" + target.radio + "</FRadio>\n  <FBand>" +
                                      target.band + "</FBand>\n";
-        EXPECT_NE(std::string::npos, Save().find(expected)) << target.type;
+        EXPECT_NE(Save().find(expected), std::string::npos) << target.type;
     }
 }
 
@@ -170,7 +170,7 @@ TEST_F(ChannelFileWriter, TellsTheGridRowWhateverTheMemoryNumber) {
     EmptyRow(0);
     MakeAnalogRow(12, "77");
     const std::string bytes = Save();
-    EXPECT_NE(std::string::npos, bytes.find("<MEMORY row=\"12\">\n    <MN>077</MN>")) << bytes;
+    EXPECT_NE(bytes.find("<MEMORY row=\"12\">\n    <MN>077</MN>"), std::string::npos) << bytes;
 }
 
 TEST_F(ChannelFileWriter, LeavesOutIncompleteRows) {
@@ -181,7 +181,7 @@ TEST_F(ChannelFileWriter, LeavesOutIncompleteRows) {
     SetCell(5, TFRQ, "");
     const std::string bytes = Save();
     EXPECT_EQ(bytes.find("row=\"5\""), std::string::npos);
-    EXPECT_NE(std::string::npos, bytes.find("row=\"6\""));
+    EXPECT_NE(bytes.find("row=\"6\""), std::string::npos);
 }
 
 TEST_F(ChannelFileWriter, KeepsAShadowWithoutZone) {
@@ -189,7 +189,7 @@ TEST_F(ChannelFileWriter, KeepsAShadowWithoutZone) {
     FillRowsFromDefault({8});
     SetCell(8, MFLG, "01");
     SetCell(8, ZONE, "");
-    EXPECT_NE(std::string::npos, Save().find("<MEMORY row=\"8\">"));
+    EXPECT_NE(Save().find("<MEMORY row=\"8\">"), std::string::npos);
     SetCell(8, MFLG, "10");
     EXPECT_EQ(Save().find("<MEMORY row=\"8\">"), std::string::npos) << "a primary has a zone";
 }
@@ -214,7 +214,7 @@ TEST_F(ChannelFileWriter, EscapesMarkupInCells) {
     EmptyRow(0);
     MakeAnalogRow(4, "004");
     SetCell(4, DESC, "A<&>\"B");
-    EXPECT_NE(std::string::npos, Save().find("<DS>A&lt;&amp;&gt;\"B</DS>"));
+    EXPECT_NE(Save().find("<DS>A&lt;&amp;&gt;\"B</DS>"), std::string::npos);
     EXPECT_EQ(Open(Save()), 0);
     EXPECT_EQ(Text(4, DESC), "A<&>\"B");
 }
@@ -224,7 +224,7 @@ TEST_F(ChannelFileWriter, LeavesOutCharactersThatNoXmlFileCanHold) {
     MakeAnalogRow(4, "004");
     SetCell(4, DESC, wxString("A") + wxUniChar(1) + "B" + wxUniChar(0xFFFE) + wxUniChar(0x2612));
     const std::string bytes = Save();
-    EXPECT_NE(std::string::npos, bytes.find("<DS>AB\xE2\x98\x92</DS>"));
+    EXPECT_NE(bytes.find("<DS>AB\xE2\x98\x92</DS>"), std::string::npos);
     EXPECT_EQ(Open(bytes), 0) << "the file must stay readable";
 }
 
@@ -271,9 +271,9 @@ TEST_F(ChannelFileWriter, TakesTheNumberOfTheRowBelowForOneThatIsNone) {
     MakeAnalogRow(9, "b");
     const std::string bytes = Save();
     // Rows are written from the last to the first.
-    EXPECT_NE(std::string::npos, bytes.find("<MEMORY row=\"9\">\n    <MN>000</MN>"));
-    EXPECT_NE(std::string::npos, bytes.find("<MEMORY row=\"5\">\n    <MN>055</MN>"));
-    EXPECT_NE(std::string::npos, bytes.find("<MEMORY row=\"3\">\n    <MN>055</MN>"));
+    EXPECT_NE(bytes.find("<MEMORY row=\"9\">\n    <MN>000</MN>"), std::string::npos);
+    EXPECT_NE(bytes.find("<MEMORY row=\"5\">\n    <MN>055</MN>"), std::string::npos);
+    EXPECT_NE(bytes.find("<MEMORY row=\"3\">\n    <MN>055</MN>"), std::string::npos);
 }
 
 TEST_F(ChannelFileWriter, StartsEachFileAtNumberZero) {
@@ -282,7 +282,7 @@ TEST_F(ChannelFileWriter, StartsEachFileAtNumberZero) {
     MakeAnalogRow(3, "44");
     Save();
     SetCell(3, MNUM, "x");
-    EXPECT_NE(std::string::npos, Save().find("<MN>000</MN>"));
+    EXPECT_NE(Save().find("<MN>000</MN>"), std::string::npos);
 }
 
 TEST_F(ChannelFileWriter, NamesTheRowsWithDataThatItLeavesOut) {

@@ -138,8 +138,8 @@ TEST_F(CsvExportCommand, QuotesOnlyAFieldWithAQuoteAndCutsItBehindTheLast) {
     SetCells(2, {{MNUM, "002"}, {DESC, "A\"B\"C"}});
     Select({1, 2});
     const std::string bytes = Export();
-    EXPECT_NE(std::string::npos, bytes.find("\n001,,A,B,,"));
-    EXPECT_NE(std::string::npos, bytes.find("\n002,,\"A\"\"B\"\"\",,"));
+    EXPECT_NE(bytes.find("\n001,,A,B,,"), std::string::npos);
+    EXPECT_NE(bytes.find("\n002,,\"A\"\"B\"\"\",,"), std::string::npos);
 }
 
 TEST_F(CsvExportCommand, WritesUtf8) {
@@ -147,7 +147,7 @@ TEST_F(CsvExportCommand, WritesUtf8) {
     SetCells(1, {{MNUM, "001"}});
     SetCell(1, DESC, wxString::FromUTF8("K\xC3\xB6ln"));
     Select({1});
-    EXPECT_NE(std::string::npos, Export().find("\n1,K\xC3\xB6ln,"));
+    EXPECT_NE(Export().find("\n1,K\xC3\xB6ln,"), std::string::npos);
 }
 
 TEST_F(CsvExportCommand, WithoutWholeRowsSelectedSaysSo) {
@@ -288,7 +288,7 @@ TEST_F(CsvExportCommand, TakesTheTextOfAnOpenEditor) {
     testbench::TypeText("TYPED");
     ASSERT_TRUE(grid->IsCellEditControlShown());
     Select({1});
-    EXPECT_NE(std::string::npos, Export().find("\n001,,TYPED,"));
+    EXPECT_NE(Export().find("\n001,,TYPED,"), std::string::npos);
     EXPECT_FALSE(grid->IsCellEditControlShown());
 }
 

@@ -305,7 +305,7 @@ TEST_F(CsvRoundTrip, OfTextsThatAFieldCannotHold) {
         MakeRow(1, {{DESC, cell}});
         Select({1});
         const std::string bytes = Export();
-        EXPECT_NE(std::string::npos, bytes.find(std::string("\n1,") + field + ",")) << bytes;
+        EXPECT_NE(bytes.find(std::string("\n1,") + field + ","), std::string::npos) << bytes;
         ResetPage(CurrentPage);
         ImportKdar(bytes);
         EXPECT_EQ(Text(1, DESC), back) << cell;

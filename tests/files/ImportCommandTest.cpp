@@ -243,7 +243,7 @@ TEST_F(ImportCommand, OfAPageThatHasAFolderIsSavedBesideTheImportedFile) {
     ImportByMenu("list.716", "Imported 1 Lines from 716 Binary file.");
     Choose(IdSave);
     EXPECT_EQ(Status(0), "Saved list.zelk");
-    EXPECT_NE(std::string::npos, testbench::ReadFile(m_folder / "list.zelk").find("<DS>VCALL10</DS>"));
+    EXPECT_NE(testbench::ReadFile(m_folder / "list.zelk").find("<DS>VCALL10</DS>"), std::string::npos);
     EXPECT_TRUE(std::filesystem::is_empty(m_folder / "other"));
 }
 

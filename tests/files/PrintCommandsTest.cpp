@@ -277,8 +277,8 @@ TEST_P(PrintToFile, PutsEveryRowOnceAndInOrderOntoPaper) {
     ExpectEveryRow(GetParam().pages, GetParam().rowsPerPage);
     EXPECT_TRUE(before == LookOf(*CurrentGrid()));
     for (const PdfPage& page : PdfWords(Output())) {
-        EXPECT_NEAR(210, page.width, 0.5);
-        EXPECT_NEAR(297, page.height, 0.5);
+        EXPECT_NEAR(page.width, 210, 0.5);
+        EXPECT_NEAR(page.height, 297, 0.5);
     }
 }
 
@@ -296,8 +296,8 @@ TEST_F(PrintCommands, APageOfMemoriesIsPrintedInLandscapeWhenThePageSetupSaysSo)
     PrintPage();
     ExpectEveryRow(17, 31);
     const PdfPage page = PdfWords(Output()).front();
-    EXPECT_NEAR(297, page.width, 0.5);
-    EXPECT_NEAR(210, page.height, 0.5);
+    EXPECT_NEAR(page.width, 297, 0.5);
+    EXPECT_NEAR(page.height, 210, 0.5);
     EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE) << "as before";
 }
 
@@ -318,8 +318,8 @@ TEST_F(PrintCommands, PaperHasItsHeadingInTheStripAndTheGridBetweenTheMargins) {
             left = std::min(left, word.left);
             right = std::max(right, word.right);
         }
-        EXPECT_NEAR(15, left, 0.3) << "the title";
-        EXPECT_NEAR(195, right, 0.3) << "the page number";
+        EXPECT_NEAR(left, 15, 0.3) << "the title";
+        EXPECT_NEAR(right, 195, 0.3) << "the page number";
     }
 }
 

@@ -251,27 +251,27 @@ TEST_F(Printing, FillsTheWidthBetweenTheMarginsAndLeavesThemFree) {
     FillPage();
     const wxImage picture = Draw(1);
     const wxRect ink = WhereInk(picture, picture.GetSize());
-    EXPECT_NEAR(150, ink.GetLeft(), 3);
-    EXPECT_NEAR(1950, ink.GetRight(), 3);
-    EXPECT_NEAR(150, ink.GetTop(), 15) << "above small letters a font has room";
+    EXPECT_NEAR(ink.GetLeft(), 150, 3);
+    EXPECT_NEAR(ink.GetRight(), 1950, 3);
+    EXPECT_NEAR(ink.GetTop(), 150, 15) << "above small letters a font has room";
     EXPECT_LE(ink.GetBottom(), 2820);
     EXPECT_GE(ink.GetBottom(), 2600) << "39 rows and their head are as high as the page";
     const wxRect below = WhereInk(picture, wxRect(0, 215, Width, Height - 215));
-    EXPECT_NEAR(150, below.GetLeft(), 3) << "row labels";
+    EXPECT_NEAR(below.GetLeft(), 150, 3) << "row labels";
 }
 
 TEST_F(Printing, HeadsThePageInTheStripAboveTheGrid) {
     const wxImage picture = Draw(1);
     // The grid begins 6 mm below the margin. The space between its head and the heading's line is empty.
     const wxRect line = WhereColour(picture, wxRect(0, 150, Width, 60), Black);
-    EXPECT_NEAR(150, line.GetLeft(), 3);
-    EXPECT_NEAR(1950, line.GetRight(), 3);
+    EXPECT_NEAR(line.GetLeft(), 150, 3);
+    EXPECT_NEAR(line.GetRight(), 1950, 3);
     EXPECT_LE(line.height, 3);
     EXPECT_LT(line.GetBottom(), 205);
     const wxRect texts = WhereInk(picture, wxRect(0, 0, Width, line.GetTop()));
     EXPECT_GE(texts.GetTop(), 150);
-    EXPECT_NEAR(150, texts.GetLeft(), 6) << "the title begins at the left margin";
-    EXPECT_NEAR(1950, texts.GetRight(), 6) << "the page number ends at the right margin";
+    EXPECT_NEAR(texts.GetLeft(), 150, 6) << "the title begins at the left margin";
+    EXPECT_NEAR(texts.GetRight(), 1950, 6) << "the page number ends at the right margin";
     EXPECT_LE(texts.GetRight(), 1950);
     const wxRect gap = WhereInk(picture, wxRect(600, 150, 600, line.GetTop() - 150));
     EXPECT_TRUE(gap.IsEmpty()) << "between both";
@@ -315,7 +315,7 @@ TEST_F(Printing, PutsTheDefaultRowFirst) {
     for (const DrawnText& drawn : Trace(1))
         tops[drawn.text] = drawn.place.y;
     ASSERT_EQ(tops.count("DEFAULT"), 1u);
-    EXPECT_NEAR(63, tops["FIRST"] - tops["DEFAULT"], 2) << "one row above";
+    EXPECT_NEAR(tops["FIRST"] - tops["DEFAULT"], 63, 2) << "one row above";
     EXPECT_EQ(RowLabels(1).front(), "000");
 }
 
@@ -395,9 +395,9 @@ TEST_F(Printing, ColoursOfRowsGoOntoPaper) {
     const wxRect marked = WhereColour(picture, MarkColour), repaired = WhereColour(picture, FailColour),
                  first = WhereColour(picture, Yellow);
     EXPECT_GT(marked.width, 1600) << "from the first column to the last";
-    EXPECT_NEAR(1950, marked.GetRight(), 6);
-    EXPECT_NEAR(62, marked.height, 4) << "a row's height on paper";
-    EXPECT_NEAR(210, repaired.width, 12) << "a frequency's width on paper";
+    EXPECT_NEAR(marked.GetRight(), 1950, 6);
+    EXPECT_NEAR(marked.height, 62, 4) << "a row's height on paper";
+    EXPECT_NEAR(repaired.width, 210, 12) << "a frequency's width on paper";
     EXPECT_EQ(first.width, marked.width);
     EXPECT_NEAR(5 * 63, marked.GetTop() - first.GetTop(), 5);
     EXPECT_NEAR(2 * 63, repaired.GetTop() - marked.GetTop(), 5);

@@ -33,7 +33,7 @@ TEST_F(OpenSaveCommands, SaveAsksForANameOnceAndThenWritesWithoutAsking) {
     EXPECT_EQ(PageStrings[0].FileDir, FolderText());
     SetCell(0, DESC, "CHANGED");
     Choose(IdSave);
-    EXPECT_NE(std::string::npos, ReadFromFolder("mine.zelk").find("<DS>CHANGED</DS>"));
+    EXPECT_NE(ReadFromFolder("mine.zelk").find("<DS>CHANGED</DS>"), std::string::npos);
     EXPECT_EQ(CurrentParameters().Flags, 0) << "a save touches no flags";
 }
 
@@ -42,7 +42,7 @@ TEST_F(OpenSaveCommands, SaveAfterOpenWritesTheOpenedFile) {
     OpenByMenu("a.zelk");
     SetCell(0, DESC, "NEW");
     Choose(IdSave);
-    EXPECT_NE(std::string::npos, ReadFromFolder("a.zelk").find("<DS>NEW</DS>"));
+    EXPECT_NE(ReadFromFolder("a.zelk").find("<DS>NEW</DS>"), std::string::npos);
 }
 
 TEST_F(OpenSaveCommands, SaveAsAlwaysAsksAndStartsFromThePagesFile) {
@@ -124,7 +124,7 @@ TEST_F(OpenSaveCommands, AFileWithDotsInItsNameIsSavedBackUnderIt) {
     EXPECT_EQ(PageStrings[0].FileName, "a.b");
     Choose(IdSave);
     EXPECT_EQ(Entries(), std::vector<std::string>{"a.b.zelk"});
-    EXPECT_NE(std::string::npos, ReadFromFolder("a.b.zelk").find("<MEMORY row=\"0\">"));
+    EXPECT_NE(ReadFromFolder("a.b.zelk").find("<MEMORY row=\"0\">"), std::string::npos);
 }
 
 TEST_F(OpenSaveCommands, SaveTakesTheTextOfAnOpenEditor) {
@@ -138,7 +138,7 @@ TEST_F(OpenSaveCommands, SaveTakesTheTextOfAnOpenEditor) {
     testbench::TypeText("TYPED");
     ASSERT_TRUE(grid->IsCellEditControlShown());
     Choose(IdSave);
-    EXPECT_NE(std::string::npos, ReadFromFolder("a.zelk").find("<DS>TYPED</DS>"));
+    EXPECT_NE(ReadFromFolder("a.zelk").find("<DS>TYPED</DS>"), std::string::npos);
     EXPECT_FALSE(grid->IsCellEditControlShown());
 }
 

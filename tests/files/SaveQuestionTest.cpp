@@ -14,7 +14,7 @@ TEST_F(OpenSaveCommands, SaveAsksBeforeItReplacesAFileThatThePageDoesNotKnow) {
     EXPECT_EQ(ReadFromFolder("a.zelk"), "other");
     EXPECT_EQ(Status(0), "Select function");
     SaveOver("a.zelk", wxID_OK);
-    EXPECT_NE(std::string::npos, ReadFromFolder("a.zelk").find("<ZelkMem>"));
+    EXPECT_NE(ReadFromFolder("a.zelk").find("<ZelkMem>"), std::string::npos);
     EXPECT_EQ(Status(0), "Saved a.zelk");
     Choose(IdSave); // it now belongs to the page
 }

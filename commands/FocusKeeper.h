@@ -1,6 +1,8 @@
 // Keeps the keyboard focus over a time in which other windows take it.
 #pragma once
 
+// weakref.h needs what string.h includes, and doesn't include it itself.
+#include <wx/string.h>
 #include <wx/weakref.h>
 #include <wx/window.h>
 

@@ -168,7 +168,7 @@ void CheckScan(wxGrid* grid, int row, const wxString& text) {
         Repair(grid, row, SCAN);
 }
 
-void CheckZone(wxGrid* grid, int row, wxString text) {
+void CheckZone(wxGrid* grid, int row, const wxString& text) {
     if (DealZone(grid, row, text))
         ReplacedCells::Note(row, ZONE);
 }

@@ -44,7 +44,7 @@ int CheckBand(wxGrid* grid, int row, const wxString& text);
 void CheckScan(wxGrid* grid, int row, const wxString& text);
 
 /// Calls DealZone and notes a replaced zone. text is the name of the requested zone.
-void CheckZone(wxGrid* grid, int row, wxString text);
+void CheckZone(wxGrid* grid, int row, const wxString& text);
 
 /// Writes the description as DescriptionText returns it.
 void CheckDesc(wxGrid* grid, int row, const wxString& text);

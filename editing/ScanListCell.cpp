@@ -69,6 +69,7 @@ wxGridActivationResult ScanlistEditor::TryActivate(int row, int col, wxGrid* gri
     const int mask = GetScanMask(grid, row, col);
     int box = -1;
     if (source.GetOrigin() == wxGridActivationSource::Key) {
+        // wchar_t, no signed char. NOLINTNEXTLINE(bugprone-signed-char-misuse)
         const int key = source.GetKeyEvent().GetUnicodeKey();
         if (key >= '1' && key < '1' + Boxes)
             box = key - '1';

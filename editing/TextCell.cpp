@@ -10,6 +10,7 @@ namespace {
 
 /// Returns the character that a key press types, or a control code below 32 if it types none.
 int TypedCharacter(const wxKeyEvent& event) {
+    // wchar_t, no signed char. NOLINTNEXTLINE(bugprone-signed-char-misuse)
     if (const int character = static_cast<int>(event.GetUnicodeKey()))
         return character;
     return event.GetKeyCode() < WXK_START ? event.GetKeyCode() : WXK_NONE;

@@ -136,6 +136,7 @@ std::vector<std::string> OneNamePerDevice(std::vector<FoundPort> ports) {
     for (const FoundPort& port : ports)
         names.try_emplace(port.device, port.name);
     std::vector<std::string> list;
+    list.reserve(names.size());
     for (const auto& [device, name] : names)
         list.push_back(name);
     std::sort(list.begin(), list.end(), NaturalLess);

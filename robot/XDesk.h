@@ -6,6 +6,7 @@
 
 #include <string>
 
+// The system's own name. NOLINTNEXTLINE(bugprone-reserved-identifier)
 struct _XDisplay;
 
 namespace testbench {

@@ -1,4 +1,5 @@
 // Lines of comma-separated lists, read in both dialects without a window.
+#include "files/CellText.h"
 #include "files/CsvReader.h"
 
 #include <wx/init.h>
@@ -78,9 +79,8 @@ void CheckLines(std::string_view bytes) {
 }
 
 void CheckTexts(const CsvTexts& texts) {
-    constexpr size_t longestCellText = 256;
     for (const wxString& text : texts) {
-        Demand(text.length() <= longestCellText, "a text is too long for a cell");
+        Demand(text.length() <= LongestCellText, "a text is too long for a cell");
         Demand(text.empty() || (text[0] != ' ' && text.Last() != ' '), "a text has blanks at its ends");
     }
 }

@@ -46,8 +46,7 @@ public:
         : m_radio(Model(name, band), Quiet(habits), List(Model(name, band), memories), m_link) {}
 
     static const AnalogModel& Model(const char* name, const char* band) {
-        std::string problem;
-        return *FindAnalogModel(name, band, problem);
+        return **FindAnalogModel(name, band);
     }
 
     /// Returns what the radio says to these bytes.
@@ -69,9 +68,8 @@ private:
     static MemoryList List(const AnalogModel& model, std::initializer_list<const char*> lines) {
         MemoryList list;
         for (const char* line : lines) {
-            std::string problem;
-            const auto memory = ParseLongLine(line, model, model.rows, problem);
-            EXPECT_TRUE(memory) << line << ": " << problem;
+            const auto memory = ParseLongLine(line, model, model.rows);
+            EXPECT_TRUE(memory) << line << ": " << memory.Reason();
             list[memory->number] = *memory;
         }
         return list;

@@ -6,7 +6,7 @@ zelk_test(analog_rules_tests
 # Channel lines and the cells of a grid.
 zelk_test(analog_record_tests WINDOW SOURCES AnalogRecordTest.cpp LIBS zelk_core)
 
-# The commands of the window, and what they tell.
+# The commands of the window, and their messages.
 zelk_test(transfer_commands_tests WINDOW SOURCES TransferCommandsTest.cpp UnsentRowsTest.cpp LIBS zelk_core)
 
 # The analog driver against radios that the test plays.

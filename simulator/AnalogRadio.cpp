@@ -35,7 +35,7 @@ void AnalogRadio::Hear(std::uint8_t byte) {
         if (byte == ' ')
             SendMemories();
         else
-            m_link.Complain("the read command of this radio needs a blank behind it");
+            m_link.Complain("the read command of this radio needs a blank after it");
         return;
     case State::Command:
     case State::OpeningNumber:
@@ -134,7 +134,7 @@ void AnalogRadio::Confirm() {
 
 void AnalogRadio::TakeEndLine(const std::string& line) {
     if (line.substr(3) != std::string(EndLineBlanks, ' '))
-        m_link.Complain("end line \"" + line + "\" doesn't have 74 blanks behind its first three characters");
+        m_link.Complain("end line \"" + line + "\" doesn't have 74 blanks after its first three characters");
     m_state = State::Command;
     m_opened = false;
     if (const Failure failure = Store())

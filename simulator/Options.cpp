@@ -127,7 +127,7 @@ const std::vector<Option>& Table() {
          Switch([](Options & o) -> auto& { return o.habits.guardNames; })},
         {"all", Value::None, "", "send every memory, those without data too",
          Switch([](Options & o) -> auto& { return o.habits.allRows; })},
-        {"no-end", Value::None, "", "stop behind the last memory without an end line",
+        {"no-end", Value::None, "", "stop after the last memory without an end line",
          [](Options& o, const std::string&) {
              o.habits.endLine = false;
              return Failure();
@@ -177,7 +177,7 @@ Failure ParseOptions(const std::vector<std::string>& arguments, Options& options
                                    ? FindOption(std::string_view(argument).substr(2, equals - 2))
                                    : nullptr;
         if (!option)
-            return "unknown argument \"" + argument + "\" (--help tells more)";
+            return "unknown argument \"" + argument + "\" (see --help)";
         std::string value;
         if (equals != std::string::npos) {
             if (option->value == Value::None)

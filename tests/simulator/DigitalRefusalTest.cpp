@@ -10,7 +10,7 @@ struct Bad {
     const char* what;
     std::size_t position;
     const char* text;
-    int told = -1; ///< position that the radio reports; without it, the field's own
+    int reported = -1; ///< position that the radio reports; without it, the field's own
 };
 
 constexpr Bad BadV1[] = {
@@ -89,8 +89,8 @@ void ExpectRefused(Bench& bench, Layout layout, const DigitalModel& model, const
                    const std::string& body) {
     const auto memory = ParseMemory(layout, Framed(body), model);
     EXPECT_FALSE(memory) << bad.what;
-    const int told = bad.told < 0 ? static_cast<int>(bad.position) : bad.told;
-    EXPECT_TRUE(memory.Reason().starts_with("position " + std::to_string(told) + ": "))
+    const int reported = bad.reported < 0 ? static_cast<int>(bad.position) : bad.reported;
+    EXPECT_TRUE(memory.Reason().starts_with("position " + std::to_string(reported) + ": "))
         << bad.what << ": " << memory.Reason();
     const int before = bench.Radio().Violations();
     EXPECT_EQ(bench.Tell(Framed(body)), Said(Nak)) << bad.what;

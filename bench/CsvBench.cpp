@@ -19,6 +19,8 @@
 #include <wx/grid.h>
 #include <wx/notebook.h>
 
+#include <stdexcept>
+
 namespace {
 
 /// Pages of one type in three sizes, as in the other groups, besides the full pages of real radios.
@@ -38,9 +40,10 @@ void SelectMemories() {
 
 void ExportMemories(const wxString& path) {
     CsvExport list;
-    list.OpenCsvWrite(path, CurrentParameters().Type);
+    const bool opened = list.OpenCsvWrite(path, CurrentParameters().Type);
     list.ExportCSV(CurrentGrid(), CurrentParameters().Type);
-    list.CloseCsv();
+    if (!opened || !list.CloseCsv())
+        throw std::runtime_error("the list can't be written");
 }
 
 /// Makes a full page whose memories are selected and exported to the list.

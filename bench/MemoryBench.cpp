@@ -81,7 +81,7 @@ void RunMemory(benchmark::State& state, const std::string& command) {
         FILE* child = popen(command.c_str(), "r");
         long added = -1;
         if (!child || std::fscanf(child, "%ld", &added) != 1 || added <= 0)
-            state.SkipWithError("the memory is not told");
+            state.SkipWithError("the memory can't be read");
         if (child)
             pclose(child);
         state.counters["megabytes"] = static_cast<double>(added) / 1024;

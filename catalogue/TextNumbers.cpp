@@ -1,5 +1,7 @@
 #include "catalogue/TextNumbers.h"
 
+#include "catalogue/HexDigits.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
@@ -13,13 +15,8 @@ bool IsBlank(wchar_t c) {
 
 /// The value of a digit of the base, -1 for any other character.
 int DigitOf(wchar_t c, int base) {
-    if (c >= L'0' && c <= L'9')
-        return static_cast<int>(c - L'0');
-    if (base == 16 && c >= L'A' && c <= L'F')
-        return static_cast<int>(c - L'A') + 10;
-    if (base == 16 && c >= L'a' && c <= L'f')
-        return static_cast<int>(c - L'a') + 10;
-    return -1;
+    const int value = HexDigitValue(c);
+    return value < base ? value : -1;
 }
 
 /// Text of the value in the base, with its sign, padded with leading zeros to at least width characters.
@@ -29,7 +26,7 @@ wxString Digits(uint32_t value, bool negative, uint32_t base, int width) {
     wchar_t* const end = std::end(text);
     wchar_t* at = end;
     do
-        *--at = L"0123456789ABCDEF"[value % base];
+        *--at = HexDigit(value % base);
     while (value /= base);
     while (end - at + negative < width)
         *--at = L'0';

@@ -1,6 +1,7 @@
 #include "editing/CellChecks.h"
 
 #include "catalogue/AsciiText.h"
+#include "catalogue/HexDigits.h"
 #include "catalogue/RadioCatalogue.h"
 
 #include <algorithm>
@@ -63,18 +64,11 @@ std::optional<wxString> ModeText(const wxString& text, int type) {
     return std::nullopt;
 }
 
-namespace {
-
-bool IsHexDigit(wchar_t c) {
-    return (c >= L'0' && c <= L'9') || (c >= L'A' && c <= L'F') || (c >= L'a' && c <= L'f');
-}
-
-} // namespace
-
 std::optional<wxString> HexDigitsText(const wxString& text, size_t digits) {
     const std::wstring& wide = text.ToStdWstring();
     const size_t count = std::min(wide.length(), digits);
-    if (count == 0 || !std::all_of(wide.begin(), wide.begin() + static_cast<ptrdiff_t>(count), IsHexDigit))
+    if (count == 0 ||
+        !std::all_of(wide.begin(), wide.begin() + static_cast<ptrdiff_t>(count), IsHexDigit<wchar_t>))
         return std::nullopt;
     return count == digits ? text : wxString('0', digits - count) + text;
 }

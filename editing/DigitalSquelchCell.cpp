@@ -1,5 +1,6 @@
 #include "editing/DigitalSquelchCell.h"
 
+#include "catalogue/HexDigits.h"
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
 
@@ -42,8 +43,7 @@ void DigitalSquelchValidator::SetRange(int min, int max) {
 }
 
 bool DigitalSquelchValidator::IsValidChar(wxUniChar character) const {
-    const auto code = character.GetValue();
-    return (code >= '0' && code <= '9') || (code >= 'A' && code <= 'F') || (code >= 'a' && code <= 'f');
+    return IsHexDigit(character.GetValue());
 }
 
 DigitalSquelchEditor::DigitalSquelchEditor(int maxChars, int min, int max)

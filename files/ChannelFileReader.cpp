@@ -6,6 +6,7 @@
 #include "editing/Shadows.h"
 #include "editing/ZelkEdit.h"
 #include "editing/ZelkEditors.h"
+#include "files/CellText.h"
 #include "files/ChannelFileFields.h"
 
 #include <wx/grid.h>
@@ -17,9 +18,6 @@
 namespace ChannelFile {
 
 namespace {
-
-/// Longest text taken into a cell. No cell needs more, and drawing a very long text takes seconds.
-constexpr size_t LongestCellText = 256;
 
 /// Returns the node itself or the first element after it, null if there is none. Comments and stray texts
 /// are not elements.

@@ -33,10 +33,10 @@ struct Target {
 /// Reads the header of a document. On ReadDone, target is filled and memories is the first element
 /// after the header, or null. Otherwise returns the code of the part that is missing or not in the
 /// catalogue. A type whose family (P25 or not) differs from its radio's counts as unknown.
-int ReadHeader(const wxXmlDocument& document, Target& target, const wxXmlNode*& memories);
+[[nodiscard]] int ReadHeader(const wxXmlDocument& document, Target& target, const wxXmlNode*& memories);
 
 /// Reads memories into the grid of page (0-based, the current one), whose target must be the file's,
 /// and sets the page's editors. Returns ReadDone or OtherElement.
-int ReadMemories(const wxXmlNode* memories, int page);
+[[nodiscard]] int ReadMemories(const wxXmlNode* memories, int page);
 
 } // namespace ChannelFile

@@ -13,4 +13,4 @@ wxString ChannelFileText(int column, const wxString& text, int& number);
 
 /// Fills an empty document from the complete rows of page (0-based), which must be the current one.
 /// Returns the rows with data that were left out, ascending; row 0 may be among them.
-std::vector<int> BuildChannelFile(int page, wxXmlDocument& document);
+[[nodiscard]] std::vector<int> BuildChannelFile(int page, wxXmlDocument& document);

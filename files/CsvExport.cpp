@@ -89,5 +89,5 @@ void CsvExport::ExportCSV_KDAR(wxGrid* grid, int) {
 }
 
 bool CsvExport::CloseCsv() {
-    return !m_file.IsOpened() || !m_file.Finish(InSystemLineEnds(m_text));
+    return !m_file.IsOpened() || !m_file.Finish(InSystemLineEnds(m_text)).error;
 }

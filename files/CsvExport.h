@@ -17,7 +17,7 @@ class CsvExport {
 public:
     /// Starts the file with the heading of the radio type. On a KDAR page the banner requests a purge if
     /// TFLG of row 1 does. Returns false if a file is already open or this one can't be written.
-    bool OpenCsvWrite(const wxString& path, int type);
+    [[nodiscard]] bool OpenCsvWrite(const wxString& path, int type);
 
     /// Adds a line of the first count fields. Returns false if no file is open.
     bool WriteCsvLine(const wxArrayString& fields, size_t count);
@@ -30,7 +30,7 @@ public:
 
     /// Puts the file in its place, with the system's line ends. Returns false if it can't be written; a
     /// former file is then unchanged. Returns true if no file is open.
-    bool CloseCsv();
+    [[nodiscard]] bool CloseCsv();
 
 private:
     FileReplacement m_file;

@@ -2,6 +2,7 @@
 
 #include "catalogue/AsciiText.h"
 #include "catalogue/TextNumbers.h"
+#include "files/CellText.h"
 #include "files/CsvFields.h"
 #include "files/ImportOutcome.h"
 
@@ -13,9 +14,6 @@ using RadioCatalogue::CsvFieldTotal;
 using RadioCatalogue::CsvHeader;
 
 namespace {
-
-/// Longest text taken into a cell. No cell needs more, and drawing a very long text takes seconds.
-constexpr size_t LongestCellText = 256;
 
 bool IsLineEnd(int c) {
     return c == '\r' || c == '\n';

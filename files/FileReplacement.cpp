@@ -1,7 +1,5 @@
 #include "files/FileReplacement.h"
 
-#include "files/InPlace.h"
-
 #include <wx/file.h>
 #include <wx/filename.h>
 #include <wx/log.h>
@@ -121,10 +119,10 @@ private:
     wxFile m_file;
 };
 
-OverwriteResult Overwrite(const fs::path& path, std::string_view bytes) {
+WriteResult Overwrite(const fs::path& path, std::string_view bytes) {
     errno = 0;
     DiskBytes file(path);
-    return file.IsOpened() ? OverwriteBytes(file, bytes) : OverwriteResult{LastError()};
+    return file.IsOpened() ? OverwriteBytes(file, bytes) : WriteResult{LastError()};
 }
 
 } // namespace
@@ -183,10 +181,9 @@ std::error_code FileReplacement::Open(const wxString& path) {
     return {};
 }
 
-std::error_code FileReplacement::Finish(std::string_view bytes) {
+WriteResult FileReplacement::Finish(std::string_view bytes) {
     const wxLogNull quiet;
     const std::unique_ptr<State> state = std::move(m_state);
-    m_formerIsDamaged = false;
     if (!state->fresh.empty()) {
         const std::error_code error = state->PutInPlace(bytes);
         if (!error)
@@ -195,9 +192,7 @@ std::error_code FileReplacement::Finish(std::string_view bytes) {
         std::error_code ignored;
         // A folder may allow new files and still protect those of other users.
         if (!IsForbiddenByFolder(error) || !fs::exists(state->target, ignored))
-            return error;
+            return {error};
     }
-    const OverwriteResult result = Overwrite(state->target, bytes);
-    m_formerIsDamaged = result.damaged;
-    return result.error;
+    return Overwrite(state->target, bytes);
 }

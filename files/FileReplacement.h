@@ -1,6 +1,8 @@
 // Writes a file so that a complete one exists at all times.
 #pragma once
 
+#include "files/InPlace.h"
+
 #include <wx/string.h>
 
 #include <memory>
@@ -23,19 +25,14 @@ public:
 
     /// Starts the replacement, with an empty file next to path if the folder allows it. Returns the reason
     /// for failure, or no error.
-    std::error_code Open(const wxString& path);
+    [[nodiscard]] std::error_code Open(const wxString& path);
 
     bool IsOpened() const { return m_state != nullptr; }
 
-    /// Writes the bytes and puts the file in its place. Returns the reason for failure, or no error. Requires
-    /// IsOpened.
-    std::error_code Finish(std::string_view bytes);
-
-    /// True if the last Finish failed after overwriting the former file and could not restore it.
-    bool FormerIsDamaged() const { return m_formerIsDamaged; }
+    /// Writes the bytes and puts the file in its place. Requires IsOpened.
+    WriteResult Finish(std::string_view bytes);
 
 private:
     struct State;
     std::unique_ptr<State> m_state;
-    bool m_formerIsDamaged = false;
 };

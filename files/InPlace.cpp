@@ -44,7 +44,7 @@ private:
 
 } // namespace
 
-OverwriteResult OverwriteBytes(FileBytes& file, std::string_view bytes) {
+WriteResult OverwriteBytes(FileBytes& file, std::string_view bytes) {
     Overwriting attempt(file, bytes);
     const std::error_code error = attempt.Do();
     return {error, error && !attempt.Undo()};

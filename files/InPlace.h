@@ -14,18 +14,19 @@ public:
     /// Size of the file in bytes when it was opened.
     virtual size_t Size() const = 0;
     /// Reads the first count bytes.
-    virtual std::error_code Read(size_t count, std::string& bytes) = 0;
+    [[nodiscard]] virtual std::error_code Read(size_t count, std::string& bytes) = 0;
     /// Writes bytes from offset on. Sets done to the number of bytes written, also on failure.
-    virtual std::error_code Write(size_t offset, std::string_view bytes, size_t& done) = 0;
+    [[nodiscard]] virtual std::error_code Write(size_t offset, std::string_view bytes, size_t& done) = 0;
     /// Flushes what was written to the device.
-    virtual std::error_code Flush() = 0;
-    virtual std::error_code Resize(size_t size) = 0;
+    [[nodiscard]] virtual std::error_code Flush() = 0;
+    [[nodiscard]] virtual std::error_code Resize(size_t size) = 0;
 };
 
-struct OverwriteResult {
+/// Outcome of writing a file.
+struct [[nodiscard]] WriteResult {
     std::error_code error; ///< of the failed step; none if the file holds the new bytes
     bool damaged = false;  ///< after an error: the former bytes could not be restored
 };
 
 /// Replaces the content of the file with bytes. Undoes a failure by restoring the bytes overwritten so far.
-OverwriteResult OverwriteBytes(FileBytes& file, std::string_view bytes);
+WriteResult OverwriteBytes(FileBytes& file, std::string_view bytes);

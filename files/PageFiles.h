@@ -11,4 +11,4 @@ void AddOwnFile(int page, const wxString& path);
 
 /// True if a save of the page may write the file: it doesn't exist, it is the page's own, or the user, who
 /// is then asked, agrees to replace it.
-bool MayReplaceFile(int page, const wxString& path);
+[[nodiscard]] bool MayReplaceFile(int page, const wxString& path);

@@ -10,9 +10,9 @@ class wxXmlDocument;
 /// nested more than 64 deep, a tag with more than 64 attributes, a tag, comment or text of more
 /// than 64 KiB, a text in many pieces, a document type with its own declarations. Does not check
 /// whether the bytes are XML at all.
-bool IsHarmlessMarkup(std::string_view bytes);
+[[nodiscard]] bool IsHarmlessMarkup(std::string_view bytes);
 
 /// Parses the file into document, without texts of white space only. Returns false if it can't be
 /// read, is not a file of at most 16 MiB, isn't harmless or isn't well-formed; document is then
 /// unusable.
-bool LoadXmlFile(const wxString& path, wxXmlDocument& document);
+[[nodiscard]] bool LoadXmlFile(const wxString& path, wxXmlDocument& document);

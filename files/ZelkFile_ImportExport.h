@@ -18,7 +18,7 @@ public:
 
     /// Opens the lines of a MultiZEL file, in place of the stream that Identify left open. Returns
     /// false if they can't be read.
-    virtual bool OpenLines(const wxString& path);
+    [[nodiscard]] virtual bool OpenLines(const wxString& path);
 
     /// Reads the file, of the kind that Identify returned, into the current page. Returns the line
     /// count of its reader, 0 for a file of unknown kind.

@@ -56,13 +56,7 @@ void TakeTarget(int page, const ChannelFile::Target& target) {
     UpdateStatus(MainFrame, page);
 }
 
-/// Result of writing a page to its file.
-struct SaveResult {
-    std::error_code error;
-    bool damaged = false; ///< after an error: the former file could not be restored
-};
-
-SaveResult WriteDocument(const wxXmlDocument& document, const wxString& path) {
+WriteResult WriteDocument(const wxXmlDocument& document, const wxString& path) {
     wxMemoryOutputStream bytes;
     if (!document.Save(bytes, 2))
         return {std::make_error_code(std::errc::not_enough_memory)};
@@ -70,8 +64,7 @@ SaveResult WriteDocument(const wxXmlDocument& document, const wxString& path) {
     FileReplacement file;
     if (const auto error = file.Open(path))
         return {error};
-    const auto error = file.Finish({static_cast<const char*>(buffer->GetBufferStart()), bytes.GetSize()});
-    return {error, file.FormerIsDamaged()};
+    return file.Finish({static_cast<const char*>(buffer->GetBufferStart()), bytes.GetSize()});
 }
 
 /// File that a page is saved to.
@@ -155,7 +148,7 @@ void SaveZelkFile(int page, bool saveAs) {
     strings.FileDir = file.folder;
     strings.FileName = file.name;
 
-    const SaveResult result = WriteDocument(document, path);
+    const WriteResult result = WriteDocument(document, path);
     if (!result.error)
         AddOwnFile(page, path);
     const Outcome outcome = result.error ? NotSavedOutcome(path, result.error, result.damaged)

@@ -8,7 +8,7 @@ class wxXmlDocument;
 /// and type. Returns 0, or the code of what is missing (101 to 109). Nothing of the header is stored unless
 /// type, radio and band are all known. In every case row 0 then holds a default row and the cells have the
 /// editors of the page.
-int OpenZelkFile(const wxXmlDocument& document, int page);
+[[nodiscard]] int OpenZelkFile(const wxXmlDocument& document, int page);
 
 /// Opens the file of this name (absolute, or relative to the working folder) into the current page, as File >
 /// Open does once the user has chosen. Returns false after a message box with the reason. The page is then

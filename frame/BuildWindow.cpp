@@ -155,19 +155,17 @@ void OrvZELFrame::BuildMenus() {
 
 void OrvZELFrame::BuildContextMenu() {
     m_contextMenu = std::make_unique<wxMenu>();
-    for (size_t i = 0; i < m_contextItems.size(); ++i)
-        m_contextItems[i] =
-            new wxMenuItem(m_contextMenu.get(), ContextMenu[i].id, ContextMenu[i].label, ContextMenu[i].help);
+    for (const MenuEntry& entry : ContextMenu)
+        m_contextItems.push_back(new wxMenuItem(m_contextMenu.get(), entry.id, entry.label, entry.help));
 }
 
 void OrvZELFrame::BuildToolBar() {
     m_toolBar = new wxToolBar(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTB_RIGHT);
     m_toolBar->SetToolBitmapSize(wxSize(32, 32));
-    size_t count = 0;
     for (const ToolEntry& tool : Tools) {
         if (tool.label)
-            m_tools[count++] = m_toolBar->AddTool(tool.id, tool.label, GetToolBitmap(tool.image),
-                                                  wxNullBitmap, wxITEM_NORMAL, tool.shortHelp, tool.longHelp);
+            m_tools.push_back(m_toolBar->AddTool(tool.id, tool.label, GetToolBitmap(tool.image), wxNullBitmap,
+                                                 wxITEM_NORMAL, tool.shortHelp, tool.longHelp));
         else
             m_toolBar->AddSeparator();
     }

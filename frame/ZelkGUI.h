@@ -10,6 +10,7 @@
 
 #include <array>
 #include <memory>
+#include <vector>
 
 class wxAsyncSerial;
 class wxMenu;
@@ -86,10 +87,12 @@ public:
     wxMenuBar* m_menuBar = nullptr;
     wxMenu* m_helpMenu = nullptr;
     std::unique_ptr<wxMenu> m_contextMenu;
-    /// Entries of the context menu, created once. The menu holds those that the last click offered.
-    std::array<wxMenuItem*, 15> m_contextItems{};
+    /// Entries of the context menu, created once, in the order of their table. The menu holds those that the
+    /// last click offered.
+    std::vector<wxMenuItem*> m_contextItems;
     wxToolBar* m_toolBar = nullptr;
-    std::array<wxToolBarToolBase*, 11> m_tools{};
+    /// Tools in the order of their table, without its separators.
+    std::vector<wxToolBarToolBase*> m_tools;
     wxNotebook* m_notebook = nullptr;
     /// The panel of the page that was built last.
     wxPanel* m_lastPanel = nullptr;

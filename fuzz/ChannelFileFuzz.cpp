@@ -1,6 +1,7 @@
 // Channel files, as read by Open.
 #include "catalogue/PageModel.h"
 #include "editing/PageReset.h"
+#include "files/ChannelFileReader.h"
 #include "files/XmlFile.h"
 #include "files/ZelkFile_OpenSave.h"
 #include "fuzz/FuzzWindow.h"
@@ -10,6 +11,8 @@
 #include <wx/xml/xml.h>
 
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <string_view>
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
@@ -26,7 +29,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!document.Load(stream, "UTF-8", wxXMLDOC_NONE))
         return 0;
     ResetPage(CurrentPage);
-    OpenZelkFile(document, CurrentPage);
+    const int result = OpenZelkFile(document, CurrentPage);
+    if (result != ChannelFile::ReadDone &&
+        (result < ChannelFile::NoRoot || result > ChannelFile::OtherElement)) {
+        std::fprintf(stderr, "the reader returns %d\n", result);
+        std::abort();
+    }
     CheckFuzzPage();
     return 0;
 }

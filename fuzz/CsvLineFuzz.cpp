@@ -1,4 +1,5 @@
 // Lines of comma-separated lists, read in both dialects without a window.
+#include "files/CellText.h"
 #include "files/CsvReader.h"
 
 #include <wx/init.h>
@@ -37,7 +38,7 @@ void DemandSplitAtCommas(std::string_view line, const std::vector<std::string>& 
     const auto commas = static_cast<size_t>(std::count(line.begin(), line.end(), ','));
     Demand(fields.size() == commas + 1, "the count of fields is not that of the commas and one");
     for (const std::string& field : fields) {
-        Demand(line.starts_with(field), "a field is not what stands in the line");
+        Demand(line.starts_with(field), "a field is not the text of the line");
         line.remove_prefix(std::min(field.size() + 1, line.size()));
     }
     Demand(line.empty(), "the fields are not the whole line");
@@ -73,14 +74,13 @@ void CheckLines(std::string_view bytes) {
         else
             DemandSplitOutsideQuotes(line, fields);
     }
-    Demand(reader.IsAtEnd(), "there are lines behind the last one");
-    Demand(reader.GetLine_CSV(fields) == 1 && fields[0].empty(), "behind the end is something");
+    Demand(reader.IsAtEnd(), "there are lines after the last one");
+    Demand(reader.GetLine_CSV(fields) == 1 && fields[0].empty(), "there is a field after the end");
 }
 
 void CheckTexts(const CsvTexts& texts) {
-    constexpr size_t longestCellText = 256;
     for (const wxString& text : texts) {
-        Demand(text.length() <= longestCellText, "a text is too long for a cell");
+        Demand(text.length() <= LongestCellText, "a text is too long for a cell");
         Demand(text.empty() || (text[0] != ' ' && text.Last() != ' '), "a text has blanks at its ends");
     }
 }
@@ -91,7 +91,7 @@ void CheckData(std::string_view bytes, CsvReader::Dialect dialect) {
     if (dialect == CsvReader::Dialect::Kdar)
         reader.GetHeader_CSV();
     const bool found = reader.GetHeader_CSV();
-    Demand(found || reader.IsAtEnd(), "lines are left that are no heading");
+    Demand(found || reader.IsAtEnd(), "a line is left although no heading was found");
     for (const int32_t column : reader.CsvFieldColumn)
         Demand(column >= -1 && column < static_cast<int32_t>(bytes.size()) + 1, "a heading is in no column");
     CsvTexts texts;

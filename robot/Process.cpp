@@ -91,7 +91,7 @@ Process::Process(const std::vector<std::string>& command, const Options& options
             execvpe(argv[0], argv.data(), envp.data());
         }
         const int error = errno;
-        [[maybe_unused]] const ssize_t told = write(failure[1], &error, sizeof error);
+        [[maybe_unused]] const ssize_t written = write(failure[1], &error, sizeof error);
         _exit(127);
     }
     close(input[1]);

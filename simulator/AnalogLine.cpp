@@ -108,16 +108,12 @@ std::string CommonPart(const AnalogMemory& memory, std::string_view numberField)
 
 } // namespace
 
-std::optional<AnalogMemory> ParseLongLine(std::string_view line, const AnalogModel& model, int highest,
-                                          std::string& problem) {
-    const auto Refuse = [&problem](int position, const std::string& why) {
-        problem = "position " + std::to_string(position) + ": " + why;
-        return std::nullopt;
+Result<AnalogMemory> ParseLongLine(std::string_view line, const AnalogModel& model, int highest) {
+    const auto Refuse = [](int position, const std::string& reason) {
+        return Refusal{"position " + std::to_string(position) + ": " + reason};
     };
-    if (line.size() != LongLineLength) {
-        problem = "length is " + std::to_string(line.size()) + ", not 76";
-        return std::nullopt;
-    }
+    if (line.size() != LongLineLength)
+        return Refusal{"length is " + std::to_string(line.size()) + ", not 76"};
     for (const Literal& label : Labels)
         if (line.substr(label.position, label.text.size()) != label.text)
             return Refuse(label.position, "expected \"" + std::string(label.text) + "\"");

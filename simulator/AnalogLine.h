@@ -2,8 +2,8 @@
 #pragma once
 
 #include "simulator/AnalogModels.h"
+#include "simulator/Result.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -29,10 +29,9 @@ struct AnalogMemory {
 constexpr int LongLineLength = 76;
 
 /// Reads a line of the long form, without its carriage return. Refuses whatever a radio of `model` couldn't
-/// take: numbers outside 1 to `highest`, frequencies out of band, unknown codes, shifted columns. On refusal
-/// returns nothing and puts the wrong position and the reason into `problem`.
-std::optional<AnalogMemory> ParseLongLine(std::string_view line, const AnalogModel& model, int highest,
-                                          std::string& problem);
+/// take: numbers outside 1 to `highest`, frequencies out of band, unknown codes, shifted columns. The reason
+/// names the wrong position.
+Result<AnalogMemory> ParseLongLine(std::string_view line, const AnalogModel& model, int highest);
 
 /// Returns the long form, 76 characters without a line end. `numberField` becomes the first three.
 std::string FormatLongLine(const AnalogMemory& memory, std::string_view numberField);

@@ -55,7 +55,7 @@ std::span<const AnalogModel> AnalogModels() {
     return Models;
 }
 
-const AnalogModel* FindAnalogModel(std::string_view name, std::string_view band, std::string& problem) {
+Result<const AnalogModel*> FindAnalogModel(std::string_view name, std::string_view band) {
     const AnalogModel* found = nullptr;
     std::string offered;
     int bands = 0;
@@ -67,15 +67,11 @@ const AnalogModel* FindAnalogModel(std::string_view name, std::string_view band,
         if (band.empty() || model.band == band)
             found = &model;
     }
-    if (bands == 0) {
-        problem = "no analog radio is called \"" + std::string(name) + "\" (--list names them all)";
-        return nullptr;
-    }
-    if (!found || (band.empty() && bands > 1)) {
-        problem = std::string(name) + (band.empty() ? " has several bands" : " has no such band") +
-                  ", say one of " + offered + ", as in --model \"" + std::string(name) + ":BAND\"";
-        return nullptr;
-    }
+    if (bands == 0)
+        return Refusal{"no analog radio is called \"" + std::string(name) + "\" (--list names them all)"};
+    if (!found || (band.empty() && bands > 1))
+        return Refusal{std::string(name) + (band.empty() ? " has several bands" : " has no such band") +
+                       ", say one of " + offered + ", as in --model \"" + std::string(name) + ":BAND\""};
     return found;
 }
 

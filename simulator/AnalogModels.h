@@ -1,6 +1,8 @@
 // Analog radios that can be simulated, with the facts of the radio's side.
 #pragma once
 
+#include "simulator/Result.h"
+
 #include <array>
 #include <span>
 #include <string>
@@ -32,8 +34,8 @@ struct AnalogModel {
 std::span<const AnalogModel> AnalogModels();
 
 /// Finds the model by its exact name and band. An empty `band` selects the only band of a single-band
-/// radio. Returns nullptr and puts a sentence into `problem` if none matches.
-const AnalogModel* FindAnalogModel(std::string_view name, std::string_view band, std::string& problem);
+/// radio.
+Result<const AnalogModel*> FindAnalogModel(std::string_view name, std::string_view band);
 
 /// True if the last two memories are guards: such models have a number of rows that ends in 2.
 bool HasGuards(const AnalogModel& model);

@@ -35,7 +35,7 @@ void AnalogRadio::Hear(std::uint8_t byte) {
         if (byte == ' ')
             SendMemories();
         else
-            m_link.Complain("the read command of this radio needs a blank behind it");
+            m_link.Complain("the read command of this radio needs a blank after it");
         return;
     case State::Command:
     case State::OpeningNumber:
@@ -117,10 +117,9 @@ void AnalogRadio::TakeLine(const std::string& line) {
         TakeEndLine(line);
         return;
     }
-    std::string problem;
-    const auto memory = ParseLongLine(line, m_model, m_reach, problem);
+    const auto memory = ParseLongLine(line, m_model, m_reach);
     if (!memory) {
-        m_link.Complain("refused \"" + line + "\": " + problem);
+        m_link.Complain("refused \"" + line + "\": " + memory.Reason());
         return;
     }
     m_memories[memory->number] = *memory;
@@ -135,12 +134,11 @@ void AnalogRadio::Confirm() {
 
 void AnalogRadio::TakeEndLine(const std::string& line) {
     if (line.substr(3) != std::string(EndLineBlanks, ' '))
-        m_link.Complain("end line \"" + line + "\" doesn't have 74 blanks behind its first three characters");
+        m_link.Complain("end line \"" + line + "\" doesn't have 74 blanks after its first three characters");
     m_state = State::Command;
     m_opened = false;
-    std::string problem;
-    if (!Store(problem))
-        m_link.Complain(problem);
+    if (const Failure failure = Store())
+        m_link.Complain(*failure);
     m_link.EndTransfer();
 }
 
@@ -197,13 +195,13 @@ void AnalogRadio::PortClosed() {
     m_opened = false;
 }
 
-bool AnalogRadio::Store(std::string& problem) {
+Failure AnalogRadio::Store() {
     if (m_habits.memoryFile.empty() || !m_changed)
-        return true;
-    if (!SaveMemories(m_habits.memoryFile, m_model, m_memories, problem))
-        return false;
+        return {};
+    if (const Failure failure = SaveMemories(m_habits.memoryFile, m_model, m_memories))
+        return failure;
     m_changed = false;
-    return true;
+    return {};
 }
 
 } // namespace Simulator

@@ -39,7 +39,7 @@ public:
     void Hear(std::uint8_t byte) override;
     bool IsAtRest() const override;
     void PortClosed() override;
-    bool Store(std::string& problem) override;
+    Failure Store() override;
 
     const MemoryList& Memories() const { return m_memories; }
 

@@ -42,77 +42,74 @@ std::string Unused(int entries) {
 
 } // namespace
 
-bool IsRecordText(std::string_view text, std::string& problem) {
+Failure CheckRecordText(std::string_view text) {
     if (text.size() > LongestText)
-        problem = "is longer than 252 characters";
-    else if (std::any_of(text.begin(), text.end(), [](char c) { return c < ' ' || c > '~'; }))
-        problem = "holds a character that can't be shown";
-    else
-        return true;
-    return false;
+        return "is longer than 252 characters";
+    if (std::any_of(text.begin(), text.end(), [](char c) { return c < ' ' || c > '~'; }))
+        return "holds a character that can't be shown";
+    return {};
 }
 
 std::vector<std::string> DefaultHardware() {
     return {"Main board: rev C", "RF main: 136-174 MHz", "RF guard: 136-174 MHz", "Bootloader: 1.04"};
 }
 
-bool LoadHardware(const std::string& path, std::vector<std::string>& lines, std::string& problem) {
+Failure LoadHardware(const std::string& path, std::vector<std::string>& lines) {
     std::vector<std::string> read;
-    const auto Take = [&read](const std::string& line, std::string& why) {
+    const auto Take = [&read](const std::string& line) {
         read.push_back(line);
-        return IsRecordText(line, why);
+        return CheckRecordText(line);
     };
-    if (!ReadLines(path, Missing::IsError, Take, problem))
-        return false;
+    if (const Failure failure = ReadLines(path, Missing::IsError, Take))
+        return failure;
     lines = std::move(read);
-    return true;
+    return {};
 }
 
 std::vector<std::string> DefaultConfig() {
     return {"C:00:01020304:10:20:C5:SQUELCH", "C:01:FF:00:00:00:BACKLIGHT", "C:02:80:40:20:1F:SIDETONE"};
 }
 
-bool IsGoodConfig(std::string_view line, std::string& problem) {
+Failure CheckConfig(std::string_view line) {
     const std::vector<std::string> fields = ConfigFields(line);
-    if (fields.size() < 6) {
-        problem = "has fewer than 6 fields";
-        return false;
-    }
+    if (fields.size() < 6)
+        return "has fewer than 6 fields";
     long sum = 1;
     for (std::size_t k = 2; k <= 5; ++k) {
-        if (fields[k].size() % 2 != 0 || !IsHex(fields[k])) {
-            problem = "field " + std::to_string(k) + " is not made of bytes in hexadecimal";
-            return false;
-        }
+        if (fields[k].size() % 2 != 0 || !IsHex(fields[k]))
+            return "field " + std::to_string(k) + " is not made of bytes in hexadecimal";
         for (std::size_t at = 0; at < fields[k].size(); at += 2)
             sum += HexValue(std::string_view(fields[k]).substr(at, 2));
     }
     if (sum % 256 != 0)
-        problem = "bytes of fields 2 to 5 and 1 add up to " + std::to_string(sum) + ", no multiple of 256";
-    return sum % 256 == 0;
+        return "bytes of fields 2 to 5 and 1 add up to " + std::to_string(sum) + ", no multiple of 256";
+    return {};
 }
 
-bool LoadConfig(const std::string& path, std::vector<std::string>& lines, std::string& problem) {
+Failure LoadConfig(const std::string& path, std::vector<std::string>& lines) {
     std::vector<std::string> read;
     bool exists = false;
-    const auto Take = [&](const std::string& line, std::string& why) {
+    const auto Take = [&](const std::string& line) -> Failure {
         exists = true;
         read.push_back(line);
-        why = "more than 255 lines";
-        return read.size() <= MostConfigLines && IsRecordText(line, why) && IsGoodConfig(line, why);
+        if (read.size() > MostConfigLines)
+            return "more than 255 lines";
+        if (const Failure failure = CheckRecordText(line))
+            return failure;
+        return CheckConfig(line);
     };
-    if (!ReadLines(path, Missing::IsEmpty, Take, problem))
-        return false;
+    if (const Failure failure = ReadLines(path, Missing::IsEmpty, Take))
+        return failure;
     if (exists)
         lines = std::move(read);
-    return true;
+    return {};
 }
 
-bool SaveConfig(const std::string& path, const std::vector<std::string>& lines, std::string& problem) {
+Failure SaveConfig(const std::string& path, const std::vector<std::string>& lines) {
     std::string text;
     for (const std::string& line : lines)
         text += line + "\n";
-    return WriteTextFile(path, text, problem);
+    return WriteTextFile(path, text);
 }
 
 std::string TextRecord(std::string_view text) {
@@ -135,28 +132,28 @@ std::vector<std::string> DefaultLog(int protocol) {
             LogRecord("2020", HexOfText(", 12.6 V") + "03" + HexOfText("AT") + "05" + "CFCB")};
 }
 
-bool LoadLog(const std::string& path, std::vector<std::string>& records, std::string& problem) {
+Failure LoadLog(const std::string& path, std::vector<std::string>& records) {
     std::vector<std::string> read;
-    const auto Take = [&read](const std::string& line, std::string& why) {
+    const auto Take = [&read](const std::string& line) -> Failure {
         if (line.starts_with("T1")) {
             read.push_back(line);
-            why = "no upper-case hexadecimal digits";
-            return IsHex(line.substr(1)) && ParseRecord(WithChecksum(line), why).has_value();
+            if (!IsHex(line.substr(1)))
+                return "no upper-case hexadecimal digits";
+            const auto record = ParseRecord(WithChecksum(line));
+            return record ? Failure() : record.Reason();
         }
         const bool parted = line.size() > 5 && line[4] == ' ';
         const std::string data = parted ? line.substr(5) : "";
         if (!parted || !IsHex(line.substr(0, 4)) || !IsHex(data) || data.size() % 2 != 0 ||
-            data.size() > LongestLogData) {
-            why = "neither a record nor an address of four digits, a blank and bytes in hexadecimal";
-            return false;
-        }
+            data.size() > LongestLogData)
+            return "neither a record nor an address of four digits, a blank and bytes in hexadecimal";
         read.push_back(LogRecord(line.substr(0, 4), data));
-        return true;
+        return {};
     };
-    if (!ReadLines(path, Missing::IsError, Take, problem))
-        return false;
+    if (const Failure failure = ReadLines(path, Missing::IsError, Take))
+        return failure;
     records = std::move(read);
-    return true;
+    return {};
 }
 
 } // namespace Simulator

@@ -4,13 +4,11 @@
 
 namespace Simulator {
 
-std::optional<DigitalMemory> ParseMemory(Layout layout, std::string_view line, const DigitalModel& model,
-                                         std::string& problem) {
-    const auto record = ParseRecord(line, problem);
-    if (!record)
-        return std::nullopt;
+Result<DigitalMemory> ParseMemory(Layout layout, std::string_view line, const DigitalModel& model) {
+    if (const auto record = ParseRecord(line); !record)
+        return Refusal{record.Reason()};
     const std::string_view body = line.substr(0, line.size() - 2);
-    return layout == Layout::V1 ? ParseMemoryV1(body, model, problem) : ParseMemoryV2(body, model, problem);
+    return layout == Layout::V1 ? ParseMemoryV1(body, model) : ParseMemoryV2(body, model);
 }
 
 std::string FormatMemory(Layout layout, const DigitalMemory& memory, const ShadowSlots& shadows,

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "simulator/DigitalModels.h"
+#include "simulator/Result.h"
 
 #include <array>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -45,9 +45,8 @@ using DigitalMemoryList = std::map<int, DigitalMemory>;
 using ShadowSlots = std::array<int, 7>;
 
 /// Reads a memory record with its checksum. Refuses whatever the program must not send: a broken frame,
-/// fields out of range, missing literals. On refusal returns nothing and puts the reason into `problem`.
-std::optional<DigitalMemory> ParseMemory(Layout layout, std::string_view line, const DigitalModel& model,
-                                         std::string& problem);
+/// fields out of range, missing literals.
+Result<DigitalMemory> ParseMemory(Layout layout, std::string_view line, const DigitalModel& model);
 
 /// Returns the record with its checksum. Empty if the layout has no number for the memory or can't hold it.
 std::string FormatMemory(Layout layout, const DigitalMemory& memory, const ShadowSlots& shadows,
@@ -57,10 +56,8 @@ std::string FormatMemory(Layout layout, const DigitalMemory& memory, const Shado
 ShadowSlots ShadowsOf(const DigitalMemory& primary, const DigitalMemoryList& memories);
 
 // The two layouts. Bodies come without their checksums, which ParseMemory has checked.
-std::optional<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalModel& model,
-                                           std::string& problem);
-std::optional<DigitalMemory> ParseMemoryV2(std::string_view body, const DigitalModel& model,
-                                           std::string& problem);
+Result<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalModel& model);
+Result<DigitalMemory> ParseMemoryV2(std::string_view body, const DigitalModel& model);
 std::string FormatMemoryV1(const DigitalMemory& memory, const ShadowSlots& shadows,
                            const DigitalModel& model);
 std::string FormatMemoryV2(const DigitalMemory& memory, const ShadowSlots& shadows);

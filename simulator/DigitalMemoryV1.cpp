@@ -40,13 +40,10 @@ unsigned long Byte(int value) {
 
 } // namespace
 
-std::optional<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalModel& model,
-                                           std::string& problem) {
+Result<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalModel& model) {
     RecordFields fields(body);
-    if (body.size() != LengthV1) {
-        problem = "length is " + std::to_string(body.size() + 2) + ", not 138";
-        return std::nullopt;
-    }
+    if (body.size() != LengthV1)
+        return Refusal{"length is " + std::to_string(body.size() + 2) + ", not 138"};
     DigitalMemory memory;
     fields.Literal(0, "T143", "head");
     const int wire = static_cast<int>(fields.Number(4, 4, 0, HighestV1, "address"));
@@ -86,10 +83,9 @@ std::optional<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalM
     fields.Zeros(124, 4, "reserved field");
     memory.flags = static_cast<int>((low & ~GuardMark) | fields.Number(128, 2, 0, 3, "high flags") << 8);
     fields.Zeros(130, 6, "reserved field");
-    if (fields.IsGood())
-        return memory;
-    problem = fields.Problem();
-    return std::nullopt;
+    if (const Failure& failure = fields.FirstFailure())
+        return Refusal{*failure};
+    return memory;
 }
 
 std::string FormatMemoryV1(const DigitalMemory& memory, const ShadowSlots& shadows,

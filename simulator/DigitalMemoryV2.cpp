@@ -17,13 +17,10 @@ unsigned long Word(long value) {
 
 } // namespace
 
-std::optional<DigitalMemory> ParseMemoryV2(std::string_view body, const DigitalModel& model,
-                                           std::string& problem) {
+Result<DigitalMemory> ParseMemoryV2(std::string_view body, const DigitalModel& model) {
     RecordFields fields(body);
-    if (body.size() != LengthV2) {
-        problem = "length is " + std::to_string(body.size() + 2) + ", not 138";
-        return std::nullopt;
-    }
+    if (body.size() != LengthV2)
+        return Refusal{"length is " + std::to_string(body.size() + 2) + ", not 138"};
     DigitalMemory memory;
     fields.Literal(0, "T143", "head");
     memory.address = static_cast<int>(fields.Number(4, 4, 0, model.highest, "address"));
@@ -54,10 +51,9 @@ std::optional<DigitalMemory> ParseMemoryV2(std::string_view body, const DigitalM
     memory.txId = fields.Number(92, 8, 0, 9'999'999, "transmit ID");
     fields.Zeros(100, 28, "shadows");
     fields.Zeros(128, 8, "reserved field");
-    if (fields.IsGood())
-        return memory;
-    problem = fields.Problem();
-    return std::nullopt;
+    if (const Failure& failure = fields.FirstFailure())
+        return Refusal{*failure};
+    return memory;
 }
 
 std::string FormatMemoryV2(const DigitalMemory& memory, const ShadowSlots& shadows) {

@@ -8,73 +8,71 @@ namespace Simulator {
 
 namespace {
 
-bool Refuse(const std::string& value, const char* what, std::string& problem) {
-    problem = "\"" + value + "\" is no " + what;
-    return false;
+std::string IsNo(const std::string& value, const char* what) {
+    return "\"" + value + "\" is no " + what;
 }
 
 } // namespace
 
-bool TakeProtocol(const std::string& value, DigitalOptions& options, std::string& problem) {
+Failure TakeProtocol(const std::string& value, DigitalOptions& options) {
     if (value != "0" && value != "1" && value != "2")
-        return Refuse(value, "transfer protocol: say 0, 1 or 2", problem);
+        return IsNo(value, "transfer protocol: say 0, 1 or 2");
     options.protocol = value[0] - '0';
-    return true;
+    return {};
 }
 
-bool TakeFirmware(const std::string& value, DigitalOptions& options, std::string& problem) {
+Failure TakeFirmware(const std::string& value, DigitalOptions& options) {
     if (value.size() != 6 || !IsHex(value))
-        return Refuse(value, "firmware version of six hexadecimal digits, such as 020103", problem);
+        return IsNo(value, "firmware version of six hexadecimal digits, such as 020103");
     options.firmware = value;
-    return true;
+    return {};
 }
 
-bool TakeModes(const std::string& value, DigitalOptions& options, std::string& problem) {
+Failure TakeModes(const std::string& value, DigitalOptions& options) {
     if (value.size() > 2 || HexValue(value) < 0)
-        return Refuse(value, "byte of operating modes in hexadecimal, such as 70", problem);
+        return IsNo(value, "byte of operating modes in hexadecimal, such as 70");
     options.habits.modes = static_cast<int>(HexValue(value));
-    return true;
+    return {};
 }
 
-bool TakeStamp(const std::string& value, DigitalOptions& options, std::string& problem) {
+Failure TakeStamp(const std::string& value, DigitalOptions& options) {
     if (value.size() != 14 || value.find_first_not_of("0123456789") != std::string::npos)
-        return Refuse(value, "stamp of 14 digits", problem);
+        return IsNo(value, "stamp of 14 digits");
     options.habits.stamp = value;
-    return true;
+    return {};
 }
 
-bool TakeSerial(const std::string& value, DigitalOptions& options, std::string& problem) {
-    std::string why;
-    if (value.empty() || !IsRecordText(value, why))
-        return Refuse(value, "serial number of 1 to 252 printable characters", problem);
+Failure TakeSerial(const std::string& value, DigitalOptions& options) {
+    if (value.empty() || CheckRecordText(value))
+        return IsNo(value, "serial number of 1 to 252 printable characters");
     options.habits.serial = value;
-    return true;
+    return {};
 }
 
-bool CompleteHabits(const DigitalModel& model, DigitalOptions& options, std::string& problem) {
+Failure CompleteHabits(const DigitalModel& model, DigitalOptions& options) {
     options.habits.protocol = options.protocol.value_or(model.protocol);
     options.habits.firmware = options.firmware.empty() ? std::string(model.firmware) : options.firmware;
     const Layout layout = LayoutOf(options.habits.protocol, options.habits.firmware);
     if (layout == Layout::V1 ? model.knowsV1 : model.knowsV2)
-        return true;
-    problem = std::string(model.name) + " knows no " + (layout == Layout::V1 ? "V1" : "V2") +
-              " records, to which protocol " + std::to_string(options.habits.protocol) + " with firmware " +
-              options.habits.firmware + " leads";
-    return false;
+        return {};
+    return std::string(model.name) + " knows no " + (layout == Layout::V1 ? "V1" : "V2") +
+           " records, to which protocol " + std::to_string(options.habits.protocol) + " with firmware " +
+           options.habits.firmware + " leads";
 }
 
-bool LoadContents(const DigitalModel& model, const DigitalOptions& options, DigitalContents& contents,
-                  std::string& problem) {
+Failure LoadContents(const DigitalModel& model, const DigitalOptions& options, DigitalContents& contents) {
     const DigitalHabits& habits = options.habits;
-    if (!habits.memoryFile.empty() &&
-        !LoadDigitalMemories(habits.memoryFile, model, contents.memories, problem))
-        return false;
-    if (!habits.configFile.empty() && !LoadConfig(habits.configFile, contents.config, problem))
-        return false;
-    if (!options.hardwareFile.empty() && !LoadHardware(options.hardwareFile, contents.hardware, problem))
-        return false;
+    Failure failure;
+    if (!habits.memoryFile.empty())
+        failure = LoadDigitalMemories(habits.memoryFile, model, contents.memories);
+    if (!failure && !habits.configFile.empty())
+        failure = LoadConfig(habits.configFile, contents.config);
+    if (!failure && !options.hardwareFile.empty())
+        failure = LoadHardware(options.hardwareFile, contents.hardware);
     contents.log = DefaultLog(habits.protocol);
-    return options.logFile.empty() || LoadLog(options.logFile, contents.log, problem);
+    if (!failure && !options.logFile.empty())
+        failure = LoadLog(options.logFile, contents.log);
+    return failure;
 }
 
 std::string ListLine(const DigitalModel& model) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "simulator/DigitalRadio.h"
+#include "simulator/Result.h"
 
 #include <optional>
 #include <string>
@@ -17,20 +18,20 @@ struct DigitalOptions {
     std::string logFile; ///< of the debug log
 };
 
-// Each reads the value of one option. If it is invalid, returns false and puts a sentence into `problem`.
-bool TakeProtocol(const std::string& value, DigitalOptions& options, std::string& problem);
-bool TakeFirmware(const std::string& value, DigitalOptions& options, std::string& problem);
-bool TakeModes(const std::string& value, DigitalOptions& options, std::string& problem);
-bool TakeStamp(const std::string& value, DigitalOptions& options, std::string& problem);
-bool TakeSerial(const std::string& value, DigitalOptions& options, std::string& problem);
+// Each reads the value of one option.
+[[nodiscard]] Failure TakeProtocol(const std::string& value, DigitalOptions& options);
+[[nodiscard]] Failure TakeFirmware(const std::string& value, DigitalOptions& options);
+[[nodiscard]] Failure TakeModes(const std::string& value, DigitalOptions& options);
+[[nodiscard]] Failure TakeStamp(const std::string& value, DigitalOptions& options);
+[[nodiscard]] Failure TakeSerial(const std::string& value, DigitalOptions& options);
 
-/// Sets missing options to the model's defaults. If the model doesn't support the record layout that results
-/// from protocol and firmware, returns false and puts a sentence into `problem`.
-bool CompleteHabits(const DigitalModel& model, DigitalOptions& options, std::string& problem);
+/// Sets missing options to the model's defaults. Fails if the model doesn't support the record layout that
+/// results from protocol and firmware.
+[[nodiscard]] Failure CompleteHabits(const DigitalModel& model, DigitalOptions& options);
 
-/// Reads all files named by the options. On failure returns false and puts the reason into `problem`.
-bool LoadContents(const DigitalModel& model, const DigitalOptions& options, DigitalContents& contents,
-                  std::string& problem);
+/// Reads all files named by the options.
+[[nodiscard]] Failure LoadContents(const DigitalModel& model, const DigitalOptions& options,
+                                   DigitalContents& contents);
 
 /// One line of --list.
 std::string ListLine(const DigitalModel& model);

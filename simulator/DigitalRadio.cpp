@@ -46,10 +46,9 @@ bool DigitalRadio::FitsSpeed() {
 }
 
 void DigitalRadio::TakeLine(const std::string& line) {
-    std::string problem;
-    const auto record = ParseRecord(line, problem);
+    const auto record = ParseRecord(line);
     if (!record) {
-        Refuse("\"" + line + "\" " + problem);
+        Refuse("\"" + line + "\" " + record.Reason());
         return;
     }
     switch (record->type) {
@@ -121,10 +120,9 @@ void DigitalRadio::TakeData(const HexRecord& record, const std::string& line) {
 }
 
 void DigitalRadio::TakeMemory(const std::string& line) {
-    std::string problem;
-    const auto memory = ParseMemory(m_layout, line, m_model, problem);
+    const auto memory = ParseMemory(m_layout, line, m_model);
     if (!memory) {
-        Refuse("\"" + line + "\": " + problem);
+        Refuse("\"" + line + "\": " + memory.Reason());
         return;
     }
     switch (m_replies.NextInstead()) {
@@ -145,15 +143,19 @@ void DigitalRadio::TakeMemory(const std::string& line) {
 
 void DigitalRadio::TakeConfig(const HexRecord& record) {
     const std::string text(record.data.begin(), record.data.end());
-    std::string problem;
+    Failure failure;
     if (record.address != 0)
-        problem = "has an address";
-    else if (IsRecordText(text, problem) && IsGoodConfig(text, problem)) {
-        m_newConfig.push_back(text);
-        m_replies.SayAck();
+        failure = "has an address";
+    if (!failure)
+        failure = CheckRecordText(text);
+    if (!failure)
+        failure = CheckConfig(text);
+    if (failure) {
+        Refuse("configuration \"" + text + "\" " + *failure);
         return;
     }
-    Refuse("configuration \"" + text + "\" " + problem);
+    m_newConfig.push_back(text);
+    m_replies.SayAck();
 }
 
 void DigitalRadio::BeginList(List list, std::vector<std::string> bodies) {
@@ -247,23 +249,23 @@ void DigitalRadio::PortClosed() {
 }
 
 void DigitalRadio::Keep() {
-    std::string problem;
-    if (!Store(problem))
-        m_link.Complain(problem);
+    if (const Failure failure = Store())
+        m_link.Complain(*failure);
 }
 
-bool DigitalRadio::Store(std::string& problem) {
+Failure DigitalRadio::Store() {
     if (m_changed && !m_habits.memoryFile.empty()) {
-        if (!SaveDigitalMemories(m_habits.memoryFile, m_model, m_layout, m_contents.memories, problem))
-            return false;
+        if (const Failure failure =
+                SaveDigitalMemories(m_habits.memoryFile, m_model, m_layout, m_contents.memories))
+            return failure;
         m_changed = false;
     }
     if (m_configChanged && !m_habits.configFile.empty()) {
-        if (!SaveConfig(m_habits.configFile, m_contents.config, problem))
-            return false;
+        if (const Failure failure = SaveConfig(m_habits.configFile, m_contents.config))
+            return failure;
         m_configChanged = false;
     }
-    return true;
+    return {};
 }
 
 } // namespace Simulator

@@ -42,7 +42,7 @@ public:
     bool IsAtRest() const override;
     bool BeginsAnew(std::string_view bytes) const override;
     void PortClosed() override;
-    bool Store(std::string& problem) override;
+    Failure Store() override;
     int Violations() const override { return m_violations; }
 
     const DigitalMemoryList& Memories() const { return m_contents.memories; }

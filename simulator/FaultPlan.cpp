@@ -63,7 +63,7 @@ int PositiveNumber(std::string_view text) {
 
 } // namespace
 
-std::optional<Fault> ParseFault(std::string_view text, std::string& problem) {
+Result<Fault> ParseFault(std::string_view text) {
     const std::size_t at = text.find('@');
     const std::string_view name = text.substr(0, at);
     for (const KindName& entry : Kinds) {
@@ -77,9 +77,8 @@ std::optional<Fault> ParseFault(std::string_view text, std::string& problem) {
             break;
         return Fault{entry.kind, answer, transfer};
     }
-    problem = "\"" + std::string(text) +
-              "\" is no fault: say KIND@N or KIND@N/T with N and T from 1; kinds are " + FaultNames();
-    return std::nullopt;
+    return Refusal{"\"" + std::string(text) +
+                   "\" is no fault: say KIND@N or KIND@N/T with N and T from 1; kinds are " + FaultNames()};
 }
 
 std::string FaultNames() {

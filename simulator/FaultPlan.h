@@ -1,7 +1,8 @@
 // Faults that a simulated radio is asked to play.
 #pragma once
 
-#include <optional>
+#include "simulator/Result.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,9 +38,8 @@ struct Fault {
     int transfer = 0; ///< counted from 1 over the life of the process; 0: in every transfer
 };
 
-/// Reads "KIND@N" or "KIND@N/T" (only in transfer T). For anything else returns nothing and puts a sentence
-/// into `problem`.
-std::optional<Fault> ParseFault(std::string_view text, std::string& problem);
+/// Reads "KIND@N" or "KIND@N/T" (only in transfer T).
+Result<Fault> ParseFault(std::string_view text);
 
 /// Names of all kinds as ParseFault reads them, separated by commas.
 std::string FaultNames();

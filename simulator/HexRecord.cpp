@@ -40,36 +40,32 @@ std::string WithChecksum(std::string_view body) {
     return std::string(body) + Hex(Checksum(body), 2);
 }
 
-std::optional<HexRecord> ParseRecord(std::string_view line, std::string& problem) {
-    const auto Refuse = [&problem](const std::string& why) {
-        problem = why;
-        return std::nullopt;
-    };
+Result<HexRecord> ParseRecord(std::string_view line) {
     if (!line.starts_with('T'))
-        return Refuse("doesn't begin with T");
+        return Refusal{"doesn't begin with T"};
     if (line.size() < 10)
-        return Refuse("is too short for a record");
+        return Refusal{"is too short for a record"};
     if (line[1] != '0' && line[1] != '1' && line[1] != '2' && line[1] != '9')
-        return Refuse("type is none of 0, 1, 2, 9");
+        return Refusal{"type is none of 0, 1, 2, 9"};
     for (std::size_t k = 2; k < line.size(); ++k)
         if (!IsHex(line.substr(k, 1)))
-            return Refuse("position " + std::to_string(k) + ": no upper-case hexadecimal digit");
+            return Refusal{"position " + std::to_string(k) + ": no upper-case hexadecimal digit"};
     if (line.size() % 2 != 0)
-        return Refuse("holds half a byte");
+        return Refusal{"holds half a byte"};
     const auto count = static_cast<std::size_t>(HexValue(line.substr(2, 2)));
     if (line.size() != 4 + 2 * count)
-        return Refuse("count is " + std::to_string(count) + ", but " + std::to_string((line.size() - 4) / 2) +
-                      " bytes follow");
+        return Refusal{"count is " + std::to_string(count) + ", but " +
+                       std::to_string((line.size() - 4) / 2) + " bytes follow"};
     const std::string_view body = line.substr(0, line.size() - 2);
     if (WithChecksum(body) != line)
-        return Refuse("checksum is " + std::string(line.substr(body.size())) + ", not " +
-                      Hex(Checksum(body), 2));
+        return Refusal{"checksum is " + std::string(line.substr(body.size())) + ", not " +
+                       Hex(Checksum(body), 2)};
     HexRecord record{
         static_cast<HexRecord::Type>(line[1] - '0'), static_cast<int>(HexValue(line.substr(4, 4))), {}};
     for (std::size_t k = 8; k < body.size(); k += 2)
         record.data.push_back(static_cast<std::uint8_t>(HexValue(body.substr(k, 2))));
     if (record.data.empty() != (record.type == HexRecord::Type::End))
-        return Refuse(record.data.empty() ? "holds no data" : "an end record holds no data");
+        return Refusal{record.data.empty() ? "holds no data" : "an end record holds no data"};
     return record;
 }
 

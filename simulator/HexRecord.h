@@ -1,8 +1,9 @@
 // Lines of the digital radios: type, count, address, data and checksum in upper-case hexadecimal.
 #pragma once
 
+#include "simulator/Result.h"
+
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,8 +23,8 @@ struct HexRecord {
 constexpr std::size_t LongestRecord = 4 + 2 * 255;
 
 /// Reads a line without its carriage return. Checks first letter, type, upper case, count against the length,
-/// and checksum. If one is wrong, returns nothing and puts the reason into `problem`.
-std::optional<HexRecord> ParseRecord(std::string_view line, std::string& problem);
+/// and checksum.
+Result<HexRecord> ParseRecord(std::string_view line);
 
 /// Returns the line with count and checksum, without a line end.
 std::string FormatRecord(const HexRecord& record);

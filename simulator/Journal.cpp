@@ -23,11 +23,11 @@ std::string Printable(std::string_view text) {
 
 } // namespace
 
-bool Journal::Open(const std::string& path, std::string& problem) {
+Failure Journal::Open(const std::string& path) {
     m_file.reset(std::fopen(path.c_str(), "w"));
     if (!m_file)
-        problem = path + ": " + std::strerror(errno);
-    return m_file != nullptr;
+        return path + ": " + std::strerror(errno);
+    return {};
 }
 
 void Journal::Note(std::string_view text) {

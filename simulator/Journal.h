@@ -2,6 +2,7 @@
 #pragma once
 
 #include "simulator/BaudClock.h"
+#include "simulator/Result.h"
 
 #include <cstdio>
 #include <memory>
@@ -17,8 +18,8 @@ public:
     /// A journal without a file: only complaints are written, to standard error.
     Journal() = default;
 
-    /// Creates or empties the file. If it can't be written, returns false and puts the reason into `problem`.
-    bool Open(const std::string& path, std::string& problem);
+    /// Creates or empties the file.
+    [[nodiscard]] Failure Open(const std::string& path);
 
     /// Writes a line. Bytes that aren't printable ASCII are written as \xNN.
     void Note(std::string_view text);

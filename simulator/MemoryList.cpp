@@ -4,27 +4,26 @@
 
 namespace Simulator {
 
-bool LoadMemories(const std::string& path, const AnalogModel& model, MemoryList& memories,
-                  std::string& problem) {
+Failure LoadMemories(const std::string& path, const AnalogModel& model, MemoryList& memories) {
     MemoryList read;
-    const auto Take = [&](const std::string& line, std::string& why) {
-        const auto memory = ParseLongLine(line, model, model.rows, why);
-        if (memory)
-            read[memory->number] = *memory;
-        return memory.has_value();
+    const auto Take = [&](const std::string& line) -> Failure {
+        const auto memory = ParseLongLine(line, model, model.rows);
+        if (!memory)
+            return memory.Reason();
+        read[memory->number] = *memory;
+        return {};
     };
-    if (!ReadLines(path, Missing::IsEmpty, Take, problem))
-        return false;
+    if (const Failure failure = ReadLines(path, Missing::IsEmpty, Take))
+        return failure;
     memories = std::move(read);
-    return true;
+    return {};
 }
 
-bool SaveMemories(const std::string& path, const AnalogModel& model, const MemoryList& memories,
-                  std::string& problem) {
+Failure SaveMemories(const std::string& path, const AnalogModel& model, const MemoryList& memories) {
     std::string text = "# " + std::string(model.name) + " " + std::string(model.band) + "\n";
     for (const auto& [number, memory] : memories)
         text += FormatLongLine(memory, NumberField(number)) + "\n";
-    return WriteTextFile(path, text, problem);
+    return WriteTextFile(path, text);
 }
 
 } // namespace Simulator

@@ -9,7 +9,7 @@ namespace Simulator {
 
 namespace {
 
-using Taker = std::function<bool(Options&, const std::string& value, std::string& problem)>;
+using Taker = std::function<Failure(Options&, const std::string& value)>;
 
 enum class Value { None, Needed, Optional };
 
@@ -21,90 +21,89 @@ struct Option {
     Taker take;
 };
 
-bool TakeMilliseconds(const std::string& text, std::chrono::milliseconds& out, std::string& problem) {
+Failure TakeMilliseconds(const std::string& text, std::chrono::milliseconds& out) {
     int value = -1;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size() || value < 0) {
-        problem = "\"" + text + "\" is no number of milliseconds";
-        return false;
-    }
+    if (error != std::errc() || end != text.data() + text.size() || value < 0)
+        return "\"" + text + "\" is no number of milliseconds";
     out = std::chrono::milliseconds(value);
-    return true;
+    return {};
 }
 
-bool TakeModel(Options& options, const std::string& value, std::string& problem) {
+Failure TakeModel(Options& options, const std::string& value) {
     const std::size_t colon = value.find(':');
     const std::string band = colon == std::string::npos ? "" : value.substr(colon + 1);
     const std::string name = value.substr(0, colon);
     options.model = nullptr;
     options.digitalModel = FindDigitalModel(name, band);
-    if (!options.digitalModel)
-        options.model = FindAnalogModel(name, band, problem);
-    for (const DigitalModel& model : DigitalModels())
-        if (!options.model && model.name == name && model.bandNeeded)
-            problem += ", or \"" + std::string(model.band) + "\"";
-    return options.model || options.digitalModel;
-}
-
-bool TakeName(Options& options, const std::string& value, std::string& problem) {
-    if (value.empty() || value[0] == '.' || value.find('/') != std::string::npos) {
-        problem = "\"" + value + "\" can't be the name of a link";
-        return false;
+    if (options.digitalModel)
+        return {};
+    const auto found = FindAnalogModel(name, band);
+    if (found) {
+        options.model = *found;
+        return {};
     }
-    options.name = value;
-    return true;
+    std::string reason = found.Reason();
+    for (const DigitalModel& model : DigitalModels())
+        if (model.name == name && model.bandNeeded)
+            reason += ", or \"" + std::string(model.band) + "\"";
+    return reason;
 }
 
-bool TakeParity(Options& options, const std::string& value, std::string& problem) {
+Failure TakeName(Options& options, const std::string& value) {
+    if (value.empty() || value[0] == '.' || value.find('/') != std::string::npos)
+        return "\"" + value + "\" can't be the name of a link";
+    options.name = value;
+    return {};
+}
+
+Failure TakeParity(Options& options, const std::string& value) {
     if (value.empty() || value == "all")
         options.habits.parity = Parity::All;
     else if (value == "text")
         options.habits.parity = Parity::Text;
     else if (value == "bytes")
         options.habits.parity = Parity::Bytes;
-    else {
-        problem = "--parity is \"text\", \"all\" or \"bytes\", not \"" + value + "\"";
-        return false;
-    }
-    return true;
+    else
+        return "--parity is \"text\", \"all\" or \"bytes\", not \"" + value + "\"";
+    return {};
 }
 
-bool TakeFault(Options& options, const std::string& value, std::string& problem) {
-    const auto fault = ParseFault(value, problem);
-    if (fault)
-        options.faults.push_back(*fault);
-    return fault.has_value();
+Failure TakeFault(Options& options, const std::string& value) {
+    const auto fault = ParseFault(value);
+    if (!fault)
+        return fault.Reason();
+    options.faults.push_back(*fault);
+    return {};
 }
 
 /// An option of the digital radios.
-Taker Digital(bool (*take)(const std::string&, DigitalOptions&, std::string&)) {
-    return [take](Options& options, const std::string& value, std::string& problem) {
-        return take(value, options.digital, problem);
-    };
+Taker Digital(Failure (*take)(const std::string&, DigitalOptions&)) {
+    return [take](Options& options, const std::string& value) { return take(value, options.digital); };
 }
 
 /// An option that sets one member to true.
 template <typename Member>
 Taker Switch(Member member) {
-    return [member](Options& options, const std::string&, std::string&) {
+    return [member](Options& options, const std::string&) {
         member(options) = true;
-        return true;
+        return Failure();
     };
 }
 
 /// An option that stores its text.
 template <typename Member>
 Taker Text(Member member) {
-    return [member](Options& options, const std::string& value, std::string&) {
+    return [member](Options& options, const std::string& value) {
         member(options) = value;
-        return true;
+        return Failure();
     };
 }
 
 Taker Task(Options::Task task) {
-    return [task](Options& options, const std::string&, std::string&) {
+    return [task](Options& options, const std::string&) {
         options.task = task;
-        return true;
+        return Failure();
     };
 }
 
@@ -128,17 +127,15 @@ const std::vector<Option>& Table() {
          Switch([](Options & o) -> auto& { return o.habits.guardNames; })},
         {"all", Value::None, "", "send every memory, those without data too",
          Switch([](Options & o) -> auto& { return o.habits.allRows; })},
-        {"no-end", Value::None, "", "stop behind the last memory without an end line",
-         [](Options& o, const std::string&, std::string&) {
+        {"no-end", Value::None, "", "stop after the last memory without an end line",
+         [](Options& o, const std::string&) {
              o.habits.endLine = false;
-             return true;
+             return Failure();
          }},
         {"parity", Value::Optional, "text|all|bytes",
          "set bit 7 on what is sent (text: not on numbers; bytes: on line ends, too)", TakeParity},
         {"key-delay", Value::Needed, "MS", "press the radio's key after this time (500)",
-         [](Options& o, const std::string& v, std::string& t) {
-             return TakeMilliseconds(v, o.habits.keyDelay, t);
-         }},
+         [](Options& o, const std::string& v) { return TakeMilliseconds(v, o.habits.keyDelay); }},
         {"protocol", Value::Needed, "0|1|2", "transfer protocol of a digital radio", Digital(TakeProtocol)},
         {"firmware", Value::Needed, "DIGITS", "its firmware version, six characters", Digital(TakeFirmware)},
         {"modes", Value::Needed, "HEX", "its enabled operating modes (70)", Digital(TakeModes)},
@@ -153,7 +150,7 @@ const std::vector<Option>& Table() {
         {"fault", Value::Needed, "KIND@N[/T]", "play a fault at line N (of transfer T only); repeatable",
          TakeFault},
         {"late", Value::Needed, "MS", "delay of a late-ack fault (5500)",
-         [](Options& o, const std::string& v, std::string& t) { return TakeMilliseconds(v, o.late, t); }},
+         [](Options& o, const std::string& v) { return TakeMilliseconds(v, o.late); }},
         {"log", Value::Needed, "FILE", "write every line and its time into this file",
          Text([](Options & o) -> auto& { return o.logFile; })},
         {"once", Value::None, "", "end when the port is closed after a completed transfer",
@@ -172,44 +169,36 @@ const Option* FindOption(std::string_view name) {
 
 } // namespace
 
-bool ParseOptions(const std::vector<std::string>& arguments, Options& options, std::string& problem) {
+Failure ParseOptions(const std::vector<std::string>& arguments, Options& options) {
     for (std::size_t k = 0; k < arguments.size(); ++k) {
         const std::string& argument = arguments[k];
         const std::size_t equals = argument.find('=');
         const Option* option = argument.starts_with("--")
                                    ? FindOption(std::string_view(argument).substr(2, equals - 2))
                                    : nullptr;
-        if (!option) {
-            problem = "unknown argument \"" + argument + "\" (--help tells more)";
-            return false;
-        }
+        if (!option)
+            return "unknown argument \"" + argument + "\" (see --help)";
         std::string value;
         if (equals != std::string::npos) {
-            if (option->value == Value::None) {
-                problem = "--" + std::string(option->name) + " takes no value";
-                return false;
-            }
+            if (option->value == Value::None)
+                return "--" + std::string(option->name) + " takes no value";
             value = argument.substr(equals + 1);
         } else if (option->value == Value::Needed) {
-            if (++k == arguments.size()) {
-                problem = argument + " needs a value";
-                return false;
-            }
+            if (++k == arguments.size())
+                return argument + " needs a value";
             value = arguments[k];
         }
-        if (!option->take(options, value, problem))
-            return false;
+        if (const Failure failure = option->take(options, value))
+            return failure;
     }
     if (options.task != Options::Task::Play)
-        return true;
-    if (!options.model && !options.digitalModel) {
-        problem = "say which radio to play with --model (--list names them all)";
-        return false;
-    }
+        return {};
+    if (!options.model && !options.digitalModel)
+        return "say which radio to play with --model (--list names them all)";
     if (options.name.empty())
         options.name = options.model ? options.model->name : options.digitalModel->name;
     options.habits.memoryFile = options.digital.habits.memoryFile = options.memoryFile;
-    return options.model || CompleteHabits(*options.digitalModel, options.digital, problem);
+    return options.model ? Failure() : CompleteHabits(*options.digitalModel, options.digital);
 }
 
 std::string HelpText() {

@@ -4,6 +4,7 @@
 #include "simulator/AnalogRadio.h"
 #include "simulator/DigitalOptions.h"
 #include "simulator/FaultPlan.h"
+#include "simulator/Result.h"
 
 #include <chrono>
 #include <string>
@@ -30,9 +31,8 @@ struct Options {
 };
 
 /// Reads the arguments after the program's name. A value is the argument after its option, or follows "=".
-/// Options for the other kind of radio have no effect. If the arguments are invalid, returns false and puts a
-/// sentence into `problem`.
-bool ParseOptions(const std::vector<std::string>& arguments, Options& options, std::string& problem);
+/// Options for the other kind of radio have no effect.
+[[nodiscard]] Failure ParseOptions(const std::vector<std::string>& arguments, Options& options);
 
 /// The text of --help.
 std::string HelpText();

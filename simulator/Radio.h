@@ -2,6 +2,7 @@
 #pragma once
 
 #include "simulator/FaultPlan.h"
+#include "simulator/Result.h"
 
 #include <chrono>
 #include <cstdint>
@@ -70,9 +71,8 @@ public:
     virtual bool BeginsAnew(std::string_view) const { return false; }
     /// Call when the other side has closed the port. Drops a dialogue in progress; keeps the memories.
     virtual void PortClosed() = 0;
-    /// Writes the memories to their file if there is one. On failure returns false and puts the reason into
-    /// `problem`.
-    virtual bool Store(std::string& problem) = 0;
+    /// Writes the memories to their file if there is one.
+    [[nodiscard]] virtual Failure Store() = 0;
     /// Number of violations by the other side; 0 for radios that don't count them.
     virtual int Violations() const { return 0; }
 };

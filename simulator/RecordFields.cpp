@@ -6,9 +6,9 @@
 
 namespace Simulator {
 
-void RecordFields::Refuse(int position, const std::string& why) {
-    if (IsGood())
-        m_problem = "position " + std::to_string(position) + ": " + why;
+void RecordFields::Refuse(int position, const std::string& reason) {
+    if (!m_failure)
+        m_failure = "position " + std::to_string(position) + ": " + reason;
 }
 
 void RecordFields::Literal(int position, std::string_view text, std::string_view name) {

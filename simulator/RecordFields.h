@@ -2,6 +2,7 @@
 #pragma once
 
 #include "simulator/DigitalModels.h"
+#include "simulator/Result.h"
 
 #include <string>
 #include <string_view>
@@ -15,9 +16,8 @@ public:
     /// `body` is a record without its checksum: T followed by upper-case hexadecimal digits.
     explicit RecordFields(std::string_view body) : m_body(body) {}
 
-    bool IsGood() const { return m_problem.empty(); }
-    /// The first error, with its position; empty if there is none.
-    const std::string& Problem() const { return m_problem; }
+    /// The first failure, with its position.
+    const Failure& FirstFailure() const { return m_failure; }
 
     /// Requires this text at the position.
     void Literal(int position, std::string_view text, std::string_view name);
@@ -35,13 +35,13 @@ public:
     long FrequencyHertz(int position, const DigitalModel& model, std::string_view name);
 
     /// Records a failure found by the caller.
-    void Refuse(int position, const std::string& why);
+    void Refuse(int position, const std::string& reason);
 
 private:
     long InRange(int position, long hertz, const DigitalModel& model, std::string_view name);
 
     std::string_view m_body;
-    std::string m_problem;
+    Failure m_failure;
 };
 
 /// Returns ASCII characters as pairs of hexadecimal digits.

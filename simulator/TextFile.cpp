@@ -9,15 +9,13 @@
 
 namespace Simulator {
 
-bool ReadLines(const std::string& path, Missing missing,
-               const std::function<bool(const std::string& line, std::string& why)>& take,
-               std::string& problem) {
+Failure ReadLines(const std::string& path, Missing missing,
+                  const std::function<Failure(const std::string& line)>& take) {
     std::ifstream file(path);
     if (!file) {
         if (errno == ENOENT && missing == Missing::IsEmpty)
-            return true;
-        problem = path + ": " + std::strerror(errno);
-        return false;
+            return {};
+        return path + ": " + std::strerror(errno);
     }
     std::string line;
     for (int count = 1; std::getline(file, line); ++count) {
@@ -25,23 +23,20 @@ bool ReadLines(const std::string& path, Missing missing,
             line.pop_back();
         if (line.empty() || line[0] == '#')
             continue;
-        std::string why;
-        if (!take(line, why)) {
-            problem = path + ":" + std::to_string(count) + ": " + why;
-            return false;
-        }
+        if (const Failure failure = take(line))
+            return path + ":" + std::to_string(count) + ": " + *failure;
     }
     if (file.bad())
-        problem = path + ": can't be read";
-    return !file.bad();
+        return path + ": can't be read";
+    return {};
 }
 
-bool WriteTextFile(const std::string& path, const std::string& text, std::string& problem) {
+Failure WriteTextFile(const std::string& path, const std::string& text) {
     const std::string fresh = path + ".new";
     const auto Fail = [&] {
-        problem = path + ": " + std::strerror(errno);
+        std::string reason = path + ": " + std::strerror(errno);
         std::remove(fresh.c_str());
-        return false;
+        return reason;
     };
     std::FILE* file = std::fopen(fresh.c_str(), "w");
     if (!file)
@@ -52,7 +47,7 @@ bool WriteTextFile(const std::string& path, const std::string& text, std::string
     good = std::fclose(file) == 0 && good;
     if (!good || std::rename(fresh.c_str(), path.c_str()) != 0)
         return Fail();
-    return true;
+    return {};
 }
 
 } // namespace Simulator

@@ -41,32 +41,34 @@ std::string RadioName(const Options& options) {
     return options.model ? Name(*options.model) : Name(*options.digitalModel);
 }
 
-/// Returns the radio with the contents of its files. If one can't be read, returns null and puts the reason
-/// into `problem`.
-std::unique_ptr<Radio> MakeRadio(const Options& options, RadioLink& link, std::string& problem) {
+/// Makes the radio with the contents of its files.
+Failure MakeRadio(const Options& options, RadioLink& link, std::unique_ptr<Radio>& radio) {
     if (options.digitalModel) {
         DigitalContents contents;
-        if (!LoadContents(*options.digitalModel, options.digital, contents, problem))
-            return nullptr;
-        return std::make_unique<DigitalRadio>(*options.digitalModel, options.digital.habits,
-                                              std::move(contents), link);
+        if (const Failure failure = LoadContents(*options.digitalModel, options.digital, contents))
+            return failure;
+        radio = std::make_unique<DigitalRadio>(*options.digitalModel, options.digital.habits,
+                                               std::move(contents), link);
+        return {};
     }
     MemoryList memories;
-    if (!options.memoryFile.empty() && !LoadMemories(options.memoryFile, *options.model, memories, problem))
-        return nullptr;
-    return std::make_unique<AnalogRadio>(*options.model, options.habits, std::move(memories), link);
+    if (!options.memoryFile.empty())
+        if (const Failure failure = LoadMemories(options.memoryFile, *options.model, memories))
+            return failure;
+    radio = std::make_unique<AnalogRadio>(*options.model, options.habits, std::move(memories), link);
+    return {};
 }
 
 int Play(const Options& options) {
-    std::string problem;
     Journal journal;
-    if (!options.logFile.empty() && !journal.Open(options.logFile, problem))
-        return Complain(problem, ExitFailure);
+    if (!options.logFile.empty())
+        if (const Failure failure = journal.Open(options.logFile))
+            return Complain(*failure, ExitFailure);
     OutputQueue output;
     FaultyLink link(FaultPlan(options.faults), options.late, output, journal);
-    const std::unique_ptr<Radio> radio = MakeRadio(options, link, problem);
-    if (!radio)
-        return Complain(problem, ExitFailure);
+    std::unique_ptr<Radio> radio;
+    if (const Failure failure = MakeRadio(options, link, radio))
+        return Complain(*failure, ExitFailure);
     const int signals = WatchSignals();
     if (signals < 0)
         return Complain("signals can't be watched", ExitFailure);
@@ -81,8 +83,8 @@ int Play(const Options& options) {
         Player(port, *radio, link, output, journal, options.pace, options.once).Run(signals);
     }
     close(signals);
-    if (!radio->Store(problem))
-        return Complain(problem, ExitFailure);
+    if (const Failure failure = radio->Store())
+        return Complain(*failure, ExitFailure);
     return radio->Violations() > 0 ? RulesBroken : 0;
 }
 
@@ -90,9 +92,8 @@ int Play(const Options& options) {
 
 int main(int argc, char** argv) {
     Options options;
-    std::string problem;
-    if (!ParseOptions({argv + 1, argv + argc}, options, problem))
-        return Complain(problem, BadUsage);
+    if (const Failure failure = ParseOptions({argv + 1, argv + argc}, options))
+        return Complain(*failure, BadUsage);
     switch (options.task) {
     case Options::Task::Help:
         std::fputs(HelpText().c_str(), stdout);

@@ -83,7 +83,7 @@ fs::path FirstMemories(const Places& places, const std::string& example, int las
     std::string text = ReadFile(places.examples / example);
     const std::string next = "  <MEMORY row=\"" + std::to_string(lastRow + 1) + '"';
     if (text.find(next) == std::string::npos)
-        throw std::runtime_error("the example has no row behind " + std::to_string(lastRow));
+        throw std::runtime_error("the example has no row after " + std::to_string(lastRow));
     text = text.substr(0, text.find(next)) + "</ZelkMem>\n";
     const fs::path file = places.scratch / example;
     WriteFile(file, text);

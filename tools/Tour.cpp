@@ -45,9 +45,10 @@ constexpr Tour::Job DigitalJob{
     .readTitle = "Read NP25 Memory Data Progress",
     .asksForModes = true,
     .readBack = [](Tour::ChannelList channels) { return AsReadBack(std::move(channels), "023"); },
-    .radioRule = "; the lists of the primaries are put together from what their shadows say",
-    .pageRule = "; codes one place further down the list, behind its end the default row's; numbers and\n"
-                "                             frequencies by value, since they come back with other zeros",
+    .radioRule = "; the shadow lists of primaries are made from their shadows",
+    .pageRule =
+        "; codes one place further down the list, the last one as the default row's; numbers\n"
+        "                             and frequencies by value, since they come back with other zeros",
 };
 
 void PlayTour(Robot& robot) {

@@ -1,9 +1,12 @@
 #include "transfer/AnalogInformation.h"
 
+#include "catalogue/HexDigits.h"
 #include "catalogue/RadioTables.h"
 #include "catalogue/TextNumbers.h"
 
 #include <wx/arrstr.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -23,8 +26,8 @@ AnalogInformation ParseInformation(const wxString& block) {
         fields.Insert("11", 3);
     }
     const wxString product = FieldAt(fields, 0);
-    information.productCode = static_cast<std::uint32_t>(
-        product.Left(1).find_first_of("0123456789abcdefABCDEF") == 0 ? ReadHex(product.Left(1)) : 0);
+    const int code = product.empty() ? -1 : HexDigitValue(product[0].GetValue());
+    information.productCode = static_cast<std::uint32_t>(std::max(code, 0));
     information.version = product.Mid(1);
     information.serial = FieldAt(fields, 1);
     information.rowCount = ReadDecimal(FieldAt(fields, 2));

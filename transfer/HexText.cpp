@@ -1,23 +1,7 @@
 #include "transfer/HexText.h"
 
+#include "catalogue/HexDigits.h"
 #include "catalogue/TextNumbers.h"
-
-namespace {
-
-/// Out of range for a digit, which has four bits.
-constexpr std::uint32_t NoDigit = 16;
-
-constexpr std::uint32_t DigitValue(wchar_t c) {
-    if (c >= L'0' && c <= L'9')
-        return static_cast<std::uint32_t>(c - L'0');
-    if (c >= L'A' && c <= L'F')
-        return static_cast<std::uint32_t>(c - L'A' + 10);
-    if (c >= L'a' && c <= L'f')
-        return static_cast<std::uint32_t>(c - L'a' + 10);
-    return NoDigit;
-}
-
-} // namespace
 
 // Works on the characters as stored: converting or copying parts of a line costs more than reading them.
 
@@ -35,18 +19,16 @@ std::uint32_t HexNumberAt(const wxString& text, std::size_t position, std::size_
 
 std::uint32_t HexNumberAt(std::wstring_view text, std::size_t position, std::size_t digits) {
     std::uint32_t number = 0;
-    for (std::size_t at = position; at < position + digits; ++at)
-        number = number << 4 | (at < text.length() && IsHexDigit(text[at]) ? DigitValue(text[at]) : 0);
+    for (std::size_t at = position; at < position + digits; ++at) {
+        const int digit = at < text.length() ? HexDigitValue(text[at]) : -1;
+        number = number << 4 | (digit >= 0 ? static_cast<std::uint32_t>(digit) : 0);
+    }
     return number;
-}
-
-bool IsHexDigit(wchar_t c) {
-    return DigitValue(c) != NoDigit;
 }
 
 void WriteHex(wchar_t* to, std::size_t digits, std::uint32_t number) {
     for (std::size_t at = digits; at-- > 0; number >>= 4)
-        to[at] = L"0123456789ABCDEF"[number & 0xF];
+        to[at] = HexDigit(number);
 }
 
 bool HasConfigChecksum(const wxArrayString& fields) {

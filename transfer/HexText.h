@@ -17,9 +17,6 @@ int HexByteSum(const wxString& text);
 std::uint32_t HexNumberAt(const wxString& text, std::size_t position, std::size_t digits);
 std::uint32_t HexNumberAt(std::wstring_view text, std::size_t position, std::size_t digits);
 
-/// True for a character that HexNumberAt accepts as a digit.
-bool IsHexDigit(wchar_t c);
-
 /// Writes the last `digits` hexadecimal digits of a number, in upper case. More than 8 digits get leading
 /// zeros.
 void WriteHex(wchar_t* to, std::size_t digits, std::uint32_t number);

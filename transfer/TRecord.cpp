@@ -1,5 +1,6 @@
 #include "transfer/TRecord.h"
 
+#include "catalogue/HexDigits.h"
 #include "transfer/HexText.h"
 
 #include <wx/datetime.h>

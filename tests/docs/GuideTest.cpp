@@ -122,8 +122,7 @@ std::vector<std::string> CodesBeginning(const std::string& start) {
 
 void ExpectUnderstood(const std::vector<std::string>& arguments) {
     Simulator::Options options;
-    std::string problem;
-    EXPECT_TRUE(Simulator::ParseOptions(arguments, options, problem)) << problem;
+    EXPECT_EQ(Simulator::ParseOptions(arguments, options), std::nullopt);
 }
 
 std::string WithoutBlanks(const std::string& text) {

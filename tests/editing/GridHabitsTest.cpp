@@ -93,7 +93,7 @@ protected:
             for (int side : {-1, 1}) {
                 const wxPoint edge = EdgeOf(col) + wxPoint(side, 0);
                 Drag(edge, edge + wxPoint(25, 0));
-                EXPECT_EQ(HiddenOnesOpened(before), "") << "behind " << ColumnTag[col] << ", " << side;
+                EXPECT_EQ(HiddenOnesOpened(before), "") << "after " << ColumnTag[col] << ", " << side;
                 widened += Grid()->GetColSize(col) > before[static_cast<size_t>(col)];
                 Restore(before);
             }
@@ -103,7 +103,7 @@ protected:
             Drag(left + wxPoint(side, 0), left + wxPoint(40, 0));
             EXPECT_EQ(HiddenOnesOpened(before), "") << "before the first column";
         }
-        EXPECT_EQ(widened, 2 * shown - 1) << "each border is taken hold of at both sides, but the last one";
+        EXPECT_EQ(widened, 2 * shown - 1) << "each border is dragged from both sides, except the last one";
     }
 
     /// The first pixel after a shown column, in the middle of the labels.
@@ -327,7 +327,7 @@ TEST_F(GridMouse, ADoubleClickOnALabelEdgeOpensNoHiddenColumn) {
                     const wxPoint edge = EdgeOf(col) + wxPoint(side, 0);
                     DoubleClickAt(edge);
                     EXPECT_EQ(HiddenOnesOpened(before), "")
-                        << "radio " << radio << ", behind " << ColumnTag[col] << ", " << side;
+                        << "radio " << radio << ", after " << ColumnTag[col] << ", " << side;
                 }
     }
 }

@@ -21,7 +21,7 @@ TEST_F(MemoryNumbers, OfAnotherRowAreFoundByWhatTheyRead) {
 TEST_F(MemoryNumbers, ThatNobodyHoldsAreFoundBehindTheLastRow) {
     SetCell(5, MNUM, "7");
     EXPECT_EQ(FindDuplicateMNum(1, 5, 122, 7), 123);
-    EXPECT_EQ(FindDuplicateMNum(1, 9, 4, 7), 5) << "rows behind the last aren't looked at";
+    EXPECT_EQ(FindDuplicateMNum(1, 9, 4, 7), 5) << "rows after the last one are not searched";
     EXPECT_EQ(FindDuplicateMNum(1, 9, 122, 0), 123) << "an empty number is none";
 }
 

@@ -143,7 +143,7 @@ TEST_F(ScanCells, IgnoreOtherKeys) {
 TEST_F(ScanCells, TurnABoxOverByClick) {
     const int box = BoxesWidth() / 5;
     ASSERT_GT(box, 3);
-    ASSERT_GT(Grid()->GetColSize(SCAN), 5 * box + 2) << "there is room behind the boxes";
+    ASSERT_GT(Grid()->GetColSize(SCAN), 5 * box + 2) << "there is room after the boxes";
     EXPECT_EQ(ClickedFrom("0", box / 2), "1") << "the first box";
     EXPECT_EQ(ClickedFrom("1", box / 2), "0") << "the first box";
     EXPECT_EQ(ClickedFrom("0", box + box / 2), "2");

@@ -9,6 +9,7 @@
 #include "robot/Files.h"
 #include "robot/Pump.h"
 #include "robot/TempFolder.h"
+#include "tests/support/Keys.h"
 #include "tests/support/Modals.h"
 #include "tests/support/ZelkWindowTest.h"
 
@@ -22,6 +23,7 @@
 #include <ctime>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// A radio of each type, by radio index and band slot.
@@ -129,6 +131,31 @@ protected:
             .Message(box)
             .Style(wxOK | wxCENTRE | wxICON_INFORMATION);
         Choose(IdImport);
+    }
+
+    /// Expects a box that reports an error.
+    static void ExpectErrorBox(testbench::DialogScript& script, const testbench::TextRule& caption,
+                               const testbench::TextRule& message) {
+        script.Expect(testbench::DialogKind::Message, caption)
+            .Message(message)
+            .Style(wxOK | wxCENTRE | wxICON_ERROR);
+    }
+
+    /// Types into a cell and leaves its editor open.
+    static void TypeWithoutEnd(int row, int column, const std::string& text) {
+        wxGrid* grid = CurrentGrid();
+        testbench::ShowAndFocus(*MainFrame);
+        grid->GoToCell(row, column);
+        grid->SetFocus();
+        testbench::PumpUntilIdle();
+        testbench::TypeText(text);
+        ASSERT_TRUE(grid->IsCellEditControlShown());
+    }
+
+    /// Expects these texts in cells of a row.
+    static void ExpectTexts(int row, const std::vector<std::pair<int, std::string>>& cells) {
+        for (const auto& [column, text] : cells)
+            EXPECT_EQ(Text(row, column), text) << ColumnTag[column] << " of row " << row;
     }
 
     static void EmptyRow(int row) {

@@ -30,9 +30,7 @@ protected:
     void ExportInVain(const fs::path& path) {
         DialogScript script;
         script.ExpectFile("Export CSV file", path.string());
-        script.Expect(DialogKind::Message, "Export file")
-            .Message("Unable to write to selected File")
-            .Style(wxOK | wxCENTRE | wxICON_ERROR);
+        ExpectErrorBox(script, "Export file", "Unable to write to selected File");
         Choose(IdExport);
     }
 };
@@ -157,9 +155,7 @@ TEST_F(CsvExportCommand, WithoutWholeRowsSelectedSaysSo) {
         if (cells)
             CurrentGrid()->SelectBlock(2, MNUM, 4, RFRQ);
         DialogScript script;
-        script.Expect(DialogKind::Message, "Export CSV - Error!")
-            .Message("No data selected!")
-            .Style(wxOK | wxCENTRE | wxICON_ERROR);
+        ExpectErrorBox(script, "Export CSV - Error!", "No data selected!");
         Choose(IdExport);
     }
 }
@@ -181,9 +177,7 @@ TEST_F(CsvExportCommand, OfAKdarPageWithBlankRowsSelectedOnlySaysThatNothingIs) 
     for (const auto& rows : {std::initializer_list<int>{0}, {1}, {0, 1, 100}}) {
         Select(rows);
         DialogScript script;
-        script.Expect(DialogKind::Message, "Export CSV - Error!")
-            .Message("No data selected!")
-            .Style(wxOK | wxCENTRE | wxICON_ERROR);
+        ExpectErrorBox(script, "Export CSV - Error!", "No data selected!");
         Choose(IdExport);
     }
 }
@@ -280,16 +274,10 @@ TEST_F(CsvExportCommand, WritesUnderTheNameThatWasChosen) {
 TEST_F(CsvExportCommand, TakesTheTextOfAnOpenEditor) {
     EmptyPageOf("ANFM");
     SetCells(1, {{MNUM, "001"}, {TFLG, "A0"}});
-    wxGrid* grid = CurrentGrid();
-    testbench::ShowAndFocus(*MainFrame);
-    grid->GoToCell(1, DESC);
-    grid->SetFocus();
-    testbench::PumpUntilIdle();
-    testbench::TypeText("TYPED");
-    ASSERT_TRUE(grid->IsCellEditControlShown());
+    TypeWithoutEnd(1, DESC, "TYPED");
     Select({1});
     EXPECT_NE(Export().find("\n001,,TYPED,"), std::string::npos);
-    EXPECT_FALSE(grid->IsCellEditControlShown());
+    EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
 }
 
 TEST_F(CsvExportCommand, KeepsPageAndSelection) {

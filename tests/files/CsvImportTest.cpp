@@ -1,7 +1,6 @@
 // Importing lists into the page: the rows that they fill, and files that aren't lists.
 #include "tests/files/CsvImportTest.h"
 
-using testbench::DialogKind;
 using testbench::DialogScript;
 
 TEST_F(CsvImport, FillsARowFromTheDefaultRowAndNumbersIt) {
@@ -25,22 +24,17 @@ TEST_F(CsvImport, GivesRowsTheFlagsOfRowsMadeInTheProgram) {
 TEST_F(CsvImport, AddressesTheDefaultRowAndTheLastTwoByName) {
     EmptyPageOf("ANFM");
     ASSERT_EQ(Import("MNUM,DESC\nGD2,TWO\nGD1,ONE\nDEF,NEW\n"), 3);
-    EXPECT_EQ(Text(0, DESC), "NEW");
-    EXPECT_EQ(Text(0, MNUM), "000");
-    EXPECT_EQ(Text(101, DESC), "ONE");
-    EXPECT_EQ(Text(101, MNUM), "101");
-    EXPECT_EQ(Text(102, DESC), "TWO");
-    EXPECT_EQ(Text(102, MNUM), "102");
+    ExpectTexts(0, {{MNUM, "000"}, {DESC, "NEW"}});
+    ExpectTexts(101, {{MNUM, "101"}, {DESC, "ONE"}});
+    ExpectTexts(102, {{MNUM, "102"}, {DESC, "TWO"}});
     EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 101, 102}));
 }
 
 TEST_F(CsvImport, OfADefaultRowIsWhatLaterLinesAreFilledFrom) {
     EmptyPageOf("ANFM");
     ASSERT_EQ(Import("MNUM,MODE,RFRQ\n4\nDEF,W,150.0000\n5\n"), 3);
-    EXPECT_EQ(Text(4, MODE), "N");
-    EXPECT_EQ(Text(4, RFRQ), "138.0000");
-    EXPECT_EQ(Text(5, MODE), "W");
-    EXPECT_EQ(Text(5, RFRQ), "150.0000");
+    ExpectTexts(4, {{MODE, "N"}, {RFRQ, "138.0000"}});
+    ExpectTexts(5, {{MODE, "W"}, {RFRQ, "150.0000"}});
     EXPECT_EQ(Text(0, TFRQ), "174.0000") << "a default row keeps what the line doesn't name";
 }
 
@@ -153,11 +147,7 @@ TEST_F(CsvImport, OfAFullPageGivesEachRowItsSlot) {
 TEST_F(CsvImport, LeavesGuardRowsWhatTheyMayHold) {
     EmptyPageOf("ANFM");
     ASSERT_EQ(Import("MNUM,SCAN,RTON,RCOD,TTON,TCOD\nGD1,7,71.9,023,74.4,025\n"), 1);
-    EXPECT_EQ(Text(101, SCAN), "0");
-    EXPECT_EQ(Text(101, RTON), "n/a");
-    EXPECT_EQ(Text(101, RCOD), "n/a");
-    EXPECT_EQ(Text(101, TTON), "74.4");
-    EXPECT_EQ(Text(101, TCOD), "025");
+    ExpectTexts(101, {{SCAN, "0"}, {RTON, "n/a"}, {RCOD, "n/a"}, {TTON, "74.4"}, {TCOD, "025"}});
 }
 
 TEST_F(CsvImport, ReadsAListInAnyForm) {
@@ -198,9 +188,7 @@ TEST_F(CsvImport, WithoutAHeadingSaysSoAndLeavesThePage) {
     SetCell(5, DESC, "KEPT");
     for (const char* bytes : {"", "\n\n\n", "1,2,3,4,5,6\n", "MNUM;DESC\n5;A\n", "KDAR-2000,,,,,\n"}) {
         DialogScript script;
-        script.Expect(DialogKind::Message, "Import CSV")
-            .Message(HeaderMissing)
-            .Style(wxOK | wxCENTRE | wxICON_ERROR);
+        ExpectErrorBox(script, "Import CSV", HeaderMissing);
         EXPECT_EQ(Import(bytes), 0) << bytes;
     }
     EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 5}));

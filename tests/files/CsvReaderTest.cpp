@@ -264,7 +264,7 @@ TEST(CsvKeys, ThatNameNoRowPassTheirLineOverAndNoOther) {
     EXPECT_EQ(RowsOf("DESC\nA\nB\n"), std::vector<int>{}) << "no column has keys";
     EXPECT_EQ(RowsOf("DESC,MNUM\nA\nB,4\n"), std::vector<int>{4}) << "a line too short to have one";
     EXPECT_EQ(RowsOf(std::string(20, ',') + "MNUM\n" + std::string(20, ',') + "5\n"), std::vector<int>{})
-        << "the key behind the twentieth column is never read";
+        << "the key after the twentieth column is never read";
     EXPECT_EQ(RowsOf(std::string(19, ',') + "MNUM\n" + std::string(19, ',') + "5\n"), std::vector<int>{5});
 }
 
@@ -279,7 +279,7 @@ TEST(CsvKeys, OfGuardRowsAreThoseOfTheGridsSize) {
 }
 
 TEST(CsvData, StandsAtThePositionsOfItsHeadings) {
-    const CsvTexts fields = DataOf("TIDC,DESC,other,MNUM\n 42 ,\"A, B\",x,5,behind\n");
+    const CsvTexts fields = DataOf("TIDC,DESC,other,MNUM\n 42 ,\"A, B\",x,5,after\n");
     for (size_t i = 0; i < fields.size(); ++i)
         EXPECT_EQ(fields[i], i == 0 ? "5" : i == 4 ? "A, B" : i == 19 ? "42" : "") << i;
 }
@@ -298,7 +298,7 @@ TEST(CsvData, OfAShortLineIsEmptyWhereTheLineHasEnded) {
 }
 
 TEST(CsvData, OfTheKdarDialectAreSixFieldsWithTheKeyInTheFirst) {
-    const CsvTexts fields = DataOf("Memory\n1, A ,118000,119000,Yes,No,behind\n", Dialect::Kdar);
+    const CsvTexts fields = DataOf("Memory\n1, A ,118000,119000,Yes,No,after\n", Dialect::Kdar);
     const char* expected[] = {"1", "A", "118000", "119000", "Yes", "No", ""};
     for (size_t i = 0; i < 7; ++i)
         EXPECT_EQ(fields[i], expected[i]) << i;

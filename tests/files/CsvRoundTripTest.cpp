@@ -58,7 +58,7 @@ protected:
         const std::vector<Difference> found = ThereAndBack(rows);
         for (const Difference& d : found)
             EXPECT_TRUE(Holds(expected, d)) << "{" << d.row << ", " << ColumnTag[d.col] << ", \"" << d.before
-                                            << "\", \"" << d.after << "\"} is not told";
+                                            << "\", \"" << d.after << "\"} is not reported";
         for (const Difference& d : expected)
             EXPECT_TRUE(Holds(found, d)) << "{" << d.row << ", " << ColumnTag[d.col] << ", \"" << d.before
                                          << "\", \"" << d.after << "\"} doesn't come: " << d.why;

@@ -21,11 +21,11 @@ class ReplacedFile : public ::testing::Test {
 protected:
     std::string Write(const fs::path& path, const std::string& bytes) {
         FileReplacement file;
-        std::error_code error = file.Open(path.string());
-        if (!error)
-            error = file.Finish(bytes);
-        EXPECT_FALSE(file.FormerIsDamaged());
-        return error ? error.message() : "";
+        if (const std::error_code error = file.Open(path.string()))
+            return error.message();
+        const WriteResult result = file.Finish(bytes);
+        EXPECT_FALSE(result.damaged);
+        return result.error ? result.error.message() : "";
     }
 
     /// Writes as a user who may not write to the folder, with the disk's room limited.
@@ -50,7 +50,7 @@ protected:
         return names;
     }
 
-    testbench::TempFolder m_folder{"zelk-whole-file"};
+    testbench::TempFolder m_folder{"zelk-replaced-file"};
 };
 
 } // namespace

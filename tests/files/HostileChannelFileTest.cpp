@@ -46,7 +46,7 @@ TEST_F(HostileChannelFile, ThatIsCutOffAnywhereIsNotLoaded) {
     SetCell(5, DESC, "KEPT");
     for (size_t length = 0; length <= end; length += length < 400 ? 1 : 97)
         EXPECT_EQ(Open(whole.substr(0, length)), NotLoaded) << length;
-    EXPECT_EQ(Text(5, DESC), "KEPT") << "a page is left alone by what is no document";
+    EXPECT_EQ(Text(5, DESC), "KEPT") << "a file that is no document leaves the page unchanged";
     EXPECT_EQ(Open(whole.substr(0, end + 1)), 0);
 }
 

@@ -26,7 +26,7 @@ protected:
         const char* name;
         std::string bytes;
         int count;
-        bool tells = false; ///< reports that there is no heading
+        bool hasBox = false; ///< reports that there is no heading
     };
 
     /// Imports each list into an empty page of the type.
@@ -35,7 +35,7 @@ protected:
         for (const Hostile& list : lists) {
             EmptyPageOf(type);
             DialogScript script;
-            if (list.tells)
+            if (list.hasBox)
                 script.Expect(DialogKind::Message, "Import CSV");
             const double start = ProcessorSeconds();
             EXPECT_EQ(reader(list.bytes), list.count) << list.name;
@@ -71,7 +71,7 @@ TEST_F(HostileCsv, OfTheGeneralDialectLeavesAUsablePage) {
         "NP25",
         {
             {"random bytes", RandomBytes(200'000, 1), 0, true},
-            {"random bytes behind a heading", "MNUM,DESC\n" + RandomBytes(200'000, 2), 1},
+            {"random bytes after a heading", "MNUM,DESC\n" + RandomBytes(200'000, 2), 1},
             {"zero bytes only", zeros, 0, true},
             {"UTF-16",
              std::string("\xFF\xFEM\0N\0U\0M\0\n\0"

@@ -17,7 +17,7 @@ struct HostileFile {
     const char* name;
     std::string bytes;
     TextRule box;
-    bool tells = false; ///< reports, before the import's box, that there is no heading
+    bool hasBox = false; ///< reports, before the import's box, that there is no heading
 };
 
 class HostileImport : public ImportTest {
@@ -34,7 +34,7 @@ protected:
                     testbench::WriteFile(m_folder / "file", file.bytes);
                     script.ExpectFile("Import file", (m_folder / "file").string());
                 }
-                if (file.tells)
+                if (file.hasBox)
                     script.Expect(testbench::DialogKind::Message, "Import CSV");
                 if (type == *types.begin()) {
                     script.Expect(testbench::DialogKind::Message, "Import File").Message(file.box);
@@ -218,7 +218,7 @@ TEST_F(HostileImport, OfCsvFilesEndsWithTheCount) {
             {"zero bytes", heading + three + std::string(Megabyte, '\0'), counted(3)},
             {"zero bytes as fields", heading + three + Repeated(std::string("4,\0,\0,\0,\0,\0\n", 12), 3),
              counted(6)},
-            {"zero bytes among the lines that tell the kind",
+            {"zero bytes among the lines that identify the kind",
              heading + Repeated(std::string("4,\0,\0,\0,\0,\0\n", 12), 3), Nothing},
             {"quotes that stay open", heading + Repeated("4,\"A,,,,,\n", 3), counted(3)},
             {"random bytes", heading + three + RandomBytes(Megabyte), AnyCount("CSV")},

@@ -190,9 +190,7 @@ TEST_F(ImportCommand, TellsALineFileThatCannotBeOpenedAndLeavesThePage) {
     for (int again = 0; again < 2; ++again) {
         DialogScript script;
         script.ExpectFile("Import file", PathOf("list.630"));
-        script.Expect(DialogKind::Message, "File Open Error")
-            .Message(PathOf("list.630"))
-            .Style(wxOK | wxCENTRE | wxICON_ERROR);
+        ExpectErrorBox(script, "File Open Error", PathOf("list.630"));
         Choose(IdImport);
         EXPECT_EQ(Text(5, DESC), "KEPT");
         EXPECT_EQ(PageStrings[0].FileName, "");
@@ -292,17 +290,11 @@ TEST_F(ImportCommand, SetsTheEditorsUp) {
 }
 
 TEST_F(ImportCommand, TakesTheTextOfAnOpenEditorFirst) {
-    wxGrid* grid = CurrentGrid();
-    testbench::ShowAndFocus(*MainFrame);
-    grid->GoToCell(0, DESC);
-    grid->SetFocus();
-    testbench::PumpUntilIdle();
-    testbench::TypeText("TYPED");
-    ASSERT_TRUE(grid->IsCellEditControlShown());
+    TypeWithoutEnd(0, DESC, "TYPED");
     DialogScript script;
     script.Expect(DialogKind::File, "Import file").Answer(wxID_CANCEL);
     Choose(IdImport);
-    EXPECT_FALSE(grid->IsCellEditControlShown());
+    EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
     EXPECT_EQ(Text(0, DESC), "TYPED");
 }
 
@@ -335,5 +327,5 @@ TEST_F(ImportCommand, ReadsAFileByItsContentsWhateverItsName) {
     ImportByMenu("list.csv", "Imported 1 Lines from 716 Binary file.");
     WriteToFolder("list.716", ListFile({ListLine("006")}));
     ImportByMenu("list.716", "Imported 1 Lines from 716 Text file.");
-    EXPECT_EQ(FilledRows(0), Rows({0, 6})) << "the former file has gone with its import";
+    EXPECT_EQ(FilledRows(0), Rows({0, 6})) << "the memories of the former file are gone";
 }

@@ -68,7 +68,7 @@ void ExpectWholeOrTold(const std::string& former, const std::string& fresh, int 
                      std::to_string(fresh.size()) + " bytes");
         ASSERT_LT(first, 20);
         FailingBytes file(former, first, failures);
-        const OverwriteResult result = OverwriteBytes(file, fresh);
+        const WriteResult result = OverwriteBytes(file, fresh);
         if (!file.HasFailed()) {
             EXPECT_FALSE(result.error);
             EXPECT_FALSE(result.damaged);

@@ -1,7 +1,6 @@
 // Importing lists of the KDAR-2000 into the page.
 #include "tests/files/CsvImportTest.h"
 
-using testbench::DialogKind;
 using testbench::DialogScript;
 
 namespace {
@@ -40,17 +39,16 @@ TEST_F(KdarImport, FillsThePageFromItsFirstMemoryWhateverTheNumbers) {
 TEST_F(KdarImport, PassesLinesOverWithoutUsingUpARow) {
     EmptyPageOf("KDAR");
     ASSERT_EQ(ImportLines("1,A\nx,B\n101,C\n-1,D\n2,E\n"), 2);
-    EXPECT_EQ(Text(1, DESC), "A");
-    EXPECT_EQ(Text(2, DESC), "E");
+    ExpectTexts(1, {{DESC, "A"}});
+    ExpectTexts(2, {{DESC, "E"}});
     EXPECT_EQ(FilledRows(0), (std::vector<int>{0, 1, 2}));
 }
 
 TEST_F(KdarImport, OfALineWithoutANumberTakesTheRowsNumberAway) {
     EmptyPageOf("KDAR");
     ASSERT_EQ(ImportLines(",A\n1,B\n"), 2);
-    EXPECT_EQ(Text(1, MNUM), "");
-    EXPECT_EQ(Text(1, DESC), "A");
-    EXPECT_EQ(Text(2, MNUM), "002");
+    ExpectTexts(1, {{MNUM, ""}, {DESC, "A"}});
+    ExpectTexts(2, {{MNUM, "002"}});
 }
 
 TEST_F(KdarImport, LosesLinesBehindTheLastRow) {
@@ -124,9 +122,7 @@ TEST_F(KdarImport, WithoutASecondLineSaysSoAndLeavesThePage) {
     EmptyPageOf("KDAR");
     for (const char* bytes : {"", "KDAR-2000,,,,,", "KDAR-2000,Purge,,,,\n\n,,,,,\n"}) {
         DialogScript script;
-        script.Expect(DialogKind::Message, "Import CSV")
-            .Message(HeaderMissing)
-            .Style(wxOK | wxCENTRE | wxICON_ERROR);
+        ExpectErrorBox(script, "Import CSV", HeaderMissing);
         EXPECT_EQ(ImportKdar(bytes), 0) << bytes;
     }
     EXPECT_EQ(FilledRows(0), std::vector<int>{0});

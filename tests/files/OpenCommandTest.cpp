@@ -105,9 +105,7 @@ TEST_F(OpenSaveCommands, OpenTellsWhatIsNoDocumentAndLeavesThePage) {
     DialogScript script;
     script.ExpectMessage("Open File?", OpenQuestion);
     script.ExpectFile("Select Zelk file", (m_folder / "bad.zelk").string());
-    script.Expect(DialogKind::Message, "Error")
-        .Message("Not valid XML Document")
-        .Style(wxOK | wxCENTRE | wxICON_ERROR);
+    ExpectErrorBox(script, "Error", "Not valid XML Document");
     Choose(IdOpen);
     EXPECT_EQ(Text(5, DESC), "KEPT");
     EXPECT_EQ(PageStrings[0].FileName, "");

@@ -405,14 +405,16 @@ TEST_F(PrintCommands, OfferAllSheetsInPortrait) {
 
 TEST_F(PrintCommands, AFailureIsToldInTheLogAndTheStatusBar) {
     const testbench::LogKeeper log;
-    for (const auto& [answer, told] : {std::pair(wxID_NO, true), {wxID_CANCEL, false}, {wxID_OK, false}}) {
+    for (const auto& [answer, reported] :
+         {std::pair(wxID_NO, true), {wxID_CANCEL, false}, {wxID_OK, false}}) {
         const size_t before = log.lines.size();
         DialogScript script;
         script.Expect(DialogKind::Print, AnyText()).Answer(answer);
         RunCommand(IdPrint);
-        ASSERT_EQ(log.lines.size(), before + (told ? 1 : 0)) << answer;
-        EXPECT_EQ(Status(0), told ? "There was a problem printing." : "Select function") << answer;
-        EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(), told ? PrintTrouble : "") << answer;
+        ASSERT_EQ(log.lines.size(), before + (reported ? 1 : 0)) << answer;
+        EXPECT_EQ(Status(0), reported ? "There was a problem printing." : "Select function") << answer;
+        EXPECT_EQ(MainFrame->m_statusBar->GetToolTipText().utf8_string(), reported ? PrintTrouble : "")
+            << answer;
     }
     EXPECT_EQ(log.lines, std::vector<std::string>{PrintTrouble});
 }

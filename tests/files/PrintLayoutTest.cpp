@@ -117,7 +117,7 @@ TEST(RowsPerPageOfRows, CountsHighRowsAsTheyCome) {
     EXPECT_EQ(count({725, 725, 1}), 2);
     EXPECT_EQ(count({725, 726, 1}), 1);
     EXPECT_EQ(count({1400, 0, 50, 1}), 3) << "a hidden row counts and takes no room";
-    EXPECT_EQ(count({1400, 20, 23, 23, 23}), 3) << "rows behind one that doesn't fit are not asked";
+    EXPECT_EQ(count({1400, 20, 23, 23, 23}), 3) << "rows after one that doesn't fit are not measured";
     EXPECT_EQ(count({INT_MAX, INT_MAX, INT_MAX}), 1);
 }
 

@@ -364,7 +364,7 @@ TEST_F(Printing, HiddenColumnsTakeNoRoom) {
         const wxImage picture = Draw(1);
         return WhereColour(picture, Blue).GetLeft() - WhereColour(picture, Red).GetRight();
     };
-    EXPECT_GT(gap(), 400) << "scan list, description and mode stand between";
+    EXPECT_GT(gap(), 400) << "scan list, description and mode are in between";
     for (int col : {SCAN, DESC, MODE})
         CurrentGrid()->HideCol(col);
     EXPECT_LT(gap(), 15);

@@ -15,9 +15,7 @@ TEST_F(OpenSaveCommands, SaveOfAnEmptyPageSaysSo) {
     SetCell(CurrentParameters().Rows, DESC, "LAST"); // the last row doesn't count
     for (int command : {IdSave, IdSaveAs}) {
         DialogScript script;
-        script.Expect(DialogKind::Message, "Error")
-            .Message("Empty Grid - No data to Save")
-            .Style(wxOK | wxCENTRE | wxICON_ERROR);
+        ExpectErrorBox(script, "Error", "Empty Grid - No data to Save");
         Choose(command);
     }
 }
@@ -130,16 +128,10 @@ TEST_F(OpenSaveCommands, AFileWithDotsInItsNameIsSavedBackUnderIt) {
 TEST_F(OpenSaveCommands, SaveTakesTheTextOfAnOpenEditor) {
     PageStrings[0].FileDir = FolderText();
     PageStrings[0].FileName = "a";
-    wxGrid* grid = CurrentGrid();
-    testbench::ShowAndFocus(*MainFrame);
-    grid->GoToCell(0, DESC);
-    grid->SetFocus();
-    testbench::PumpUntilIdle();
-    testbench::TypeText("TYPED");
-    ASSERT_TRUE(grid->IsCellEditControlShown());
+    TypeWithoutEnd(0, DESC, "TYPED");
     Choose(IdSave);
     EXPECT_NE(ReadFromFolder("a.zelk").find("<DS>TYPED</DS>"), std::string::npos);
-    EXPECT_FALSE(grid->IsCellEditControlShown());
+    EXPECT_FALSE(CurrentGrid()->IsCellEditControlShown());
 }
 
 TEST_F(OpenSaveCommands, SaveKeepsThePageItself) {

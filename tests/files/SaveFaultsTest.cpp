@@ -77,7 +77,7 @@ TEST_F(SaveFaults, LeaveTheFormerFileOrTheNewOneWholeWhicheverCallFails) {
     }
     m_refused = 0;
     EXPECT_GT(SaveWithEachFailure(EPERM), 8);
-    EXPECT_EQ(m_refused, 0) << "where no file may come beside it, the former one is overwritten";
+    EXPECT_EQ(m_refused, 0) << "in a folder without write permission the file is overwritten";
 }
 
 TEST_F(SaveFaults, OfAFileThatIsOverwrittenInItsPlaceAreUndone) {

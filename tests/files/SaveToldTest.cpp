@@ -36,7 +36,7 @@ TEST_F(OpenSaveCommands, SaveTellsHowManyRowsItLeftOutAndWhich) {
     for (int row : {3, 4, CurrentParameters().Rows})
         EmptyRow(row);
     Choose(IdSave);
-    EXPECT_EQ(Status(0), "Saved a.zelk") << "what an earlier save told is no longer so";
+    EXPECT_EQ(Status(0), "Saved a.zelk") << "the report of an earlier save is out of date";
 }
 
 TEST_F(OpenSaveCommands, SaveNamesADefaultRowThatItLeftOutInTheToolTip) {

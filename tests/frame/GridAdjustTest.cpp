@@ -136,7 +136,7 @@ TEST_F(Adjusting, LeavesNoHiddenColumnThatCanBeDraggedOpen) {
             }
         }
     });
-    EXPECT_GT(resized, 0) << "no drag took hold of a border";
+    EXPECT_GT(resized, 0) << "no drag caught a border";
     Texts hidden;
     for (int col = 0; col < 32; ++col)
         if (CurrentGrid()->GetColSize(col) > 0 && CurrentGrid()->GetColLabelValue(col).empty())

@@ -142,7 +142,7 @@ TEST_F(Selecting, WithNothingChosenOkCannotBePressed) {
     dialogs.Expect(DialogKind::Other, radioTitle).Do([](wxDialog* dialog) {
         ClickButton(dialog, wxID_OK);
         PressKey("Return");
-        EXPECT_TRUE(dialog->IsModal()) << "the dialog still stands";
+        EXPECT_TRUE(dialog->IsModal()) << "the dialog is still open";
         RadioChoice->SetSelection(1);
         EXPECT_TRUE(PumpUntil([dialog] { return OkCanBePressed(dialog); }));
         RadioChoice->SetSelection(-1);
@@ -368,7 +368,7 @@ TEST_F(SelectingAPort, WithNonePresentOffersNothing) {
         EXPECT_FALSE(OkCanBePressed(dialog));
         ClickButton(dialog, wxID_OK);
         PressKey("Return");
-        EXPECT_TRUE(dialog->IsModal()) << "the dialog still stands";
+        EXPECT_TRUE(dialog->IsModal()) << "the dialog is still open";
         ClickButton(dialog, wxID_CANCEL);
     });
     RunCommand(IdSetPort);

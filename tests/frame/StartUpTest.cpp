@@ -107,8 +107,8 @@ TEST_F(StartUp, ToolBarStandsLeftOfTheNotebook) {
     const wxRect tools = MainFrame->m_toolBar->GetRect();
     const wxRect notebook = MainFrame->m_notebook->GetRect();
     EXPECT_LE(tools.GetRight(), notebook.GetLeft());
-    EXPECT_GT(tools.height, 400) << "the tools stand in a column";
-    EXPECT_LT(tools.width, 100) << "the tools stand in a column";
+    EXPECT_GT(tools.height, 400) << "the tools are in a column";
+    EXPECT_LT(tools.width, 100) << "the tools are in a column";
 }
 
 TEST_F(StartUp, LoggingIsOff) {
@@ -155,7 +155,7 @@ protected:
     }
 
     void TearDown() override {
-        EXPECT_TRUE(IsGone(m_window)) << "the window still stands";
+        EXPECT_TRUE(IsGone(m_window)) << "the window is still open";
         MainFrame = new ZelkFrame(nullptr);
         ZelkWindowTest::TearDown();
     }

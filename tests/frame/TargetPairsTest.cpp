@@ -91,7 +91,7 @@ protected:
         }
         std::cout << "seed " << seed << ": " << m_changes << " changes, " << m_sharing
                   << " of them with a band in "
-                  << "common; " << m_kept << " memories kept, " << m_untold << " to be told by a save\n";
+                  << "common; " << m_kept << " memories kept, " << m_untold << " that a save must report\n";
         EXPECT_GT(m_sharing, 0);
         EXPECT_GT(m_untold, 0);
     }

@@ -1,4 +1,4 @@
-// The program as it is installed, in a folder that stands for the file system's root.
+// The installed program, in a folder that takes the place of the file system's root.
 #include "resources/ToolImages.h"
 #include "robot/ClickPicture.h"
 #include "robot/Files.h"
@@ -38,7 +38,7 @@ protected:
 
     static fs::path Usr() { return *s_root / "usr"; }
 
-    /// Whatever stands below the root, but for folders, relative to it.
+    /// Everything below the root except folders, relative to it.
     static Paths Files() {
         Paths files;
         for (const auto& entry : fs::recursive_directory_iterator(s_root->Path()))

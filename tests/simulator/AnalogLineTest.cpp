@@ -9,8 +9,7 @@ namespace {
 using namespace Simulator;
 
 const AnalogModel& Model(const char* name, const char* band = "") {
-    std::string problem;
-    return *FindAnalogModel(name, band, problem);
+    return **FindAnalogModel(name, band);
 }
 
 constexpr char Good[] = "001 TOWER1    150.0000RX 151.2500TX CTCSS: 64RX 12TX DPL: 000RX 023TX 1_3__W";
@@ -28,9 +27,8 @@ std::string Changed(const Change& change) {
 }
 
 TEST(LongLine, OfEveryFieldIsTakenApart) {
-    std::string problem;
-    const auto memory = ParseLongLine(Good, Model("KRV-214"), 102, problem);
-    ASSERT_TRUE(memory) << problem;
+    const auto memory = ParseLongLine(Good, Model("KRV-214"), 102);
+    ASSERT_TRUE(memory) << memory.Reason();
     EXPECT_EQ(memory->number, 1);
     EXPECT_EQ(memory->description, "TOWER1   ");
     EXPECT_EQ(memory->rxFrequency, 1500000);
@@ -64,9 +62,8 @@ TEST(LongLine, IsTakenWithEveryGoodValueOfAField) {
         {"wide", 75, "W"},
     };
     for (const Change& change : good) {
-        std::string problem;
-        EXPECT_TRUE(ParseLongLine(Changed(change), Model("KRV-214"), 102, problem))
-            << change.name << " [" << Changed(change) << "]: " << problem;
+        const auto memory = ParseLongLine(Changed(change), Model("KRV-214"), 102);
+        EXPECT_TRUE(memory) << change.name << " [" << Changed(change) << "]: " << memory.Reason();
     }
 }
 
@@ -76,11 +73,11 @@ TEST(LongLine, IsRefusedForEachMalformedField) {
         {"number too high", 0, "103"},
         {"number with a blank", 0, " 01"},
         {"guard name", 0, "GD1"},
-        {"no blank behind the number", 3, "_"},
+        {"no blank after the number", 3, "_"},
         {"description with a blank first", 4, " TOWER1  "},
         {"description with a control character", 4, "TOW\tR1   "},
         {"description with bit 7", 4, "TOW\xC5R1   "},
-        {"no blank behind the description", 13, "X"},
+        {"no blank after the description", 13, "X"},
         {"receive frequency without a point", 14, "15000000"},
         {"receive frequency with a letter", 14, "15O.0000"},
         {"receive frequency with a blank", 14, " 50.0000"},
@@ -117,18 +114,16 @@ TEST(LongLine, IsRefusedForEachMalformedField) {
         {"mode left out", 75, " "},
     };
     for (const Change& change : bad) {
-        std::string problem;
-        EXPECT_FALSE(ParseLongLine(Changed(change), Model("KRV-214"), 102, problem))
-            << change.name << " [" << Changed(change) << "]";
-        EXPECT_FALSE(problem.empty()) << change.name;
+        const auto memory = ParseLongLine(Changed(change), Model("KRV-214"), 102);
+        EXPECT_FALSE(memory) << change.name << " [" << Changed(change) << "]";
+        EXPECT_FALSE(memory.Reason().empty()) << change.name;
     }
 }
 
 TEST(LongLine, OfAnotherLengthIsRefused) {
-    std::string problem;
     for (const std::string& line :
          {std::string(Good) + " ", std::string(Good).substr(0, 75), std::string(), "\n" + std::string(Good)})
-        EXPECT_FALSE(ParseLongLine(line, Model("KRV-214"), 102, problem)) << line;
+        EXPECT_FALSE(ParseLongLine(line, Model("KRV-214"), 102)) << line;
 }
 
 TEST(LongLine, KnowsEverySquelchCode) {
@@ -140,17 +135,11 @@ TEST(LongLine, KnowsEverySquelchCode) {
         "445", "464", "465", "466", "503", "506", "516", "532", "546", "565", "606", "612", "624", "627",
         "631", "632", "654", "662", "664", "703", "712", "723", "731", "732", "734", "743", "754"};
     int known = 0;
-    for (int code = 1; code <= 999; ++code) {
-        std::string problem;
-        known += ParseLongLine(Changed({"", 58, NumberField(code).c_str()}), Model("KRV-214"), 102, problem)
-                     ? 1
-                     : 0;
-    }
+    for (int code = 1; code <= 999; ++code)
+        known += ParseLongLine(Changed({"", 58, NumberField(code).c_str()}), Model("KRV-214"), 102) ? 1 : 0;
     EXPECT_EQ(known, 83);
-    for (const char* code : codes) {
-        std::string problem;
-        EXPECT_TRUE(ParseLongLine(Changed({"", 64, code}), Model("KRV-214"), 102, problem)) << code;
-    }
+    for (const char* code : codes)
+        EXPECT_TRUE(ParseLongLine(Changed({"", 64, code}), Model("KRV-214"), 102)) << code;
 }
 
 TEST(LongLine, OfTheModuleKeepsBothFrequenciesInOneRange) {
@@ -168,14 +157,12 @@ TEST(LongLine, OfTheModuleKeepsBothFrequenciesInOneRange) {
     for (const auto& pair : pairs) {
         std::string line = Changed({"", 14, pair.rx});
         line.replace(25, 8, pair.tx);
-        std::string problem;
-        EXPECT_EQ(ParseLongLine(line, module, 500, problem).has_value(), pair.good) << line;
+        EXPECT_EQ(static_cast<bool>(ParseLongLine(line, module, 500)), pair.good) << line;
     }
 }
 
 TEST(ShortLine, LeavesOutReceiveToneAndReceiveCode) {
-    std::string problem;
-    const auto memory = ParseLongLine(Good, Model("KRV-214"), 102, problem);
+    const auto memory = ParseLongLine(Good, Model("KRV-214"), 102);
     ASSERT_TRUE(memory);
     const std::string line = FormatShortLine(*memory, "001");
     EXPECT_EQ(line, "001 TOWER1    150.0000RX 151.2500TX CTCSS: 12TX DPL: 023TX 1_3__W");
@@ -188,9 +175,8 @@ TEST(ShortLine, LeavesOutReceiveToneAndReceiveCode) {
 
 TEST(EmptyMemory, IsAGoodLineOfItsBand) {
     for (const AnalogModel& model : AnalogModels()) {
-        std::string problem;
-        EXPECT_TRUE(ParseLongLine(FormatLongLine(EmptyMemory(model, 1), "001"), model, model.rows, problem))
-            << model.name << " " << model.band << ": " << problem;
+        const auto memory = ParseLongLine(FormatLongLine(EmptyMemory(model, 1), "001"), model, model.rows);
+        EXPECT_TRUE(memory) << model.name << " " << model.band << ": " << memory.Reason();
     }
     EXPECT_EQ(FormatLongLine(EmptyMemory(Model("KRV-21"), 7), "007"),
               "007           030.0000RX 030.0000TX CTCSS: 64RX 64TX DPL: 000RX 000TX LOCK N");

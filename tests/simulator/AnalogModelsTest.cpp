@@ -61,9 +61,9 @@ TEST(AnalogModels, HoldEveryAnalogBandOfTheProductList) {
     ASSERT_EQ(AnalogModels().size(), std::size(Radios));
     for (const Expected& expected : Radios) {
         SCOPED_TRACE(std::string(expected.name) + ":" + expected.band);
-        std::string problem;
-        const AnalogModel* model = FindAnalogModel(expected.name, expected.band, problem);
-        ASSERT_NE(model, nullptr) << problem;
+        const auto found = FindAnalogModel(expected.name, expected.band);
+        ASSERT_TRUE(found) << found.Reason();
+        const AnalogModel* model = *found;
         EXPECT_EQ(model->ranges[0].low, expected.low);
         EXPECT_EQ(model->ranges[0].high, expected.high);
         EXPECT_EQ(model->rows, expected.rows);
@@ -76,32 +76,32 @@ TEST(AnalogModels, HoldEveryAnalogBandOfTheProductList) {
 }
 
 TEST(AnalogModels, OfOneBandAreFoundWithoutIt) {
-    std::string problem;
-    const AnalogModel* model = FindAnalogModel("KRV-305", "", problem);
-    ASSERT_NE(model, nullptr);
-    EXPECT_EQ(model->band, "FM 403-512");
+    const auto found = FindAnalogModel("KRV-305", "");
+    ASSERT_TRUE(found) << found.Reason();
+    EXPECT_EQ((*found)->band, "FM 403-512");
 }
 
 TEST(AnalogModels, OfSeveralBandsAskForOne) {
-    std::string problem;
-    EXPECT_EQ(FindAnalogModel("KRV-650", "", problem), nullptr);
-    EXPECT_NE(problem.find("several bands"), std::string::npos) << problem;
-    EXPECT_NE(problem.find("\"FM 403-512\""), std::string::npos) << problem;
+    const auto found = FindAnalogModel("KRV-650", "");
+    EXPECT_FALSE(found);
+    EXPECT_NE(found.Reason().find("several bands"), std::string::npos) << found.Reason();
+    EXPECT_NE(found.Reason().find("\"FM 403-512\""), std::string::npos) << found.Reason();
 }
 
 TEST(AnalogModels, RefuseUnknownNamesAndBands) {
-    std::string problem;
-    EXPECT_EQ(FindAnalogModel("KDRV-716", "", problem), nullptr);
-    EXPECT_NE(problem.find("no analog radio"), std::string::npos) << problem;
-    EXPECT_EQ(FindAnalogModel("krv-214", "", problem), nullptr);
-    EXPECT_EQ(FindAnalogModel("KRV-214", "FM 30-50", problem), nullptr);
-    EXPECT_NE(problem.find("no such band"), std::string::npos) << problem;
+    const auto digital = FindAnalogModel("KDRV-716", "");
+    EXPECT_FALSE(digital);
+    EXPECT_NE(digital.Reason().find("no analog radio"), std::string::npos) << digital.Reason();
+    EXPECT_FALSE(FindAnalogModel("krv-214", ""));
+    const auto otherBand = FindAnalogModel("KRV-214", "FM 30-50");
+    EXPECT_FALSE(otherBand);
+    EXPECT_NE(otherBand.Reason().find("no such band"), std::string::npos) << otherBand.Reason();
 }
 
 TEST(AnalogModels, ModuleTunesThreeRanges) {
-    std::string problem;
-    const AnalogModel* model = FindAnalogModel("KDRV-4xxx", "K6 3-BAND", problem);
-    ASSERT_NE(model, nullptr);
+    const auto found = FindAnalogModel("KDRV-4xxx", "K6 3-BAND");
+    ASSERT_TRUE(found) << found.Reason();
+    const AnalogModel* model = *found;
     const int expected[][2] = {{30, 50}, {108, 138}, {225, 400}};
     for (int k = 0; k < 3; ++k) {
         EXPECT_EQ(model->ranges[k].low, expected[k][0]);

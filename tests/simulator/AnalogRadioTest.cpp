@@ -46,8 +46,7 @@ public:
         : m_radio(Model(name, band), Quiet(habits), List(Model(name, band), memories), m_link) {}
 
     static const AnalogModel& Model(const char* name, const char* band) {
-        std::string problem;
-        return *FindAnalogModel(name, band, problem);
+        return **FindAnalogModel(name, band);
     }
 
     /// Returns what the radio says to these bytes.
@@ -69,9 +68,8 @@ private:
     static MemoryList List(const AnalogModel& model, std::initializer_list<const char*> lines) {
         MemoryList list;
         for (const char* line : lines) {
-            std::string problem;
-            const auto memory = ParseLongLine(line, model, model.rows, problem);
-            EXPECT_TRUE(memory) << line << ": " << problem;
+            const auto memory = ParseLongLine(line, model, model.rows);
+            EXPECT_TRUE(memory) << line << ": " << memory.Reason();
             list[memory->number] = *memory;
         }
         return list;
@@ -94,7 +92,7 @@ TEST(WriteCommand, OfEachOpeningNumberIsTakenAfterItsOwnNumberOnly) {
         for (int number = 0; number <= 10; ++number) {
             Bench bench(radio.model);
             const std::string said = bench.Tell("rt\r" + std::to_string(number) + "\rdl\r" + line + "\r");
-            EXPECT_EQ(said, number == radio.number ? Ack : "") << radio.model << " told " << number;
+            EXPECT_EQ(said, number == radio.number ? Ack : "") << radio.model << " opened with " << number;
         }
     }
 }
@@ -216,7 +214,7 @@ TEST(Write, LeavesAMalformedLineUnacknowledgedAndSaysWhy) {
     EXPECT_EQ(bench.Tell(bad + "\r"), "");
     EXPECT_TRUE(bench.m_radio.Memories().empty());
     EXPECT_NE(bench.m_link.m_complaints.find("position 43"), std::string::npos) << bench.m_link.m_complaints;
-    EXPECT_EQ(bench.Tell(VhfLine("005") + "\r"), Ack) << "the next line stands for itself";
+    EXPECT_EQ(bench.Tell(VhfLine("005") + "\r"), Ack) << "the next line is taken on its own";
 }
 
 TEST(Write, SurvivesAnEndlessLine) {
@@ -376,7 +374,7 @@ TEST(Parity, OfAllBytesIncludesLineEndsAndAcknowledgements) {
     EXPECT_EQ(bench.Tell("rt\r1\rdl\r" + VhfLine("001") + "\r"), "\x85");
     bench.Tell(EndLine("300"));
     EXPECT_EQ(bench.Tell("rt\r1\rul\r "), expected);
-    EXPECT_EQ(bench.m_link.m_complaints, "") << "what it hears has no such bits";
+    EXPECT_EQ(bench.m_link.m_complaints, "") << "what it receives has no such bits";
 }
 
 TEST(Radio, HearsNothingWhileItSends) {

@@ -80,12 +80,13 @@ inline std::string PlainV2(unsigned number, std::string_view name = "PLAIN   ") 
 class Bench {
 public:
     explicit Bench(std::vector<std::string> arguments) {
-        std::string problem;
         arguments.insert(arguments.begin(), "--model");
         Simulator::DigitalContents contents;
-        if (!Simulator::ParseOptions(arguments, m_options, problem) ||
-            !Simulator::LoadContents(*m_options.digitalModel, m_options.digital, contents, problem))
-            throw std::runtime_error(problem);
+        Simulator::Failure failure = Simulator::ParseOptions(arguments, m_options);
+        if (!failure)
+            failure = Simulator::LoadContents(*m_options.digitalModel, m_options.digital, contents);
+        if (failure)
+            throw std::runtime_error(*failure);
         m_link = std::make_unique<Simulator::FaultyLink>(Simulator::FaultPlan(m_options.faults),
                                                          m_options.late, m_output, m_journal);
         m_radio = std::make_unique<Simulator::DigitalRadio>(*m_options.digitalModel, m_options.digital.habits,

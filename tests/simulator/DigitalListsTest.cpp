@@ -57,13 +57,10 @@ TEST(ConfigRule, IsThatTheBytesOfFourFieldsAndOneAddUpToZero) {
         {"a:b:FF:00:00", false},
         {"", false},
     };
-    for (const auto& test : cases) {
-        std::string problem;
-        EXPECT_EQ(IsGoodConfig(test.line, problem), test.good) << test.line << ": " << problem;
-    }
-    std::string problem;
+    for (const auto& test : cases)
+        EXPECT_EQ(!CheckConfig(test.line), test.good) << test.line;
     for (const std::string& line : DefaultConfig())
-        EXPECT_TRUE(IsGoodConfig(line, problem)) << line << ": " << problem;
+        EXPECT_EQ(CheckConfig(line), std::nullopt) << line;
 }
 
 TEST(ConfigList, IsReadWithItsCount) {
@@ -151,28 +148,27 @@ TEST(DebugLog, OfEachProtocolComesWithoutAFile) {
         EXPECT_EQ(bench.Tell(SendLog), Said(Ack));
         const std::string all = Rest(bench);
         EXPECT_EQ(CountOf(all, "|"), 3) << all;
-        std::string problem;
-        EXPECT_TRUE(ParseRecord(all.substr(0, all.find('|')), problem)) << problem;
+        const auto record = ParseRecord(all.substr(0, all.find('|')));
+        EXPECT_TRUE(record) << record.Reason();
     }
 }
 
 TEST(ListFiles, WithBadLinesAreRefusedWithTheirPlace) {
     const TempFolder folder;
     std::vector<std::string> lines = {"old"};
-    std::string problem;
+    const auto expectRefusedAtLine2 = [](const Failure& failure, const char* what) {
+        ASSERT_TRUE(failure) << what;
+        EXPECT_NE(failure->find("list:2: "), std::string::npos) << what << ": " << *failure;
+    };
     for (const char* bad :
-         {"xyz", "2000 012", "2000 01 02", "20001 02", "2000 ab", "T10400004", "T10500004A", "2000"}) {
-        EXPECT_FALSE(LoadLog(File(folder, "2000 01\n" + std::string(bad) + "\n"), lines, problem)) << bad;
-        EXPECT_NE(problem.find("list:2: "), std::string::npos) << bad << ": " << problem;
-    }
-    EXPECT_FALSE(LoadConfig(File(folder, "a:b:FF:::\na:b:FE:::\n"), lines, problem));
-    EXPECT_NE(problem.find("list:2: "), std::string::npos) << problem;
-    EXPECT_FALSE(LoadHardware(File(folder, "A\n\x07\n"), lines, problem));
-    EXPECT_NE(problem.find("list:2: "), std::string::npos) << problem;
-    EXPECT_FALSE(LoadHardware(File(folder, std::string(253, 'A')), lines, problem));
-    EXPECT_FALSE(LoadHardware(folder / "none", lines, problem));
-    EXPECT_FALSE(LoadLog(folder / "none", lines, problem));
-    EXPECT_TRUE(LoadConfig(folder / "none", lines, problem)) << "made when it is first written";
+         {"xyz", "2000 012", "2000 01 02", "20001 02", "2000 ab", "T10400004", "T10500004A", "2000"})
+        expectRefusedAtLine2(LoadLog(File(folder, "2000 01\n" + std::string(bad) + "\n"), lines), bad);
+    expectRefusedAtLine2(LoadConfig(File(folder, "a:b:FF:::\na:b:FE:::\n"), lines), "configuration");
+    expectRefusedAtLine2(LoadHardware(File(folder, "A\n\x07\n"), lines), "hardware");
+    EXPECT_TRUE(LoadHardware(File(folder, std::string(253, 'A')), lines));
+    EXPECT_TRUE(LoadHardware(folder / "none", lines));
+    EXPECT_TRUE(LoadLog(folder / "none", lines));
+    EXPECT_EQ(LoadConfig(folder / "none", lines), std::nullopt) << "made when it is first written";
     EXPECT_EQ(lines, std::vector<std::string>{"old"});
 }
 

@@ -17,8 +17,7 @@ const DigitalModel& B() {
 
 DigitalMemoryList Loaded(const std::string& path, const DigitalModel& model = B()) {
     DigitalMemoryList list;
-    std::string problem;
-    EXPECT_TRUE(LoadDigitalMemories(path, model, list, problem)) << problem;
+    EXPECT_EQ(LoadDigitalMemories(path, model, list), std::nullopt);
     return list;
 }
 
@@ -30,8 +29,7 @@ TEST(DigitalMemoryFile, GivesBackWhatWasSaved) {
     std::ofstream(path) << text;
     const DigitalMemoryList list = Loaded(path);
     EXPECT_EQ(list.size(), 3u);
-    std::string problem;
-    ASSERT_TRUE(SaveDigitalMemories(folder / "copy.txt", B(), Layout::V2, list, problem)) << problem;
+    ASSERT_EQ(SaveDigitalMemories(folder / "copy.txt", B(), Layout::V2, list), std::nullopt);
     EXPECT_EQ(ReadFile(folder / "copy.txt"), text);
 }
 
@@ -43,8 +41,7 @@ TEST(DigitalMemoryFile, UsesTheFirstLayoutWhereItHoldsTheMemoryWhole) {
     std::ofstream(path) << "1 " << Framed(PlainV1(5)) << "\n2 " << Framed(PlainV2(6)) << "\n2 "
                         << Framed(fine) << "\n2 " << Framed(moved) << "\n2 " << Framed(PlainV2(300)) << "\n1 "
                         << Framed(PlainV1(231)) << "\n";
-    std::string problem;
-    ASSERT_TRUE(SaveDigitalMemories(folder / "copy.txt", B(), Layout::V1, Loaded(path), problem));
+    ASSERT_EQ(SaveDigitalMemories(folder / "copy.txt", B(), Layout::V1, Loaded(path)), std::nullopt);
     EXPECT_EQ(ReadFile(folder / "copy.txt"), "# KDRV-716B FM 136-174\n1 " + Framed(PlainV1(5)) + "\n1 " +
                                                  Framed(PlainV1(6)) + "\n2 " + Framed(fine) + "\n2 " +
                                                  Framed(moved) + "\n2 " + Framed(PlainV2(300)) + "\n1 " +
@@ -85,10 +82,10 @@ TEST(DigitalMemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlaceAndL
         std::ofstream(path) << text;
         DigitalMemoryList list;
         list[9].number = 9;
-        std::string problem;
-        EXPECT_FALSE(LoadDigitalMemories(path, B(), list, problem)) << bad.what;
-        EXPECT_NE(problem.find("radio.txt:2: "), std::string::npos) << bad.what << ": " << problem;
-        EXPECT_NE(problem.find(bad.why), std::string::npos) << bad.what << ": " << problem;
+        const Failure failure = LoadDigitalMemories(path, B(), list);
+        ASSERT_TRUE(failure) << bad.what;
+        EXPECT_NE(failure->find("radio.txt:2: "), std::string::npos) << bad.what << ": " << *failure;
+        EXPECT_NE(failure->find(bad.why), std::string::npos) << bad.what << ": " << *failure;
         EXPECT_EQ(list.size(), 1u) << bad.what;
         EXPECT_EQ(ReadFile(path), text) << bad.what;
     }
@@ -105,8 +102,7 @@ TEST(DigitalMemoryFile, IsWrittenAtTheEndRecordAndNotAfterARead) {
     EXPECT_EQ(ReadFile(path), "# KDRV-716 FM 136-174\n1 " + Framed(PlainV1(5)) + "\n");
     std::ofstream(path) << "";
     bench.ReadAll();
-    std::string problem;
-    EXPECT_TRUE(bench.Radio().Store(problem));
+    EXPECT_EQ(bench.Radio().Store(), std::nullopt);
     EXPECT_EQ(ReadFileIfAny(path), "") << "nothing has changed since";
 }
 

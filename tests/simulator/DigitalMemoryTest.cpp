@@ -18,10 +18,9 @@ const DigitalModel& Module() {
 }
 
 DigitalMemory Parsed(Layout layout, const std::string& body, const DigitalModel& model) {
-    std::string problem;
-    const auto memory = ParseMemory(layout, Framed(body), model, problem);
-    EXPECT_TRUE(memory) << body << ": " << problem;
-    return memory.value_or(DigitalMemory{});
+    const auto memory = ParseMemory(layout, Framed(body), model);
+    EXPECT_TRUE(memory) << body << ": " << memory.Reason();
+    return memory ? *memory : DigitalMemory{};
 }
 
 // Memory 5 "TOWER 1": zone 4, narrow, 154.1234 and 155.0125 MHz, squelch t and c.
@@ -85,9 +84,8 @@ constexpr char WorkedV2[] = "T143"
                             "0D";
 
 TEST(MemoryRecordV1, IsReadFieldByField) {
-    std::string problem;
-    const auto memory = ParseMemory(Layout::V1, WorkedV1, A(), problem);
-    ASSERT_TRUE(memory) << problem;
+    const auto memory = ParseMemory(Layout::V1, WorkedV1, A());
+    ASSERT_TRUE(memory) << memory.Reason();
     EXPECT_EQ(memory->address, 5);
     EXPECT_EQ(memory->number, 5);
     EXPECT_EQ(memory->primary, 5);
@@ -113,9 +111,8 @@ TEST(MemoryRecordV1, IsReadFieldByField) {
 }
 
 TEST(MemoryRecordV2, IsReadFieldByField) {
-    std::string problem;
-    const auto memory = ParseMemory(Layout::V2, WorkedV2, B(), problem);
-    ASSERT_TRUE(memory) << problem;
+    const auto memory = ParseMemory(Layout::V2, WorkedV2, B());
+    ASSERT_TRUE(memory) << memory.Reason();
     EXPECT_EQ(memory->address, 501);
     EXPECT_EQ(memory->number, 501);
     EXPECT_EQ(memory->primary, 501);
@@ -252,10 +249,9 @@ TEST(MemoryRecordV2, OfTheModuleKnowsItsBandsAndItsAnalogChannels) {
                               "0D693A40", "18054AC0", "2E9DF500", "39387000"})
         Parsed(Layout::V2, With(With(blank, 44, hertz), 68, hertz), Module());
     Parsed(Layout::V2, With(With(blank, 58, "54"), 82, "54"), Module());
-    std::string problem;
-    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(With(blank, 44, "03938700")), Module(), problem)) << "60 MHz";
-    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(PlainV2(501)), Module(), problem)) << "no memory 501";
-    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(blank), B(), problem)) << "a P25 radio needs squelch letters";
+    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(With(blank, 44, "03938700")), Module())) << "60 MHz";
+    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(PlainV2(501)), Module())) << "no memory 501";
+    EXPECT_FALSE(ParseMemory(Layout::V2, Framed(blank), B())) << "a P25 radio needs squelch letters";
 }
 
 TEST(ShadowFields, ArePutTogetherFromTheShadowsThatAreHeld) {

@@ -10,9 +10,8 @@ using namespace Simulator;
 
 Options Parsed(std::vector<std::string> arguments) {
     Options options;
-    std::string problem;
     arguments.insert(arguments.begin(), "--model");
-    EXPECT_TRUE(ParseOptions(arguments, options, problem)) << problem;
+    EXPECT_EQ(ParseOptions(arguments, options), std::nullopt);
     return options;
 }
 
@@ -98,19 +97,18 @@ TEST(DigitalCommandLine, ThatCannotBeUnderstoodIsRefused) {
     };
     for (auto arguments : bad) {
         Options options;
-        std::string problem;
         arguments.insert(arguments.begin(), "--model");
-        EXPECT_FALSE(ParseOptions(arguments, options, problem)) << testing::PrintToString(arguments);
-        EXPECT_FALSE(problem.empty()) << testing::PrintToString(arguments);
+        const Failure failure = ParseOptions(arguments, options);
+        ASSERT_TRUE(failure) << testing::PrintToString(arguments);
+        EXPECT_FALSE(failure->empty()) << testing::PrintToString(arguments);
     }
 }
 
 TEST(DigitalCommandLine, KnowsEveryKindOfFault) {
     for (const char* text : {"checksum@1", "checksum-always@2", "nak@3", "nak-always@4", "wait@5/2",
                              "joined@6", "linefeed@7", "end@8", "deaf@1", "busy@1"}) {
-        std::string problem;
-        const auto fault = ParseFault(text, problem);
-        ASSERT_TRUE(fault) << text << ": " << problem;
+        const auto fault = ParseFault(text);
+        ASSERT_TRUE(fault) << fault.Reason();
         EXPECT_EQ(FaultText(*fault), text);
         EXPECT_NE(HelpText().find(std::string(text).substr(0, std::string(text).find('@'))),
                   std::string::npos);

@@ -10,7 +10,7 @@ struct Bad {
     const char* what;
     std::size_t position;
     const char* text;
-    int told = -1; ///< position that the radio reports; without it, the field's own
+    int reported = -1; ///< position that the radio reports; without it, the field's own
 };
 
 constexpr Bad BadV1[] = {
@@ -87,11 +87,11 @@ constexpr Bad BadV2[] = {
 /// Expects a refusal at the field's position; the radio answers NAK, counts it and stores nothing.
 void ExpectRefused(Bench& bench, Layout layout, const DigitalModel& model, const Bad& bad,
                    const std::string& body) {
-    std::string problem;
-    EXPECT_FALSE(ParseMemory(layout, Framed(body), model, problem)) << bad.what;
-    const int told = bad.told < 0 ? static_cast<int>(bad.position) : bad.told;
-    EXPECT_TRUE(problem.starts_with("position " + std::to_string(told) + ": "))
-        << bad.what << ": " << problem;
+    const auto memory = ParseMemory(layout, Framed(body), model);
+    EXPECT_FALSE(memory) << bad.what;
+    const int reported = bad.reported < 0 ? static_cast<int>(bad.position) : bad.reported;
+    EXPECT_TRUE(memory.Reason().starts_with("position " + std::to_string(reported) + ": "))
+        << bad.what << ": " << memory.Reason();
     const int before = bench.Radio().Violations();
     EXPECT_EQ(bench.Tell(Framed(body)), Said(Nak)) << bad.what;
     EXPECT_EQ(bench.Radio().Violations(), before + 1) << bad.what;

@@ -17,8 +17,7 @@ const std::string Noise("\x00\xFF\x80\x1B\xFE\x7F\x00\xF5", 8);
 class Bench {
 public:
     explicit Bench(const char* fault) {
-        std::string problem;
-        m_link.emplace(FaultPlan({*ParseFault(fault, problem)}), 300ms, m_output, m_journal);
+        m_link.emplace(FaultPlan({*ParseFault(fault)}), 300ms, m_output, m_journal);
     }
 
     FaultyLink& Link() { return *m_link; }

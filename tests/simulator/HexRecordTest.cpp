@@ -14,16 +14,14 @@ TEST(HexRecord, GetsTheComplementOfTheSumAsItsChecksum) {
 }
 
 TEST(HexRecord, IsReadIntoTypeAddressAndData) {
-    std::string problem;
     const auto erase = ParseRecord("T20401F41"
-                                   "0F6",
-                                   problem);
-    ASSERT_TRUE(erase) << problem;
+                                   "0F6");
+    ASSERT_TRUE(erase) << erase.Reason();
     EXPECT_EQ(erase->type, HexRecord::Type::Message);
     EXPECT_EQ(erase->address, 500);
     EXPECT_EQ(erase->data, std::vector<std::uint8_t>{0x10});
-    const auto end = ParseRecord("T9030000FC", problem);
-    ASSERT_TRUE(end) << problem;
+    const auto end = ParseRecord("T9030000FC");
+    ASSERT_TRUE(end) << end.Reason();
     EXPECT_EQ(end->type, HexRecord::Type::End);
     EXPECT_TRUE(end->data.empty());
 }
@@ -52,9 +50,9 @@ TEST(HexRecord, ThatIsNotExactlyInShapeIsRefused) {
         {"end with data", "T904000000FB", "end record"},
     };
     for (const auto& bad : cases) {
-        std::string problem;
-        EXPECT_FALSE(ParseRecord(bad.line, problem)) << bad.what;
-        EXPECT_NE(problem.find(bad.why), std::string::npos) << bad.what << ": " << problem;
+        const auto record = ParseRecord(bad.line);
+        EXPECT_FALSE(record) << bad.what;
+        EXPECT_NE(record.Reason().find(bad.why), std::string::npos) << bad.what << ": " << record.Reason();
     }
 }
 

@@ -9,8 +9,7 @@ using namespace std::chrono_literals;
 
 Options Parsed(const std::vector<std::string>& arguments) {
     Options options;
-    std::string problem;
-    EXPECT_TRUE(ParseOptions(arguments, options, problem)) << problem;
+    EXPECT_EQ(ParseOptions(arguments, options), std::nullopt);
     return options;
 }
 
@@ -120,18 +119,17 @@ TEST(CommandLine, ThatCannotBeUnderstoodIsRefused) {
     };
     for (const auto& arguments : bad) {
         Options options;
-        std::string problem;
-        EXPECT_FALSE(ParseOptions(arguments, options, problem)) << testing::PrintToString(arguments);
-        EXPECT_FALSE(problem.empty()) << testing::PrintToString(arguments);
+        const Failure failure = ParseOptions(arguments, options);
+        ASSERT_TRUE(failure) << testing::PrintToString(arguments);
+        EXPECT_FALSE(failure->empty()) << testing::PrintToString(arguments);
     }
 }
 
 TEST(CommandLine, KnowsEveryKindOfFault) {
     for (const char* text :
          {"silence@1", "late-ack@2", "no-ack@3", "noise@4", "torn@5", "cut@6", "unplug@7", "unplug@7/3"}) {
-        std::string problem;
-        const auto fault = ParseFault(text, problem);
-        ASSERT_TRUE(fault) << text << ": " << problem;
+        const auto fault = ParseFault(text);
+        ASSERT_TRUE(fault) << fault.Reason();
         EXPECT_EQ(FaultText(*fault), text);
     }
 }

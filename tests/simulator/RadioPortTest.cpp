@@ -127,7 +127,7 @@ TEST(RadioPort, DropsWhatWasNotReadWhenItsUserGoes) {
     PortClient next(radio.Port());
     EXPECT_EQ(next.ReadUntilQuiet(200ms), "");
     next.Send("dl\r");
-    EXPECT_TRUE(IsTaken(next, VhfLine("001"))) << "the dialogue began anew";
+    EXPECT_TRUE(IsTaken(next, VhfLine("001"))) << "a new dialogue began";
 }
 
 TEST(RadioPort, ForgetsHalfACommandWhenItsUserGoes) {
@@ -276,7 +276,7 @@ TEST(RadioProgram, ReplacesTheLinkOfOneThatWasKilled) {
     RadioInFolder killed(folder, {"--model", "KRV-214"});
     killed.Signal(SIGKILL);
     ASSERT_EQ(killed.WaitForExit(), 128 + SIGKILL);
-    ASSERT_TRUE(fs::is_symlink(folder / "ports/KRV-214")) << "nobody could clean up";
+    ASSERT_TRUE(fs::is_symlink(folder / "ports/KRV-214")) << "no one could clean up";
     RadioInFolder radio(folder, {"--model", "KRV-214", "--banner", ""});
     ASSERT_EQ(radio.Port(), (folder / "ports/KRV-214").string()) << radio.Output();
     PortClient client(radio.Port());
@@ -382,7 +382,7 @@ TEST(RadioLog, HoldsBothDirectionsWithTheirTimes) {
         EXPECT_GE(time, last) << line;
         last = time;
     }
-    EXPECT_TRUE(radio.WaitForLine("zelk-radio: refused")) << "and the person watching is told";
+    EXPECT_TRUE(radio.WaitForLine("zelk-radio: refused")) << "and the user sees the refusal";
 }
 
 } // namespace

@@ -155,5 +155,5 @@ TEST(ToolkitAssertion, IsAFailureUnlessTurnedOff) {
 
 TEST(Hanging, DISABLED_InADialog) {
     const ShowDialogs shown;
-    wxDialog(nullptr, wxID_ANY, "Nobody answers").ShowModal();
+    wxDialog(nullptr, wxID_ANY, "No one answers").ShowModal();
 }

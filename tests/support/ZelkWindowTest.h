@@ -1,4 +1,4 @@
-// A test with the program's main window, created anew for each test.
+// A test with the program's main window, created for each test.
 #pragma once
 
 #include "catalogue/GridShape.h"

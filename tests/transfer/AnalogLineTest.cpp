@@ -123,7 +123,7 @@ TEST_F(PadFrequencyOf, AnyTextHasThreeDigitsPointFourDigits) {
             {"one digit of MHz", "5.1", "005.1000"},
             {"three decimals", "118.125", "118.1250"},
             {"nothing before the point", ".5", "000.5000"},
-            {"nothing behind the point", "155.", "155.0000"},
+            {"nothing after the point", "155.", "155.0000"},
             {"five decimals are cut", "155.01256", "155.0125"},
             {"many decimals are cut", "30.123456789", "030.1234"},
             {"three digits without point", "155", "155.0000"},

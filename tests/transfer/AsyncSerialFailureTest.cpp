@@ -148,7 +148,7 @@ TEST(AsyncSerialClose, ForgetsWhatWasWrittenBehindItSoThatTheNextDeviceNeverGets
     port.writeString("before the first opening\r");
     port.open(device.SlaveName(), 9600);
     port.close();
-    port.writeString("behind the close\r");
+    port.writeString("after the close\r");
     port.open(device.SlaveName(), 9600);
     port.writeString("fresh\r");
     EXPECT_EQ(device.ReadUntil('\r'), "fresh\r");

@@ -430,7 +430,7 @@ private:
         std::cout << "[ property ] seed " << seed << ": " << m_tally.steps << " steps, "
                   << m_tally.steps / took.count() << " a second; " << m_tally.writes << " writes, "
                   << m_tally.reads << " reads, " << m_tally.purges << " purges, " << m_tally.failures
-                  << " failed behind one, " << m_tally.questions << " questions, " << m_tally.refusals
+                  << " failed after one, " << m_tally.questions << " questions, " << m_tally.refusals
                   << " refused, " << m_tally.shadows << " shadows, " << m_tally.memoriesChecked
                   << " memories held\n";
     }

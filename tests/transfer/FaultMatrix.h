@@ -19,9 +19,9 @@ enum class Left { All, UpToN, BeforeN, None };
 /// A kind of fault and the required end of its transfer.
 struct FaultEnding {
     const char* name;
-    std::vector<std::string> options; ///< for zelk-radio; "#" stands for N
+    std::vector<std::string> options; ///< for zelk-radio; "#" is replaced by N
     const char* status;               ///< text of the status
-    const char* box = "";             ///< box that reports it; "#" stands for the channel; empty: no box
+    const char* box = "";             ///< box that reports it; "#" is replaced by the channel; empty: no box
     Left left = Left::All;
     bool once = false; ///< N has no meaning: the fault is played at the first record only
     bool portRemains = true;

@@ -129,7 +129,7 @@ TEST(PortLock, MarksTheDeviceForOpenersThatAskForNoLockAndLiftsTheMarkAtTheClose
     EXPECT_EQ(marked(), 1);
     CallbackAsyncSerial refused;
     EXPECT_FALSE(CanOpen(refused, device.SlaveName()));
-    EXPECT_EQ(marked(), 1) << "the refused opener has lifted the mark of the one who holds the port";
+    EXPECT_EQ(marked(), 1) << "the refused opener has removed the mark of the port's holder";
     port.close();
     EXPECT_EQ(marked(), 0);
     ::close(watcher);

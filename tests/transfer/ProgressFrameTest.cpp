@@ -197,7 +197,7 @@ TEST_F(ProgressFrameTest, CloseByTheWindowManagerCountsAsCancelAndLeavesTheWindo
     PumpUntilIdle();
     EXPECT_FALSE(frame.IsBeingDeleted());
     EXPECT_TRUE(frame.IsShown());
-    EXPECT_FALSE(frame.Close()) << "who asks is told that the window stays";
+    EXPECT_FALSE(frame.Close()) << "the caller learns that the window stays";
 }
 
 TEST_F(ProgressFrameTest, ACloseThatCannotBeRefusedLeavesTheWindowToItsTransfer) {

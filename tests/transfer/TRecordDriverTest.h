@@ -174,4 +174,7 @@ private:
     std::filesystem::path m_formerDirectory;
 };
 
+/// Suite of the digital driver in cases that the transcripts don't cover.
+class TRecordDriver : public TRecordDriverTest {};
+
 } // namespace transfertest

@@ -44,7 +44,7 @@ TEST_P(TRecordGeneration, IsWrittenTo) {
     EXPECT_EQ(CellText(3, TFLG), "E1");
     EXPECT_EQ(m_context.RowsSent, (std::set<int>{1, 3}));
     EXPECT_EQ(m_context.RecordVersion, IsLatest() ? 2u : 1u);
-    EXPECT_EQ(Text(RadioStamp), KnownStamp) << "a write keeps the stamp that the radio told";
+    EXPECT_EQ(Text(RadioStamp), KnownStamp) << "a write keeps the stamp that the radio reported";
 }
 
 TEST_P(TRecordGeneration, IsReadFrom) {

@@ -268,7 +268,7 @@ TEST_F(TRecordReply, WithAConfigurationTextMovesTheGaugeToItsNumberAlsoIfTheText
     Take(record("CR13:bad"), 2);
     EXPECT_EQ(m_attachment->Gauge()->GetValue(), 20);
     Take(record("CR14:bad"), 2);
-    EXPECT_EQ(m_attachment->Gauge()->GetValue(), 20) << "behind the last line";
+    EXPECT_EQ(m_attachment->Gauge()->GetValue(), 20) << "after the last line";
     Take(record("CR-5:bad"), 2);
     EXPECT_EQ(m_attachment->Gauge()->GetValue(), 20) << "before the first line";
     EXPECT_TRUE(m_context.ConfigLines.empty());

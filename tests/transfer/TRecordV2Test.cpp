@@ -146,7 +146,7 @@ const DecodeCase<V2Line> FromRadio[] = {
     {"tone 0 and code FF", Kdrv716B,
      {.rxTone = "00", .rxCode = "FF", .txTone = "00", .txCode = "FF"},
      5, {{RTON, "67.0"}, {RCOD, "023"}, {TTON, "67.0"}, {TCOD, "023"}}, {RTON, RCOD, TTON, TCOD}, PlainRow},
-    {"tone and code right behind their lists", Kdrv716B,
+    {"tone and code right after their lists", Kdrv716B,
      {.rxTone = "2B", .rxCode = "53", .txTone = "FF", .txCode = "54"},
      5, {{RTON, "67.0"}, {RCOD, "023"}, {TTON, "67.0"}, {TCOD, "023"}}, {RTON, RCOD, TTON, TCOD}, PlainRow},
     {"a receive code alone that the list lacks", Kdrv716B,
@@ -297,7 +297,7 @@ TEST_F(TRecordV2, TakesItsZoneAsTheRoomInTheZonesAllows) {
     ZoneSlots[2] = 16;
     ASSERT_EQ(decodeTrecordV2(CurrentGrid(), V2Line().Text()), 1);
     EXPECT_EQ(Cell(5, ZONE), "3")
-        << "meant: a row that finds its zone full keeps the zone's text, without a slot";
+        << "intentional: a row that finds its zone full keeps the zone's text, without a slot";
     ZoneSlots[0] = 16;
     V2Line line;
     line.zone = "0000";

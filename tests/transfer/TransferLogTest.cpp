@@ -26,7 +26,7 @@ public:
 
 protected:
     void DoLogRecord(wxLogLevel, const wxString& text, const wxLogRecordInfo&) override {
-        ADD_FAILURE() << "told the user: " << text;
+        ADD_FAILURE() << "showed the user: " << text;
     }
 
 private:

@@ -62,7 +62,7 @@ TEST(TransferContextStart, HasNoPortNoWindowNoTextAndNoCount) {
     EXPECT_EQ(context.Index, 0);
     EXPECT_EQ(context.Phase + context.XferFlags + context.ConfigCount + context.RowCapacity, 0u);
     EXPECT_EQ(context.RetryCount + context.Protocol + context.RadioModes, 0u);
-    EXPECT_EQ(context.RecordVersion, 1u) << "until the radio has told its firmware";
+    EXPECT_EQ(context.RecordVersion, 1u) << "until the radio has reported its firmware";
 }
 
 } // namespace

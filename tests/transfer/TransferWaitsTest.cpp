@@ -153,7 +153,7 @@ TEST_F(WaitForLineTest, CancelWinsOverTimeOutAndLine) {
     m_frame->Cancelled = true;
     EXPECT_EQ(WaitForReturn(0), 10);
     EXPECT_EQ(WaitForReturn(5000), 10);
-    EXPECT_EQ(m_context.FoundAt, 4) << "what came is looked at all the same";
+    EXPECT_EQ(m_context.FoundAt, 4) << "received data is examined in any case";
 }
 
 TEST_F(WaitForLineTest, TimeOutWinsOverALineOfTheSamePass) {

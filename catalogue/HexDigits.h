@@ -21,6 +21,6 @@ constexpr bool IsHexDigit(Character c) {
 }
 
 /// The digit for the last four bits of a number, in upper case.
-constexpr wchar_t HexDigit(std::uint32_t number) {
+constexpr wchar_t HexDigit(uint32_t number) {
     return L"0123456789ABCDEF"[number & 0xF];
 }

@@ -5,4 +5,4 @@
 
 /// Longest text taken into a cell, in characters. No cell needs more, and drawing a very long text takes
 /// seconds.
-inline constexpr std::size_t LongestCellText = 256;
+inline constexpr size_t LongestCellText = 256;

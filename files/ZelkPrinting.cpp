@@ -127,7 +127,7 @@ void ZelkPrintout::CalculateRowsPerPage() {
     for (unsigned col = 0; col < ColumnTotal; ++col)
         totalWidth += columns.GetSize(col);
     std::vector<int> rowHeights;
-    rowHeights.reserve(static_cast<std::size_t>(m_grid->GetNumberRows()));
+    rowHeights.reserve(static_cast<size_t>(m_grid->GetNumberRows()));
     for (int row = 0; row < m_grid->GetNumberRows(); ++row)
         rowHeights.push_back(m_grid->GetRowSize(row));
     const bool landscape = PrintData->GetOrientation() == wxLANDSCAPE;

@@ -15,7 +15,7 @@ std::vector<std::string> DefaultHardware();
 [[nodiscard]] Failure LoadHardware(const std::string& path, std::vector<std::string>& lines);
 
 /// Greatest length of a text in a data record.
-constexpr std::size_t LongestText = 252;
+constexpr size_t LongestText = 252;
 /// Requires that the text fits into a data record.
 [[nodiscard]] Failure CheckRecordText(std::string_view text);
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-wxString FieldAt(const wxArrayString& fields, std::size_t index) {
+wxString FieldAt(const wxArrayString& fields, size_t index) {
     return index < fields.size() ? fields[index] : wxString();
 }
 
@@ -27,7 +27,7 @@ AnalogInformation ParseInformation(const wxString& block) {
     }
     const wxString product = FieldAt(fields, 0);
     const int code = product.empty() ? -1 : HexDigitValue(product[0].GetValue());
-    information.productCode = static_cast<std::uint32_t>(std::max(code, 0));
+    information.productCode = static_cast<uint32_t>(std::max(code, 0));
     information.version = product.Mid(1);
     information.serial = FieldAt(fields, 1);
     information.rowCount = ReadDecimal(FieldAt(fields, 2));

@@ -8,33 +8,33 @@
 int HexByteSum(const wxString& text) {
     const std::wstring_view line = text.ToStdWstring();
     int sum = 0;
-    for (std::size_t at = 0; at + 1 < line.length(); at += 2)
+    for (size_t at = 0; at + 1 < line.length(); at += 2)
         sum += ReadNumber(line.substr(at, 2), 16).value_or(0);
     return sum;
 }
 
-std::uint32_t HexNumberAt(const wxString& text, std::size_t position, std::size_t digits) {
+uint32_t HexNumberAt(const wxString& text, size_t position, size_t digits) {
     return HexNumberAt(std::wstring_view(text.ToStdWstring()), position, digits);
 }
 
-std::uint32_t HexNumberAt(std::wstring_view text, std::size_t position, std::size_t digits) {
-    std::uint32_t number = 0;
-    for (std::size_t at = position; at < position + digits; ++at) {
+uint32_t HexNumberAt(std::wstring_view text, size_t position, size_t digits) {
+    uint32_t number = 0;
+    for (size_t at = position; at < position + digits; ++at) {
         const int digit = at < text.length() ? HexDigitValue(text[at]) : -1;
-        number = number << 4 | (digit >= 0 ? static_cast<std::uint32_t>(digit) : 0);
+        number = number << 4 | (digit >= 0 ? static_cast<uint32_t>(digit) : 0);
     }
     return number;
 }
 
-void WriteHex(wchar_t* to, std::size_t digits, std::uint32_t number) {
-    for (std::size_t at = digits; at-- > 0; number >>= 4)
+void WriteHex(wchar_t* to, size_t digits, uint32_t number) {
+    for (size_t at = digits; at-- > 0; number >>= 4)
         to[at] = HexDigit(number);
 }
 
 bool HasConfigChecksum(const wxArrayString& fields) {
-    constexpr std::size_t firstField = 2, lastField = 5;
+    constexpr size_t firstField = 2, lastField = 5;
     int sum = 1;
-    for (std::size_t field = firstField; field <= lastField && field < fields.size(); ++field)
+    for (size_t field = firstField; field <= lastField && field < fields.size(); ++field)
         sum += HexByteSum(fields[field]);
     return sum % 256 == 0;
 }

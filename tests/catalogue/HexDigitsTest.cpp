@@ -8,14 +8,14 @@
 TEST(HexDigitsOfEitherCase, HaveTheirValuesAndNothingElseHasOne) {
     const std::string upper = "0123456789ABCDEF", lower = "0123456789abcdef";
     for (int c = 0; c < 0x400; ++c) {
-        std::size_t value = std::string::npos;
+        size_t value = std::string::npos;
         if (c < 0x80) {
             const char character = static_cast<char>(c);
             value = std::min(upper.find(character), lower.find(character));
         }
         const int expected = value == std::string::npos ? -1 : static_cast<int>(value);
         EXPECT_EQ(HexDigitValue(static_cast<wchar_t>(c)), expected) << c;
-        EXPECT_EQ(IsHexDigit(static_cast<std::uint32_t>(c)), expected >= 0) << c;
+        EXPECT_EQ(IsHexDigit(static_cast<uint32_t>(c)), expected >= 0) << c;
     }
 }
 

@@ -23,7 +23,7 @@ struct Layer {
 struct Driver {
     const char* header; ///< shared by its sources
     const char* top;    ///< the source that may call every other one; the header declares nothing of it
-    std::size_t layers;
+    size_t layers;
 };
 
 constexpr Driver Drivers[] = {{"AnalogDialogue.h", "AnalogDriver.cpp", 3},
@@ -60,8 +60,8 @@ bool Uses(const std::string& code, const std::string& function) {
 std::vector<std::string> CallsUpwards(const std::vector<Layer>& layers,
                                       const std::vector<std::string>& codes) {
     std::vector<std::string> calls;
-    for (std::size_t low = 0; low < layers.size(); ++low)
-        for (std::size_t high = low + 1; high < layers.size(); ++high)
+    for (size_t low = 0; low < layers.size(); ++low)
+        for (size_t high = low + 1; high < layers.size(); ++high)
             for (const std::string& function : layers[high].functions)
                 if (Uses(codes[low], function))
                     calls.push_back(layers[low].source + " calls " + function);

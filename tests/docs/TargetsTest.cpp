@@ -65,7 +65,7 @@ std::set<fs::path> FilesOfTheTree() {
 } // namespace
 
 TEST(Targets, HaveEverySourceAndHeader) {
-    std::size_t sources = 0;
+    size_t sources = 0;
     for (const fs::path& file : FilesOfTheTree()) {
         if (!IsSource(file))
             continue;

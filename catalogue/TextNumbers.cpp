@@ -14,11 +14,11 @@ bool IsBlank(wchar_t c) {
 /// The value of a digit of the base, -1 for any other character.
 int DigitOf(wchar_t c, int base) {
     if (c >= L'0' && c <= L'9')
-        return static_cast<int>(c - L'0');
+        return c - L'0';
     if (base == 16 && c >= L'A' && c <= L'F')
-        return static_cast<int>(c - L'A') + 10;
+        return c - L'A' + 10;
     if (base == 16 && c >= L'a' && c <= L'f')
-        return static_cast<int>(c - L'a') + 10;
+        return c - L'a' + 10;
     return -1;
 }
 

@@ -29,8 +29,8 @@ TEST(Columns, HaveHeadingAndWidthOfEachType) {
         for (const printed::TypeLine& type : printed::Types) {
             SCOPED_TRACE(std::string(line.tag) + " of " + type.tag);
             const printed::Look& look = line.looks[type.type];
-            EXPECT_STREQ(ColumnHeading[type.type][static_cast<size_t>(line.column)], look.heading);
-            EXPECT_EQ(ColumnWidth[type.type][static_cast<size_t>(line.column)], look.width);
+            EXPECT_STREQ(ColumnHeading[type.type][line.column], look.heading);
+            EXPECT_EQ(ColumnWidth[type.type][line.column], look.width);
         }
 }
 

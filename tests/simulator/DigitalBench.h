@@ -81,7 +81,7 @@ class Bench {
 public:
     explicit Bench(std::vector<std::string> arguments) {
         std::string problem;
-        arguments.insert(arguments.begin(), "--model");
+        arguments.insert(arguments.begin(), {"--model"});
         Simulator::DigitalContents contents;
         if (!Simulator::ParseOptions(arguments, m_options, problem) ||
             !Simulator::LoadContents(*m_options.digitalModel, m_options.digital, contents, problem))

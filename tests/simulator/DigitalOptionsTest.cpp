@@ -11,7 +11,7 @@ using namespace Simulator;
 Options Parsed(std::vector<std::string> arguments) {
     Options options;
     std::string problem;
-    arguments.insert(arguments.begin(), "--model");
+    arguments.insert(arguments.begin(), {"--model"});
     EXPECT_TRUE(ParseOptions(arguments, options, problem)) << problem;
     return options;
 }
@@ -99,7 +99,7 @@ TEST(DigitalCommandLine, ThatCannotBeUnderstoodIsRefused) {
     for (auto arguments : bad) {
         Options options;
         std::string problem;
-        arguments.insert(arguments.begin(), "--model");
+        arguments.insert(arguments.begin(), {"--model"});
         EXPECT_FALSE(ParseOptions(arguments, options, problem)) << testing::PrintToString(arguments);
         EXPECT_FALSE(problem.empty()) << testing::PrintToString(arguments);
     }

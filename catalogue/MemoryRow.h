@@ -91,10 +91,10 @@ inline constexpr const char* TflgMade = "A0";
 inline constexpr const char* TflgRead = "C0";
 
 /// Operating modes, as bits of OpModes and of a radio's answer.
-inline constexpr std::uint32_t WideMode = 0x40;    ///< MODE "w"
-inline constexpr std::uint32_t NarrowMode = 0x20;  ///< MODE "n"
-inline constexpr std::uint32_t DigitalMode = 0x10; ///< MODE "D"
-inline constexpr std::uint32_t AllModes = WideMode | NarrowMode | DigitalMode;
+inline constexpr uint32_t WideMode = 0x40;    ///< MODE "w"
+inline constexpr uint32_t NarrowMode = 0x20;  ///< MODE "n"
+inline constexpr uint32_t DigitalMode = 0x10; ///< MODE "D"
+inline constexpr uint32_t AllModes = WideMode | NarrowMode | DigitalMode;
 
 /// Number in MFLG of a row, 0 for an empty cell.
 int MemoryFlags(const wxGrid* grid, int row);

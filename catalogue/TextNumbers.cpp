@@ -72,11 +72,11 @@ int ReadHex(const wxString& text) {
     return ReadNumber(text, 16).value_or(0);
 }
 
-wxString DecimalText(std::uint32_t number, int width) {
+wxString DecimalText(uint32_t number, int width) {
     return Digits(number, false, 10, width);
 }
 
-wxString HexadecimalText(std::uint32_t number, int width) {
+wxString HexadecimalText(uint32_t number, int width) {
     return Digits(number, false, 16, width);
 }
 

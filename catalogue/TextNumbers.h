@@ -21,10 +21,10 @@ int ReadDecimal(const wxString& text);
 int ReadHex(const wxString& text);
 
 /// A number in decimal, padded with leading zeros to at least width digits.
-wxString DecimalText(std::uint32_t number, int width = 1);
+wxString DecimalText(uint32_t number, int width = 1);
 
 /// A number in upper-case hexadecimal, padded with leading zeros to at least width digits.
-wxString HexadecimalText(std::uint32_t number, int width);
+wxString HexadecimalText(uint32_t number, int width);
 
 /// A memory or row number as cells hold it: at least three decimal digits.
 wxString NumberText(int number);

@@ -83,8 +83,8 @@ void AddPorts(std::vector<FoundPort>& ports, const std::vector<std::string>& nam
     }
 }
 
-std::size_t DigitsAt(std::string_view text, std::size_t at) {
-    std::size_t end = at;
+size_t DigitsAt(std::string_view text, size_t at) {
+    size_t end = at;
     while (end < text.size() && std::isdigit(static_cast<unsigned char>(text[end])))
         ++end;
     return end - at;
@@ -102,11 +102,11 @@ Folders SystemFolders() {
 } // namespace
 
 bool NaturalLess(std::string_view a, std::string_view b) {
-    std::size_t i = 0;
-    std::size_t j = 0;
+    size_t i = 0;
+    size_t j = 0;
     while (i < a.size() && j < b.size()) {
-        const std::size_t inA = DigitsAt(a, i);
-        const std::size_t inB = DigitsAt(b, j);
+        const size_t inA = DigitsAt(a, i);
+        const size_t inB = DigitsAt(b, j);
         if (inA > 0 && inB > 0) {
             const auto x = WithoutZeros(a.substr(i, inA));
             const auto y = WithoutZeros(b.substr(j, inB));

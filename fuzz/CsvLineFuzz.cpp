@@ -116,7 +116,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
     return toolkit.IsOk() ? 0 : 1;
 }
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
     CheckLines(bytes);
     CheckData(bytes, CsvReader::Dialect::General);

@@ -14,7 +14,7 @@
 /// Writes the input into a file, has the importer identify its kind and passes the path to read, which writes
 /// into the grid of a page of that radio and band slot. Always call it with the same page.
 template <class Read>
-int FuzzFile(const std::uint8_t* data, std::size_t size, int radio, int bandIndex, Read read) {
+int FuzzFile(const uint8_t* data, size_t size, int radio, int bandIndex, Read read) {
     constexpr int filesOfPage = 100;
     static int files = 0;
     static const wxString path = wxFileName::CreateTempFileName("zelk-fuzz");

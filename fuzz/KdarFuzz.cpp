@@ -7,7 +7,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
     return 0;
 }
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     return FuzzFile(data, size, RadioCatalogue::Kdar2000, 0, [](const wxString& path) {
         wxFFile file(path, "rb");
         Import_KDAR(file);

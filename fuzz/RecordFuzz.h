@@ -11,7 +11,7 @@
 /// Passes the input, as a line, to decode, which writes into the grid of a page of that radio and band slot.
 /// Always call it with the same page.
 template <class Decode>
-int FuzzRecord(const std::uint8_t* data, std::size_t size, int radio, int bandIndex, Decode decode) {
+int FuzzRecord(const uint8_t* data, size_t size, int radio, int bandIndex, Decode decode) {
     constexpr int recordsOfPage = 500;
     static int records = 0;
     if (records++ % recordsOfPage == 0)

@@ -8,7 +8,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
     return 0;
 }
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     return FuzzRecord(data, size, RadioCatalogue::Kdrv716B, 0, [](const wxString& line) {
         HasGoodChecksum(line);
         IsGoodConfigText(HexToText(line));

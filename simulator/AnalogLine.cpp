@@ -20,7 +20,7 @@ constexpr int Codes[] = {
 static_assert(std::size(Codes) == 83);
 
 struct Literal {
-    std::size_t position;
+    size_t position;
     std::string_view text;
 };
 
@@ -112,7 +112,7 @@ std::string CommonPart(const AnalogMemory& memory, std::string_view numberField)
 
 std::optional<AnalogMemory> ParseLongLine(std::string_view line, const AnalogModel& model, int highest,
                                           std::string& problem) {
-    const auto Refuse = [&problem](std::size_t position, const std::string& why) {
+    const auto Refuse = [&problem](size_t position, const std::string& why) {
         problem = "position " + std::to_string(position) + ": " + why;
         return std::nullopt;
     };

@@ -7,8 +7,8 @@ namespace Simulator {
 namespace {
 
 constexpr char Acknowledge = 0x05;
-constexpr std::size_t LongestLine = 200;
-constexpr std::size_t EndLineBlanks = 74;
+constexpr size_t LongestLine = 200;
+constexpr size_t EndLineBlanks = 74;
 
 /// The byte with bit 7 set.
 char Marked(char byte) {
@@ -23,7 +23,7 @@ AnalogRadio::AnalogRadio(const AnalogModel& model, AnalogHabits habits, MemoryLi
         m_habits.banner = std::string(model.name) + " MEMORY LIST " + std::string(model.band) + " MHZ";
 }
 
-void AnalogRadio::Hear(std::uint8_t byte) {
+void AnalogRadio::Hear(uint8_t byte) {
     if (m_state == State::Sending && !m_link.IsSending())
         m_state = State::Command;
     switch (m_state) {
@@ -169,12 +169,11 @@ void AnalogRadio::SendMemories() {
 }
 
 /// The line with parity bits and line end. With Parity::Text, the first `plain` characters get no parity bit.
-std::string AnalogRadio::OnTheWire(std::string_view line, std::size_t plain) const {
+std::string AnalogRadio::OnTheWire(std::string_view line, size_t plain) const {
     std::string bytes = std::string(line) + '\r';
     if (m_habits.parity == Parity::None)
         return bytes;
-    const auto first =
-        bytes.begin() + static_cast<std::ptrdiff_t>(m_habits.parity == Parity::Text ? plain : 0);
+    const auto first = bytes.begin() + static_cast<ptrdiff_t>(m_habits.parity == Parity::Text ? plain : 0);
     const auto last = m_habits.parity == Parity::Bytes ? bytes.end() : bytes.end() - 1;
     std::transform(first, last, first, Marked);
     return bytes;

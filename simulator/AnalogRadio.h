@@ -36,7 +36,7 @@ public:
     /// `model` and `link` must outlive the radio.
     AnalogRadio(const AnalogModel& model, AnalogHabits habits, MemoryList memories, RadioLink& link);
 
-    void Hear(std::uint8_t byte) override;
+    void Hear(uint8_t byte) override;
     bool IsAtRest() const override;
     void PortClosed() override;
     bool Store(std::string& problem) override;
@@ -59,7 +59,7 @@ private:
     void TakeEndLine(const std::string& line);
     void SendMemories();
     void Confirm();
-    std::string OnTheWire(std::string_view line, std::size_t plain) const;
+    std::string OnTheWire(std::string_view line, size_t plain) const;
     std::string NumberText(int number) const;
 
     const AnalogModel& m_model;

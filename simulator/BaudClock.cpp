@@ -6,7 +6,7 @@ namespace Simulator {
 
 namespace {
 
-constexpr std::size_t BytesAWakeUp = 4;
+constexpr size_t BytesAWakeUp = 4;
 
 std::chrono::nanoseconds ByteTime(int baud) {
     return std::chrono::nanoseconds(10'000'000'000LL / baud + 1);
@@ -14,7 +14,7 @@ std::chrono::nanoseconds ByteTime(int baud) {
 
 } // namespace
 
-std::size_t BaudClock::Take(TimePoint now, int baud, std::size_t waiting) {
+size_t BaudClock::Take(TimePoint now, int baud, size_t waiting) {
     if (baud <= 0)
         return waiting;
     if (m_idle) {
@@ -22,13 +22,13 @@ std::size_t BaudClock::Take(TimePoint now, int baud, std::size_t waiting) {
         m_free = now;
     }
     const auto through =
-        static_cast<std::size_t>(std::max(now - m_free, Clock::duration::zero()) / ByteTime(baud));
-    const std::size_t taken = std::min(through, waiting);
+        static_cast<size_t>(std::max(now - m_free, Clock::duration::zero()) / ByteTime(baud));
+    const size_t taken = std::min(through, waiting);
     m_free += static_cast<long>(taken) * ByteTime(baud);
     return taken;
 }
 
-TimePoint BaudClock::NextDue(int baud, std::size_t waiting) const {
+TimePoint BaudClock::NextDue(int baud, size_t waiting) const {
     if (baud <= 0)
         return m_free;
     return m_free + static_cast<long>(std::min(waiting, BytesAWakeUp)) * ByteTime(baud);

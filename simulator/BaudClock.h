@@ -16,10 +16,10 @@ public:
     void Rest() { m_idle = true; }
 
     /// Returns how many of `waiting` bytes have been carried by `now` at `baud`, and counts them as sent.
-    std::size_t Take(TimePoint now, int baud, std::size_t waiting);
+    size_t Take(TimePoint now, int baud, size_t waiting);
 
     /// Returns when to call Take again for `waiting` more bytes. Groups a few bytes to save wake-ups.
-    TimePoint NextDue(int baud, std::size_t waiting) const;
+    TimePoint NextDue(int baud, size_t waiting) const;
 
 private:
     TimePoint m_free{}; // when the last byte ended

@@ -10,12 +10,12 @@ namespace Simulator {
 
 namespace {
 
-constexpr std::size_t MostConfigLines = 255;
-constexpr std::size_t LongestLogData = 2 * 248;
+constexpr size_t MostConfigLines = 255;
+constexpr size_t LongestLogData = 2 * 248;
 
 std::vector<std::string> ConfigFields(std::string_view line) {
     std::vector<std::string> fields(1);
-    for (std::size_t k = 0; k < line.size(); ++k) {
+    for (size_t k = 0; k < line.size(); ++k) {
         if (line[k] == ':')
             fields.emplace_back();
         else if (line[k] == '\\' && k + 1 < line.size())
@@ -79,12 +79,12 @@ bool IsGoodConfig(std::string_view line, std::string& problem) {
         return false;
     }
     long sum = 1;
-    for (std::size_t k = 2; k <= 5; ++k) {
+    for (size_t k = 2; k <= 5; ++k) {
         if (fields[k].size() % 2 != 0 || !IsHex(fields[k])) {
             problem = "field " + std::to_string(k) + " is not made of bytes in hexadecimal";
             return false;
         }
-        for (std::size_t at = 0; at < fields[k].size(); at += 2)
+        for (size_t at = 0; at < fields[k].size(); at += 2)
             sum += HexValue(std::string_view(fields[k]).substr(at, 2));
     }
     if (sum % 256 != 0)

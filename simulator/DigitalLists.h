@@ -13,7 +13,7 @@ std::vector<std::string> DefaultHardware();
 bool LoadHardware(const std::string& path, std::vector<std::string>& lines, std::string& problem);
 
 /// Greatest length of a text in a data record.
-constexpr std::size_t LongestText = 252;
+constexpr size_t LongestText = 252;
 /// True if the text fits into a data record. If not, puts the reason into `problem`.
 bool IsRecordText(std::string_view text, std::string& problem);
 

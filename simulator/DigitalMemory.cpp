@@ -26,7 +26,7 @@ ShadowSlots ShadowsOf(const DigitalMemory& primary, const DigitalMemoryList& mem
         const int place = memory.flags & 0x07;
         // A copy of a shadow names itself as its primary; it belongs to no other memory.
         if (place > 0 && memory.primary == primary.number && address != primary.address)
-            slots[static_cast<std::size_t>(place - 1)] = memory.number;
+            slots[static_cast<size_t>(place - 1)] = memory.number;
     }
     return slots;
 }

@@ -29,7 +29,7 @@ enum Message {
 };
 
 /// Number of bytes after the message's code.
-std::size_t ExtraBytes(int code) {
+size_t ExtraBytes(int code) {
     return code == SetStamp ? 7 : code == ChangeSpeed ? 2 : 0;
 }
 
@@ -163,7 +163,7 @@ void DigitalRadio::TakeErase(int address) {
 
 void DigitalRadio::TakeStamp(const HexRecord& record) {
     std::string digits;
-    for (std::size_t k = 1; k < record.data.size(); ++k)
+    for (size_t k = 1; k < record.data.size(); ++k)
         digits += Hex(record.data[k], 2);
     if (digits.find_first_not_of("0123456789") != std::string::npos) {
         Refuse("stamp \"" + digits + "\" is not made of decimal digits");

@@ -17,7 +17,7 @@ DigitalRadio::DigitalRadio(const DigitalModel& model, DigitalHabits habits, Digi
       m_replies(link), m_layout(LayoutOf(m_habits.protocol, m_habits.firmware)), m_lineSpeed(SlowBaud),
       m_speed(SlowBaud) {}
 
-void DigitalRadio::Hear(std::uint8_t byte) {
+void DigitalRadio::Hear(uint8_t byte) {
     if (m_state == State::Deaf || !FitsSpeed())
         return;
     if (byte != '\r') {

@@ -38,7 +38,7 @@ public:
     DigitalRadio(const DigitalModel& model, DigitalHabits habits, DigitalContents contents, RadioLink& link);
 
     void LineSpeed(int baud) override { m_lineSpeed = baud; }
-    void Hear(std::uint8_t byte) override;
+    void Hear(uint8_t byte) override;
     bool IsAtRest() const override;
     bool BeginsAnew(std::string_view bytes) const override;
     void PortClosed() override;
@@ -96,7 +96,7 @@ private:
     bool m_garbled = false; // has reported a wrong speed
     List m_list = List::Memories;
     std::vector<std::string> m_bodies; // the list being sent
-    std::size_t m_next = 0;            // its first record that hasn't been sent
+    size_t m_next = 0;                 // its first record that hasn't been sent
     bool m_repeated = false;           // the last one was sent twice
     std::vector<std::string> m_newConfig;
     bool m_changed = false;       // memories differ from the file

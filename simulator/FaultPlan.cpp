@@ -64,13 +64,13 @@ int PositiveNumber(std::string_view text) {
 } // namespace
 
 std::optional<Fault> ParseFault(std::string_view text, std::string& problem) {
-    const std::size_t at = text.find('@');
+    const size_t at = text.find('@');
     const std::string_view name = text.substr(0, at);
     for (const KindName& entry : Kinds) {
         if (entry.name != name || at == std::string_view::npos)
             continue;
         const std::string_view place = text.substr(at + 1);
-        const std::size_t slash = place.find('/');
+        const size_t slash = place.find('/');
         const int answer = PositiveNumber(place.substr(0, slash));
         const int transfer = slash == std::string_view::npos ? 0 : PositiveNumber(place.substr(slash + 1));
         if (answer == 0 || (slash != std::string_view::npos && transfer == 0))

@@ -9,7 +9,7 @@ namespace {
 // Contains neither an acknowledgement (05) nor a line end (0D): noise must not look like an answer.
 constexpr unsigned char Garbage[] = {0x00, 0xFF, 0x80, 0x1B, 0xFE, 0x7F, 0x00, 0xF5};
 constexpr char MarkedReturn = '\x8D'; // a carriage return whose bit 7 is set
-constexpr std::size_t Pieces = 4;
+constexpr size_t Pieces = 4;
 constexpr std::chrono::milliseconds PieceGap{150};
 
 std::string Played(const Fault& fault) {
@@ -97,8 +97,8 @@ void FaultyLink::AnswerLine(std::string_view bytes) {
         m_output.Say(line, Sent(line));
         return;
     }
-    const std::size_t piece = line.size() / Pieces + 1;
-    for (std::size_t at = 0; at < line.size(); at += piece) {
+    const size_t piece = line.size() / Pieces + 1;
+    for (size_t at = 0; at < line.size(); at += piece) {
         if (at > 0)
             m_output.Pause(PieceGap, at == piece ? Played(*torn) : "");
         const bool last = at + piece >= line.size();

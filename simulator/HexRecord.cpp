@@ -9,7 +9,7 @@ constexpr std::string_view Digits = "0123456789ABCDEF";
 /// One's complement of the sum of the bytes after letter and type.
 unsigned Checksum(std::string_view body) {
     unsigned sum = 0;
-    for (std::size_t k = 2; k + 1 < body.size(); k += 2)
+    for (size_t k = 2; k + 1 < body.size(); k += 2)
         sum += static_cast<unsigned>(HexValue(body.substr(k, 2)));
     return ~sum & 0xFF;
 }
@@ -17,7 +17,7 @@ unsigned Checksum(std::string_view body) {
 } // namespace
 
 std::string Hex(unsigned long value, int digits) {
-    std::string text(static_cast<std::size_t>(digits), '0');
+    std::string text(static_cast<size_t>(digits), '0');
     for (auto place = text.rbegin(); place != text.rend(); ++place, value >>= 4)
         *place = Digits[value & 0xF];
     return text;
@@ -51,12 +51,12 @@ std::optional<HexRecord> ParseRecord(std::string_view line, std::string& problem
         return Refuse("is too short for a record");
     if (line[1] != '0' && line[1] != '1' && line[1] != '2' && line[1] != '9')
         return Refuse("type is none of 0, 1, 2, 9");
-    for (std::size_t k = 2; k < line.size(); ++k)
+    for (size_t k = 2; k < line.size(); ++k)
         if (!IsHex(line.substr(k, 1)))
             return Refuse("position " + std::to_string(k) + ": no upper-case hexadecimal digit");
     if (line.size() % 2 != 0)
         return Refuse("holds half a byte");
-    const auto count = static_cast<std::size_t>(HexValue(line.substr(2, 2)));
+    const auto count = static_cast<size_t>(HexValue(line.substr(2, 2)));
     if (line.size() != 4 + 2 * count)
         return Refuse("count is " + std::to_string(count) + ", but " + std::to_string((line.size() - 4) / 2) +
                       " bytes follow");
@@ -66,8 +66,8 @@ std::optional<HexRecord> ParseRecord(std::string_view line, std::string& problem
                       Hex(Checksum(body), 2));
     HexRecord record{
         static_cast<HexRecord::Type>(line[1] - '0'), static_cast<int>(HexValue(line.substr(4, 4))), {}};
-    for (std::size_t k = 8; k < body.size(); k += 2)
-        record.data.push_back(static_cast<std::uint8_t>(HexValue(body.substr(k, 2))));
+    for (size_t k = 8; k < body.size(); k += 2)
+        record.data.push_back(static_cast<uint8_t>(HexValue(body.substr(k, 2))));
     if (record.data.empty() != (record.type == HexRecord::Type::End))
         return Refuse(record.data.empty() ? "holds no data" : "an end record holds no data");
     return record;
@@ -76,7 +76,7 @@ std::optional<HexRecord> ParseRecord(std::string_view line, std::string& problem
 std::string FormatRecord(const HexRecord& record) {
     std::string body = "T" + std::to_string(static_cast<int>(record.type)) + Hex(record.data.size() + 3, 2) +
                        Hex(static_cast<unsigned long>(record.address), 4);
-    for (std::uint8_t byte : record.data)
+    for (uint8_t byte : record.data)
         body += Hex(byte, 2);
     return WithChecksum(body);
 }

@@ -14,12 +14,12 @@ struct HexRecord {
     enum class Type { Hello = 0, Data = 1, Message = 2, End = 9 };
 
     Type type;
-    int address = 0;                ///< 16 bits
-    std::vector<std::uint8_t> data; ///< at least one byte, except in an end record
+    int address = 0;           ///< 16 bits
+    std::vector<uint8_t> data; ///< at least one byte, except in an end record
 };
 
 /// Greatest length that a count of one byte allows, without the line end.
-constexpr std::size_t LongestRecord = 4 + 2 * 255;
+constexpr size_t LongestRecord = 4 + 2 * 255;
 
 /// Reads a line without its carriage return. Checks first letter, type, upper case, count against the length,
 /// and checksum. If one is wrong, returns nothing and puts the reason into `problem`.

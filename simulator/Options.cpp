@@ -33,7 +33,7 @@ bool TakeMilliseconds(const std::string& text, std::chrono::milliseconds& out, s
 }
 
 bool TakeModel(Options& options, const std::string& value, std::string& problem) {
-    const std::size_t colon = value.find(':');
+    const size_t colon = value.find(':');
     const std::string band = colon == std::string::npos ? "" : value.substr(colon + 1);
     const std::string name = value.substr(0, colon);
     options.model = nullptr;
@@ -173,9 +173,9 @@ const Option* FindOption(std::string_view name) {
 } // namespace
 
 bool ParseOptions(const std::vector<std::string>& arguments, Options& options, std::string& problem) {
-    for (std::size_t k = 0; k < arguments.size(); ++k) {
+    for (size_t k = 0; k < arguments.size(); ++k) {
         const std::string& argument = arguments[k];
-        const std::size_t equals = argument.find('=');
+        const size_t equals = argument.find('=');
         const Option* option = argument.starts_with("--")
                                    ? FindOption(std::string_view(argument).substr(2, equals - 2))
                                    : nullptr;
@@ -221,7 +221,7 @@ std::string HelpText() {
             left += "[=" + std::string(option.valueName) + "]";
         else if (option.value == Value::Needed)
             left += " " + std::string(option.valueName);
-        left.resize(std::max<std::size_t>(left.size() + 1, 24), ' ');
+        left.resize(std::max<size_t>(left.size() + 1, 24), ' ');
         text += left + std::string(option.help) + "\n";
     }
     return text + "\nFaults: " + FaultNames() +

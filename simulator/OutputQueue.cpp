@@ -77,7 +77,7 @@ OutputQueue::Delivery OutputQueue::Take(TimePoint now, int baud) {
                 m_due = now;
                 return delivery;
             }
-            const std::size_t taken = m_clock.Take(now, baud, action.bytes.size() - m_sent);
+            const size_t taken = m_clock.Take(now, baud, action.bytes.size() - m_sent);
             delivery.bytes = action.bytes.substr(m_sent, taken);
             m_sent += taken;
             if (m_sent < action.bytes.size()) {

@@ -59,7 +59,7 @@ private:
     bool HoldIsOver(const Action& action, TimePoint now, Delivery& delivery);
 
     std::deque<Action> m_actions;
-    std::size_t m_sent = 0; // bytes already sent of the first action
+    size_t m_sent = 0; // bytes already sent of the first action
     std::optional<TimePoint> m_holdEnd;
     std::optional<TimePoint> m_due;
     BaudClock m_clock;

@@ -16,7 +16,7 @@ namespace Simulator {
 
 namespace {
 
-constexpr std::size_t ReadSize = 512;
+constexpr size_t ReadSize = 512;
 
 } // namespace
 
@@ -125,10 +125,10 @@ void Player::TakeInput() {
     FeedRadio(m_hearing.Take(Clock::now(), Baud(), m_heard.size()), m_speed);
 }
 
-void Player::FeedRadio(std::size_t count, int baud) {
+void Player::FeedRadio(size_t count, int baud) {
     m_radio.LineSpeed(baud);
-    for (std::size_t k = 0; k < count && !m_link.IsDead(); ++k)
-        m_radio.Hear(static_cast<std::uint8_t>(m_heard[k]));
+    for (size_t k = 0; k < count && !m_link.IsDead(); ++k)
+        m_radio.Hear(static_cast<uint8_t>(m_heard[k]));
     m_heard.erase(0, count);
 }
 

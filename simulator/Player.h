@@ -27,7 +27,7 @@ private:
     void Wait(int signals);
     void TakeSignals(int signals);
     void TakeInput();
-    void FeedRadio(std::size_t count, int baud);
+    void FeedRadio(size_t count, int baud);
     void Deliver();
     void HandleVisits();
     void Leave();

@@ -88,20 +88,20 @@ PseudoTerminal::Visit PseudoTerminal::TakeVisits() {
     }
 }
 
-std::string PseudoTerminal::Read(std::size_t limit) {
+std::string PseudoTerminal::Read(size_t limit) {
     std::string bytes(limit, '\0');
     ssize_t got;
     do {
         got = read(m_master, bytes.data(), bytes.size());
     } while (got < 0 && errno == EINTR);
-    bytes.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+    bytes.resize(got > 0 ? static_cast<size_t>(got) : 0);
     return bytes;
 }
 
-std::size_t PseudoTerminal::Write(std::string_view bytes) {
+size_t PseudoTerminal::Write(std::string_view bytes) {
     const ssize_t put = write(m_master, bytes.data(), bytes.size());
     if (put >= 0)
-        return static_cast<std::size_t>(put);
+        return static_cast<size_t>(put);
     return errno == EAGAIN || errno == EINTR ? 0 : bytes.size();
 }
 

@@ -32,9 +32,9 @@ public:
     bool IsOpen() const { return m_users > 0; }
 
     /// Reads bytes that have arrived, up to `limit`; empty if there are none.
-    std::string Read(std::size_t limit);
+    std::string Read(size_t limit);
     /// Writes as many bytes as fit and returns their number; all of them while the other side is closed.
-    std::size_t Write(std::string_view bytes);
+    size_t Write(std::string_view bytes);
     /// Speed that the other side has set, in baud.
     int Speed() const;
     /// Discards what the other side hasn't read. If it is closed, also resets the line to raw and 9600 baud.

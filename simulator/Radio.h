@@ -63,7 +63,7 @@ public:
     /// Sets the speed of the other side, in baud. Call before Hear.
     virtual void LineSpeed(int) {}
     /// Receives one byte from the wire.
-    virtual void Hear(std::uint8_t byte) = 0;
+    virtual void Hear(uint8_t byte) = 0;
     /// True between two dialogues, before the first byte of the next one.
     virtual bool IsAtRest() const = 0;
     /// True if these next bytes can only be the start of a new dialogue, whatever came before.

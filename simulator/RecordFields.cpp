@@ -12,17 +12,16 @@ void RecordFields::Refuse(int position, const std::string& why) {
 }
 
 void RecordFields::Literal(int position, std::string_view text, std::string_view name) {
-    if (m_body.substr(static_cast<std::size_t>(position), text.size()) != text)
+    if (m_body.substr(static_cast<size_t>(position), text.size()) != text)
         Refuse(position, std::string(name) + " is not \"" + std::string(text) + "\"");
 }
 
 void RecordFields::Zeros(int position, int length, std::string_view name) {
-    Literal(position, std::string(static_cast<std::size_t>(length), '0'), name);
+    Literal(position, std::string(static_cast<size_t>(length), '0'), name);
 }
 
 long RecordFields::Number(int position, int digits, long low, long high, std::string_view name) {
-    const long value =
-        HexValue(m_body.substr(static_cast<std::size_t>(position), static_cast<std::size_t>(digits)));
+    const long value = HexValue(m_body.substr(static_cast<size_t>(position), static_cast<size_t>(digits)));
     if (value < low || value > high)
         Refuse(position, std::string(name) + " is " + std::to_string(value) + ", not from " +
                              std::to_string(low) + " to " + std::to_string(high));
@@ -30,7 +29,7 @@ long RecordFields::Number(int position, int digits, long low, long high, std::st
 }
 
 char RecordFields::Letter(int position, std::string_view allowed, std::string_view name) {
-    const char letter = static_cast<char>(HexValue(m_body.substr(static_cast<std::size_t>(position), 2)));
+    const char letter = static_cast<char>(HexValue(m_body.substr(static_cast<size_t>(position), 2)));
     if (allowed.find(letter) == std::string_view::npos)
         Refuse(position, std::string(name) + " is none of \"" + std::string(allowed) + "\"");
     return letter;
@@ -39,7 +38,7 @@ char RecordFields::Letter(int position, std::string_view allowed, std::string_vi
 std::string RecordFields::Text(int position, int length, std::string_view name) {
     std::string text;
     for (int k = 0; k < length; ++k) {
-        const long c = HexValue(m_body.substr(static_cast<std::size_t>(position + 2 * k), 2));
+        const long c = HexValue(m_body.substr(static_cast<size_t>(position + 2 * k), 2));
         if (c < ' ' || c > '~')
             Refuse(position + 2 * k, std::string(name) + " holds a character that can't be shown");
         text += static_cast<char>(c);
@@ -50,7 +49,7 @@ std::string RecordFields::Text(int position, int length, std::string_view name) 
 long RecordFields::FrequencyText(int position, const DigitalModel& model, std::string_view name) {
     const std::string text = Text(position, 8, name);
     long value = 0;
-    for (std::size_t k = 0; k < text.size(); ++k) {
+    for (size_t k = 0; k < text.size(); ++k) {
         const bool good = k == 3 ? text[k] == '.' : text[k] >= '0' && text[k] <= '9';
         if (!good) {
             Refuse(position, std::string(name) + " \"" + text + "\" is not like 154.1234");
@@ -63,7 +62,7 @@ long RecordFields::FrequencyText(int position, const DigitalModel& model, std::s
 }
 
 long RecordFields::FrequencyHertz(int position, const DigitalModel& model, std::string_view name) {
-    return InRange(position, HexValue(m_body.substr(static_cast<std::size_t>(position), 8)), model, name);
+    return InRange(position, HexValue(m_body.substr(static_cast<size_t>(position), 8)), model, name);
 }
 
 long RecordFields::InRange(int position, long hertz, const DigitalModel& model, std::string_view name) {

@@ -61,7 +61,7 @@ wxRect CellsWithLabels(int lastRow, int lastColumn) {
 }
 
 void Replace(std::string& text, const std::string& what, const std::string& by) {
-    const std::size_t at = text.find(what);
+    const size_t at = text.find(what);
     if (at == std::string::npos)
         throw std::runtime_error("the example has no " + what);
     text.replace(at, what.size(), by);

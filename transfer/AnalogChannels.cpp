@@ -33,7 +33,7 @@ bool StartsWithKey(int radio) {
 
 /// Removes the acknowledgement and everything before it from the buffer.
 void DropAcknowledgement(TransferContext& context) {
-    context.RxBuffer = context.RxBuffer.Mid(static_cast<std::size_t>(context.FoundAt) + 1);
+    context.RxBuffer = context.RxBuffer.Mid(static_cast<size_t>(context.FoundAt) + 1);
 }
 
 TransferStatus WriteChannel(TransferContext& context, wxGrid* grid, int row) {
@@ -68,7 +68,7 @@ bool CutToFirstChannel(wxString& line) {
     const int start = line.Find("001");
     if (start == wxNOT_FOUND)
         return false;
-    line = line.Mid(static_cast<std::size_t>(start));
+    line = line.Mid(static_cast<size_t>(start));
     return true;
 }
 

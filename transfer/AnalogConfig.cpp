@@ -67,8 +67,7 @@ TransferStatus WriteConfig(TransferContext& context) {
     context.Status = TransferOk;
     const int count = static_cast<int>(context.ConfigLines.size());
     for (context.Index = 0; context.Index < count && context.Status == TransferOk; ++context.Index)
-        context.Status =
-            WriteConfigLine(context, context.ConfigLines[static_cast<std::size_t>(context.Index)]);
+        context.Status = WriteConfigLine(context, context.ConfigLines[static_cast<size_t>(context.Index)]);
     if (context.Status == TransferCancelled)
         return TransferCancelled;
     SendPaced(context, "END", false);

@@ -14,7 +14,7 @@ struct TransferContext;
 // All functions use the open port and the progress window of the context.
 
 /// Highest row count at which a radio takes the short commands and the numbered end line.
-inline constexpr std::uint32_t ShortCommandRows = 202;
+inline constexpr uint32_t ShortCommandRows = 202;
 
 // ---- AnalogExchange.cpp ----
 
@@ -26,7 +26,7 @@ inline constexpr std::uint32_t ShortCommandRows = 202;
 void SendPaced(TransferContext& context, const wxString& text, bool slow);
 
 /// Opening command followed by a count, at least three characters wide, and a carriage return.
-wxString CountedCommand(const wxString& word, std::uint32_t count);
+wxString CountedCommand(const wxString& word, uint32_t count);
 
 // ---- AnalogChannels.cpp ----
 

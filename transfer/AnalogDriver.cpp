@@ -66,14 +66,14 @@ void KeepInformation(TransferContext& context, const AnalogInformation& informat
     context.InfoField4 = information.field4;
     context.InfoField5 = information.field5;
     context.ProductCode = information.productCode;
-    context.RowCapacity = static_cast<std::uint32_t>(information.rowCount);
-    context.ConfigCount = static_cast<std::uint32_t>(information.configCount);
+    context.RowCapacity = static_cast<uint32_t>(information.rowCount);
+    context.ConfigCount = static_cast<uint32_t>(information.configCount);
     context.RadioSerial = information.serial;
     RadioVersion = information.version;
     RadioSerial = information.serial;
 }
 
-wxString ChannelCommand(std::uint32_t rows, const wxString& shortForm, const wxString& longForm) {
+wxString ChannelCommand(uint32_t rows, const wxString& shortForm, const wxString& longForm) {
     return rows > ShortCommandRows ? CountedCommand(longForm, rows) : shortForm + "\r";
 }
 
@@ -90,7 +90,7 @@ TransferStatus ChooseCommand(TransferContext& context, TransferMode mode) {
         context.TxLine = ChannelCommand(context.RowCapacity, "ul", "UL");
         return TransferOk;
     case ReadConfigMode:
-        if (static_cast<std::int32_t>(context.ConfigCount) < 1)
+        if (static_cast<int32_t>(context.ConfigCount) < 1)
             return TransferUnsupported;
         context.StatusText = "Reading Config Data....";
         context.TxLine = "UC\r";
@@ -135,7 +135,7 @@ TransferStatus Exchange(TransferContext& context, wxGrid* grid, TransferMode mod
         return TransferCancelled;
     KeepInformation(context, ParseInformation(block));
     if (pibNumber != 0)
-        context.RowCapacity = static_cast<std::uint32_t>(page.Rows);
+        context.RowCapacity = static_cast<uint32_t>(page.Rows);
 
     if (const TransferStatus status = ChooseCommand(context, mode))
         return status;

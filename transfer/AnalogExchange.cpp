@@ -13,6 +13,6 @@ void SendPaced(TransferContext& context, const wxString& text, bool slow) {
     }
 }
 
-wxString CountedCommand(const wxString& word, std::uint32_t count) {
+wxString CountedCommand(const wxString& word, uint32_t count) {
     return word + wxString::Format("%3u\r", count);
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-wxString FieldAt(const wxArrayString& fields, std::size_t index) {
+wxString FieldAt(const wxArrayString& fields, size_t index) {
     return index < fields.size() ? fields[index] : wxString();
 }
 
@@ -23,7 +23,7 @@ AnalogInformation ParseInformation(const wxString& block) {
         fields.Insert("11", 3);
     }
     const wxString product = FieldAt(fields, 0);
-    information.productCode = static_cast<std::uint32_t>(
+    information.productCode = static_cast<uint32_t>(
         product.Left(1).find_first_of("0123456789abcdefABCDEF") == 0 ? ReadHex(product.Left(1)) : 0);
     information.version = product.Mid(1);
     information.serial = FieldAt(fields, 1);

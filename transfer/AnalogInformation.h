@@ -8,13 +8,13 @@
 
 /// Fields of an information block.
 struct AnalogInformation {
-    std::uint32_t productCode = 0; ///< 0 to 15, 0 if the block has none
-    wxString version;              ///< firmware version
+    uint32_t productCode = 0; ///< 0 to 15, 0 if the block has none
+    wxString version;         ///< firmware version
     wxString serial;
-    std::int32_t rowCount = 0;    ///< channels that the radio holds
-    std::int32_t configCount = 0; ///< configuration lines that the radio holds
-    wxString field4, field5;      ///< use unknown
-    wxArrayString fields;         ///< all fields, including those filled in for an older radio
+    int32_t rowCount = 0;    ///< channels that the radio holds
+    int32_t configCount = 0; ///< configuration lines that the radio holds
+    wxString field4, field5; ///< use unknown
+    wxArrayString fields;    ///< all fields, including those filled in for an older radio
 };
 
 /// Block of a radio that isn't asked or doesn't answer: 200 channels, no configuration. The leading blank

@@ -14,8 +14,8 @@ constexpr int FractionDigits = 4;
 constexpr int ScanWidth = 5;
 constexpr int HighestScanMask = 31;
 constexpr int NoTone = 64; // the second "OFF" of ToneList
-constexpr std::size_t NumberWidth = 3;
-constexpr std::size_t FormMark = 45; // position at which the forms differ
+constexpr size_t NumberWidth = 3;
+constexpr size_t FormMark = 45; // position at which the forms differ
 
 bool IsDigits(const wxString& text) {
     return std::all_of(text.begin(), text.end(), [](wxUniChar c) { return c >= '0' && c <= '9'; });
@@ -153,10 +153,10 @@ bool IsShortAnalogForm(const wxString& line) {
 
 AnalogTexts SplitAnalogLine(const wxString& line) {
     AnalogTexts texts;
-    std::size_t restPosition = 0;
+    size_t restPosition = 0;
     for (const AnalogField& field : FormOf(line)) {
-        const std::size_t position = static_cast<std::size_t>(field.position);
-        const std::size_t width = static_cast<std::size_t>(field.width);
+        const size_t position = static_cast<size_t>(field.position);
+        const size_t width = static_cast<size_t>(field.width);
         const bool whole = line.length() >= position + width;
         if (field.part == ScanPart)
             restPosition = whole ? position + width : position;

@@ -28,7 +28,7 @@ struct AsyncSerialImpl {
 
     std::vector<char> writeQueue;
     boost::shared_array<char> writeBuffer; // empty while no write is in progress
-    std::size_t writeBufferSize = 0;
+    size_t writeBufferSize = 0;
     std::mutex writeQueueMutex;
     std::condition_variable writesEnded; // signals an empty queue or a failure
 
@@ -142,7 +142,7 @@ void AsyncSerial::setBaudRate(unsigned int baudRate) {
     m_impl->port.set_option(boost::asio::serial_port_base::baud_rate(baudRate));
 }
 
-void AsyncSerial::write(const char* data, std::size_t size) {
+void AsyncSerial::write(const char* data, size_t size) {
     // Otherwise the port opened next would send them.
     if (!isOpen())
         return;
@@ -181,10 +181,10 @@ void AsyncSerial::clearReadCallback() {
 void AsyncSerial::doRead() {
     m_impl->port.async_read_some(
         boost::asio::buffer(m_impl->readBuffer),
-        [this](const boost::system::error_code& error, std::size_t count) { readEnd(error, count); });
+        [this](const boost::system::error_code& error, size_t count) { readEnd(error, count); });
 }
 
-void AsyncSerial::readEnd(const boost::system::error_code& error, std::size_t bytesTransferred) {
+void AsyncSerial::readEnd(const boost::system::error_code& error, size_t bytesTransferred) {
     if (error) {
         if (isOpen())
             fail();
@@ -211,9 +211,9 @@ void AsyncSerial::startWrite() {
     m_impl->writeBuffer.reset(new char[m_impl->writeBufferSize]);
     std::copy(m_impl->writeQueue.begin(), m_impl->writeQueue.end(), m_impl->writeBuffer.get());
     m_impl->writeQueue.clear();
-    boost::asio::async_write(
-        m_impl->port, boost::asio::buffer(m_impl->writeBuffer.get(), m_impl->writeBufferSize),
-        [this](const boost::system::error_code& error, std::size_t) { writeEnd(error); });
+    boost::asio::async_write(m_impl->port,
+                             boost::asio::buffer(m_impl->writeBuffer.get(), m_impl->writeBufferSize),
+                             [this](const boost::system::error_code& error, size_t) { writeEnd(error); });
 }
 
 void AsyncSerial::writeEnd(const boost::system::error_code& error) {

@@ -22,7 +22,7 @@ class AsyncSerial {
 public:
     /// Receives the bytes of one read, valid only during the call, and their count, 1 to 512. Runs on the
     /// port's thread and must not set or clear the callback itself.
-    using ReadCallback = std::function<void(const char*, std::size_t)>;
+    using ReadCallback = std::function<void(const char*, size_t)>;
 
     /// Leaves the port closed.
     AsyncSerial();
@@ -77,7 +77,7 @@ public:
 
     /// Queues bytes for sending and returns at once. Bytes are sent in the order in which they were queued. A
     /// closed port drops them.
-    void write(const char* data, std::size_t size);
+    void write(const char* data, size_t size);
     /// \overload
     void write(const std::vector<char>& data);
     /// Queues the bytes of a text for sending, including zeros.
@@ -101,7 +101,7 @@ protected:
 private:
     // Completion handlers, run on the port's thread.
     void doRead();
-    void readEnd(const boost::system::error_code& error, std::size_t bytesTransferred);
+    void readEnd(const boost::system::error_code& error, size_t bytesTransferred);
     void doWrite();
     void startWrite();
     void writeEnd(const boost::system::error_code& error);

@@ -10,15 +10,15 @@
 
 namespace {
 
-constexpr std::uint32_t SampleProtocol = 2;
+constexpr uint32_t SampleProtocol = 2;
 
 // Intentional: in these records the address and data begin at odd positions, one after their positions in
 // other records. The first byte of the data is byte 5.
 constexpr size_t AddressPosition = 5, AddressDigits = 4;
-constexpr std::uint32_t FirstDataByte = 5, FirstDataByteOfBlock = 9;
+constexpr uint32_t FirstDataByte = 5, FirstDataByteOfBlock = 9;
 constexpr int BlockMask = 0x1FFF; // a block has 8192 bytes
 
-std::uint32_t LogByte(const wxString& line, size_t n) {
+uint32_t LogByte(const wxString& line, size_t n) {
     return HexNumberAt(line, 2 * (n - 1) + 1, 2);
 }
 
@@ -30,7 +30,7 @@ void Write(wxFFile& file, const wxString& text) {
 
 // ---- Trace of the serial traffic ----
 
-constexpr std::uint32_t SevenBits = 0x7F, Received = 0x80, MessageBegin = 2, MessageEnd = 3;
+constexpr uint32_t SevenBits = 0x7F, Received = 0x80, MessageBegin = 2, MessageEnd = 3;
 
 wxString PairOfLines(const TRecordContext& context) {
     return context.DebugRxText + "\n" + context.DebugTxText + "\n";
@@ -47,18 +47,18 @@ void PadTo(wxString& text, size_t length) {
         text.Pad(length - text.length());
 }
 
-wxString TraceCharacter(std::uint32_t c) {
+wxString TraceCharacter(uint32_t c) {
     return c >= ' ' && c <= '~' ? wxString(wxUniChar(c)) : wxString::Format("<%02X>", c);
 }
 
 /// State carried from one byte outside messages to the next, within a record.
 struct Traffic {
-    std::uint32_t lastCharacter = 0;
+    uint32_t lastCharacter = 0;
     wxString text; ///< last text made
 };
 
 /// @return text to write
-wxString TakeMessageByte(TRecordContext& context, std::uint32_t c) {
+wxString TakeMessageByte(TRecordContext& context, uint32_t c) {
     if (c != MessageEnd) {
         context.DebugRxText += wxUniChar(c);
         return {};
@@ -71,8 +71,8 @@ wxString TakeMessageByte(TRecordContext& context, std::uint32_t c) {
 
 /// Appends the text of a byte to its line. The echo of the previous byte is placed right under it; anything
 /// else begins where the other line ends.
-void AddToLines(TRecordContext& context, std::uint32_t byte, const Traffic& traffic) {
-    const std::uint32_t c = byte & SevenBits;
+void AddToLines(TRecordContext& context, uint32_t byte, const Traffic& traffic) {
+    const uint32_t c = byte & SevenBits;
     if (c == 0)
         return;
     if (byte & Received) {
@@ -86,8 +86,8 @@ void AddToLines(TRecordContext& context, std::uint32_t byte, const Traffic& traf
 }
 
 /// @return text to write
-wxString TakeTrafficByte(TRecordContext& context, std::uint32_t byte, Traffic& traffic) {
-    const std::uint32_t c = byte & SevenBits;
+wxString TakeTrafficByte(TRecordContext& context, uint32_t byte, Traffic& traffic) {
+    const uint32_t c = byte & SevenBits;
     wxString written;
     if (c == MessageBegin) {
         written = PairOfLines(context);
@@ -116,7 +116,7 @@ wxString TraceText(TRecordContext& context) {
 
     Traffic traffic;
     for (size_t n = context.LogDataStart; n < line.length() / 2; ++n) {
-        const std::uint32_t byte = LogByte(line, n);
+        const uint32_t byte = LogByte(line, n);
         text += context.Work2 == 1 ? TakeMessageByte(context, byte & SevenBits)
                                    : TakeTrafficByte(context, byte, traffic);
     }
@@ -126,9 +126,9 @@ wxString TraceText(TRecordContext& context) {
 // ---- Temperature samples ----
 
 constexpr size_t EntryCount = 8, EntryLength = 16, UnusedMarkPosition = 15;
-constexpr std::uint32_t UnusedEntry = 255, WordsFlag = 0x08, LowSixBits = 0x3F;
+constexpr uint32_t UnusedEntry = 255, WordsFlag = 0x08, LowSixBits = 0x3F;
 
-int SignedByte(std::uint32_t byte) {
+int SignedByte(uint32_t byte) {
     return byte > 127 ? static_cast<int>(byte) - 256 : static_cast<int>(byte);
 }
 

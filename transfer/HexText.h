@@ -14,15 +14,15 @@ int HexByteSum(const wxString& text);
 
 /// Returns the number in up to 8 hexadecimal digits of text, starting at a 0-based position. A character that
 /// isn't such a digit counts as 0, and so does one past the end of the text.
-std::uint32_t HexNumberAt(const wxString& text, std::size_t position, std::size_t digits);
-std::uint32_t HexNumberAt(std::wstring_view text, std::size_t position, std::size_t digits);
+uint32_t HexNumberAt(const wxString& text, size_t position, size_t digits);
+uint32_t HexNumberAt(std::wstring_view text, size_t position, size_t digits);
 
 /// True for a character that HexNumberAt accepts as a digit.
 bool IsHexDigit(wchar_t c);
 
 /// Writes the last `digits` hexadecimal digits of a number, in upper case. More than 8 digits get leading
 /// zeros.
-void WriteHex(wchar_t* to, std::size_t digits, std::uint32_t number);
+void WriteHex(wchar_t* to, size_t digits, uint32_t number);
 
 /// True if a configuration text, split into its fields, has a good checksum: the bytes of its fields 2 to 5,
 /// if present, plus one add up to a multiple of 256.

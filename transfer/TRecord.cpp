@@ -20,11 +20,11 @@ bool IsHexPairAt(std::wstring_view line, size_t at) {
 
 } // namespace
 
-wxString HexField(std::int64_t value, size_t digits) {
+wxString HexField(int64_t value, size_t digits) {
     constexpr size_t most = 8;
     std::array<wchar_t, most> text;
     const size_t length = std::min(digits, most);
-    WriteHex(text.data(), length, static_cast<std::uint32_t>(value));
+    WriteHex(text.data(), length, static_cast<uint32_t>(value));
     return wxString(text.data(), length);
 }
 

@@ -7,7 +7,7 @@
 
 /// Returns the last `digits` characters, at most 8, of a value as "%08X". A wider value loses its high
 /// digits; -1 in two digits is "FF".
-wxString HexField(std::int64_t value, size_t digits);
+wxString HexField(int64_t value, size_t digits);
 
 /// Returns the checksum (0 to 255) of a line that lacks it: the one's complement of the byte sum from
 /// position 2 to the line's end. Letter and type at positions 0 and 1 don't count.

@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr std::uint32_t V1 = 1, V2 = 2;
+constexpr uint32_t V1 = 1, V2 = 2;
 
 /// Moves a cell's text into the array without a second copy.
 void TakeCell(wxArrayString& texts, wxGrid* grid, int row, int column) {
@@ -142,7 +142,7 @@ void encodeEraseRecord(TRecordContext& context, int row, wxString& out) {
 
 void encodeConfigRecord(TRecordContext&, const wxString& text, wxString& out) {
     constexpr size_t addressAndChecksum = 3;
-    out = "T1" + HexField(static_cast<std::int64_t>(text.length() + addressAndChecksum), 2) + "0000";
+    out = "T1" + HexField(static_cast<int64_t>(text.length() + addressAndChecksum), 2) + "0000";
     for (const wxUniChar c : text)
         out += HexField(c.GetValue(), 2);
 }

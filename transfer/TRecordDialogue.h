@@ -12,7 +12,7 @@
 class wxGrid;
 
 /// Bits of TransferContext::XferFlags.
-enum TransferNeed : std::uint32_t {
+enum TransferNeed : uint32_t {
     RadioPurged = 0x01,     ///< the radio was told to erase all memories: those it held are sent again
     NeedsShadowPass = 0x02, ///< shadows are to be sent, after all primaries
     HasMarkedRow = 0x04,    ///< a row to be sent has MarkedFlag
@@ -23,7 +23,7 @@ enum TransferNeed : std::uint32_t {
 
 /// Values of TransferContext::Index below 0; from 0 on it is a row or a line of the configuration. A transfer
 /// takes the states in this order; answers skip some of them (ContinueAt).
-enum TransferState : std::int32_t {
+enum TransferState : int32_t {
     HelloState = -10,       ///< offers a protocol, until the radio agrees to one
     SpeedState = -9,        ///< agrees on the fast line speed
     OpModeState = -8,       ///< asks for the enabled operating modes
@@ -59,7 +59,7 @@ struct TRecordDialogue {
         context.TxLine = line;
         lacksChecksum = true;
     }
-    bool Needs(std::uint32_t anyOf) const { return (context.XferFlags & anyOf) != 0; }
+    bool Needs(uint32_t anyOf) const { return (context.XferFlags & anyOf) != 0; }
 };
 
 // Each source calls only functions that are declared above its own.
@@ -68,7 +68,7 @@ struct TRecordDialogue {
 
 /// Returns the operating mode that a row of the current page uses and radioModes lacks: WideMode, NarrowMode
 /// or DigitalMode; 0 if there is none.
-std::uint32_t CheckForInvalidOpModes(TRecordContext& context, int row, std::uint32_t radioModes);
+uint32_t CheckForInvalidOpModes(TRecordContext& context, int row, uint32_t radioModes);
 
 /// Prepares all rows for a write. Sets SEL in the TFLG of selected rows and of the primaries and shadows that
 /// must be sent with them, and clears it in all others. Counts the rows to send, and finds out what they need

@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr std::size_t ShortestRecord = 4; // letter, type and checksum
-constexpr std::size_t ChecksumLength = 2;
+constexpr size_t ShortestRecord = 4; // letter, type and checksum
+constexpr size_t ChecksumLength = 2;
 
 void SendLine(TRecordContext& context, const wxString& line) {
     WriteTransferLog(context.LogFile, ">" + line);
@@ -49,7 +49,7 @@ void CheckLine(TRecordDialogue& dialogue) {
     } else if (context.RxLine.length() < ShortestRecord || !HasGoodChecksum(context.RxLine)) {
         RefuseLine(dialogue);
     } else {
-        context.RecordType = static_cast<std::uint32_t>(ReadDecimal(context.RxLine.Mid(1, 1)));
+        context.RecordType = static_cast<uint32_t>(ReadDecimal(context.RxLine.Mid(1, 1)));
         context.RxLine.RemoveLast(ChecksumLength);
     }
 }

@@ -50,14 +50,14 @@ wchar_t ShownCharacter(wchar_t c) {
 
 /// Returns a frequency in MHz as hertz: its digits read as one number and filled up to six decimals. Without
 /// a point the number is already in hertz; decimals after the sixth stay digits of the number.
-std::uint32_t FrequencyToHertz(const wxString& cell) {
+uint32_t FrequencyToHertz(const wxString& cell) {
     const std::wstring_view text = Trimmed(CharactersOf(cell));
     if (std::none_of(text.begin(), text.end(), [](wchar_t c) { return c >= L'0' && c <= L'9'; }))
         return 0;
-    std::uint32_t number = 0;
+    uint32_t number = 0;
     for (const wchar_t c : text)
         if (c != L'.')
-            number = number * 10 + (static_cast<std::uint32_t>(c) - L'0');
+            number = number * 10 + (static_cast<uint32_t>(c) - L'0');
     if (const size_t point = text.find(L'.'); point != text.npos)
         for (size_t decimals = text.length() - point - 1; decimals < MegahertzDecimals; ++decimals)
             number *= 10;
@@ -101,8 +101,8 @@ public:
             return;
 
         const wxString& cell = m_source.cells[field.column];
-        const auto number = [&](std::int64_t value) {
-            WriteHex(&m_line[field.position], field.width, static_cast<std::uint32_t>(value));
+        const auto number = [&](int64_t value) {
+            WriteHex(&m_line[field.position], field.width, static_cast<uint32_t>(value));
         };
         switch (field.kind) {
         case TRecordKind::Literal:
@@ -154,7 +154,7 @@ public:
         case TRecordKind::MaskedNac:
             return number(ReadHex(cell) & NacMask);
         case TRecordKind::SquelchNac:
-            return number(static_cast<std::int64_t>(ReadDecimal(m_source.cells[RNSV])) << SquelchShift |
+            return number(static_cast<int64_t>(ReadDecimal(m_source.cells[RNSV])) << SquelchShift |
                           ReadHex(cell));
         case TRecordKind::SquelchByte:
             return number(m_source.type == NP25 ? ReadDecimal(cell) : NoSquelchValue);
@@ -163,14 +163,14 @@ public:
 
 private:
     void PutLiteral(const TRecordField& field) {
-        std::copy_n(field.literal, field.width, m_line.begin() + static_cast<std::ptrdiff_t>(field.position));
+        std::copy_n(field.literal, field.width, m_line.begin() + static_cast<ptrdiff_t>(field.position));
     }
 
     /// Writes each character as two digits. Cuts the text, or fills it with blanks, to the field's width.
     void PutCharacters(const TRecordField& field, std::wstring_view text) {
         for (size_t i = 0; i < field.width / 2; ++i) {
             const wchar_t c = i < text.length() ? ShownCharacter(text[i]) : L' ';
-            WriteHex(&m_line[field.position + 2 * i], 2, static_cast<std::uint32_t>(c));
+            WriteHex(&m_line[field.position + 2 * i], 2, static_cast<uint32_t>(c));
         }
     }
 
@@ -202,15 +202,15 @@ private:
 };
 
 /// Intentional: cut to nine characters, so that a frequency below 100 MHz has one decimal more than others.
-wxString HertzToFrequency(std::uint32_t hertz) {
+wxString HertzToFrequency(uint32_t hertz) {
     wxString text = DecimalText(hertz, MegahertzDecimals + 1);
     text.insert(text.length() - MegahertzDecimals, 1, '.');
     return text.Left(HertzTextLength);
 }
 
 /// Returns an entry of a list, or null if the position is outside of it.
-const wxString* EntryAt(const wxArrayString& list, std::int64_t position) {
-    if (position < 0 || position >= static_cast<std::int64_t>(list.size()))
+const wxString* EntryAt(const wxArrayString& list, int64_t position) {
+    if (position < 0 || position >= static_cast<int64_t>(list.size()))
         return nullptr;
     return &list[static_cast<size_t>(position)];
 }
@@ -226,7 +226,7 @@ public:
     TRecordValues values;
 
     void Take(const TRecordField& field) {
-        const std::uint32_t number = field.width <= 8 ? HexNumberAt(m_line, field.position, field.width) : 0;
+        const uint32_t number = field.width <= 8 ? HexNumberAt(m_line, field.position, field.width) : 0;
         switch (field.kind) {
         case TRecordKind::Literal:
         case TRecordKind::GuardNumber:
@@ -277,12 +277,12 @@ public:
             Add(field.column, HertzToFrequency(number));
             break;
         case TRecordKind::Tone:
-            AddEntry(field.column, EntryAt(CtcssList, static_cast<std::int64_t>(number) - 1));
+            AddEntry(field.column, EntryAt(CtcssList, static_cast<int64_t>(number) - 1));
             break;
         case TRecordKind::PlainCode:
         case TRecordKind::Code:
             // Intentional: a code that was sent with 1 added is read back one place further down the list.
-            AddEntry(field.column, EntryAt(CodeList, static_cast<std::int64_t>(number) + 1));
+            AddEntry(field.column, EntryAt(CodeList, static_cast<int64_t>(number) + 1));
             break;
         case TRecordKind::TalkGroup:
             Add(field.column, HexadecimalText(number, 4));
@@ -326,7 +326,7 @@ private:
     void AddZone(Column column, const wxString* name) { Add(column, name ? *name : wxString()); }
 
     /// Intentional: a value of one digit gets a leading blank.
-    void AddSquelchValue(Column column, std::uint32_t value) {
+    void AddSquelchValue(Column column, uint32_t value) {
         Add(column, (value < 10 ? " " : "") + DecimalText(value));
     }
 
@@ -334,7 +334,7 @@ private:
         constexpr size_t count = SHD6 - SHD0 + 1;
         const size_t width = field.width / count;
         for (size_t i = 0; i < count; ++i) {
-            const std::uint32_t number = HexNumberAt(m_line, field.position + i * width, width);
+            const uint32_t number = HexNumberAt(m_line, field.position + i * width, width);
             values.shadows += number != 0;
             Add(static_cast<Column>(SHD0 + i), DecimalText(number));
         }

@@ -54,6 +54,6 @@ inline constexpr const char* EndRecord     = "T9030000";
 // clang-format on
 
 /// Position, from 0, of the text after a message of ten characters.
-inline constexpr std::size_t MessageTextAt = 10;
+inline constexpr size_t MessageTextAt = 10;
 /// Lengths in characters of a firmware version, an identity stamp and a byte.
-inline constexpr std::size_t VersionLength = 6, StampLength = 14, ByteLength = 2;
+inline constexpr size_t VersionLength = 6, StampLength = 14, ByteLength = 2;

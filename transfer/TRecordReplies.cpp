@@ -20,9 +20,9 @@ namespace {
 
 constexpr unsigned FastSpeed = 115200; // baud
 /// Refusals of the same line that end the transfer.
-constexpr std::uint32_t RefusalLimit = 2;
+constexpr uint32_t RefusalLimit = 2;
 
-void SetRadioModes(TRecordContext& context, std::uint32_t modes) {
+void SetRadioModes(TRecordContext& context, uint32_t modes) {
     context.RadioModes = modes;
     OpModes[CurrentPage] = modes;
 }

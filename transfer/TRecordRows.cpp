@@ -165,9 +165,9 @@ bool PurgeIsNeeded(const TRecordDialogue& dialogue) {
     return dialogue.Needs(RadioPurged | NeedsShadowPass | HasMarkedRow | OtherRadio);
 }
 
-std::uint32_t CheckForInvalidOpModes(TRecordContext&, int row, std::uint32_t radioModes) {
+uint32_t CheckForInvalidOpModes(TRecordContext&, int row, uint32_t radioModes) {
     const wxString mode = CurrentGrid()->GetCellValue(row, MODE);
-    std::uint32_t needed = 0;
+    uint32_t needed = 0;
     if (mode == "w")
         needed = WideMode;
     else if (mode == "n")

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int DebugLogBlocks = 255;
 /// Radios of this protocol send their hardware information before their debug log.
-constexpr std::uint32_t HardwareProtocol = 2;
+constexpr uint32_t HardwareProtocol = 2;
 
 bool UserAcceptsModes(const TRecordContext& context) {
     wxString text =
@@ -124,7 +124,7 @@ void BeginData(TRecordDialogue& dialogue) {
 
 TransferStatus OfferConfigLine(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
-    const std::size_t line = static_cast<std::size_t>(context.Index);
+    const size_t line = static_cast<size_t>(context.Index);
     if (line >= context.ConfigLines.size())
         return TransferComplete;
     wxString record;
@@ -147,7 +147,7 @@ TransferStatus ChooseDataLine(TRecordDialogue& dialogue) {
 } // namespace
 
 void OfferHello(TRecordDialogue& dialogue) {
-    dialogue.Offer(HelloBegin + HexField(FirstProtocolByte + std::int64_t{dialogue.context.Protocol}, 2) +
+    dialogue.Offer(HelloBegin + HexField(FirstProtocolByte + int64_t{dialogue.context.Protocol}, 2) +
                    HelloEnd);
 }
 

@@ -75,7 +75,7 @@ void SetMainGauge(TransferContext& context, int value) {
 }
 
 void TakeReceivedLine(TransferContext& context) {
-    const std::size_t end = static_cast<std::size_t>(context.FoundAt);
+    const size_t end = static_cast<size_t>(context.FoundAt);
     context.RxLine = context.RxBuffer.Left(end).Trim(false);
     context.RxBuffer = context.RxBuffer.Mid(end + 1).Trim(false);
 }

@@ -29,7 +29,7 @@ void FillStatusList() {
 }
 
 wxString GetStatusText(int status) {
-    if (status < 0 || static_cast<std::size_t>(status) >= StatusList.size())
+    if (status < 0 || static_cast<size_t>(status) >= StatusList.size())
         return "Bad Index";
-    return StatusList[static_cast<std::size_t>(status)];
+    return StatusList[static_cast<size_t>(status)];
 }

@@ -7,7 +7,7 @@
 #include <cstdint>
 
 /// Result of a transfer and of its waits. The numbers are fixed: users see them in a message box.
-enum TransferStatus : std::int32_t {
+enum TransferStatus : int32_t {
     TransferOk = 0,
     TransferComplete = 1,
     TransferPortError = 2,

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr std::int64_t kPulseInterval = 50; // milliseconds
+constexpr int64_t kPulseInterval = 50; // milliseconds
 
 void StartClock(TransferContext& context) {
     context.WaitStart = wxDateTime::UNow();

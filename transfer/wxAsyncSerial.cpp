@@ -47,7 +47,7 @@ void wxAsyncSerial::open(const wxString& deviceName, unsigned int baudRate) {
     } catch (const boost::system::system_error&) {
         // isOpen() reports the failure.
     }
-    m_impl->port.setCallback([this](const char* data, std::size_t length) { readCallback(data, length); });
+    m_impl->port.setCallback([this](const char* data, size_t length) { readCallback(data, length); });
     const wxMutexLocker lock(SerialRxMutex);
     SerialRxBuffer.clear();
 }
@@ -93,7 +93,7 @@ wxString wxAsyncSerial::GetData() {
     return data;
 }
 
-void wxAsyncSerial::readCallback(const char* data, std::size_t length) {
+void wxAsyncSerial::readCallback(const char* data, size_t length) {
     const wxMutexLocker lock(SerialRxMutex);
     SerialRxBuffer.append(wxString(data, wxConvISO8859_1, length));
 }

@@ -64,7 +64,7 @@ public:
     static wxString GetData();
 
 private:
-    void readCallback(const char* data, std::size_t length);
+    void readCallback(const char* data, size_t length);
 
     wxString m_text; // never filled
     std::shared_ptr<wxAsyncSerialImpl> m_impl;

@@ -107,7 +107,7 @@ constexpr int ColumnOf(const char* tag) {
 inline std::array<const char*, 32> DefaultRow(int row) {
     std::array<const char*, 32> texts{};
     if (row == 4 || row == 9) {
-        for (std::size_t i = 0; i < texts.size(); ++i)
+        for (size_t i = 0; i < texts.size(); ++i)
             texts[i] = P25Default[i].text ? P25Default[i].text : row == 9 ? "10" : "";
         return texts;
     }

@@ -52,12 +52,12 @@ TEST(DriverLayers, CallOnlyWhatIsDeclaredAboveThem) {
          {std::pair("AnalogDialogue.h", 3u), std::pair("TRecordDialogue.h", 6u)}) {
         const std::vector<Layer> layers = LayersOf(header);
         EXPECT_EQ(layers.size(), sources) << header;
-        for (std::size_t low = 0; low < layers.size(); ++low) {
+        for (size_t low = 0; low < layers.size(); ++low) {
             const std::string text = TextOf(Room / layers[low].source);
             EXPECT_FALSE(layers[low].functions.empty()) << layers[low].source;
             for (const std::string& own : layers[low].functions)
                 EXPECT_TRUE(Calls(text, own)) << layers[low].source << " doesn't define " << own;
-            for (std::size_t high = low + 1; high < layers.size(); ++high)
+            for (size_t high = low + 1; high < layers.size(); ++high)
                 for (const std::string& function : layers[high].functions)
                     EXPECT_FALSE(Calls(text, function)) << layers[low].source << " calls " << function;
         }

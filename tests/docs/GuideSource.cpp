@@ -12,7 +12,7 @@ namespace docstest {
 namespace {
 
 void ReplaceAll(std::string& text, const std::string& what, const std::string& by) {
-    for (std::size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size())
+    for (size_t at = 0; (at = text.find(what, at)) != std::string::npos; at += by.size())
         text.replace(at, what.size(), by);
 }
 
@@ -56,11 +56,11 @@ std::string PlainText(const std::string& source) {
 }
 
 std::vector<std::string> MessageCells(const std::string& source) {
-    const std::size_t table = source.find("|===", source.find("[#status-texts]"));
-    const std::size_t end = source.find("|===", table + 4);
+    const size_t table = source.find("|===", source.find("[#status-texts]"));
+    const size_t end = source.find("|===", table + 4);
     std::vector<std::string> cells;
     // Blank lines separate rows; cells begin at the starts of lines.
-    for (std::size_t at = source.find("\n\n|", table); at + 2 < end; at = source.find("\n\n|", at + 3))
+    for (size_t at = source.find("\n\n|", table); at + 2 < end; at = source.find("\n\n|", at + 3))
         cells.push_back(PlainText(source.substr(at + 3, source.find("\n|", at + 3) - at - 3)));
     return cells;
 }

@@ -65,7 +65,7 @@ void ExpectInSource(const std::string& text) {
     EXPECT_NE(Source().find(text), std::string::npos) << "the guide lacks: " << text;
 }
 
-template <std::size_t count>
+template <size_t count>
 void ExpectMenu(const MenuEntry (&menu)[count]) {
     for (const MenuEntry& entry : menu)
         if (entry.label)
@@ -74,7 +74,7 @@ void ExpectMenu(const MenuEntry (&menu)[count]) {
 
 /// A cell of a table, with its cell signs escaped.
 std::string Cell(std::string text) {
-    for (std::size_t at = 0; (at = text.find('|', at)) != std::string::npos; at += 2)
+    for (size_t at = 0; (at = text.find('|', at)) != std::string::npos; at += 2)
         text.insert(at, "\\");
     return text;
 }
@@ -83,9 +83,9 @@ std::string Cell(std::string text) {
 std::vector<std::string> Blocks(const std::string& identity) {
     std::vector<std::string> blocks;
     const std::string fence = "\n----\n";
-    std::size_t at = Source().find("[#" + identity + "]");
+    size_t at = Source().find("[#" + identity + "]");
     while (at != std::string::npos && (at = Source().find(fence, at)) != std::string::npos) {
-        const std::size_t start = at + fence.size();
+        const size_t start = at + fence.size();
         at = Source().find(fence, start);
         blocks.push_back(Source().substr(start, at - start));
         at += fence.size();
@@ -115,7 +115,7 @@ std::vector<std::string> ArgumentsOf(const std::string& command) {
 /// The text between backquotes at the start of the cells that begin with `start`.
 std::vector<std::string> CodesBeginning(const std::string& start) {
     std::vector<std::string> codes;
-    for (std::size_t at = 0; (at = Source().find("\n|`" + start, at)) != std::string::npos; ++at)
+    for (size_t at = 0; (at = Source().find("\n|`" + start, at)) != std::string::npos; ++at)
         codes.push_back(Source().substr(at + 3, Source().find('`', at + 3) - at - 3));
     return codes;
 }
@@ -137,7 +137,7 @@ std::string OutputOf(const std::string& command) {
     std::string output;
     FILE* const pipe = popen(command.c_str(), "r");
     char block[4096];
-    while (const std::size_t count = std::fread(block, 1, sizeof block, pipe))
+    while (const size_t count = std::fread(block, 1, sizeof block, pipe))
         output.append(block, count);
     pclose(pipe);
     return output;
@@ -238,8 +238,8 @@ TEST(Guide, HasEveryRadioWithItsBandsRowsAndGuards) {
             const std::string guards =
                 rows % 10 == 2 ? std::to_string(rows - 1) + ", " + std::to_string(rows) : std::string("none");
             ExpectInSource("\n|" + Cell(RadioLabel[radio]) + " |" +
-                           (oneBand ? "not asked" : offered[static_cast<std::size_t>(slot)].utf8_string()) +
-                           " |" + BandName[band] + " |`" + RadioTypeName[GetRadioType(radio, band)] + "` |" +
+                           (oneBand ? "not asked" : offered[static_cast<size_t>(slot)].utf8_string()) + " |" +
+                           BandName[band] + " |`" + RadioTypeName[GetRadioType(radio, band)] + "` |" +
                            std::to_string(rows) + " |" + guards + " |");
         }
     }
@@ -249,7 +249,7 @@ TEST(Guide, HasTheHeadingsOfLists) {
     const wxArrayString names = wxSplit(CsvHeader, ',');
     const auto marked = [&](const unsigned char* mask) {
         std::string all;
-        for (std::size_t i = 0; i < CsvFieldTotal; ++i)
+        for (size_t i = 0; i < CsvFieldTotal; ++i)
             if (!mask || mask[i])
                 all += (all.empty() ? "`" : ", `") + names[i].utf8_string() + '`';
         return all;
@@ -285,8 +285,8 @@ TEST(Guide, GivesCommandsThatTheSimulatedRadioUnderstands) {
         EXPECT_NE(Simulator::HelpText().find("  " + option.substr(0, option.find_first_of(" [")) + ' '),
                   std::string::npos)
             << option;
-    for (std::size_t at = 0; (at = Source().find("@5`", at)) != std::string::npos; ++at) {
-        const std::size_t start = Source().rfind('`', at) + 1;
+    for (size_t at = 0; (at = Source().find("@5`", at)) != std::string::npos; ++at) {
+        const size_t start = Source().rfind('`', at) + 1;
         ExpectUnderstood({"--model", "KDRV-716", "--fault", Source().substr(start, at + 2 - start)});
     }
 }
@@ -298,7 +298,7 @@ TEST(Guide, TellsEveryCodeOfAChannelFileThatCannotBeOpened) {
 
 TEST(Guide, ShowsPicturesThatAreThereAndSmall) {
     std::set<std::string> shown;
-    for (std::size_t at = 0; (at = Source().find("image::", at)) != std::string::npos; ++at)
+    for (size_t at = 0; (at = Source().find("image::", at)) != std::string::npos; ++at)
         shown.insert(Source().substr(at + 7, Source().find('[', at) - at - 7));
     ASSERT_GT(shown.size(), 20u);
     for (const std::string& picture : shown) {

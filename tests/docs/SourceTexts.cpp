@@ -68,7 +68,7 @@ private:
             return {Kind::Sign, "'"};
         }
         if (std::isalnum(static_cast<unsigned char>(c)) || c == '_') {
-            const std::size_t start = m_at;
+            const size_t start = m_at;
             // A ' among digits ends the name.
             while (m_at < m_source.size() &&
                    (std::isalnum(static_cast<unsigned char>(m_source[m_at])) || m_source[m_at] == '_'))
@@ -101,7 +101,7 @@ private:
     }
 
     const std::string& m_source;
-    std::size_t m_at = 0;
+    size_t m_at = 0;
 };
 
 const std::set<std::string> Showing = {
@@ -113,7 +113,7 @@ const std::set<std::string> Showing = {
 const std::set<std::string> Shown = {"StatusText", "message"};
 
 /// Takes the texts from a token up to the end of the call or statement that starts there.
-void TakeUntil(const std::vector<Token>& tokens, std::size_t at, bool call, std::vector<std::string>& texts) {
+void TakeUntil(const std::vector<Token>& tokens, size_t at, bool call, std::vector<std::string>& texts) {
     int depth = 0;
     for (; at < tokens.size(); ++at) {
         const Token& token = tokens[at];
@@ -159,11 +159,11 @@ std::vector<std::string> LiteralsOf(const std::string& source) {
 std::vector<std::string> ShownLiteralsOf(const std::string& source) {
     const std::vector<Token> tokens = Lexer(source).All();
     std::vector<std::string> texts;
-    for (std::size_t i = 0; i + 2 < tokens.size(); ++i) {
+    for (size_t i = 0; i + 2 < tokens.size(); ++i) {
         if (tokens[i].kind != Kind::Name)
             continue;
         // A call, or a variable of a class that shows its text.
-        const std::size_t open = tokens[i + 1].kind == Kind::Name ? i + 2 : i + 1;
+        const size_t open = tokens[i + 1].kind == Kind::Name ? i + 2 : i + 1;
         if (Showing.count(tokens[i].text) && tokens[open].text == "(")
             TakeUntil(tokens, open, true, texts);
         else if (Shown.count(tokens[i].text) && tokens[i + 1].text == "=" && tokens[i + 2].text != "=")

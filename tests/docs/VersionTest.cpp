@@ -24,11 +24,11 @@ std::string ReadText(const fs::path& file) {
 
 /// Whether the text contains the number, not as part of a longer one such as an address.
 bool HasNumber(const std::string& text) {
-    const auto isPart = [&](std::size_t at) {
+    const auto isPart = [&](size_t at) {
         return at < text.size() && (std::isdigit(static_cast<unsigned char>(text[at])) || text[at] == '.');
     };
-    for (std::size_t at = text.find(Number); at != text.npos; at = text.find(Number, at + 1)) {
-        const std::size_t end = at + Number.size();
+    for (size_t at = text.find(Number); at != text.npos; at = text.find(Number, at + 1)) {
+        const size_t end = at + Number.size();
         const bool endsASentence = end < text.size() && text[end] == '.' && !isPart(end + 1);
         if (!(at > 0 && isPart(at - 1)) && (!isPart(end) || endsASentence))
             return true;

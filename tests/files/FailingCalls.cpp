@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr std::size_t MostBytesOfAWrite = 512;
+constexpr size_t MostBytesOfAWrite = 512;
 
 struct Plan {
     std::string folder; ///< ends with a separator

@@ -53,7 +53,7 @@ public:
     /// Returns what the radio says to these bytes.
     std::string Tell(std::string_view bytes) {
         for (char c : bytes)
-            m_radio.Hear(static_cast<std::uint8_t>(c));
+            m_radio.Hear(static_cast<uint8_t>(c));
         return m_link.Said();
     }
 
@@ -299,9 +299,9 @@ TEST(Read, HasABannerOfItsOwnWithoutTheTextThatAReaderLooksFor) {
         AnalogRadio radio(model, {}, {}, link);
         for (char c : "rt\r" + std::to_string(model.openingNumber) + "\r")
             if (model.openingNumber != 0)
-                radio.Hear(static_cast<std::uint8_t>(c));
+                radio.Hear(static_cast<uint8_t>(c));
         for (char c : std::string("ul\r "))
-            radio.Hear(static_cast<std::uint8_t>(c));
+            radio.Hear(static_cast<uint8_t>(c));
         const std::string said = link.Said();
         const std::string banner = said.substr(0, said.find('\r'));
         EXPECT_NE(banner.find(model.name), std::string::npos) << model.name << ": " << said.substr(0, 80);
@@ -349,7 +349,7 @@ TEST(Parity, IsSetBehindTheNumberFieldButNotOnTheLineEnd) {
     habits.banner = "AB";
     Bench bench("KRV-214B", "", habits, {VhfLine("001").c_str()});
     std::string expected = VhfLine("001");
-    for (std::size_t k = 3; k < expected.size(); ++k)
+    for (size_t k = 3; k < expected.size(); ++k)
         expected[k] = static_cast<char>(expected[k] | 0x80);
     EXPECT_EQ(bench.Tell("rt\r1\rul\r "), "AB\r" + expected + "\r300\r");
 }

@@ -37,7 +37,7 @@ constexpr char TakeConfig[] = "T204000035C6";
 /// A body with its checksum: the complement of the sum of all bytes after letter and type.
 inline std::string Framed(const std::string& body) {
     unsigned sum = 0;
-    for (std::size_t k = 2; k + 1 < body.size(); k += 2)
+    for (size_t k = 2; k + 1 < body.size(); k += 2)
         sum += static_cast<unsigned>(std::stoul(body.substr(k, 2), nullptr, 16));
     char text[8];
     std::snprintf(text, sizeof text, "%02X", ~sum & 0xFF);
@@ -58,7 +58,7 @@ inline std::string TextDigits(std::string_view text) {
 }
 
 /// The body with text at a position.
-inline std::string With(std::string body, std::size_t position, std::string_view text) {
+inline std::string With(std::string body, size_t position, std::string_view text) {
     return body.replace(position, text.size(), text);
 }
 
@@ -107,7 +107,7 @@ public:
             if (m_link->IsDead())
                 break;
             m_radio->LineSpeed(m_baud);
-            m_radio->Hear(static_cast<std::uint8_t>(c));
+            m_radio->Hear(static_cast<uint8_t>(c));
         }
         std::string all;
         const Simulator::TimePoint start{std::chrono::hours(1)};

@@ -170,7 +170,7 @@ TEST(MemoryRecord, OfOneLayoutTellsTheSameInTheOther) {
 TEST(MemoryRecordV1, TakesEveryOddValueThatIsAllowed) {
     const struct {
         const char* what;
-        std::size_t position;
+        size_t position;
         const char* text;
     } cases[] = {
         {"all flags", 8, "7F"},
@@ -216,7 +216,7 @@ TEST(MemoryRecordV1, TakesEveryOddValueThatIsAllowed) {
 TEST(MemoryRecordV2, TakesEveryOddValueThatIsAllowed) {
     const struct {
         const char* what;
-        std::size_t position;
+        size_t position;
         const char* text;
     } cases[] = {
         {"a number that isn't its place", 16, "0141"},

@@ -8,7 +8,7 @@ using namespace digitaltest;
 
 struct Bad {
     const char* what;
-    std::size_t position;
+    size_t position;
     const char* text;
     int told = -1; ///< position that the radio reports; without it, the field's own
 };

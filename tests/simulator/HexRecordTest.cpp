@@ -21,7 +21,7 @@ TEST(HexRecord, IsReadIntoTypeAddressAndData) {
     ASSERT_TRUE(erase) << problem;
     EXPECT_EQ(erase->type, HexRecord::Type::Message);
     EXPECT_EQ(erase->address, 500);
-    EXPECT_EQ(erase->data, std::vector<std::uint8_t>{0x10});
+    EXPECT_EQ(erase->data, std::vector<uint8_t>{0x10});
     const auto end = ParseRecord("T9030000FC", problem);
     ASSERT_TRUE(end) << problem;
     EXPECT_EQ(end->type, HexRecord::Type::End);

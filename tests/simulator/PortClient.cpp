@@ -55,7 +55,7 @@ void PortClient::Send(std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t put = write(m_port, bytes.data(), bytes.size());
         if (put > 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(put));
+            bytes.remove_prefix(static_cast<size_t>(put));
             continue;
         }
         pollfd room{m_port, POLLOUT, 0};
@@ -71,7 +71,7 @@ std::optional<std::string> PortClient::ReadSome(std::chrono::milliseconds patien
     char buffer[4096];
     const ssize_t got = read(m_port, buffer, sizeof buffer);
     if (got > 0)
-        return std::string(buffer, static_cast<std::size_t>(got));
+        return std::string(buffer, static_cast<size_t>(got));
     if (got < 0 && errno == EAGAIN)
         return std::string();
     return std::nullopt;
@@ -119,8 +119,7 @@ bool WaitForFileText(const std::string& path, std::string_view text) {
 
 int CountOf(std::string_view text, std::string_view part) {
     int count = 0;
-    for (std::size_t at = text.find(part); at != std::string_view::npos;
-         at = text.find(part, at + part.size()))
+    for (size_t at = text.find(part); at != std::string_view::npos; at = text.find(part, at + part.size()))
         ++count;
     return count;
 }

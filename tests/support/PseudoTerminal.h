@@ -73,7 +73,7 @@ public:
         while (!data.empty()) {
             const ssize_t written = ::write(m_master, data.data(), data.size());
             if (written > 0)
-                data.remove_prefix(static_cast<std::size_t>(written));
+                data.remove_prefix(static_cast<size_t>(written));
             else if (!WaitFor(POLLOUT, deadline))
                 return false;
         }
@@ -81,7 +81,7 @@ public:
     }
 
     /// Receives `count` bytes from the program, or those that arrived by the deadline.
-    std::string Read(std::size_t count, Milliseconds limit = Milliseconds(10000)) {
+    std::string Read(size_t count, Milliseconds limit = Milliseconds(10000)) {
         return Collect(limit, count, [count](const std::string& text) { return text.size() >= count; });
     }
 
@@ -119,15 +119,15 @@ private:
 
     // With a `count`, reads all missing bytes at once, otherwise byte by byte.
     template <typename Done>
-    std::string Collect(Milliseconds limit, std::size_t count, Done done) {
+    std::string Collect(Milliseconds limit, size_t count, Done done) {
         const auto deadline = Clock::now() + limit;
         std::string text;
         char buffer[4096];
         while (!done(text)) {
-            const std::size_t wanted = count > text.size() ? std::min(count - text.size(), sizeof buffer) : 1;
+            const size_t wanted = count > text.size() ? std::min(count - text.size(), sizeof buffer) : 1;
             const ssize_t got = ::read(m_master, buffer, wanted);
             if (got > 0)
-                text.append(buffer, static_cast<std::size_t>(got));
+                text.append(buffer, static_cast<size_t>(got));
             else if (!WaitFor(POLLIN, deadline))
                 break;
         }

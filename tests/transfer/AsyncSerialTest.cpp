@@ -22,9 +22,9 @@ static_assert(!std::is_copy_assignable_v<CallbackAsyncSerial>);
 static_assert(std::has_virtual_destructor_v<CallbackAsyncSerial>);
 
 // A text in which every position differs from its neighbours.
-std::string Pattern(std::size_t size, unsigned seed) {
+std::string Pattern(size_t size, unsigned seed) {
     std::string text;
-    for (std::size_t i = 0; text.size() < size; ++i)
+    for (size_t i = 0; text.size() < size; ++i)
         text += std::to_string(seed) + ":" + std::to_string(i) + ";";
     text.resize(size);
     return text;
@@ -62,7 +62,7 @@ TEST(AsyncSerialRead, OfMoreThan512BytesComesInPiecesOf512) {
     auto sent = allSent.get_future().share();
     CallbackAsyncSerial port;
     auto collect = receiver.Callback();
-    port.setCallback([sent, collect](const char* data, std::size_t size) {
+    port.setCallback([sent, collect](const char* data, size_t size) {
         sent.wait(); // until then the device buffers everything
         collect(data, size);
     });
@@ -107,7 +107,7 @@ TEST(AsyncSerialRead, StopsBeforeItsObjectIsGone) {
     for (int round = 0; round < 30; ++round) {
         auto calls = std::make_unique<std::atomic<int>>(0);
         auto port = std::make_unique<CallbackAsyncSerial>();
-        port->setCallback([counter = calls.get()](const char*, std::size_t) { ++*counter; });
+        port->setCallback([counter = calls.get()](const char*, size_t) { ++*counter; });
         port->open(device.SlaveName(), 9600);
         EXPECT_TRUE(Eventually([&] { return *calls > 0; })) << "round " << round;
         port.reset();
@@ -124,7 +124,7 @@ TEST(AsyncSerialRead, ClearingTheCallbackWaitsForTheOneThatRuns) {
     std::atomic<bool> inside{false};
     std::atomic<bool> through{false};
     CallbackAsyncSerial port;
-    port.setCallback([&](const char*, std::size_t) {
+    port.setCallback([&](const char*, size_t) {
         inside = true;
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
         through = true;

@@ -122,7 +122,7 @@ private:
         m_radio.LineSpeed(m_port.Speed());
         for (const char byte : bytes)
             if (!m_silent)
-                m_radio.Hear(static_cast<std::uint8_t>(byte));
+                m_radio.Hear(static_cast<uint8_t>(byte));
     }
 
     void Say(std::string_view bytes) {

@@ -83,7 +83,7 @@ private:
 
     int Below(int limit) { return static_cast<int>(m_random() % static_cast<unsigned>(limit)); }
     bool Once(int outOf) { return Below(outOf) == 0; }
-    KnownRadio& AnyRadio() { return m_radios[static_cast<std::size_t>(Below(2))]; }
+    KnownRadio& AnyRadio() { return m_radios[static_cast<size_t>(Below(2))]; }
 
     /// Returns one of a few rows, so that rows meet often. The guards are among them.
     int AnyRow() {

@@ -24,7 +24,7 @@ protected:
     }
 
     /// Starts a file without heading for the records that follow.
-    void Begin(std::uint32_t protocol) {
+    void Begin(uint32_t protocol) {
         m_context.Protocol = protocol;
         ASSERT_TRUE(m_context.DebugLogFile.Open("log", "w"));
     }
@@ -77,7 +77,7 @@ TEST_F(DebugLog, ReplacesAFileOfItsName) {
 
 TEST_F(DebugLog, ThatCannotBeOpenedStaysClosedAndRecordsGoOn) {
     fs::create_directory("KDRV-716_K1_Dbg.log");
-    for (const std::uint32_t protocol : {0u, 2u}) {
+    for (const uint32_t protocol : {0u, 2u}) {
         m_context.Protocol = protocol;
         OpenDebugLog(m_context, "K1", "now");
         EXPECT_FALSE(m_context.DebugLogFile.IsOpened());
@@ -90,7 +90,7 @@ TEST_F(DebugLog, ThatCannotBeOpenedStaysClosedAndRecordsGoOn) {
 TEST_F(DebugLog, AddressSaysWhereTheDataBeginAndHowFarTheLogIs) {
     struct {
         const char* address;
-        std::uint32_t dataStart;
+        uint32_t dataStart;
         int step;
     } const cases[] = {
         {"0000", 9, 0}, {"2000", 9, 0},   {"4000", 9, 0}, {"E000", 9, 0},   {"0020", 5, 1}, {"1FE0", 5, 255},
@@ -259,7 +259,7 @@ TEST_F(DebugTrace, RecordThatIsTooShortHasNoBytes) {
 
 TEST_F(DebugTrace, EndOfTheLogWritesTheMessageInProgress) {
     struct {
-        std::uint32_t protocol;
+        uint32_t protocol;
         const char* data;
         const char* end;
     } const cases[] = {

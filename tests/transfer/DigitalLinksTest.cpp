@@ -165,7 +165,7 @@ TEST_F(DigitalLinks, ZonesOfTheSecondGenerationReachTheRadioBesideAPageOfTheFirs
     ASSERT_EQ(records.size(), sent.size() + 1) << "with the default row";
     const Texts words = {"0000", "00F0", "0100", "0110", "0120", "0130", "0140", "0150", "0160",
                          "0170", "0180", "0190", "01A0", "01B0", "01C0", "01D0", "01E0", "01F0"};
-    for (std::size_t i = 0; i < words.size(); ++i)
+    for (size_t i = 0; i < words.size(); ++i)
         EXPECT_EQ(records.at(static_cast<int>(i) + 1).substr(22, 4), words[i]) << zones[i];
 }
 

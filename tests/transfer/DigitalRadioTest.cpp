@@ -126,7 +126,7 @@ TEST_F(DigitalRadio, ThatWasReadLastKeepsWhatIsNotSent) {
     RadioUnderTest radio("KDRV-716B");
     Share(radio);
     EXPECT_NE(RadioStamp, RadiosStamp);
-    const std::size_t before = CountInLog(radio, "< T143");
+    const size_t before = CountInLog(radio, "< T143");
     FillP25Row(4);
     Select({4});
     Send(radio, Complete);

@@ -99,10 +99,10 @@ protected:
         return addresses;
     }
 
-    static std::size_t CountInLog(const RadioUnderTest& radio, const std::string& text) {
+    static size_t CountInLog(const RadioUnderTest& radio, const std::string& text) {
         const std::string log = radio.Log();
-        std::size_t count = 0;
-        for (std::size_t at = log.find(text); at != std::string::npos; at = log.find(text, at + 1))
+        size_t count = 0;
+        for (size_t at = log.find(text); at != std::string::npos; at = log.find(text, at + 1))
             ++count;
         return count;
     }

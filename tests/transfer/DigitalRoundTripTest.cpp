@@ -63,7 +63,7 @@ protected:
     static void Fill(const RoundTripPage& page) {
         for (const auto& [row, cells] : page.Rows())
             for (int column = 0; column < ColumnTotal; ++column)
-                SetCell(row, column, cells[static_cast<std::size_t>(column)]);
+                SetCell(row, column, cells[static_cast<size_t>(column)]);
         OpModes[0] = AllModes;
         CurrentGrid()->SelectBlock(1, 0, CurrentGrid()->GetNumberRows() - 1, ColumnTotal - 1);
     }
@@ -86,17 +86,17 @@ protected:
     }
 
     /// Compares the page with its former cells and reports how many cells each rule changed.
-    template <std::size_t count>
+    template <size_t count>
     static void ExpectChanges(const RoundTripPage& page, const std::set<int>& absent,
                               const ColumnRule (&rules)[count]) {
         std::array<int, count> changed{};
         int compared = 0, painted = 0, wrong = 0;
         for (const auto& [row, before] : page.Rows())
             for (int column = 0; column < ColumnTotal; ++column, ++compared) {
-                const std::string& former = before[static_cast<std::size_t>(column)];
+                const std::string& former = before[static_cast<size_t>(column)];
                 std::string expected = absent.count(row) ? "" : former;
                 bool paints = false;
-                for (std::size_t k = 0; k < count && !absent.count(row); ++k)
+                for (size_t k = 0; k < count && !absent.count(row); ++k)
                     if (std::count(rules[k].columns.begin(), rules[k].columns.end(), column)) {
                         expected = rules[k].after(before, column);
                         changed[k] += expected != former;
@@ -111,7 +111,7 @@ protected:
             }
         EXPECT_EQ(wrong, 0);
         std::cout << "[   cells  ] " << compared << " compared, " << painted << " painted\n";
-        for (std::size_t k = 0; k < count; ++k) {
+        for (size_t k = 0; k < count; ++k) {
             std::string tags;
             for (const int column : rules[k].columns)
                 tags += std::string(tags.empty() ? "" : " ") + ColumnTag[column];

@@ -114,7 +114,7 @@ protected:
     }
 
     static std::string WithNumber(std::string text, int number) {
-        for (std::size_t at; (at = text.find('#')) != std::string::npos;)
+        for (size_t at; (at = text.find('#')) != std::string::npos;)
             text.replace(at, 1, std::to_string(number));
         return text;
     }
@@ -181,7 +181,7 @@ protected:
 
     static void Print(const FaultEnding& fault, int protocol, int n, std::string ending,
                       const std::string& left, const Result& result) {
-        for (std::size_t at; (at = ending.find('\n')) != std::string::npos;)
+        for (size_t at; (at = ending.find('\n')) != std::string::npos;)
             ending.replace(at, 1, " ");
         std::cout << std::left << "  " << std::setw(17) << fault.name << "protocol " << protocol
                   << "  record " << n << "  " << ending << " | " << left << " | " << result.took.count()
@@ -197,7 +197,7 @@ protected:
     }
 
     /// Runs all kinds of a direction over one protocol, each at the given records.
-    template <std::size_t count, class Check>
+    template <size_t count, class Check>
     static void ForEachCell(const FaultEnding (&kinds)[count], const std::vector<int>& places, Check check) {
         int cells = 0;
         for (const FaultEnding& fault : kinds)

@@ -105,7 +105,7 @@ private:
                              m_bystander + "\n" + (erases ? m_good.at(3).second + "\n" : ""));
         const Result result = Run(radio, WriteChannelsMode, TimesOut(fault));
         const std::string ending = EndingOf(result, radio);
-        const int channel = m_order[static_cast<std::size_t>(n - 1)];
+        const int channel = m_order[static_cast<size_t>(n - 1)];
         EXPECT_EQ(ending, ExpectedEnding(fault, WriteChannelsMode, channel));
         EXPECT_LT(result.took, Patience);
         ExpectAcknowledged(fault, n, erases);

@@ -41,7 +41,7 @@ TEST(HexNumberAt, APositionIsTheNumberOfItsDigits) {
 
 TEST(WriteHexOf, ANumberIsItsLastDigits) {
     struct {
-        std::uint32_t number;
+        uint32_t number;
         size_t digits;
         const wchar_t* text;
     } const cases[] = {

@@ -72,7 +72,7 @@ TEST_F(RadioContent, IsNotPurgedForAPlainRowAfterAShadowWasSentByDeparture) {
     Select({20});
     Send(radio, Complete);
     ASSERT_EQ(CountInLog(radio, PurgeMessage), 1u);
-    const std::size_t before = CountInLog(radio, "< T143");
+    const size_t before = CountInLog(radio, "< T143");
     FillP25Row(4);
     Select({4});
     Send(radio, Complete);

@@ -32,7 +32,7 @@ public:
     PseudoTerminal& Port() { return m_port; }
 
     /// Reads count bytes, or what arrived within the time, and keeps them in Heard.
-    std::string Hear(std::size_t count, int ms = 15000) {
+    std::string Hear(size_t count, int ms = 15000) {
         const std::string text = m_port.Read(count, std::chrono::milliseconds(ms));
         m_heard += text;
         return text;

@@ -77,7 +77,7 @@ public:
             if (row > rows - 2)
                 m_cells[row][ZONE] = shape.guards;
             else if (!IsShadow(row))
-                m_cells[row][ZONE] = Zones[static_cast<std::size_t>(placed++ % shape.zones)];
+                m_cells[row][ZONE] = Zones[static_cast<size_t>(placed++ % shape.zones)];
         }
         for (const Family& family : Families)
             Link(family);
@@ -102,10 +102,10 @@ private:
 
     CellTexts Plain(int row) const {
         const auto pick = [](const std::vector<std::string>& list, int at) {
-            return list[static_cast<std::size_t>(at) % list.size()];
+            return list[static_cast<size_t>(at) % list.size()];
         };
         const auto letter = [](const std::string& letters, int at) {
-            return std::string(1, letters[static_cast<std::size_t>(at) % letters.size()]);
+            return std::string(1, letters[static_cast<size_t>(at) % letters.size()]);
         };
         const bool digital = row % 3 == 2;
         const int lastDigit = m_decimals == 5 && row % 8 == 5 ? 1250 : 0;
@@ -132,7 +132,7 @@ private:
         cells[TNAC] = Formatted("%03X", 0xFFF - row);
         cells[TIDC] = Formatted(row % 4 ? "%07d" : "%d", row * 19937 % 10'000'000);
         for (int column = SHD0; column <= SHD6; ++column)
-            cells[static_cast<std::size_t>(column)] = "0";
+            cells[static_cast<size_t>(column)] = "0";
         cells[TFLG] = "A1";
         return cells;
     }
@@ -141,18 +141,18 @@ private:
         CellTexts& primary = m_cells[family.primary];
         int count = 0;
         for (int slot = 0; slot < 7; ++slot) {
-            const int row = family.shadows[static_cast<std::size_t>(slot)];
+            const int row = family.shadows[static_cast<size_t>(slot)];
             if (row == 0)
                 continue;
             ++count;
-            primary[static_cast<std::size_t>(SHD0 + slot)] = Formatted("%03d", row);
+            primary[static_cast<size_t>(SHD0 + slot)] = Formatted("%03d", row);
             CellTexts& shadow = m_cells[row];
             shadow[MFLG] = Formatted("%02X", slot + 1);
             shadow[PRIM] = Formatted("%03d", family.primary);
             shadow[SHAD] = "S-" + shadow[PRIM];
             shadow[SCAN] = "N";
             for (const int column : {ZONE, RFRQ, TFRQ})
-                shadow[static_cast<std::size_t>(column)] = primary[static_cast<std::size_t>(column)];
+                shadow[static_cast<size_t>(column)] = primary[static_cast<size_t>(column)];
         }
         primary[MFLG] = "10";
         primary[SHAD] = Formatted("P-%d", count);
@@ -167,7 +167,7 @@ private:
 // ---- Changes to cells ----
 
 inline std::string WithoutZeros(const CellTexts& before, int column) {
-    return std::to_string(std::stoi(before[static_cast<std::size_t>(column)]));
+    return std::to_string(std::stoi(before[static_cast<size_t>(column)]));
 }
 inline std::string Emptied(const CellTexts&, int) {
     return "";
@@ -176,34 +176,34 @@ inline std::string OwnZoneOnly(const CellTexts& before, int) {
     return before[SHAD].starts_with("S") ? "" : before[ZONE];
 }
 inline std::string Trimmed(const CellTexts& before, int column) {
-    const std::string& text = before[static_cast<std::size_t>(column)];
+    const std::string& text = before[static_cast<size_t>(column)];
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 inline std::string NineCharacters(const CellTexts& before, int column) {
-    return (before[static_cast<std::size_t>(column)] + "00000").substr(0, 9);
+    return (before[static_cast<size_t>(column)] + "00000").substr(0, 9);
 }
 inline std::string EightCharacters(const CellTexts& before, int column) {
-    return before[static_cast<std::size_t>(column)].substr(0, 8);
+    return before[static_cast<size_t>(column)].substr(0, 8);
 }
 inline std::string KnownTone(const CellTexts& before, int column) {
-    const std::string& text = before[static_cast<std::size_t>(column)];
+    const std::string& text = before[static_cast<size_t>(column)];
     return text == "OFF" ? DefaultTone : text;
 }
 inline std::string KnownCode(const CellTexts& before, int column) {
-    const std::string& text = before[static_cast<std::size_t>(column)];
+    const std::string& text = before[static_cast<size_t>(column)];
     return text == "OFF" ? DefaultCode : text;
 }
 inline std::string NextCode(const CellTexts& before, int column) {
-    for (std::size_t at = 0; at + 1 < Codes.size(); ++at)
-        if (Codes[at] == before[static_cast<std::size_t>(column)])
+    for (size_t at = 0; at + 1 < Codes.size(); ++at)
+        if (Codes[at] == before[static_cast<size_t>(column)])
             return Codes[at + 1];
     return DefaultCode;
 }
 inline std::string SevenDigits(const CellTexts& before, int column) {
-    return Formatted("%07d", std::stoi(before[static_cast<std::size_t>(column)]));
+    return Formatted("%07d", std::stoi(before[static_cast<size_t>(column)]));
 }
 inline std::string TwoPlaces(const CellTexts& before, int column) {
-    return Formatted("%2d", std::stoi(before[static_cast<std::size_t>(column)]));
+    return Formatted("%2d", std::stoi(before[static_cast<size_t>(column)]));
 }
 inline std::string Ten(const CellTexts&, int) {
     return "10";

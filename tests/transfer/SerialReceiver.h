@@ -13,7 +13,7 @@
 class SerialReceiver {
 public:
     AsyncSerial::ReadCallback Callback() {
-        return [this](const char* data, std::size_t size) {
+        return [this](const char* data, size_t size) {
             const std::lock_guard lock(m_mutex);
             m_text.append(data, size);
             m_sizes.push_back(size);
@@ -26,17 +26,17 @@ public:
     }
 
     /// Number of bytes of each call.
-    std::vector<std::size_t> Sizes() const {
+    std::vector<size_t> Sizes() const {
         const std::lock_guard lock(m_mutex);
         return m_sizes;
     }
 
-    bool WaitForSize(std::size_t size) const {
+    bool WaitForSize(size_t size) const {
         return Eventually([&] { return Text().size() >= size; });
     }
 
 private:
     mutable std::mutex m_mutex;
     std::string m_text;
-    std::vector<std::size_t> m_sizes;
+    std::vector<size_t> m_sizes;
 };

@@ -13,7 +13,7 @@ namespace {
 
 class TRecordGrid : public TRecordPage {
 protected:
-    std::string Line(std::uint32_t version, int row) {
+    std::string Line(uint32_t version, int row) {
         m_context.RecordVersion = version;
         wxString out = "former";
         encodeTrecord(m_context, CurrentGrid(), row, out);
@@ -40,7 +40,7 @@ TEST_F(TRecordGrid, GoesOutInV2OnlyWhenTheRadioHasIt) {
                                         "0000"
                                         "0005"
                                         "01F3"); // row, flags, primary, number
-    for (const std::uint32_t version : {0u, 1u, 3u})
+    for (const uint32_t version : {0u, 1u, 3u})
         EXPECT_EQ(Line(version, 7).substr(0, 14), "T143"
                                                   "01F3"
                                                   "00"
@@ -53,7 +53,7 @@ TEST_F(TRecordGrid, GoesOutInV2OnlyWhenTheRadioHasIt) {
 
 TEST_F(TRecordGrid, IsReadAsV1OnlyWhenTheRadioHasIt) {
     struct {
-        std::uint32_t version;
+        uint32_t version;
         int row;
     } const cases[] = {{0, 231}, {1, 501}, {2, 231}, {3, 231}};
     for (const auto& c : cases) {
@@ -76,7 +76,7 @@ TEST_F(TRecordGrid, RefusesARowBehindItsLastInBothLayouts) {
 }
 
 TEST_F(TRecordGrid, ThatComesTwiceHoldsOneZoneSlot) {
-    for (const std::uint32_t version : {1u, 2u}) {
+    for (const uint32_t version : {1u, 2u}) {
         SCOPED_TRACE(version);
         Open(Kdrv716B);
         ZoneSlots.fill(0);

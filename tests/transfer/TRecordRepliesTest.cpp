@@ -46,13 +46,13 @@ TEST_F(TRecordReply, DoesWhatItsStateAndModeSay) {
         const char* what;
         std::string line;
         int mode;
-        std::uint32_t protocol;
+        uint32_t protocol;
         int index;
-        std::uint32_t retries;
+        uint32_t retries;
         // expected results
-        std::uint32_t phase;
+        uint32_t phase;
         int status, indexAfter;
-        std::uint32_t retriesAfter;
+        uint32_t retriesAfter;
     } const cases[] = {
         {"hello 0 taken", ack, 0, 0, -10, 1, 0, 0, -6, 0},
         {"hello 1 taken", ack, 0, 1, -10, 0, 0, 0, -9, 0},
@@ -119,7 +119,7 @@ TEST_F(TRecordReply, ThatRefusesTheHelloOffersTheNextProtocolWithoutLimit) {
 }
 
 TEST_F(TRecordReply, ThatTakesTheHelloSetsTheModesOfThePage) {
-    const std::pair<std::uint32_t, std::uint32_t> cases[] = {{0, 0x70}, {1, 0x70}, {2, 0x30}, {5, 0x30}};
+    const std::pair<uint32_t, uint32_t> cases[] = {{0, 0x70}, {1, 0x70}, {2, 0x30}, {5, 0x30}};
     for (const auto& [protocol, modes] : cases) {
         m_context.Protocol = protocol;
         m_context.Index = -10;
@@ -159,9 +159,9 @@ TEST_F(TRecordReply, WithModesSetsThoseOfThePage) {
 TEST_F(TRecordReply, WithAVersionChoosesTheRecordsAndChecksTheFirmware) {
     struct {
         const char* version;
-        std::uint32_t protocol;
+        uint32_t protocol;
         bool fitsV1;
-        std::uint32_t recordVersion;
+        uint32_t recordVersion;
         int status;
     } const cases[] = {
         {"020100", 2, true, 2, 0},  {"020100", 2, false, 2, 0}, {"020100", 1, true, 1, 0},

@@ -175,8 +175,8 @@ TEST_F(TRecordEvaluation, GathersTheModesThatTheRadioLacks) {
         SetCell(rows[i], MODE, modes[i]);
     }
     Select({1, 300, 501});
-    const std::pair<std::uint32_t, std::uint32_t> cases[] = {{0x70, 0x00}, {0x30, 0x40}, {0x50, 0x20},
-                                                             {0x60, 0x10}, {0x00, 0x70}, {0x8F, 0x70}};
+    const std::pair<uint32_t, uint32_t> cases[] = {{0x70, 0x00}, {0x30, 0x40}, {0x50, 0x20},
+                                                   {0x60, 0x10}, {0x00, 0x70}, {0x8F, 0x70}};
     for (const auto& [radio, lacks] : cases) {
         m_context.RadioModes = radio;
         Evaluate();
@@ -246,7 +246,7 @@ TEST_F(TRecordEvaluation, OfAPrimaryMarksNothing) {
 TEST_F(TRecordRows, NeedAModeThatTheRadioHas) {
     struct {
         const char* mode;
-        std::uint32_t radio, lacks;
+        uint32_t radio, lacks;
     } const cases[] = {
         {"w", 0x40, 0}, {"w", 0x30, 0x40}, {"n", 0x20, 0}, {"n", 0x50, 0x20},
         {"D", 0x10, 0}, {"D", 0x60, 0x10}, {"W", 0, 0},    {"N", 0, 0},
@@ -259,13 +259,13 @@ TEST_F(TRecordRows, NeedAModeThatTheRadioHas) {
 }
 
 TEST_F(TRecordRows, GoOutByTheirFlagsTheSelectionAndThePass) {
-    constexpr std::uint32_t primaries = 0x10, purged = 0x01, other = 0x08;
+    constexpr uint32_t primaries = 0x10, purged = 0x01, other = 0x08;
     struct {
         const char* what;
         const char* transferFlags;
         const char* flags;
         bool selected;
-        std::uint32_t xferFlags;
+        uint32_t xferFlags;
         char sent; // 's' for sent, 'e' for erased, or '-'
     } const cases[] = {
         {"selected", "A1", "00", true, primaries, 's'},
@@ -332,7 +332,7 @@ TEST_F(TRecordRows, DefaultRowIsNeverRestored) {
 TEST_F(TRecordRows, BehindTheOldLayoutAreSkippedOnItsRadioOnly) {
     struct {
         int radio;
-        std::uint32_t version;
+        uint32_t version;
         int index, indexAfter;
     } const cases[] = {{Kdrv716B, 1, 231, 501},
                        {Kdrv716B, 2, 231, 231},

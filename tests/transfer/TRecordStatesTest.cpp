@@ -101,7 +101,7 @@ TEST_F(TRecordState, HasItsLine) {
 }
 
 TEST_F(TRecordState, OfTheHelloNamesTheProtocol) {
-    const std::pair<std::uint32_t, const char*> cases[] = {
+    const std::pair<uint32_t, const char*> cases[] = {
         {0, "T007000020030000"}, {1, "T007000021030000"}, {2, "T007000022030000"}, {9, "T007000029030000"}};
     for (const auto& [protocol, line] : cases) {
         m_context.Protocol = protocol;
@@ -155,7 +155,7 @@ TEST_F(TRecordState, OfTheOpeningAsksOnlyWhereAnUnknownRadioWouldLoseMoreThanIsS
     FillP25Row(1);
     FillP25Row(502);
     struct {
-        std::uint32_t flags;
+        uint32_t flags;
         int mode;
         std::initializer_list<int> selected;
         bool asks;
@@ -182,7 +182,7 @@ TEST_F(TRecordState, OfTheOpeningAsksOnlyWhereAnUnknownRadioWouldLoseMoreThanIsS
 }
 
 TEST_F(TRecordState, OfThePurgeNeedsOneOfFourReasonsAndAWrite) {
-    for (const std::uint32_t reason : {0x01u, 0x02u, 0x04u, 0x08u}) {
+    for (const uint32_t reason : {0x01u, 0x02u, 0x04u, 0x08u}) {
         RadioStamp = KnownStamp;
         m_context.XferFlags = 0x30 | reason;
         EXPECT_EQ(Choose(PurgeState, WriteChannelsMode), "T204000011") << reason;

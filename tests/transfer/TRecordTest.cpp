@@ -20,7 +20,7 @@ std::string Text(const wxString& text) {
 
 TEST(TRecord, HexFieldIsTheEndOfEightDigits) {
     struct {
-        std::int64_t value;
+        int64_t value;
         size_t digits;
         const char* field;
     } const cases[] = {
@@ -181,7 +181,7 @@ TEST(TRecord, StampIsTheLocalTime) {
 
 TEST(EraseRecord, IsMadeForTheRowsThatTheRadioLetsBeErased) {
     struct {
-        std::uint32_t version;
+        uint32_t version;
         int row;
         const char* line;
     } const cases[] = {

@@ -18,7 +18,7 @@ constexpr const char* AnyStamp = "{stamp}";
 /// A line of the digital radios with its checksum, computed independently of the program.
 inline std::string Framed(const std::string& line) {
     unsigned sum = 0;
-    for (std::size_t at = 2; at + 1 < line.size(); at += 2)
+    for (size_t at = 2; at + 1 < line.size(); at += 2)
         sum += static_cast<unsigned>(std::stoul(line.substr(at, 2), nullptr, 16));
     char checksum[3] = "";
     std::snprintf(checksum, sizeof checksum, "%02X", ~sum & 0xFF);
@@ -101,7 +101,7 @@ public:
 
 private:
     void Play(RadioPeer& radio) {
-        std::size_t number = 0;
+        size_t number = 0;
         for (const std::string& line : m_transcript.Lines()) {
             ++number;
             if (!PlayLine(radio, line)) {

@@ -13,7 +13,7 @@ namespace {
 const char kMissing[] = "/dev/no-such-port";
 
 // Polls until `size` characters have arrived or ten seconds have passed.
-wxString ReceiveText(std::size_t size) {
+wxString ReceiveText(size_t size) {
     wxString text;
     Eventually([&] {
         text += wxAsyncSerial::GetData();

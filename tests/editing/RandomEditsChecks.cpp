@@ -85,7 +85,7 @@ void RandomEdits::ExpectNumberBox(testbench::DialogScript& dialogs, int row) {
     if (row != 0)
         dialogs
             .ExpectMessage("Error", wxString::Format("Number already used at row: %03d", row).utf8_string())
-            .Style(testbench::plainBox);
+            .Style(testbench::PlainBox);
 }
 
 void RandomEdits::ExpectBoxesOfPageCheck(testbench::DialogScript& dialogs) {

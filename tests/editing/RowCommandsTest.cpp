@@ -136,7 +136,7 @@ TEST_F(CopyRowCommand, RefusesABlankRowAndForgetsTheFormerCopy) {
     Fill({4});
     RunOnRow(CopyRow, 4);
     testbench::DialogScript dialogs;
-    dialogs.ExpectMessage("Error - Empty Row!", "Cannot copy empty row.").Style(testbench::plainBox);
+    dialogs.ExpectMessage("Error - Empty Row!", "Cannot copy empty row.").Style(testbench::PlainBox);
     ContextRow = 5;
     MainFrame->m_contextMenu->SendEvent(CopyRow);
     EXPECT_TRUE(RowCopyBuffer.empty());

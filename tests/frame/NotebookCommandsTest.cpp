@@ -76,7 +76,7 @@ TEST_F(Pages, AreSixAtMost) {
     ASSERT_EQ(PageCount, 6);
     EXPECT_EQ(Title(), "Orv Zelk: Page 6 of 6.");
     DialogScript dialogs;
-    dialogs.ExpectMessage("MAX Page Reached", "Cannot add further pages to notebook").Style(plainBox);
+    dialogs.ExpectMessage("MAX Page Reached", "Cannot add further pages to notebook").Style(PlainBox);
     RunCommand(IdPageAdd);
     EXPECT_EQ(dialogs.Shown().size(), 1u) << "the message alone, no dialog after it";
     EXPECT_EQ(PageCount, 6);
@@ -125,7 +125,7 @@ TEST_F(Pages, AddedWhileACellIsEditedKeepTheTypedText) {
 
 TEST_F(Pages, OnlyOneCannotBeDeleted) {
     DialogScript dialogs;
-    dialogs.ExpectMessage("Delete Page Error", "There must always be at least one Page").Style(plainBox);
+    dialogs.ExpectMessage("Delete Page Error", "There must always be at least one Page").Style(PlainBox);
     RunCommand(IdPageDelete);
     EXPECT_EQ(dialogs.Shown().size(), 1u) << "nothing is asked";
     EXPECT_EQ(PageCount, 1);

@@ -217,7 +217,7 @@ protected:
     }
 
     static bool AreSame(const wxImage& one, const wxImage& other) {
-        const size_t bytes = static_cast<size_t>(one.GetWidth()) * one.GetHeight() * 3;
+        const int bytes = one.GetWidth() * one.GetHeight() * 3;
         return one.GetSize() == other.GetSize() &&
                std::equal(one.GetData(), one.GetData() + bytes, other.GetData());
     }

@@ -228,12 +228,13 @@ TEST_F(Pages, DeletedAtTheEndClearTheirOwnSlotOnly) {
 TEST_F(Pages, MoveTheirZoneCountersAndOneMore) {
     AddPage(Krv21);
     AddPage(Orv12);
-    for (size_t i = 0; i < ZoneSlots.size(); ++i)
-        ZoneSlots[i] = 1000 + static_cast<int>(i);
+    const int total = static_cast<int>(ZoneSlots.size());
+    for (int i = 0; i < total; ++i)
+        ZoneSlots[i] = 1000 + i;
     SelectPage(0);
     DeletePage();
-    for (size_t i = 0; i < ZoneSlots.size(); ++i) {
-        int expected = 1000 + static_cast<int>(i);
+    for (int i = 0; i < total; ++i) {
+        int expected = 1000 + i;
         if (i < 64)
             expected += 32;
         else if (i <= 96) // the freed page's 32 and the first of the next page
@@ -247,7 +248,8 @@ TEST_F(Pages, SixthDeletedClearsTheCountersUpToTheTablesEnd) {
         AddPage(radio);
     ZoneSlots.fill(7);
     DeletePage();
-    for (size_t i = 0; i < ZoneSlots.size(); ++i)
+    const int total = static_cast<int>(ZoneSlots.size());
+    for (int i = 0; i < total; ++i)
         EXPECT_EQ(ZoneSlots[i], i < 160 ? 7 : 0) << "entry " << i;
 }
 

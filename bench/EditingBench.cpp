@@ -126,8 +126,7 @@ void DeleteRowsBare(wxGrid* grid, const OperationRecord& record) {
     grid->ClearSelection();
     grid->AppendRows(2);
     for (int guard = 0; guard < 2; ++guard)
-        for (int col = 0; col < ColumnTotal; ++col)
-            grid->SetCellValue(firstGuard + guard, col, guards[guard][col]);
+        SetRowValues(grid, firstGuard + guard, guards[guard]);
     DoTextsAndColumns(grid, record);
 }
 

@@ -56,6 +56,5 @@ void EmptyPage() {
     grid->ClearSelection();
     const wxArrayString defaults = GetRowValues(CurrentPage, 0);
     grid->ClearGrid();
-    for (int col = 0; col < ColumnTotal; ++col)
-        grid->SetCellValue(0, col, defaults[static_cast<size_t>(col)]);
+    SetRowValues(grid, 0, defaults);
 }

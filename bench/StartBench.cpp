@@ -55,11 +55,12 @@ public:
         using namespace RadioCatalogue;
         GridContent content;
         content.rows = RadioRows[1][0] + 1;
-        wxArrayString blank;
+        wxArrayString blank, defaults;
         blank.Add("", ColumnTotal);
+        for (const char* text : PageDefault[1])
+            defaults.Add(text);
         content.texts.assign(static_cast<size_t>(content.rows), blank);
-        for (int col = 0; col < ColumnTotal; ++col)
-            content.texts[0][col] = PageDefault[1][col];
+        content.texts[0] = defaults;
         auto* frame = new wxFrame(nullptr, wxID_ANY, "Bare", wxDefaultPosition, wxSize(927, 680));
         auto* sizer = new wxBoxSizer(wxVERTICAL);
         wxGrid* grid = MakeBareGrid(frame, content);

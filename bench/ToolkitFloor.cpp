@@ -102,10 +102,16 @@ void SetBareColumns(wxGrid* grid, int type) {
 
 void WriteTexts(wxGrid* grid, const GridContent& content) {
     wxGridUpdateLocker quiet(grid);
-    for (int row = 0; row < content.rows; ++row)
-        for (int col = 0; col < ColumnTotal; ++col)
-            if (!content.texts[row][col].empty())
-                grid->SetCellValue(row, col, content.texts[row][col]);
+    int row = 0;
+    for (const wxArrayString& texts : content.texts) {
+        int col = 0;
+        for (const wxString& text : texts) {
+            if (!text.empty())
+                grid->SetCellValue(row, col, text);
+            ++col;
+        }
+        ++row;
+    }
 }
 
 wxGrid* AddBarePage(wxNotebook* notebook, const GridContent& content) {

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "catalogue/MemoryRow.h"
+#include "catalogue/NumberedArray.h"
 #include "catalogue/RadioTables.h"
-
-#include <array>
 
 namespace RadioCatalogue {
 
@@ -54,7 +53,7 @@ inline constexpr ColumnLook ColumnLooks[ColumnTotal][TypeTotal] = {
 // clang-format on
 
 template <class Value>
-using TypeByColumn = std::array<std::array<Value, ColumnTotal>, TypeTotal>;
+using TypeByColumn = NumberedArray<NumberedArray<Value, ColumnTotal>, TypeTotal>;
 
 constexpr TypeByColumn<const char*> ColumnHeadings() {
     TypeByColumn<const char*> table{};
@@ -79,7 +78,7 @@ inline constexpr auto ColumnHeading = ColumnHeadings();
 inline constexpr auto ColumnWidth = ColumnWidths();
 
 /// The 32 cell texts of a row.
-using RowTexts = std::array<const char*, ColumnTotal>;
+using RowTexts = NumberedArray<const char*, ColumnTotal>;
 
 constexpr RowTexts EmptyRow() {
     RowTexts row{};

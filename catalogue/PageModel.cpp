@@ -10,10 +10,10 @@
 ZelkFrame* MainFrame = nullptr;
 int32_t PageCount = 0;
 int32_t CurrentPage = 0;
-std::array<wxGrid*, PageLimit> PageGrid{};
-std::array<PageParameterRecord, PageLimit> PageParameters{};
-std::array<PageStringRecord, PageLimit> PageStrings{};
-std::array<uint32_t, PageLimit> OpModes{};
+NumberedArray<wxGrid*, PageLimit> PageGrid{};
+NumberedArray<PageParameterRecord, PageLimit> PageParameters{};
+NumberedArray<PageStringRecord, PageLimit> PageStrings{};
+NumberedArray<uint32_t, PageLimit> OpModes{};
 int32_t GD1 = -1;
 int32_t GD2 = -1;
 int32_t ContextRow = 0;
@@ -24,7 +24,7 @@ const wxColour MarkColour(105, 160, 170);
 namespace {
 
 /// The cells of GD1 and GD2 between SaveGuardRows and RestoreGuardRows.
-std::array<wxArrayString, 2> guardRowImages;
+NumberedArray<wxArrayString, 2> guardRowImages;
 
 /// True when a complete row needs text in the column.
 bool CountsForCompleteness(int type, int col, bool shadow) {
@@ -58,6 +58,11 @@ wxArrayString GetRowValues(int page, int row) {
     for (int col = 0; col < ColumnTotal; ++col)
         values.push_back(PageGrid[page]->GetCellValue(row, col));
     return values;
+}
+
+void SetRowValues(wxGrid* grid, int row, const wxArrayString& texts, int lastColumn) {
+    for (int col = 0; col <= lastColumn; ++col)
+        grid->SetCellValue(row, col, texts[static_cast<size_t>(col)]);
 }
 
 namespace {
@@ -130,10 +135,10 @@ void RestoreGuardRows(OrvZELFrame*, bool renumber) {
     wxGrid* grid = CurrentGrid();
     for (int guard = 0; guard < 2; ++guard) {
         const int row = guard == 0 ? GD1 : GD2;
-        if (renumber && IsBlankImage(guardRowImages[static_cast<size_t>(guard)]))
+        const wxArrayString& texts = guardRowImages[guard];
+        if (renumber && IsBlankImage(texts))
             continue;
-        for (int col = 0; col < ColumnTotal; ++col)
-            grid->SetCellValue(row, col, guardRowImages[guard][col]);
+        SetRowValues(grid, row, texts);
         if (renumber)
             grid->SetCellValue(row, MNUM, NumberText(row));
     }

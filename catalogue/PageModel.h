@@ -1,13 +1,13 @@
 // The pages of the window: their targets, texts and shared state, and the operations on rows.
 #pragma once
 
+#include "catalogue/NumberedArray.h"
 #include "catalogue/RadioCatalogue.h"
 
 #include <wx/arrstr.h>
 #include <wx/colour.h>
 #include <wx/string.h>
 
-#include <array>
 #include <cstdint>
 
 class OrvZELFrame;
@@ -53,11 +53,11 @@ extern int32_t PageCount;
 /// 0-based index of the selected page.
 extern int32_t CurrentPage;
 /// Grids by page. The notebook owns them; entries shift down when a page is deleted.
-extern std::array<wxGrid*, PageLimit> PageGrid;
-extern std::array<PageParameterRecord, PageLimit> PageParameters;
-extern std::array<PageStringRecord, PageLimit> PageStrings;
+extern NumberedArray<wxGrid*, PageLimit> PageGrid;
+extern NumberedArray<PageParameterRecord, PageLimit> PageParameters;
+extern NumberedArray<PageStringRecord, PageLimit> PageStrings;
 /// Operating modes that the connected radio accepts, by page: WideMode, NarrowMode, DigitalMode.
-extern std::array<uint32_t, PageLimit> OpModes;
+extern NumberedArray<uint32_t, PageLimit> OpModes;
 /// Guard rows of the current page, -1 when it has none.
 extern int32_t GD1, GD2;
 /// Row on which the row context menu was last opened.
@@ -80,6 +80,9 @@ bool CurrentPageIsP25();
 
 /// The 32 cell texts of a row of the page.
 wxArrayString GetRowValues(int page, int row);
+
+/// Writes texts into the cells of a row, from column 0 to the given one.
+void SetRowValues(wxGrid* grid, int row, const wxArrayString& texts, int lastColumn = ColumnTotal - 1);
 
 /// True when any of the 32 cells of the row has text, on the current page.
 bool RowHasData(int row);

@@ -99,7 +99,7 @@ CellLook PageTable::LookOf(int row, int col) const {
 }
 
 void PageTable::SetLook(int row, int col, CellLook look) {
-    const wxGridCellAttr* column = m_columns[static_cast<size_t>(col)].get();
+    const wxGridCellAttr* column = m_columns[col].get();
     if (look.readOnly == ColumnIsReadOnly(col))
         look.readOnly.reset();
     if (look.editor && column && column->HasEditor() &&
@@ -122,7 +122,7 @@ void PageTable::SetLook(int row, int col, CellLook look) {
 }
 
 bool PageTable::ColumnIsReadOnly(int col) const {
-    const wxGridCellAttr* column = m_columns[static_cast<size_t>(col)].get();
+    const wxGridCellAttr* column = m_columns[col].get();
     return column && column->IsReadOnly();
 }
 
@@ -180,7 +180,7 @@ void PageTable::ForgetLooks(int row) {
 }
 
 wxGridCellAttr* PageTable::GetAttr(int row, int col, wxGridCellAttr::wxAttrKind kind) {
-    wxGridCellAttr* const column = m_columns[static_cast<size_t>(col)].get();
+    wxGridCellAttr* const column = m_columns[col].get();
     auto* const own = const_cast<wxGridCellAttr*>(Own(row, col));
     switch (kind) {
     case wxGridCellAttr::Any:
@@ -218,7 +218,7 @@ void PageTable::SetAttr(wxGridCellAttr* attr, int row, int col) {
 void PageTable::SetColAttr(wxGridCellAttr* attr, int col) {
     if (attr)
         attr->SetKind(wxGridCellAttr::Col);
-    m_columns[static_cast<size_t>(col)].reset(attr);
+    m_columns[col].reset(attr);
 }
 
 bool PageTable::InsertRows(size_t row, size_t count) {

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "catalogue/MemoryRow.h"
+#include "catalogue/NumberedArray.h"
 
 #include <wx/grid.h>
 
-#include <array>
 #include <map>
 #include <optional>
 #include <utility>
@@ -100,7 +100,7 @@ private:
     bool IsShared(const wxGridCellAttr* attr) const;
     void ForgetCached(int row);
 
-    std::array<wxGridCellAttrPtr, ColumnTotal> m_columns;
+    NumberedArray<wxGridCellAttrPtr, ColumnTotal> m_columns;
     std::vector<OwnCells> m_cells; ///< by row
     std::vector<std::pair<CellLook, wxGridCellAttrPtr>> m_shared;
     std::map<int, wxGridCellEditorPtr> m_editors;

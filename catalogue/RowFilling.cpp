@@ -59,15 +59,14 @@ namespace {
 class RowImage {
 public:
     RowImage(int page, const wxArrayString& values, bool allColumns)
-        : m_grid(PageGrid[page]), m_values(values), m_limit(allColumns ? TFLG : SHD6),
+        : m_grid(PageGrid[page]), m_values(values), m_lastColumn(allColumns ? TFLG : SHD6),
           m_p25(IsP25Type(PageParameters[page].Type)),
           m_numbered(NumberedDescription(values[DESC], m_p25 ? 8 : 9, m_baseText)) {}
 
     void WriteInto(int row, bool renumber) const {
-        for (int col = 0; col <= m_limit; ++col) {
-            m_grid->SetCellValue(row, col, m_values[col]);
+        SetRowValues(m_grid, row, m_values, m_lastColumn);
+        for (int col = 0; col <= m_lastColumn; ++col)
             TakePaintOff(m_grid, row, col);
-        }
         if (m_numbered)
             m_grid->SetCellValue(row, DESC, m_baseText + NumberText(row));
         if (renumber) {
@@ -82,7 +81,7 @@ public:
 private:
     wxGrid* m_grid;
     const wxArrayString& m_values;
-    int m_limit;
+    int m_lastColumn;
     bool m_p25;
     wxString m_baseText;
     bool m_numbered;

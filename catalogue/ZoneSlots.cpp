@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-std::array<int32_t, PageLimit * ZonesPerPage + 1> ZoneSlots{};
+NumberedArray<int32_t, PageLimit * ZonesPerPage + 1> ZoneSlots{};
 
 namespace {
 

@@ -1,9 +1,9 @@
 // Counters of the memories in each P25 zone of each page.
 #pragma once
 
+#include "catalogue/NumberedArray.h"
 #include "catalogue/PageModel.h"
 
-#include <array>
 #include <cstdint>
 
 /// Number of zones that a page has counters for.
@@ -17,7 +17,7 @@ constexpr int ZoneCapacity = 16;
 constexpr int ZoneReach = ZonesPerPage + 1;
 
 /// Slots taken, by page * 32 + zone (both 0-based).
-extern std::array<int32_t, PageLimit * ZonesPerPage + 1> ZoneSlots;
+extern NumberedArray<int32_t, PageLimit * ZonesPerPage + 1> ZoneSlots;
 
 /// The counters of a page; ZoneReach of them can be used.
 int32_t* ZoneSlotsOf(int page);

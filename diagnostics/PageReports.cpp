@@ -19,13 +19,12 @@ void LogLines(const wxArrayString& lines) {
 } // namespace
 
 void ReportPageParameters(int page, int, int pages) {
-    const auto i = static_cast<size_t>(page);
-    LogLines(PageParameterLines(page, pages, PageParameters[i], PageStrings[i]));
+    LogLines(PageParameterLines(page, pages, PageParameters[page], PageStrings[page]));
 }
 
 void ReportRowParameters(int page) {
-    const PageParameterRecord& parameters = PageParameters[static_cast<size_t>(page)];
-    const wxGrid* grid = PageGrid[static_cast<size_t>(page)];
+    const PageParameterRecord& parameters = PageParameters[page];
+    const wxGrid* grid = PageGrid[page];
     wxLogMessage(">-- Debug - Report Row Parameters -------------------------<");
     const int rows = std::min(parameters.Rows + 1, grid->GetNumberRows());
     for (int row = 0; row < rows; ++row)
@@ -34,11 +33,11 @@ void ReportRowParameters(int page) {
 }
 
 void ReportPageP25OnlyParameters(int page) {
-    if (!RadioCatalogue::IsP25Type(PageParameters[static_cast<size_t>(page)].Type))
+    if (!RadioCatalogue::IsP25Type(PageParameters[page].Type))
         return;
     // Intentional: one counter more than the page has. The last line shows zone 0 of the next page.
     LogLines(ZoneLines({ZoneSlotsOf(page), ZoneReach}));
-    LogLines(OpModeLines(OpModes[static_cast<size_t>(page)]));
+    LogLines(OpModeLines(OpModes[page]));
 }
 
 void ZelkFrame::OnDebug(wxCommandEvent& event) {

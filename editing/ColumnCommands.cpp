@@ -162,8 +162,7 @@ void ZelkFrame::OnDefaultFile(wxCommandEvent&) {
     CurrentParameters().Flags = 0;
     ClearZoneSlots(CurrentPage);
     ClearMarksOfRows(grid);
-    for (int col = 0; col < ColumnTotal; ++col)
-        grid->SetCellValue(0, col, defaults[static_cast<size_t>(col)]);
+    SetRowValues(grid, 0, defaults);
     CopyValuesToSelection(CurrentPage, defaults, true, true);
     // Editors and locks of the former rows must not remain.
     SetPageEditors(CurrentPage);

@@ -2,9 +2,9 @@
 
 #include <wx/textctrl.h>
 
-wxIMPLEMENT_DYNAMIC_CLASS(ZelkDescriptionValidator, wxValidator);
+wxIMPLEMENT_DYNAMIC_CLASS(ZelkDescriptionValidator, wxValidator)
 
-wxBEGIN_EVENT_TABLE(ZelkDescriptionValidator, wxValidator)
+    wxBEGIN_EVENT_TABLE(ZelkDescriptionValidator, wxValidator)
 EVT_CHAR(ZelkDescriptionValidator::OnChar)
 EVT_TEXT_PASTE(wxID_ANY, ZelkDescriptionValidator::OnPaste)
 EVT_TEXT(wxID_ANY, ZelkDescriptionValidator::OnText)
@@ -26,7 +26,7 @@ bool ZelkDescriptionValidator::WritesUpperCase() const {
     return m_mode == 0 || m_mode == 6 || m_mode == 7;
 }
 
-ZelkDescriptionEditor::ZelkDescriptionEditor(int maxChars, int mode)
+ZelkDescriptionEditor::ZelkDescriptionEditor(size_t maxChars, int mode)
     : TextCellEditor(maxChars), m_rules(nullptr, mode) {
     SetValidator(m_rules);
 }

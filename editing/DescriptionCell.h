@@ -38,7 +38,7 @@ private:
 /// Accepts descriptions of at most maxChars characters; mode as for ZelkDescriptionValidator.
 class ZelkDescriptionEditor : public TextCellEditor {
 public:
-    ZelkDescriptionEditor(int maxChars, int mode);
+    ZelkDescriptionEditor(size_t maxChars, int mode);
 
 protected:
     bool CanStartWith(wxUniChar character) const override { return m_rules.IsValidChar(character); }

@@ -6,9 +6,9 @@
 
 #include <wx/textctrl.h>
 
-wxIMPLEMENT_DYNAMIC_CLASS(DigitalSquelchValidator, wxValidator);
+wxIMPLEMENT_DYNAMIC_CLASS(DigitalSquelchValidator, wxValidator)
 
-wxBEGIN_EVENT_TABLE(DigitalSquelchValidator, wxValidator)
+    wxBEGIN_EVENT_TABLE(DigitalSquelchValidator, wxValidator)
 EVT_CHAR(DigitalSquelchValidator::OnChar)
 EVT_TEXT_PASTE(wxID_ANY, DigitalSquelchValidator::OnPaste)
 EVT_TEXT(wxID_ANY, DigitalSquelchValidator::OnText)
@@ -46,7 +46,7 @@ bool DigitalSquelchValidator::IsValidChar(wxUniChar character) const {
     return IsHexDigit(character.GetValue());
 }
 
-DigitalSquelchEditor::DigitalSquelchEditor(int maxChars, int min, int max)
+DigitalSquelchEditor::DigitalSquelchEditor(size_t maxChars, int min, int max)
     : FinishedTextEditor(maxChars), m_rules(&m_held, min, max) {
     SetValidator(m_rules);
 }

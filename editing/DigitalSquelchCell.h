@@ -43,7 +43,7 @@ private:
 class DigitalSquelchEditor : public FinishedTextEditor {
 public:
     /// maxChars: 4 for a talk group, 3 for a NAC. The range isn't checked.
-    DigitalSquelchEditor(int maxChars, int min, int max);
+    DigitalSquelchEditor(size_t maxChars, int min, int max);
 
     /// Writes the value; a receive value is copied to its transmit twin.
     void ApplyEdit(int row, int col, wxGrid* grid) override;

@@ -10,9 +10,9 @@
 
 #include <algorithm>
 
-wxIMPLEMENT_DYNAMIC_CLASS(FrequencyValidator, wxValidator);
+wxIMPLEMENT_DYNAMIC_CLASS(FrequencyValidator, wxValidator)
 
-wxBEGIN_EVENT_TABLE(FrequencyValidator, wxValidator)
+    wxBEGIN_EVENT_TABLE(FrequencyValidator, wxValidator)
 EVT_CHAR(FrequencyValidator::OnChar)
 EVT_TEXT_PASTE(wxID_ANY, FrequencyValidator::OnPaste)
 EVT_TEXT(wxID_ANY, FrequencyValidator::OnText)
@@ -63,7 +63,7 @@ bool FrequencyValidator::IsGoodKey(wxUniChar character) const {
     if (!control)
         return true;
     const wxString text = control->GetValue();
-    const long caret = control->GetInsertionPoint();
+    const auto caret = static_cast<size_t>(control->GetInsertionPoint());
     return IsOkFreq(text.Left(caret) + character + text.Mid(caret), m_band, m_step);
 }
 
@@ -97,7 +97,7 @@ void FrequencyEditor::TakeBandOfRow(int row, const wxGrid* grid) {
     SetEditorFreqParams(band, step);
     m_width = FrequencyWidth(band, step);
     if (auto* control = wxDynamicCast(GetWindow(), wxTextCtrl))
-        control->SetMaxLength(static_cast<unsigned long>(m_width));
+        control->SetMaxLength(m_width);
 }
 
 void FrequencyEditor::SetEditorFreqParams(int band, int step) {

@@ -72,5 +72,5 @@ private:
     void TakeBandOfRow(int row, const wxGrid* grid);
 
     FrequencyValidator m_rules;
-    int m_width; ///< characters of a complete frequency
+    size_t m_width; ///< characters of a complete frequency
 };

@@ -157,7 +157,7 @@ bool FitsStep(int mhz, const wxString& fraction, int step) {
 /// Plan of FormatFreq: the number of free characters at the step, counted from the point (included), and the
 /// row of StepComplete for the digit after them.
 struct Completion {
-    int freeDigits;
+    size_t freeDigits;
     int row;
 };
 
@@ -178,7 +178,7 @@ Completion CompletionOf(int step) {
 
 } // namespace
 
-int FrequencyWidth(int band, int step) {
+size_t FrequencyWidth(int band, int step) {
     if (band == Fm30To50 || band == Fm66To88 || step == 8333)
         return 7;
     return step == 1250 ? 9 : 8;
@@ -205,7 +205,7 @@ bool IsOkFreq(const wxString& text, int band, int step) {
     return FitsStep(mhz, fraction, step);
 }
 
-bool FormatFreq(wxString& text, int band, int step, int width) {
+bool FormatFreq(wxString& text, int band, int step, size_t width) {
     wxString complete = text;
     if (complete.find('.') == wxString::npos)
         complete += '.';
@@ -215,14 +215,13 @@ bool FormatFreq(wxString& text, int band, int step, int width) {
     size_t last = complete.find('.') + freeDigits;
     for (; complete.length() > last; ++last)
         --row;
-    const size_t wanted = static_cast<size_t>(std::max(width, 0));
-    if (complete.length() >= wanted)
+    if (complete.length() >= width)
         return true;
     complete.Pad(last - complete.length(), '0');
-    for (; row >= 0 && complete.length() < wanted; --row)
+    for (; row >= 0 && complete.length() < width; --row)
         complete += StepComplete[row * 10 + DigitAt(complete, complete.length() - 1)];
-    if (complete.length() < wanted)
-        complete.Pad(wanted - complete.length(), '0');
+    if (complete.length() < width)
+        complete.Pad(width - complete.length(), '0');
     text = complete;
     return true;
 }

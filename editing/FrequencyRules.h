@@ -42,7 +42,7 @@ inline constexpr int StepNext25[10] = {0, -1, 5, -1, -1, 0, -1, 5, -1, -1};
 inline constexpr char StepComplete[] = "005000050002570025700251302513";
 
 /// Returns the width in characters (7 to 9) of a frequency cell for a band id and a channel step in Hz.
-int FrequencyWidth(int band, int step);
+size_t FrequencyWidth(int band, int step);
 
 /// True when further typing can make text a valid frequency of the band (id 0 to 8) at the channel step in Hz
 /// (see GetChannelStep). Always true for a text without a point.
@@ -50,7 +50,7 @@ bool IsOkFreq(const wxString& text, int band, int step);
 
 /// Completes text to width characters with the digits that the step determines. Returns false and leaves text
 /// unchanged when IsOkFreq refuses it. A text that is already that wide stays unchanged.
-bool FormatFreq(wxString& text, int band, int step, int width);
+bool FormatFreq(wxString& text, int band, int step, size_t width);
 
 /// True for a receive-only frequency: 108 to 116 MHz, and 117 MHz with a fraction of at most 974. The digits
 /// of the fraction are read as one number, however many there are.

@@ -34,10 +34,9 @@ void ZelkFrame::OnPasteRow(wxCommandEvent&) {
     }
     wxGrid* grid = CurrentGrid();
     // Intentional: pastes one row, whatever is selected, and doesn't undo links that the row had.
-    for (int col = 0; col <= SHD6; ++col) {
-        grid->SetCellValue(ContextRow, col, RowCopyBuffer[static_cast<size_t>(col)]);
+    SetRowValues(grid, ContextRow, RowCopyBuffer, SHD6);
+    for (int col = 0; col <= SHD6; ++col)
         TakePaintOff(grid, ContextRow, col);
-    }
     CompletePastedRow(grid, ContextRow);
     CheckRow(grid, ContextRow);
     if (CurrentPageIsP25())

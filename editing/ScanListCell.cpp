@@ -43,10 +43,9 @@ void SetScanCell(wxGrid* grid, int row, int col, const wxString& text, bool flag
     grid->RefreshAttr(row, col);
     if (HasBoxes(grid, row, col))
         return;
-    const wxGridCellAttrPtr attr = grid->GetOrCreateCellAttrPtr(row, col);
-    attr->SetRenderer(new ScanlistRenderer);
-    attr->SetEditor(new ScanlistEditor(flag));
-    attr->SetFont(grid->GetDefaultCellFont());
+    grid->SetCellRenderer(row, col, new ScanlistRenderer);
+    grid->SetCellEditor(row, col, new ScanlistEditor(flag));
+    grid->SetCellFont(row, col, grid->GetDefaultCellFont());
 }
 
 int GetScanMask(const wxGrid* grid, int row, int col) {

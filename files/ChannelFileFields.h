@@ -3,8 +3,6 @@
 
 #include "catalogue/RadioCatalogue.h"
 
-#include <array>
-
 namespace ChannelFile {
 
 inline constexpr const char* RootName = "ZelkMem";
@@ -61,7 +59,7 @@ struct CellElement {
 constexpr int CellTotal = 31;
 
 /// Children of a memory element, in the order of the file.
-inline constexpr std::array<CellElement, CellTotal> CellElements{{
+inline constexpr CellElement CellElements[CellTotal] = {
     {{"MF", "MFLG"}, MFLG, Written::P25, Read::P25},
     {{"MN", "MNUM"}, MNUM, Written::Shown, Read::Always},
     {{"PR", "PRIM"}, PRIM, Written::P25, Read::P25},
@@ -93,7 +91,7 @@ inline constexpr std::array<CellElement, CellTotal> CellElements{{
     {{"S5", "SHD5"}, SHD5, Written::P25, Read::P25},
     {{"S6", "SHD6"}, SHD6, Written::P25, Read::P25},
     {{"RY", "RONL"}, RONL, Written::Kdar, Read::Kdar},
-}};
+};
 
 /// True if a page of the radio type (0 to 7) writes the cell to its file.
 constexpr bool IsWritten(const CellElement& cell, int type) {

@@ -156,7 +156,7 @@ private:
     bool m_p25;
     int m_row = 0;
     Kind m_kind = Kind::Plain;
-    std::array<wxString, CellTotal> m_names, m_formerNames;
+    wxString m_names[CellTotal], m_formerNames[CellTotal];
     std::vector<bool> m_hasZone;
 };
 
@@ -169,7 +169,7 @@ int ReadHeader(const wxXmlDocument& document, Target& target, const wxXmlNode*& 
     if (root->GetName() != RootName)
         return OtherRoot;
 
-    std::array<wxString, FieldTotal> texts;
+    wxString texts[FieldTotal];
     const wxXmlNode* element = FirstElement(root);
     for (int field = 0; field < FieldTotal; ++field) {
         const ElementNames& names = HeaderNames[field];

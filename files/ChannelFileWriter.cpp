@@ -67,7 +67,7 @@ private:
     wxGrid* m_grid;
     int m_type;
     int m_number = 0;
-    std::array<wxString, CellTotal> m_names;
+    wxString m_names[CellTotal];
 };
 
 void WriteHeader(int page, wxXmlNode* root) {

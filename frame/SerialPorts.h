@@ -21,7 +21,7 @@ namespace serialports {
 
 /// File name patterns of serial devices on systems without COM names. "/dev" is a placeholder for the device
 /// folder.
-inline constexpr std::string_view kDevicePatterns[] = {
+inline constexpr std::string_view DevicePatterns[] = {
     "/dev/ttyS*", "/dev/tts/*", "/dev/ttyUSB*", "/dev/ttyACM*", "/dev/ttyXRUSB*", "/dev/usb/tts/*",
 };
 

@@ -47,7 +47,7 @@ std::vector<std::string> NamesIn(const std::string& folder, const std::string& p
 
 std::vector<std::string> PatternNames(const Folders& folders) {
     std::vector<std::string> names;
-    for (const std::string_view pattern : kDevicePatterns) {
+    for (const std::string_view pattern : DevicePatterns) {
         const fs::path path = folders.devices + std::string(pattern.substr(4)); // after "/dev"
         const auto found = NamesIn(path.parent_path(), path.filename());
         names.insert(names.end(), found.begin(), found.end());

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kHighestPort = 29;
+constexpr int HighestPort = 29;
 
 // Only the first nine ports open under their short name; the rest need the device name.
 std::string DeviceName(int number) {
@@ -39,7 +39,7 @@ bool CanBeOpened(const std::string& deviceName) {
 
 wxArrayString ListSerialPorts() {
     wxArrayString list;
-    for (int number = 1; number <= kHighestPort; ++number) {
+    for (int number = 1; number <= HighestPort; ++number) {
         if (const std::string name = DeviceName(number); IsSerialPort(number) && CanBeOpened(name))
             list.Add(name);
     }

@@ -15,7 +15,9 @@ bool ZelkApp::OnInit() {
     MainFrame->Show();
     // Desktops name the file to open as an argument. Its message boxes need the running main loop. Options
     // are left to the toolkit.
-    if (argc > 1 && !wxString(argv[1]).StartsWith("-"))
-        MainFrame->CallAfter([path = wxString(argv[1])] { OpenChannelFile(path); });
+    if (argc < 2)
+        return true;
+    if (const wxString path = argv[1]; !path.StartsWith("-"))
+        MainFrame->CallAfter([path] { OpenChannelFile(path); });
     return true;
 }

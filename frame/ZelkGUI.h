@@ -1,6 +1,7 @@
 // The window layer: every control, and every command as a virtual operation.
 #pragma once
 
+#include "catalogue/NumberedArray.h"
 #include "catalogue/PageModel.h"
 
 #include <wx/bookctrl.h>
@@ -96,7 +97,7 @@ public:
     wxNotebook* m_notebook = nullptr;
     /// The panel of the page that was built last.
     wxPanel* m_lastPanel = nullptr;
-    std::array<wxPanel*, PageLimit> m_pagePanels{};
+    NumberedArray<wxPanel*, PageLimit> m_pagePanels{};
     wxStatusBar* m_statusBar = nullptr;
     /// Created at start-up; transfers create their own ports.
     std::unique_ptr<wxAsyncSerial> m_serialPort;

@@ -1,18 +1,28 @@
 #include "robot/Files.h"
 
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <stdexcept>
 
 namespace testbench {
+
+namespace {
+
+std::string ReadRest(std::istream& in) {
+    std::string bytes;
+    for (char block[4096]; in.read(block, sizeof block), in.gcount() > 0;)
+        bytes.append(block, static_cast<size_t>(in.gcount()));
+    return bytes;
+}
+
+} // namespace
 
 std::string ReadFile(const std::filesystem::path& file) {
     std::ifstream in(file, std::ios::binary);
     if (!in) {
         throw std::runtime_error("can't read " + file.string());
     }
-    std::string bytes{std::istreambuf_iterator<char>(in), {}};
+    std::string bytes = ReadRest(in);
     if (in.bad()) {
         throw std::runtime_error("can't read " + file.string());
     }
@@ -21,7 +31,7 @@ std::string ReadFile(const std::filesystem::path& file) {
 
 std::string ReadFileIfAny(const std::filesystem::path& file) {
     std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
+    return ReadRest(in);
 }
 
 std::vector<std::string> ReadLines(const std::filesystem::path& file) {

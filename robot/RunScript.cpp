@@ -16,7 +16,7 @@ namespace testbench {
 
 namespace {
 
-constexpr int aLongTime = 24 * 60 * 60 * 1000;
+constexpr int LongTime = 24 * 60 * 60 * 1000;
 
 /// Runs the work and adds what it throws to the problems.
 void Guarded(const std::string& part, std::vector<std::string>& problems, const std::function<void()>& work) {
@@ -83,7 +83,7 @@ std::vector<std::string> RunScript(const std::function<void(Robot&)>& script,
         Guarded("window action", actionProblems, guiAction);
         actionEnded = true;
     }
-    PumpUntil([&] { return scriptEnded.load(); }, aLongTime);
+    PumpUntil([&] { return scriptEnded.load(); }, LongTime);
     thread.join();
     scriptProblems.insert(scriptProblems.end(), actionProblems.begin(), actionProblems.end());
     return scriptProblems;

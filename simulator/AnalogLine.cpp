@@ -20,7 +20,7 @@ constexpr int Codes[] = {
 static_assert(std::size(Codes) == 83);
 
 struct Literal {
-    int position;
+    size_t position;
     std::string_view text;
 };
 
@@ -80,10 +80,12 @@ bool IsScan(std::string_view field) {
     if (field == "LOCK ")
         return true;
     bool any = false;
-    for (int k = 0; k < 5; ++k) {
-        if (field[k] != '_' && field[k] != static_cast<char>('1' + k))
+    char number = '1';
+    for (const char mark : field) {
+        if (mark != '_' && mark != number)
             return false;
-        any = any || field[k] != '_';
+        any = any || mark != '_';
+        ++number;
     }
     return any; // a channel in no list has "LOCK "
 }
@@ -109,7 +111,7 @@ std::string CommonPart(const AnalogMemory& memory, std::string_view numberField)
 } // namespace
 
 Result<AnalogMemory> ParseLongLine(std::string_view line, const AnalogModel& model, int highest) {
-    const auto Refuse = [](int position, const std::string& reason) {
+    const auto Refuse = [](size_t position, const std::string& reason) {
         return Refusal{"position " + std::to_string(position) + ": " + reason};
     };
     if (line.size() != LongLineLength)

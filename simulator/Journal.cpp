@@ -9,13 +9,13 @@ namespace {
 
 std::string Printable(std::string_view text) {
     std::string shown;
-    for (unsigned char c : text) {
+    for (const char c : text) {
         if (c >= ' ' && c <= '~') {
-            shown += static_cast<char>(c);
+            shown += c;
             continue;
         }
         char escaped[8];
-        std::snprintf(escaped, sizeof escaped, "\\x%02X", c);
+        std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned char>(c));
         shown += escaped;
     }
     return shown;

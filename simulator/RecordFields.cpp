@@ -76,8 +76,8 @@ long RecordFields::InRange(int position, long hertz, const DigitalModel& model, 
 
 std::string HexOfText(std::string_view text) {
     std::string digits;
-    for (unsigned char c : text)
-        digits += Hex(c, 2);
+    for (const char c : text)
+        digits += Hex(static_cast<unsigned char>(c), 2);
     return digits;
 }
 

@@ -77,7 +77,7 @@ wxString ScanTextToNumber(const wxString& text) {
     int mask = 0;
     if (!text.Contains("LOCK"))
         for (int list = 0; list < ScanWidth; ++list)
-            if (text.Mid(list, 1) == wxUniChar('1' + list))
+            if (text.Mid(static_cast<size_t>(list), 1) == wxUniChar('1' + list))
                 mask |= 1 << list;
     return wxString::Format("%d", mask);
 }

@@ -10,14 +10,14 @@
 
 namespace {
 
-constexpr int kBorder = 5;
-constexpr int kGaugeRange = 100;
-constexpr int kGaugeStart = 10;
+constexpr int Border = 5;
+constexpr int GaugeRange = 100;
+constexpr int GaugeStart = 10;
 
 wxGauge* MakeGauge(wxWindow* parent) {
     auto* gauge =
-        new wxGauge(parent, wxID_ANY, kGaugeRange, wxDefaultPosition, wxDefaultSize, wxGA_HORIZONTAL);
-    gauge->SetValue(kGaugeStart);
+        new wxGauge(parent, wxID_ANY, GaugeRange, wxDefaultPosition, wxDefaultSize, wxGA_HORIZONTAL);
+    gauge->SetValue(GaugeStart);
     return gauge;
 }
 
@@ -56,18 +56,18 @@ ProgressFrame::~ProgressFrame() {
 void ProgressFrame::CreateControls() {
     auto* column = new wxBoxSizer(wxVERTICAL);
     m_label = new wxStaticText(this, wxID_ANY, wxString());
-    column->Add(m_label, 0, wxEXPAND | wxALL, kBorder);
+    column->Add(m_label, 0, wxEXPAND | wxALL, Border);
     m_mainGauge = MakeGauge(this);
-    column->Add(m_mainGauge, 0, wxEXPAND | wxALL, kBorder);
+    column->Add(m_mainGauge, 0, wxEXPAND | wxALL, Border);
     m_line = new wxStaticLine(this);
-    column->Add(m_line, 0, wxEXPAND | wxALL, kBorder);
+    column->Add(m_line, 0, wxEXPAND | wxALL, Border);
 
     auto* row = new wxBoxSizer(wxHORIZONTAL);
-    column->Add(row, 1, wxEXPAND | wxALL, kBorder);
+    column->Add(row, 1, wxEXPAND | wxALL, Border);
     m_pulseGauge = MakeGauge(this);
-    row->Add(m_pulseGauge, 1, wxEXPAND | wxALL, kBorder);
+    row->Add(m_pulseGauge, 1, wxEXPAND | wxALL, Border);
     m_cancelButton = new wxButton(this, wxID_ANY, "Cancel");
-    row->Add(m_cancelButton, 0, wxALL, kBorder);
+    row->Add(m_cancelButton, 0, wxALL, Border);
     SetSizer(column);
 }
 

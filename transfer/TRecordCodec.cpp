@@ -18,21 +18,18 @@ namespace {
 
 constexpr uint32_t V1 = 1, V2 = 2;
 
-/// Moves a cell's text into the array without a second copy.
-void TakeCell(wxArrayString& texts, wxGrid* grid, int row, int column) {
-    wxString text = grid->GetCellValue(row, column);
-    texts[static_cast<size_t>(column)].swap(text);
+/// Takes a cell's text without a second copy.
+void TakeCell(wxString& text, const wxGrid* grid, int row, int column) {
+    grid->GetCellValue(row, column).swap(text);
 }
 
 TRecordSource SourceOf(std::span<const TRecordField> layout, wxGrid* grid, int row) {
     TRecordSource source;
-    source.cells.resize(ColumnTotal);
-    source.defaults.resize(ColumnTotal);
     for (int column = 0; column < ColumnTotal; ++column)
-        TakeCell(source.cells, grid, row, column);
+        TakeCell(source.cells[column], grid, row, column);
     for (const TRecordField& field : layout)
         if (field.kind == TRecordKind::Letter && source.cells[field.column].empty())
-            TakeCell(source.defaults, grid, 0, field.column);
+            TakeCell(source.defaults[field.column], grid, 0, field.column);
     source.row = row;
     source.gridRows = grid->GetNumberRows();
     source.type = CurrentParameters().Type;

@@ -17,7 +17,7 @@ void SetUp(TRecordContext& context) {
     context.RadioSerial = "UNKNOWN";
     context.Status = TransferOk;
     context.XferFlags = PrimaryPass | FitsV1;
-    context.RadioModes = OpModes[static_cast<size_t>(CurrentPage)];
+    context.RadioModes = OpModes[CurrentPage];
     context.InvalidModes = 0;
     context.RecordVersion = 1;
     context.Protocol = 0;

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "catalogue/MemoryRow.h"
+#include "catalogue/NumberedArray.h"
 
-#include <wx/arrstr.h>
 #include <wx/string.h>
 
 #include <cstddef>
@@ -119,11 +119,12 @@ inline constexpr TRecordField TRecordV2[] = {
 
 /// A memory row to be sent.
 struct TRecordSource {
-    wxArrayString cells;    ///< its 32 texts
-    wxArrayString defaults; ///< 32 texts of the default row; only used for letters whose cell is empty
-    int row = 0;            ///< grid row; 0 is the default row
-    int gridRows = 0;       ///< rows of the grid, including the default row
-    int type = 0;           ///< radio type of the page
+    NumberedArray<wxString, ColumnTotal> cells; ///< its 32 texts
+    NumberedArray<wxString, ColumnTotal>
+        defaults;     ///< 32 texts of the default row; only used for letters whose cell is empty
+    int row = 0;      ///< grid row; 0 is the default row
+    int gridRows = 0; ///< rows of the grid, including the default row
+    int type = 0;     ///< radio type of the page
 };
 
 /// A cell as read from a record.

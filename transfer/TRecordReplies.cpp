@@ -24,7 +24,7 @@ constexpr uint32_t RefusalLimit = 2;
 
 void SetRadioModes(TRecordContext& context, uint32_t modes) {
     context.RadioModes = modes;
-    OpModes[static_cast<size_t>(CurrentPage)] = modes;
+    OpModes[CurrentPage] = modes;
 }
 
 /// Handles the radio's agreement to the offered protocol.

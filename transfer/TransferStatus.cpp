@@ -5,7 +5,7 @@ wxArrayString StatusList;
 
 namespace {
 
-constexpr const char* kStatusTexts[] = {
+constexpr const char* StatusTexts[] = {
     "Ok",
     "Complete",
     "Port Error",
@@ -24,7 +24,7 @@ constexpr const char* kStatusTexts[] = {
 
 void FillStatusList() {
     StatusList.clear();
-    for (const char* text : kStatusTexts)
+    for (const char* text : StatusTexts)
         StatusList.Add(text);
 }
 

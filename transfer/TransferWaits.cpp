@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int64_t kPulseInterval = 50; // milliseconds
+constexpr int64_t PulseInterval = 50; // milliseconds
 
 void StartClock(TransferContext& context) {
     context.WaitStart = wxDateTime::UNow();
@@ -47,7 +47,7 @@ TransferStatus WaitForLine(TransferContext& context, int timeoutMs, wxChar termi
         TakeArrived(context);
         context.FoundAt = context.RxBuffer.Find(terminator);
         ReadClock(context);
-        if (context.Elapsed >= context.LastPulse + kPulseInterval) {
+        if (context.Elapsed >= context.LastPulse + PulseInterval) {
             gauge->Pulse();
             context.LastPulse = context.Elapsed;
         }

@@ -29,8 +29,8 @@ TEST(Columns, HaveHeadingAndWidthOfEachType) {
         for (const printed::TypeLine& type : printed::Types) {
             SCOPED_TRACE(std::string(line.tag) + " of " + type.tag);
             const printed::Look& look = line.looks[type.type];
-            EXPECT_STREQ(ColumnHeading[type.type][static_cast<size_t>(line.column)], look.heading);
-            EXPECT_EQ(ColumnWidth[type.type][static_cast<size_t>(line.column)], look.width);
+            EXPECT_STREQ(ColumnHeading[type.type][line.column], look.heading);
+            EXPECT_EQ(ColumnWidth[type.type][line.column], look.width);
         }
 }
 
@@ -38,9 +38,12 @@ TEST(DefaultRows, HoldAll32CellsOfEachRow) {
     ASSERT_EQ(std::size(PageDefault), 11u);
     for (int row = 0; row < 11; ++row) {
         const auto texts = printed::DefaultRow(row);
-        for (size_t col = 0; col < 32; ++col)
-            EXPECT_STREQ(PageDefault[row][col], texts[col])
-                << "row " << row << " " << printed::Columns[col].tag;
+        ASSERT_EQ(texts.size(), 32u);
+        int col = 0;
+        for (const char* text : texts) {
+            EXPECT_STREQ(PageDefault[row][col], text) << "row " << row << " " << ColumnTag[col];
+            ++col;
+        }
     }
 }
 

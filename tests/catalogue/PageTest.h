@@ -21,5 +21,5 @@ protected:
             CurrentGrid()->SelectRow(row, true);
     }
 
-    static int SlotsTaken(int page, int zone) { return ZoneSlots[static_cast<size_t>(page * 32 + zone)]; }
+    static int SlotsTaken(int page, int zone) { return ZoneSlots[page * 32 + zone]; }
 };

@@ -25,7 +25,7 @@ protected:
     /// Fills the zones from 0 up to, but not including, end.
     static void FillZones(int page, int end) {
         for (int zone = 0; zone < end; ++zone)
-            ZoneSlots[static_cast<size_t>(page * 32 + zone)] = 16;
+            ZoneSlots[page * 32 + zone] = 16;
     }
 };
 
@@ -166,7 +166,7 @@ TEST_F(ZoneSlotsTest, MoveDownWithThePagesWhenOneIsDeleted) {
     wxGrid* const fourth = PageGrid[3];
     for (int page = 0; page < 4; ++page)
         for (int zone = 0; zone < 32; ++zone)
-            ZoneSlots[static_cast<size_t>(page * 32 + zone)] = page + 1;
+            ZoneSlots[page * 32 + zone] = page + 1;
     MainFrame->m_notebook->SetSelection(2);
     ASSERT_EQ(CurrentPage, 2);
     testbench::DialogScript script;

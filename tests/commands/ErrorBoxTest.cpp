@@ -27,7 +27,7 @@ TEST(DisplayError, ShowsTheMessageOfEachCode) {
     for (const auto& c : cases) {
         SCOPED_TRACE("code " + std::to_string(c.code) + ", value " + std::to_string(c.value));
         DialogScript dialogs;
-        dialogs.ExpectMessage("Error", c.message).Style(plainBox);
+        dialogs.ExpectMessage("Error", c.message).Style(PlainBox);
         DisplayError(c.code, c.value);
     }
 }

@@ -35,7 +35,7 @@ TEST_F(ChannelChecks, ScanIsYesOrNoOnP25AndKdarPages) {
 }
 
 TEST_F(ChannelChecks, ScanIsAMaskOnOtherPages) {
-    ExpectAll(maskPages, {{{SCAN}, "0", "0"},
+    ExpectAll(MaskPages, {{{SCAN}, "0", "0"},
                           {{SCAN}, "7", "7"},
                           {{SCAN}, "07", "07"},
                           {{SCAN}, "31", "31"},
@@ -55,7 +55,7 @@ TEST_F(ChannelChecks, ScanIsAMaskOnOtherPages) {
 }
 
 TEST_F(ChannelChecks, ScanOfThreeCharactersFallsBackToTheDefault) {
-    ExpectAll(maskPages, {{{SCAN}, "031", "dflt", Painted}, {{SCAN}, "1_3", "dflt", Painted}});
+    ExpectAll(MaskPages, {{{SCAN}, "031", "dflt", Painted}, {{SCAN}, "1_3", "dflt", Painted}});
 }
 
 TEST_F(ChannelChecks, ScanOfAGuardRowIsTheDefaultUnpainted) {
@@ -72,8 +72,8 @@ TEST_F(ChannelChecks, ScanOfAGuardRowIsTheDefaultUnpainted) {
 }
 
 TEST_F(ChannelChecks, ZonesBelongToP25Pages) {
-    ExpectAll(analogPages, {{{ZONE}, "3", ""}, {{ZONE}, "", ""}});
-    ExpectAll(p25Pages, {{{ZONE}, "3", "3"}, {{ZONE}, "16", "16"}, {{ZONE}, "junk", "1"}, {{ZONE}, "", "1"}});
+    ExpectAll(AnalogPages, {{{ZONE}, "3", ""}, {{ZONE}, "", ""}});
+    ExpectAll(P25Pages, {{{ZONE}, "3", "3"}, {{ZONE}, "16", "16"}, {{ZONE}, "junk", "1"}, {{ZONE}, "", "1"}});
     ExpectAll({Rp25}, {{{ZONE}, "X", "1"}});
     ExpectAll({Np25}, {{{ZONE}, "X", "X"}});
 }
@@ -96,7 +96,7 @@ TEST_F(ChannelChecks, DescriptionsKeepTheirCaseOnOtherPages) {
 }
 
 TEST_F(ChannelChecks, DescriptionsOfP25HaveEightCharacters) {
-    ExpectAll(p25Pages, {{{DESC}, "Tower 1", "Tower 1"},
+    ExpectAll(P25Pages, {{{DESC}, "Tower 1", "Tower 1"},
                          {{DESC}, "abcdefghijk", "abcdefgh"},
                          {{DESC}, "a!b\"c#d", "a!b\"c#d"},
                          {{DESC}, "{|}~z", "    z"},
@@ -105,7 +105,7 @@ TEST_F(ChannelChecks, DescriptionsOfP25HaveEightCharacters) {
 }
 
 TEST_F(ChannelChecks, ModesGetThePagesCase) {
-    ExpectAll(p25Pages, {{{MODE}, "w", "w"},
+    ExpectAll(P25Pages, {{{MODE}, "w", "w"},
                          {{MODE}, "W", "w"},
                          {{MODE}, "n", "n"},
                          {{MODE}, "N", "n"},
@@ -113,7 +113,7 @@ TEST_F(ChannelChecks, ModesGetThePagesCase) {
                          {{MODE}, "d", "dflt", Painted},
                          {{MODE}, "", "dflt", Painted},
                          {{MODE}, "Wide", "dflt", Painted}});
-    ExpectAll(analogPages, {{{MODE}, "w", "W"},
+    ExpectAll(AnalogPages, {{{MODE}, "w", "W"},
                             {{MODE}, "W", "W"},
                             {{MODE}, "n", "N"},
                             {{MODE}, "N", "N"},
@@ -128,7 +128,7 @@ TEST_F(ChannelChecks, ReceiveOnlyBelongsToKdarPages) {
 }
 
 TEST_F(ChannelChecks, AScanMaskThatStandsGetsItsBoxes) {
-    for (Page page : maskPages)
+    for (Page page : MaskPages)
         for (const char* text : {"7", "1_3__"}) {
             Become(page);
             CurrentGrid()->SetCellRenderer(row, SCAN, nullptr);

@@ -11,7 +11,7 @@ protected:
         ClearZoneSlots(CurrentPage);
     }
 
-    static void FillZone(int zone) { ZoneSlots[static_cast<size_t>(CurrentPage * 32 + zone)] = 16; }
+    static void FillZone(int zone) { ZoneSlots[CurrentPage * 32 + zone] = 16; }
 
     static int Taken(int zone) { return SlotsTaken(CurrentPage, zone); }
 

@@ -10,10 +10,10 @@
 enum Page { Anfm, Rp25, Np25, Mdlx, O12Page, KdarPage, Anam, Fxam };
 using Pages = std::vector<Page>;
 
-inline const Pages allPages{Anfm, Rp25, Np25, Mdlx, O12Page, KdarPage, Anam, Fxam};
-inline const Pages p25Pages{Rp25, Np25};
-inline const Pages analogPages{Anfm, Mdlx, O12Page, KdarPage, Anam, Fxam};
-inline const Pages maskPages{Anfm, Mdlx, O12Page, Anam, Fxam};
+inline const Pages AllPages{Anfm, Rp25, Np25, Mdlx, O12Page, KdarPage, Anam, Fxam};
+inline const Pages P25Pages{Rp25, Np25};
+inline const Pages AnalogPages{Anfm, Mdlx, O12Page, KdarPage, Anam, Fxam};
+inline const Pages MaskPages{Anfm, Mdlx, O12Page, Anam, Fxam};
 
 /// A text for the check of a column, in row 5; the default row holds "dflt".
 struct Case {

@@ -438,9 +438,9 @@ TEST_F(DefaultsCommands, TellThatTheyAreMissing) {
     const Texts before = RowTexts(0);
     testbench::DialogScript dialogs;
     dialogs.ExpectMessage("Save Radio Default Data?", " ! Currently UnImplemented !")
-        .Style(testbench::plainBox);
+        .Style(testbench::PlainBox);
     dialogs.ExpectMessage("Load Radio Default Data", " ! Currently UnImplemented !")
-        .Style(testbench::plainBox);
+        .Style(testbench::PlainBox);
     ClickRowCommand(0, SaveDefault);
     ClickRowCommand(0, LoadDefault);
     EXPECT_EQ(RowTexts(0), before);

@@ -133,7 +133,7 @@ protected:
             SetCell(row, DESC, wxString::Format("row%d", row));
     }
 
-    static int SlotsTaken(int zone) { return ZoneSlots[static_cast<size_t>(zone)]; }
+    static int SlotsTaken(int zone) { return ZoneSlots[zone]; }
 
     /// Links a filled P25 row as primary with shadows in the rows given, in the form in which the
     /// radio keeps them.

@@ -230,7 +230,7 @@ TEST_P(ContextCommands, PasteRowWithoutACopyTellsSoAfterItsQuestion) {
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, PasteRow);
     dialogs.ExpectMessage("Error - Empty paste buffer!", "Cannot paste empty row.")
-        .Style(testbench::plainBox);
+        .Style(testbench::PlainBox);
     ClickRowCommand(3, PasteRow);
     ExpectCells(before);
 }
@@ -322,9 +322,9 @@ TEST_P(ContextCommands, OfRow000TellThatTheyAreMissing) {
     const Cells before = AllCells();
     testbench::DialogScript dialogs;
     dialogs.ExpectMessage("Save Radio Default Data?", " ! Currently UnImplemented !")
-        .Style(testbench::plainBox);
+        .Style(testbench::PlainBox);
     dialogs.ExpectMessage("Load Radio Default Data", " ! Currently UnImplemented !")
-        .Style(testbench::plainBox);
+        .Style(testbench::PlainBox);
     ClickRowCommand(0, SaveDefault);
     ClickRowCommand(0, LoadDefault);
     ExpectCells(before);

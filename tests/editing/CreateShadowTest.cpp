@@ -80,7 +80,7 @@ protected:
     }
 
     static void ExpectRefusal(testbench::DialogScript& dialogs, const char* message) {
-        dialogs.ExpectMessage(Caption, message).Style(testbench::plainBox);
+        dialogs.ExpectMessage(Caption, message).Style(testbench::PlainBox);
     }
 };
 

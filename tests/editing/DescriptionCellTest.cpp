@@ -11,7 +11,7 @@ namespace {
 
 class DescriptionCell : public TextCellTest {
 protected:
-    static void InstallOn(int row, int maxChars, int mode) {
+    static void InstallOn(int row, size_t maxChars, int mode) {
         UseRow(row);
         Install(row, DESC, new ZelkDescriptionEditor(maxChars, mode));
     }

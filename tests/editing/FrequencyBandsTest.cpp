@@ -10,7 +10,8 @@ namespace {
 
 /// Texts are separated by blanks. For completed ones the text is before ">", its frequency after.
 struct Line {
-    int step, band, width;
+    int step, band;
+    size_t width;
     const char *accepted, *refused, *completed;
 };
 

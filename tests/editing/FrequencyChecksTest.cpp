@@ -23,7 +23,7 @@ TEST_F(FrequencyChecks, FrequenciesLieWithinThePagesBand) {
                              {both, "70.123456", "dflt", Painted},
                              {both, ".5", "dflt", Painted},
                              {both, "-70.1", "dflt", Painted}});
-    ExpectAll(p25Pages, {{both, "136.0000", "136.0000"},
+    ExpectAll(P25Pages, {{both, "136.0000", "136.0000"},
                          {both, "174.0000", "174.0000"},
                          {both, "174.0001", "dflt", Painted},
                          {both, "135.9999", "dflt", Painted},
@@ -71,14 +71,14 @@ TEST_F(FrequencyChecks, FrequenciesOfOtherPagesDoNotDependOnTheirRowsBand) {
     for (const char* band : {"FM 30-50", "AM 108-138", "no band"}) {
         ExpectAll({Anfm, Fxam}, {{{RFRQ, TFRQ}, "70.0000", "70.0000", Plain, "", BAND, band},
                                  {{RFRQ, TFRQ}, "40.0000", "dflt", Painted, "", BAND, band}});
-        ExpectAll(p25Pages, {{{RFRQ, TFRQ}, "140.0000", "140.0000", Plain, "", BAND, band},
+        ExpectAll(P25Pages, {{{RFRQ, TFRQ}, "140.0000", "140.0000", Plain, "", BAND, band},
                              {{RFRQ, TFRQ}, "117.000", "dflt", Painted, "", BAND, band}});
     }
 }
 
 TEST_F(FrequencyChecks, FrequenciesNeedNotLieOnTheChannelStep) {
     ExpectAll({Anfm, Fxam}, {{{RFRQ, TFRQ}, "70.00001", "70.00001"}, {{RFRQ, TFRQ}, "70.", "70."}});
-    ExpectAll(p25Pages, {{{RFRQ, TFRQ}, "140.0013", "140.0013"}});
+    ExpectAll(P25Pages, {{{RFRQ, TFRQ}, "140.0013", "140.0013"}});
     ExpectAll({O12Page, KdarPage}, {{{RFRQ, TFRQ}, "120.0001", "120.0001"}});
     ExpectAll({Anam}, {{{RFRQ, TFRQ}, "300.00007", "300.00007"}});
 }

@@ -43,7 +43,7 @@ struct Completed {
 };
 
 template <size_t count>
-void ExpectCompleted(int step, int band, int width, const Completed (&lines)[count]) {
+void ExpectCompleted(int step, int band, size_t width, const Completed (&lines)[count]) {
     for (const Completed& line : lines) {
         wxString text = line.text;
         EXPECT_EQ(FormatFreq(text, band, step, width), line.expected != nullptr)
@@ -78,7 +78,7 @@ TEST(StepTables, HoldTheDigitsOfTheChannelRaster) {
 TEST(CellWidth, IsThatOfTheBandAndTheStep) {
     struct Line {
         int step;
-        int widths[9]; // by band
+        size_t widths[9]; // by band
     };
     constexpr Line lines[] = {
         {1250, {7, 7, 9, 9, 9, 9, 9, 9, 9}},  {2500, {7, 7, 8, 8, 8, 8, 8, 8, 8}},

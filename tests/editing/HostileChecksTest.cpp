@@ -39,27 +39,27 @@ struct Line {
 const std::vector<Line>& Lines() {
     static const Pages notP25OrKdar{Anfm, Mdlx, O12Page, Anam, Fxam};
     static const std::vector<Line> lines = {
-        {{MNUM}, allPages, {"000", "000", "000", "-01", None, None, "000", "000"}},
-        {{PRIM}, allPages, EVERY(None)},
-        {{SHAD}, p25Pages, EVERY("N")},
-        {{SHAD}, analogPages, EVERY(None)},
+        {{MNUM}, AllPages, {"000", "000", "000", "-01", None, None, "000", "000"}},
+        {{PRIM}, AllPages, EVERY(None)},
+        {{SHAD}, P25Pages, EVERY("N")},
+        {{SHAD}, AnalogPages, EVERY(None)},
         {{BAND}, {Mdlx}, EVERY(Repaired)},
         {{BAND}, {Anfm, Rp25, Np25, O12Page, KdarPage, Anam, Fxam}, EVERY(None)},
         {{SCAN}, {Rp25, Np25, KdarPage}, EVERY("N")},
         // Two characters without a number read as 0; four are marks of the legacy files.
         {{SCAN}, notP25OrKdar, {Repaired, Same, Same, Repaired, Repaired, Repaired, Same, "15"}},
-        {{ZONE}, p25Pages, EVERY("1")},
-        {{ZONE}, analogPages, EVERY(None)},
+        {{ZONE}, P25Pages, EVERY("1")},
+        {{ZONE}, AnalogPages, EVERY(None)},
         {{DESC}, {Anfm}, {"AAAAAAAAA", "  ", "  ", "-1", "123456789", "-12345678", "  ", " S N"}},
         {{DESC}, {Mdlx}, {"AAAAAAAAA", "  ", "  ", "-1", "123456789", "-12345678", "  ", " s n"}},
-        {{DESC}, p25Pages, {"AAAAAAAA", "  ", "  ", "-1", "12345678", "-1234567", "  ", "%s%n"}},
+        {{DESC}, P25Pages, {"AAAAAAAA", "  ", "  ", "-1", "12345678", "-1234567", "  ", "%s%n"}},
         {{DESC},
          {O12Page, KdarPage, Anam, Fxam},
          {Same, "  ", "  ", "-1", "1234567890123456789012345678901234567890",
           "-1234567890123456789012345678901234567890", "  ", " s n"}},
-        {{MODE, RFRQ, TFRQ}, allPages, EVERY(Repaired)},
-        {{RSQL, TSQL, RTON, TTON, RCOD, TCOD}, p25Pages, EVERY(Repaired)},
-        {{RSQL, TSQL}, analogPages, EVERY(None)},
+        {{MODE, RFRQ, TFRQ}, AllPages, EVERY(Repaired)},
+        {{RSQL, TSQL, RTON, TTON, RCOD, TCOD}, P25Pages, EVERY(Repaired)},
+        {{RSQL, TSQL}, AnalogPages, EVERY(None)},
         // A text without a number reads as 0, which is valid.
         {{RNSV}, {Np25}, {Same, Same, Same, Repaired, Repaired, Repaired, Same, Same}},
         {{RNSV}, {Anfm, Rp25, Mdlx, O12Page, KdarPage, Anam, Fxam}, EVERY(None)},
@@ -69,11 +69,11 @@ const std::vector<Line>& Lines() {
         {{RCOD, TCOD}, {Fxam}, EVERY(Same)},
         // Two of the texts begin with hexadecimal digits.
         {{RTGP, TTGP, RNAC, TNAC},
-         p25Pages,
+         P25Pages,
          {Same, Default, Default, Default, Same, Default, Default, Default}},
-        {{RTGP, TTGP, RNAC, TNAC}, analogPages, EVERY(None)},
-        {{TIDC}, p25Pages, {Same, Same, Same, Default, Default, Default, Same, Same}},
-        {{TIDC}, analogPages, EVERY(None)},
+        {{RTGP, TTGP, RNAC, TNAC}, AnalogPages, EVERY(None)},
+        {{TIDC}, P25Pages, {Same, Same, Same, Default, Default, Default, Same, Same}},
+        {{TIDC}, AnalogPages, EVERY(None)},
         {{RONL}, {KdarPage}, EVERY("before")},
         {{RONL}, {Anfm, Rp25, Np25, Mdlx, O12Page, Anam, Fxam}, EVERY(None)},
     };
@@ -100,7 +100,7 @@ protected:
 } // namespace
 
 TEST_F(HostileTexts, BecomeWhatTheCheckOfTheirColumnAllows) {
-    for (Page page : allPages) {
+    for (Page page : AllPages) {
         Become(page);
         SCOPED_TRACE(RadioCatalogue::RadioTypeName[page]);
         std::vector<int> seen(32);

@@ -11,7 +11,7 @@ class NumberChecks : public ColumnCheckTest {};
 } // namespace
 
 TEST_F(NumberChecks, NumbersGetThreeDigits) {
-    ExpectAll(allPages, {{{MNUM}, "", ""},
+    ExpectAll(AllPages, {{{MNUM}, "", ""},
                          {{MNUM}, "3", "003"},
                          {{MNUM}, "005", "005"},
                          {{MNUM}, "0", "000"},
@@ -22,9 +22,9 @@ TEST_F(NumberChecks, NumbersGetThreeDigits) {
 }
 
 TEST_F(NumberChecks, ANumberAboveThePagesRowsGoes) {
-    ExpectAll(allPages, {{{MNUM}, "9999", ""}, {{MNUM}, "503", ""}, {{MNUM}, "99999999999999999999", ""}});
+    ExpectAll(AllPages, {{{MNUM}, "9999", ""}, {{MNUM}, "503", ""}, {{MNUM}, "99999999999999999999", ""}});
     // A number below the 32-bit range doesn't become another number either.
-    ExpectAll(allPages, {{{MNUM}, "-99999999999999999999", ""}, {{MNUM}, "-3000000000", ""}});
+    ExpectAll(AllPages, {{{MNUM}, "-99999999999999999999", ""}, {{MNUM}, "-3000000000", ""}});
     for (const auto& [page, rows] :
          std::map<Page, int>{{Anfm, 122}, {Rp25, 232}, {Mdlx, 500}, {O12Page, 6}}) {
         Become(page);
@@ -60,13 +60,13 @@ TEST_F(NumberChecks, ANumberAboveTheRowsIsStillSearchedFor) {
 
 TEST_F(NumberChecks, ThePrimaryIsTheRowsOwnNumber) {
     for (const char* text : {"", "003", "junk"}) {
-        ExpectAll(p25Pages, {{{PRIM}, text, "042", Plain, "", MNUM, "042"}, {{PRIM}, text, ""}});
-        ExpectAll(analogPages, {{{PRIM}, text, "", Plain, "", MNUM, "042"}});
+        ExpectAll(P25Pages, {{{PRIM}, text, "042", Plain, "", MNUM, "042"}, {{PRIM}, text, ""}});
+        ExpectAll(AnalogPages, {{{PRIM}, text, "", Plain, "", MNUM, "042"}});
     }
 }
 
 TEST_F(NumberChecks, ShadowTextsArePlainPrimaryOrShadow) {
-    ExpectAll(p25Pages, {{{SHAD}, "N", "N"},
+    ExpectAll(P25Pages, {{{SHAD}, "N", "N"},
                          {{SHAD}, "P-2", "P-2"},
                          {{SHAD}, "S-007", "S-007"},
                          {{SHAD}, "P-", "P-"},
@@ -78,7 +78,7 @@ TEST_F(NumberChecks, ShadowTextsArePlainPrimaryOrShadow) {
                          {{SHAD}, "S", "N"},
                          {{SHAD}, " P-1", "N"},
                          {{SHAD}, "NN", "N"}});
-    ExpectAll(analogPages, {{{SHAD}, "N", ""}, {{SHAD}, "P-2", ""}, {{SHAD}, "", ""}});
+    ExpectAll(AnalogPages, {{{SHAD}, "N", ""}, {{SHAD}, "P-2", ""}, {{SHAD}, "", ""}});
 }
 
 TEST_F(NumberChecks, ShadowTextsAnswerWhatTheyAre) {
@@ -103,12 +103,12 @@ TEST_F(NumberChecks, SquelchValuesBelongToTheSecondGeneration) {
 }
 
 TEST_F(NumberChecks, UnitIdsHaveSevenDigits) {
-    ExpectAll(p25Pages, {{{TIDC}, "", "0000001"},
+    ExpectAll(P25Pages, {{{TIDC}, "", "0000001"},
                          {{TIDC}, "0", "0"},
                          {{TIDC}, "00000001", "00000001"},
                          {{TIDC}, "9999999", "9999999"},
                          {{TIDC}, "10000000", "dflt"},
                          {{TIDC}, "-1", "dflt"},
                          {{TIDC}, "99999999999999999999", "dflt"}});
-    ExpectAll(analogPages, {{{TIDC}, "1", ""}, {{TIDC}, "", ""}});
+    ExpectAll(AnalogPages, {{{TIDC}, "1", ""}, {{TIDC}, "", ""}});
 }

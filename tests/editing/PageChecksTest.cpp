@@ -204,7 +204,7 @@ TEST_F(CheckingAPage, FromTheMenuSaysSoFirst) {
     {
         DialogScript dialogs;
         dialogs.ExpectMessage("Validate Page", "Validate row data")
-            .Style(testbench::plainBox)
+            .Style(testbench::PlainBox)
             .Set([&](wxDialog*) { whileShown = Cell(4, DESC); });
         testbench::RunCommand(IdValidatePage);
         EXPECT_EQ(dialogs.Shown().size(), 1u);

@@ -9,9 +9,9 @@ protected:
 
     static int SelectedCells(int page) {
         int count = 0;
-        for (int row = 0; row < PageGrid[static_cast<size_t>(page)]->GetNumberRows(); ++row)
+        for (int row = 0; row < PageGrid[page]->GetNumberRows(); ++row)
             for (int col = 0; col < 32; ++col)
-                count += PageGrid[static_cast<size_t>(page)]->IsInSelection(row, col);
+                count += PageGrid[page]->IsInSelection(row, col);
         return count;
     }
 };

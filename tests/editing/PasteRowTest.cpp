@@ -27,7 +27,7 @@ TEST_F(PasteRowCommand, WithoutACopyTellsThatThereIsNone) {
     testbench::DialogScript dialogs;
     ExpectQuestion(dialogs, PasteRow);
     dialogs.ExpectMessage("Error - Empty paste buffer!", "Cannot paste empty row.")
-        .Style(testbench::plainBox);
+        .Style(testbench::PlainBox);
     MainFrame->m_contextMenu->SendEvent(PasteRow);
     EXPECT_EQ(RowTexts(3), before);
 }

@@ -64,12 +64,13 @@ void RandomEdits::ExpectShape(int page) {
 }
 
 void RandomEdits::ExpectSlotsInRange() {
-    for (size_t i = 0; i < ZoneSlots.size(); ++i)
+    const int total = static_cast<int>(ZoneSlots.size());
+    for (int i = 0; i < total; ++i)
         if (ZoneSlots[i] < 0 || ZoneSlots[i] > 16)
             ADD_FAILURE() << "page " << i / 32 + 1 << ", zone position " << i % 32 << " holds "
                           << ZoneSlots[i];
     // Pages that don't exist, except the position that the second page reaches.
-    for (size_t i = 2 * 32 + 1; i < ZoneSlots.size(); ++i)
+    for (int i = 2 * 32 + 1; i < total; ++i)
         EXPECT_EQ(ZoneSlots[i], 0) << "page " << i / 32 + 1;
 }
 
@@ -85,7 +86,7 @@ void RandomEdits::ExpectNumberBox(testbench::DialogScript& dialogs, int row) {
     if (row != 0)
         dialogs
             .ExpectMessage("Error", wxString::Format("Number already used at row: %03d", row).utf8_string())
-            .Style(testbench::plainBox);
+            .Style(testbench::PlainBox);
 }
 
 void RandomEdits::ExpectBoxesOfPageCheck(testbench::DialogScript& dialogs) {

@@ -245,7 +245,7 @@ void RandomEdits::CopyOneRow() {
     const bool memory = ContextRow >= 1 && ContextRow <= CurrentParameters().Rows;
     testbench::DialogScript dialogs;
     if (!memory || !RowHasData(ContextRow)) {
-        dialogs.ExpectMessage("Error - Empty Row!", "Cannot copy empty row.").Style(testbench::plainBox);
+        dialogs.ExpectMessage("Error - Empty Row!", "Cannot copy empty row.").Style(testbench::PlainBox);
         m_copiedPage = -1;
     } else {
         m_copiedPage = CurrentPage;
@@ -264,7 +264,7 @@ void RandomEdits::PasteOneRow() {
         ExpectQuestion(dialogs, PasteRow, m_cancelled ? wxID_CANCEL : wxID_OK);
         if (!m_cancelled && RowCopyBuffer.empty())
             dialogs.ExpectMessage("Error - Empty paste buffer!", "Cannot paste empty row.")
-                .Style(testbench::plainBox);
+                .Style(testbench::PlainBox);
         else if (!m_cancelled && OtherRowWith(ContextRow, NumberText(ContextRow)))
             // Otherwise the row gets its own number where the copied one is not allowed.
             ExpectNumberBox(dialogs, OtherRowWith(ContextRow, RowCopyBuffer[MNUM]));
@@ -344,7 +344,7 @@ void RandomEdits::DefaultAllRows() {
 
 void RandomEdits::RunUnimplemented(int command, const char* caption) {
     testbench::DialogScript dialogs;
-    dialogs.ExpectMessage(caption, " ! Currently UnImplemented !").Style(testbench::plainBox);
+    dialogs.ExpectMessage(caption, " ! Currently UnImplemented !").Style(testbench::PlainBox);
     m_cancelled = !CurrentGrid()->IsCellEditControlEnabled();
     MainFrame->m_contextMenu->SendEvent(command);
 }
@@ -399,7 +399,7 @@ void RandomEdits::CreateOneShadow() {
     }
     testbench::DialogScript dialogs;
     const auto refuse = [&](const wxString& message) {
-        dialogs.ExpectMessage(caption, message.utf8_string()).Style(testbench::plainBox);
+        dialogs.ExpectMessage(caption, message.utf8_string()).Style(testbench::PlainBox);
         m_cancelled = true;
         ++m_done[CurrentPage]["OnCreateShadow: refused"];
     };
@@ -449,7 +449,7 @@ void RandomEdits::CreateOneShadow() {
 void RandomEdits::ValidateByMenu() {
     {
         testbench::DialogScript dialogs;
-        dialogs.ExpectMessage("Validate Page", "Validate row data").Style(testbench::plainBox);
+        dialogs.ExpectMessage("Validate Page", "Validate row data").Style(testbench::PlainBox);
         ExpectBoxesOfPageCheck(dialogs);
         wxCommandEvent event;
         MainFrame->OnValidatePage(event);

@@ -136,7 +136,7 @@ TEST_F(CopyRowCommand, RefusesABlankRowAndForgetsTheFormerCopy) {
     Fill({4});
     RunOnRow(CopyRow, 4);
     testbench::DialogScript dialogs;
-    dialogs.ExpectMessage("Error - Empty Row!", "Cannot copy empty row.").Style(testbench::plainBox);
+    dialogs.ExpectMessage("Error - Empty Row!", "Cannot copy empty row.").Style(testbench::PlainBox);
     ContextRow = 5;
     MainFrame->m_contextMenu->SendEvent(CopyRow);
     EXPECT_TRUE(RowCopyBuffer.empty());
@@ -495,7 +495,7 @@ TEST_F(DeleteRowCommand, GivesBackTheZoneOfTheRowThatTheNumberNames) {
     SetCell(7, ZONE, "3");
     SetCell(8, ZONE, "4");
     for (int zone = 0; zone < 16; ++zone)
-        ZoneSlots[static_cast<size_t>(zone)] = 9;
+        ZoneSlots[zone] = 9;
     SelectRows({5, 6});
     Run(DeleteRow);
     // Row 6 names row 7. After its deletion the former row 7 is row 6, which row 5 names.

@@ -9,7 +9,7 @@ class SquelchChecks : public ColumnCheckTest {};
 
 TEST_F(SquelchChecks, SquelchLettersFollowTheMode) {
     for (const char* mode : {"w", "n", ""})
-        ExpectAll(p25Pages, {{{RSQL, TSQL}, "x", "x", Plain, "", MODE, mode},
+        ExpectAll(P25Pages, {{{RSQL, TSQL}, "x", "x", Plain, "", MODE, mode},
                              {{RSQL, TSQL}, "t", "t", Plain, "", MODE, mode},
                              {{RSQL, TSQL}, "c", "c", Plain, "", MODE, mode},
                              {{TSQL}, "-", "-", Plain, "", MODE, mode},
@@ -18,7 +18,7 @@ TEST_F(SquelchChecks, SquelchLettersFollowTheMode) {
                              {{RSQL, TSQL}, "g", "dflt", Painted, "", MODE, mode},
                              {{RSQL, TSQL}, "X", "dflt", Painted, "", MODE, mode},
                              {{RSQL, TSQL}, "", "dflt", Painted, "", MODE, mode}});
-    ExpectAll(p25Pages, {{{RSQL}, "m", "m", Plain, "", MODE, "D"},
+    ExpectAll(P25Pages, {{{RSQL}, "m", "m", Plain, "", MODE, "D"},
                          {{RSQL}, "n", "n", Plain, "", MODE, "D"},
                          {{RSQL}, "g", "g", Plain, "", MODE, "D"},
                          {{RSQL}, "i", "dflt", Painted, "", MODE, "D"},
@@ -28,7 +28,7 @@ TEST_F(SquelchChecks, SquelchLettersFollowTheMode) {
                          {{TSQL}, "m", "dflt", Painted, "", MODE, "D"},
                          {{RSQL, TSQL}, "x", "dflt", Painted, "", MODE, "D"},
                          {{RSQL, TSQL}, "", "dflt", Painted, "", MODE, "D"}});
-    ExpectAll(analogPages, {{{RSQL, TSQL}, "x", ""}, {{RSQL, TSQL}, "", ""}, {{RSQL, TSQL}, "junk", ""}});
+    ExpectAll(AnalogPages, {{{RSQL, TSQL}, "x", ""}, {{RSQL, TSQL}, "", ""}, {{RSQL, TSQL}, "junk", ""}});
 }
 
 TEST_F(SquelchChecks, TonesOfFmPagesAreThoseOfTheList) {
@@ -53,7 +53,7 @@ TEST_F(SquelchChecks, TonesOfFmPagesAreThoseOfTheList) {
 
 TEST_F(SquelchChecks, TonesOfP25PagesAreThoseOfTheirOwnList) {
     const std::vector<int> both{RTON, TTON};
-    ExpectAll(p25Pages, {{both, "67.0", "67.0", Plain, "t"},
+    ExpectAll(P25Pages, {{both, "67.0", "67.0", Plain, "t"},
                          {both, "254.8", "254.8", Plain, "x"},
                          {both, "67.0", "67.0", Plain, "c"},
                          {both, "67.0", "67.0"},
@@ -95,7 +95,7 @@ TEST_F(SquelchChecks, CodesOfTheModuleAreAbsentInAmRows) {
 
 TEST_F(SquelchChecks, CodesOfP25PagesAreNeverOff) {
     const std::vector<int> both{RCOD, TCOD};
-    ExpectAll(p25Pages, {{both, "023", "023", Plain, "c"},
+    ExpectAll(P25Pages, {{both, "023", "023", Plain, "c"},
                          {both, "754", "754", Plain, "x"},
                          {both, "023", "023"},
                          {both, "OFF", "dflt", Painted},
@@ -166,7 +166,7 @@ TEST_F(SquelchChecks, ReceiveToneAndCodeOfAnalogGuardRowsAreAbsent) {
 }
 
 TEST_F(SquelchChecks, TalkGroupsAreFourHexadecimalDigits) {
-    ExpectAll(p25Pages, {{{RTGP, TTGP}, "0001", "0001"},
+    ExpectAll(P25Pages, {{{RTGP, TTGP}, "0001", "0001"},
                          {{RTGP, TTGP}, "FFFF", "FFFF"},
                          {{RTGP, TTGP}, "abcd", "abcd"},
                          {{RTGP, TTGP}, "1", "0001"},
@@ -178,11 +178,11 @@ TEST_F(SquelchChecks, TalkGroupsAreFourHexadecimalDigits) {
                          {{RTGP, TTGP}, " 001", "dflt"},
                          {{RTGP, TTGP}, "-1", "dflt"},
                          {{RTGP, TTGP}, "\xC2\xB9", "dflt"}});
-    ExpectAll(analogPages, {{{RTGP, TTGP}, "0001", ""}, {{RTGP, TTGP}, "", ""}});
+    ExpectAll(AnalogPages, {{{RTGP, TTGP}, "0001", ""}, {{RTGP, TTGP}, "", ""}});
 }
 
 TEST_F(SquelchChecks, NacsAreThreeHexadecimalDigits) {
-    ExpectAll(p25Pages, {{{RNAC, TNAC}, "293", "293"},
+    ExpectAll(P25Pages, {{{RNAC, TNAC}, "293", "293"},
                          {{RNAC, TNAC}, "FFF", "FFF"},
                          {{RNAC, TNAC}, "3", "003"},
                          {{RNAC, TNAC}, "F7", "0F7"},
@@ -190,7 +190,7 @@ TEST_F(SquelchChecks, NacsAreThreeHexadecimalDigits) {
                          {{RNAC, TNAC}, "", "dflt"},
                          {{RNAC, TNAC}, "29x", "dflt"},
                          {{RNAC, TNAC}, "x", "dflt"}});
-    ExpectAll(analogPages, {{{RNAC, TNAC}, "293", ""}, {{RNAC, TNAC}, "", ""}});
+    ExpectAll(AnalogPages, {{{RNAC, TNAC}, "293", ""}, {{RNAC, TNAC}, "", ""}});
 }
 
 TEST_F(SquelchChecks, CodesOfOtherPagesDoNotDependOnTheirRowsBand) {

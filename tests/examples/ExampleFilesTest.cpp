@@ -242,7 +242,7 @@ TEST_P(ExampleFiles, HoldAllChannelsOfTheirBandAndBothGuards) {
     const auto guards = std::count_if(channels.begin(), channels.end(),
                                       [](const Memory& memory) { return IsGuard(GetParam(), memory); });
     EXPECT_EQ(guards, HasGuards(GetParam()) ? 2 : 0);
-    EXPECT_EQ(static_cast<int>(channels.size() - guards), GetParam().channels);
+    EXPECT_EQ(static_cast<int>(channels.size()) - guards, GetParam().channels);
 }
 
 TEST_P(ExampleFiles, KeepFrequenciesInTheFormAndTheLimitsOfTheirBand) {

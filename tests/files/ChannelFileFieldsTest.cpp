@@ -60,8 +60,8 @@ bool Names(const std::string& list, const std::string& word) {
 } // namespace
 
 TEST(ChannelFileFields, HaveTheirNamesAndColumnsInFileOrder) {
-    ASSERT_EQ(CellElements.size(), 31u);
-    for (size_t i = 0; i < CellElements.size(); ++i) {
+    ASSERT_EQ(std::size(CellElements), 31u);
+    for (size_t i = 0; i < std::size(CellElements); ++i) {
         SCOPED_TRACE(PrintedCells[i].name);
         EXPECT_STREQ(CellElements[i].names.name, PrintedCells[i].name);
         EXPECT_STREQ(CellElements[i].names.formerName, PrintedCells[i].formerName);
@@ -70,7 +70,7 @@ TEST(ChannelFileFields, HaveTheirNamesAndColumnsInFileOrder) {
 }
 
 TEST(ChannelFileFields, AreReadFromTheFilesOfTheirTypes) {
-    for (size_t i = 0; i < CellElements.size(); ++i)
+    for (size_t i = 0; i < std::size(CellElements); ++i)
         for (int type = 0; type < 8; ++type)
             EXPECT_EQ(IsRead(CellElements[i], type), Names(PrintedCells[i].readTypes, TypeNames[type]))
                 << PrintedCells[i].name << " of " << TypeNames[type];

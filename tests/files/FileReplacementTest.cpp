@@ -75,7 +75,7 @@ TEST_F(ReplacedFile, ReplacesAFormerOneAlsoByAShorter) {
 }
 
 TEST_F(ReplacedFile, KeepsThePermissionsOfTheFormerOne) {
-    for (const mode_t mode : {0600, 0640, 0664, 0755}) {
+    for (const mode_t mode : {0600u, 0640u, 0664u, 0755u}) {
         testbench::WriteFile(m_folder / "a", "old");
         ASSERT_EQ(chmod((m_folder / "a").c_str(), mode), 0);
         EXPECT_EQ(Write(m_folder / "a", "new"), "");

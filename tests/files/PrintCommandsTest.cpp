@@ -18,6 +18,7 @@
 
 #include <chrono>
 #include <iterator>
+#include <stdexcept>
 #include <thread>
 
 using namespace testbench;
@@ -174,25 +175,32 @@ protected:
             SetCell(row, SCAN, std::to_string(row % 32));
     }
 
-    static wxPreviewFrame* Preview() {
+    static wxPreviewFrame* FindPreview() {
         for (wxWindow* window : wxTopLevelWindows)
             if (auto* frame = dynamic_cast<wxPreviewFrame*>(window))
                 return frame;
         return nullptr;
     }
 
-    static wxPrintPreviewBase* PreviewedPages() { return Preview()->GetControlBar()->GetPrintPreview(); }
+    static wxPreviewFrame& Preview() {
+        wxPreviewFrame* const frame = FindPreview();
+        if (!frame)
+            throw std::runtime_error("no print preview is open");
+        return *frame;
+    }
+
+    static wxPrintPreviewBase* PreviewedPages() { return Preview().GetControlBar()->GetPrintPreview(); }
 
     /// Clicks a control of the preview.
     static void ClickInPreview(Robot& robot, int id) {
-        robot.Click(robot.Ask([id] { return MiddleOf(*Preview()->GetControlBar()->FindWindow(id)); }));
+        robot.Click(robot.Ask([id] { return MiddleOf(*Preview().GetControlBar()->FindWindow(id)); }));
         robot.Settle();
     }
 
     static void ExpectPreviewed(Robot& robot, int page) {
         EXPECT_TRUE(robot.WaitFor([page] { return PreviewedPages()->GetCurrentPage() == page; })) << page;
         const std::string status = "Page " + std::to_string(page) + " of 4";
-        EXPECT_TRUE(robot.WaitFor([&] { return Preview()->GetStatusBar()->GetStatusText() == status; }))
+        EXPECT_TRUE(robot.WaitFor([&] { return Preview().GetStatusBar()->GetStatusText() == status; }))
             << status;
     }
 
@@ -200,7 +208,7 @@ protected:
     static wxImage PreviewPicture(Robot& robot) {
         robot.Settle();
         const wxRect canvas = robot.Ask([] {
-            for (wxWindow* child : Preview()->GetChildren())
+            for (wxWindow* child : Preview().GetChildren())
                 if (dynamic_cast<wxPreviewCanvas*>(child))
                     return child->GetScreenRect();
             return wxRect();
@@ -209,7 +217,7 @@ protected:
     }
 
     static bool AreSame(const wxImage& one, const wxImage& other) {
-        const size_t bytes = static_cast<size_t>(one.GetWidth()) * one.GetHeight() * 3;
+        const int bytes = one.GetWidth() * one.GetHeight() * 3;
         return one.GetSize() == other.GetSize() &&
                std::equal(one.GetData(), one.GetData() + bytes, other.GetData());
     }
@@ -459,7 +467,7 @@ TEST_F(PrintCommands, ThePreviewIsPagedSizedAndClosed) {
     RunWithRobot([&](Robot& robot) {
         ChooseFromFileMenu(robot, PreviewEntry);
         ASSERT_TRUE(robot.WaitForWindow("Print Preview"));
-        EXPECT_EQ(robot.Ask([] { return Preview()->GetParent(); }), MainFrame);
+        EXPECT_EQ(robot.Ask([] { return Preview().GetParent(); }), MainFrame);
         EXPECT_FALSE(robot.Ask([] { return MainFrame->IsEnabled(); }));
         ExpectPreviewed(robot, 1);
         const wxImage first = PreviewPicture(robot);
@@ -488,7 +496,7 @@ TEST_F(PrintCommands, ThePreviewIsPagedSizedAndClosed) {
         EXPECT_TRUE(AreSame(before, PreviewPicture(robot)));
 
         ClickInPreview(robot, wxID_PREVIEW_CLOSE);
-        EXPECT_TRUE(robot.WaitFor([] { return !Preview(); }));
+        EXPECT_TRUE(robot.WaitFor([] { return !FindPreview(); }));
         EXPECT_TRUE(robot.WaitForWindow("Orv Zelk.*"));
         EXPECT_TRUE(robot.Ask([] { return MainFrame->IsEnabled(); }));
         ExpectKeysInTheGrid(robot);
@@ -507,7 +515,7 @@ TEST_F(PrintCommands, ThePreviewPrintsWhatItShows) {
         PrintToFile(robot);
         EXPECT_TRUE(robot.WaitForWindow("Print Preview"));
         robot.Press("Alt+F4");
-        EXPECT_TRUE(robot.WaitFor([] { return !Preview(); }));
+        EXPECT_TRUE(robot.WaitFor([] { return !FindPreview(); }));
     });
     ExpectEveryRow(1, 7);
 }
@@ -519,7 +527,7 @@ TEST_F(PrintCommands, ThePreviewLiesOnItsSideInLandscape) {
         ASSERT_TRUE(robot.WaitForWindow("Print Preview"));
         EXPECT_TRUE(robot.WaitFor([] { return PreviewedPages()->GetMaxPage() == 8; }));
         robot.Press("Alt+F4");
-        EXPECT_TRUE(robot.WaitFor([] { return !Preview(); }));
+        EXPECT_TRUE(robot.WaitFor([] { return !FindPreview(); }));
     });
 }
 
@@ -528,9 +536,9 @@ TEST_F(PrintCommands, ThePreviewGoesWithTheMainWindow) {
         ChooseFromFileMenu(robot, PreviewEntry);
         ASSERT_TRUE(robot.WaitForWindow("Print Preview"));
     });
-    ASSERT_NE(Preview(), nullptr);
+    ASSERT_NE(FindPreview(), nullptr);
     TearDown();
-    EXPECT_EQ(Preview(), nullptr);
+    EXPECT_EQ(FindPreview(), nullptr);
     SetUp();
 }
 

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::string mainWindow = "Orv Zelk: Page 1 of 1.";
+const std::string MainWindowTitle = "Orv Zelk: Page 1 of 1.";
 
 class CommandLine : public testing::Test {
 protected:
@@ -69,14 +69,14 @@ protected:
 TEST_F(CommandLine, NamesAFileThatOpensOnTheFirstPage) {
     const fs::path file = CopyExample("krv-214-vhf.zelk");
     const Process zelk = Start({file});
-    ASSERT_TRUE(WaitForFocus(mainWindow));
+    ASSERT_TRUE(WaitForFocus(MainWindowTitle));
     ExpectPageIsOf(file);
 }
 
 TEST_F(CommandLine, NamesAFileOfADigitalRadioInTheWorkingFolder) {
     const fs::path file = CopyExample("kdrv-716b-p25.zelk");
     const Process zelk = Start({"kdrv-716b-p25.zelk"}, m_folder.Path());
-    ASSERT_TRUE(WaitForFocus(mainWindow));
+    ASSERT_TRUE(WaitForFocus(MainWindowTitle));
     ExpectPageIsOf(file);
 }
 
@@ -85,7 +85,7 @@ TEST_F(CommandLine, NamesAFileThatIsNoneAndIsToldSo) {
     Process zelk = Start({m_folder / "list.zelk"});
     ASSERT_TRUE(WaitForFocus("Error"));
     m_hands.Press("Escape");
-    EXPECT_TRUE(WaitForFocus(mainWindow));
+    EXPECT_TRUE(WaitForFocus(MainWindowTitle));
     EXPECT_TRUE(zelk.IsRunning());
 }
 
@@ -93,7 +93,7 @@ TEST_F(CommandLine, WithoutAFileOpensNone) {
     const fs::path file = CopyExample("krv-214-vhf.zelk");
     for (const std::vector<std::string>& arguments : {std::vector<std::string>{}, {"--help"}}) {
         const Process zelk = Start(arguments, m_folder.Path());
-        ASSERT_TRUE(WaitForFocus(mainWindow)) << arguments.size();
+        ASSERT_TRUE(WaitForFocus(MainWindowTitle)) << arguments.size();
         Save();
         // The new page has a default row and no file of its own, so the save asks for one.
         EXPECT_TRUE(WaitForFocus("Save .zelk file...")) << arguments.size();

@@ -97,7 +97,7 @@ struct Command {
     const char* operation;
 };
 
-constexpr Command menuCommands[] = {
+constexpr Command CommandsOfMenu[] = {
     {5999, "OnOpen"},           {6000, "OnSave"},         {6001, "OnSaveAs"},       {6002, "OnImport"},
     {6003, "OnExport"},         {6004, "OnPrint"},        {6005, "OnPrintPreview"}, {6006, "OnPageSetup"},
     {6022, "OnQuit"},           {6007, "OnPageAdd"},      {6008, "OnPageDelete"},   {6011, "OnUpload"},
@@ -106,7 +106,7 @@ constexpr Command menuCommands[] = {
     {6021, "OnAbout"},
 };
 
-constexpr Command contextCommands[] = {
+constexpr Command CommandsOfContextMenu[] = {
     {6024, "OnDefaultRow"},    {6025, "OnCreateShadow"},     {6026, "OnCopyRow"},
     {6027, "OnPasteRow"},      {6028, "OnClearRow"},         {6029, "OnInsertRow"},
     {6030, "OnDeleteRow"},     {6031, "OnMarkRow"},          {6032, "OnDefaultCol"},
@@ -117,7 +117,7 @@ constexpr Command contextCommands[] = {
 } // namespace
 
 TEST_F(Commands, OfTheMenusRunTheirOperations) {
-    for (const Command& command : menuCommands) {
+    for (const Command& command : CommandsOfMenu) {
         wxMenu* menu = nullptr;
         ASSERT_NE(frame->m_menuBar->FindItem(command.id, &menu), nullptr) << command.operation;
         menu->SendEvent(command.id);
@@ -126,7 +126,7 @@ TEST_F(Commands, OfTheMenusRunTheirOperations) {
 }
 
 TEST_F(Commands, OfTheContextMenuRunTheirOperations) {
-    for (const Command& command : contextCommands) {
+    for (const Command& command : CommandsOfContextMenu) {
         frame->m_contextMenu->SendEvent(command.id);
         EXPECT_EQ(Taken(), Names{command.operation}) << command.id;
     }

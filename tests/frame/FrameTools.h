@@ -17,7 +17,7 @@ class wxGrid;
 namespace testbench {
 
 /// Style of a plain message box: OK and centred, plus the icon that the toolkit adds if none is requested.
-constexpr long plainBox = wxOK | wxCENTRE | wxICON_INFORMATION;
+constexpr long PlainBox = wxOK | wxCENTRE | wxICON_INFORMATION;
 
 /// Chooses an entry of the main window's menus.
 void RunCommand(int id);

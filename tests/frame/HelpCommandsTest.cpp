@@ -50,7 +50,7 @@ protected:
         dialogs
             .ExpectMessage("User Guide",
                            "Unable to open User Guide.\nLook in the install directory for ZelkUserGuide.pdf")
-            .Style(plainBox);
+            .Style(PlainBox);
     }
 
     const fs::path m_program = fs::read_symlink("/proc/self/exe");

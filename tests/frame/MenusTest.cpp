@@ -26,7 +26,7 @@ struct Menu {
     std::vector<Entry> entries;
 };
 
-const std::vector<Menu> menus = {
+const std::vector<Menu> AllMenus = {
     {"File",
      {
          {5999, "&Open", "Open a memory data file"},
@@ -69,7 +69,7 @@ const std::vector<Menu> menus = {
      }},
 };
 
-constexpr Entry contextEntries[] = {
+constexpr Entry ContextEntries[] = {
     {6024, "de&Fault row", "Set row to default values"},
     {6025, "create &Shadow", "Create Shadow of this Primary"},
     {6026, "&Copy row", "Copy row contents to clipboard"},
@@ -94,7 +94,7 @@ struct Tool {
 
 constexpr Tool ToolGap{-1, "", "", ""};
 
-constexpr Tool tools[] = {
+constexpr Tool AllTools[] = {
     {5999, "Open", "Open file", "Open radio data file"},
     {6000, "Save", "Save file", "Save radio data file"},
     {6004, "Print", "Print file", "Print radio data file"},
@@ -130,14 +130,14 @@ using ToolBar = ZelkWindowTest;
 TEST_F(MainMenus, HaveTheseEntriesInThisOrder) {
     const wxMenuBar* bar = MainFrame->m_menuBar;
     ASSERT_EQ(MainFrame->GetMenuBar(), bar);
-    ASSERT_EQ(bar->GetMenuCount(), menus.size());
-    for (size_t m = 0; m < menus.size(); ++m) {
-        SCOPED_TRACE(menus[m].title);
-        EXPECT_EQ(bar->GetMenuLabel(m), menus[m].title);
+    ASSERT_EQ(bar->GetMenuCount(), AllMenus.size());
+    for (size_t m = 0; m < AllMenus.size(); ++m) {
+        SCOPED_TRACE(AllMenus[m].title);
+        EXPECT_EQ(bar->GetMenuLabel(m), AllMenus[m].title);
         const wxMenu* menu = bar->GetMenu(m);
-        ASSERT_EQ(menu->GetMenuItemCount(), menus[m].entries.size());
-        for (size_t i = 0; i < menus[m].entries.size(); ++i) {
-            const Entry& expected = menus[m].entries[i];
+        ASSERT_EQ(menu->GetMenuItemCount(), AllMenus[m].entries.size());
+        for (size_t i = 0; i < AllMenus[m].entries.size(); ++i) {
+            const Entry& expected = AllMenus[m].entries[i];
             const wxMenuItem* item = menu->FindItemByPosition(i);
             if (expected.id == Separator.id) {
                 EXPECT_TRUE(item->IsSeparator()) << "position " << i;
@@ -150,7 +150,7 @@ TEST_F(MainMenus, HaveTheseEntriesInThisOrder) {
 }
 
 TEST_F(MainMenus, AreNeverDisabled) {
-    for (const Menu& menu : menus) {
+    for (const Menu& menu : AllMenus) {
         for (const Entry& entry : menu.entries) {
             if (entry.id != Separator.id) {
                 EXPECT_TRUE(MainFrame->m_menuBar->IsEnabled(entry.id)) << entry.label;
@@ -177,28 +177,28 @@ TEST_F(MainMenus, ShowTheirHelpInTheFirstStatusField) {
 
 TEST_F(ContextMenuEntries, AreMadeOnceAndNotInTheMenu) {
     EXPECT_EQ(MainFrame->m_contextMenu->GetMenuItemCount(), 0u);
-    ASSERT_EQ(MainFrame->m_contextItems.size(), std::size(contextEntries));
-    for (size_t i = 0; i < std::size(contextEntries); ++i) {
-        ExpectEntry(MainFrame->m_contextItems[i], contextEntries[i]);
+    ASSERT_EQ(MainFrame->m_contextItems.size(), std::size(ContextEntries));
+    for (size_t i = 0; i < std::size(ContextEntries); ++i) {
+        ExpectEntry(MainFrame->m_contextItems[i], ContextEntries[i]);
         EXPECT_EQ(MainFrame->m_contextItems[i]->GetMenu(), MainFrame->m_contextMenu.get());
     }
 }
 
 TEST_F(ToolBar, HasTheseToolsInThisOrder) {
     wxToolBar* bar = MainFrame->m_toolBar;
-    ASSERT_EQ(bar->GetToolsCount(), std::size(tools));
+    ASSERT_EQ(bar->GetToolsCount(), std::size(AllTools));
     size_t member = 0;
-    for (size_t i = 0; i < std::size(tools); ++i) {
-        SCOPED_TRACE("position " + std::to_string(i) + ", " + tools[i].label);
+    for (size_t i = 0; i < std::size(AllTools); ++i) {
+        SCOPED_TRACE("position " + std::to_string(i) + ", " + AllTools[i].label);
         const wxToolBarToolBase* tool = bar->GetToolByPos(static_cast<int>(i));
-        if (tools[i].id == ToolGap.id) {
+        if (AllTools[i].id == ToolGap.id) {
             EXPECT_TRUE(tool->IsSeparator());
             continue;
         }
-        EXPECT_EQ(tool->GetId(), tools[i].id);
-        EXPECT_EQ(tool->GetLabel(), tools[i].label);
-        EXPECT_EQ(tool->GetShortHelp(), tools[i].shortHelp);
-        EXPECT_EQ(tool->GetLongHelp(), tools[i].longHelp);
+        EXPECT_EQ(tool->GetId(), AllTools[i].id);
+        EXPECT_EQ(tool->GetLabel(), AllTools[i].label);
+        EXPECT_EQ(tool->GetShortHelp(), AllTools[i].shortHelp);
+        EXPECT_EQ(tool->GetLongHelp(), AllTools[i].longHelp);
         EXPECT_TRUE(tool->IsButton());
         EXPECT_TRUE(tool->IsEnabled());
         ASSERT_TRUE(tool->GetNormalBitmap().IsOk());

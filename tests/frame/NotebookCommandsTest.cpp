@@ -76,7 +76,7 @@ TEST_F(Pages, AreSixAtMost) {
     ASSERT_EQ(PageCount, 6);
     EXPECT_EQ(Title(), "Orv Zelk: Page 6 of 6.");
     DialogScript dialogs;
-    dialogs.ExpectMessage("MAX Page Reached", "Cannot add further pages to notebook").Style(plainBox);
+    dialogs.ExpectMessage("MAX Page Reached", "Cannot add further pages to notebook").Style(PlainBox);
     RunCommand(IdPageAdd);
     EXPECT_EQ(dialogs.Shown().size(), 1u) << "the message alone, no dialog after it";
     EXPECT_EQ(PageCount, 6);
@@ -125,7 +125,7 @@ TEST_F(Pages, AddedWhileACellIsEditedKeepTheTypedText) {
 
 TEST_F(Pages, OnlyOneCannotBeDeleted) {
     DialogScript dialogs;
-    dialogs.ExpectMessage("Delete Page Error", "There must always be at least one Page").Style(plainBox);
+    dialogs.ExpectMessage("Delete Page Error", "There must always be at least one Page").Style(PlainBox);
     RunCommand(IdPageDelete);
     EXPECT_EQ(dialogs.Shown().size(), 1u) << "nothing is asked";
     EXPECT_EQ(PageCount, 1);
@@ -228,12 +228,13 @@ TEST_F(Pages, DeletedAtTheEndClearTheirOwnSlotOnly) {
 TEST_F(Pages, MoveTheirZoneCountersAndOneMore) {
     AddPage(Krv21);
     AddPage(Orv12);
-    for (size_t i = 0; i < ZoneSlots.size(); ++i)
-        ZoneSlots[i] = 1000 + static_cast<int>(i);
+    const int total = static_cast<int>(ZoneSlots.size());
+    for (int i = 0; i < total; ++i)
+        ZoneSlots[i] = 1000 + i;
     SelectPage(0);
     DeletePage();
-    for (size_t i = 0; i < ZoneSlots.size(); ++i) {
-        int expected = 1000 + static_cast<int>(i);
+    for (int i = 0; i < total; ++i) {
+        int expected = 1000 + i;
         if (i < 64)
             expected += 32;
         else if (i <= 96) // the freed page's 32 and the first of the next page
@@ -247,7 +248,8 @@ TEST_F(Pages, SixthDeletedClearsTheCountersUpToTheTablesEnd) {
         AddPage(radio);
     ZoneSlots.fill(7);
     DeletePage();
-    for (size_t i = 0; i < ZoneSlots.size(); ++i)
+    const int total = static_cast<int>(ZoneSlots.size());
+    for (int i = 0; i < total; ++i)
         EXPECT_EQ(ZoneSlots[i], i < 160 ? 7 : 0) << "entry " << i;
 }
 

@@ -25,9 +25,9 @@ using namespace testbench;
 
 namespace {
 
-constexpr const char* radioTitle = "<-- Select Target Radio -->";
-constexpr const char* bandTitle = "<-- Select Frequency Band -->";
-constexpr const char* portTitle = "<-- Select Serial Port -->";
+constexpr const char* RadioTitle = "<-- Select Target Radio -->";
+constexpr const char* BandTitle = "<-- Select Frequency Band -->";
+constexpr const char* PortTitle = "<-- Select Serial Port -->";
 
 using Texts = std::vector<std::string>;
 
@@ -99,7 +99,7 @@ protected:
 
 TEST_F(Selecting, ARadioOffersTheLabelsInTheirOrder) {
     DialogScript dialogs;
-    dialogs.Expect(DialogKind::Other, radioTitle).Do([](wxDialog* dialog) {
+    dialogs.Expect(DialogKind::Other, RadioTitle).Do([](wxDialog* dialog) {
         ExpectForm(dialog, "Radio", RadioChoice);
         EXPECT_EQ(ChoicesOf(RadioChoice),
                   (Texts{"KRV-21", "KRV-47", "ORV-12", "KRV-214", "KRV-214B", "KRV-305", "KDRV-716[A|B]",
@@ -114,7 +114,7 @@ TEST_F(Selecting, ARadioBeginsWithThePagesOwnWhereItsLabelIsItsName) {
     for (int radio = 0; radio < 18; ++radio) {
         PretendRadio(radio);
         DialogScript dialogs;
-        dialogs.Expect(DialogKind::Other, radioTitle).Do([radio](wxDialog* dialog) {
+        dialogs.Expect(DialogKind::Other, RadioTitle).Do([radio](wxDialog* dialog) {
             const bool found = radio != 6 && radio != 7 && radio != 12;
             EXPECT_EQ(RadioChoice->GetSelection(), found ? radio : -1) << "radio " << radio;
             PumpFor(100);
@@ -127,7 +127,7 @@ TEST_F(Selecting, ARadioBeginsWithThePagesOwnWhereItsLabelIsItsName) {
 
 TEST_F(Selecting, ARadioForANewPageBeginsWithNone) {
     DialogScript dialogs;
-    dialogs.Expect(DialogKind::Other, radioTitle).Do([](wxDialog* dialog) {
+    dialogs.Expect(DialogKind::Other, RadioTitle).Do([](wxDialog* dialog) {
         EXPECT_EQ(RadioChoice->GetSelection(), -1);
         PumpFor(100);
         EXPECT_FALSE(OkCanBePressed(dialog));
@@ -139,7 +139,7 @@ TEST_F(Selecting, ARadioForANewPageBeginsWithNone) {
 TEST_F(Selecting, WithNothingChosenOkCannotBePressed) {
     PretendRadio(6);
     DialogScript dialogs;
-    dialogs.Expect(DialogKind::Other, radioTitle).Do([](wxDialog* dialog) {
+    dialogs.Expect(DialogKind::Other, RadioTitle).Do([](wxDialog* dialog) {
         ClickButton(dialog, wxID_OK);
         PressKey("Return");
         EXPECT_TRUE(dialog->IsModal()) << "the dialog is still open";
@@ -185,7 +185,7 @@ TEST_F(Selecting, ABandOffersThoseOfTheChosenRadio) {
         const int last = static_cast<int>(c.bands.size()) - 1;
         DialogScript dialogs;
         ExpectRadio(dialogs, c.radio);
-        dialogs.Expect(DialogKind::Other, bandTitle).Do([&c, last](wxDialog* dialog) {
+        dialogs.Expect(DialogKind::Other, BandTitle).Do([&c, last](wxDialog* dialog) {
             ExpectForm(dialog, "Band", BandChoice);
             EXPECT_EQ(ChoicesOf(BandChoice), c.bands);
             EXPECT_EQ(BandList.size(), c.bands.size());
@@ -211,7 +211,7 @@ TEST_F(Selecting, ABandBeginsAtThePositionOfThePagesFormerRadio) {
         PretendRadio(c.former);
         DialogScript dialogs;
         ExpectRadio(dialogs, c.chosen);
-        dialogs.Expect(DialogKind::Other, bandTitle).Do([&c](wxDialog* dialog) {
+        dialogs.Expect(DialogKind::Other, BandTitle).Do([&c](wxDialog* dialog) {
             EXPECT_EQ(BandChoice->GetSelection(), c.preselected);
             PumpFor(100);
             EXPECT_EQ(OkCanBePressed(dialog), c.preselected >= 0);
@@ -225,14 +225,14 @@ TEST_F(Selecting, CancelledInEitherDialogLeavesThePageUntouched) {
     PageStrings[0].FileName = "kept";
     CurrentParameters().Flags = 0x02;
     DialogScript dialogs;
-    dialogs.Expect(DialogKind::Other, radioTitle).Do([](wxDialog* dialog) {
+    dialogs.Expect(DialogKind::Other, RadioTitle).Do([](wxDialog* dialog) {
         ClickButton(dialog, wxID_CANCEL);
     });
     EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -10);
     EXPECT_EQ(Target(), (Texts{"KRV-47", "FM 66-88", "kept"}));
 
     ExpectRadio(dialogs, 13);
-    dialogs.Expect(DialogKind::Other, bandTitle).Do([](wxDialog* dialog) { CancelWithKey(dialog); });
+    dialogs.Expect(DialogKind::Other, BandTitle).Do([](wxDialog* dialog) { CancelWithKey(dialog); });
     EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -10);
     EXPECT_EQ(Target(), (Texts{"KRV-47", "FM 66-88", "kept"}));
     EXPECT_EQ(CurrentParameters().Flags, 0x02);
@@ -243,18 +243,18 @@ TEST_F(Selecting, AnInvalidChoiceIsRefusedAndLeavesThePageUntouched) {
     PageStrings[0].FileName = "kept";
     DialogScript dialogs;
     // No user can give these answers, because they come without a choice.
-    dialogs.Expect(DialogKind::Other, radioTitle).Answer(wxID_OK);
+    dialogs.Expect(DialogKind::Other, RadioTitle).Answer(wxID_OK);
     EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -12);
 
-    dialogs.Expect(DialogKind::Other, radioTitle).Set([](wxDialog*) { RadioChoice->SetSelection(17); });
-    dialogs.Expect(DialogKind::Other, bandTitle).Set([](wxDialog*) {
+    dialogs.Expect(DialogKind::Other, RadioTitle).Set([](wxDialog*) { RadioChoice->SetSelection(17); });
+    dialogs.Expect(DialogKind::Other, BandTitle).Set([](wxDialog*) {
         BandChoice->SetSelection(BandChoice->Append("seventh"));
     });
     EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -13);
     EXPECT_TRUE(BandList.empty());
 
-    dialogs.Expect(DialogKind::Other, radioTitle).Set([](wxDialog*) { RadioChoice->SetSelection(9); });
-    dialogs.Expect(DialogKind::Other, bandTitle).Answer(wxID_OK);
+    dialogs.Expect(DialogKind::Other, RadioTitle).Set([](wxDialog*) { RadioChoice->SetSelection(9); });
+    dialogs.Expect(DialogKind::Other, BandTitle).Answer(wxID_OK);
     EXPECT_EQ(UserSelectRadioAndBand(MainFrame, 0), -13);
     EXPECT_EQ(Target(), (Texts{"KRV-47", "FM 66-88", "kept"}));
 }
@@ -279,14 +279,14 @@ TEST_F(Selecting, WithTheKeyboardReachesRadioAndBand) {
     int result = -1;
     RunWithRobot(
         [](Robot& robot) {
-            ASSERT_NE(robot.WaitForDialog(radioTitle), nullptr);
+            ASSERT_NE(robot.WaitForDialog(RadioTitle), nullptr);
             robot.Ask([] { RadioChoice->SetFocus(); });
             robot.Settle();
             // From the KRV-47 on.
             robot.Press("Down", 8);
             EXPECT_TRUE(robot.WaitFor([] { return RadioChoice->GetStringSelection() == "KRV-610"; }));
             PressOk(robot, RadioChoice);
-            ASSERT_NE(robot.WaitForDialog(bandTitle), nullptr);
+            ASSERT_NE(robot.WaitForDialog(BandTitle), nullptr);
             robot.Ask([] { BandChoice->SetFocus(); });
             robot.Settle();
             robot.Press("Up");
@@ -302,7 +302,7 @@ TEST_F(Selecting, WithTheKeyboardReachesRadioAndBand) {
 TEST_F(Selecting, HasNoWindowManagersWayOut) {
     RunWithRobot(
         [](Robot& robot) {
-            ASSERT_NE(robot.WaitForDialog(radioTitle), nullptr);
+            ASSERT_NE(robot.WaitForDialog(RadioTitle), nullptr);
             EXPECT_EQ(robot.Ask([] { return RadioChoice->GetParent()->GetWindowStyleFlag() & wxCLOSE_BOX; }),
                       0);
             robot.Press("Escape");
@@ -347,7 +347,7 @@ protected:
     }
 
     static ExpectedDialog& ExpectPort(DialogScript& dialogs) {
-        return dialogs.Expect(DialogKind::Other, portTitle);
+        return dialogs.Expect(DialogKind::Other, PortTitle);
     }
 
     static wxString StatusField() { return MainFrame->m_statusBar->GetStatusText(4); }

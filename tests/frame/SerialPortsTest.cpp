@@ -22,7 +22,7 @@ using serialports::Folders;
 using serialports::ListPorts;
 using Names = std::vector<std::string>;
 
-constexpr uid_t kNobody = 65534;
+constexpr uid_t NobodyId = 65534;
 
 // A device folder with links to pseudo-terminals, and a folder for the user's links.
 class SerialPortsTest : public ::testing::Test {
@@ -54,7 +54,7 @@ class WithoutRights {
 public:
     explicit WithoutRights(const PseudoTerminal& device) : m_name(device.SlaveName()) {
         EXPECT_EQ(chmod(m_name.c_str(), 0), 0);
-        BecomeIfSuperuser(kNobody);
+        BecomeIfSuperuser(NobodyId);
     }
     ~WithoutRights() {
         BecomeIfSuperuser(0);
@@ -81,7 +81,7 @@ std::string GroupOf(const PseudoTerminal& device) {
 TEST(SerialPortPatterns, AreTheSixKnownOnes) {
     const Names expected = {"/dev/ttyS*",   "/dev/tts/*",     "/dev/ttyUSB*",
                             "/dev/ttyACM*", "/dev/ttyXRUSB*", "/dev/usb/tts/*"};
-    EXPECT_EQ(Names(std::begin(serialports::kDevicePatterns), std::end(serialports::kDevicePatterns)),
+    EXPECT_EQ(Names(std::begin(serialports::DevicePatterns), std::end(serialports::DevicePatterns)),
               expected);
 }
 

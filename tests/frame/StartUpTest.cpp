@@ -87,9 +87,9 @@ TEST_F(StartUp, WindowIs927By680) {
 }
 
 TEST_F(StartUp, ToolBarStandsLeftOfTheNotebook) {
-    wxSizer* sizer = MainFrame->GetSizer();
+    auto* sizer = dynamic_cast<wxBoxSizer*>(MainFrame->GetSizer());
     ASSERT_NE(sizer, nullptr);
-    EXPECT_EQ(dynamic_cast<wxBoxSizer*>(sizer)->GetOrientation(), wxHORIZONTAL);
+    EXPECT_EQ(sizer->GetOrientation(), wxHORIZONTAL);
     ASSERT_EQ(sizer->GetItemCount(), 2u);
     wxSizerItem* first = sizer->GetItem(size_t{0});
     wxSizerItem* second = sizer->GetItem(size_t{1});

@@ -16,8 +16,8 @@ using namespace testbench;
 
 namespace {
 
-constexpr const char* question = "Change Target?";
-constexpr const char* warning = "If there is data on this page,\nthis may result in invalid configuration!";
+constexpr const char* Question = "Change Target?";
+constexpr const char* Warning = "If there is data on this page,\nthis may result in invalid configuration!";
 
 using Texts = std::vector<std::string>;
 
@@ -88,7 +88,7 @@ protected:
 TEST_F(ChangingTheTarget, AsksFirstAndStopsOnCancel) {
     PageStrings[0].FileName = "kept";
     DialogScript dialogs;
-    dialogs.ExpectMessage(question, warning, wxID_CANCEL).Style(wxOK | wxCANCEL);
+    dialogs.ExpectMessage(Question, Warning, wxID_CANCEL).Style(wxOK | wxCANCEL);
     RunCommand(IdSetTarget);
     EXPECT_EQ(dialogs.Shown().size(), 1u);
     EXPECT_EQ(PageStrings[0].FileName, "kept");
@@ -101,7 +101,7 @@ TEST_F(ChangingTheTarget, CancelledInTheRadioDialogLeavesThePageUntouched) {
     CurrentParameters().Flags = 0x12;
     const auto before = AllRows();
     DialogScript dialogs;
-    dialogs.ExpectMessage(question, warning);
+    dialogs.ExpectMessage(Question, Warning);
     dialogs.Expect(DialogKind::Other, "<-- Select Target Radio -->").Answer(wxID_CANCEL);
     RunCommand(IdSetTarget);
     EXPECT_EQ(AllRows(), before);
@@ -114,9 +114,9 @@ TEST_F(ChangingTheTarget, ToAnInvalidChoiceShowsTheErrorAndLeavesThePageUntouche
     FillRow(CurrentGrid(), 121, "guard");
     const auto before = AllRows();
     DialogScript dialogs;
-    dialogs.ExpectMessage(question, warning);
+    dialogs.ExpectMessage(Question, Warning);
     dialogs.Expect(DialogKind::Other, "<-- Select Target Radio -->").Answer(wxID_OK);
-    dialogs.ExpectMessage("Error", "Invalid Radio selection").Style(plainBox);
+    dialogs.ExpectMessage("Error", "Invalid Radio selection").Style(PlainBox);
     RunCommand(IdSetTarget);
     EXPECT_EQ(AllRows(), before);
     EXPECT_EQ(PageStrings[0].RadioName, "KRV-47");

@@ -16,7 +16,7 @@ constexpr char Good[] = "001 TOWER1    150.0000RX 151.2500TX CTCSS: 64RX 12TX DP
 
 struct Change {
     const char* name;
-    int position;
+    size_t position;
     const char* text;
 };
 

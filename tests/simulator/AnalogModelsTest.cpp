@@ -103,7 +103,7 @@ TEST(AnalogModels, ModuleTunesThreeRanges) {
     ASSERT_TRUE(found) << found.Reason();
     const AnalogModel* model = *found;
     const int expected[][2] = {{30, 50}, {108, 138}, {225, 400}};
-    for (int k = 0; k < 3; ++k) {
+    for (size_t k = 0; k < 3; ++k) {
         EXPECT_EQ(model->ranges[k].low, expected[k][0]);
         EXPECT_EQ(model->ranges[k].high, expected[k][1]);
     }

@@ -52,8 +52,8 @@ inline std::string Digits(unsigned value, int count) {
 }
 inline std::string TextDigits(std::string_view text) {
     std::string digits;
-    for (unsigned char c : text)
-        digits += Digits(c, 2);
+    for (const char c : text)
+        digits += Digits(static_cast<unsigned char>(c), 2);
     return digits;
 }
 

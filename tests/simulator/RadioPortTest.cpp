@@ -201,6 +201,11 @@ TEST(RadioKey, IsPressedByASignal) {
     EXPECT_NE(ReadFile(folder / "log").find("- key pressed"), std::string::npos);
 }
 
+/// Seconds that the bytes take on the line: 10 bits each.
+double LineTime(size_t bytes, int baud) {
+    return static_cast<double>(bytes) * 10 / baud;
+}
+
 TEST(Pacing, DeliversNoFasterThanTheSpeedOfThePort) {
     const TempFolder folder;
     const std::string file =
@@ -212,8 +217,8 @@ TEST(Pacing, DeliversNoFasterThanTheSpeedOfThePort) {
     const std::string text = client.ReadUntil("300\r");
     const auto passed = std::chrono::duration<double>(Clock::now() - start).count();
     EXPECT_GT(text.size(), 230u);
-    EXPECT_GE(passed, (text.size() + 3) * 10 / 9600.0);
-    EXPECT_LT(passed, (text.size() + 3) * 10 / 9600.0 + 0.5);
+    EXPECT_GE(passed, LineTime(text.size() + 3, 9600));
+    EXPECT_LT(passed, LineTime(text.size() + 3, 9600) + 0.5);
 }
 
 TEST(Pacing, AcceptsNoFasterThanTheSpeedOfThePort) {
@@ -223,7 +228,7 @@ TEST(Pacing, AcceptsNoFasterThanTheSpeedOfThePort) {
     const auto start = Clock::now();
     client.Send("dl\r" + VhfLine("001") + "\r" + VhfLine("002") + "\r" + VhfLine("003") + "\r");
     EXPECT_EQ(client.ReadUntil("\x05\x05\x05"), "\x05\x05\x05");
-    EXPECT_GE(std::chrono::duration<double>(Clock::now() - start).count(), (3 + 3 * 77 + 1) * 10 / 9600.0);
+    EXPECT_GE(std::chrono::duration<double>(Clock::now() - start).count(), LineTime(3 + 3 * 77 + 1, 9600));
 }
 
 TEST(Pacing, FollowsAFasterSpeed) {
@@ -235,8 +240,8 @@ TEST(Pacing, FollowsAFasterSpeed) {
     const std::string text = client.ReadUntil("\r300\r");
     const auto passed = std::chrono::duration<double>(Clock::now() - start).count();
     EXPECT_GT(text.size(), 200u * 77);
-    EXPECT_GE(passed, text.size() * 10 / 115200.0);
-    EXPECT_LT(passed, text.size() * 10 / 9600.0 / 4) << "far below the 16 s of 9600 baud";
+    EXPECT_GE(passed, LineTime(text.size(), 115200));
+    EXPECT_LT(passed, LineTime(text.size(), 9600) / 4) << "far below the 16 s of 9600 baud";
 }
 
 TEST(Pacing, IsOffUnlessAskedFor) {

@@ -26,7 +26,7 @@ using namespace testbench;
 
 namespace {
 
-const std::string everyCharacter = "abcxyzABCXYZ0123456789 !\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~";
+const std::string EveryCharacter = "abcxyzABCXYZ0123456789 !\"#$%&'()*+,-./:;<=>?@[\\]^_`{|}~";
 
 class OnAFrame : public testing::Test {
 protected:
@@ -56,8 +56,8 @@ TEST_F(Keys, ReachAGridCell) {
 }
 
 TEST_F(Keys, OfEveryPrintableCharacterArrive) {
-    TypeIntoCell(*frame->grid, 0, 0, "a" + everyCharacter);
-    EXPECT_EQ(Cell(0, 0), "a" + everyCharacter);
+    TypeIntoCell(*frame->grid, 0, 0, "a" + EveryCharacter);
+    EXPECT_EQ(Cell(0, 0), "a" + EveryCharacter);
 }
 
 TEST_F(Keys, WithModifiersArrive) {
@@ -108,8 +108,8 @@ TEST(Pumping, EndsWithTheConditionOrTheDeadline) {
 TEST_F(RobotOnAFrame, TypesIntoAGridAndClicksAButton) {
     RunWithRobot([&](Robot& robot) {
         robot.Click(robot.Ask([&] { return CellSpot(*frame->grid, 2, 0); }));
-        robot.Type(everyCharacter.substr(1) + "\n");
-        EXPECT_TRUE(robot.WaitFor([&] { return Cell(2, 0) == everyCharacter.substr(1); }))
+        robot.Type(EveryCharacter.substr(1) + "\n");
+        EXPECT_TRUE(robot.WaitFor([&] { return Cell(2, 0) == EveryCharacter.substr(1); }))
             << robot.Ask([&] { return Cell(2, 0); });
         robot.Click(robot.Ask([&] { return MiddleOf(*frame->button); }));
         EXPECT_TRUE(robot.WaitFor([&] { return frame->clicks == 1; }));

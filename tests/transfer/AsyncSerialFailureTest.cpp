@@ -10,7 +10,7 @@
 
 namespace {
 
-const char kMissing[] = "/dev/no-such-port";
+const char MissingPort[] = "/dev/no-such-port";
 
 bool OpenThrows(AsyncSerial& port, const std::string& name, unsigned int baudRate = 9600) {
     try {
@@ -38,14 +38,14 @@ bool SaysErrorWhileClosing(const std::string& text) {
 TEST(AsyncSerialOpen, OfAMissingDeviceThrowsAndLeavesThePortClosedWithItsErrorFlag) {
     CallbackAsyncSerial port;
     EXPECT_FALSE(port.errorStatus());
-    EXPECT_TRUE(OpenThrows(port, kMissing));
+    EXPECT_TRUE(OpenThrows(port, MissingPort));
     EXPECT_FALSE(port.isOpen());
     EXPECT_TRUE(port.errorStatus());
 }
 
 TEST(AsyncSerialOpen, ByTheConstructorThrowsToo) {
     using Options = boost::asio::serial_port_base;
-    EXPECT_THROW(CallbackAsyncSerial(kMissing, 9600, Options::parity(), Options::character_size(8),
+    EXPECT_THROW(CallbackAsyncSerial(MissingPort, 9600, Options::parity(), Options::character_size(8),
                                      Options::flow_control(), Options::stop_bits()),
                  boost::system::system_error);
 }
@@ -59,7 +59,7 @@ TEST(AsyncSerialOpen, OfAFileThatIsNoPortThrows) {
 TEST(AsyncSerialOpen, AfterAFailedOneSucceedsAndClearsTheErrorFlag) {
     PseudoTerminal device;
     CallbackAsyncSerial port;
-    EXPECT_TRUE(OpenThrows(port, kMissing));
+    EXPECT_TRUE(OpenThrows(port, MissingPort));
     port.open(device.SlaveName(), 9600);
     EXPECT_TRUE(port.isOpen());
     EXPECT_FALSE(port.errorStatus());
@@ -100,7 +100,7 @@ TEST(AsyncSerialOpen, OfAnOpenPortClosesTheFirstDevice) {
 TEST(AsyncSerialClose, OfAClosedPortDoesNothing) {
     CallbackAsyncSerial port;
     EXPECT_NO_THROW(port.close());
-    EXPECT_TRUE(OpenThrows(port, kMissing));
+    EXPECT_TRUE(OpenThrows(port, MissingPort));
     EXPECT_NO_THROW(port.close()); // even with the error flag set
     EXPECT_FALSE(port.isOpen());
 }

@@ -29,9 +29,8 @@ protected:
     TRecordRoundTrip() { FillChoiceLists(); }
 
     /// Different values in every column, with the lists of tones, codes and zones from end to end.
-    static wxArrayString CellsOf(int row) {
-        wxArrayString cells;
-        cells.resize(ColumnTotal);
+    static NumberedArray<wxString, ColumnTotal> CellsOf(int row) {
+        NumberedArray<wxString, ColumnTotal> cells;
         cells[MFLG] = FlagText(row & 0x37F);
         cells[MNUM] = NumberText(row);
         cells[PRIM] = NumberText(row);
@@ -53,7 +52,7 @@ protected:
         cells[TTGP] = wxString::Format("%04X", 65535 - row * 130);
         cells[TNAC] = wxString::Format("%03X", 4095 - row * 8);
         cells[TIDC] = wxString::Format("%07d", row * 1991);
-        for (size_t column = SHD0; column <= SHD6; ++column)
+        for (int column = SHD0; column <= SHD6; ++column)
             cells[column] = "0";
         if (row % 10 == 0)
             cells[SHD0] = "7";
@@ -88,12 +87,12 @@ protected:
     /// Compares a row that was read back with the sent one, expects only these changes, and counts them by
     /// column.
     void Check(std::span<const TRecordField> layout, int row, const std::map<int, std::string>& changes) {
-        const wxArrayString before = CellsOf(row);
+        const auto before = CellsOf(row);
         const auto [rowBack, after] = ThereAndBack(layout, row);
         EXPECT_EQ(rowBack, row);
         EXPECT_EQ(after.size(), 27u) << row; // all columns except SHAD, BAND, SCAN, RONL and TFLG
         for (const auto& [column, text] : after) {
-            const std::string was = before[static_cast<size_t>(column)].utf8_string();
+            const std::string was = before[column].utf8_string();
             const auto change = changes.find(column);
             EXPECT_EQ(text, change != changes.end() ? change->second : was)
                 << "row " << row << " " << ColumnTag[column];
@@ -110,7 +109,7 @@ protected:
 
 TEST_F(TRecordRoundTrip, OfV2ChangesTheseCellsOnly) {
     for (int row = 0; row < GridRows; ++row) {
-        const wxArrayString before = CellsOf(row);
+        const auto before = CellsOf(row);
         std::map<int, std::string> changes = {
             {MNUM, Number(row)}, // no leading zeros
             {PRIM, Number(row)},
@@ -143,7 +142,7 @@ TEST_F(TRecordRoundTrip, OfV1ChangesTheseCellsOnly) {
         if (!FitsRecordV1(NP25, row))
             continue;
         ++carried;
-        const wxArrayString before = CellsOf(row);
+        const auto before = CellsOf(row);
         std::map<int, std::string> changes = {
             {RNSV, wxString::Format("%2d", row % 16).utf8_string()}, // a blank before a single digit
             {TCOD, OneFurther(before[TCOD])},

@@ -12,8 +12,6 @@ class TRecordRules : public ::testing::Test {
 protected:
     TRecordRules() {
         FillChoiceLists();
-        m_source.cells.resize(ColumnTotal);
-        m_source.defaults.resize(ColumnTotal);
         m_source.row = 12;
         m_source.gridRows = 503;
         m_source.type = NP25;

@@ -10,7 +10,7 @@
 
 namespace {
 
-const char kMissing[] = "/dev/no-such-port";
+const char MissingPort[] = "/dev/no-such-port";
 
 // Polls until `size` characters have arrived or ten seconds have passed.
 wxString ReceiveText(size_t size) {
@@ -80,11 +80,11 @@ TEST(WxAsyncSerialWrite, TwoInQuickSuccessionArriveInOrder) {
 TEST(WxAsyncSerialOpen, OfAMissingDeviceThrowsNothingAndLeavesThePortClosed) {
     wxAsyncSerial port(nullptr);
     EXPECT_FALSE(port.isOpen());
-    EXPECT_NO_THROW(port.open(kMissing, 9600));
+    EXPECT_NO_THROW(port.open(MissingPort, 9600));
     EXPECT_FALSE(port.isOpen());
     EXPECT_TRUE(port.errorStatus());
     std::unique_ptr<wxAsyncSerial> other;
-    EXPECT_NO_THROW(other = std::make_unique<wxAsyncSerial>(nullptr, kMissing, 9600));
+    EXPECT_NO_THROW(other = std::make_unique<wxAsyncSerial>(nullptr, MissingPort, 9600));
     EXPECT_FALSE(other->isOpen());
 }
 
@@ -105,7 +105,7 @@ TEST(WxAsyncSerialOpen, EmptiesTheBufferAlsoWhenItFails) {
     wxAsyncSerial port(nullptr, device.SlaveName(), 9600);
     EXPECT_EQ(wxAsyncSerial::GetData(), "");
     PutIntoBuffer("old");
-    port.open(kMissing, 9600);
+    port.open(MissingPort, 9600);
     EXPECT_EQ(wxAsyncSerial::GetData(), "");
 }
 

@@ -48,6 +48,7 @@ std::vector<std::string> Environment(const std::vector<std::pair<std::string, st
 
 std::vector<char*> Pointers(std::vector<std::string>& texts) {
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string& text : texts) {
         pointers.push_back(text.data());
     }

@@ -1,12 +1,12 @@
 // The version number is defined in CMakeLists.txt only; everything else takes it from there.
 #include "catalogue/Version.h"
 
+#include "robot/Files.h"
+
 #include <gtest/gtest.h>
 
 #include <cctype>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -16,11 +16,6 @@ namespace {
 
 const fs::path Tree = ZELK_SOURCE_DIR;
 const std::string Number = ZELK_PROJECT_VERSION;
-
-std::string ReadText(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
 
 /// Whether the text contains the number, not as part of a longer one such as an address.
 bool HasNumber(const std::string& text) {
@@ -66,16 +61,17 @@ TEST(VersionNumber, IsThatOfTheProject) {
 TEST(VersionNumber, IsWrittenOnceOutsideOfHistoriesAndTests) {
     const std::vector<fs::path> files = FilesOfTree();
     EXPECT_GT(files.size(), 400u);
-    EXPECT_TRUE(HasNumber(ReadText(Tree / "CMakeLists.txt")));
+    EXPECT_TRUE(HasNumber(testbench::ReadFile(Tree / "CMakeLists.txt")));
     for (const fs::path& file : files)
-        EXPECT_TRUE(MayHaveNumber(file) || !HasNumber(ReadText(Tree / file))) << file;
+        EXPECT_TRUE(MayHaveNumber(file) || !HasNumber(testbench::ReadFile(Tree / file))) << file;
 }
 
 TEST(VersionNumber, IsInWhatIsInstalledAndInTheChanges) {
     const fs::path packaging = fs::path(ZELK_BUILD_DIR) / "packaging";
-    EXPECT_TRUE(ReadText(packaging / "changelog").starts_with("zelk (" + Number + ") "));
-    EXPECT_NE(ReadText(packaging / "local.zelk.zelk.metainfo.xml").find("<release version=\"" + Number + '"'),
+    EXPECT_TRUE(testbench::ReadFile(packaging / "changelog").starts_with("zelk (" + Number + ") "));
+    EXPECT_NE(testbench::ReadFile(packaging / "local.zelk.zelk.metainfo.xml")
+                  .find("<release version=\"" + Number + '"'),
               std::string::npos);
-    EXPECT_NE(ReadText(packaging / "zelk.1").find("\"Zelk " + Number + '"'), std::string::npos);
-    EXPECT_NE(ReadText(Tree / "CHANGELOG.md").find("\n## " + Number + '\n'), std::string::npos);
+    EXPECT_NE(testbench::ReadFile(packaging / "zelk.1").find("\"Zelk " + Number + '"'), std::string::npos);
+    EXPECT_NE(testbench::ReadFile(Tree / "CHANGELOG.md").find("\n## " + Number + '\n'), std::string::npos);
 }

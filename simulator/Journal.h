@@ -17,14 +17,15 @@ class Journal {
 public:
     /// A journal without a file: only complaints are written, to standard error.
     Journal() = default;
+    virtual ~Journal() = default;
 
     /// Creates or empties the file.
     [[nodiscard]] Failure Open(const std::string& path);
 
     /// Writes a line. Bytes that aren't printable ASCII are written as \xNN.
-    void Note(std::string_view text);
+    virtual void Note(std::string_view text);
     /// Writes a line marked "?", also to standard error.
-    void Complain(std::string_view text);
+    virtual void Complain(std::string_view text);
 
 private:
     struct Close {

@@ -5,9 +5,9 @@
 #include "transfer/AnalogDialogue.h"
 #include "transfer/AnalogLine.h"
 #include "transfer/AnalogRecord.h"
-#include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
+#include "transfer/TransferProgress.h"
 #include "transfer/TransferSession.h"
 #include "transfer/TransferTimes.h"
 #include "transfer/TransferWaits.h"
@@ -60,7 +60,7 @@ void AskForKey(TransferContext& context, int radio) {
         return;
     wxMessageBox(radio == Kdrv8400 ? "Close this dialog, then press HOME on radio to start"
                                    : "Close this dialog, then press ENTER on radio to start",
-                 "Read channel data from radio", wxOK | wxCENTRE, context.Progress);
+                 "Read channel data from radio", wxOK | wxCENTRE, context.Progress->Window());
 }
 
 /// Removes the headings that radios print before channel 1. False for a line without that channel.

@@ -2,14 +2,12 @@
 #include "catalogue/TextNumbers.h"
 #include "transfer/AnalogDialogue.h"
 #include "transfer/HexText.h"
-#include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
+#include "transfer/TransferProgress.h"
 #include "transfer/TransferSession.h"
 #include "transfer/TransferTimes.h"
 #include "transfer/TransferWaits.h"
-
-#include <wx/gauge.h>
 
 namespace {
 
@@ -18,7 +16,7 @@ bool PrepareGauge(TransferContext& context) {
     const int count = static_cast<int>(context.ConfigCount);
     if (count < 1)
         return false;
-    context.Progress->MainGauge()->SetRange(count);
+    context.Progress->SetRange(count);
     return true;
 }
 

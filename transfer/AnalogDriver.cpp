@@ -8,11 +8,14 @@
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
 #include "transfer/TransferMode.h"
+#include "transfer/TransferProgress.h"
 #include "transfer/TransferSession.h"
 #include "transfer/TransferTimes.h"
 #include "transfer/TransferWaits.h"
 
 #include <wx/stdpaths.h>
+
+#include <utility>
 
 namespace {
 
@@ -154,7 +157,12 @@ TransferStatus Exchange(TransferContext& context, wxGrid* grid, TransferMode mod
 
 TransferStatus AnalogProtocol::TransferData(TransferContext& context, wxGrid* grid, int mode,
                                             const wxString& portName, const wxString& title) {
-    TransferSession session(context, MeansFor(grid, portName, title));
+    return TransferWith(context, grid, mode, MeansFor(grid, portName, title));
+}
+
+TransferStatus AnalogProtocol::TransferWith(TransferContext& context, wxGrid* grid, int mode,
+                                            TransferMeans means) {
+    TransferSession session(context, std::move(means));
     OpenTransferLog(context.LogFile, wxStandardPaths::Get().GetUserDataDir());
     session.Run([&] { return DoTransferData(context, grid, mode); });
     Report(context, static_cast<TransferMode>(mode));

@@ -6,6 +6,7 @@
 #include <wx/string.h>
 
 class wxGrid;
+struct TransferMeans;
 struct TransferContext;
 
 // Each protocol has its own namespace because both contexts share a base class: the caller names the
@@ -22,6 +23,9 @@ namespace AnalogProtocol {
 /// @param title    title of the progress window
 TransferStatus TransferData(TransferContext& context, wxGrid* grid, int mode, const wxString& portName,
                             const wxString& title);
+
+/// Same, with the port and the progress window of the caller, such as a test's.
+TransferStatus TransferWith(TransferContext& context, wxGrid* grid, int mode, TransferMeans means);
 
 /// Runs the exchange on the open port, with the progress window of the context. The caller reports the result
 /// in a box and in the log.

@@ -8,7 +8,7 @@
 #include <span>
 
 /// Content of a field of the line. The first ten are contents of the channel.
-enum AnalogPart : int {
+enum AnalogPart : size_t {
     NumberPart,
     DescriptionPart,
     RxFrequencyPart,

@@ -1,8 +1,8 @@
 #include "transfer/DebugLog.h"
 
 #include "transfer/HexText.h"
-#include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
+#include "transfer/TransferProgress.h"
 
 #include <wx/ffile.h>
 #include <wx/gauge.h>
@@ -173,8 +173,8 @@ void decodeDebugLog(TRecordContext& context) {
     const int address = static_cast<int>(HexNumberAt(context.RxLine, AddressPosition, AddressDigits));
     context.LogDataStart = (address & BlockMask) == 0 ? FirstDataByteOfBlock : FirstDataByte;
     context.Work3 = (address / bytesPerStep) & lowByte;
-    if (context.Progress && context.Work3 <= context.Progress->MainGauge()->GetRange())
-        context.Progress->MainGauge()->SetValue(context.Work3);
+    if (context.Progress && context.Work3 <= context.Progress->Range())
+        context.Progress->SetValue(context.Work3);
     if (context.Protocol == SampleProtocol)
         decodeDebugLog716B(context);
     else

@@ -48,6 +48,7 @@ ProgressFrame::ProgressFrame(wxWindow* parent, wxWindowID id, const wxString& ti
 }
 
 ProgressFrame::~ProgressFrame() {
+    Hide();
     Unbind(wxEVT_CLOSE_WINDOW, &ProgressFrame::OnCloseRequest, this);
     m_cancelButton->Unbind(wxEVT_BUTTON, &ProgressFrame::OnCancel, this);
     m_disabler.reset();
@@ -79,6 +80,22 @@ void ProgressFrame::SetStatus(const wxString& text) {
 void ProgressFrame::AppendStatus(const wxString& text) {
     m_status += text;
     m_label->SetLabelText(m_status);
+}
+
+void ProgressFrame::SetRange(int rows) {
+    m_mainGauge->SetRange(rows);
+}
+
+int ProgressFrame::Range() const {
+    return m_mainGauge->GetRange();
+}
+
+void ProgressFrame::SetValue(int rows) {
+    m_mainGauge->SetValue(rows);
+}
+
+void ProgressFrame::Pulse() {
+    m_pulseGauge->Pulse();
 }
 
 void ProgressFrame::OnCancel(wxCommandEvent& event) {

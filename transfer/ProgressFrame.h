@@ -1,6 +1,8 @@
 // Window that shows the progress of a transfer and has its Cancel button.
 #pragma once
 
+#include "transfer/TransferProgress.h"
+
 #include <wx/frame.h>
 #include <wx/utils.h>
 
@@ -16,7 +18,7 @@ class wxStaticText;
 ///
 /// The transfer creates it on the heap and destroys it. The user can't destroy it: closing the window counts
 /// as Cancel.
-class ProgressFrame : public wxFrame {
+class ProgressFrame : public wxFrame, public TransferProgress {
 public:
     /// @param parent window to centre on, or null for the middle of the screen
     explicit ProgressFrame(wxWindow* parent, wxWindowID id = -1, const wxString& title = wxString(),
@@ -25,10 +27,10 @@ public:
     ~ProgressFrame() override;
 
     /// Shows a text above the gauges.
-    void SetStatus(const wxString& text);
+    void SetStatus(const wxString& text) override;
 
     /// Appends to the text shown.
-    void AppendStatus(const wxString& text);
+    void AppendStatus(const wxString& text) override;
 
     /// Gauge of the rows done, range 100 and value 10 until the transfer sets them. The frame owns it.
     wxGauge* MainGauge() const { return m_mainGauge; }
@@ -36,8 +38,11 @@ public:
     /// Gauge that moves while a transfer waits. The frame owns it.
     wxGauge* PulseGauge() const { return m_pulseGauge; }
 
-    /// True once the user has cancelled; the waits of a transfer check it.
-    bool Cancelled = false;
+    void SetRange(int rows) override;
+    int Range() const override;
+    void SetValue(int rows) override;
+    void Pulse() override;
+    wxWindow* Window() override { return this; }
 
 private:
     void CreateControls();

@@ -19,6 +19,11 @@ bool IsHexPairAt(std::wstring_view line, size_t at) {
     return IsHexDigit(line[at]) && IsHexDigit(line[at + 1]);
 }
 
+bool IsHexFrom(std::wstring_view line, size_t at) {
+    return std::all_of(line.begin() + static_cast<ptrdiff_t>(std::min(at, line.size())), line.end(),
+                       [](wchar_t c) { return IsHexDigit(c); });
+}
+
 } // namespace
 
 wxString HexField(int64_t value, size_t digits) {
@@ -41,7 +46,8 @@ bool HasGoodChecksum(const wxString& line) {
     if (line.length() < ChecksumDigits)
         return false;
     const size_t end = line.length() - ChecksumDigits;
-    return IsHexPairAt(line.ToStdWstring(), end) &&
+    // The sum passes over what isn't hexadecimal: noise within a record would add nothing.
+    return IsHexFrom(line.ToStdWstring(), CountPosition) &&
            static_cast<int>(HexNumberAt(line, end, ChecksumDigits)) == TRecordChecksum(line.Left(end));
 }
 
@@ -53,6 +59,6 @@ wxString HexToText(const wxString& line) {
     return text;
 }
 
-wxString MakeRadioStamp() {
-    return wxDateTime::Now().Format("%Y%m%d%H%M%S");
+wxString MakeRadioStamp(const wxDateTime& now) {
+    return now.Format("%Y%m%d%H%M%S");
 }

@@ -1,6 +1,7 @@
 // Framing of one line of the digital radios' protocol, independent of its content.
 #pragma once
 
+#include <wx/datetime.h>
 #include <wx/string.h>
 
 #include <cstdint>
@@ -25,4 +26,4 @@ bool HasGoodChecksum(const wxString& line);
 wxString HexToText(const wxString& line);
 
 /// Returns a new identity stamp: the local time as 14 decimal digits, "%Y%m%d%H%M%S".
-wxString MakeRadioStamp();
+wxString MakeRadioStamp(const wxDateTime& now = wxDateTime::Now());

@@ -53,6 +53,8 @@ struct TRecordDialogue {
     int rowsToSend = 0;            ///< for the gauge
     int rowsSent = 0;              ///< for the gauge
     bool lacksChecksum = false;    ///< TxLine is new and has no checksum yet
+    bool extraAnswers = false;     ///< the radio has sent an answer twice
+    int refusals = 0;              ///< lines that the radio refused, or whose answer was garbled
 
     /// Sets the line to be sent. Its checksum is added when it is sent.
     void Offer(const wxString& line) {

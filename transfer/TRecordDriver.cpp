@@ -1,15 +1,18 @@
 #include "transfer/TRecordDriver.h"
 
 #include "catalogue/PageModel.h"
-#include "transfer/ProgressFrame.h"
 #include "transfer/RadioIdentity.h"
+#include "transfer/TRecord.h"
 #include "transfer/TRecordDialogue.h"
+#include "transfer/TRecordMessages.h"
 #include "transfer/TransferLog.h"
+#include "transfer/TransferProgress.h"
 #include "transfer/TransferSession.h"
 #include "transfer/TransferWaits.h"
 
-#include <wx/gauge.h>
 #include <wx/grid.h>
+
+#include <utility>
 
 namespace {
 
@@ -47,8 +50,45 @@ void BeginShadowPass(TRecordDialogue& dialogue) {
     Delay(context, context.ShadowPause, true);
 }
 
+/// Listens for answers after the one that was taken for the last line's. There are some if the radio has sent
+/// an answer twice: since then every answer was taken for the next line's, and a refusal for that of another
+/// row. Sets context.Status if a row may be missing in the radio, or if the user cancels.
+void TakeLateAnswers(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    const int timeout =
+        context.Protocol == 2 ? TransferTimes::FastLateAnswerTimeout : TransferTimes::LateAnswerTimeout;
+    bool late = dialogue.extraAnswers;
+    while (true) {
+        const TransferStatus status = WaitForLine(context, timeout, '\r', true);
+        if (status == TransferCancelled)
+            context.Status = status;
+        if (status != TransferOk)
+            break;
+        TakeReceivedLine(context);
+        WriteTransferLog(context.LogFile, "<" + context.RxLine);
+        if (!context.RxLine.StartsWith("T") || context.RxLine == WithChecksum(WaitRecord))
+            continue;
+        late = true;
+        if (context.RxLine != WithChecksum(AckRecord))
+            ++dialogue.refusals;
+    }
+    if (!late || dialogue.refusals == 0)
+        return;
+    context.Status = TransferCommunicationError;
+    // Which rows the radio holds isn't known any more.
+    RadioStamp.clear();
+    HeldByRadio = {};
+}
+
 /// Ends a write. The page now shows what the radio holds, so the next write needs no purge.
-void CompleteWrite(TRecordContext& context) {
+void CompleteWrite(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    TakeLateAnswers(dialogue);
+    // Without a device the last lines can't have reached the radio, whatever was taken for their answers.
+    if (context.Status == TransferOk && context.Port->errorStatus())
+        context.Status = TransferTimeout;
+    if (context.Status != TransferOk)
+        return;
     context.Status = TransferComplete;
     if (!context.StampTold.empty())
         RadioStamp = HeldByRadio.stamp = context.StampTold;
@@ -64,7 +104,7 @@ void FinishRow(TRecordDialogue& dialogue) {
     if (dialogue.Needs(NeedsShadowPass))
         BeginShadowPass(dialogue);
     else
-        CompleteWrite(context);
+        CompleteWrite(dialogue);
 }
 
 /// Runs the states, then the rows or lines, until the transfer is over.
@@ -92,7 +132,7 @@ TransferStatus Converse(TRecordContext& context, wxGrid* grid, TransferMode mode
     TRecordDialogue dialogue{context, grid, mode, grid->GetNumberRows()};
     if (mode == WriteChannelsMode) {
         EvaluateRows(dialogue);
-        context.Progress->MainGauge()->SetRange(dialogue.rowsToSend);
+        context.Progress->SetRange(dialogue.rowsToSend);
         if (dialogue.rowsToSend == 0)
             return TransferNoDataSelected;
     }
@@ -106,7 +146,12 @@ TransferStatus Converse(TRecordContext& context, wxGrid* grid, TransferMode mode
 
 TransferStatus TRecordProtocol::TransferData(TRecordContext& context, wxGrid* grid, int mode,
                                              const wxString& portName, const wxString& title) {
-    TransferSession session(context, MeansFor(grid, portName, title));
+    return TransferWith(context, grid, mode, MeansFor(grid, portName, title));
+}
+
+TransferStatus TRecordProtocol::TransferWith(TRecordContext& context, wxGrid* grid, int mode,
+                                             TransferMeans means) {
+    TransferSession session(context, std::move(means));
     OpenTransferLog(context.LogFile, wxString());
     context.RxBuffer.clear();
     context.RxLine.clear();

@@ -6,6 +6,7 @@
 #include <wx/string.h>
 
 class wxGrid;
+struct TransferMeans;
 struct TRecordContext;
 
 // Each protocol has a namespace; see AnalogDriver.h for the reason.
@@ -18,6 +19,9 @@ namespace TRecordProtocol {
 /// @param mode a TransferMode
 TransferStatus TransferData(TRecordContext& context, wxGrid* grid, int mode, const wxString& portName,
                             const wxString& title);
+
+/// Same, with the port and the progress window of the caller, such as a test's.
+TransferStatus TransferWith(TRecordContext& context, wxGrid* grid, int mode, TransferMeans means);
 
 /// Runs the dialogue alone. The context must have an open Port and its Progress.
 ///

@@ -3,35 +3,57 @@
 #include "transfer/TRecord.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TRecordMessages.h"
+#include "transfer/TransferLine.h"
 #include "transfer/TransferLog.h"
 #include "transfer/TransferSession.h"
 #include "transfer/TransferWaits.h"
-#include "transfer/wxAsyncSerial.h"
 
 namespace {
 
 constexpr size_t ShortestRecord = 4; // letter, type and checksum
 constexpr size_t ChecksumLength = 2;
+/// A line is sent at most this often: a radio that always answers with something else would keep the transfer
+/// going for ever. Hellos are exempt, since each of them offers another protocol.
+constexpr int SendLimit = 16;
 
 void SendLine(TRecordContext& context, const wxString& line) {
     WriteTransferLog(context.LogFile, ">" + line);
     context.Port->write(line + "\r");
 }
 
+/// Drops lines that have arrived since the last answer of a write: they can't answer a line that wasn't sent
+/// yet. In a read they may hold data.
+void DropStaleAnswers(TRecordDialogue& dialogue) {
+    TRecordContext& context = dialogue.context;
+    if (dialogue.mode != WriteChannelsMode && dialogue.mode != WriteConfigMode)
+        return;
+    context.RxBuffer += context.Port->takeReceived();
+    if (!context.RxBuffer.empty())
+        WriteTransferLog(context.LogFile, "<" + context.RxBuffer);
+    if (context.RxBuffer.Contains("T2") && context.RxBuffer.Contains("\r"))
+        dialogue.extraAnswers = true;
+    if (context.RxBuffer.Contains(NakRecord))
+        ++dialogue.refusals;
+    context.RxBuffer.clear();
+}
+
 void SendOffer(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
+    DropStaleAnswers(dialogue);
     if (dialogue.lacksChecksum)
         context.TxLine = WithChecksum(context.TxLine);
     dialogue.lacksChecksum = false;
     SendLine(context, context.TxLine);
 }
 
-/// Has the radio repeat a garbled line: by a refusal in a read of channels, else by sending TxLine again.
+/// Has the radio repeat a garbled line: by a refusal if it is sending a list, else by sending TxLine again.
+/// To acknowledge a line of a list again would ask for the next one.
 void RefuseLine(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
+    ++dialogue.refusals;
     if (++context.RetryCount > 1)
         context.Status = TransferChecksumError;
-    if (dialogue.mode == ReadChannelsMode) {
+    if (dialogue.mode == ReadChannelsMode || context.TxLine.StartsWith(AckRecord)) {
         dialogue.Offer(NakRecord);
         context.Phase = SendNew;
     } else {
@@ -40,13 +62,19 @@ void RefuseLine(TRecordDialogue& dialogue) {
     context.RxLine.clear();
 }
 
+/// True for a record of a kind that exists. The checksum doesn't cover the kind.
+bool IsOfAKind(const wxString& line) {
+    return line.length() > 1 && wxString("0129").Contains(line.Mid(1, 1));
+}
+
 /// Removes the checksum of the received line. Clears a line that is no record or is garbled.
 void CheckLine(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     if (!context.RxLine.StartsWith("T")) {
         context.RxLine.clear();
         context.Phase = WaitOn;
-    } else if (context.RxLine.length() < ShortestRecord || !HasGoodChecksum(context.RxLine)) {
+    } else if (context.RxLine.length() < ShortestRecord || !HasGoodChecksum(context.RxLine) ||
+               (context.TxLine.StartsWith(AckRecord) && !IsOfAKind(context.RxLine))) {
         RefuseLine(dialogue);
     } else {
         context.RecordType = static_cast<uint32_t>(ReadDecimal(context.RxLine.Mid(1, 1)));
@@ -60,9 +88,15 @@ void ExchangeLine(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     context.Phase = SendNew;
     context.RetryCount = 0;
+    int sent = 0;
     do {
-        if (context.Phase == SendNew || context.Phase == SendAgain)
+        if (context.Phase == SendNew || context.Phase == SendAgain) {
+            if (++sent > SendLimit && context.Index != HelloState) {
+                context.Status = TransferCommunicationError;
+                return;
+            }
             SendOffer(dialogue);
+        }
         context.RxLine.clear();
         context.Status = WaitForLine(context, context.ReplyTimeout, '\r', true);
         if (context.Status != TransferOk)

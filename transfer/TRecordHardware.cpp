@@ -12,8 +12,8 @@
 
 namespace {
 
-wxString Now() {
-    return wxDateTime::Now().FormatISOCombined(' ');
+wxString DateOf(const TRecordContext& context) {
+    return context.Clock->Date().FormatISOCombined(' ');
 }
 
 /// The radio may send any text; it must not lead out of the folder.
@@ -36,7 +36,7 @@ void OpenHardwareFile(TRecordContext& context, const wxString& now) {
 
 void BeginHardware(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
-    const wxString now = Now();
+    const wxString now = DateOf(context);
     context.InfoLines.clear();
     context.InfoLines.Add("Date: " + now);
     if (!context.LogFile.IsOpened())
@@ -63,5 +63,5 @@ void EndHardware(TRecordDialogue& dialogue) {
 void BeginDebugLogWithoutHardware(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     if (context.LogFile.IsOpened() && !context.DebugLogFile.IsOpened())
-        OpenDebugLog(context, "UNKNOWN", Now());
+        OpenDebugLog(context, "UNKNOWN", DateOf(context));
 }

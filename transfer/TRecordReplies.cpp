@@ -3,18 +3,16 @@
 #include "catalogue/TextNumbers.h"
 #include "transfer/DebugLog.h"
 #include "transfer/HexText.h"
-#include "transfer/ProgressFrame.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecord.h"
 #include "transfer/TRecordCodec.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TRecordMessages.h"
+#include "transfer/TransferLine.h"
+#include "transfer/TransferProgress.h"
 #include "transfer/TransferSession.h"
 #include "transfer/TransferTimes.h"
 #include "transfer/TransferWaits.h"
-#include "transfer/wxAsyncSerial.h"
-
-#include <wx/gauge.h>
 
 namespace {
 
@@ -54,12 +52,14 @@ void TakeNak(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     if (context.Index == HelloState) {
         // Intentional: the number of protocols offered has no limit.
-        ++context.Protocol;
+        // The offer has one byte. After a garbled hello the right protocol comes round again.
+        context.Protocol = (context.Protocol + 1) & 0xFF;
         OfferHello(dialogue);
         context.Phase = SendNew;
         return;
     }
     context.Phase = SendAgain;
+    ++dialogue.refusals;
     if (++context.RetryCount < RefusalLimit)
         Delay(context, TransferTimes::RefusalPause, true);
     else
@@ -89,7 +89,7 @@ void TakeOpModes(TRecordDialogue& dialogue) {
 
 void TakeConfigCount(TRecordContext& context) {
     context.ConfigCount = HexNumberAt(context.RxLine, MessageTextAt, ByteLength);
-    context.Progress->MainGauge()->SetRange(static_cast<int>(context.ConfigCount));
+    context.Progress->SetRange(static_cast<int>(context.ConfigCount));
     context.ConfigLines.clear();
     context.Phase = LineDone;
 }
@@ -116,6 +116,16 @@ void TakeEnd(TRecordDialogue& dialogue) {
         context.Phase = LineDone;
         return;
     }
+    if (context.Index < 0) {
+        // Sent twice after the hardware information. The list that the user asked for hasn't begun.
+        context.Phase = WaitOn;
+        return;
+    }
+    if (context.RetryCount > 0) {
+        // The radio has gone on without repeating a garbled line: what it held is lost.
+        context.Status = TransferChecksumError;
+        return;
+    }
     context.Status = TransferComplete;
     if (dialogue.mode == ReadChannelsMode)
         KeepContentOfRead(dialogue);
@@ -125,17 +135,26 @@ void TakeEnd(TRecordDialogue& dialogue) {
 
 void TakeConfigRecord(TRecordContext& context) {
     context.Scratch = HexToText(context.RxLine);
-    if (IsGoodConfigText(context.Scratch))
+    // A record that is sent twice is one line. Lines differ, because each has its number.
+    const bool again = !context.ConfigLines.empty() && context.ConfigLines.Last() == context.Scratch;
+    if (!again && IsGoodConfigText(context.Scratch))
         context.ConfigLines.Add(context.Scratch);
     context.Phase = LineDone;
     const int number = ReadHex(context.Scratch.Mid(2, 2));
-    if (number >= 0 && number < context.Progress->MainGauge()->GetRange())
+    if (number >= 0 && number < context.Progress->Range())
         SetMainGauge(context, number + 1);
+}
+
+/// True for a memory record without its checksum. Records of text begin with T1 too, and one that comes late
+/// must not reach the page.
+bool IsMemoryRecord(const wxString& line) {
+    constexpr size_t length = 136;
+    return line.length() == length && line.StartsWith("T143");
 }
 
 void TakeMemoryRecord(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
-    if (decodeTrecord(context, dialogue.grid, context.RxLine) == 0) {
+    if (!IsMemoryRecord(context.RxLine) || decodeTrecord(context, dialogue.grid, context.RxLine) == 0) {
         dialogue.Offer(NakRecord);
         context.Phase = SendNew;
         return;
@@ -175,12 +194,21 @@ void TakeLineOfMode(TRecordDialogue& dialogue) {
         TakeData(dialogue);
 }
 
+/// True for an answer to an earlier query in place of the stamp, which a write must not go on without: it
+/// tells whether the radio's memories are known.
+bool ReplacesStamp(const TRecordDialogue& dialogue, const wxString& line) {
+    return dialogue.mode == WriteChannelsMode && dialogue.context.Index == StampState &&
+           (line == AckRecord || line.StartsWith(VersionReply) || line.StartsWith(OpModeReply));
+}
+
 } // namespace
 
 void TakeReply(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     const wxString& line = context.RxLine;
-    if (line == AckRecord) {
+    if (ReplacesStamp(dialogue, line)) {
+        context.Phase = WaitOn;
+    } else if (line == AckRecord) {
         TakeAck(dialogue);
     } else if (line == NakRecord) {
         TakeNak(dialogue);

@@ -1,7 +1,7 @@
 // Report of the result of a transfer with a digital radio.
-#include "transfer/ProgressFrame.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TransferLog.h"
+#include "transfer/TransferProgress.h"
 #include "transfer/TransferSession.h"
 #include "transfer/TransferWaits.h"
 

@@ -1,14 +1,13 @@
 // The line to send in each state of a transfer with a digital radio.
-#include "transfer/ProgressFrame.h"
 #include "transfer/RadioIdentity.h"
 #include "transfer/TRecord.h"
 #include "transfer/TRecordCodec.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/TRecordMessages.h"
 #include "transfer/TransferLog.h"
+#include "transfer/TransferProgress.h"
 #include "transfer/TransferSession.h"
 
-#include <wx/gauge.h>
 #include <wx/msgdlg.h>
 
 namespace {
@@ -29,7 +28,7 @@ bool UserAcceptsModes(const TRecordContext& context) {
     text += "\nThe radio will not transmit in disabled modes (affected memories become receive only).\n"
             "\nDo you wish to continue the transfer?";
     return wxMessageBox(text, "Radio Operating Modes", wxYES_NO | wxICON_WARNING | wxCENTRE,
-                        context.Progress) == wxYES;
+                        context.Progress->Window()) == wxYES;
 }
 
 bool UserAcceptsPurge(const TRecordDialogue& dialogue) {
@@ -38,7 +37,7 @@ bool UserAcceptsPurge(const TRecordDialogue& dialogue) {
                                    "All of them will be erased before the selected rows are sent!"
                                  : "This radio holds memories that this page doesn't.\n"
                                    "All of them will be erased before the selected rows are sent!";
-    wxMessageDialog question(dialogue.context.Progress, text, "Purge radio?", wxOK | wxCANCEL);
+    wxMessageDialog question(dialogue.context.Progress->Window(), text, "Purge radio?", wxOK | wxCANCEL);
     return question.ShowModal() == wxID_OK;
 }
 
@@ -57,7 +56,7 @@ TransferStatus ChooseVersionQuery(TRecordDialogue& dialogue) {
 void OfferStamp(TRecordDialogue& dialogue) {
     if (dialogue.mode == WriteChannelsMode)
         return dialogue.Offer(MSG_RID);
-    RadioStamp = MakeRadioStamp();
+    RadioStamp = MakeRadioStamp(dialogue.context.Clock->Date());
     HeldByRadio = {RadioStamp, {}, dialogue.mode == ReadChannelsMode};
     dialogue.Offer(MSG_SID + RadioStamp);
 }
@@ -70,7 +69,6 @@ bool PurgeIsRefused(TRecordDialogue& dialogue) {
 
 void OfferOpening(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
-    wxGauge* const gauge = context.Progress->MainGauge();
     switch (dialogue.mode) {
     case WriteChannelsMode:
         return dialogue.Offer(MSG_DNLD);
@@ -79,10 +77,10 @@ void OfferOpening(TRecordDialogue& dialogue) {
     case ReadConfigMode:
         return dialogue.Offer(MSG_UPLDSWCFG);
     case WriteConfigMode:
-        gauge->SetRange(static_cast<int>(context.ConfigLines.size()));
+        context.Progress->SetRange(static_cast<int>(context.ConfigLines.size()));
         return dialogue.Offer(ConfigWrite);
     default:
-        gauge->SetRange(DebugLogBlocks);
+        context.Progress->SetRange(DebugLogBlocks);
         if (context.Protocol != HardwareProtocol)
             BeginDebugLogWithoutHardware(dialogue);
         return dialogue.Offer(MSG_DBLOG);

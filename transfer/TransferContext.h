@@ -1,6 +1,7 @@
 // State of a transfer, shared by the drivers and their helpers.
 #pragma once
 
+#include "transfer/TransferClock.h"
 #include "transfer/TransferStatus.h"
 #include "transfer/TransferTimes.h"
 
@@ -12,8 +13,8 @@
 #include <cstdint>
 #include <set>
 
-class ProgressFrame;
-class wxAsyncSerial;
+class TransferLine;
+class TransferProgress;
 
 /// Values of TransferContext::Phase.
 enum ExchangePhase : uint32_t {
@@ -32,8 +33,9 @@ struct TransferContext {
     uint32_t ProductCode = 0;                ///< first digit of the information block
     uint32_t RowCapacity = 0;                ///< rows that the radio holds
     uint32_t ConfigCount = 0;                ///< configuration lines that the radio holds
-    wxAsyncSerial* Port = nullptr;           ///< owned by the TransferSession
-    ProgressFrame* Progress = nullptr;       ///< owned by the TransferSession
+    TransferLine* Port = nullptr;            ///< owned by the TransferSession
+    TransferProgress* Progress = nullptr;    ///< owned by the TransferSession
+    TransferClock* Clock = &SystemClock();   ///< must outlive the transfer
     wxDateTime WaitStart, WaitNow;           ///< start and current time of the last WaitForLine or Delay
     int64_t Elapsed = 0;                     ///< milliseconds of that wait so far
     int64_t LastPulse = 0;                   ///< Elapsed when the pulse gauge last moved

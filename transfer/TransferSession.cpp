@@ -1,10 +1,11 @@
 #include "transfer/TransferSession.h"
 
+#include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
 #include "transfer/TransferTimes.h"
+#include "transfer/wxAsyncSerial.h"
 
-#include <wx/gauge.h>
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
 
@@ -18,8 +19,8 @@ constexpr unsigned OpeningSpeed = 9600;
 std::unique_ptr<ProgressFrame> MakeProgressFrame(wxGrid* grid, const wxString& title) {
     auto progress = std::make_unique<ProgressFrame>(grid->GetGridWindow(), -1, title, wxDefaultPosition,
                                                     wxSize(200, 150), wxCAPTION | wxRESIZE_BORDER);
-    progress->MainGauge()->SetRange(grid->GetNumberRows());
-    progress->MainGauge()->SetValue(0);
+    progress->SetRange(grid->GetNumberRows());
+    progress->SetValue(0);
     progress->Show();
     return progress;
 }
@@ -49,7 +50,6 @@ TransferSession::~TransferSession() {
     m_means.port->close();
     m_means.port.reset();
     m_context.Port = nullptr;
-    m_means.progress->Hide();
     // Destroyed at once, not at the program's next idle time: it disables the other windows while it lives.
     m_means.progress.reset();
     m_context.Progress = nullptr;
@@ -60,7 +60,7 @@ void TransferSession::Run(const std::function<TransferStatus()>& exchange) {
 }
 
 void ShowError(TransferContext& context, const wxString& text) {
-    wxMessageBox(text, "Error", wxOK | wxICON_ERROR, context.Progress);
+    wxMessageBox(text, "Error", wxOK | wxICON_ERROR, context.Progress->Window());
 }
 
 void ShowStatus(TransferContext& context) {
@@ -69,9 +69,8 @@ void ShowStatus(TransferContext& context) {
 }
 
 void SetMainGauge(TransferContext& context, int value) {
-    wxGauge* const gauge = context.Progress->MainGauge();
-    if (value >= 0 && value <= gauge->GetRange())
-        gauge->SetValue(value);
+    if (value >= 0 && value <= context.Progress->Range())
+        context.Progress->SetValue(value);
 }
 
 void TakeReceivedLine(TransferContext& context) {

@@ -1,9 +1,9 @@
 // Port, progress window and message boxes of one transfer, with any radio.
 #pragma once
 
-#include "transfer/ProgressFrame.h"
+#include "transfer/TransferLine.h"
+#include "transfer/TransferProgress.h"
 #include "transfer/TransferStatus.h"
-#include "transfer/wxAsyncSerial.h"
 
 #include <wx/string.h>
 
@@ -13,10 +13,10 @@
 class wxGrid;
 struct TransferContext;
 
-/// Progress window and port of a transfer. Callers may supply their own.
+/// Progress window and port of a transfer. Tests supply their own.
 struct TransferMeans {
-    std::unique_ptr<ProgressFrame> progress; ///< disables all other windows as long as it lives
-    std::unique_ptr<wxAsyncSerial> port;
+    std::unique_ptr<TransferProgress> progress; ///< a window disables all others as long as it lives
+    std::unique_ptr<TransferLine> port;
 };
 
 /// Shows the progress window of a page's grid, its gauge at 0 of the number of rows, and opens the port at

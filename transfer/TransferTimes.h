@@ -39,5 +39,9 @@ inline constexpr int RefusalPause = 500;
 inline constexpr int SpeedPause = 50;
 /// Pause between the primaries and the shadows of a write.
 inline constexpr int ShadowPause = 500;
+/// How long a write listens for answers after that to its last line: the time of a record and its answer, and
+/// some more. At 9600 and at 115200 baud.
+inline constexpr int LateAnswerTimeout = 300;
+inline constexpr int FastLateAnswerTimeout = 60;
 
 } // namespace TransferTimes

@@ -1,54 +1,49 @@
 // Waits of the transfer drivers.
 #include "transfer/TransferWaits.h"
 
-#include "transfer/ProgressFrame.h"
+#include "transfer/TransferClock.h"
 #include "transfer/TransferContext.h"
+#include "transfer/TransferLine.h"
+#include "transfer/TransferProgress.h"
 #include "transfer/wxAsyncSerial.h"
 
-#include <wx/evtloop.h>
-#include <wx/gauge.h>
-
+#include <algorithm>
 #include <chrono>
 
 namespace {
 
+using std::chrono::milliseconds;
+
 constexpr int64_t PulseInterval = 50; // milliseconds
 
-void StartClock(TransferContext& context) {
-    context.WaitStart = wxDateTime::UNow();
+TransferClock::Moment StartTimer(TransferContext& context) {
+    context.WaitStart = context.Clock->Date();
+    return context.Clock->Now();
 }
 
-void ReadClock(TransferContext& context) {
-    context.WaitNow = wxDateTime::UNow();
-    context.Elapsed = (context.WaitNow - context.WaitStart).GetMilliseconds().GetValue();
-}
-
-// Handles only painting and user input, nothing that could start another transfer.
-void PumpUserEvents() {
-    if (auto* loop = wxEventLoopBase::GetActive())
-        loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
+void ReadTimer(TransferContext& context, TransferClock::Moment start) {
+    context.Elapsed = std::chrono::duration_cast<milliseconds>(context.Clock->Now() - start).count();
+    context.WaitNow = context.Clock->Date();
 }
 
 void TakeArrived(TransferContext& context) {
-    const wxString text = wxAsyncSerial::GetData();
+    const wxString text = context.Port ? context.Port->takeReceived() : wxAsyncSerial::GetData();
     context.RxBuffer += context.Arriving ? context.Arriving(text) : text;
 }
 
 } // namespace
 
 TransferStatus WaitForLine(TransferContext& context, int timeoutMs, wxChar terminator, bool /*pulse*/) {
-    auto* gauge = context.Progress->PulseGauge();
-    gauge->Pulse();
+    context.Progress->Pulse();
     context.LastPulse = 0;
-    StartClock(context);
-    // Intentional: no sleep in this loop. The time from a radio's answer to the next line stays short.
+    const TransferClock::Moment start = StartTimer(context);
     while (true) {
-        PumpUserEvents();
+        context.Clock->HandleEvents();
         TakeArrived(context);
         context.FoundAt = context.RxBuffer.Find(terminator);
-        ReadClock(context);
+        ReadTimer(context, start);
         if (context.Elapsed >= context.LastPulse + PulseInterval) {
-            gauge->Pulse();
+            context.Progress->Pulse();
             context.LastPulse = context.Elapsed;
         }
         // Intentional: a line that arrives in the pass in which the time runs out counts as a time-out.
@@ -58,16 +53,17 @@ TransferStatus WaitForLine(TransferContext& context, int timeoutMs, wxChar termi
             return TransferTimeout;
         if (context.FoundAt != wxNOT_FOUND)
             return TransferOk;
+        context.Clock->WaitForText(
+            start + milliseconds(std::min<int64_t>(timeoutMs, context.LastPulse + PulseInterval)));
     }
 }
 
 void Delay(TransferContext& context, int ms, bool cancelTest) {
     if (ms == 0)
         return;
-    StartClock(context);
-    // The toolkit's clock counts whole milliseconds: it could shorten a pause of 2 ms by up to 1 ms.
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
-    while (std::chrono::steady_clock::now() < end && !(cancelTest && context.Progress->Cancelled)) {
-    }
-    ReadClock(context);
+    const TransferClock::Moment start = StartTimer(context);
+    // No events are handled here, so the user can't cancel during the delay.
+    if (!cancelTest || !context.Progress->Cancelled)
+        context.Clock->SleepUntil(start + milliseconds(ms));
+    ReadTimer(context, start);
 }

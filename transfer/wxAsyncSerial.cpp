@@ -6,6 +6,8 @@
 #include <boost/system/system_error.hpp>
 #include <wx/strconv.h>
 
+#include <condition_variable>
+#include <mutex>
 #include <string>
 
 wxString SerialRxBuffer;
@@ -17,6 +19,15 @@ struct wxAsyncSerialImpl {
 };
 
 namespace {
+
+// Both for WaitForData. The mutex may be held while SerialRxMutex is taken, never the other way round.
+std::mutex arrivalMutex;
+std::condition_variable arrival;
+
+bool HasData() {
+    const wxMutexLocker lock(SerialRxMutex);
+    return !SerialRxBuffer.empty();
+}
 
 std::string LibcBytes(const wxString& text) {
     const wxCharBuffer bytes = text.mb_str(wxConvLibc);
@@ -93,7 +104,17 @@ wxString wxAsyncSerial::GetData() {
     return data;
 }
 
+void wxAsyncSerial::WaitForData(std::chrono::steady_clock::time_point end) {
+    std::unique_lock lock(arrivalMutex);
+    arrival.wait_until(lock, end, HasData);
+}
+
 void wxAsyncSerial::readCallback(const char* data, size_t length) {
-    const wxMutexLocker lock(SerialRxMutex);
-    SerialRxBuffer.append(wxString(data, wxConvISO8859_1, length));
+    {
+        const wxMutexLocker lock(SerialRxMutex);
+        SerialRxBuffer.append(wxString(data, wxConvISO8859_1, length));
+    }
+    // The lock keeps the notification from falling between a waiting thread's look and its sleep.
+    const std::lock_guard lock(arrivalMutex);
+    arrival.notify_all();
 }

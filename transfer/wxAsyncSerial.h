@@ -1,10 +1,13 @@
 // Serial port for the transfer code: text output, and text input by polling.
 #pragma once
 
+#include "transfer/TransferLine.h"
+
 #include <wx/object.h>
 #include <wx/string.h>
 #include <wx/thread.h>
 
+#include <chrono>
 #include <cstddef>
 #include <memory>
 
@@ -21,7 +24,7 @@ extern wxMutex SerialRxMutex;
 /// exceptions: a failed port simply delivers no more text.
 ///
 /// Used from the main thread only; text that arrives meanwhile is collected in SerialRxBuffer.
-class wxAsyncSerial : public wxObject {
+class wxAsyncSerial : public wxObject, public TransferLine {
 public:
     /// Leaves the port closed. `parent` may be null.
     explicit wxAsyncSerial(wxWindow* parent);
@@ -37,31 +40,38 @@ public:
 
     /// Opens the device for exclusive use, closing an open one first, and empties SerialRxBuffer. isOpen()
     /// reports success: a missing or busy device leaves the port closed.
-    void open(const wxString& deviceName, unsigned int baudRate);
+    void open(const wxString& deviceName, unsigned int baudRate) override;
 
     /// Changes the speed of the open port at once. Does nothing if the port is closed or has failed, or if
     /// the device doesn't support the speed.
-    void setBaudRate(unsigned int baudRate);
+    void setBaudRate(unsigned int baudRate) override;
 
     /// True from a successful open() until close(), even if the device has failed or disappeared meanwhile.
-    bool isOpen() const;
+    bool isOpen() const override;
 
     /// True if the last open() failed, or the device has failed since.
-    bool errorStatus() const;
+    bool errorStatus() const override;
 
     /// Queues a text for sending, in the C library's encoding, and returns at once. Sends nothing of a text
     /// that the encoding can't express. A closed port drops the text.
-    void write(const wxString& text);
+    void write(const wxString& text) override;
 
     /// Waits up to limitMs milliseconds until all written text has been handed to the device. Doesn't wait on
     /// a port that is closed or has failed. Returns true if nothing is left to send.
-    bool waitUntilWritten(int limitMs);
+    bool waitUntilWritten(int limitMs) override;
 
     /// Closes the port; does nothing on a closed one. No text arrives afterwards.
-    void close();
+    void close() override;
+
+    /// Same as GetData.
+    wxString takeReceived() override { return GetData(); }
 
     /// Returns the text received since the last call, empty if there is none. Never waits for data.
     static wxString GetData();
+
+    /// Waits until there is text to take, or until `end`. The port's thread ends the wait as soon as it has
+    /// delivered text.
+    static void WaitForData(std::chrono::steady_clock::time_point end);
 
 private:
     void readCallback(const char* data, size_t length);

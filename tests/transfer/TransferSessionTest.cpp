@@ -2,7 +2,9 @@
 #include "transfer/TransferSession.h"
 
 #include "tests/support/PseudoTerminal.h"
+#include "transfer/ProgressFrame.h"
 #include "transfer/TRecordDialogue.h"
+#include "transfer/wxAsyncSerial.h"
 
 #include <gtest/gtest.h>
 #include <wx/memconf.h>

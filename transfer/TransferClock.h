@@ -1,0 +1,32 @@
+// Time of a transfer.
+#pragma once
+
+#include <wx/datetime.h>
+
+#include <chrono>
+
+/// Clock and waits of a transfer: the system's, or one that a test turns.
+class TransferClock {
+public:
+    using Moment = std::chrono::steady_clock::time_point;
+
+    virtual ~TransferClock() = default;
+
+    virtual Moment Now() const = 0;
+
+    /// Date and time of day of Now().
+    virtual wxDateTime Date() const = 0;
+
+    /// Handles painting and user input, nothing that could start another transfer.
+    virtual void HandleEvents() = 0;
+
+    /// Waits until text has arrived or until `end`. May return early, so that the caller can handle events.
+    virtual void WaitForText(Moment end) = 0;
+
+    /// Waits until `end` without handling events.
+    virtual void SleepUntil(Moment end) = 0;
+};
+
+/// The system's clock. Its waits leave the processor to others; WaitForText returns at least every 5 ms, and
+/// at once when the port's thread delivers text.
+TransferClock& SystemClock();

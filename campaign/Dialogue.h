@@ -1,0 +1,51 @@
+// One transfer in virtual time.
+#pragma once
+
+#include "campaign/Scenario.h"
+#include "transfer/TransferStatus.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace Campaign {
+
+/// Both sides of a transfer.
+struct World {
+    ProgramState program;
+    RadioState radio;
+};
+
+/// What a transfer did.
+struct Outcome {
+    World world;
+    TransferStatus status = TransferOk;
+    int index = 0;                        ///< TransferContext::Index at its end
+    std::vector<std::string> boxes;       ///< texts of the message boxes, in their order
+    std::vector<std::string> configLines; ///< that were read
+    std::string lastStatus;               ///< the last text of the progress window
+    std::vector<bool> happened;           ///< by fault
+    bool spoiltToRadio = false, spoiltToProgram = false;
+    bool forgedToRadio = false;   ///< a changed line looked right to the radio
+    bool forgedToProgram = false; ///< a changed line looked right to the program
+    int violations = 0;
+    std::string complaints;
+    int64_t milliseconds = 0; ///< virtual, for the whole transfer
+    int64_t silence = 0;      ///< milliseconds from the last byte to the end
+    int answers = 0, bytesToRadio = 0, bytesToProgram = 0;
+    bool portIsOpen = false, isWritten = true, logIsOpen = false, contextIsClean = true;
+    std::vector<std::string> sent;   ///< lines that the program wrote
+    std::vector<std::string> states; ///< of the driver when a fault happened, by fault
+};
+
+/// Called with lines of the dialogue for a reader; empty for none.
+using Narrator = std::function<void(int64_t milliseconds, const std::string& line)>;
+
+/// Runs a transfer from this world. `sheet` must be of the scenario's target; it is loaded from the world.
+Outcome RunJob(const Scenario& scenario, const Job& job, const World& world, Sheet& sheet,
+               const Narrator& narrator = {});
+
+/// The world before the first job: the page's rows are on the sheet, and the radio holds its memories.
+World FirstWorld(const Scenario& scenario, Sheet& sheet);
+
+} // namespace Campaign

@@ -1,0 +1,99 @@
+// zelk-campaign: transfers in virtual time with faults from seeds.
+#include "campaign/Run.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace Campaign;
+
+constexpr int ExitBroken = 1;
+constexpr int ExitUsage = 2;
+
+int Usage() {
+    std::fputs("zelk-campaign run FIRST COUNT      runs COUNT seeds from FIRST on\n"
+               "zelk-campaign replay SEED [...]    runs one seed and prints its dialogue;\n"
+               "                                   --jobs N, --rows N and --faults LIST as a failing run\n"
+               "                                   printed them leave out the rest\n",
+               stderr);
+    return ExitUsage;
+}
+
+void PrintBroken(Runner& runner, uint64_t seed, const Verdict& verdict) {
+    std::printf("BROKEN seed %llu, transfer %d:\n", static_cast<unsigned long long>(seed), verdict.job + 1);
+    for (const std::string& sentence : verdict.broken)
+        std::printf("  %s\n", sentence.c_str());
+    std::printf("  zelk-campaign replay %llu %s\n", static_cast<unsigned long long>(seed),
+                ArgumentsOf(runner.Shrink(seed)).c_str());
+    std::fflush(stdout);
+}
+
+int Run(uint64_t first, uint64_t count) {
+    Runner runner;
+    long dialogues = 0, broken = 0;
+    const auto start = std::chrono::steady_clock::now();
+    for (uint64_t seed = first; seed < first + count; ++seed) {
+        const Verdict verdict = runner.Run(seed);
+        dialogues += verdict.dialogues;
+        if (verdict.broken.empty())
+            continue;
+        ++broken;
+        PrintBroken(runner, seed, verdict);
+    }
+    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    for (const auto& [key, number] : runner.Covered()) {
+        const auto& [digital, state, kind] = key;
+        std::printf("covered %s|%s|%s %ld\n", digital ? "digital" : "analog", state.c_str(), NameOf(kind),
+                    number);
+    }
+    std::printf("%ld dialogues, %ld seeds broken, %.0f dialogues a second\n", dialogues, broken,
+                static_cast<double>(dialogues) / seconds);
+    return broken ? ExitBroken : 0;
+}
+
+int Replay(uint64_t seed, const std::vector<std::string>& arguments) {
+    const Reduction reduction = ReadReduction(arguments);
+    Scenario scenario = MakeScenario(seed);
+    Reduce(scenario, reduction);
+    std::fputs(Describe(scenario).c_str(), stdout);
+    Runner runner;
+    const Verdict verdict = runner.Run(seed, reduction, [](int64_t milliseconds, const std::string& line) {
+        std::string shown;
+        for (const char character : line)
+            if (character >= ' ' && character <= '~') {
+                shown += character;
+            } else {
+                char escaped[8];
+                std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned char>(character));
+                shown += escaped;
+            }
+        std::printf("%8lld %s\n", static_cast<long long>(milliseconds), shown.c_str());
+    });
+    for (const std::string& sentence : verdict.broken)
+        std::printf("BROKEN %s\n", sentence.c_str());
+    return verdict.broken.empty() ? 0 : ExitBroken;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    try {
+        if (arguments.size() < 2)
+            return Usage();
+        StartWithoutDisplay();
+        if (arguments[0] == "run" && arguments.size() == 3)
+            return Run(std::stoull(arguments[1]), std::stoull(arguments[2]));
+        if (arguments[0] == "replay")
+            return Replay(std::stoull(arguments[1]), {arguments.begin() + 2, arguments.end()});
+        return Usage();
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "zelk-campaign: %s\n", failure.what());
+        return ExitUsage;
+    }
+}

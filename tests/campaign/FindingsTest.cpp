@@ -1,0 +1,112 @@
+// Dialogues that campaigns have found to lose memories.
+#include "tests/campaign/CampaignTools.h"
+
+namespace {
+
+using namespace Campaign;
+
+class Finding : public WithoutDisplay {};
+
+/// The number of the message with which the radio says that it has erased its memories.
+int PurgeAnswer(const Scenario& scenario) {
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    int messages = 0, purge = -1;
+    bool asked = false;
+    RunJob(scenario, scenario.jobs[0], FirstWorld(scenario, sheet), sheet,
+           [&](int64_t, const std::string& line) {
+               asked = asked || line.starts_with("< T204000011");
+               if (!line.starts_with("> "))
+                   return;
+               if (asked && purge < 0)
+                   purge = messages;
+               ++messages;
+           });
+    return purge;
+}
+
+/// The byte to the radio with which the record of a memory begins, counted from the first record.
+int RecordByte(const Scenario& scenario, int record) {
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    const Outcome clean = RunJob(scenario, scenario.jobs[0], FirstWorld(scenario, sheet), sheet);
+    int byte = 0;
+    for (const std::string& line : clean.sent) {
+        if (line.starts_with("T143") && record-- == 0)
+            return byte;
+        byte += static_cast<int>(line.size()) + 1;
+    }
+    return -1;
+}
+
+TEST_F(Finding, RefusalOfTheLastRowAfterADoubledAnswerIsNoCompleteWrite) {
+    for (const int protocol : {0, 2}) {
+        const Scenario scenario = WriteToUnknownRadio(protocol);
+        const int answer = PurgeAnswer(scenario), byte = RecordByte(scenario, 2);
+        ASSERT_GT(answer, 0);
+        ASSERT_GT(byte, 0);
+        const auto [clean, faulty] =
+            CleanAndFaulty(scenario, {{FaultKind::Twice, Side::ToProgram, answer},
+                                      {FaultKind::Changed, Side::ToRadio, byte + 20, 0x40}});
+        EXPECT_EQ(clean.status, TransferComplete);
+        EXPECT_EQ(faulty.happened, (std::vector{true, true}));
+        EXPECT_LT(faulty.world.radio.digital.memories.size(), clean.world.radio.digital.memories.size());
+        EXPECT_EQ(faulty.status, TransferCommunicationError) << "protocol " << protocol;
+        EXPECT_EQ(faulty.world.program.stamp, "") << "the content of the radio isn't known any more";
+    }
+}
+
+TEST_F(Finding, RefusalOfAMiddleRowAfterADoubledAnswerIsNoCompleteWrite) {
+    const Scenario scenario = WriteToUnknownRadio(2);
+    const auto [clean, faulty] =
+        CleanAndFaulty(scenario, {{FaultKind::Twice, Side::ToProgram, PurgeAnswer(scenario)},
+                                  {FaultKind::Changed, Side::ToRadio, RecordByte(scenario, 1) + 20, 0x40}});
+    EXPECT_EQ(faulty.happened, (std::vector{true, true}));
+    if (faulty.status == TransferComplete)
+        EXPECT_TRUE(faulty.world.radio.HoldsTheSame(clean.world.radio));
+    else
+        EXPECT_EQ(faulty.status, TransferCommunicationError);
+}
+
+TEST_F(Finding, DoubledAnswerAloneStillCompletesTheWrite) {
+    for (const int protocol : {0, 2}) {
+        const Scenario scenario = WriteToUnknownRadio(protocol);
+        const auto [clean, faulty] =
+            CleanAndFaulty(scenario, {{FaultKind::Twice, Side::ToProgram, PurgeAnswer(scenario)}});
+        EXPECT_EQ(faulty.happened, std::vector{true});
+        EXPECT_EQ(faulty.status, TransferComplete);
+        EXPECT_TRUE(faulty.world.radio.HoldsTheSame(clean.world.radio));
+    }
+}
+
+/// A read of channels from a radio that sends hardware information first.
+Scenario ReadWithHardware() {
+    Scenario scenario = FirstScenario([](const Scenario& each) {
+        return each.radio.IsDigital() && each.target->protocol == 2 && each.target->firmware[1] == '2' &&
+               each.jobs[0].mode == ReadChannelsMode && each.radio.digital.hardware.size() == 1 &&
+               !each.knowsRadio;
+    });
+    scenario.jobs.resize(1);
+    scenario.jobs[0].faults.clear();
+    return scenario;
+}
+
+TEST_F(Finding, DoubledEndOfTheHardwareInformationDoesNotEndTheRead) {
+    // Messages: two refused hellos, hello, speed, modes, serial number, one text, end.
+    const auto [clean, faulty] = CleanAndFaulty(ReadWithHardware(), {{FaultKind::Twice, Side::ToProgram, 7}});
+    EXPECT_EQ(clean.status, TransferComplete);
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_EQ(faulty.world.program.rows, clean.world.program.rows);
+}
+
+TEST_F(Finding, HardwareTextThatComesLateIsNotTakenForAMemory) {
+    const auto [clean, faulty] = CleanAndFaulty(
+        ReadWithHardware(), {{FaultKind::Twice, Side::ToProgram, 2}, {FaultKind::Twice, Side::ToProgram, 3}});
+    EXPECT_EQ(faulty.happened, (std::vector{true, true}));
+    for (const auto& [row, texts] : faulty.world.program.rows) {
+        const auto found = clean.world.program.rows.find(row);
+        ASSERT_TRUE(found != clean.world.program.rows.end()) << row;
+        EXPECT_EQ(found->second, texts) << row;
+    }
+}
+
+} // namespace

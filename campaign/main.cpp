@@ -1,10 +1,11 @@
 // zelk-campaign: transfers in virtual time with faults from seeds.
-#include "campaign/Run.h"
+#include "campaign/CoverageReport.h"
 
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <iostream>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,8 @@ constexpr int ExitUsage = 2;
 
 int Usage() {
     std::fputs("zelk-campaign run FIRST COUNT      runs COUNT seeds from FIRST on\n"
+               "zelk-campaign report SECONDS       adds up what runs have printed, from standard input;\n"
+               "                                   SECONDS is how long they took together\n"
                "zelk-campaign replay SEED [...]    runs one seed and prints its dialogue;\n"
                "                                   --jobs N, --rows N and --faults LIST as a failing run\n"
                "                                   printed them leave out the rest\n",
@@ -33,27 +36,39 @@ void PrintBroken(Runner& runner, uint64_t seed, const Verdict& verdict) {
     std::fflush(stdout);
 }
 
+double SecondsSince(std::chrono::steady_clock::time_point start) {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
 int Run(uint64_t first, uint64_t count) {
     Runner runner;
-    long dialogues = 0, broken = 0;
+    Totals totals;
     const auto start = std::chrono::steady_clock::now();
     for (uint64_t seed = first; seed < first + count; ++seed) {
         const Verdict verdict = runner.Run(seed);
-        dialogues += verdict.dialogues;
+        totals.dialogues += verdict.dialogues;
         if (verdict.broken.empty())
             continue;
-        ++broken;
+        ++totals.broken;
         PrintBroken(runner, seed, verdict);
     }
-    const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    for (const auto& [key, number] : runner.Covered()) {
-        const auto& [digital, state, kind] = key;
-        std::printf("covered %s|%s|%s %ld\n", digital ? "digital" : "analog", state.c_str(), NameOf(kind),
-                    number);
-    }
-    std::printf("%ld dialogues, %ld seeds broken, %.0f dialogues a second\n", dialogues, broken,
-                static_cast<double>(dialogues) / seconds);
-    return broken ? ExitBroken : 0;
+    AddCoverage(totals, runner.Covered());
+    std::fputs(CoverageLines(totals).c_str(), stdout);
+    std::fputs(TotalLine(totals, SecondsSince(start)).c_str(), stdout);
+    return totals.broken ? ExitBroken : 0;
+}
+
+int Report(double seconds) {
+    Totals totals;
+    for (std::string line; std::getline(std::cin, line);)
+        AddLine(totals, line);
+    std::fputs(CoverageTables(totals).c_str(), stdout);
+    for (const std::string& pair : ReachedTogether(totals))
+        std::printf("by several faults together: %s\n", pair.c_str());
+    for (const std::string& pair : NeverReached(totals))
+        std::printf("never reached: %s\n", pair.c_str());
+    std::fputs(TotalLine(totals, seconds).c_str(), stdout);
+    return totals.broken ? ExitBroken : 0;
 }
 
 int Replay(uint64_t seed, const std::vector<std::string>& arguments) {
@@ -86,6 +101,8 @@ int main(int argc, char** argv) {
     try {
         if (arguments.size() < 2)
             return Usage();
+        if (arguments[0] == "report" && arguments.size() == 2)
+            return Report(std::stod(arguments[1]));
         StartWithoutDisplay();
         if (arguments[0] == "run" && arguments.size() == 3)
             return Run(std::stoull(arguments[1]), std::stoull(arguments[2]));

@@ -108,6 +108,7 @@ std::vector<int> AnyMemories(Random& random, const Scenario& scenario) {
                : random.Chance(60) ? random.Between(1, last - 2)
                                    : random.Between(last - 1, last)] = true;
     std::vector<int> numbers;
+    numbers.reserve(chosen.size());
     for (const auto& [number, used] : chosen)
         numbers.push_back(number);
     return numbers;

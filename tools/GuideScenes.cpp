@@ -73,7 +73,7 @@ fs::path FileWithMistakes(const Places& places) {
     Replace(text, "<RF>151.1375</RF>", "<RF>251.1375</RF>");
     Replace(text, "<RT>156.7</RT>", "<RT>156.8</RT>");
     Replace(text, "<MD>N</MD>\n    <RF>154.4525", "<MD>X</MD>\n    <RF>154.4525");
-    const fs::path file = places.scratch / "mistakes.zelk";
+    fs::path file = places.scratch / "mistakes.zelk";
     WriteFile(file, text);
     return file;
 }
@@ -85,7 +85,7 @@ fs::path FirstMemories(const Places& places, const std::string& example, int las
     if (text.find(next) == std::string::npos)
         throw std::runtime_error("the example has no row after " + std::to_string(lastRow));
     text = text.substr(0, text.find(next)) + "</ZelkMem>\n";
-    const fs::path file = places.scratch / example;
+    fs::path file = places.scratch / example;
     WriteFile(file, text);
     return file;
 }

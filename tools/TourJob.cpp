@@ -95,7 +95,7 @@ void TourJob::PickPort() {
 /// Returns the simulated radio's entry in the port dialog. Waits for that dialog to be open.
 std::string TourJob::PortText() {
     m_hand.Need(m_robot.WaitForDialog("<-- Select Serial Port -->") != nullptr, "no port dialog");
-    const std::string text = m_robot.Ask([this] {
+    std::string text = m_robot.Ask([this] {
         for (const wxString& entry : PortChoice->GetStrings())
             if (entry.EndsWith(wxString("/") + m_job.model))
                 return entry.utf8_string();

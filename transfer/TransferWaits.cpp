@@ -23,7 +23,7 @@ TransferClock::Moment StartTimer(TransferContext& context) {
 
 void ReadTimer(TransferContext& context, TransferClock::Moment start) {
     context.Elapsed = std::chrono::duration_cast<milliseconds>(context.Clock->Now() - start).count();
-    context.WaitNow = context.Clock->Date();
+    context.WaitNow = context.WaitStart + wxTimeSpan::Milliseconds(context.Elapsed);
 }
 
 void TakeArrived(TransferContext& context) {

@@ -261,7 +261,8 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         // A radio that refuses a row and says that it took it can't be found out.
         const bool lied =
             judge.Happened({FaultKind::LineBefore}) &&
-            (faulty.spoiltToRadio || judge.Happened({FaultKind::Refusal, FaultKind::RefusalAlways}));
+            (faulty.spoiltToRadio ||
+             judge.Happened({FaultKind::Refusal, FaultKind::RefusalAlways, FaultKind::EndRecord}));
         // An answer that is sent twice stands in for that of a later row, which may be lost: no count can
         // tell.
         const bool replaced = judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) &&

@@ -25,7 +25,8 @@ void SendLine(TRecordContext& context, const wxString& line) {
 /// yet. In a read they may hold data.
 void DropStaleAnswers(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
-    if (dialogue.mode != WriteChannelsMode && dialogue.mode != WriteConfigMode)
+    const bool writes = dialogue.mode == WriteChannelsMode || dialogue.mode == WriteConfigMode;
+    if (!writes && context.Index != HelloState)
         return;
     context.RxBuffer += context.Port->takeReceived();
     if (!context.RxBuffer.empty())

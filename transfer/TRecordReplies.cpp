@@ -56,6 +56,7 @@ void TakeNak(TRecordDialogue& dialogue) {
         context.Protocol = (context.Protocol + 1) & 0xFF;
         OfferHello(dialogue);
         context.Phase = SendNew;
+        Delay(context, TransferTimes::HelloPause, true);
         return;
     }
     context.Phase = SendAgain;

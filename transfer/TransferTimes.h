@@ -33,6 +33,8 @@ inline constexpr int ConfigAnswerTimeout = 500;
 
 /// Any answer, counted from the line that asks for it or from the radio's last line.
 inline constexpr int ReplyTimeout = 30000;
+/// Pause before another protocol is offered. A refusal that is sent twice is over by then.
+inline constexpr int HelloPause = 20;
 /// Pause between a refusal and the repetition.
 inline constexpr int RefusalPause = 500;
 /// Pause between the radio's agreement to a speed and the change to it.

@@ -109,4 +109,24 @@ TEST_F(Finding, HardwareTextThatComesLateIsNotTakenForAMemory) {
     }
 }
 
+TEST_F(Finding, DoubledRefusalOfAHelloDoesNotShiftTheProtocol) {
+    // Message 1 refuses protocol 1. Noise in the next hello has it refused as well.
+    const auto [clean, faulty] =
+        CleanAndFaulty(ReadWithHardware(), {{FaultKind::Twice, Side::ToProgram, 1},
+                                            {FaultKind::NoiseAfter, Side::ToRadio, 57, 7}});
+    EXPECT_TRUE(faulty.happened[0]);
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_EQ(faulty.world.program.rows, clean.world.program.rows)
+        << "records of the new layout were read in the old one";
+}
+
+TEST_F(Finding, WriteWhosePortIsGoneIsNotComplete) {
+    const Scenario scenario = WriteToUnknownRadio(2);
+    const auto [clean, faulty] =
+        CleanAndFaulty(scenario, {{FaultKind::Twice, Side::ToProgram, PurgeAnswer(scenario)},
+                                  {FaultKind::Unplugged, Side::ToRadio, RecordByte(scenario, 2) + 20}});
+    EXPECT_EQ(faulty.happened, (std::vector{true, true}));
+    EXPECT_EQ(faulty.status, TransferTimeout);
+}
+
 } // namespace

@@ -32,7 +32,7 @@ class SystemClockWait : public ::testing::Test {
 protected:
     void SetUp() override { wxAsyncSerial::GetData(); }
 
-    testbench::PseudoTerminal m_device;
+    PseudoTerminal m_device;
     wxAsyncSerial m_port{nullptr, m_device.SlaveName(), 9600};
 };
 

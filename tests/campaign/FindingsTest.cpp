@@ -129,4 +129,54 @@ TEST_F(Finding, WriteWhosePortIsGoneIsNotComplete) {
     EXPECT_EQ(faulty.status, TransferTimeout);
 }
 
+/// The byte to the program with which the first line of the radio begins that starts with `start`.
+int FirstByteOf(const Scenario& scenario, const std::string& start) {
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    int byte = 0, found = -1;
+    RunJob(scenario, scenario.jobs[0], FirstWorld(scenario, sheet), sheet,
+           [&](int64_t, const std::string& line) {
+               if (!line.starts_with("> "))
+                   return;
+               if (found < 0 && line.starts_with("> " + start))
+                   found = byte;
+               byte += static_cast<int>(line.size()) - 1; // without "> ", with the carriage return
+           });
+    return found;
+}
+
+TEST_F(Finding, WriteDoesNotGoOnWithoutTheStamp) {
+    const Scenario scenario = WriteToUnknownRadio(0);
+    // Messages: hello, version, and the version again in place of the stamp.
+    const auto [clean, faulty] = CleanAndFaulty(scenario, {{FaultKind::LineBefore, Side::ToProgram, 2}});
+    EXPECT_EQ(clean.status, TransferComplete);
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferTimeout);
+    EXPECT_EQ(faulty.world.radio.digital.memories, scenario.radio.digital.memories);
+}
+
+TEST_F(Finding, GarbledLineOfAConfigurationIsAskedForAgain) {
+    Scenario scenario = ReadWithHardware();
+    scenario.jobs[0].mode = ReadConfigMode;
+    const auto [clean, same] = CleanAndFaulty(scenario, {});
+    EXPECT_FALSE(clean.configLines.empty());
+    // The last bytes are those of the last line's checksum, its end, and the end record.
+    constexpr int endRecord = 11;
+    const auto [again, faulty] = CleanAndFaulty(
+        scenario, {{FaultKind::Changed, Side::ToProgram, clean.bytesToProgram - endRecord - 8, 0x01}});
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_EQ(faulty.configLines, clean.configLines);
+}
+
+TEST_F(Finding, MemoryWhoseKindIsGarbledIsAskedForAgain) {
+    const Scenario scenario = ReadWithHardware();
+    const int byte = FirstByteOf(scenario, "T143");
+    ASSERT_GT(byte, 0);
+    const auto [clean, faulty] =
+        CleanAndFaulty(scenario, {{FaultKind::Changed, Side::ToProgram, byte + 1, 0x20}});
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_EQ(faulty.world.program.rows, clean.world.program.rows);
+}
+
 } // namespace

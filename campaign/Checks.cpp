@@ -290,6 +290,12 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
                      "a read has changed memories of the radio: " + Shown(Differences(radio, before.radio)));
     }
 
+    // A radio may repeat a garbled line of a list only once, and one that has answered once too often is a
+    // line ahead.
+    const bool garbledTwice =
+        judge.Count({FaultKind::Lost, FaultKind::Doubled, FaultKind::Changed, FaultKind::NoiseBefore,
+                     FaultKind::NoiseAfter, FaultKind::CutLine, FaultKind::WrongChecksum,
+                     FaultKind::WrongChecksumAlways, FaultKind::Twice, FaultKind::Noise}) > 1;
     // What the page holds after a read.
     if (job.mode == ReadChannelsMode) {
         const bool believable =
@@ -299,12 +305,6 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
                       !judge.Happened({FaultKind::CutLine, FaultKind::Noise, FaultKind::LineBefore});
         const auto& rows = faulty.world.program.rows;
         const auto& all = clean.world.program.rows;
-        // A radio may repeat a garbled memory only once, and one that has answered once too often is a memory
-        // ahead.
-        const bool garbledTwice =
-            judge.Count({FaultKind::Lost, FaultKind::Doubled, FaultKind::Changed, FaultKind::NoiseBefore,
-                         FaultKind::NoiseAfter, FaultKind::CutLine, FaultKind::WrongChecksum,
-                         FaultKind::WrongChecksumAlways, FaultKind::Twice, FaultKind::Noise}) > 1;
         // An analog radio that falls silent near its last row counts as complete.
         const bool endedBySilence = !judge.Digital() && faulty.silence >= AnalogSilence;
         if (believable) {
@@ -324,7 +324,8 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         }
     }
     if (job.mode == ReadConfigMode && status == TransferComplete && clean.status == TransferComplete &&
-        !faulty.forgedToProgram && !judge.Happened({FaultKind::LineBefore, FaultKind::EndRecord}))
+        !faulty.forgedToProgram && !judge.Happened({FaultKind::LineBefore, FaultKind::EndRecord}) &&
+        !garbledTwice)
         judge.Expect(faulty.configLines == clean.configLines, "a complete read of another configuration");
 
     // Breaches of the protocol, as the radio counts them.

@@ -4,10 +4,11 @@
 #include "catalogue/ZoneSlots.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <initializer_list>
-#include <set>
+#include <utility>
 
 using namespace RadioCatalogue;
 
@@ -216,6 +217,50 @@ std::map<int, bool> Strangers(const List& now, const List& before, const List& a
     return numbers;
 }
 
+/// Numbers of the memories that a write sends, in their order. A shadow comes after all primaries.
+std::vector<int> OrderOf(const Outcome& clean) {
+    std::vector<int> order;
+    const bool digital = clean.world.radio.IsDigital();
+    for (const std::string& line : clean.sent) {
+        if (!digital && line.size() > 70 && std::isdigit(static_cast<unsigned char>(line[0])))
+            order.push_back(std::atoi(line.substr(0, 3).c_str()));
+        if (digital && line.starts_with("T143")) {
+            int number = static_cast<int>(std::strtol(line.substr(4, 4).c_str(), nullptr, 16));
+            // The old layout has the guards of the longer list at 231 and 232.
+            const auto& memories = clean.world.radio.digital.memories;
+            if (!memories.contains(number) && memories.contains(number + 270))
+                number += 270;
+            order.push_back(number);
+        }
+    }
+    return order;
+}
+
+/// A memory that has arrived although one that is sent before it is missing, and the missing one; 0 for none.
+std::pair<int, int> FirstGap(const World& before, const Outcome& clean, const Outcome& faulty) {
+    const auto gap = [&](const auto& was, const auto& all, const auto& now) {
+        const auto has = [](const auto& list, int number, const auto& memory) {
+            const auto found = list.find(number);
+            return found != list.end() && found->second == memory;
+        };
+        int missing = 0;
+        for (const int number : OrderOf(clean)) {
+            const auto sent = all.find(number);
+            if (sent == all.end())
+                continue;
+            if (!has(now, number, sent->second))
+                missing = missing ? missing : number;
+            else if (missing && !has(was, number, sent->second))
+                return std::pair(number, missing);
+        }
+        return std::pair(0, 0);
+    };
+    return clean.world.radio.IsDigital()
+               ? gap(before.radio.digital.memories, clean.world.radio.digital.memories,
+                     faulty.world.radio.digital.memories)
+               : gap(before.radio.analog, clean.world.radio.analog, faulty.world.radio.analog);
+}
+
 } // namespace
 
 std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& job, const World& before,
@@ -245,6 +290,18 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         judge.Happened({FaultKind::WrongChecksum, FaultKind::WrongChecksumAlways, FaultKind::Restart,
                         FaultKind::CutLine, FaultKind::Noise, FaultKind::Torn, FaultKind::Delayed});
     allowed(TransferChecksumError, garbled);
+    allowed(TransferCommunicationError,
+            garbled || judge.Happened({FaultKind::Refusal, FaultKind::RefusalAlways, FaultKind::EndRecord,
+                                       FaultKind::Twice, FaultKind::LineBefore}));
+    // A radio that answers late, or only once more, still answers.
+    const std::initializer_list<FaultKind> answers = {
+        FaultKind::Wait,    FaultKind::Joined,        FaultKind::LineFeed, FaultKind::BusyErasing,
+        FaultKind::Refusal, FaultKind::WrongChecksum, FaultKind::Torn,     FaultKind::LateAck};
+    const int happened = static_cast<int>(std::count(faulty.happened.begin(), faulty.happened.end(), true));
+    allowed(TransferTimeout, judge.Count(answers) < happened);
+    if (happened == 1 && judge.Count(answers) == 1)
+        judge.Expect(status == clean.status,
+                     "the transfer didn't survive one small fault: status " + std::to_string(status));
     allowed(TransferInvalidTransmitData, faulty.forgedToProgram);
     if (!judge.AnyHappened())
         judge.Expect(status == clean.status, "nothing happened, but the status is " + std::to_string(status) +
@@ -267,7 +324,8 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         // tell.
         const bool replaced = judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) &&
                               (faulty.spoiltToRadio || judge.Happened({FaultKind::Delayed}));
-        const bool silent = judge.Happened({FaultKind::Twice}) && judge.Happened({FaultKind::Silence});
+        const bool silent =
+            judge.Digital() && judge.Happened({FaultKind::Twice}) && judge.Happened({FaultKind::Silence});
         if (status == TransferComplete && clean.status == TransferComplete && believable && !lied &&
             !asksMore && !replaced && !silent)
             judge.Expect(radio.HoldsTheSame(clean.world.radio),
@@ -284,6 +342,14 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
                          "an unfinished write, but these memories of the radio are neither "
                          "as before nor as sent: " +
                              Shown(strangers));
+        }
+        // A purge whose wait message is garbled is sent again, and answered twice.
+        const bool busyTwice = faulty.spoiltToProgram && judge.Happened({FaultKind::BusyErasing});
+        if (status != TransferComplete && believable && !lied && !replaced && !busyTwice &&
+            !judge.Happened({FaultKind::Twice})) {
+            const auto [later, missing] = FirstGap(before, clean, faulty);
+            judge.Expect(later == 0, "memory " + std::to_string(later) + " has reached the radio, but " +
+                                         std::to_string(missing) + ", which was sent before it, hasn't");
         }
     } else if (!faulty.forgedToRadio) {
         judge.Expect(Differences(radio, before.radio).empty(),

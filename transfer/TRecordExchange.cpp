@@ -21,8 +21,8 @@ void SendLine(TRecordContext& context, const wxString& line) {
     context.Port->write(line + "\r");
 }
 
-/// Drops lines that have arrived since the last answer of a write: they can't answer a line that wasn't sent
-/// yet. In a read they may hold data.
+/// Drops lines that have arrived since the last answer of a write, or of a hello: they can't answer a line
+/// that wasn't sent yet. In a read they may hold data.
 void DropStaleAnswers(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     const bool writes = dialogue.mode == WriteChannelsMode || dialogue.mode == WriteConfigMode;
@@ -31,10 +31,13 @@ void DropStaleAnswers(TRecordDialogue& dialogue) {
     context.RxBuffer += context.Port->takeReceived();
     if (!context.RxBuffer.empty())
         WriteTransferLog(context.LogFile, "<" + context.RxBuffer);
-    if (context.RxBuffer.Contains("T2") && context.RxBuffer.Contains("\r"))
-        dialogue.extraAnswers = true;
-    if (context.RxBuffer.Contains(NakRecord))
-        ++dialogue.refusals;
+    // What a hello leaves behind says nothing about the rows.
+    if (context.Index != HelloState) {
+        if (context.RxBuffer.Contains("T2") && context.RxBuffer.Contains("\r"))
+            dialogue.extraAnswers = true;
+        if (context.RxBuffer.Contains(NakRecord))
+            ++dialogue.refusals;
+    }
     context.RxBuffer.clear();
 }
 

@@ -7,6 +7,7 @@
 #include "transfer/TRecord.h"
 #include "transfer/TRecordCodec.h"
 #include "transfer/TRecordDialogue.h"
+#include "transfer/TRecordFields.h"
 #include "transfer/TRecordMessages.h"
 #include "transfer/TransferLine.h"
 #include "transfer/TransferProgress.h"
@@ -149,8 +150,8 @@ void TakeConfigRecord(TRecordContext& context) {
 /// True for a memory record without its checksum. Records of text begin with T1 too, and one that comes late
 /// must not reach the page.
 bool IsMemoryRecord(const wxString& line) {
-    constexpr size_t length = 136;
-    return line.length() == length && line.StartsWith("T143");
+    constexpr const TRecordField& last = std::end(TRecordV1)[-1]; // both layouts have the same length
+    return line.length() == last.position + last.width && line.StartsWith(TRecordV1[0].literal);
 }
 
 void TakeMemoryRecord(TRecordDialogue& dialogue) {

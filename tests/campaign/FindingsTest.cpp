@@ -179,4 +179,37 @@ TEST_F(Finding, MemoryWhoseKindIsGarbledIsAskedForAgain) {
     EXPECT_EQ(faulty.world.program.rows, clean.world.program.rows);
 }
 
+TEST_F(Finding, DoubledRefusalOfAHelloDoesNotFailAWrite) {
+    const auto [clean, faulty] =
+        CleanAndFaulty(WriteToUnknownRadio(2), {{FaultKind::Twice, Side::ToProgram, 1}});
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_TRUE(faulty.world.radio.HoldsTheSame(clean.world.radio));
+}
+
+TEST_F(Finding, LineOfAConfigurationThatComesTwiceIsTakenOnce) {
+    Scenario scenario = ReadWithHardware();
+    scenario.jobs[0].mode = ReadConfigMode;
+    // Messages: two refused hellos, hello, speed, modes, version, stamp, count, first line.
+    const auto [clean, faulty] = CleanAndFaulty(scenario, {{FaultKind::Twice, Side::ToProgram, 8}});
+    EXPECT_GT(clean.configLines.size(), 1U);
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_EQ(faulty.configLines, clean.configLines);
+}
+
+TEST_F(Finding, AnalogAcknowledgementThatIsSentTwiceDoesNotCountForTheNextLine) {
+    Scenario scenario = FirstScenario([](const Scenario& each) {
+        return !each.radio.IsDigital() && each.rows.size() >= 3 && each.rows.rbegin()->first <= 200 &&
+               each.jobs[0].mode == WriteChannelsMode && each.jobs[0].selected.size() == each.rows.size();
+    });
+    scenario.jobs.resize(1);
+    const int last = static_cast<int>(scenario.rows.size());
+    const auto [clean, faulty] = CleanAndFaulty(
+        scenario, {{FaultKind::Twice, Side::ToProgram, 0}, {FaultKind::NoAck, Side::ToProgram, last}});
+    EXPECT_EQ(clean.status, TransferComplete);
+    EXPECT_EQ(faulty.happened, (std::vector{true, true}));
+    EXPECT_EQ(faulty.status, TransferTimeout);
+}
+
 } // namespace

@@ -173,6 +173,21 @@ TEST_F(TRecordDriver, HostileDataRecordsDoNotStopARead) {
     EXPECT_EQ(PageText(), before);
 }
 
+TEST_F(TRecordDriver, RadioThatAlwaysAnswersWithSomethingElseEndsTheWrite) {
+    FillP25Row(1);
+    Select({1});
+    std::string talk = Hello(0) + Ack;
+    for (int sent = 0; sent < 16; ++sent)
+        talk += Sends("T204000022") + Says("T204000077");
+    EXPECT_EQ(Converse(Transcript(talk), WriteChannelsMode), TransferCommunicationError);
+}
+
+TEST_F(TRecordDriver, EndInPlaceOfAGarbledMemoryIsNoCompleteRead) {
+    const std::string talk = Opening("T204000024") + Sends("T204000000") + "<T14300010000FF\n" +
+                             Sends("T204000001") + Says("T9030000");
+    EXPECT_EQ(Converse(Transcript(talk), ReadChannelsMode), TransferChecksumError);
+}
+
 TEST_F(TRecordDriver, BytesOfAllKindsAreNoise) {
     FillP25Row(1);
     Select({1});

@@ -140,6 +140,14 @@ TEST(TRecord, ChecksumOfALineIsLookedAt) {
         EXPECT_EQ(HasGoodChecksum(c.line), c.good) << c.line;
 }
 
+TEST(TRecord, ChecksumIsWrongWithNoiseThatAddsNothing) {
+    wxString line = WithChecksum("T20B00002120240131235959");
+    ASSERT_TRUE(HasGoodChecksum(line));
+    line.insert(10, "{z");
+    EXPECT_EQ(TRecordChecksum(line.Left(line.length() - 2)), TRecordChecksum("T20B00002120240131235959"));
+    EXPECT_FALSE(HasGoodChecksum(line));
+}
+
 TEST(TRecord, AckIsKnownByItsWholeTextOnceTheChecksumIsGone) {
     wxString line = "T204000000FB";
     ASSERT_TRUE(HasGoodChecksum(line));

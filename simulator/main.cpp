@@ -2,6 +2,7 @@
 #include "simulator/Options.h"
 #include "simulator/Player.h"
 #include "simulator/PortLink.h"
+#include "simulator/RadioMaker.h"
 
 #include <sys/signalfd.h>
 #include <unistd.h>
@@ -39,24 +40,6 @@ std::string RadioName(const Options& options) {
         return std::string(model.name) + " " + std::string(model.band);
     };
     return options.model ? Name(*options.model) : Name(*options.digitalModel);
-}
-
-/// Makes the radio with the contents of its files.
-Failure MakeRadio(const Options& options, RadioLink& link, std::unique_ptr<Radio>& radio) {
-    if (options.digitalModel) {
-        DigitalContents contents;
-        if (const Failure failure = LoadContents(*options.digitalModel, options.digital, contents))
-            return failure;
-        radio = std::make_unique<DigitalRadio>(*options.digitalModel, options.digital.habits,
-                                               std::move(contents), link);
-        return {};
-    }
-    MemoryList memories;
-    if (!options.memoryFile.empty())
-        if (const Failure failure = LoadMemories(options.memoryFile, *options.model, memories))
-            return failure;
-    radio = std::make_unique<AnalogRadio>(*options.model, options.habits, std::move(memories), link);
-    return {};
 }
 
 int Play(const Options& options) {

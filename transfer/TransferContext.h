@@ -1,8 +1,8 @@
 // State of a transfer, shared by the drivers and their helpers.
 #pragma once
 
-#include "transfer/TransferClock.h"
 #include "transfer/TransferStatus.h"
+#include "transfer/TransferSystem.h"
 #include "transfer/TransferTimes.h"
 
 #include <wx/arrstr.h>
@@ -13,7 +13,6 @@
 #include <cstdint>
 #include <set>
 
-class TransferLine;
 class TransferProgress;
 
 /// Values of TransferContext::Phase.
@@ -27,15 +26,15 @@ enum ExchangePhase : uint32_t {
 
 /// State of one transfer. The handler of the command makes a new one for each transfer; the driver fills it.
 struct TransferContext {
-    wxString InfoField4, InfoField5;         ///< fields of the radio's information block
-    wxArrayString InfoLines;                 ///< fields of the information block, or hardware text lines
-    wxArrayString ConfigLines;               ///< configuration lines read or to be written
-    uint32_t ProductCode = 0;                ///< first digit of the information block
-    uint32_t RowCapacity = 0;                ///< rows that the radio holds
-    uint32_t ConfigCount = 0;                ///< configuration lines that the radio holds
-    TransferLine* Port = nullptr;            ///< owned by the TransferSession
-    TransferProgress* Progress = nullptr;    ///< owned by the TransferSession
-    TransferClock* Clock = &SystemClock();   ///< must outlive the transfer
+    wxString InfoField4, InfoField5;      ///< fields of the radio's information block
+    wxArrayString InfoLines;              ///< fields of the information block, or hardware text lines
+    wxArrayString ConfigLines;            ///< configuration lines read or to be written
+    uint32_t ProductCode = 0;             ///< first digit of the information block
+    uint32_t RowCapacity = 0;             ///< rows that the radio holds
+    uint32_t ConfigCount = 0;             ///< configuration lines that the radio holds
+    TransferLine* Port = nullptr;         ///< owned by the TransferSession
+    TransferProgress* Progress = nullptr; ///< owned by the TransferSession
+    TransferClock* Clock = &CurrentTransferSystem().Clock(); ///< must outlive the transfer
     wxDateTime WaitStart, WaitNow;           ///< start and current time of the last WaitForLine or Delay
     int64_t Elapsed = 0;                     ///< milliseconds of that wait so far
     int64_t LastPulse = 0;                   ///< Elapsed when the pulse gauge last moved

@@ -3,8 +3,8 @@
 #include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferLog.h"
+#include "transfer/TransferSystem.h"
 #include "transfer/TransferTimes.h"
-#include "transfer/wxAsyncSerial.h"
 
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
@@ -31,7 +31,7 @@ TransferMeans MeansFor(wxGrid* grid, const wxString& portName, const wxString& t
     // The window comes first: opening a port can take a while.
     auto progress = MakeProgressFrame(grid, title);
     return {std::move(progress),
-            std::make_unique<wxAsyncSerial>(wxGetTopLevelParent(grid), portName, OpeningSpeed)};
+            CurrentTransferSystem().Open(wxGetTopLevelParent(grid), portName, OpeningSpeed)};
 }
 
 TransferSession::TransferSession(TransferContext& context, TransferMeans means)

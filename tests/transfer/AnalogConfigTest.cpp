@@ -114,9 +114,9 @@ TEST_F(AnalogConfig, OfARadioThatFallsSilentTimesOut) {
 }
 
 TEST_F(AnalogConfig, CancelledInReadingEndsAtOnce) {
-    RadioPeer peer([this](RadioPeer& radio) {
+    RadioPeer peer([](RadioPeer& radio) {
         AnswerOpening(radio);
-        Cancel();
+        PressCancel();
     });
     const DialogScript noBox;
     EXPECT_EQ(Transfer(ReadConfigMode, peer), TransferCancelled);
@@ -184,10 +184,10 @@ TEST_F(AnalogConfig, ThatIsNotAnsweredCountsAsRefused) {
 }
 
 TEST_F(AnalogConfig, CancelledInWritingSendsNothingFurther) {
-    RadioPeer peer([this](RadioPeer& radio) {
+    RadioPeer peer([](RadioPeer& radio) {
         AnswerOpening(radio);
         radio.HearLine();
-        Cancel();
+        PressCancel();
     });
     const DialogScript noBox;
     EXPECT_EQ(Transfer(WriteConfigMode, peer), TransferCancelled);
@@ -237,9 +237,9 @@ TEST_F(AnalogConfig, InformationOfARadioThatIsNotAskedIsUnknown) {
 }
 
 TEST_F(AnalogConfig, InformationCancelledSendsNothingFurther) {
-    RadioPeer peer([this](RadioPeer& radio) {
+    RadioPeer peer([](RadioPeer& radio) {
         radio.Hear(2);
-        Cancel();
+        PressCancel();
         radio.HearLine();
     });
     const DialogScript noBox;

@@ -1,13 +1,14 @@
 // Analog driver tests in which the test plays the radio.
 #pragma once
 
-#include "tests/transfer/ProgressWatch.h"
 #include "tests/transfer/RadioPeer.h"
 #include "tests/transfer/TransferTest.h"
 #include "transfer/AnalogDriver.h"
 #include "transfer/TransferContext.h"
 #include "transfer/TransferMode.h"
 #include "transfer/TransferStatus.h"
+
+#include <wx/gauge.h>
 
 #include <chrono>
 
@@ -17,10 +18,10 @@ class AnalogDriverTest : public TransferTest {
 protected:
     /// Runs one transfer and checks what every transfer must leave.
     int Transfer(int mode, const std::string& port) {
-        const auto start = std::chrono::steady_clock::now();
+        m_context.Clock = &CurrentTransferSystem().Clock();
+        const auto start = Now();
         const int status = AnalogProtocol::TransferData(m_context, CurrentGrid(), mode, port, "Test");
-        m_took =
-            std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+        m_took = std::chrono::duration_cast<std::chrono::milliseconds>(Now() - start);
         EXPECT_EQ(m_context.Port, nullptr);
         EXPECT_EQ(m_context.Progress, nullptr);
         ExpectOver();
@@ -49,12 +50,21 @@ protected:
         TransferTest::TearDown();
     }
 
-    // Called from the peer's thread, possibly after the end of the transfer.
-    void Cancel() { m_watch.Cancel(); }
-    int GaugeValue(int atLeast) { return m_watch.GaugeValue(atLeast); }
-    int GaugeRange() { return m_watch.GaugeRange(); }
+    // Of the main gauge; -1 if no transfer runs.
+    static int GaugeRange() { return OfGauge(&wxGauge::GetRange); }
+    static int GaugeValue() { return OfGauge(&wxGauge::GetValue); }
+    static int OfGauge(int (wxGauge::*property)() const) {
+        ProgressFrame* progress = OpenProgress();
+        return progress ? (progress->MainGauge()->*property)() : -1;
+    }
 
-    ProgressWatch m_watch;
+    /// The main gauge's value, once it is at least that or after three seconds.
+    static int GaugeValue(RadioPeer& radio, int atLeast) {
+        for (int tries = 0; tries < 300 && GaugeValue() >= 0 && GaugeValue() < atLeast; ++tries)
+            radio.Pause(10);
+        return GaugeValue();
+    }
+
     TransferContext m_context;
     std::chrono::milliseconds m_took{0};
 };

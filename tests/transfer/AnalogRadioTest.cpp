@@ -1,11 +1,9 @@
 // Complete transfers between the window and simulated analog radios.
-#include "tests/transfer/ProgressWatch.h"
 #include "tests/transfer/RadioUnderTest.h"
 #include "tests/transfer/TransferTest.h"
 
 #include <functional>
 #include <optional>
-#include <thread>
 
 using namespace testbench;
 using namespace transfertest;
@@ -91,6 +89,7 @@ TEST_F(AnalogRadio, WithoutOpeningNumberGetsAndGivesItsChannels) {
 }
 
 TEST_F(AnalogRadio, OfOpeningNumberOneGetsAndGivesItsChannels) {
+    UseRealTime();
     Retarget(Krv214B, 0);
     SendAndReadBack("KRV-214B", {1, 120, 121, 122}, "150.0000");
 }
@@ -352,14 +351,9 @@ TEST_F(AnalogRadioFault, CancelInAWriteLeavesTheRadioWithTheRowsBefore) {
         FillRow(row, "138.0000");
     Select({1, 2, 3});
     RadioUnderTest radio("KDRV-4xxx:FM 138-174", {"--fault", "no-ack@2"});
-    ProgressWatch progress;
-    std::thread user([&] {
-        // The radio has stored the second row, and the program waits for the acknowledgement.
-        radio.AwaitInLog("! no-ack@2");
-        progress.Cancel();
-    });
+    // The radio has stored the second row, and the program waits for the acknowledgement.
+    radio.WhenLogged("! no-ack@2", PressCancel);
     Send(radio, {"Cancelled by User"});
-    user.join();
     EXPECT_TRUE(PortIsFree(radio.PortName()));
     const auto memories = radio.Memories();
     EXPECT_EQ(memories.count("001"), 1u);

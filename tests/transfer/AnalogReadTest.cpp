@@ -69,7 +69,7 @@ TEST_F(AnalogRead, TakesLineFeedsAndLinesInPieces) {
         const std::string lines = "\n" + RadioLine("001") + "\n" + RadioLine("002") + "\nEND\r\n";
         for (size_t at = 0; at < lines.size(); at += 13) {
             radio.Say(lines.substr(at, 13));
-            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            radio.Pause(20);
         }
     });
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete);
@@ -187,7 +187,7 @@ TEST_F(AnalogRead, MovesTheMainGaugeToTheRow) {
     RadioPeer peer([&](RadioPeer& radio) {
         radio.HearLine();
         radio.Say(RadioLine("001") + RadioLine("120"));
-        value = GaugeValue(120);
+        value = GaugeValue(radio, 120);
         radio.Say("300\r");
     });
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferComplete);
@@ -196,10 +196,10 @@ TEST_F(AnalogRead, MovesTheMainGaugeToTheRow) {
 
 TEST_F(AnalogRead, CancelledBeforeTheFirstChannelReadsAndSendsNothingFurther) {
     AskForLog();
-    RadioPeer peer([this](RadioPeer& radio) {
+    RadioPeer peer([](RadioPeer& radio) {
         radio.HearLine();
         radio.Say("HEADING\r");
-        Cancel();
+        PressCancel();
     });
     const DialogScript noBox;
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferCancelled);
@@ -209,11 +209,11 @@ TEST_F(AnalogRead, CancelledBeforeTheFirstChannelReadsAndSendsNothingFurther) {
 }
 
 TEST_F(AnalogRead, CancelledAmongTheChannelsKeepsThoseThatCame) {
-    RadioPeer peer([this](RadioPeer& radio) {
+    RadioPeer peer([](RadioPeer& radio) {
         radio.HearLine();
         radio.Say(RadioLine("001") + RadioLine("002"));
-        GaugeValue(2);
-        Cancel();
+        GaugeValue(radio, 2);
+        PressCancel();
     });
     const DialogScript noBox;
     EXPECT_EQ(Transfer(ReadChannelsMode, peer), TransferCancelled);
@@ -222,9 +222,9 @@ TEST_F(AnalogRead, CancelledAmongTheChannelsKeepsThoseThatCame) {
 }
 
 TEST_F(AnalogRead, CancelledThroughTheCommandTellsSoInTheStatusBox) {
-    RadioPeer peer([this](RadioPeer& radio) {
+    RadioPeer peer([](RadioPeer& radio) {
         radio.HearLine();
-        Cancel();
+        PressCancel();
     });
     PortName = peer.PortName();
     DialogScript script;
@@ -236,10 +236,10 @@ TEST_F(AnalogRead, CancelledThroughTheCommandTellsSoInTheStatusBox) {
 }
 
 TEST_F(AnalogRead, OverAPortThatVanishesTimesOutAndKeepsWhatCame) {
-    RadioPeer peer([this](RadioPeer& radio) {
+    RadioPeer peer([](RadioPeer& radio) {
         radio.HearLine();
         radio.Say(RadioLine("001") + RadioLine("002").substr(0, 30));
-        GaugeValue(1);
+        GaugeValue(radio, 1);
         radio.Vanish();
     });
     DialogScript script;

@@ -175,9 +175,9 @@ TEST_F(AnalogWrite, CancelledDuringTheOpeningSendsNothingFurther) {
     AskForLog();
     FillRow(1, "138.0000");
     Select({1});
-    RadioPeer peer([this](RadioPeer& radio) {
+    RadioPeer peer([](RadioPeer& radio) {
         radio.Hear(1);
-        Cancel();
+        PressCancel();
         radio.HearLine();
     });
     const DialogScript noBox;
@@ -191,10 +191,10 @@ TEST_F(AnalogWrite, CancelledWhileItWaitsForAnAcknowledgementSendsNothingFurther
     FillRow(1, "138.0000");
     FillRow(2, "138.0000");
     Select({1, 2});
-    RadioPeer peer([this](RadioPeer& radio) {
+    RadioPeer peer([](RadioPeer& radio) {
         radio.HearLine();
         radio.HearLine();
-        Cancel();
+        PressCancel();
     });
     const DialogScript noBox;
     EXPECT_EQ(Transfer(WriteChannelsMode, peer), TransferCancelled);
@@ -206,11 +206,12 @@ TEST_F(AnalogWrite, CancelledWhileItWaitsForAnAcknowledgementSendsNothingFurther
 TEST_F(AnalogWrite, CancelledByThisBenchAfterItsEndIsAsItWas) {
     RadioPeer peer(TakeChannels);
     EXPECT_EQ(Transfer(WriteChannelsMode, peer), TransferComplete);
-    Cancel();
-    EXPECT_EQ(GaugeValue(0), -1);
+    PressCancel();
+    EXPECT_EQ(GaugeValue(), -1);
 }
 
 TEST_F(AnalogWrite, EndsWithAClickOnItsCancelButton) {
+    UseRealTime();
     FillRow(1, "138.0000");
     Select({1});
     CancelSpot cancel;
@@ -231,7 +232,7 @@ TEST_F(AnalogWrite, MovesTheMainGaugeToTheRow) {
     RadioPeer peer([&](RadioPeer& radio) {
         radio.HearLine();
         radio.HearLine();
-        value = GaugeValue(150);
+        value = GaugeValue(radio, 150);
         range = GaugeRange();
         radio.Say("\x05");
         radio.HearLine();
@@ -284,31 +285,25 @@ TEST_F(AnalogOpening, CountHasThreeCharacters) {
 
 namespace {
 
-/// Shortest time of several attempts in milliseconds, which excludes the delays of a busy machine.
-double BestPace(TransferContext& context, const wxString& text, bool slow, int attempts) {
+/// Time that SendPaced takes, in milliseconds, without that of the line.
+int64_t Pace(TransferContext& context, const wxString& text, bool slow) {
     PseudoTerminal device;
     wxAsyncSerial port(nullptr, device.SlaveName(), 9600);
     context.Port = &port;
-    double best = 1e9;
+    const TransferClock::Moment start = context.Clock->Now();
+    SendPaced(context, text, slow);
+    const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(context.Clock->Now() - start);
     const std::string expected = Text(text) + (slow ? "" : "\r");
-    for (int k = 0; k < attempts; ++k) {
-        const auto start = std::chrono::steady_clock::now();
-        SendPaced(context, text, slow);
-        const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
-        best = std::min(best, took.count());
-        EXPECT_EQ(device.Read(expected.size()), expected);
-    }
+    EXPECT_EQ(device.Read(expected.size()), expected);
     EXPECT_EQ(device.Read(1, std::chrono::milliseconds(50)), "");
     context.Port = nullptr;
-    return best;
+    return took.count();
 }
 
 } // namespace
 
 TEST_F(AnalogWrite, PausesTwoMillisecondsBehindEachCharacterOfALineAndAddsACarriageReturn) {
-    const double took = BestPace(m_context, "wxyz", false, 100);
-    EXPECT_GE(took, 10);
-    EXPECT_LE(took, 13);
+    EXPECT_EQ(Pace(m_context, "wxyz", false), 5 * 2);
 }
 
 TEST_F(AnalogWrite, WaitsFiftyMillisecondsBehindTheOpeningCommand) {
@@ -318,22 +313,14 @@ TEST_F(AnalogWrite, WaitsFiftyMillisecondsBehindTheOpeningCommand) {
     m_context.Port = &port;
     m_context.Progress = &progress;
     m_context.RowCapacity = 200;
-    auto best = std::chrono::milliseconds::max();
-    for (int k = 0; k < 10; ++k) {
-        const auto start = std::chrono::steady_clock::now();
-        EXPECT_EQ(WriteChannels(m_context, CurrentGrid()), TransferComplete);
-        const auto took = std::chrono::steady_clock::now() - start;
-        best = std::min(best, std::chrono::duration_cast<std::chrono::milliseconds>(took));
-        EXPECT_EQ(device.Read(78), EndLine("300"));
-    }
+    const TransferClock::Moment start = Now();
+    EXPECT_EQ(WriteChannels(m_context, CurrentGrid()), TransferComplete);
+    EXPECT_EQ(Now() - start, std::chrono::milliseconds(50 + 78 * 2));
+    EXPECT_EQ(device.Read(78), EndLine("300"));
     m_context.Port = nullptr;
     m_context.Progress = nullptr;
-    // 78 characters of 2 ms. The wait's clock counts whole milliseconds and may miss one.
-    EXPECT_GE(best.count(), 78 * 2 + 50 - 1);
 }
 
 TEST_F(AnalogWrite, PausesLongBehindEachCharacterOfACommandAndAddsNothing) {
-    const double took = BestPace(m_context, "ul", true, 2);
-    EXPECT_GE(took, 700);
-    EXPECT_LE(took, 1000);
+    EXPECT_EQ(Pace(m_context, "ul", true), 2 * 350);
 }

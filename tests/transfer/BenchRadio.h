@@ -1,83 +1,59 @@
-// A simulated digital radio in the test's own process, on a port that the program opens.
+// A simulated digital radio on a virtual port, for thousands of transfers.
 #pragma once
 
 #include "simulator/DigitalRadio.h"
-#include "simulator/PseudoTerminal.h"
+#include "tests/transfer/VirtualSystem.h"
 
-#include <poll.h>
-
-#include <atomic>
 #include <functional>
-#include <mutex>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <thread>
 #include <utility>
 
 namespace transfertest {
 
-/// Runs without pacing and pauses, so that thousands of transfers take minutes. All members may be called
-/// from the test's thread.
+/// Answers at once. The test needs a VirtualSystem.
 class BenchRadio : private Simulator::RadioLink {
 public:
     BenchRadio(const char* model, const std::string& stamp)
-        : m_radio(*Simulator::FindDigitalModel(model, ""), Habits(model, stamp), {}, *this),
-          m_thread([this] { Run(); }) {}
+        : m_portName(VirtualSystem::Current()->Add(m_port)),
+          m_radio(*Simulator::FindDigitalModel(model, ""), Habits(model, stamp), {}, *this) {
+        m_port->arrived = [this] { HearAll(); };
+    }
     ~BenchRadio() override {
-        m_ends = true;
-        m_thread.join();
+        m_port->arrived = {};
+        m_port->isThere = false;
     }
 
-    const std::string& PortName() const { return m_port.DeviceName(); }
+    const std::string& PortName() const { return m_portName; }
 
-    Simulator::DigitalMemoryList Memories() const {
-        const std::lock_guard lock(m_mutex);
-        return m_radio.Memories();
-    }
-    std::string Stamp() const {
-        const std::lock_guard lock(m_mutex);
-        return m_radio.Stamp();
-    }
-    int Violations() const {
-        const std::lock_guard lock(m_mutex);
-        return m_radio.Violations();
-    }
+    Simulator::DigitalMemoryList Memories() const { return m_radio.Memories(); }
+    std::string Stamp() const { return m_radio.Stamp(); }
+    int Violations() const { return m_radio.Violations(); }
     /// Number of purges so far.
-    int Purges() const {
-        const std::lock_guard lock(m_mutex);
-        return m_purges;
-    }
+    int Purges() const { return m_purges; }
     /// Complaints about what it refused, one a line.
-    std::string Complaints() const {
-        const std::lock_guard lock(m_mutex);
-        return m_complaints;
-    }
+    std::string Complaints() const { return m_complaints; }
 
     /// What the radio does at a memory record of the next transfer, counted from 1, instead of storing it.
     enum class Fault { None, End, Silence };
-    /// @param whenSilent called from the radio's thread when it falls silent
+    /// @param whenSilent called when the radio falls silent
     void Expect(Fault fault, int record, std::function<void()> whenSilent = {}) {
-        const std::lock_guard lock(m_mutex);
         m_fault = fault;
         m_faultAt = record;
         m_whenSilent = std::move(whenSilent);
     }
 
-    /// Call after the program has closed the port. Reads its last bytes and gets ready for the next transfer.
+    /// Call after the program has closed the port. Gets ready for the next transfer.
     void EndVisit() {
-        const std::lock_guard lock(m_mutex);
-        m_port.TakeVisits();
-        HearAll();
         m_radio.PortClosed();
-        m_port.Flush();
         m_fault = Fault::None;
         m_silent = false;
     }
 
     /// Sets another stamp, as if a program had read the radio at another time.
     void SetStamp(const std::string& stamp) {
-        const std::lock_guard lock(m_mutex);
         m_mute = true;
         for (const std::string& body : {std::string("T007000020030000"), "T20B000021" + stamp})
             Tell(Simulator::WithChecksum(body) + "\r");
@@ -97,37 +73,17 @@ private:
         return habits;
     }
 
-    void Run() {
-        constexpr int patience = 20; // ms
-        while (!m_ends) {
-            pollfd watched[] = {{IsOpen() ? m_port.Descriptor() : -1, POLLIN, 0},
-                                {m_port.WatchDescriptor(), POLLIN, 0}};
-            poll(watched, std::size(watched), patience);
-            const std::lock_guard lock(m_mutex);
-            m_port.TakeVisits();
-            if (m_port.IsOpen())
-                HearAll();
-        }
-    }
-    bool IsOpen() const {
-        const std::lock_guard lock(m_mutex);
-        return m_port.IsOpen();
-    }
-
-    void HearAll() {
-        for (std::string bytes = m_port.Read(4096); !bytes.empty(); bytes = m_port.Read(4096))
-            Tell(bytes);
-    }
+    void HearAll() { Tell(std::exchange(m_port->toRadio, {})); }
     void Tell(const std::string& bytes) {
-        m_radio.LineSpeed(m_port.Speed());
+        m_radio.LineSpeed(m_port->speed);
         for (const char byte : bytes)
             if (!m_silent)
                 m_radio.Hear(static_cast<uint8_t>(byte));
     }
 
     void Say(std::string_view bytes) {
-        while (!bytes.empty() && !m_mute && !m_silent)
-            bytes.remove_prefix(m_port.Write(bytes));
+        if (!m_mute && !m_silent)
+            m_port->toProgram += bytes;
     }
 
     // The cable, seen from the radio.
@@ -157,8 +113,8 @@ private:
     void Note(std::string_view text) override { m_purges += text == "< T204000011EA"; }
     void Complain(std::string_view text) override { m_complaints += std::string(text) + "\n"; }
 
-    mutable std::mutex m_mutex; ///< protects all members below
-    Simulator::PseudoTerminal m_port;
+    std::shared_ptr<VirtualPort> m_port = std::make_shared<VirtualPort>();
+    std::string m_portName;
     Simulator::DigitalRadio m_radio;
     int m_answer = 1, m_purges = 0;
     std::string m_complaints;
@@ -166,8 +122,6 @@ private:
     Fault m_fault = Fault::None;
     int m_faultAt = 0;
     std::function<void()> m_whenSilent;
-    std::atomic<bool> m_ends = false;
-    std::thread m_thread; ///< last: it uses the others
 };
 
 } // namespace transfertest

@@ -278,7 +278,7 @@ private:
         if (Once(2))
             known.radio.Expect(BenchRadio::Fault::End, record);
         else
-            known.radio.Expect(BenchRadio::Fault::Silence, record, [this] { Cancel(); });
+            known.radio.Expect(BenchRadio::Fault::Silence, record, PressCancel);
     }
 
     void Write(KnownRadio& known) {

@@ -125,6 +125,7 @@ protected:
 } // namespace
 
 TEST_F(DigitalRoundTrip, OfAFullPageInTheNewLayoutChangesWhatTheLayoutCannotTell) {
+    UseRealTime();
     UsePage(Kdrv716B);
     const RoundTripPage page({502, 31, "X", true, 5});
     Fill(page);

@@ -103,14 +103,12 @@ protected:
         context.ReplyTimeout = timesOut ? 1500 : 10000;
         context.ResultPause = 10;
         const BoxKeeper keeper;
-        const auto start = std::chrono::steady_clock::now();
+        const auto start = Now();
         const int status = TransferData(context, CurrentGrid(), mode, radio.PortName(), "Test");
         EXPECT_EQ(context.Port, nullptr);
         EXPECT_EQ(context.Progress, nullptr);
         ExpectOver();
-        return {
-            status, keeper.Boxes(),
-            std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start)};
+        return {status, keeper.Boxes(), std::chrono::duration_cast<std::chrono::milliseconds>(Now() - start)};
     }
 
     static std::string WithNumber(std::string text, int number) {

@@ -1,67 +1,60 @@
-// The radio's side of a transfer, played by a thread of the test.
+// The radio's side of a transfer, played by a script of the test.
 #pragma once
 
 #include "tests/support/PseudoTerminal.h"
+#include "tests/transfer/Actor.h"
+#include "tests/transfer/VirtualSystem.h"
 
 #include <functional>
+#include <memory>
 #include <string>
-#include <thread>
-#include <utility>
 
 namespace transfertest {
 
-/// Runs a script on its own serial port while the test's thread transfers. The test provides the script,
-/// which should read with deadlines, as PseudoTerminal does.
+/// Runs a script at the other end of a serial port while the test's thread transfers: in virtual time if the
+/// test has a VirtualSystem, otherwise in a thread at a pseudo-terminal.
 class RadioPeer {
 public:
-    explicit RadioPeer(std::function<void(RadioPeer&)> script) {
-        m_port.HoldSlave();
-        m_thread = std::thread([this, play = std::move(script)] { play(*this); });
-    }
-    ~RadioPeer() { Finish(); }
+    explicit RadioPeer(std::function<void(RadioPeer&)> script);
+    ~RadioPeer();
     RadioPeer(const RadioPeer&) = delete;
     RadioPeer& operator=(const RadioPeer&) = delete;
 
     /// Waits for the end of the script.
-    void Finish() {
-        if (m_thread.joinable())
-            m_thread.join();
-    }
+    void Finish();
 
-    const std::string& PortName() const { return m_port.SlaveName(); }
-    PseudoTerminal& Port() { return m_port; }
+    const std::string& PortName() const;
+
+    /// Speed that the program has set, in baud.
+    int Speed() const;
 
     /// Reads count bytes, or what arrived within the time, and keeps them in Heard.
-    std::string Hear(size_t count, int ms = 15000) {
-        const std::string text = m_port.Read(count, std::chrono::milliseconds(ms));
-        m_heard += text;
-        return text;
-    }
+    std::string Hear(size_t count, int ms = 15000);
     /// Reads text up to and including a carriage return, or what arrived within the time, and keeps it in
     /// Heard.
-    std::string HearLine(int ms = 15000) {
-        const std::string text = m_port.ReadUntil('\r', std::chrono::milliseconds(ms));
-        m_heard += text;
-        return text;
-    }
-    void Say(const std::string& text) { m_port.Write(text); }
+    std::string HearLine(int ms = 15000);
+    void Say(const std::string& text);
+    void Pause(int ms);
 
     /// Unplugs the radio.
-    void Vanish() {
-        m_port.ReleaseSlave();
-        m_port.CloseMaster();
-    }
+    void Vanish();
 
     /// Everything that the script has heard. Call only after the script has finished.
     const std::string& Heard() const { return m_heard; }
-    /// What the program sent and the script did not read.
-    std::string Rest() { return m_port.Read(10000, std::chrono::milliseconds(100)); }
+    /// What the program sent and the script did not read. Waits for the end of the script.
+    std::string Rest();
 
 private:
-    PseudoTerminal m_port;
+    class End;
+    class RealEnd;
+    class VirtualEnd;
+
     std::string m_heard;
-    std::thread m_thread;
+    std::unique_ptr<End> m_end; ///< last: its thread uses the others
 };
+
+/// True if the program could open the port now, be it a virtual one or the computer's.
+bool PortIsFree(const std::string& portName);
 
 /// A text as sent by a radio that sets bit 7 of every byte.
 inline std::string Marked(std::string text) {

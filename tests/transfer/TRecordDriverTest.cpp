@@ -77,8 +77,7 @@ TEST_F(TRecordDriver, CancelledWhenItIsOverStaysAsItEnded) {
     EXPECT_EQ(Transfer(Transcript(Opening("T204000024") + Sends("T204000000") + Says("T9030000")),
                        ReadChannelsMode),
               TransferComplete);
-    std::thread([this] { Cancel(); }).join();
-    wxYield();
+    PressCancel();
     EXPECT_EQ(Converse(Transcript(Opening("T204000024") + Sends("T204000000") + Says("T9030000")),
                        ReadChannelsMode),
               TransferComplete);

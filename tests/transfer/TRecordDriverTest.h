@@ -2,7 +2,6 @@
 #pragma once
 
 #include "robot/TempFolder.h"
-#include "tests/transfer/CancelFromPeer.h"
 #include "tests/transfer/Transcript.h"
 #include "tests/transfer/TransferTest.h"
 #include "transfer/RadioIdentity.h"
@@ -31,11 +30,12 @@ constexpr const char* KnownStamp = "20240131235959";
 class Attachment {
 public:
     Attachment(TRecordContext& context, const std::string& portName)
-        : m_context(context), m_progress(new ProgressFrame(nullptr)), m_port(nullptr, portName, 9600) {
+        : m_context(context), m_progress(new ProgressFrame(nullptr)),
+          m_port(CurrentTransferSystem().Open(nullptr, portName, 9600)) {
         m_progress->MainGauge()->SetRange(CurrentGrid()->GetNumberRows());
         m_progress->MainGauge()->SetValue(0);
         context.Progress = m_progress.get();
-        context.Port = &m_port;
+        context.Port = m_port.get();
     }
     ~Attachment() {
         m_context.Progress = nullptr;
@@ -56,7 +56,7 @@ public:
 private:
     TRecordContext& m_context;
     std::unique_ptr<ProgressFrame> m_progress;
-    wxAsyncSerial m_port;
+    std::unique_ptr<TransferLine> m_port;
 };
 
 /// A page of a digital radio without memories, in its own working directory.
@@ -125,7 +125,7 @@ protected:
 
     /// Runs one transfer by a transcript and checks what every transfer must leave.
     int Transfer(const Transcript& transcript, int mode) {
-        TranscriptPeer peer(transcript, [this] { Cancel(); });
+        TranscriptPeer peer(transcript, PressCancel);
         const int status = TransferData(m_context, CurrentGrid(), mode, peer.PortName(), "Test");
         EXPECT_EQ(peer.Finish(), "");
         EXPECT_EQ(m_context.Port, nullptr);
@@ -140,7 +140,7 @@ protected:
 
     /// Runs the dialogue alone, without boxes, log and end record.
     int Converse(const Transcript& transcript, int mode) {
-        TranscriptPeer peer(transcript, [this] { Cancel(); });
+        TranscriptPeer peer(transcript, PressCancel);
         const int status = ConverseOn(peer.PortName(), mode);
         EXPECT_EQ(peer.Finish(), "");
         return status;
@@ -163,13 +163,9 @@ protected:
             .Style(wxOK | wxCANCEL);
     }
 
-    /// Does what the Cancel button does, from the peer's thread.
-    void Cancel() { m_cancel.Press(); }
-
     TRecordContext m_context;
 
 private:
-    CancelFromPeer m_cancel;
     testbench::TempFolder m_folder{"zelk-transfer"};
     std::filesystem::path m_formerDirectory;
 };

@@ -10,7 +10,6 @@ using namespace transfertest;
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 } // namespace
@@ -59,16 +58,16 @@ TEST_F(TRecordDriver, RefusalAndGarbageCountTogether) {
 TEST_F(TRecordDriver, RefusalIsFollowedByAPause) {
     FillP25Row(1);
     Select({1});
-    Clock::time_point refused;
+    TransferClock::Moment refused;
     milliseconds pause{0};
     RadioPeer peer([&](RadioPeer& radio) {
         radio.HearLine();
         radio.Say("T204000000FB\r");
         radio.HearLine();
         radio.Say("T204000001FA\r");
-        refused = Clock::now();
+        refused = Now();
         radio.HearLine();
-        pause = std::chrono::duration_cast<milliseconds>(Clock::now() - refused);
+        pause = std::chrono::duration_cast<milliseconds>(Now() - refused);
     });
     m_context.ReplyTimeout = 700;
     EXPECT_EQ(ConverseOn(peer.PortName(), WriteChannelsMode), TransferTimeout);
@@ -77,18 +76,18 @@ TEST_F(TRecordDriver, RefusalIsFollowedByAPause) {
 }
 
 TEST_F(TRecordDriver, ChangesItsSpeedFiftyMillisecondsAfterTheRadioHasAgreed) {
-    Clock::duration pause{0};
+    TransferClock::Moment::duration pause{0};
     RadioPeer peer([&](RadioPeer& radio) {
         for (const char* answer : {"T204000001FA\r", "T204000001FA\r", "T204000000FB\r"}) {
             radio.HearLine();
             radio.Say(answer);
         }
         radio.HearLine();
-        const Clock::time_point agreed = Clock::now();
+        const TransferClock::Moment agreed = Now();
         radio.Say("T204000000FB\r");
-        while (radio.Port().Speed() != B115200 && Clock::now() < agreed + std::chrono::seconds(10))
-            std::this_thread::sleep_for(milliseconds(1));
-        pause = Clock::now() - agreed;
+        while (radio.Speed() != 115200 && Now() < agreed + std::chrono::seconds(10))
+            radio.Pause(1);
+        pause = Now() - agreed;
         radio.HearLine();
     });
     m_context.ReplyTimeout = 700;
@@ -102,7 +101,7 @@ TEST_F(TRecordDriver, BeginsWithTheShadowsHalfASecondAfterTheLastPrimary) {
     FillP25Row(1, "A0", "10");
     FillP25Row(2, "A0", "01", "001");
     Select({1, 2});
-    Clock::duration pause{0};
+    TransferClock::Moment::duration pause{0};
     std::string shadow;
     RadioPeer peer([&](RadioPeer& radio) {
         // Hello, version, stamp, opening, purge.
@@ -112,10 +111,10 @@ TEST_F(TRecordDriver, BeginsWithTheShadowsHalfASecondAfterTheLastPrimary) {
             radio.Say(Framed(answer) + "\r");
         }
         radio.HearLine();
-        const Clock::time_point taken = Clock::now();
+        const TransferClock::Moment taken = Now();
         radio.Say("T204000000FB\r");
         shadow = radio.HearLine();
-        pause = Clock::now() - taken;
+        pause = Now() - taken;
     });
     m_context.ReplyTimeout = 1500;
     EXPECT_EQ(ConverseOn(peer.PortName(), WriteChannelsMode), TransferTimeout);
@@ -212,9 +211,9 @@ TEST_F(TRecordDriver, LineWithoutAnEndTimesOutHoweverLongItIs) {
         radio.Say("T1" + std::string(3000000, '0'));
     });
     m_context.ReplyTimeout = 1500;
-    const auto start = Clock::now();
+    const auto start = Now();
     EXPECT_EQ(ConverseOn(peer.PortName(), ReadChannelsMode), TransferTimeout);
-    EXPECT_LT(Clock::now() - start, std::chrono::seconds(5));
+    EXPECT_LT(Now() - start, std::chrono::seconds(5));
 }
 
 TEST_F(TRecordDriver, NoiseBeginsTheWaitAnew) {
@@ -223,10 +222,10 @@ TEST_F(TRecordDriver, NoiseBeginsTheWaitAnew) {
         RadioPeer peer([&](RadioPeer& radio) {
             radio.HearLine();
             for (int i = 0; i < 4; ++i) {
-                std::this_thread::sleep_for(milliseconds(500));
+                radio.Pause(500);
                 radio.Say(noise);
             }
-            std::this_thread::sleep_for(milliseconds(500));
+            radio.Pause(500);
             radio.Say("T204000000FB\r");
             radio.HearLine();
         });

@@ -81,7 +81,7 @@ inline std::string LogWithoutStamps(const std::string& log) {
 /// The radio of a transcript: sends its lines and compares the program's lines with it.
 class TranscriptPeer {
 public:
-    /// cancel is the user's action at "@cancel"; it runs in the peer's thread.
+    /// cancel is the user's action at "@cancel".
     explicit TranscriptPeer(Transcript transcript, std::function<void()> cancel = {})
         : m_transcript(std::move(transcript)), m_cancel(std::move(cancel)),
           m_peer([this](RadioPeer& radio) { Play(radio); }) {}
@@ -121,7 +121,7 @@ private:
         else if (line == "@cancel")
             m_cancel();
         else if (line.starts_with("@speed"))
-            return ExpectSpeed(radio, line == "@speed 9600" ? B9600 : B115200);
+            return ExpectSpeed(radio, line == "@speed 9600" ? 9600 : 115200);
         return true;
     }
 
@@ -133,8 +133,8 @@ private:
         return false;
     }
 
-    bool ExpectSpeed(RadioPeer& radio, speed_t speed) {
-        if (radio.Port().Speed() == speed)
+    bool ExpectSpeed(RadioPeer& radio, int speed) {
+        if (radio.Speed() == speed)
             return true;
         m_mismatch = "the speed is another one";
         return false;

@@ -4,6 +4,8 @@
 #include "robot/Files.h"
 #include "tests/support/Modals.h"
 #include "tests/support/ZelkWindowTest.h"
+#include "tests/transfer/RadioPeer.h"
+#include "tests/transfer/VirtualSystem.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/wxAsyncSerial.h"
 
@@ -12,6 +14,7 @@
 
 #include <filesystem>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -34,10 +37,18 @@ inline ProgressFrame* OpenProgress() {
     return nullptr;
 }
 
-/// A ZelkWindowTest without a log, a port, or a former place of the progress window.
+/// Does what the Cancel button does, if a transfer runs. Only in virtual time: then a radio's script may do
+/// it.
+inline void PressCancel() {
+    if (ProgressFrame* progress = OpenProgress())
+        progress->Cancelled = true;
+}
+
+/// A ZelkWindowTest without a log, a port, or a former place of the progress window. Its transfers run in
+/// virtual time.
 class TransferTest : public ZelkWindowTest {
 protected:
-    TransferTest() : m_formerConfig(wxConfigBase::Set(new wxMemoryConfig)) {}
+    TransferTest() : m_formerConfig(wxConfigBase::Set(new wxMemoryConfig)) { m_system.emplace(); }
     ~TransferTest() override { delete wxConfigBase::Set(m_formerConfig); }
 
     void SetUp() override {
@@ -50,6 +61,12 @@ protected:
         std::filesystem::remove(LogPath());
         ZelkWindowTest::TearDown();
     }
+
+    /// Lets the transfers of this test use the computer's time and ports. Call before anything has a port.
+    void UseRealTime() { m_system.reset(); }
+
+    /// Time of the transfers.
+    static TransferClock::Moment Now() { return CurrentTransferSystem().Clock().Now(); }
 
     static std::filesystem::path LogPath() {
         return std::filesystem::path(Text(wxStandardPaths::Get().GetUserDataDir())) / "Zelk.log";
@@ -105,12 +122,6 @@ protected:
         EXPECT_TRUE(MainFrame->IsEnabled()) << "the main window is still disabled";
     }
 
-    /// Whether the port can be opened again now.
-    static bool PortIsFree(const std::string& port) {
-        const wxAsyncSerial again(nullptr, port, 9600);
-        return again.isOpen();
-    }
-
     static void Upload() {
         wxCommandEvent event;
         MainFrame->OnUpload(event);
@@ -142,6 +153,7 @@ protected:
 
 private:
     wxConfigBase* m_formerConfig;
+    std::optional<VirtualSystem> m_system;
 };
 
 } // namespace transfertest

@@ -2,7 +2,6 @@
 #include "transfer/UnsentRows.h"
 
 #include "commands/CommandIds.h"
-#include "tests/transfer/CancelFromPeer.h"
 #include "tests/transfer/RadioPeer.h"
 #include "tests/transfer/TransferTest.h"
 
@@ -99,8 +98,7 @@ TEST_F(UnsentRows, OfACancelledTransferAreTold) {
     for (const int row : {1, 2, 3})
         FillRow(row, "138.0000");
     Select({1, 2, 3});
-    CancelFromPeer cancel;
-    RadioPeer peer(Radio(1, [&](RadioPeer&) { cancel.Press(); }));
+    RadioPeer peer(Radio(1, [](RadioPeer&) { PressCancel(); }));
     Send(peer.PortName(), "Cancelled by User");
     EXPECT_EQ(FirstField(), "1 of 3 selected rows sent");
 }

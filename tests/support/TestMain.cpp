@@ -15,7 +15,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <sstream>
 #include <string>
 
 // GTK and fontconfig keep some memory until the program ends; if such leaks were reported, no
@@ -108,25 +107,7 @@ std::chrono::seconds TimeLimit() {
     return std::chrono::seconds(seconds != nullptr ? std::atoi(seconds) : 100);
 }
 
-/// Selects this program's display if there are several.
-void ChooseDisplay() {
-    const char* const displays = std::getenv("ZELK_DISPLAYS");
-    const char* const number = std::getenv("ZELK_DISPLAY_NUMBER");
-    if (std::getenv("DISPLAY") == nullptr || displays == nullptr || number == nullptr) {
-        return;
-    }
-    std::istringstream names(displays);
-    std::string name;
-    for (int left = std::atoi(number); names >> name && left > 0;) {
-        --left;
-    }
-    if (!name.empty()) {
-        setenv("DISPLAY", name.c_str(), 1);
-    }
-}
-
 int RunInMainLoop(int argc, char** argv) {
-    ChooseDisplay();
     if (std::getenv("DISPLAY") == nullptr) {
         std::fputs("Window tests need an X display: run them under tests/support/with-display.\n", stderr);
         return EXIT_FAILURE;

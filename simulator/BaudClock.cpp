@@ -6,7 +6,9 @@ namespace Simulator {
 
 namespace {
 
-constexpr size_t BytesAWakeUp = 4;
+/// A serial chip hands over what has come in a millisecond, and at least a few bytes.
+constexpr std::chrono::milliseconds WakeUpInterval{1};
+constexpr long BytesAWakeUp = 4;
 
 std::chrono::nanoseconds ByteTime(int baud) {
     return std::chrono::nanoseconds(10'000'000'000LL / baud + 1);
@@ -31,7 +33,8 @@ size_t BaudClock::Take(TimePoint now, int baud, size_t waiting) {
 TimePoint BaudClock::NextDue(int baud, size_t waiting) const {
     if (baud <= 0)
         return m_free;
-    return m_free + static_cast<long>(std::min(waiting, BytesAWakeUp)) * ByteTime(baud);
+    const long group = std::max<long>(BytesAWakeUp, WakeUpInterval / ByteTime(baud));
+    return m_free + std::min(static_cast<long>(waiting), group) * ByteTime(baud);
 }
 
 } // namespace Simulator

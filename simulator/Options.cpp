@@ -153,6 +153,8 @@ const std::vector<Option>& Table() {
          [](Options& o, const std::string& v) { return TakeMilliseconds(v, o.late); }},
         {"log", Value::Needed, "FILE", "write every line and its time into this file",
          Text([](Options & o) -> auto& { return o.logFile; })},
+        {"reply-times", Value::Needed, "FILE", "write how long the program takes for each next line there",
+         Text([](Options & o) -> auto& { return o.replyTimesFile; })},
         {"once", Value::None, "", "end when the port is closed after a completed transfer",
          Switch([](Options & o) -> auto& { return o.once; })},
         {"help", Value::None, "", "show this, and end", Task(Options::Task::Help)},

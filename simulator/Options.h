@@ -28,6 +28,7 @@ struct Options {
     std::string portsFolder; ///< empty: the default folder
     std::string name;        ///< of the link; the model's by default
     std::string logFile;
+    std::string replyTimesFile;
 };
 
 /// Reads the arguments after the program's name. A value is the argument after its option, or follows "=".

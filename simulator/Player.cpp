@@ -1,7 +1,8 @@
 #include "simulator/Player.h"
 
+#include "simulator/Promptness.h"
+
 #include <poll.h>
-#include <sys/prctl.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -21,14 +22,13 @@ constexpr size_t ReadSize = 512;
 } // namespace
 
 Player::Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, OutputQueue& output, Journal& journal,
-               bool pace, bool once)
-    : m_port(port), m_radio(radio), m_link(link), m_output(output), m_journal(journal), m_pace(pace),
-      m_once(once) {}
+               ReplyTimes& replyTimes, bool pace, bool once)
+    : m_port(port), m_radio(radio), m_link(link), m_output(output), m_journal(journal),
+      m_replyTimes(replyTimes), m_pace(pace), m_once(once) {}
 
 void Player::Run(int signals) {
-    // By default the system may wake us up late by half a byte's time at 115200 baud.
     if (m_pace)
-        prctl(PR_SET_TIMERSLACK, 1UL);
+        WakeUpOnTime();
     while (!m_stop) {
         Wait(signals);
         TakeSignals(signals);
@@ -106,6 +106,7 @@ void Player::Leave() {
     m_hearing.Rest();
     m_output.Clear();
     m_pending.clear();
+    m_replyTimes.Forget();
     m_radio.PortClosed();
     m_link.PortClosed();
     m_port.Flush();
@@ -118,6 +119,8 @@ void Player::TakeInput() {
     if (m_heard.empty() && m_port.IsOpen()) {
         m_heard = m_port.Read(ReadSize);
         m_hearing.Rest();
+        if (!m_heard.empty())
+            m_replyTimes.Heard(Clock::now());
     }
     if (m_heard.empty())
         return;
@@ -134,9 +137,12 @@ void Player::FeedRadio(size_t count, int baud) {
 
 void Player::Deliver() {
     while (m_port.IsOpen()) {
-        m_pending.erase(0, m_port.Write(m_pending));
-        if (!m_pending.empty())
-            return;
+        if (!m_pending.empty()) {
+            m_replyTimes.Sent(Clock::now());
+            m_pending.erase(0, m_port.Write(m_pending));
+            if (!m_pending.empty())
+                return;
+        }
         OutputQueue::Delivery delivery = m_output.Take(Clock::now(), Baud());
         for (const std::string& note : delivery.notes)
             m_journal.Note(note);

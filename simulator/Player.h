@@ -6,6 +6,7 @@
 #include "simulator/OutputQueue.h"
 #include "simulator/PseudoTerminal.h"
 #include "simulator/Radio.h"
+#include "simulator/ReplyTimes.h"
 
 #include <string>
 
@@ -17,7 +18,7 @@ public:
     /// All arguments must outlive the player. With `pace`, neither direction is faster than the speed that
     /// the other side has set. With `once`, Run ends when the port is closed after a completed transfer.
     Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, OutputQueue& output, Journal& journal,
-           bool pace, bool once);
+           ReplyTimes& replyTimes, bool pace, bool once);
 
     /// Plays until SIGTERM, SIGINT, SIGHUP, the unplug fault or `once` ends it. `signals` is a signalfd for
     /// these signals and for SIGUSR1, which presses the radio's key.
@@ -38,6 +39,7 @@ private:
     FaultyLink& m_link;
     OutputQueue& m_output;
     Journal& m_journal;
+    ReplyTimes& m_replyTimes;
     bool m_pace;
     bool m_once;
     bool m_stop = false;

@@ -47,6 +47,10 @@ int Play(const Options& options) {
     if (!options.logFile.empty())
         if (const Failure failure = journal.Open(options.logFile))
             return Complain(*failure, ExitFailure);
+    ReplyTimes replyTimes;
+    if (!options.replyTimesFile.empty())
+        if (const Failure failure = replyTimes.Open(options.replyTimesFile))
+            return Complain(*failure, ExitFailure);
     OutputQueue output;
     FaultyLink link(FaultPlan(options.faults), options.late, output, journal);
     std::unique_ptr<Radio> radio;
@@ -63,7 +67,7 @@ int Play(const Options& options) {
                       port.DeviceName());
         std::printf("zelk-radio: %s is ready at %s\n", RadioName(options).c_str(), name.Path().c_str());
         std::fflush(stdout);
-        Player(port, *radio, link, output, journal, options.pace, options.once).Run(signals);
+        Player(port, *radio, link, output, journal, replyTimes, options.pace, options.once).Run(signals);
     }
     close(signals);
     if (const Failure failure = radio->Store())

@@ -38,6 +38,8 @@ TEST(CommandLine, SetsEveryOption) {
                                     "80",
                                     "--log",
                                     "l.txt",
+                                    "--reply-times",
+                                    "r.txt",
                                     "--once"});
     ASSERT_NE(options.model, nullptr);
     EXPECT_EQ(options.model->name, "KRV-650");
@@ -58,6 +60,7 @@ TEST(CommandLine, SetsEveryOption) {
     EXPECT_EQ(FaultText(options.faults[1]), "cut@4/2");
     EXPECT_EQ(options.late, 80ms);
     EXPECT_EQ(options.logFile, "l.txt");
+    EXPECT_EQ(options.replyTimesFile, "r.txt");
     EXPECT_TRUE(options.once);
 }
 

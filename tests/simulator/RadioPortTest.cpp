@@ -37,6 +37,14 @@ bool IsTaken(PortClient& client, const std::string& line) {
     return client.ReadUntil(Ack, 3s) == Ack;
 }
 
+/// Waits until the file has that many lines.
+bool WaitForLines(const std::string& path, int count) {
+    const auto end = Clock::now() + 5s;
+    while (CountOf(ReadFileIfAny(path), "\n") < count && Clock::now() < end)
+        std::this_thread::sleep_for(5ms);
+    return CountOf(ReadFileIfAny(path), "\n") == count;
+}
+
 TEST(RadioPort, WritesAndReadsBackThroughARealPort) {
     const TempFolder folder;
     RadioInFolder radio(folder, {"--model", "KRV-214", "--banner", "HELLO"});
@@ -388,6 +396,33 @@ TEST(RadioLog, HoldsBothDirectionsWithTheirTimes) {
         last = time;
     }
     EXPECT_TRUE(radio.WaitForLine("zelk-radio: refused")) << "and the user sees the refusal";
+}
+
+TEST(RadioReplyTimes, HoldATimeForEachAnswerThatTheProgramRepliedTo) {
+    const TempFolder folder;
+    const std::string file = folder / "times";
+    RadioInFolder radio(folder, {"--model", "KRV-214", "--reply-times", file, "--log", folder / "log"});
+    {
+        PortClient client(radio.Port());
+        client.Send("rt\r4\rdl\r");
+        EXPECT_TRUE(IsTaken(client, VhfLine("001")));
+        std::this_thread::sleep_for(50ms);
+        EXPECT_TRUE(IsTaken(client, VhfLine("002")));
+    }
+    ASSERT_TRUE(WaitForFileText(folder / "log", "- port closed"));
+    {
+        PortClient client(radio.Port());
+        client.Send("rt\r4\rdl\r");
+        EXPECT_TRUE(IsTaken(client, VhfLine("003")));
+        std::this_thread::sleep_for(20ms);
+        client.Send(EndLine("300"));
+        ASSERT_TRUE(WaitForLines(file, 2)) << ReadFile(file) << "the answer to 002 has no reply";
+    }
+    std::istringstream times(ReadFile(file));
+    double first = 0, second = 0;
+    times >> first >> second;
+    EXPECT_GE(first, 50'000);
+    EXPECT_GE(second, 20'000);
 }
 
 } // namespace

@@ -1,0 +1,24 @@
+#include "simulator/ReplyTimes.h"
+
+#include <cerrno>
+#include <cstring>
+
+namespace Simulator {
+
+Failure ReplyTimes::Open(const std::string& path) {
+    m_file.reset(std::fopen(path.c_str(), "w"));
+    if (!m_file)
+        return path + ": " + std::strerror(errno);
+    return {};
+}
+
+void ReplyTimes::Heard(TimePoint now) {
+    if (m_file && m_sent) {
+        const std::chrono::duration<double, std::micro> passed = now - *m_sent;
+        std::fprintf(m_file.get(), "%.1f\n", passed.count());
+        std::fflush(m_file.get());
+    }
+    m_sent.reset();
+}
+
+} // namespace Simulator

@@ -2,6 +2,7 @@
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "bench/PacedRadio.h"
+#include "bench/TransferRun.h"
 #include "catalogue/PageModel.h"
 #include "frame/ZelkMain.h"
 #include "transfer/AnalogDriver.h"
@@ -10,6 +11,8 @@
 
 #include <benchmark/benchmark.h>
 #include <wx/grid.h>
+
+#include <filesystem>
 
 namespace {
 
@@ -35,26 +38,30 @@ constexpr double WriteFloor = WriteCommands * SlowCharacter + OpeningWait +
                               Rows * ((LineLength + 1) * FastCharacter + WireByte) +
                               (3 + 74 + 1) * FastCharacter + ClosingDelay;
 
-double Transfer(benchmark::State& state, const PacedRadio& radio, int mode) {
+int Transfer(const PacedRadio& radio, TransferClock& clock, int mode) {
     TransferContext context;
-    return TimedTransfer(state, [&] {
-        return AnalogProtocol::TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench");
-    });
+    context.Clock = &clock;
+    return AnalogProtocol::TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench");
 }
 
-/// Fills the radio and reads it back. The radio's time for a read is that of its bytes on the wire.
-void Run(benchmark::State& state, bool read) {
+/// Writes a full page, or reads it back.
+void Run(benchmark::State& state, Conditions conditions, bool read) {
     MakePage(RadioPage);
     FillPage();
     CurrentGrid()->SelectAll();
+    const std::filesystem::path memories = PacedRadio::Folder() / "analog-memories";
+    if (!read)
+        std::filesystem::remove(memories);
+    const bool filled = std::filesystem::exists(memories);
     {
-        const PacedRadio radio("KRV-214", {"--banner="});
-        for ([[maybe_unused]] auto _ : state) {
-            double seconds = Transfer(state, radio, WriteChannelsMode);
-            if (read)
-                seconds = Transfer(state, radio, ReadChannelsMode);
-            state.SetIterationTime(seconds);
-        }
+        const PacedRadio radio("KRV-214", memories, {"--banner="});
+        if (read && !filled)
+            Transfer(radio, SystemClock(), WriteChannelsMode);
+        // A radio that is read sends everything without being asked line by line.
+        for ([[maybe_unused]] auto _ : state)
+            MeasureTransfer(state, radio, conditions, read ? 0 : Rows, [&](TransferClock& clock) {
+                return Transfer(radio, clock, read ? ReadChannelsMode : WriteChannelsMode);
+            });
     }
     DropPage();
 }
@@ -67,19 +74,8 @@ void RegisterAnalogTransfer() {
     constexpr int ReadBytes = Rows * (LineLength + 1) + (3 + 1);
     constexpr double ReadFloor =
         (ReadCommands - 1) * SlowCharacter + (1 + ReadBytes) * WireByte + ClosingDelay;
-    struct Side {
-        const char* name;
-        void (*run)(benchmark::State&);
-    };
-    constexpr Side Sides[] = {
-        {"transfer/analog-write/program", [](benchmark::State& state) { Run(state, false); }},
-        {"transfer/analog-write/floor", [](benchmark::State& state) { Prescribed(state, WriteFloor); }},
-        {"transfer/analog-read/program", [](benchmark::State& state) { Run(state, true); }},
-        {"transfer/analog-read/floor", [](benchmark::State& state) { Prescribed(state, ReadFloor); }},
-    };
-    for (const Side& side : Sides)
-        benchmark::RegisterBenchmark(side.name, side.run)
-            ->Unit(benchmark::kMillisecond)
-            ->Iterations(1)
-            ->UseManualTime();
+    RegisterTransfer("analog-write", WriteFloor,
+                     [](benchmark::State& state, Conditions conditions) { Run(state, conditions, false); });
+    RegisterTransfer("analog-read", ReadFloor,
+                     [](benchmark::State& state, Conditions conditions) { Run(state, conditions, true); });
 }

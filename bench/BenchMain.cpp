@@ -1,6 +1,7 @@
 // Speed as ratios in one run: the program against the bare toolkit and the wire.
 #include "bench/Benches.h"
 #include "bench/RatioReport.h"
+#include "bench/TransferRun.h"
 #include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
 
@@ -42,6 +43,8 @@ int main(int argc, char** argv) {
         int noArguments = 1;
         return RunMemoryChild(noArguments, argv);
     }
+    if (argc > 1 && !std::strcmp(argv[1], "--keep-busy"))
+        KeepBusy();
     benchmark::Initialize(&argc, argv);
     const std::string self = std::filesystem::read_symlink("/proc/self/exe").string();
     RegisterStart(self);
@@ -73,6 +76,10 @@ int main(int argc, char** argv) {
         report.SetGrowthAim(group, 5.5);
     report.SetSizeAim("memory", 18);
     report.SetAim("transfer", 1.03);
+    report.SetAim("busy", 1.10);
+    report.AddCounterTable("processor_percent", "processor time, % of a core", "transfer", 5, false);
+    report.AddCounterTable("reply_median", "median reply, microseconds", "transfer", 1, true);
+    report.AddCounterTable("reply_99", "99th percentile of replies", "transfer", 1, true);
     report.SetAim("print", 1.2);
     wxDISABLE_DEBUG_SUPPORT();
     wxApp::SetInstance(new BenchApp);

@@ -2,6 +2,7 @@
 #include "bench/Benches.h"
 #include "bench/FullPage.h"
 #include "bench/PacedRadio.h"
+#include "bench/TransferRun.h"
 #include "catalogue/PageModel.h"
 #include "editing/PageReset.h"
 #include "frame/ZelkMain.h"
@@ -13,6 +14,7 @@
 #include <benchmark/benchmark.h>
 #include <wx/grid.h>
 
+#include <filesystem>
 #include <fstream>
 
 namespace {
@@ -62,44 +64,56 @@ constexpr double FloorOf(int memoryCharacters) {
            (QuestionCharacters + OpeningCharacters + memoryCharacters) * FastCharacter + ClosingDelay;
 }
 
-double Transfer(benchmark::State& state, const PacedRadio& radio, int mode) {
+int Transfer(const PacedRadio& radio, TransferClock& clock, int mode) {
     TRecordContext context;
-    return TimedTransfer(state, [&] {
-        return TRecordProtocol::TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench");
-    });
+    context.Clock = &clock;
+    RadioStamp = Stamp;
+    return TRecordProtocol::TransferData(context, CurrentGrid(), mode, radio.Port().string(), "Bench");
 }
 
-int MemoriesOfRadio() {
-    std::ifstream file(PacedRadio::Folder() / "memories");
+int MemoriesIn(const std::filesystem::path& memories) {
+    std::ifstream file(memories);
     int count = 0;
     for (std::string line; std::getline(file, line);)
         count += line.starts_with("2 T1");
     return count;
 }
 
-/// Fills the radio and reads it back.
-void Run(benchmark::State& state, bool read) {
+void Write(benchmark::State& state, const PacedRadio& radio, const std::filesystem::path& memories,
+           Conditions conditions) {
+    // Each memory's answer but the last one has a reply.
+    MeasureTransfer(state, radio, conditions, Records - 1,
+                    [&](TransferClock& clock) { return Transfer(radio, clock, WriteChannelsMode); });
+    if (MemoriesIn(memories) != Records)
+        state.SkipWithError("the radio does not hold all memories");
+}
+
+void Read(benchmark::State& state, const PacedRadio& radio, Conditions conditions) {
+    ResetPage(CurrentPage);
+    MeasureTransfer(state, radio, conditions, Records,
+                    [&](TransferClock& clock) { return Transfer(radio, clock, ReadChannelsMode); });
+    if (CurrentGrid()->GetCellValue(Records - 1, MNUM) != std::to_string(Records - 1))
+        state.SkipWithError("the last memory was not read");
+}
+
+/// Writes a full page, or reads it back.
+void Run(benchmark::State& state, Conditions conditions, bool read) {
     MakePage(RadioPage);
     FillPage();
     CurrentGrid()->SelectAll();
-    const auto hardware = PacedRadio::Folder() / "hardware";
+    const std::filesystem::path memories = PacedRadio::Folder() / "digital-memories";
+    const std::filesystem::path hardware = PacedRadio::Folder() / "hardware";
     std::ofstream(hardware) << HardwareText << '\n';
+    if (!read)
+        std::filesystem::remove(memories);
+    const bool filled = std::filesystem::exists(memories);
     {
-        const PacedRadio radio("KDRV-716B",
+        const PacedRadio radio("KDRV-716B", memories,
                                {"--stamp", Stamp, "--serial", Serial, "--hardware", hardware.string()});
-        for ([[maybe_unused]] auto _ : state) {
-            RadioStamp = Stamp;
-            double seconds = Transfer(state, radio, WriteChannelsMode);
-            if (MemoriesOfRadio() != Records)
-                state.SkipWithError("the radio does not hold all memories");
-            if (read) {
-                ResetPage(CurrentPage);
-                seconds = Transfer(state, radio, ReadChannelsMode);
-                if (CurrentGrid()->GetCellValue(Records - 1, MNUM) != std::to_string(Records - 1))
-                    state.SkipWithError("the last memory was not read");
-            }
-            state.SetIterationTime(seconds);
-        }
+        if (read && !filled)
+            Transfer(radio, SystemClock(), WriteChannelsMode);
+        for ([[maybe_unused]] auto _ : state)
+            read ? Read(state, radio, conditions) : Write(state, radio, memories, conditions);
     }
     DropPage();
 }
@@ -107,21 +121,8 @@ void Run(benchmark::State& state, bool read) {
 } // namespace
 
 void RegisterDigitalTransfer() {
-    struct Side {
-        const char* name;
-        void (*run)(benchmark::State&);
-    };
-    constexpr Side Sides[] = {
-        {"transfer/digital-write/program", [](benchmark::State& state) { Run(state, false); }},
-        {"transfer/digital-write/floor",
-         [](benchmark::State& state) { Prescribed(state, FloorOf(WriteCharacters)); }},
-        {"transfer/digital-read/program", [](benchmark::State& state) { Run(state, true); }},
-        {"transfer/digital-read/floor",
-         [](benchmark::State& state) { Prescribed(state, FloorOf(ReadCharacters)); }},
-    };
-    for (const Side& side : Sides)
-        benchmark::RegisterBenchmark(side.name, side.run)
-            ->Unit(benchmark::kMillisecond)
-            ->Iterations(1)
-            ->UseManualTime();
+    RegisterTransfer("digital-write", FloorOf(WriteCharacters),
+                     [](benchmark::State& state, Conditions conditions) { Run(state, conditions, false); });
+    RegisterTransfer("digital-read", FloorOf(ReadCharacters),
+                     [](benchmark::State& state, Conditions conditions) { Run(state, conditions, true); });
 }

@@ -3,6 +3,16 @@
 #include <algorithm>
 #include <cstdio>
 
+namespace {
+
+/// Keeps the smaller of two values; 0 stands for none.
+void KeepSmaller(double& value, double other) {
+    if (value == 0 || other < value)
+        value = other;
+}
+
+} // namespace
+
 void RatioReport::ReportRuns(const std::vector<Run>& runs) {
     for (const Run& run : runs) {
         if (run.run_type != Run::RT_Iteration)
@@ -15,27 +25,35 @@ void RatioReport::ReportRuns(const std::vector<Run>& runs) {
         // "group/case/side", without what the library appends.
         const std::string& name = run.run_name.function_name;
         const size_t slash = name.rfind('/');
-        const std::string pairName = name.substr(0, slash);
-        if (name.substr(slash + 1) == "rate") {
-            if (!m_rates.contains(pairName))
-                m_rateOrder.push_back(pairName);
-            m_rates[pairName] = std::max(m_rates[pairName], run.counters.at("items_per_second").value);
-            continue;
-        }
-        if (name.substr(slash + 1) == "size") {
-            const double size = run.counters.at("megabytes").value;
-            const auto [known, isNew] = m_sizes.try_emplace(pairName, size);
-            known->second = std::min(known->second, size);
-            continue;
-        }
-        if (!m_pairs.contains(pairName))
-            m_order.push_back(pairName);
-        Pair& pair = m_pairs[pairName];
-        double& side = name.substr(slash + 1) == "floor" ? pair.floor : pair.program;
-        const double milliseconds = 1000 * run.real_accumulated_time / static_cast<double>(run.iterations);
-        if (side == 0 || milliseconds < side)
-            side = milliseconds;
+        Take(run, name.substr(0, slash), name.substr(slash + 1));
     }
+}
+
+void RatioReport::Take(const Run& run, const std::string& pairName, const std::string& side) {
+    if (side == "rate") {
+        if (!m_rates.contains(pairName))
+            m_rateOrder.push_back(pairName);
+        m_rates[pairName] = std::max(m_rates[pairName], run.counters.at("items_per_second").value);
+        return;
+    }
+    if (side == "size") {
+        KeepSmaller(m_sizes[pairName], run.counters.at("megabytes").value);
+        return;
+    }
+    for (CounterTable& table : m_counterTables) {
+        const auto counter = run.counters.find(table.counter);
+        if (counter == run.counters.end() || !table.aims.contains(GroupOf(pairName)))
+            continue;
+        Pair& pair = table.pairs[pairName];
+        KeepSmaller(side == "spinning" ? pair.floor : pair.program, counter->second.value);
+    }
+    if (side == "spinning")
+        return;
+    if (!m_pairs.contains(pairName))
+        m_order.push_back(pairName);
+    Pair& pair = m_pairs[pairName];
+    KeepSmaller(side == "floor" ? pair.floor : pair.program,
+                1000 * run.real_accumulated_time / static_cast<double>(run.iterations));
 }
 
 bool RatioReport::PrintGrowth() const {
@@ -52,7 +70,7 @@ bool RatioReport::PrintGrowth() const {
         const Pair& small = m_pairs.at(name);
         const double program = small.program > 0 ? large->second.program / small.program : 0;
         const double floor = small.floor > 0 ? large->second.floor / small.floor : 0;
-        const auto own = m_growthAims.find(name.substr(0, name.find('/')));
+        const auto own = m_growthAims.find(GroupOf(name));
         const double aim = own == m_growthAims.end() ? m_growth.aim : own->second;
         const bool met = program > 0 && program <= aim;
         good = good && met;
@@ -75,7 +93,7 @@ bool RatioReport::PrintSizes() const {
     if (!m_sizes.empty())
         std::printf("\n%-32s %12s %27s\n", "", "MB", "aim");
     for (const auto& [name, size] : m_sizes) {
-        const auto aim = m_sizeAims.find(name.substr(0, name.find('/')));
+        const auto aim = m_sizeAims.find(GroupOf(name));
         const bool met = aim != m_sizeAims.end() && size <= aim->second;
         good = good && met;
         std::printf("%-32s %12.2f %27.2f%s\n", name.c_str(), size, aim == m_sizeAims.end() ? 0 : aim->second,
@@ -84,13 +102,38 @@ bool RatioReport::PrintSizes() const {
     return good;
 }
 
+bool RatioReport::PrintCounters(const CounterTable& table) const {
+    bool good = true;
+    if (!table.pairs.empty())
+        std::printf("\n%-32s %12s %12s %7s %6s\n", table.title.c_str(), "program", "spinning", "ratio",
+                    "aim");
+    for (const std::string& name : m_order) {
+        const auto found = table.pairs.find(name);
+        if (found == table.pairs.end())
+            continue;
+        const Pair& pair = found->second;
+        const double aim = table.aims.at(GroupOf(name));
+        const double ratio = pair.floor > 0 ? pair.program / pair.floor : 0;
+        const double judged = table.isRatio ? ratio : pair.program;
+        const bool met = judged > 0 && judged <= aim;
+        good = good && met;
+        std::printf("%-32s %12.1f %12.1f %7.3f %6.2f%s\n", name.c_str(), pair.program, pair.floor, ratio, aim,
+                    met ? "" : "  above");
+    }
+    return good;
+}
+
+std::string RatioReport::GroupOf(const std::string& name) {
+    return name.substr(0, name.find('/'));
+}
+
 bool RatioReport::Print() const {
     bool good = !m_failed;
     if (!m_order.empty())
         std::printf("%-32s %12s %12s %7s %6s\n", "", "program ms", "floor ms", "ratio", "aim");
     for (const std::string& name : m_order) {
         const Pair& pair = m_pairs.at(name);
-        const std::string group = name.substr(0, name.find('/'));
+        const std::string group = GroupOf(name);
         const double aim = m_aims.contains(group) ? m_aims.at(group) : 0;
         const double ratio = pair.floor > 0 ? pair.program / pair.floor : 0;
         const bool met = pair.program > 0 && pair.floor > 0 && ratio <= aim;
@@ -98,6 +141,8 @@ bool RatioReport::Print() const {
         std::printf("%-32s %12.2f %12.2f %7.3f %6.2f%s\n", name.c_str(), pair.program, pair.floor, ratio, aim,
                     met ? "" : "  above");
     }
+    for (const CounterTable& table : m_counterTables)
+        good = PrintCounters(table) && good;
     PrintRates();
     good = PrintSizes() && good;
     return PrintGrowth() && good;

@@ -2,6 +2,7 @@
 #include "transfer/AsyncSerial.h"
 
 #include "transfer/PortLock.h"
+#include "transfer/PromptThread.h"
 
 #include <boost/asio/buffer.hpp>
 #include <boost/asio/io_context.hpp>
@@ -87,7 +88,10 @@ void AsyncSerial::open(const std::string& deviceName, unsigned int baudRate,
         // Before the thread runs, so that a device that fails at its first read counts as opened.
         setErrorStatus(false);
         m_impl->open = true;
-        std::thread thread([impl = m_impl] { impl->io.run(); });
+        std::thread thread([impl = m_impl] {
+            const PromptThread prompt;
+            impl->io.run();
+        });
         m_impl->backgroundThread.swap(thread);
     } catch (...) {
         m_impl->open = false;

@@ -29,6 +29,9 @@ ProgressFrame::ProgressFrame(wxWindow* parent, wxWindowID id, const wxString& ti
     CreateControls();
 
     SetName("ProgressFrame");
+    // The gauges move all the time, and each move paints the frame under them. With its own style for that
+    // the toolkit makes a drawing context for each, although nobody draws there.
+    SetBackgroundStyle(wxBG_STYLE_SYSTEM);
     SetSize(ConvertDialogToPixels(wxSize(200, 150)));
     GetSizer()->Fit(this);
     if (GetParent())
@@ -73,6 +76,9 @@ void ProgressFrame::CreateControls() {
 }
 
 void ProgressFrame::SetStatus(const wxString& text) {
+    // Drivers set it for every row. Setting a label makes the window lay out and paint itself.
+    if (text == m_status)
+        return;
     m_status = text;
     m_label->SetLabelText(m_status);
 }

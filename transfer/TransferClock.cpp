@@ -6,6 +6,7 @@
 #include <wx/evtloop.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -18,15 +19,26 @@ public:
     wxDateTime Date() const override { return wxDateTime::UNow(); }
 
     void HandleEvents() override {
+        if (std::exchange(m_textCame, false) && Now() < m_nextEvents)
+            return;
         if (auto* loop = wxEventLoopBase::GetActive())
             loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
+        m_nextEvents = Now() + EventInterval;
     }
 
     void WaitForText(Moment end) override {
-        wxAsyncSerial::WaitForData(std::min(end, Now() + EventInterval));
+        m_textCame = wxAsyncSerial::WaitForData(std::min(end, m_nextEvents));
+        if (!m_textCame)
+            m_nextEvents = Now() + EventInterval; // the caller handles them next
     }
 
     void SleepUntil(Moment end) override { SleepPrecisely(end); }
+
+private:
+    /// A line comes in many small pieces. Events between them would take most of a transfer's processor time,
+    /// and delay the reply to the last piece.
+    bool m_textCame = false;
+    Moment m_nextEvents{};
 };
 
 } // namespace

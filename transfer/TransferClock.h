@@ -17,7 +17,8 @@ public:
     /// Date and time of day of Now().
     virtual wxDateTime Date() const = 0;
 
-    /// Handles painting and user input, nothing that could start another transfer.
+    /// Handles painting and user input, nothing that could start another transfer. May do nothing between two
+    /// waits, if it did so only a moment ago.
     virtual void HandleEvents() = 0;
 
     /// Waits until text has arrived or until `end`. May return early, so that the caller can handle events.

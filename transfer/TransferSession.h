@@ -1,6 +1,7 @@
 // Port, progress window and message boxes of one transfer, with any radio.
 #pragma once
 
+#include "transfer/PromptThread.h"
 #include "transfer/TransferLine.h"
 #include "transfer/TransferProgress.h"
 #include "transfer/TransferStatus.h"
@@ -44,6 +45,7 @@ public:
 private:
     TransferContext& m_context;
     TransferMeans m_means;
+    PromptThread m_prompt; ///< of the driver, whose pauses must not last longer because of other programs
 };
 
 /// Shows a failure in a message box.

@@ -104,9 +104,9 @@ wxString wxAsyncSerial::GetData() {
     return data;
 }
 
-void wxAsyncSerial::WaitForData(std::chrono::steady_clock::time_point end) {
+bool wxAsyncSerial::WaitForData(std::chrono::steady_clock::time_point end) {
     std::unique_lock lock(arrivalMutex);
-    arrival.wait_until(lock, end, HasData);
+    return arrival.wait_until(lock, end, HasData);
 }
 
 void wxAsyncSerial::readCallback(const char* data, size_t length) {

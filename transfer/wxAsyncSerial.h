@@ -70,8 +70,8 @@ public:
     static wxString GetData();
 
     /// Waits until there is text to take, or until `end`. The port's thread ends the wait as soon as it has
-    /// delivered text.
-    static void WaitForData(std::chrono::steady_clock::time_point end);
+    /// delivered text. Returns true if there is some.
+    static bool WaitForData(std::chrono::steady_clock::time_point end);
 
 private:
     void readCallback(const char* data, size_t length);

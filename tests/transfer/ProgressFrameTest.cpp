@@ -133,6 +133,18 @@ TEST_F(ProgressFrameTest, ShowsTheStatusAndWhatIsAppendedToIt) {
     EXPECT_EQ(Label(), "Done!");
 }
 
+TEST_F(ProgressFrameTest, SetsNoStatusThatIsShownAlready) {
+    ProgressFrame& frame = MakeFrame();
+    frame.SetStatus("Sending Memory Data");
+    wxWindow* label = Child(frame, wxCLASSINFO(wxStaticText));
+    ASSERT_NE(label, nullptr);
+    label->SetLabel("as it was");
+    frame.SetStatus("Sending Memory Data");
+    EXPECT_EQ(label->GetLabel(), "as it was");
+    frame.SetStatus("Done");
+    EXPECT_EQ(label->GetLabel(), "Done");
+}
+
 TEST_F(ProgressFrameTest, StandsInTheMiddleOfItsParentOrElseOfTheScreen) {
     auto* parent = new wxFrame(nullptr, wxID_ANY, "Parent", wxPoint(100, 80), wxSize(700, 500));
     ShowAndFocus(*parent);

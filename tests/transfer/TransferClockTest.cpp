@@ -3,13 +3,19 @@
 
 #include "tests/support/PseudoTerminal.h"
 #include "transfer/PreciseSleep.h"
+#include "transfer/PromptThread.h"
 #include "transfer/wxAsyncSerial.h"
 
 #include <gtest/gtest.h>
+#include <wx/evtloop.h>
 
 #include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
+#include <array>
 #include <chrono>
+#include <cstring>
 #include <thread>
 
 namespace {
@@ -80,6 +86,95 @@ TEST_F(SystemClockWait, LeavesTheProcessorToOthers) {
         SystemClock().WaitForText(end);
     // Spinning would have taken all of it.
     EXPECT_LT(ProcessorTime() - before, milliseconds(100));
+}
+
+/// Counts the passes over the window's events.
+class CountingLoop : public wxEventLoop {
+public:
+    int passes = 0;
+
+protected:
+    void DoYieldFor(long /*eventsToProcess*/) override { ++passes; }
+};
+
+class SystemClockEvents : public SystemClockWait {
+protected:
+    /// A wait and the pass over the events that follows it, as in WaitForLine.
+    static void WaitForOneText() {
+        {
+            const wxMutexLocker lock(SerialRxMutex);
+            SerialRxBuffer += "A";
+        }
+        SystemClock().WaitForText(Steady::now() + seconds(60));
+        SystemClock().HandleEvents();
+        wxAsyncSerial::GetData();
+    }
+
+    CountingLoop m_loop;
+    wxEventLoopActivator m_active{&m_loop};
+};
+
+TEST_F(SystemClockEvents, AreHandledAlsoIfTextComesAllTheTime) {
+    const auto end = Steady::now() + seconds(60);
+    SystemClock().HandleEvents();
+    const int before = m_loop.passes;
+    while (m_loop.passes < before + 3 && Steady::now() < end)
+        WaitForOneText();
+    EXPECT_LT(Steady::now(), end);
+}
+
+TEST_F(SystemClockEvents, AreNotHandledForEachPieceOfALine) {
+    constexpr int Pieces = 1000;
+    const auto begin = Steady::now();
+    for (int piece = 0; piece < Pieces; ++piece)
+        WaitForOneText();
+    const auto intervals = (Steady::now() - begin) / milliseconds(5);
+    EXPECT_LE(m_loop.passes, intervals + 1);
+}
+
+TEST_F(SystemClockEvents, AreHandledWhenAWaitBegins) {
+    SystemClock().HandleEvents();
+    WaitForOneText();
+    const int before = m_loop.passes;
+    SystemClock().HandleEvents();
+    EXPECT_EQ(m_loop.passes, before + 1);
+}
+
+TEST_F(SystemClockEvents, AreHandledAfterAWaitWithoutText) {
+    SystemClock().HandleEvents();
+    const int before = m_loop.passes;
+    SystemClock().WaitForText(Steady::now());
+    SystemClock().HandleEvents();
+    EXPECT_EQ(m_loop.passes, before + 1);
+}
+
+/// What the system holds about the scheduling of this thread.
+std::array<unsigned char, 48> Scheduling() {
+    std::array<unsigned char, 48> attributes{};
+    EXPECT_EQ(syscall(SYS_sched_getattr, 0, attributes.data(), attributes.size(), 0), 0);
+    return attributes;
+}
+
+/// The nanoseconds for which an ordinary thread runs before others get their turn, 0 on systems that don't
+/// tell.
+uint64_t Turn() {
+    uint64_t nanoseconds = 0;
+    std::memcpy(&nanoseconds, Scheduling().data() + 24, sizeof nanoseconds);
+    return nanoseconds;
+}
+
+TEST(PromptThread, AsksForShortTurns) {
+    const uint64_t former = Turn();
+    if (former == 0)
+        GTEST_SKIP() << "this system knows no such turns";
+    const PromptThread prompt;
+    EXPECT_LT(Turn(), former);
+}
+
+TEST(PromptThread, IsAsBeforeAtTheEnd) {
+    const auto former = Scheduling();
+    { const PromptThread prompt; }
+    EXPECT_EQ(Scheduling(), former);
 }
 
 TEST(PreciseSleep, DoesNotEndEarly) {

@@ -21,7 +21,7 @@ void MakePages(benchmark::State& state, const PageCase& page) {
 /// Returns the content of such a page, taken from one that the program has made.
 GridContent ContentOf(const PageCase& page) {
     MakePage(page);
-    const GridContent content = ContentOfCurrentPage();
+    GridContent content = ContentOfCurrentPage();
     DropPage();
     return content;
 }

@@ -197,7 +197,7 @@ void AnalogRadio::PortClosed() {
 Failure AnalogRadio::Store() {
     if (m_habits.memoryFile.empty() || !m_changed)
         return {};
-    if (const Failure failure = SaveMemories(m_habits.memoryFile, m_model, m_memories))
+    if (Failure failure = SaveMemories(m_habits.memoryFile, m_model, m_memories))
         return failure;
     m_changed = false;
     return {};

@@ -60,7 +60,7 @@ Failure LoadHardware(const std::string& path, std::vector<std::string>& lines) {
         read.push_back(line);
         return CheckRecordText(line);
     };
-    if (const Failure failure = ReadLines(path, Missing::IsError, Take))
+    if (Failure failure = ReadLines(path, Missing::IsError, Take))
         return failure;
     lines = std::move(read);
     return {};
@@ -94,11 +94,11 @@ Failure LoadConfig(const std::string& path, std::vector<std::string>& lines) {
         read.push_back(line);
         if (read.size() > MostConfigLines)
             return "more than 255 lines";
-        if (const Failure failure = CheckRecordText(line))
+        if (Failure failure = CheckRecordText(line))
             return failure;
         return CheckConfig(line);
     };
-    if (const Failure failure = ReadLines(path, Missing::IsEmpty, Take))
+    if (Failure failure = ReadLines(path, Missing::IsEmpty, Take))
         return failure;
     if (exists)
         lines = std::move(read);
@@ -150,7 +150,7 @@ Failure LoadLog(const std::string& path, std::vector<std::string>& records) {
         read.push_back(LogRecord(line.substr(0, 4), data));
         return {};
     };
-    if (const Failure failure = ReadLines(path, Missing::IsError, Take))
+    if (Failure failure = ReadLines(path, Missing::IsError, Take))
         return failure;
     records = std::move(read);
     return {};

@@ -29,7 +29,7 @@ Failure LoadDigitalMemories(const std::string& path, const DigitalModel& model, 
         read[memory->address] = *memory;
         return {};
     };
-    if (const Failure failure = ReadLines(path, Missing::IsEmpty, Take))
+    if (Failure failure = ReadLines(path, Missing::IsEmpty, Take))
         return failure;
     memories = std::move(read);
     return {};

@@ -255,13 +255,13 @@ void DigitalRadio::Keep() {
 
 Failure DigitalRadio::Store() {
     if (m_changed && !m_habits.memoryFile.empty()) {
-        if (const Failure failure =
+        if (Failure failure =
                 SaveDigitalMemories(m_habits.memoryFile, m_model, m_layout, m_contents.memories))
             return failure;
         m_changed = false;
     }
     if (m_configChanged && !m_habits.configFile.empty()) {
-        if (const Failure failure = SaveConfig(m_habits.configFile, m_contents.config))
+        if (Failure failure = SaveConfig(m_habits.configFile, m_contents.config))
             return failure;
         m_configChanged = false;
     }

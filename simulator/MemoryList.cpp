@@ -13,7 +13,7 @@ Failure LoadMemories(const std::string& path, const AnalogModel& model, MemoryLi
         read[memory->number] = *memory;
         return {};
     };
-    if (const Failure failure = ReadLines(path, Missing::IsEmpty, Take))
+    if (Failure failure = ReadLines(path, Missing::IsEmpty, Take))
         return failure;
     memories = std::move(read);
     return {};

@@ -190,7 +190,7 @@ Failure ParseOptions(const std::vector<std::string>& arguments, Options& options
                 return argument + " needs a value";
             value = arguments[k];
         }
-        if (const Failure failure = option->take(options, value))
+        if (Failure failure = option->take(options, value))
             return failure;
     }
     if (options.task != Options::Task::Play)

@@ -9,7 +9,7 @@ namespace Simulator {
 Failure MakeRadio(const Options& options, RadioLink& link, std::unique_ptr<Radio>& radio) {
     if (options.digitalModel) {
         DigitalContents contents;
-        if (const Failure failure = LoadContents(*options.digitalModel, options.digital, contents))
+        if (Failure failure = LoadContents(*options.digitalModel, options.digital, contents))
             return failure;
         radio = std::make_unique<DigitalRadio>(*options.digitalModel, options.digital.habits,
                                                std::move(contents), link);
@@ -17,7 +17,7 @@ Failure MakeRadio(const Options& options, RadioLink& link, std::unique_ptr<Radio
     }
     MemoryList memories;
     if (!options.memoryFile.empty())
-        if (const Failure failure = LoadMemories(options.memoryFile, *options.model, memories))
+        if (Failure failure = LoadMemories(options.memoryFile, *options.model, memories))
             return failure;
     radio = std::make_unique<AnalogRadio>(*options.model, options.habits, std::move(memories), link);
     return {};

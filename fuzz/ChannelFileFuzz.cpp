@@ -4,37 +4,31 @@
 #include "files/ChannelFileReader.h"
 #include "files/XmlFile.h"
 #include "files/ZelkFile_OpenSave.h"
-#include "fuzz/FuzzWindow.h"
+#include "fuzz/ElementMutation.h"
+#include "fuzz/FileFuzz.h"
 
-#include <wx/log.h>
-#include <wx/mstream.h>
 #include <wx/xml/xml.h>
 
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-#include <string_view>
-
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
-    MakeFuzzWindow();
+    MakeFuzzWindow({{RadioCatalogue::Kdrv716, 0}});
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    const wxLogNull quiet;
-    if (!IsHarmlessMarkup({reinterpret_cast<const char*>(data), size}))
-        return 0;
-    wxMemoryInputStream stream(data, size);
     wxXmlDocument document;
-    if (!document.Load(stream, "UTF-8", wxXMLDOC_NONE))
+    if (!LoadXmlFile(FuzzPath(data, size), document))
         return 0;
     ResetPage(CurrentPage);
     const int result = OpenZelkFile(document, CurrentPage);
-    if (result != ChannelFile::ReadDone &&
-        (result < ChannelFile::NoRoot || result > ChannelFile::OtherElement)) {
-        std::fprintf(stderr, "the reader returns %d\n", result);
-        std::abort();
-    }
+    Demand(result == ChannelFile::ReadDone ||
+               (result >= ChannelFile::NoRoot && result <= ChannelFile::OtherElement),
+           "the reader has no such result");
     CheckFuzzPage();
     return 0;
+}
+
+extern "C" size_t LLVMFuzzerCustomMutator(uint8_t* data, size_t size, size_t most, unsigned seed) {
+    return Mutate(data, size, most, seed, [](std::string_view input, size_t longest, Dice& dice) {
+        return MutatedPieces(input, PiecesOfDocument(input, dice), longest, dice);
+    });
 }

@@ -1,6 +1,7 @@
 // Lines of comma-separated lists, read in both dialects without a window.
 #include "files/CellText.h"
 #include "files/CsvReader.h"
+#include "fuzz/Mutation.h"
 
 #include <wx/init.h>
 
@@ -122,4 +123,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     CheckData(bytes, CsvReader::Dialect::General);
     CheckData(bytes, CsvReader::Dialect::Kdar);
     return 0;
+}
+
+extern "C" size_t LLVMFuzzerCustomMutator(uint8_t* data, size_t size, size_t most, unsigned seed) {
+    return Mutate(data, size, most, seed, [](std::string_view input, size_t longest, Dice& dice) {
+        return MutatedPieces(input, PiecesOfList(input, dice), longest, dice);
+    });
 }

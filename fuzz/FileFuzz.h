@@ -1,32 +1,41 @@
-// Common part of the fuzzers of foreign files: the input as a file, and one page for many inputs.
+// Common part of the fuzzers of files: the input as a file, and a few pages for many inputs.
 #pragma once
 
-#include "catalogue/RadioTables.h"
+#include "files/FileKind.h"
 #include "files/ZelkFile_ImportExport.h"
 #include "fuzz/FuzzWindow.h"
 
 #include <wx/ffile.h>
-#include <wx/filename.h>
+
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include <cstdint>
 #include <cstdlib>
 
-/// Writes the input into a file, has the importer identify its kind and passes the path to read, which writes
-/// into the grid of a page of that radio and band slot. Always call it with the same page.
-template <class Read>
-int FuzzFile(const uint8_t* data, size_t size, int radio, int bandIndex, Read read) {
-    constexpr int filesOfPage = 100;
-    static int files = 0;
-    static const wxString path = wxFileName::CreateTempFileName("zelk-fuzz");
-    wxFFile out(path, "wb");
-    if (!out.IsOpened() || out.Write(data, size) != size || !out.Close())
+/// Returns the path of a file in memory that holds the input until the next call.
+inline const wxString& FuzzPath(const uint8_t* data, size_t size) {
+    static const int file = memfd_create("input", 0);
+    static const wxString path = wxString::Format("/proc/self/fd/%d", file);
+    if (ftruncate(file, 0) != 0 || pwrite(file, data, size, 0) != static_cast<ssize_t>(size))
         std::abort();
-    if (files++ % filesOfPage == 0)
-        MakeFuzzPage(radio, bandIndex);
+    return path;
+}
+
+/// Makes a file of the input and imports it into the grid of a page, as the kind that it seems to be. Unless
+/// that is this kind, passes its path to read as well.
+template <class Read>
+int FuzzFile(const uint8_t* data, size_t size, FileKind kind, Read read) {
+    constexpr int filesOfPage = 100;
+    const wxString& path = FuzzPath(data, size);
+    ChooseFuzzPage(size, filesOfPage);
     FileImporter importer;
-    importer.Identify(path);
+    const int found = importer.Identify(path);
+    if (found != MultiZELFile || importer.OpenLines(path))
+        importer.Read(found);
     importer.Close();
-    read(path);
+    if (found != kind)
+        read(path);
     CheckFuzzPage();
     return 0;
 }

@@ -20,16 +20,22 @@ protected:
     int Enter(wxDialog*) override { return wxID_OK; }
 };
 
-void Demand(bool condition, const char* what) {
-    if (condition)
-        return;
-    std::fprintf(stderr, "the page is broken: %s\n", what);
-    std::abort();
+void MakeCurrent(int page) {
+    CurrentPage = page;
+    SetGuardRows(MainFrame, page, PageParameters[page].Rows);
+}
+
+void EmptyPages() {
+    for (int page = 0; page < PageCount; ++page) {
+        MakeCurrent(page);
+        ResetPage(page);
+        EmptyDefaultMemories(page);
+    }
 }
 
 } // namespace
 
-void MakeFuzzWindow() {
+void MakeFuzzWindow(std::initializer_list<FuzzTarget> targets) {
     static AnswerAtOnce hook;
     wxDisableAsserts();
     int noArguments = 0;
@@ -40,21 +46,37 @@ void MakeFuzzWindow() {
         std::exit(2);
     }
     hook.Register();
+    const PageParameterRecord former = CurrentParameters();
+    for (const FuzzTarget& target : targets) {
+        const bool isFirst = &target == targets.begin();
+        const int page = isFirst ? CurrentPage : PageCount;
+        SetPageParameters(MainFrame, page, target.radio, target.bandIndex);
+        if (isFirst)
+            AdjustEditGrid(MainFrame, former.Radio, former.BandIndex);
+        else
+            CreateNewPage(MainFrame, page);
+    }
 }
 
-void MakeFuzzPage(int radio, int bandIndex) {
-    const PageParameterRecord former = CurrentParameters();
-    SetPageParameters(MainFrame, CurrentPage, radio, bandIndex);
-    AdjustEditGrid(MainFrame, former.Radio, former.BandIndex);
-    ResetPage(CurrentPage);
-    EmptyDefaultMemories(CurrentPage);
+void ChooseFuzzPage(size_t size, int emptyAfter) {
+    static int calls = 0;
+    if (calls++ % emptyAfter == 0)
+        EmptyPages();
+    MakeCurrent(static_cast<int>(size % static_cast<size_t>(PageCount)));
+}
+
+void Demand(bool condition, const char* what) {
+    if (condition)
+        return;
+    std::fprintf(stderr, "broken: %s\n", what);
+    std::abort();
 }
 
 void CheckFuzzPage() {
     const wxGrid* grid = CurrentGrid();
-    Demand(grid->GetNumberCols() == ColumnTotal, "columns");
-    Demand(grid->GetNumberRows() == CurrentParameters().Rows + 1, "rows");
+    Demand(grid->GetNumberCols() == ColumnTotal, "the page's columns");
+    Demand(grid->GetNumberRows() == CurrentParameters().Rows + 1, "the page's rows");
     const int32_t* slots = ZoneSlotsOf(CurrentPage);
     for (int zone = 0; zone < ZonesPerPage; ++zone)
-        Demand(slots[zone] >= 0 && slots[zone] <= ZoneCapacity, "zone counters");
+        Demand(slots[zone] >= 0 && slots[zone] <= ZoneCapacity, "the page's zone counters");
 }

@@ -64,9 +64,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     context.Protocol = data[0] % 3;
     if (!context.DebugLogFile.Open("/dev/null", "w"))
         std::abort();
-    wxString all = wxString::From8BitData(reinterpret_cast<const char*>(data) + 1, size - 1);
-    while (!all.empty()) {
-        context.RxLine = all.BeforeFirst('\r', &all);
+    wxString rest = wxString::From8BitData(reinterpret_cast<const char*>(data) + 1, size - 1);
+    while (!rest.empty()) {
+        // A string that is its own rest is emptied before its first part is copied.
+        const wxString all = rest;
+        context.RxLine = all.BeforeFirst('\r', &rest);
         decodeDebugLog(context);
         if (context.Phase != 0)
             std::abort();

@@ -82,6 +82,7 @@ void Cable::Close() {
     if (!m_open)
         return;
     m_open = false;
+    m_dropped += m_gone ? 0 : static_cast<int>(m_waiting.size());
     m_waiting.clear();
     m_arrived.clear();
     m_ends.radioIsLeft();
@@ -216,6 +217,10 @@ void CableClock::HandleEvents() {
 }
 
 void CableClock::WaitForText(Moment end) {
+    // Each byte that arrives ends a wait: a transfer of all rows takes some ten thousand.
+    constexpr int most = 2'000'000;
+    if (++m_waits > most)
+        throw Endless{};
     while (!m_cable.HasArrived() && !m_cancelled)
         if (!m_time.RunNext(end)) {
             m_time.AdvanceTo(end);

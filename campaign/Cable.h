@@ -58,6 +58,8 @@ public:
 
     /// The moment at which a byte was last sent or arrived.
     Moment LastByte() const { return m_lastByte; }
+    /// Bytes that the program had written and that its closing of the port has dropped.
+    int Dropped() const { return m_dropped; }
     /// Bytes so far, by Side.
     int Bytes(Side side) const { return Of(side).count; }
     /// True if a fault has lost, added or changed bytes of that direction.
@@ -94,6 +96,7 @@ private:
     bool m_open = false;
     bool m_gone = false;
     int m_speed = 0;
+    int m_dropped = 0;
     std::string m_arrived;
     Moment m_lastByte{};
 };
@@ -119,6 +122,9 @@ private:
     Cable& m_cable;
 };
 
+/// Thrown out of a transfer that goes on for ever.
+struct Endless {};
+
 /// The clock of a program at the end of a cable.
 class CableClock : public TransferClock {
 public:
@@ -131,6 +137,7 @@ public:
     Moment Now() const override { return m_time.Now(); }
     wxDateTime Date() const override;
     void HandleEvents() override;
+    /// Throws Endless if there were more waits than any transfer needs.
     void WaitForText(Moment end) override;
     void SleepUntil(Moment end) override { m_time.AdvanceTo(end); }
 
@@ -138,6 +145,7 @@ private:
     VirtualTime& m_time;
     Cable& m_cable;
     bool* m_cancelled = nullptr;
+    int m_waits = 0;
 };
 
 } // namespace Campaign

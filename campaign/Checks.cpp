@@ -1,176 +1,19 @@
 #include "campaign/Checks.h"
 
-#include "catalogue/RadioTables.h"
-#include "catalogue/ZoneSlots.h"
+#include "campaign/Judge.h"
+#include "catalogue/MemoryRow.h"
+#include "transfer/TRecordDialogue.h"
 
 #include <algorithm>
 #include <cctype>
-#include <cmath>
 #include <cstdlib>
 #include <initializer_list>
+#include <set>
 #include <utility>
-
-using namespace RadioCatalogue;
 
 namespace Campaign {
 
 namespace {
-
-using Sentences = std::vector<std::string>;
-
-// Typed from the table of failures, not taken from the drivers.
-constexpr const char* PortBox = "Invalid COM Port (or Port in use)";
-constexpr const char* AnalogTimeoutBox =
-    "Timeout Error\nVerify Radio is in PC Download mode\nand correct COM port is selected";
-constexpr const char* DigitalTimeoutBox =
-    "Timeout Error\nVerify Radio is in PC Download mode (3-8)\nand correct COM port is selected";
-constexpr const char* NoDataBox = "No data selected for transfer to Radio";
-constexpr const char* OldSoftwareBox = "Selected operation requires updated software in Radio";
-constexpr const char* UnsupportedBox = "The requested function is not supported\nby the firware in the Radio";
-
-// Milliseconds.
-constexpr int64_t DigitalSilence = 30'000, AnalogSilence = 5'000, Opening = 6'000, ResultPause = 1'000,
-                  Slack = 500;
-
-/// Looks at one outcome.
-class Judge {
-public:
-    Judge(const Scenario& scenario, const Job& job, const World& before, const Outcome& outcome)
-        : m_job(job), m_before(before), m_outcome(outcome), m_digital(scenario.radio.IsDigital()) {}
-
-    Sentences Broken() const { return m_broken; }
-
-    bool Happened(std::initializer_list<FaultKind> kinds) const { return Count(kinds) > 0; }
-    /// How many faults of these kinds happened.
-    int Count(std::initializer_list<FaultKind> kinds) const {
-        int count = 0;
-        for (size_t i = 0; i < m_job.faults.size(); ++i)
-            count += m_outcome.happened[i] &&
-                     std::find(kinds.begin(), kinds.end(), m_job.faults[i].kind) != kinds.end();
-        return count;
-    }
-    bool AnyHappened() const {
-        return std::find(m_outcome.happened.begin(), m_outcome.happened.end(), true) !=
-               m_outcome.happened.end();
-    }
-
-    // ---- The end of every transfer ----
-
-    void CheckEnd() {
-        Expect(!m_outcome.portIsOpen, "the port is still open");
-        Expect(m_outcome.contextIsClean, "the context still points to the port or the window");
-        Expect(!m_outcome.logIsOpen, "a log is still open");
-        const int64_t limit = (m_digital ? DigitalSilence : AnalogSilence + Opening) + ResultPause + Slack;
-        Expect(m_outcome.silence <= limit,
-               "the transfer went on for " + std::to_string(m_outcome.silence) + " ms after the last byte");
-    }
-
-    void CheckTexts() {
-        const auto box = [&](const std::string& text) {
-            Expect(!m_outcome.boxes.empty() && m_outcome.boxes.back() == text,
-                   "the box isn't \"" + text + "\" but \"" +
-                       (m_outcome.boxes.empty() ? "" : m_outcome.boxes.back()) + "\"");
-        };
-        const std::string item = std::to_string(m_outcome.index - 1);
-        switch (m_outcome.status) {
-        case TransferComplete:
-            Expect(m_outcome.lastStatus.starts_with("Transfer Complete."), "the window doesn't say Complete");
-            return ExpectNoFailureBox();
-        case TransferPortError:
-            return box(PortBox);
-        case TransferTimeout:
-            return box(m_digital ? DigitalTimeoutBox : AnalogTimeoutBox);
-        case TransferCommunicationError:
-            return box((m_digital ? "Radio rejected channel " : "Radio rejected item: ") + item);
-        case TransferChecksumError:
-            Expect(m_digital, "an analog transfer has no checksums");
-            return box("Checksum Error on channel " + item);
-        case TransferNoDataSelected:
-            return box(NoDataBox);
-        case TransferInvalidTransmitData:
-            return box(OldSoftwareBox);
-        case TransferUnsupported:
-            return box(UnsupportedBox);
-        case TransferCancelled:
-            if (m_digital)
-                Expect(m_outcome.lastStatus == "Transfer Cancelled.", "the window doesn't say Cancelled");
-            return ExpectNoFailureBox();
-        default:
-            m_broken.push_back("status " + std::to_string(m_outcome.status));
-        }
-    }
-
-    void CheckZones() {
-        if (!m_digital)
-            return;
-        std::map<std::string, int> taken;
-        for (const auto& [row, texts] : m_outcome.world.program.rows) {
-            // A shadow that was read has the flag and no slot.
-            const bool shadow = std::strtol(texts[MFLG].c_str(), nullptr, 16) & ShadowIndexMask;
-            const bool holds = !shadow && (std::strtol(texts[TFLG].c_str(), nullptr, 16) & ZoneTakenFlag);
-            if (row == 0) {
-                Expect(!holds, "the default row holds a zone slot");
-                continue;
-            }
-            if (!holds)
-                continue;
-            Expect(!texts[ZONE].empty(), "row " + std::to_string(row) + " holds a slot of no zone");
-            ++taken[texts[ZONE]];
-        }
-        int total = 0, counted = 0;
-        for (const auto& [zone, count] : taken) {
-            Expect(count <= ZoneCapacity, "zone " + zone + " has " + std::to_string(count) + " memories");
-            total += count;
-        }
-        for (int zone = 0; zone < ZonesPerPage; ++zone)
-            counted += m_outcome.world.program.zones[static_cast<size_t>(zone)];
-        Expect(total == counted,
-               std::to_string(total) + " rows hold a zone slot, " + std::to_string(counted) + " are counted");
-    }
-
-    // ---- The page ----
-
-    /// A write changes nothing on the page but transfer flags.
-    void CheckPageOfWrite() {
-        const auto& rows = m_outcome.world.program.rows;
-        Expect(rows.size() == m_before.program.rows.size(), "a write has made or emptied rows of the page");
-        for (const auto& [row, texts] : m_before.program.rows) {
-            const auto found = rows.find(row);
-            if (found == rows.end())
-                continue;
-            RowTexts now = found->second;
-            now[TFLG] = texts[TFLG];
-            Expect(now == texts, "a write has changed row " + std::to_string(row) + " of the page");
-        }
-    }
-
-    // ---- Helpers ----
-
-    void Expect(bool condition, const std::string& otherwise) {
-        if (!condition)
-            m_broken.push_back(otherwise);
-    }
-
-    bool Digital() const { return m_digital; }
-
-private:
-    void ExpectNoFailureBox() {
-        for (const std::string& text : m_outcome.boxes)
-            Expect(text.starts_with("The following operating modes") || text.starts_with("This radio") ||
-                       text.starts_with("Close this dialog"),
-                   "the box \"" + text + "\" in a transfer that hasn't failed");
-    }
-
-    const Job& m_job;
-    const World& m_before;
-    const Outcome& m_outcome;
-    bool m_digital;
-    Sentences m_broken;
-};
-
-std::string Trimmed(const std::string& text) {
-    return text.substr(0, text.find_last_not_of(' ') + 1);
-}
 
 bool Writes(TransferMode mode) {
     return mode == WriteChannelsMode;
@@ -261,6 +104,139 @@ std::pair<int, int> FirstGap(const World& before, const Outcome& clean, const Ou
                : gap(before.radio.analog, clean.world.radio.analog, faulty.world.radio.analog);
 }
 
+bool Sends(const Outcome& outcome, const std::string& start) {
+    return std::any_of(outcome.sent.begin(), outcome.sent.end(),
+                       [&](const std::string& line) { return line.starts_with(start); });
+}
+
+/// How often the last line before the end of the transfer was sent.
+long TimesOfLastLine(const Outcome& outcome) {
+    std::vector<std::string> lines = outcome.sent;
+    if (!lines.empty() && lines.back().starts_with("T9"))
+        lines.pop_back();
+    return lines.empty() ? 0 : std::count(lines.begin(), lines.end(), lines.back());
+}
+
+/// The status that the table of failures gives for what a single fault does; TransferOk for a fault that a
+/// transfer can survive.
+TransferStatus StatusOf(FaultKind kind, bool writes, bool digital) {
+    switch (kind) {
+    case FaultKind::Silence:
+    case FaultKind::Vanish:
+    case FaultKind::NoAck:
+    case FaultKind::MissedSpeed:
+        return TransferTimeout;
+    case FaultKind::RefusalAlways:
+        return TransferCommunicationError;
+    case FaultKind::EndRecord:
+        return writes ? TransferCommunicationError : TransferOk;
+    case FaultKind::WrongChecksumAlways:
+        return TransferChecksumError;
+    case FaultKind::Babble:
+        return digital && writes ? TransferCommunicationError : TransferOk;
+    default:
+        return TransferOk;
+    }
+}
+
+/// A single fault in a transfer that is complete without it has an effect that is known exactly.
+void CheckOnly(Judge& judge, const Job& job, const Fault& fault, const Outcome& clean,
+               const Outcome& faulty) {
+    const bool writes = Writes(job.mode);
+    const TransferStatus expected = StatusOf(fault.kind, writes, judge.Digital());
+    const std::string name = NameOf(fault.kind);
+    // A radio that fails behind its last answer has taken everything, and the list of an analog radio is over
+    // with its last row.
+    const bool survives =
+        faulty.status == TransferComplete &&
+        (writes ? faulty.world.radio.HoldsTheSame(clean.world.radio)
+                : !judge.Digital() || faulty.world.program.rows == clean.world.program.rows);
+    if (expected != TransferOk && !survives && !faulty.gaveUp &&
+        !(fault.kind == FaultKind::Babble && faulty.index < 0))
+        judge.Expect(faulty.status == expected, name + " gives status " + std::to_string(faulty.status) +
+                                                    " and not " + std::to_string(expected));
+    if (faulty.status == TransferTimeout &&
+        (fault.kind == FaultKind::Silence || fault.kind == FaultKind::NoAck))
+        judge.Expect(faulty.silence >= SilenceUntilTimeout(judge.Digital()),
+                     "a time-out after " + std::to_string(faulty.silence) + " ms of silence");
+    // A line that is refused or answered wrongly goes out once more, not more often.
+    if (judge.Digital() && writes && faulty.status == expected &&
+        (fault.kind == FaultKind::RefusalAlways || fault.kind == FaultKind::WrongChecksumAlways))
+        judge.Expect(TimesOfLastLine(faulty) == 2,
+                     name + ": the line was sent " + std::to_string(TimesOfLastLine(faulty)) + " times");
+    constexpr int64_t refusalPause = 500;
+    if (judge.Digital() && fault.kind == FaultKind::Refusal)
+        judge.Expect(faulty.milliseconds >= clean.milliseconds + refusalPause,
+                     "a refused line was repeated at once");
+    // Shorter than any time-out.
+    constexpr int patience = 4900;
+    if (fault.kind == FaultKind::Delayed && fault.side == Side::ToProgram && fault.value <= patience)
+        judge.Expect(faulty.status == clean.status,
+                     "a delay of " + std::to_string(fault.value) + " ms ended the transfer");
+}
+
+/// After Cancel the transfer is over as soon as the line is out that was being sent.
+void CheckCancel(Judge& judge, const Outcome& faulty) {
+    if (faulty.cancelled < 0)
+        return;
+    // The commands of an analog radio are sent in one go.
+    constexpr int64_t commands = 4'000;
+    if (judge.Count() == 1)
+        judge.Expect(faulty.status == TransferCancelled || faulty.milliseconds <= faulty.cancelled + commands,
+                     "the transfer went on for " + std::to_string(faulty.milliseconds - faulty.cancelled) +
+                         " ms after Cancel");
+    if (faulty.status != TransferCancelled)
+        return;
+    long later = 0;
+    for (size_t i = 0; i < faulty.sent.size(); ++i)
+        later += faulty.sentAt[i].begin > faulty.cancelled &&
+                 (judge.Digital() ? !faulty.sent[i].starts_with("T9") : faulty.sent[i].size() > 70);
+    judge.Expect(later <= (judge.Digital() ? 1 : 0),
+                 std::to_string(later) + " more lines were sent after Cancel");
+}
+
+/// What counts as sent, and as held by the radio, is in the radio.
+void CheckRowsSent(Judge& judge, const World& before, const Outcome& clean, const Outcome& faulty) {
+    const auto check = [&](const auto& now, const auto& all) {
+        for (const int row : faulty.rowsSent) {
+            const auto is = now.find(row), sent = all.find(row);
+            judge.Expect(sent == all.end() ? is == now.end() : is != now.end() && is->second == sent->second,
+                         "row " + std::to_string(row) + " counts as sent, but the radio hasn't got it");
+        }
+    };
+    if (!judge.Digital())
+        return check(faulty.world.radio.analog, clean.world.radio.analog);
+    check(faulty.world.radio.digital.memories, clean.world.radio.digital.memories);
+    const ProgramState& program = faulty.world.program;
+    if (program.stamp.empty() || program.stamp.utf8_string() != faulty.world.radio.digitalHabits.stamp ||
+        program.heldStamp != program.stamp)
+        return;
+    for (const auto& [row, held] : program.heldRows)
+        // Whether a memory was erased is open until the radio says so. An earlier write may have been
+        // deceived.
+        judge.Expect(faulty.world.radio.digital.memories.contains(row) ||
+                         !clean.world.radio.digital.memories.contains(row) ||
+                         !before.radio.digital.memories.contains(row),
+                     "the program takes the radio to hold memory " + std::to_string(row));
+}
+
+/// A field that didn't come whole has the default row's text. The description, SCAN and MODE keep what came.
+void CheckCutLines(Judge& judge, const std::map<int, RowTexts>& rows, const std::map<int, RowTexts>& all) {
+    for (const auto& [row, texts] : rows) {
+        const auto found = all.find(row);
+        for (const Column column : {RFRQ, TFRQ, RTON, RCOD, TTON, TCOD}) {
+            const std::string& text = texts[column];
+            judge.Expect((found != all.end() && text == found->second[column]) || text == all.at(0)[column],
+                         "row " + std::to_string(row) + " has the remains of a field: " + text);
+        }
+    }
+}
+
+/// Noise becomes part of an analog line, except before the first memory: what is before that is a heading.
+bool LosesLineToNoise(const Judge& judge) {
+    return !judge.Digital() && judge.Happened({FaultKind::Noise}) && !(judge.Only() && judge.Only()->at == 1);
+}
+
 } // namespace
 
 std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& job, const World& before,
@@ -269,6 +245,7 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
     judge.CheckEnd();
     judge.CheckTexts();
     judge.CheckZones();
+    judge.CheckPauses();
     const TransferStatus status = faulty.status;
 
     // What the status says must have happened.
@@ -283,7 +260,16 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
                            [](const std::string& text) { return text.starts_with("This radio"); });
     };
     const bool asksMore = asksToPurge(faulty) && !asksToPurge(clean);
-    allowed(TransferCancelled, judge.Happened({FaultKind::Cancel}) || (asksMore && !job.acceptsPurge));
+    judge.Expect(!asksMore || faulty.forgedToProgram ||
+                     judge.Count({FaultKind::Changed, FaultKind::Cancel}) < judge.Count(),
+                 "nothing that happened makes this another radio");
+    // A radio that never stops to send texts nobody asked for keeps a read, or a hello, going until the user
+    // gives up. A write ends by itself.
+    judge.Expect(!faulty.gaveUp || (judge.Happened({FaultKind::Babble}) &&
+                                    (job.mode != WriteChannelsMode || faulty.index == HelloState)),
+                 "the transfer ended only because the user gave up");
+    allowed(TransferCancelled,
+            judge.Happened({FaultKind::Cancel}) || faulty.gaveUp || (asksMore && !job.acceptsPurge));
     allowed(TransferNoDataSelected, false);
     const bool garbled =
         faulty.spoiltToProgram || faulty.spoiltToRadio ||
@@ -292,18 +278,21 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
     allowed(TransferChecksumError, garbled);
     allowed(TransferCommunicationError,
             garbled || judge.Happened({FaultKind::Refusal, FaultKind::RefusalAlways, FaultKind::EndRecord,
-                                       FaultKind::Twice, FaultKind::LineBefore}));
+                                       FaultKind::Twice, FaultKind::LineBefore, FaultKind::Babble}));
     // A radio that answers late, or only once more, still answers.
     const std::initializer_list<FaultKind> answers = {
         FaultKind::Wait,    FaultKind::Joined,        FaultKind::LineFeed, FaultKind::BusyErasing,
         FaultKind::Refusal, FaultKind::WrongChecksum, FaultKind::Torn,     FaultKind::LateAck};
-    const int happened = static_cast<int>(std::count(faulty.happened.begin(), faulty.happened.end(), true));
+    const int happened = judge.Count();
     allowed(TransferTimeout, judge.Count(answers) < happened);
     if (happened == 1 && judge.Count(answers) == 1)
         judge.Expect(status == clean.status,
                      "the transfer didn't survive one small fault: status " + std::to_string(status));
     allowed(TransferInvalidTransmitData, faulty.forgedToProgram);
-    if (!judge.AnyHappened())
+    if (const Fault* const only = judge.Only(); only && clean.status == TransferComplete)
+        CheckOnly(judge, job, *only, clean, faulty);
+    CheckCancel(judge, faulty);
+    if (happened == 0)
         judge.Expect(status == clean.status, "nothing happened, but the status is " + std::to_string(status) +
                                                  " and not " + std::to_string(clean.status));
     if (judge.Happened({FaultKind::PortTaken}))
@@ -343,8 +332,20 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
                          "as before nor as sent: " +
                              Shown(strangers));
         }
+        if (judge.Digital() && status != TransferComplete && Sends(faulty, "T204000011"))
+            judge.Expect(faulty.world.program.stamp.empty() && faulty.world.program.heldStamp.empty(),
+                         "the radio was purged in vain, but the program goes on to know it");
+        // Another answer can stand in for an acknowledgement that didn't come.
+        if (!judge.Digital() && status == TransferComplete && !faulty.spoiltToProgram &&
+            !judge.Happened({FaultKind::Twice, FaultKind::LineBefore, FaultKind::Delayed}))
+            judge.Expect(faulty.answers >= static_cast<int>(faulty.rowsSent.size()),
+                         "a complete write, but the radio has acknowledged only " +
+                             std::to_string(faulty.answers) + " lines");
         // A purge whose wait message is garbled is sent again, and answered twice.
         const bool busyTwice = faulty.spoiltToProgram && judge.Happened({FaultKind::BusyErasing});
+        if (believable && !lied && !replaced && !busyTwice &&
+            !judge.Happened({FaultKind::Twice, FaultKind::LineBefore}))
+            CheckRowsSent(judge, before, clean, faulty);
         if (status != TransferComplete && believable && !lied && !replaced && !busyTwice &&
             !judge.Happened({FaultKind::Twice})) {
             const auto [later, missing] = FirstGap(before, clean, faulty);
@@ -367,12 +368,17 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         const bool believable =
             judge.Digital()
                 ? !faulty.forgedToProgram
-                : !faulty.spoiltToProgram &&
-                      !judge.Happened({FaultKind::CutLine, FaultKind::Noise, FaultKind::LineBefore});
+                : !faulty.spoiltToProgram && !judge.Happened({FaultKind::CutLine, FaultKind::LineBefore});
         const auto& rows = faulty.world.program.rows;
         const auto& all = clean.world.program.rows;
+        if (judge.Digital() && status != TransferComplete && !faulty.world.program.stamp.empty() &&
+            faulty.world.program.stamp != before.program.stamp)
+            judge.Expect(faulty.world.program.readBrokeOff,
+                         "the program takes what a read has left unfinished for all that the radio holds");
+        if (!judge.Digital() && !faulty.spoiltToProgram && judge.Happened({FaultKind::CutLine}))
+            CheckCutLines(judge, rows, all);
         // An analog radio that falls silent near its last row counts as complete.
-        const bool endedBySilence = !judge.Digital() && faulty.silence >= AnalogSilence;
+        const bool endedBySilence = !judge.Digital() && faulty.silence >= SilenceUntilTimeout(false);
         if (believable) {
             for (const auto& [row, texts] : rows) {
                 const auto found = all.find(row);
@@ -383,7 +389,7 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
             // know: the protocol has no count.
             if (status == TransferComplete && clean.status == TransferComplete &&
                 !judge.Happened({FaultKind::EndRecord, FaultKind::LineBefore}) && !endedBySilence &&
-                !garbledTwice)
+                !LosesLineToNoise(judge) && !garbledTwice)
                 for (const auto& [row, texts] : all)
                     judge.Expect(rows.contains(row),
                                  "a complete read, but memory " + std::to_string(row) + " hasn't come");
@@ -399,88 +405,11 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         faulty.spoiltToRadio || faulty.spoiltToProgram ||
         judge.Happened({FaultKind::Restart, FaultKind::Twice, FaultKind::LineBefore, FaultKind::WrongChecksum,
                         FaultKind::WrongChecksumAlways, FaultKind::MissedSpeed, FaultKind::CutLine,
-                        FaultKind::EndRecord, FaultKind::RefusalAlways}) ||
+                        FaultKind::EndRecord, FaultKind::RefusalAlways, FaultKind::Babble}) ||
         // Cancelled while the radio changes its speed.
         (judge.Happened({FaultKind::Cancel}) && faulty.complaints.starts_with("hears garbage"));
     if (!mayBreach)
         judge.Expect(faulty.violations == 0, "the program broke the protocol: " + faulty.complaints);
-    return judge.Broken();
-}
-
-std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& job, const World& before,
-                                          const Outcome& clean) {
-    Judge judge(scenario, job, before, clean);
-    judge.CheckEnd();
-    judge.CheckTexts();
-    judge.CheckZones();
-    judge.Expect(clean.violations == 0, "the program broke the protocol: " + clean.complaints);
-    judge.Expect(clean.status == TransferComplete || clean.status == TransferCancelled ||
-                     clean.status == TransferNoDataSelected || clean.status == TransferInvalidTransmitData ||
-                     (clean.status == TransferTimeout && !scenario.radio.IsDigital() &&
-                      !scenario.radio.analogHabits.endLine) ||
-                     (clean.status == TransferUnsupported && !scenario.radio.IsDigital()),
-                 "without faults the status is " + std::to_string(clean.status));
-    if (Writes(job.mode))
-        judge.CheckPageOfWrite();
-    if (clean.status != TransferComplete)
-        return judge.Broken();
-
-    const bool refusedModes = !job.acceptsModes && !clean.boxes.empty();
-    // Memories that the old layout has no number for don't travel.
-    const auto travels = [&](int number) {
-        // Without an opening number a radio counts as one of 200 memories.
-        if (const Simulator::AnalogModel* model = scenario.radio.analogModel)
-            return !Writes(job.mode) || model->openingNumber != 0 || number <= 200;
-        return scenario.target->radio != Kdrv716B || scenario.target->firmware[1] == '2' ||
-               number <= RP25Memories || number > NP25Memories;
-    };
-    const auto isMemory = [](const std::string& frequency, double hertz, const std::string& description,
-                             const std::string& text) {
-        return std::abs(std::strtod(frequency.c_str(), nullptr) * 1e6 - hertz) < 50 &&
-               Trimmed(description) == Trimmed(text);
-    };
-    if (Writes(job.mode) && !refusedModes)
-        for (const auto& [row, selected] : job.selected) {
-            const auto found = before.program.rows.find(row);
-            if (found == before.program.rows.end())
-                continue;
-            const RowTexts& texts = found->second;
-            if (!travels(row))
-                continue;
-            bool isThere = false;
-            if (const auto memory = clean.world.radio.digital.memories.find(row);
-                memory != clean.world.radio.digital.memories.end())
-                isThere = isMemory(texts[RFRQ], static_cast<double>(memory->second.rxFrequency),
-                                   memory->second.description, texts[DESC]) &&
-                          isMemory(texts[TFRQ], static_cast<double>(memory->second.txFrequency), "", "");
-            if (const auto memory = clean.world.radio.analog.find(row);
-                memory != clean.world.radio.analog.end())
-                isThere =
-                    isMemory(texts[RFRQ], static_cast<double>(memory->second.rxFrequency) * 100,
-                             memory->second.description, texts[DESC]) &&
-                    isMemory(texts[TFRQ], static_cast<double>(memory->second.txFrequency) * 100, "", "");
-            judge.Expect(isThere, "row " + std::to_string(row) + " isn't in the radio");
-        }
-    if (Writes(job.mode) && scenario.radio.IsDigital() && !refusedModes && !before.program.stamp.empty())
-        for (const auto& [row, held] : before.program.heldRows)
-            judge.Expect(clean.world.radio.digital.memories.contains(row) ||
-                             !before.program.rows.contains(row) ||
-                             !before.radio.digital.memories.contains(row),
-                         "memory " + std::to_string(row) + ", which the program had put there, is gone");
-    if (job.mode == ReadChannelsMode) {
-        const auto& rows = clean.world.program.rows;
-        const auto check = [&](int number, double hertz, const std::string& description) {
-            const auto found = rows.find(number);
-            judge.Expect(found != rows.end() &&
-                             isMemory(found->second[RFRQ], hertz, found->second[DESC], description),
-                         "memory " + std::to_string(number) + " hasn't come as it is");
-        };
-        for (const auto& [number, memory] : before.radio.digital.memories)
-            if (number > 0 && travels(number))
-                check(number, static_cast<double>(memory.rxFrequency), memory.description);
-        for (const auto& [number, memory] : before.radio.analog)
-            check(number, static_cast<double>(memory.rxFrequency) * 100, memory.description);
-    }
     return judge.Broken();
 }
 

@@ -57,7 +57,7 @@ const std::vector<Limit>& Limits() {
         {true, {BusyErasing}, {"purge", "data"}, "the radio erases for a purge or for a row"},
         {true, {PortTaken}, {StartOfTransfer}, "the port is opened before the first state"},
         {false,
-         {BusyFor, WrongChecksum, WrongChecksumAlways, Refusal, RefusalAlways, Wait, Joined, LineFeed,
+         {BusyFor, Babble, WrongChecksum, WrongChecksumAlways, Refusal, RefusalAlways, Wait, Joined, LineFeed,
           EndRecord, MissedSpeed, BusyErasing},
          {},
          "analog radios have no records"},

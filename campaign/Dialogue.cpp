@@ -27,27 +27,33 @@ namespace {
 /// How long the user looks at a box.
 constexpr std::chrono::milliseconds Reading{150};
 
+/// Lines of the program after which the user loses patience, and after which the transfer is given up. No
+/// scenario needs as many.
+constexpr size_t Patience = 1500, LastLine = 2000;
+
 /// What the user sees of a transfer.
 class Display : public TransferProgress {
 public:
-    Display(std::string& last, std::function<void(const std::string&)> told)
-        : m_last(last), m_told(std::move(told)) {}
+    Display(Outcome& outcome, std::function<void(const std::string&)> told)
+        : m_outcome(outcome), m_told(std::move(told)) {}
 
     void SetStatus(const wxString& text) override {
-        m_last = text.utf8_string();
-        m_told(m_last);
+        m_outcome.lastStatus = text.utf8_string();
+        m_told(m_outcome.lastStatus);
     }
-    void AppendStatus(const wxString& text) override { m_last += text.utf8_string(); }
-    void SetRange(int rows) override { m_range = rows; }
-    int Range() const override { return m_range; }
-    void SetValue(int) override {}
+    void AppendStatus(const wxString& text) override { m_outcome.lastStatus += text.utf8_string(); }
+    void SetRange(int rows) override { m_outcome.range = rows; }
+    int Range() const override { return m_outcome.range; }
+    void SetValue(int rows) override {
+        m_outcome.gauge = rows;
+        m_outcome.gaugeIsInRange = m_outcome.gaugeIsInRange && rows >= 0 && rows <= m_outcome.range;
+    }
     void Pulse() override {}
     wxWindow* Window() override { return nullptr; }
 
 private:
-    std::string& m_last;
+    Outcome& m_outcome;
     std::function<void(const std::string&)> m_told;
-    int m_range = 100;
 };
 
 /// The program's port, which remembers what the program writes.
@@ -144,12 +150,14 @@ Outcome RunJob(const Scenario& scenario, const Job& job, const World& world, She
             narrator(time.Milliseconds(), line);
     };
     const bool digital = scenario.radio.IsDigital();
+    outcome.range = sheet.Rows() + 1;
 
     std::set<std::string> written, spoken;
     Lines writtenLines([&](const std::string& line) {
         written.insert(line);
         outcome.sent.push_back(line);
     });
+    int64_t lineBegan = -1;
     const auto isForged = [&](const std::string& line, const std::set<std::string>& genuine) {
         return !genuine.contains(line) && (!digital || Simulator::ParseRecord(line));
     };
@@ -165,8 +173,10 @@ Outcome RunJob(const Scenario& scenario, const Job& job, const World& world, She
     CableClock clock(time, cable);
     context.Clock = &clock;
     outcome.states.resize(job.faults.size());
-    auto display = std::make_unique<Display>(outcome.lastStatus,
-                                             [&](const std::string& text) { tell("shows: " + text); });
+    auto display = std::make_unique<Display>(outcome, [&](const std::string& text) {
+        outcome.shown = time.Milliseconds();
+        tell("shows: " + text);
+    });
     Display* const shown = display.get();
     bool over = false;
     cable.Connect({
@@ -178,6 +188,7 @@ Outcome RunJob(const Scenario& scenario, const Job& job, const World& world, She
                 if (over)
                     return;
                 tell("user presses Cancel");
+                outcome.cancelled = outcome.cancelled < 0 ? time.Milliseconds() : outcome.cancelled;
                 clock.PressCancel(shown->Cancelled);
             },
         .faultHappens =
@@ -205,13 +216,32 @@ Outcome RunJob(const Scenario& scenario, const Job& job, const World& world, She
 
     {
         const User user(job, time, outcome.boxes, tell);
-        auto port = std::make_unique<WatchedPort>(time, cable,
-                                                  [&](std::string_view bytes) { writtenLines.Add(bytes); });
+        const auto watch = [&](std::string_view bytes) {
+            if (lineBegan < 0)
+                lineBegan = time.Milliseconds();
+            const size_t before = outcome.sent.size();
+            writtenLines.Add(bytes);
+            if (outcome.sent.size() == before)
+                return;
+            outcome.sentAt.push_back({lineBegan, time.Milliseconds()});
+            lineBegan = -1;
+            if (outcome.sent.size() > LastLine)
+                throw Endless{};
+            if (outcome.sent.size() == Patience) {
+                outcome.gaveUp = true;
+                clock.PressCancel(shown->Cancelled);
+            }
+        };
+        auto port = std::make_unique<WatchedPort>(time, cable, watch);
         port->open("cable", 9600);
         TransferMeans means{std::move(display), std::move(port)};
-        outcome.status = digital
-                             ? TRecordProtocol::TransferWith(record, sheet.Grid(), job.mode, std::move(means))
-                             : AnalogProtocol::TransferWith(analog, sheet.Grid(), job.mode, std::move(means));
+        try {
+            outcome.status =
+                digital ? TRecordProtocol::TransferWith(record, sheet.Grid(), job.mode, std::move(means))
+                        : AnalogProtocol::TransferWith(analog, sheet.Grid(), job.mode, std::move(means));
+        } catch (const Endless&) {
+            outcome.endless = true;
+        }
         over = true;
     }
     outcome.milliseconds = time.Milliseconds();
@@ -220,6 +250,8 @@ Outcome RunJob(const Scenario& scenario, const Job& job, const World& world, She
     outcome.portIsOpen = cable.IsOpen();
     outcome.isWritten = cable.IsWritten();
     outcome.index = context.Index;
+    outcome.dropped = cable.Dropped();
+    outcome.rowsSent = context.RowsSent;
     for (const wxString& line : context.ConfigLines)
         outcome.configLines.push_back(line.utf8_string());
     outcome.logIsOpen =
@@ -264,6 +296,8 @@ World FirstWorld(const Scenario& scenario, Sheet& sheet) {
         grid->SetCellValue(primary, SCAN, "N");
         grid->SetCellValue(primary, SHD0 + slot, wxString::Format("%03d", shadow));
     }
+    for (const auto& [row, erased] : scenario.erased)
+        grid->SetCellValue(row, TFLG, FlagText(DEF | InRadioFlag | EraseFlag));
     World world{sheet.Save(), scenario.radio};
     world.program.stamp = "";
     world.program.heldStamp = "";
@@ -273,7 +307,11 @@ World FirstWorld(const Scenario& scenario, Sheet& sheet) {
         // As after a read of an empty radio.
         world.program.stamp = world.program.heldStamp =
             wxString::FromUTF8(scenario.radio.digitalHabits.stamp);
-        world.radio.digital.memories.clear();
+        // And of the memories that were erased on the page since.
+        std::erase_if(world.radio.digital.memories,
+                      [&](const auto& memory) { return !scenario.erased.contains(memory.first); });
+        for (const auto& [row, erased] : scenario.erased)
+            world.program.heldRows[row] = true;
     }
     return world;
 }

@@ -5,6 +5,7 @@
 #include "transfer/TransferStatus.h"
 
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,11 @@ namespace Campaign {
 struct World {
     ProgramState program;
     RadioState radio;
+};
+
+/// When a line was written, in milliseconds from the start: its first character and its end.
+struct SentTime {
+    int64_t begin = 0, end = 0;
 };
 
 /// What a transfer did.
@@ -31,10 +37,19 @@ struct Outcome {
     int violations = 0;
     std::string complaints;
     int64_t milliseconds = 0; ///< virtual, for the whole transfer
+    int64_t shown = 0;        ///< milliseconds at which the last text was set in the window
     int64_t silence = 0;      ///< milliseconds from the last byte to the end
     int answers = 0, bytesToRadio = 0, bytesToProgram = 0;
     bool portIsOpen = false, isWritten = true, logIsOpen = false, contextIsClean = true;
+    int dropped = 0;                 ///< bytes that were still to be sent when the port was closed
+    bool endless = false;            ///< the transfer was given up, since not even Cancel ended it
+    bool gaveUp = false;             ///< the user has cancelled a transfer that had sent too many lines
+    int64_t cancelled = -1;          ///< milliseconds at which the user pressed Cancel, -1 if never
+    std::set<int> rowsSent;          ///< TransferContext::RowsSent at its end
+    int gauge = 0, range = 0;        ///< of the progress window: last value, and what is full
+    bool gaugeIsInRange = true;      ///< no value was out of the range
     std::vector<std::string> sent;   ///< lines that the program wrote
+    std::vector<SentTime> sentAt;    ///< times of these lines
     std::vector<std::string> states; ///< of the driver when a fault happened, by fault
 };
 

@@ -28,6 +28,7 @@ enum class FaultKind {
     LineBefore, ///< the radio repeats the message before instead
     Twice,      ///< the radio sends the message twice
     BusyFor,    ///< a wait message first; value: ms between the two. Digital radios only.
+    Babble,     ///< every message from this one on is a text that nobody asked for. Digital radios only.
     // Radio; at: the answer of the transfer, from 1, as the radio counts it
     Silence,
     LateAck,

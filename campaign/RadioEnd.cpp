@@ -1,5 +1,6 @@
 #include "campaign/RadioEnd.h"
 
+#include "simulator/DigitalLists.h"
 #include "simulator/HexRecord.h"
 
 #include <algorithm>
@@ -72,6 +73,10 @@ private:
             m_link.Print(Simulator::WithChecksum("T204000002") + "\r");
             m_link.Pause(std::chrono::milliseconds(busy->value));
         }
+        if (m_digital && (m_babbles || Due(FaultKind::Babble))) {
+            m_babbles = true;
+            return Simulator::WithChecksum(Simulator::TextRecord("MEMORY FULL OF NOTHING")) + "\r";
+        }
         if (m_message > 0 && Due(FaultKind::LineBefore))
             return m_last;
         return std::string(bytes);
@@ -87,6 +92,7 @@ private:
     Simulator::FaultyLink& m_link;
     Cable& m_cable;
     bool m_digital;
+    bool m_babbles = false;
     int m_message = 0;
     std::string m_last;
 };

@@ -143,6 +143,8 @@ std::string Describe(const Scenario& scenario) {
     text << "\n  page:";
     for (const auto& [row, texts] : scenario.rows)
         text << ' ' << row << (scenario.shadows.contains(row) ? " (shadow)" : "");
+    for (const auto& [row, erased] : scenario.erased)
+        text << ' ' << row << " (to be erased)";
     text << "\n  radio:";
     for (const auto& [number, memory] : scenario.radio.digital.memories)
         text << ' ' << number;

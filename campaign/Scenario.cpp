@@ -1,5 +1,6 @@
 #include "campaign/Scenario.h"
 
+#include "catalogue/ChoiceLists.h"
 #include "catalogue/RadioTables.h"
 #include "simulator/DigitalLists.h"
 
@@ -16,6 +17,7 @@ namespace {
 constexpr Target Targets[] = {
     {"KDRV-716", "FM 136-174", Kdrv716, 0, true, 0, "010203"},
     {"KDRV-716", "FM 136-174", Kdrv716, 0, true, 1, "010203"},
+    {"KDRV-716", "FM 136-174", Kdrv716, 0, true, 1, "020103"},
     {"KDRV-716B", "FM 136-174", Kdrv716B, 0, true, 2, "020103"},
     {"KDRV-716B", "FM 136-174", Kdrv716B, 0, true, 2, "010203"},
     {"KRV-21", "FM 30-50", Krv21, 0, false, 0, ""},
@@ -27,10 +29,13 @@ constexpr Target Targets[] = {
     {"KRV-630", "FM 138-174", Krv630, 1, false, 0, ""},
     {"KDRV-8400", "FM 138-174", Kdrv8400, 2, false, 0, ""},
     {"KDRV-4xxx", "FM 138-174", Kdrv4xxx, 2, false, 0, ""},
+    {"KDRV-4xxx", "K6 3-BAND", Kdrv4xxx, ModuleSlot, false, 0, ""},
 };
 
 /// Digital targets come first, and are chosen as often as analog ones.
-constexpr int DigitalTargets = 4;
+constexpr int DigitalTargets = 5;
+
+constexpr int CodeTotal = static_cast<int>(std::size(CodeTexts));
 
 /// A description such as "R12 K".
 std::string Description(Random& random, char prefix, int number, char firstLetter) {
@@ -86,6 +91,7 @@ void ChooseRadio(Random& random, Scenario& scenario) {
         radio.analogHabits.guardNames = random.Chance(30);
         radio.analogHabits.allRows = random.Chance(5);
         radio.analogHabits.endLine = random.Chance(85);
+        radio.analogHabits.confirmsOpening = random.Chance(30);
         if (random.Chance(20))
             radio.analogHabits.banner = "";
     }
@@ -94,8 +100,10 @@ void ChooseRadio(Random& random, Scenario& scenario) {
 }
 
 int LastMemory(const Scenario& scenario) {
-    return scenario.radio.IsDigital() ? RadioRows[scenario.target->radio][0]
-                                      : scenario.radio.analogModel->rows;
+    if (scenario.radio.IsDigital())
+        return RadioRows[scenario.target->radio][0];
+    // Only the first memories of a module are within reach.
+    return std::min(scenario.radio.analogModel->rows, 202);
 }
 
 /// Numbers of memories: the first ones, the guards, and some in between.
@@ -106,12 +114,48 @@ std::vector<int> AnyMemories(Random& random, const Scenario& scenario) {
     for (int i = 0; i < count; ++i)
         chosen[random.Chance(60)   ? random.Between(1, 12)
                : random.Chance(60) ? random.Between(1, last - 2)
-                                   : random.Between(last - 1, last)] = true;
+               : random.Chance(30) ? std::min(random.Between(229, 232), last)
+                                   : random.Between(last - 3, last)] = true;
     std::vector<int> numbers;
     numbers.reserve(chosen.size());
     for (const auto& [number, used] : chosen)
         numbers.push_back(number);
     return numbers;
+}
+
+void FillDigitalCells(Random& random, const Scenario& scenario, RowTexts& texts) {
+    const Simulator::DigitalModel& model = *scenario.radio.digitalModel;
+    const auto letter = [&](std::string_view letters) { return std::string(1, random.Pick(letters)); };
+    const auto hexadecimal = [&](int digits) {
+        char text[16];
+        std::snprintf(text, sizeof text, "%0*X", digits,
+                      static_cast<unsigned>(random.Below(1 << (4 * digits))));
+        return std::string(text);
+    };
+    texts[MODE] = random.Chance(70) ? "n" : random.Chance(50) ? "D" : "w";
+    texts[SCAN] = random.Chance(50) ? "Y" : "N";
+    texts[RSQL] = letter(model.rxSquelch);
+    texts[TSQL] = letter(model.txSquelch);
+    texts[RTON] = random.Pick(CtcssTexts);
+    texts[TTON] = random.Pick(CtcssTexts);
+    texts[RCOD] = random.Pick(CodeTexts);
+    texts[TCOD] = random.Pick(CodeTexts);
+    texts[RTGP] = hexadecimal(4);
+    texts[TTGP] = hexadecimal(4);
+    texts[RNAC] = hexadecimal(3);
+    texts[TNAC] = hexadecimal(3);
+    texts[TIDC] = std::to_string(random.Below(10'000'000));
+    texts[RNSV] = scenario.target->radio == Kdrv716B ? std::to_string(random.Below(16)) : "";
+}
+
+void FillAnalogCells(Random& random, RowTexts& texts) {
+    constexpr const char* modes[] = {"n", "w", "N", "W"};
+    texts[MODE] = random.Pick(modes);
+    texts[SCAN] = std::to_string(random.Below(32));
+    texts[RTON] = random.Pick(ToneTexts);
+    texts[TTON] = random.Pick(ToneTexts);
+    texts[RCOD] = random.Pick(CodeTexts);
+    texts[TCOD] = random.Pick(CodeTexts);
 }
 
 void FillPage(Random& random, Scenario& scenario) {
@@ -122,7 +166,9 @@ void FillPage(Random& random, Scenario& scenario) {
         texts[RFRQ] = Megahertz(AnyFrequency(random, band.low, band.high));
         texts[TFRQ] = Megahertz(AnyFrequency(random, band.low, band.high));
         if (scenario.radio.IsDigital())
-            texts[MODE] = random.Chance(70) ? "n" : random.Chance(50) ? "D" : "w";
+            FillDigitalCells(random, scenario, texts);
+        else
+            FillAnalogCells(random, texts);
     }
     if (!scenario.radio.IsDigital() || !random.Chance(30) || scenario.rows.size() < 2)
         return;
@@ -139,37 +185,75 @@ void FillPage(Random& random, Scenario& scenario) {
     }
 }
 
-void FillRadio(Random& random, Scenario& scenario) {
+Simulator::DigitalMemory AnyDigitalMemory(Random& random, const Scenario& scenario, int number) {
+    const Simulator::DigitalModel& model = *scenario.radio.digitalModel;
     const Band band = BandOf(scenario);
+    Simulator::DigitalMemory memory;
+    memory.address = memory.number = memory.primary = number;
+    memory.description = Description(random, 'r', number, 'a');
+    memory.description.resize(8, ' ');
+    memory.rxFrequency = AnyFrequency(random, band.low, band.high) * 100L;
+    memory.txFrequency = AnyFrequency(random, band.low, band.high) * 100L;
+    memory.zone = random.Below(random.Chance(50) ? 16 : 32);
+    memory.mode = random.Pick(model.modes);
+    constexpr int flags[] = {0, 0x08, 0x40, 0x28, 0x108, 0x260};
+    memory.flags = random.Pick(flags);
+    memory.rxSquelch = random.Pick(model.rxSquelch);
+    memory.txSquelch = random.Pick(model.txSquelch);
+    memory.rxTone = random.Below(43);
+    memory.txTone = random.Below(43);
+    memory.rxCode = random.Below(model.highestCode + 1);
+    memory.txCode = random.Below(model.highestCode + 1);
+    memory.rxNac = random.Below(0x1000);
+    memory.txNac = random.Below(0x1000);
+    memory.rxTalkGroup = random.Below(0x10000);
+    memory.txTalkGroup = random.Below(0x10000);
+    memory.txId = random.Below(10'000'000);
+    memory.squelchValue = random.Below(16);
+    return memory;
+}
+
+Simulator::AnalogMemory AnyAnalogMemory(Random& random, const Scenario& scenario, int number) {
+    const Band band = BandOf(scenario);
+    Simulator::AnalogMemory memory = Simulator::EmptyMemory(*scenario.radio.analogModel, number);
+    memory.description = Description(random, 'r', number, 'a');
+    memory.description.resize(9, ' ');
+    memory.rxFrequency = AnyFrequency(random, band.low, band.high);
+    memory.txFrequency = AnyFrequency(random, band.low, band.high);
+    memory.rxTone = random.Between(1, 64);
+    memory.txTone = random.Between(1, 64);
+    memory.rxCode = random.Chance(50) ? "000" : CodeTexts[random.Between(1, CodeTotal - 1)];
+    memory.txCode = random.Chance(50) ? "000" : CodeTexts[random.Between(1, CodeTotal - 1)];
+    memory.mode = random.Chance(50) ? 'N' : 'W';
+    if (const int lists = random.Below(32)) {
+        memory.scan = "12345";
+        for (size_t list = 0; list < memory.scan.size(); ++list)
+            if (!(lists >> list & 1))
+                memory.scan[list] = '_';
+    }
+    return memory;
+}
+
+void FillRadio(Random& random, Scenario& scenario) {
     for (const int number : AnyMemories(random, scenario)) {
-        const std::string text = Description(random, 'r', number, 'a');
-        const int receive = AnyFrequency(random, band.low, band.high);
-        const int transmit = AnyFrequency(random, band.low, band.high);
-        if (scenario.radio.IsDigital()) {
-            if (number > scenario.radio.digitalModel->highest)
-                continue;
-            Simulator::DigitalMemory memory;
-            memory.address = memory.number = memory.primary = number;
-            memory.description = text;
-            memory.description.resize(8, ' ');
-            memory.zone = random.Below(16);
-            memory.rxFrequency = receive * 100L;
-            memory.txFrequency = transmit * 100L;
-            memory.flags = random.Chance(50) ? 0x08 : 0;
-            memory.rxSquelch = memory.txSquelch = random.Chance(50) ? 'x' : 't';
-            memory.rxTone = memory.txTone = random.Between(1, 42);
-            memory.rxCode = memory.txCode = random.Between(1, 40);
-            memory.rxNac = random.Below(0x1000);
-            memory.rxTalkGroup = random.Below(0x10000);
-            scenario.radio.digital.memories[number] = memory;
-        } else {
-            Simulator::AnalogMemory memory = Simulator::EmptyMemory(*scenario.radio.analogModel, number);
-            memory.description = text;
-            memory.description.resize(9, ' ');
-            memory.rxFrequency = receive;
-            memory.txFrequency = transmit;
-            scenario.radio.analog[number] = memory;
-        }
+        if (!scenario.radio.IsDigital())
+            scenario.radio.analog[number] = AnyAnalogMemory(random, scenario, number);
+        else if (number <= scenario.radio.digitalModel->highest)
+            scenario.radio.digital.memories[number] = AnyDigitalMemory(random, scenario, number);
+    }
+}
+
+/// A known radio holds some memories that the user has emptied on the page, to be erased.
+void ChooseErasures(Random& random, Scenario& scenario) {
+    if (!scenario.radio.IsDigital() || !scenario.knowsRadio || !random.Chance(40))
+        return;
+    const int count = random.Between(1, 3);
+    for (int i = 0; i < count; ++i) {
+        const int row = random.Between(2, random.Chance(70) ? 14 : 229);
+        if (scenario.rows.contains(row))
+            continue;
+        scenario.erased[row] = true;
+        scenario.radio.digital.memories[row] = AnyDigitalMemory(random, scenario, row);
     }
 }
 
@@ -188,6 +272,9 @@ Job AnyJob(Random& random, const Scenario& scenario) {
     else
         job.mode = random.Chance(50) ? ReadDebugLogMode : ReadInformationMode;
     for (const auto& [row, texts] : scenario.rows)
+        if (random.Chance(85))
+            job.selected[row] = true;
+    for (const auto& [row, erased] : scenario.erased)
         if (random.Chance(85))
             job.selected[row] = true;
     job.acceptsModes = random.Chance(80);
@@ -231,6 +318,7 @@ Scenario MakeScenario(uint64_t seed) {
     FillPage(random, scenario);
     FillRadio(random, scenario);
     scenario.knowsRadio = random.Chance(50);
+    ChooseErasures(random, scenario);
     const int jobs = random.Chance(60) ? 1 : random.Between(2, 3);
     for (int i = 0; i < jobs; ++i)
         scenario.jobs.push_back(AnyJob(random, scenario));

@@ -39,6 +39,8 @@ struct Scenario {
     RadioState radio;
     std::map<int, RowTexts> rows; ///< cells that differ from those of a row filled from the default row
     std::map<int, int> shadows;   ///< shadow rows with their primaries
+    /// Rows without a memory that the user wants erased in a radio that the program knows.
+    std::map<int, bool> erased;
     std::vector<Job> jobs;
     bool knowsRadio = false; ///< the radio's stamp is known to the program
 };

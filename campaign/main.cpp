@@ -17,13 +17,15 @@ constexpr int ExitBroken = 1;
 constexpr int ExitUsage = 2;
 
 int Usage() {
-    std::fputs("zelk-campaign run FIRST COUNT      runs COUNT seeds from FIRST on\n"
-               "zelk-campaign report SECONDS       adds up what runs have printed, from standard input;\n"
-               "                                   SECONDS is how long they took together\n"
-               "zelk-campaign replay SEED [...]    runs one seed and prints its dialogue;\n"
-               "                                   --jobs N, --rows N and --faults LIST as a failing run\n"
-               "                                   printed them leave out the rest\n",
-               stderr);
+    std::fputs(
+        "zelk-campaign run FIRST COUNT [--until-broken]\n"
+        "                                   runs COUNT seeds from FIRST on, or until one breaks a condition\n"
+        "zelk-campaign report SECONDS       adds up what runs have printed, from standard input;\n"
+        "                                   SECONDS is how long they took together\n"
+        "zelk-campaign replay SEED [...]    runs one seed and prints its dialogue;\n"
+        "                                   --jobs N, --rows N and --faults LIST as a failing run\n"
+        "                                   printed them leave out the rest\n",
+        stderr);
     return ExitUsage;
 }
 
@@ -40,7 +42,7 @@ double SecondsSince(std::chrono::steady_clock::time_point start) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-int Run(uint64_t first, uint64_t count) {
+int Run(uint64_t first, uint64_t count, bool untilBroken) {
     Runner runner;
     Totals totals;
     const auto start = std::chrono::steady_clock::now();
@@ -51,6 +53,8 @@ int Run(uint64_t first, uint64_t count) {
             continue;
         ++totals.broken;
         PrintBroken(runner, seed, verdict);
+        if (untilBroken)
+            break;
     }
     AddCoverage(totals, runner.Covered());
     std::fputs(CoverageLines(totals).c_str(), stdout);
@@ -104,8 +108,9 @@ int main(int argc, char** argv) {
         if (arguments[0] == "report" && arguments.size() == 2)
             return Report(std::stod(arguments[1]));
         StartWithoutDisplay();
-        if (arguments[0] == "run" && arguments.size() == 3)
-            return Run(std::stoull(arguments[1]), std::stoull(arguments[2]));
+        const bool untilBroken = arguments.size() == 4 && arguments[3] == "--until-broken";
+        if (arguments[0] == "run" && (arguments.size() == 3 || untilBroken))
+            return Run(std::stoull(arguments[1]), std::stoull(arguments[2]), untilBroken);
         if (arguments[0] == "replay")
             return Replay(std::stoull(arguments[1]), {arguments.begin() + 2, arguments.end()});
         return Usage();

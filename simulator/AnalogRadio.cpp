@@ -102,12 +102,15 @@ bool AnalogRadio::TakeMemoryCommand(const std::string& text) {
     if (write && !m_model.writable)
         return false;
     m_link.BeginTransfer();
-    if (write)
+    if (write) {
         m_state = State::Writing;
-    else if (m_model.openingNumber != 0)
+        if (m_habits.confirmsOpening)
+            m_link.Print(AcknowledgementByte());
+    } else if (m_model.openingNumber != 0) {
         m_state = State::Blank;
-    else
+    } else {
         SendMemories();
+    }
     return true;
 }
 
@@ -128,8 +131,11 @@ void AnalogRadio::TakeLine(const std::string& line) {
 }
 
 void AnalogRadio::Confirm() {
-    const char byte = m_habits.parity == Parity::Bytes ? Marked(Acknowledge) : Acknowledge;
-    m_link.Answer(std::string_view(&byte, 1), AnswerKind::Acknowledgement);
+    m_link.Answer(AcknowledgementByte(), AnswerKind::Acknowledgement);
+}
+
+std::string AnalogRadio::AcknowledgementByte() const {
+    return {m_habits.parity == Parity::Bytes ? Marked(Acknowledge) : Acknowledge};
 }
 
 void AnalogRadio::TakeEndLine(const std::string& line) {

@@ -25,6 +25,7 @@ struct AnalogHabits {
     bool guardNames = false;           ///< sends guards as GD1 and GD2
     bool allRows = false;              ///< also sends empty memories
     bool endLine = true;               ///< sends an end line after the list
+    bool confirmsOpening = false;      ///< acknowledges the command of a write, like a line
     Parity parity = Parity::None;
     std::chrono::milliseconds keyDelay{500};
     std::string memoryFile; ///< empty: memories are not kept
@@ -59,6 +60,7 @@ private:
     void TakeEndLine(const std::string& line);
     void SendMemories();
     void Confirm();
+    std::string AcknowledgementByte() const;
     std::string OnTheWire(std::string_view line, size_t plain) const;
     std::string NumberText(int number) const;
 

@@ -206,6 +206,11 @@ void DigitalRadio::SendAgain() {
         SendNext();
         return;
     }
+    // The end record that is due instead of the next memory can come instead of a repetition.
+    if (m_list == List::Memories && m_link.Plays(FaultKind::End, m_link.NextAnswer())) {
+        EndList();
+        return;
+    }
     m_repeated = true;
     if (m_list == List::Memories)
         m_replies.RepeatRecord(m_bodies[m_next - 1]);

@@ -55,7 +55,8 @@ TEST_F(CampaignRun, ReachesEveryKindOfFaultOnBothSides) {
     for (int kind = 0; kind < FaultKinds; ++kind) {
         const FaultKind each = static_cast<FaultKind>(kind);
         EXPECT_TRUE(kinds.contains({true, each})) << NameOf(each);
-        const bool needsRecords = each == FaultKind::BusyFor || each == FaultKind::MissedSpeed ||
+        const bool needsRecords = each == FaultKind::BusyFor || each == FaultKind::Babble ||
+                                  each == FaultKind::MissedSpeed ||
                                   (each >= FaultKind::WrongChecksum && each <= FaultKind::BusyErasing);
         EXPECT_EQ(kinds.contains({false, each}), !needsRecords) << NameOf(each);
     }

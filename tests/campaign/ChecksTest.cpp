@@ -111,6 +111,8 @@ TEST_F(CampaignChecks, NoticeAWrongBoxAndAWrongStatus) {
                       outcome.status = TransferCancelled;
                       outcome.lastStatus = "Transfer Cancelled.";
                       outcome.boxes.pop_back();
+                      outcome.sent.push_back("T9030000FC");
+                      outcome.sentAt.push_back(outcome.sentAt.back());
                   },
                   silence),
               "nothing that happened gives status 10");

@@ -3,6 +3,7 @@
 #include "tests/campaign/CampaignTools.h"
 
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -34,7 +35,7 @@ protected:
     static Scenario Read() {
         Scenario scenario = FirstScenario([](const Scenario& each) {
             return each.radio.IsDigital() && each.jobs[0].mode == ReadChannelsMode &&
-                   each.target->protocol == 0;
+                   each.target->protocol == 0 && !each.knowsRadio;
         });
         scenario.jobs.resize(1);
         scenario.jobs[0].faults.clear();
@@ -116,6 +117,91 @@ TEST_F(CampaignChecks, NoticeAWrongBoxAndAWrongStatus) {
                   },
                   silence),
               "nothing that happened gives status 10");
+}
+
+/// The first sentence about a transfer without faults whose outcome was falsified.
+std::string SentenceWithoutFaults(const Scenario& scenario, const std::function<void(Outcome&)>& falsify) {
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    const World world = FirstWorld(scenario, sheet);
+    Job job = scenario.jobs.at(0);
+    job.faults.clear();
+    Outcome clean = RunJob(scenario, job, world, sheet);
+    falsify(clean);
+    const std::vector<std::string> sentences = BrokenConditions(scenario, job, world, clean);
+    return sentences.empty() ? "" : sentences.front();
+}
+
+TEST_F(CampaignChecks, NoticeEachFieldOfAMemoryThatIsWrong) {
+    const auto memory = [](Outcome& outcome) -> Simulator::DigitalMemory& {
+        return outcome.world.radio.digital.memories.begin()->second;
+    };
+    const Scenario scenario = WriteToUnknownRadio(2);
+    EXPECT_EQ(SentenceWithoutFaults(scenario, [](Outcome&) {}), "");
+    const std::vector<std::pair<std::string, std::function<void(Outcome&)>>> cases = {
+        {"flags", [&](Outcome& outcome) { memory(outcome).flags ^= 0x40; }},
+        {"zone", [&](Outcome& outcome) { memory(outcome).zone ^= 1; }},
+        {"receive tone", [&](Outcome& outcome) { memory(outcome).rxTone += 1; }},
+        {"transmit code", [&](Outcome& outcome) { memory(outcome).txCode += 1; }},
+        {"transmit NAC", [&](Outcome& outcome) { memory(outcome).txNac ^= 1; }},
+        {"squelch value", [&](Outcome& outcome) { memory(outcome).squelchValue ^= 1; }},
+    };
+    for (const auto& [field, falsify] : cases)
+        EXPECT_NE(SentenceWithoutFaults(scenario, falsify).find("of the radio: " + field), std::string::npos)
+            << field;
+}
+
+TEST_F(CampaignChecks, NoticeACellThatIsNotTheRadiosMemory) {
+    for (const Column column : {MNUM, SCAN, ZONE, MODE, RSQL, RNSV, RTON, RTGP, TCOD, TIDC})
+        EXPECT_NE(
+            SentenceWithoutFaults(
+                Read(), [&](Outcome& outcome) { outcome.world.program.rows.rbegin()->second[column] = "?"; })
+                .find(std::string(ColumnTag[column]) + " is \"?\""),
+            std::string::npos)
+            << ColumnTag[column];
+}
+
+TEST_F(CampaignChecks, NoticeWhatAWriteTellsWrongly) {
+    const Scenario scenario = WriteToUnknownRadio(2);
+    EXPECT_TRUE(SentenceWithoutFaults(scenario, [](Outcome& outcome) {
+                    outcome.rowsSent.erase(outcome.rowsSent.begin());
+                }).starts_with("these rows count as sent"));
+    EXPECT_TRUE(SentenceWithoutFaults(scenario, [](Outcome& outcome) {
+                    outcome.gauge = 1;
+                }).starts_with("the gauge shows 1"));
+    EXPECT_TRUE(SentenceWithoutFaults(scenario, [](Outcome& outcome) {
+                    outcome.world.program.heldRows.clear();
+                }).starts_with("the program takes the radio to hold these rows: none"));
+    EXPECT_EQ(SentenceWithoutFaults(scenario, [](Outcome& outcome) { outcome.world.program.stamp = ""; }),
+              "the program doesn't know the radio after a complete write");
+    EXPECT_EQ(
+        SentenceWithoutFaults(scenario, [](Outcome& outcome) { outcome.boxes.push_back("This radio"); }),
+        "the question whether to purge the radio");
+}
+
+TEST_F(CampaignChecks, NoticeAMissingLineAndAMissingPause) {
+    const Scenario scenario = WriteToUnknownRadio(2);
+    EXPECT_EQ(SentenceWithoutFaults(scenario,
+                                    [](Outcome& outcome) {
+                                        outcome.sent.erase(outcome.sent.begin() + 4);
+                                        outcome.sentAt.erase(outcome.sentAt.begin() + 4);
+                                    })
+                  .substr(0, 18),
+              "line 5 is \"T204000");
+    // The fourth line asks for another speed.
+    EXPECT_TRUE(SentenceWithoutFaults(scenario, [](Outcome& outcome) {
+                    outcome.sentAt[4].begin = outcome.sentAt[3].end + 49;
+                }).starts_with("the radio had no time to change its speed"));
+    EXPECT_EQ(SentenceWithoutFaults(scenario, [](Outcome& outcome) { outcome.sent.back() = "T204000000FB"; }),
+              "the radio wasn't told that the transfer is over");
+}
+
+TEST_F(CampaignChecks, NoticeATransferThatDoesNotEnd) {
+    EXPECT_EQ(FirstSentence(WriteToUnknownRadio(2), [](Outcome& outcome) { outcome.endless = true; }),
+              "not even Cancel ended the transfer");
+    EXPECT_EQ(FirstSentence(WriteToUnknownRadio(2), [](Outcome& outcome) { outcome.gaveUp = true; }),
+              "the transfer ended only because the user gave up");
+    EXPECT_EQ(FirstSentence(WriteToUnknownRadio(2), [](Outcome& outcome) { outcome.dropped = 3; }),
+              "3 bytes were still to be sent when the port was closed");
 }
 
 TEST_F(CampaignChecks, NoticeWhatATransferLeavesBehind) {

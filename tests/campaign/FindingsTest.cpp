@@ -198,6 +198,85 @@ TEST_F(Finding, LineOfAConfigurationThatComesTwiceIsTakenOnce) {
     EXPECT_EQ(faulty.configLines, clean.configLines);
 }
 
+TEST_F(Finding, ZeroThatIsGarbledInTheStampMakesNoOtherRadio) {
+    Scenario scenario = FirstScenario([](const Scenario& each) {
+        return each.radio.IsDigital() && each.target->protocol == 0 && each.knowsRadio &&
+               each.radio.digitalHabits.modes == 0x70 && each.shadows.empty() && each.rows.size() >= 2 &&
+               each.radio.digitalHabits.stamp == "20200101000000" && each.jobs[0].mode == WriteChannelsMode &&
+               each.jobs[0].selected.size() == 1;
+    });
+    scenario.jobs.resize(1);
+    const int byte = FirstByteOf(scenario, "T20B000021");
+    ASSERT_GT(byte, 0);
+    // The last byte of the stamp is 00. What isn't hexadecimal would add nothing to the checksum either.
+    const auto [clean, faulty] =
+        CleanAndFaulty(scenario, {{FaultKind::Changed, Side::ToProgram, byte + 23, 0x40}});
+    EXPECT_EQ(clean.status, TransferComplete);
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_EQ(faulty.boxes, clean.boxes) << "the user was asked to purge a radio that the program knows";
+    EXPECT_TRUE(faulty.world.radio.HoldsTheSame(clean.world.radio));
+}
+
+TEST_F(Finding, MemoryThatHasLostTwoZerosIsAskedForAgain) {
+    Scenario scenario = ReadWithHardware();
+    // Two zeros before the frequency: the checksum stays as it was, all that follows moves.
+    scenario.radio.digital.memories.begin()->second.flags = 0;
+    const int byte = FirstByteOf(scenario, "T143");
+    ASSERT_GT(byte, 0);
+    const auto [clean, faulty] = CleanAndFaulty(scenario, {{FaultKind::Lost, Side::ToProgram, byte + 8, 2}});
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_EQ(faulty.world.program.rows, clean.world.program.rows);
+}
+
+TEST_F(Finding, EndInPlaceOfARepetitionIsNoCompleteRead) {
+    const auto [clean, faulty] =
+        CleanAndFaulty(ReadWithHardware(), {{FaultKind::WrongChecksum, Side::ToProgram, 1},
+                                            {FaultKind::EndRecord, Side::ToProgram, 2}});
+    EXPECT_EQ(clean.status, TransferComplete);
+    EXPECT_EQ(faulty.happened, (std::vector{true, true}));
+    EXPECT_EQ(faulty.status, TransferChecksumError);
+    EXPECT_TRUE(faulty.world.program.readBrokeOff);
+}
+
+TEST_F(Finding, RadioThatAnswersEveryLineWithATextEndsTheWrite) {
+    for (const int protocol : {0, 2}) {
+        const Scenario scenario = WriteToUnknownRadio(protocol);
+        const auto [clean, faulty] =
+            CleanAndFaulty(scenario, {{FaultKind::Babble, Side::ToProgram, PurgeAnswer(scenario) + 1}});
+        EXPECT_EQ(faulty.happened, std::vector{true});
+        EXPECT_EQ(faulty.status, TransferCommunicationError) << "protocol " << protocol;
+        EXPECT_FALSE(faulty.gaveUp) << "protocol " << protocol;
+    }
+}
+
+/// A read of channels from an analog radio of the long form that sends memories 1, 12 and some more.
+Scenario AnalogRead() {
+    Scenario scenario = FirstScenario([](const Scenario& each) {
+        return !each.radio.IsDigital() && each.jobs[0].mode == ReadChannelsMode &&
+               !each.radio.analogHabits.shortForm && each.radio.analogHabits.endLine &&
+               each.radio.analogHabits.parity == Simulator::Parity::None && each.radio.analog.contains(1) &&
+               each.radio.analog.contains(12);
+    });
+    scenario.jobs.resize(1);
+    scenario.jobs[0].faults.clear();
+    return scenario;
+}
+
+TEST_F(Finding, AnalogLineThatHasLostADigitOfItsNumberNamesNoRow) {
+    const Scenario scenario = AnalogRead();
+    const int byte = FirstByteOf(scenario, "012 ");
+    ASSERT_GT(byte, 0);
+    // "012 " becomes "01 ".
+    const auto [clean, faulty] = CleanAndFaulty(scenario, {{FaultKind::Lost, Side::ToProgram, byte + 2, 1}});
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferComplete);
+    auto expected = clean.world.program.rows;
+    EXPECT_EQ(expected.erase(12), 1U);
+    EXPECT_EQ(faulty.world.program.rows, expected);
+}
+
 TEST_F(Finding, AnalogAcknowledgementThatIsSentTwiceDoesNotCountForTheNextLine) {
     Scenario scenario = FirstScenario([](const Scenario& each) {
         return !each.radio.IsDigital() && each.rows.size() >= 3 && each.rows.rbegin()->first <= 200 &&

@@ -244,6 +244,11 @@ std::vector<std::string> NeverReached(const Totals& totals) {
     return pairs;
 }
 
+bool IsLongEnough(const Totals& totals) {
+    constexpr long enough = 250'000;
+    return totals.dialogues >= enough;
+}
+
 std::vector<std::string> ReachedTogether(const Totals& totals) {
     std::vector<std::string> pairs;
     EachPair(totals, [&](const std::string& pair, long count, bool canHappen) {

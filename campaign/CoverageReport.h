@@ -35,6 +35,9 @@ std::string CoverageTables(const Totals& totals);
 /// Pairs that one fault alone can reach and that weren't reached, such as "digital, purge, busy-for".
 std::vector<std::string> NeverReached(const Totals& totals);
 
+/// True after as many dialogues as it takes to reach every pair: what is still missing is a finding.
+bool IsLongEnough(const Totals& totals);
+
 /// Pairs that no fault can reach alone, but several together have reached.
 std::vector<std::string> ReachedTogether(const Totals& totals);
 

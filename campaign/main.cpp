@@ -69,10 +69,11 @@ int Report(double seconds) {
     std::fputs(CoverageTables(totals).c_str(), stdout);
     for (const std::string& pair : ReachedTogether(totals))
         std::printf("by several faults together: %s\n", pair.c_str());
-    for (const std::string& pair : NeverReached(totals))
+    const std::vector<std::string> missing = NeverReached(totals);
+    for (const std::string& pair : missing)
         std::printf("never reached: %s\n", pair.c_str());
     std::fputs(TotalLine(totals, seconds).c_str(), stdout);
-    return totals.broken ? ExitBroken : 0;
+    return totals.broken || (IsLongEnough(totals) && !missing.empty()) ? ExitBroken : 0;
 }
 
 int Replay(uint64_t seed, const std::vector<std::string>& arguments) {

@@ -50,6 +50,14 @@ TEST(CoverageReport, NamesPairsUntilTheyAreReached) {
     EXPECT_FALSE(Names(NeverReached(totals), "analog, sending, late-ack"));
 }
 
+TEST(CoverageReport, IsLongEnoughAfterAQuarterOfAMillionDialogues) {
+    Totals totals;
+    totals.dialogues = 249'999;
+    EXPECT_FALSE(IsLongEnough(totals));
+    ++totals.dialogues;
+    EXPECT_TRUE(IsLongEnough(totals));
+}
+
 TEST(CoverageReport, CountsATakenPortBeforeTheFirstState) {
     Totals totals;
     EXPECT_TRUE(Names(NeverReached(totals), "digital, start, port-taken"));

@@ -1,4 +1,4 @@
-// The script that runs campaigns on all cores.
+// The scripts around campaigns: the one that runs them on all cores, and the one that changes the drivers.
 #include "robot/Files.h"
 #include "robot/Process.h"
 
@@ -118,6 +118,11 @@ TEST_F(CampaignScript, RefusesWhatIsNoNumberOfSeeds) {
                                                       {"--from-commit", "10", "1"}})
         EXPECT_EQ(Run(arguments).code, 2);
     EXPECT_EQ(State(), "");
+}
+
+TEST(MutationScript, FindsTheLinesOfEachMutationInItsSource) {
+    Process script({ZELK_SOURCE_DIR "/tools/mutate", "--check"});
+    EXPECT_EQ(script.WaitForExit(100'000).value_or(-1), 0) << script.Output();
 }
 
 } // namespace

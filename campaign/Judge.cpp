@@ -175,11 +175,7 @@ void Judge::CheckPauses() {
 }
 
 void Judge::CheckDigitalPauses() {
-    const auto isShadow = [](const std::string& line) {
-        // The flags: one byte with the mark of a guard in the first layout, two in the second one. Both have
-        // the place of a shadow in their low bits.
-        return line.starts_with("T143") && line.size() > 12;
-    };
+    const auto isMemory = [](const std::string& line) { return line.starts_with("T143") && line.size() > 8; };
     for (size_t i = 1; i < m_outcome.sent.size(); ++i) {
         const std::string &line = m_outcome.sent[i - 1], &next = m_outcome.sent[i];
         const int64_t pause = m_outcome.sentAt[i].begin - m_outcome.sentAt[i - 1].end;
@@ -188,8 +184,8 @@ void Judge::CheckDigitalPauses() {
             Expect(pause >= SpeedPause, "the radio had no time to change its speed before " + next);
         if (line.starts_with("T007") && next.starts_with("T007") && next != line)
             Expect(pause >= HelloPause, "the next protocol was offered at once");
-        // A pass begins again at a lower number.
-        if (isShadow(line) && isShadow(next) && next.substr(4, 4) < line.substr(4, 4))
+        // The pass over the shadows begins again at a lower number.
+        if (isMemory(line) && isMemory(next) && next.substr(4, 4) < line.substr(4, 4))
             Expect(pause >= ShadowPause, "no pause between primaries and shadows");
     }
 }

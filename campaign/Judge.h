@@ -9,12 +9,11 @@
 
 namespace Campaign {
 
-/// Checks of every transfer, with faults or without. The scenario, the job and both worlds must outlive it.
+/// Checks of every transfer, with faults or without. The job, the world and the outcome must outlive it.
 class Judge {
 public:
     Judge(const Scenario& scenario, const Job& job, const World& before, const Outcome& outcome)
-        : m_scenario(scenario), m_job(job), m_before(before), m_outcome(outcome),
-          m_digital(scenario.radio.IsDigital()) {}
+        : m_job(job), m_before(before), m_outcome(outcome), m_digital(scenario.radio.IsDigital()) {}
 
     /// A sentence for each broken condition.
     const std::vector<std::string>& Broken() const { return m_broken; }
@@ -49,7 +48,6 @@ private:
     void CheckDigitalPauses();
     void CheckAnalogPauses();
 
-    const Scenario& m_scenario;
     const Job& m_job;
     const World& m_before;
     const Outcome& m_outcome;

@@ -1,4 +1,5 @@
 // Dialogues that campaigns have found to lose memories.
+#include "catalogue/MemoryRow.h"
 #include "tests/campaign/CampaignTools.h"
 
 namespace {
@@ -66,6 +67,30 @@ TEST_F(Finding, RefusalOfAMiddleRowAfterADoubledAnswerIsNoCompleteWrite) {
         EXPECT_EQ(faulty.status, TransferCommunicationError);
 }
 
+TEST_F(Finding, RefusalOfTheLastPrimaryAfterADoubledAnswerIsNoCompleteWrite) {
+    Scenario scenario = WriteToUnknownRadio(0);
+    // The refusal of the second primary comes in the pause before the shadow.
+    scenario.shadows[scenario.rows.rbegin()->first] = scenario.rows.begin()->first;
+    const auto [clean, faulty] =
+        CleanAndFaulty(scenario, {{FaultKind::Twice, Side::ToProgram, PurgeAnswer(scenario)},
+                                  {FaultKind::Changed, Side::ToRadio, RecordByte(scenario, 1) + 20, 0x40}});
+    EXPECT_EQ(clean.status, TransferComplete);
+    EXPECT_EQ(faulty.happened, (std::vector{true, true}));
+    EXPECT_LT(faulty.world.radio.digital.memories.size(), clean.world.radio.digital.memories.size());
+    EXPECT_EQ(faulty.status, TransferCommunicationError);
+}
+
+TEST_F(Finding, RadioThatIsNotTheKnownOneIsPurged) {
+    const Scenario scenario = WriteToUnknownRadio(2);
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    World world = FirstWorld(scenario, sheet);
+    world.program.stamp = world.program.heldStamp = "20110203040506"; // of another radio
+    const Outcome clean = RunJob(scenario, scenario.jobs[0], world, sheet);
+    EXPECT_EQ(BrokenConditions(scenario, scenario.jobs[0], world, clean), std::vector<std::string>{});
+    EXPECT_EQ(clean.status, TransferComplete);
+    EXPECT_EQ(clean.world.radio.digital.memories.size(), scenario.rows.size());
+}
+
 TEST_F(Finding, DoubledAnswerAloneStillCompletesTheWrite) {
     for (const int protocol : {0, 2}) {
         const Scenario scenario = WriteToUnknownRadio(protocol);
@@ -115,6 +140,18 @@ TEST_F(Finding, DoubledRefusalOfAHelloDoesNotShiftTheProtocol) {
         CleanAndFaulty(ReadWithHardware(), {{FaultKind::Twice, Side::ToProgram, 1},
                                             {FaultKind::NoiseAfter, Side::ToRadio, 57, 7}});
     EXPECT_TRUE(faulty.happened[0]);
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_EQ(faulty.world.program.rows, clean.world.program.rows)
+        << "records of the new layout were read in the old one";
+}
+
+TEST_F(Finding, ProtocolComesRoundAgainAfterAGarbledHello) {
+    // The third hello offers protocol 2. Refused, it is offered again after all the others.
+    constexpr int hello = 19;
+    const auto [clean, faulty] =
+        CleanAndFaulty(ReadWithHardware(), {{FaultKind::Changed, Side::ToRadio, 2 * hello + 8, 0x40}});
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_GT(faulty.sent.size(), 256U);
     EXPECT_EQ(faulty.status, TransferComplete);
     EXPECT_EQ(faulty.world.program.rows, clean.world.program.rows)
         << "records of the new layout were read in the old one";
@@ -275,6 +312,20 @@ TEST_F(Finding, AnalogLineThatHasLostADigitOfItsNumberNamesNoRow) {
     auto expected = clean.world.program.rows;
     EXPECT_EQ(expected.erase(12), 1U);
     EXPECT_EQ(faulty.world.program.rows, expected);
+}
+
+TEST_F(Finding, AnalogLineThatBreaksOffWithinAFrequencyBringsNone) {
+    const Scenario scenario = AnalogRead();
+    const int byte = FirstByteOf(scenario, "012 ");
+    ASSERT_GT(byte, 0);
+    // Only "146." or the like is left of the receive frequency, and nothing of what follows.
+    const auto [clean, faulty] = CleanAndFaulty(
+        scenario, {{FaultKind::Lost, Side::ToProgram, byte + 18, Simulator::LongLineLength - 18}});
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferComplete);
+    const auto& rows = faulty.world.program.rows;
+    for (const Column column : {RFRQ, TFRQ, RTON, TTON, RCOD, TCOD})
+        EXPECT_EQ(rows.at(12)[column], rows.at(0)[column]) << ColumnTag[column];
 }
 
 TEST_F(Finding, AnalogAcknowledgementThatIsSentTwiceDoesNotCountForTheNextLine) {

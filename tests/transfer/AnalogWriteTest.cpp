@@ -222,7 +222,6 @@ TEST_F(AnalogWrite, EndsWithAClickOnItsCancelButton) {
     });
     const DialogScript noBox;
     EXPECT_EQ(Transfer(WriteChannelsMode, peer), TransferCancelled);
-    EXPECT_LT(m_took.count(), 4000);
 }
 
 TEST_F(AnalogWrite, MovesTheMainGaugeToTheRow) {

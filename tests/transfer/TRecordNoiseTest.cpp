@@ -94,7 +94,7 @@ TEST_F(TRecordDriver, ChangesItsSpeedFiftyMillisecondsAfterTheRadioHasAgreed) {
     EXPECT_EQ(ConverseOn(peer.PortName(), ReadChannelsMode), TransferTimeout);
     peer.Finish();
     EXPECT_GE(pause, milliseconds(50));
-    EXPECT_LT(pause, std::chrono::seconds(10)) << "the speed was never changed";
+    EXPECT_LE(pause, milliseconds(51));
 }
 
 TEST_F(TRecordDriver, BeginsWithTheShadowsHalfASecondAfterTheLastPrimary) {

@@ -164,7 +164,7 @@ TEST(MarkdownPages, AreFound) {
     }
     for (const char* name :
          {"README.md", "CONTRIBUTING.md", "CHANGELOG.md", "docs/DEVELOPING.md", "docs/decisions.md",
-          "docs/recipes.md", "docs/zelk-radio.md", "docs/guide/README.md"})
+          "docs/recipes.md", "docs/testing.md", "docs/zelk-radio.md", "docs/guide/README.md"})
         EXPECT_TRUE(names.count(name)) << name;
 }
 

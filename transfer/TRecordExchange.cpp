@@ -33,7 +33,7 @@ void DropStaleAnswers(TRecordDialogue& dialogue) {
         WriteTransferLog(context.LogFile, "<" + context.RxBuffer);
     // What a hello leaves behind says nothing about the rows.
     if (context.Index != HelloState) {
-        if (context.RxBuffer.Contains("T2") && context.RxBuffer.Contains("\r"))
+        if (context.RxBuffer.Contains("T2"))
             dialogue.extraAnswers = true;
         if (context.RxBuffer.Contains(NakRecord))
             ++dialogue.refusals;

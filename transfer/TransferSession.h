@@ -32,7 +32,7 @@ public:
     /// @param context must outlive the session
     TransferSession(TransferContext& context, TransferMeans means);
 
-    /// Waits up to 200 ms for queued data to reach the radio.
+    /// Waits up to half a second for queued data to reach the radio.
     ~TransferSession();
 
     TransferSession(const TransferSession&) = delete;

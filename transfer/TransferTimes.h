@@ -7,8 +7,8 @@ namespace TransferTimes {
 
 /// How long the progress window shows that a transfer is complete.
 inline constexpr int ResultPause = 1000;
-/// Limit for sending queued data when the port is closed.
-inline constexpr int LastWordsTimeout = 200;
+/// Limit for sending queued data when the port is closed: two records at 9600 baud and the end record.
+inline constexpr int LastWordsTimeout = 500;
 
 // ---- Analog radios ----
 

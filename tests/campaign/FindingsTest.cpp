@@ -102,6 +102,34 @@ TEST_F(Finding, DoubledAnswerAloneStillCompletesTheWrite) {
     }
 }
 
+TEST_F(Finding, RefusalBeforeATornAnswerAfterADoubledOneIsNoCompleteWrite) {
+    // Of the torn answer only the beginning has arrived when the program drops what is stale.
+    const Scenario scenario = WriteToUnknownRadio(1);
+    const int answer = static_cast<int>(scenario.rows.size()) - 1;
+    const auto [clean, faulty] =
+        CleanAndFaulty(scenario, {{FaultKind::Twice, Side::ToProgram, PurgeAnswer(scenario)},
+                                  {FaultKind::Refusal, Side::ToProgram, answer},
+                                  {FaultKind::Torn, Side::ToProgram, answer}});
+    EXPECT_EQ(clean.status, TransferComplete);
+    EXPECT_EQ(faulty.happened, (std::vector{true, true, true}));
+    EXPECT_FALSE(faulty.world.radio.HoldsTheSame(clean.world.radio));
+    EXPECT_EQ(faulty.status, TransferCommunicationError);
+}
+
+TEST_F(Finding, CancelAfterADoubledAnswerStillSendsTheEndOfTheTransfer) {
+    // The answer that is sent twice counts for the next row, so one more row is sent before that has gone
+    // out.
+    const Scenario scenario = WriteToUnknownRadio(0);
+    const auto [clean, faulty] =
+        CleanAndFaulty(scenario, {{FaultKind::Twice, Side::ToProgram, PurgeAnswer(scenario)},
+                                  {FaultKind::Cancel, Side::ToRadio, RecordByte(scenario, 0) + 40, 0}});
+    EXPECT_EQ(clean.status, TransferComplete);
+    EXPECT_EQ(faulty.happened, (std::vector{true, true}));
+    EXPECT_EQ(faulty.status, TransferCancelled);
+    EXPECT_EQ(faulty.dropped, 0);
+    EXPECT_EQ(faulty.sent.back().substr(0, 8), "T9030000");
+}
+
 /// A read of channels from a radio that sends hardware information first.
 Scenario ReadWithHardware() {
     Scenario scenario = FirstScenario([](const Scenario& each) {

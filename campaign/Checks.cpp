@@ -313,8 +313,11 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         // tell.
         const bool replaced = judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) &&
                               (faulty.spoiltToRadio || judge.Happened({FaultKind::Delayed}));
-        const bool silent =
-            judge.Digital() && judge.Happened({FaultKind::Twice}) && judge.Happened({FaultKind::Silence});
+        // A line whose wait message is garbled is sent again, and answered twice.
+        const bool busyTwice = faulty.spoiltToProgram &&
+                               judge.Happened({FaultKind::BusyErasing, FaultKind::BusyFor, FaultKind::Wait});
+        const bool silent = judge.Digital() && (judge.Happened({FaultKind::Twice}) || busyTwice) &&
+                            judge.Happened({FaultKind::Silence});
         if (status == TransferComplete && clean.status == TransferComplete && believable && !lied &&
             !asksMore && !replaced && !silent)
             judge.Expect(radio.HoldsTheSame(clean.world.radio),
@@ -341,8 +344,6 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
             judge.Expect(faulty.answers >= static_cast<int>(faulty.rowsSent.size()),
                          "a complete write, but the radio has acknowledged only " +
                              std::to_string(faulty.answers) + " lines");
-        // A purge whose wait message is garbled is sent again, and answered twice.
-        const bool busyTwice = faulty.spoiltToProgram && judge.Happened({FaultKind::BusyErasing});
         if (believable && !lied && !replaced && !busyTwice &&
             !judge.Happened({FaultKind::Twice, FaultKind::LineBefore}))
             CheckRowsSent(judge, before, clean, faulty);
@@ -378,7 +379,8 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         if (!judge.Digital() && !faulty.spoiltToProgram && judge.Happened({FaultKind::CutLine}))
             CheckCutLines(judge, rows, all);
         // An analog radio that falls silent near its last row counts as complete.
-        const bool endedBySilence = !judge.Digital() && faulty.silence >= SilenceUntilTimeout(false);
+        const bool endedBySilence = !judge.Digital() && (faulty.silence >= SilenceUntilTimeout(false) ||
+                                                         judge.Happened({FaultKind::Delayed}));
         if (believable) {
             for (const auto& [row, texts] : rows) {
                 const auto found = all.find(row);

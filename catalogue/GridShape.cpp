@@ -3,6 +3,7 @@
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
+#include "catalogue/TextSizes.h"
 
 #include <wx/grid.h>
 
@@ -22,7 +23,7 @@ void SetUpGrid(wxGrid* grid, int page) {
     grid->SetColLabelAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
     SetGridColumns(grid, PageParameters[page].Type);
 
-    grid->SetDefaultRowSize(23, true);
+    grid->SetDefaultRowSize(RowHeightFor(grid), true);
     grid->EnableDragRowSize(false);
     // Scroll by full rows: the row menu relies on a fully visible first row.
     grid->SetScrollLineY(grid->GetDefaultRowSize());
@@ -33,6 +34,8 @@ void SetUpGrid(wxGrid* grid, int page) {
     grid->SetRowLabelSize(wxGRID_AUTOSIZE);
     grid->SetColLabelSize(grid->GetRowSize(1));
     grid->SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_TOP);
+    // A text that is cut must not look whole: "51.1375" would pass for a frequency.
+    grid->SetDefaultCellFitMode(wxGridFitMode::Ellipsize());
     // Users often read a page while all of it is selected. Use dark text on a light colour, also
     // where the window has no focus and the toolkit would use grey.
     grid->SetSelectionForeground(*wxBLACK);
@@ -43,8 +46,9 @@ void SetGridColumns(wxGrid* grid, int type) {
     for (int col = 0; col < ColumnTotal; ++col) {
         // Set the minimum first: a column never becomes narrower than its minimum. A minimum equal
         // to the width keeps users from dragging a hidden column open.
-        grid->SetColMinimalWidth(col, ColumnWidth[type][col]);
-        grid->SetColSize(col, ColumnWidth[type][col]);
+        const int width = ColumnWidthFor(grid, type, col);
+        grid->SetColMinimalWidth(col, width);
+        grid->SetColSize(col, width);
         grid->SetColLabelValue(col, ColumnHeading[type][col]);
     }
     // The toolkit starts in the first column, which is always hidden, and a change of type can hide

@@ -8,7 +8,7 @@ void CellTextRenderer::Draw(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const 
     SetTextColoursAndFont(grid, attr, dc, isSelected);
     int horizontal, vertical;
     attr.GetAlignment(&horizontal, &vertical);
-    grid.DrawTextRectangle(dc, TextOf(grid, row, col), rect, horizontal, vertical);
+    grid.DrawTextRectangle(dc, TextOf(grid, row, col), rect, attr, horizontal, vertical);
 }
 
 wxSize CellTextRenderer::GetBestSize(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, int row, int col) {

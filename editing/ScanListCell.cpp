@@ -1,13 +1,14 @@
 #include "editing/ScanListCell.h"
 
 #include "catalogue/MemoryRow.h"
+#include "catalogue/ScanBoxes.h"
 #include "catalogue/TextNumbers.h"
 
 #include <wx/msgdlg.h>
 
 namespace {
 
-constexpr int Boxes = 5;
+using RadioCatalogue::ScanBoxCount;
 
 /// Returns the box (0 to 4) under a mouse position in the grid's window, -1 if there is none. width is that
 /// of all boxes together.
@@ -17,8 +18,8 @@ int BoxAt(const wxPoint& position, int col, int width, const wxGrid* grid) {
         if (grid->IsColShown(before))
             left += grid->GetColSize(before);
     const int within = grid->CalcUnscrolledPosition(position).x - left;
-    const int boxWidth = width / Boxes;
-    if (within < 0 || boxWidth == 0 || within / boxWidth >= Boxes)
+    const int boxWidth = width / ScanBoxCount;
+    if (within < 0 || boxWidth == 0 || within / boxWidth >= ScanBoxCount)
         return -1;
     return within / boxWidth;
 }
@@ -52,14 +53,15 @@ int GetScanMask(const wxGrid* grid, int row, int col) {
     if (grid->GetCellValue(row, MNUM).empty())
         return -1;
     const int mask = ReadDecimal(grid->GetCellValue(row, col));
-    return mask >= 0 && mask < 1 << Boxes ? mask : 0;
+    return mask >= 0 && mask < 1 << ScanBoxCount ? mask : 0;
 }
 
 wxString ScanMaskText(int mask) {
     wxString text;
     if (mask >= 0)
-        for (int box = 0; box < Boxes; ++box)
-            text += wxUniChar(mask >> box & 1 ? 0x2612 : 0x2610);
+        for (int box = 0; box < ScanBoxCount; ++box)
+            text +=
+                wxUniChar(mask >> box & 1 ? RadioCatalogue::CrossedScanBox : RadioCatalogue::EmptyScanBox);
     return text;
 }
 
@@ -70,7 +72,7 @@ wxGridActivationResult ScanlistEditor::TryActivate(int row, int col, wxGrid* gri
     if (source.GetOrigin() == wxGridActivationSource::Key) {
         // wchar_t, no signed char. NOLINTNEXTLINE(bugprone-signed-char-misuse)
         const int key = source.GetKeyEvent().GetUnicodeKey();
-        if (key >= '1' && key < '1' + Boxes)
+        if (key >= '1' && key < '1' + ScanBoxCount)
             box = key - '1';
     } else if (source.GetOrigin() == wxGridActivationSource::Mouse) {
         int width = 0, height = 0;

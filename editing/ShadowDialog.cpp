@@ -4,13 +4,15 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include <algorithm>
+
 ShadowDialog::ShadowDialog(wxWindow* parent, const wxString& title)
     : wxDialog(parent, wxID_ANY, title, wxDefaultPosition, wxSize(320, 130)) {
     auto* box = new wxBoxSizer(wxVERTICAL);
     auto* entry = new wxBoxSizer(wxHORIZONTAL);
-    entry->Add(new wxStaticText(this, wxID_ANY, "Shadow Memory Num:", wxDefaultPosition,
-                                wxSize(170, wxDefaultCoord)),
-               0, wxALL | wxALIGN_CENTRE_VERTICAL, 5);
+    auto* label = new wxStaticText(this, wxID_ANY, "Shadow Memory Num:");
+    label->SetMinSize(wxSize(std::max(170, label->GetBestSize().x), wxDefaultCoord));
+    entry->Add(label, 0, wxALL | wxALIGN_CENTRE_VERTICAL, 5);
     m_textCtrl = new wxTextCtrl(this, wxID_ANY);
     entry->Add(m_textCtrl, 1, wxALL | wxALIGN_CENTRE_VERTICAL, 5);
     box->Add(entry, 1, wxEXPAND | wxALL, 5);

@@ -45,7 +45,8 @@ public:
         : m_enabled(grid), m_quiet(grid), m_grid(grid), m_lineColour(grid->GetGridLineColour()),
           m_labelBackground(grid->GetLabelBackgroundColour()), m_labelText(grid->GetLabelTextColour()),
           m_labelFont(grid->GetLabelFont()), m_cellBackground(grid->GetDefaultCellBackgroundColour()),
-          m_cellText(grid->GetDefaultCellTextColour()), m_cellFont(grid->GetDefaultCellFont()) {
+          m_cellText(grid->GetDefaultCellTextColour()), m_cellFont(grid->GetDefaultCellFont()),
+          m_fitMode(grid->GetDefaultCellFitMode()) {
         grid->SetGridLineColour(PaleGrey);
         grid->SetLabelBackgroundColour(PaleGrey);
         grid->SetLabelTextColour(DarkGrey);
@@ -62,6 +63,7 @@ public:
         m_grid->SetDefaultCellBackgroundColour(m_cellBackground);
         m_grid->SetDefaultCellTextColour(m_cellText);
         m_grid->SetDefaultCellFont(m_cellFont);
+        m_grid->SetDefaultCellFitMode(m_fitMode);
     }
     PrintLook(const PrintLook&) = delete;
     PrintLook& operator=(const PrintLook&) = delete;
@@ -74,6 +76,7 @@ private:
     const wxFont m_labelFont;
     const wxColour m_cellBackground, m_cellText;
     const wxFont m_cellFont;
+    const wxGridFitMode m_fitMode;
 };
 
 PageMargins MarginsInMillimetres() {
@@ -168,6 +171,9 @@ void ZelkPrintout::DrawGrid(wxDC& dc, double scale, int page) const {
     // Margins as wide as the paper leave no room to draw.
     if (size.x < 1 || size.y < 1)
         return;
+    // On so few pixels an ellipsis has no width, and the toolkit can't shorten a text.
+    if (size.x < 100)
+        m_grid->SetDefaultCellFitMode(wxGridFitMode::Clip());
     const int first = (page - 1) * m_rowsPerPage;
     const int last = std::min(first + m_rowsPerPage, m_grid->GetNumberRows()) - 1;
     m_grid->Render(dc, Unscaled(topLeft.x, topLeft.y, scale), size, wxGridCellCoords(first, 0),

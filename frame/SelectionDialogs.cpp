@@ -9,6 +9,8 @@
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
+#include <algorithm>
+
 using namespace RadioCatalogue;
 
 wxChoice* PortChoice = nullptr;
@@ -22,7 +24,7 @@ SelectionDialog::SelectionDialog(wxWindow* parent, const wxString& title, const 
     // No wxCLOSE_BOX: users close the dialog with its buttons.
     : wxDialog(parent, wxID_ANY, title, wxDefaultPosition, wxSize(192, 111), wxCAPTION) {
     auto* labelText = new wxStaticText(this, wxID_ANY, label);
-    labelText->SetMinSize(wxSize(50, -1));
+    labelText->SetMinSize(wxSize(std::max(50, labelText->GetBestSize().x), -1));
     m_choice = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, choices);
 
     auto* choiceRow = new wxBoxSizer(wxHORIZONTAL);

@@ -13,6 +13,7 @@ namespace {
 constexpr int Border = 5;
 constexpr int GaugeRange = 100;
 constexpr int GaugeStart = 10;
+constexpr const char* WidestStatus = "Sending Shadow Memory Data....";
 
 wxGauge* MakeGauge(wxWindow* parent) {
     auto* gauge =
@@ -33,7 +34,8 @@ ProgressFrame::ProgressFrame(wxWindow* parent, wxWindowID id, const wxString& ti
     // the toolkit makes a drawing context for each, although nobody draws there.
     SetBackgroundStyle(wxBG_STYLE_SYSTEM);
     SetSize(ConvertDialogToPixels(wxSize(200, 150)));
-    GetSizer()->Fit(this);
+    // A smaller size may have been kept from a run with smaller texts.
+    GetSizer()->SetSizeHints(this);
     if (GetParent())
         CentreOnParent();
     else
@@ -60,6 +62,7 @@ ProgressFrame::~ProgressFrame() {
 void ProgressFrame::CreateControls() {
     auto* column = new wxBoxSizer(wxVERTICAL);
     m_label = new wxStaticText(this, wxID_ANY, wxString());
+    m_label->SetMinSize(wxSize(GetTextExtent(WidestStatus).x, wxDefaultCoord));
     column->Add(m_label, 0, wxEXPAND | wxALL, Border);
     m_mainGauge = MakeGauge(this);
     column->Add(m_mainGauge, 0, wxEXPAND | wxALL, Border);

@@ -1,5 +1,6 @@
 #include "catalogue/GridShape.h"
 
+#include "catalogue/GridColours.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
@@ -36,10 +37,7 @@ void SetUpGrid(wxGrid* grid, int page) {
     grid->SetDefaultCellAlignment(wxALIGN_LEFT, wxALIGN_TOP);
     // A text that is cut must not look whole: "51.1375" would pass for a frequency.
     grid->SetDefaultCellFitMode(wxGridFitMode::Ellipsize());
-    // Users often read a page while all of it is selected. Use dark text on a light colour, also
-    // where the window has no focus and the toolkit would use grey.
-    grid->SetSelectionForeground(*wxBLACK);
-    grid->SetSelectionBackground(wxColour(178, 208, 240));
+    SetSelectionColours(grid);
 }
 
 void SetGridColumns(wxGrid* grid, int type) {

@@ -1,5 +1,7 @@
 #include "catalogue/PageTable.h"
 
+#include "catalogue/Contrast.h"
+
 #include <algorithm>
 
 namespace {
@@ -42,6 +44,16 @@ wxGridCellAttr* CloneOf(const wxGridCellAttr& attr) {
 bool HasMore(const wxGridCellAttr& attr) {
     return attr.HasTextColour() || attr.HasFont() || attr.HasAlignment() || attr.HasRenderer() ||
            attr.HasOverflowMode() || attr.HasSize();
+}
+
+/// Returns the colour of texts on the attribute's own background, invalid for that of the grid. It depends on
+/// the grid's colours, and so on the theme; an attribute doesn't hold it.
+wxColour TextColourOf(const wxGridCellAttr& attr, const wxGrid& grid) {
+    if (!attr.HasBackgroundColour() || attr.HasTextColour())
+        return {};
+    const wxColour usual = grid.GetDefaultCellTextColour();
+    const wxColour readable = ReadableOn(attr.GetBackgroundColour(), usual);
+    return readable == usual ? wxColour() : readable;
 }
 
 } // namespace
@@ -184,13 +196,18 @@ wxGridCellAttr* PageTable::GetAttr(int row, int col, wxGridCellAttr::wxAttrKind 
     auto* const own = const_cast<wxGridCellAttr*>(Own(row, col));
     switch (kind) {
     case wxGridCellAttr::Any:
-        if (own && column) {
+        if (!own)
+            return Retained(column);
+        if (const wxColour text = TextColourOf(*own, *GetView()); column || text.IsOk()) {
             wxGridCellAttr* const merged = CloneOf(*own);
             merged->SetKind(wxGridCellAttr::Merged);
-            merged->MergeWith(column);
+            if (text.IsOk())
+                merged->SetTextColour(text);
+            if (column)
+                merged->MergeWith(column);
             return merged;
         }
-        return Retained(own ? own : column);
+        return Retained(own);
     case wxGridCellAttr::Cell:
         // The caller is about to change the attribute, and the grid may have cached a merged copy of it.
         GetView()->RefreshAttr(row, col);

@@ -1,5 +1,6 @@
 #include "files/ZelkPrinting.h"
 
+#include "catalogue/GridColours.h"
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
 #include "files/PrintLayout.h"
@@ -54,6 +55,7 @@ public:
         grid->SetDefaultCellBackgroundColour(*wxWHITE);
         grid->SetDefaultCellTextColour(DarkGrey);
         grid->SetDefaultCellFont(PrintFont());
+        ForgetCachedColours(grid);
     }
     ~PrintLook() {
         m_grid->SetGridLineColour(m_lineColour);
@@ -63,6 +65,7 @@ public:
         m_grid->SetDefaultCellBackgroundColour(m_cellBackground);
         m_grid->SetDefaultCellTextColour(m_cellText);
         m_grid->SetDefaultCellFont(m_cellFont);
+        ForgetCachedColours(m_grid);
         m_grid->SetDefaultCellFitMode(m_fitMode);
     }
     PrintLook(const PrintLook&) = delete;

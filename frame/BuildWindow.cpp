@@ -1,4 +1,5 @@
 // Builds the window: its controls, its first page and the links from events to commands.
+#include "catalogue/GridColours.h"
 #include "catalogue/PageCreation.h"
 #include "commands/StatusOutcome.h"
 #include "files/ZelkPrinting.h"
@@ -11,6 +12,7 @@
 #include <wx/menu.h>
 #include <wx/notebook.h>
 #include <wx/panel.h>
+#include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/statusbr.h>
 #include <wx/toolbar.h>
@@ -90,6 +92,20 @@ void Link(bool connect, wxEvtHandler* source, const Tag& tag, Handler handler, O
         source->Unbind(tag, handler, frame, id);
 }
 
+/// Returns the image of a tool for the background that tool bars have in the desktop's theme.
+wxBitmap BitmapOf(const ToolEntry& tool) {
+    return GetToolBitmap(tool.image, wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE).GetLuminance() < 0.5);
+}
+
+/// Gives the pages and tools of a window the colours of a new theme.
+void ShowInTheme(OrvZELFrame* frame) {
+    for (int page = 0; page < PageCount; ++page)
+        FollowTheme(PageGrid[page]);
+    for (const ToolEntry& tool : Tools)
+        if (tool.label)
+            frame->m_toolBar->SetToolNormalBitmap(tool.id, BitmapOf(tool));
+}
+
 /// Returns null for an id that belongs to no command.
 CommandHandler HandlerOf(int id) {
     for (const std::span<const CommandEntry> commands :
@@ -121,6 +137,10 @@ OrvZELFrame::OrvZELFrame(wxWindow* parent)
     m_statusBar = CreateStatusBar(5, wxSTB_SIZEGRIP);
     UpdateStatus(this, CurrentPage);
     ConnectEvents(true);
+    Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
+        event.Skip();
+        ShowInTheme(this);
+    });
     InitPrinting();
 
     // Only probe the device, if it exists; an open port would block the first transfer.
@@ -164,7 +184,7 @@ void OrvZELFrame::BuildToolBar() {
     m_toolBar->SetToolBitmapSize(wxSize(32, 32));
     for (const ToolEntry& tool : Tools) {
         if (tool.label)
-            m_tools.push_back(m_toolBar->AddTool(tool.id, tool.label, GetToolBitmap(tool.image), wxNullBitmap,
+            m_tools.push_back(m_toolBar->AddTool(tool.id, tool.label, BitmapOf(tool), wxNullBitmap,
                                                  wxITEM_NORMAL, tool.shortHelp, tool.longHelp));
         else
             m_toolBar->AddSeparator();

@@ -10,10 +10,11 @@ enum class ToolImage { Open, Save, Print, Download, Upload, SelectAll, ClearAll,
 
 /// The image of a tool: 32 by 32 pixels with an alpha channel. Needs the image handlers
 /// (`wxInitAllImageHandlers`), but no display. Without the PNG handler, returns an image that is not ok.
-wxImage GetToolImage(ToolImage image);
+/// onDark adds a light outline, without which the dark lines of the drawings are lost on a dark background.
+wxImage GetToolImage(ToolImage image, bool onDark = false);
 
 /// The image of a tool as a bitmap. Needs a display. Returns an invalid bitmap when the image is not ok.
-wxBitmap GetToolBitmap(ToolImage image);
+wxBitmap GetToolBitmap(ToolImage image, bool onDark = false);
 
 /// The program's icon: 64 by 64 pixels with an alpha channel. Same conditions as for `GetToolImage`.
 wxImage GetZelkIconImage();

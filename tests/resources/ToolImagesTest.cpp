@@ -105,6 +105,27 @@ TEST_F(ToolImages, EachToolShowsItsOwnDrawing) {
     }
 }
 
+TEST_F(ToolImages, HaveALightOutlineOnADarkBackgroundAndAreTheSameWithinIt) {
+    for (const auto& [name, id] : AllImages) {
+        SCOPED_TRACE(name);
+        const wxImage plain = GetToolImage(id), outlined = GetToolImage(id, true);
+        ASSERT_TRUE(outlined.IsOk());
+        int edges = 0;
+        for (int y = 1; y < 31; ++y)
+            for (int x = 1; x < 31; ++x) {
+                if (plain.GetAlpha(x, y) == 255) {
+                    EXPECT_EQ(outlined.GetRed(x, y), plain.GetRed(x, y)) << x << ", " << y;
+                    EXPECT_EQ(outlined.GetBlue(x, y), plain.GetBlue(x, y)) << x << ", " << y;
+                } else if (plain.GetAlpha(x, y) == 0 && plain.GetAlpha(x, y + 1) > 100) {
+                    EXPECT_GE(outlined.GetAlpha(x, y), plain.GetAlpha(x, y + 1)) << x << ", " << y;
+                    EXPECT_GT(outlined.GetRed(x, y), 200) << x << ", " << y;
+                    ++edges;
+                }
+            }
+        EXPECT_GT(edges, 3);
+    }
+}
+
 TEST_F(ToolImages, IconIs64By64WithAClearBackground) {
     const wxImage image = GetZelkIconImage();
     ASSERT_TRUE(image.IsOk());

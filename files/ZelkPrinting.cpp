@@ -3,6 +3,7 @@
 #include "catalogue/GridColours.h"
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
+#include "files/PaperLabels.h"
 #include "files/PrintLayout.h"
 
 #include <wx/dc.h>
@@ -55,6 +56,7 @@ public:
         grid->SetDefaultCellBackgroundColour(*wxWHITE);
         grid->SetDefaultCellTextColour(DarkGrey);
         grid->SetDefaultCellFont(PrintFont());
+        grid->GetTable()->SetAttrProvider(new PaperLabels); // the table owns it
         ForgetCachedColours(grid);
     }
     ~PrintLook() {
@@ -65,6 +67,7 @@ public:
         m_grid->SetDefaultCellBackgroundColour(m_cellBackground);
         m_grid->SetDefaultCellTextColour(m_cellText);
         m_grid->SetDefaultCellFont(m_cellFont);
+        m_grid->GetTable()->SetAttrProvider(nullptr);
         ForgetCachedColours(m_grid);
         m_grid->SetDefaultCellFitMode(m_fitMode);
     }

@@ -7,6 +7,7 @@
 #include "files/ZelkFile_OpenSave.h"
 #include "frame/SelectionDialogs.h"
 #include "frame/ZelkMain.h"
+#include "robot/DesktopLook.h"
 #include "robot/Files.h"
 #include "robot/OpenDialogs.h"
 #include "robot/ScreenSpots.h"
@@ -15,6 +16,7 @@
 #include <wx/menu.h>
 #include <wx/xml/xml.h>
 
+#include <optional>
 #include <stdexcept>
 
 using namespace testbench;
@@ -133,6 +135,23 @@ void TakeMistakes(Robot& robot, Camera& camera, const Places& places) {
     camera.Window("validated", 270);
 }
 
+/// Pictures the page after a check, with a marked and a selected row, in a dark theme.
+void TakeDarkTheme(Robot& robot, Camera& camera) {
+    robot.Ask([] { CurrentGrid()->SelectRow(6); });
+    RunCommand(IdMarkRow);
+    robot.WaitFor([] { return (CurrentParameters().Flags & PageHasMarks) != 0; });
+    std::optional<DesktopLook> dark;
+    robot.Ask([&dark] {
+        CurrentGrid()->SelectRow(4);
+        dark.emplace().SetTheme("Adwaita", true);
+    });
+    robot.Settle();
+    camera.Window("dark-theme", 300);
+    robot.Ask([&dark] { dark.reset(); });
+    RunCommand(IdClearHighlight);
+    robot.Settle();
+}
+
 void TakeShadow(Robot& robot, Camera& camera) {
     const int row = 3;
     RightClick(robot, robot.Ask([] { return RowLabelSpot(*CurrentGrid(), row); }));
@@ -161,6 +180,7 @@ void TakePages(Tour::TourHand& hand, Camera& camera, const Places& places) {
     TakeRowMenu(robot, camera, "row-menu", 5);
     TakeMarks(robot, camera);
     TakeMistakes(robot, camera, places);
+    TakeDarkTheme(robot, camera);
 
     ResizeWindow(robot, 920, 640);
     OpenOnPage(robot, places.examples / "kdrv-4xxx-k6.zelk");

@@ -1,6 +1,9 @@
 // Plays a day's first jobs by real keys and clicks, for an analog and a digital radio: sends a channel file
 // to the radio, then reads the radio back into an empty page.
+#include "catalogue/MemoryRow.h"
+#include "catalogue/PageModel.h"
 #include "frame/ZelkMain.h"
+#include "robot/DesktopLook.h"
 #include "robot/Robot.h"
 #include "robot/TempFolder.h"
 #include "tools/ChannelList.h"
@@ -9,8 +12,12 @@
 #include "tools/TourHand.h"
 #include "tools/TourJob.h"
 
+#include <wx/grid.h>
+
 #include <cstdio>
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <utility>
 
 using namespace testbench;
@@ -51,6 +58,16 @@ constexpr Tour::Job DigitalJob{
         "                             and frequencies by value, since they come back with other zeros",
 };
 
+std::string ColourOfPage() {
+    return "cells are " +
+           CurrentGrid()->GetDefaultCellBackgroundColour().GetAsString(wxC2S_HTML_SYNTAX).utf8_string();
+}
+
+std::string SizesOfPage() {
+    return "rows are " + std::to_string(CurrentGrid()->GetRowSize(1)) + " pixels high, frequencies " +
+           std::to_string(CurrentGrid()->GetColSize(RFRQ)) + " wide";
+}
+
 void PlayTour(Robot& robot) {
     Tour::TourHand hand(robot, options.pictures);
     std::printf("Two simulated radios: %s, analog, and %s, digital.\n", AnalogJob.model, DigitalJob.model);
@@ -65,6 +82,15 @@ void PlayTour(Robot& robot) {
     Tour::TourJob digital(hand, DigitalJob, options.radio, options.examples);
     digital.AddPage();
     digital.Play();
+
+    std::printf("    a dark theme and larger texts\n");
+    std::optional<DesktopLook> look;
+    robot.Ask([&look] { look.emplace().SetTheme("Adwaita", true); });
+    hand.Done("dark theme", robot.Ask([] { return ColourOfPage(); }));
+    robot.Ask([&look] { look->ScaleTexts(1.5); });
+    digital.AddPage();
+    hand.Done("larger texts", robot.Ask([] { return SizesOfPage(); }));
+    robot.Ask([&look] { look.reset(); });
 }
 
 bool ReadOptions(int argc, char** argv) {

@@ -3,10 +3,10 @@
 #include "catalogue/PageTable.h"
 #include "commands/CommandIds.h"
 #include "resources/ToolImages.h"
+#include "robot/DesktopLook.h"
 #include "robot/XDesk.h"
 #include "tests/files/Paper.h"
 #include "tests/frame/FrameTools.h"
-#include "tests/support/DesktopLook.h"
 #include "tests/support/Keys.h"
 #include "tests/support/ZelkWindowTest.h"
 

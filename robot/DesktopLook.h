@@ -1,12 +1,12 @@
-// Fonts and themes of the desktop in tests.
+// Fonts and themes of the desktop.
 #pragma once
 
 #include <string>
 
 namespace testbench {
 
-/// Sets the desktop's font, size of texts and theme for this process during its lifetime. Windows created
-/// meanwhile have them. The toolkit's own settings hold afterwards.
+/// Sets the desktop's font, size of texts and theme for this process during its lifetime, as a user does for
+/// the desktop. The toolkit's own settings hold afterwards. Call in the window thread.
 class DesktopLook {
 public:
     DesktopLook() = default;

@@ -1,6 +1,4 @@
-#include "tests/support/DesktopLook.h"
-
-#include "robot/Pump.h"
+#include "robot/DesktopLook.h"
 
 #include <gtk/gtk.h>
 
@@ -21,26 +19,23 @@ constexpr double UsualResolution = 96 * 1024;
 DesktopLook::~DesktopLook() {
     // The toolkit keeps the last resolution when the setting is reset.
     ScaleTexts(1);
-    for (const char* name : {TextResolution, FontName, ThemeName, PrefersDark})
+    // The toolkit looks at the theme again when its name is set, so the name comes last.
+    for (const char* name : {TextResolution, FontName, PrefersDark, ThemeName})
         gtk_settings_reset_property(gtk_settings_get_default(), name);
-    PumpUntilIdle();
 }
 
 void DesktopLook::ScaleTexts(double scale) {
     g_object_set(gtk_settings_get_default(), TextResolution,
                  static_cast<int>(std::lround(UsualResolution * scale)), nullptr);
-    PumpUntilIdle();
 }
 
 void DesktopLook::SetFont(const std::string& description) {
     g_object_set(gtk_settings_get_default(), FontName, description.c_str(), nullptr);
-    PumpUntilIdle();
 }
 
 void DesktopLook::SetTheme(const std::string& name, bool dark) {
     g_object_set(gtk_settings_get_default(), ThemeName, name.c_str(), PrefersDark,
                  static_cast<gboolean>(dark), nullptr);
-    PumpUntilIdle();
 }
 
 } // namespace testbench

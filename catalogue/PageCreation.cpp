@@ -52,6 +52,7 @@ void CreateNewPage(OrvZELFrame* frame, int page) {
         SetPageEditors(page);
         SetPageDefaults(frame, page);
     }
+    grid->Bind(wxEVT_KEY_DOWN, &OrvZELFrame::OnGridKeyDown, frame);
     grid->Bind(wxEVT_GRID_CELL_CHANGING, &OrvZELFrame::OnGridCellChanging, frame);
     CurrentPage = page;
     ++PageCount;

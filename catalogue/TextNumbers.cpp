@@ -69,6 +69,30 @@ int ReadHex(const wxString& text) {
     return ReadNumber(text, 16).value_or(0);
 }
 
+std::optional<int> WholeNumber(const wxString& text, int min, int max) {
+    if (text.empty() || text.find_first_not_of("0123456789") != wxString::npos)
+        return std::nullopt;
+    const int number = ReadDecimal(text);
+    return number >= min && number <= max ? std::optional(number) : std::nullopt;
+}
+
+std::optional<wxString> PlainDecimal(const wxString& text) {
+    if (text.find_first_not_of("0123456789.,") != wxString::npos)
+        return std::nullopt;
+    const size_t point = text.find_first_of(".,");
+    wxString whole = text.Left(point);
+    wxString fraction = point == wxString::npos ? wxString() : text.Mid(point + 1);
+    if (fraction.find_first_of(".,") != wxString::npos || (whole.empty() && fraction.empty()))
+        return std::nullopt;
+    while (whole.length() > 1 && whole.StartsWith("0"))
+        whole.erase(0, 1);
+    while (fraction.EndsWith("0"))
+        fraction.RemoveLast();
+    if (whole.empty())
+        whole = "0";
+    return fraction.empty() ? whole : whole + "." + fraction;
+}
+
 wxString DecimalText(uint32_t number, int width) {
     return Digits(number, false, 10, width);
 }

@@ -20,6 +20,14 @@ int ReadDecimal(const wxString& text);
 /// ReadNumber in base 16, 0 if there is no number.
 int ReadHex(const wxString& text);
 
+/// Returns the number of a text of nothing but digits if it is in the range from min to max (both part of
+/// it).
+std::optional<int> WholeNumber(const wxString& text, int min, int max);
+
+/// Brings a decimal text to one form for each value: "154.45250" and "0154,4525" both become "154.4525".
+/// Accepts digits with at most one point or comma. Returns nothing for any other text.
+std::optional<wxString> PlainDecimal(const wxString& text);
+
 /// A number in decimal, padded with leading zeros to at least width digits.
 wxString DecimalText(uint32_t number, int width = 1);
 

@@ -40,4 +40,7 @@ enum CommandId : int {
     IdDefaultFile = 6036,
     IdSaveDefault = 6037,
     IdLoadDefault = 6038,
+
+    // Commands that are keys of the grid only.
+    IdEmptyCells = 6039,
 };

@@ -1,4 +1,4 @@
-// Questions before the row and column commands, none of which can be undone.
+// Questions before the commands on rows, columns and cells, none of which can be undone.
 #pragma once
 
 #include "commands/CommandIds.h"
@@ -14,6 +14,7 @@ inline constexpr CommandQuestion CommandQuestions[] = {
     {IdDefaultRow,         "Change Selection to defaults?",                  "This will overwrite all data in selection, there is no 'undo'!"},
     {IdPasteRow,           "Paste copied data into Selection?",              "This will overwrite all data in selection, there is no 'undo'!"},
     {IdClearRow,           "Clear rows in Selection?",                       "This will clear all data in selection, there is no 'undo'!"},
+    {IdEmptyCells,         "Empty cells in Selection?",                     "This will clear all data in selection, there is no 'undo'!"},
     {IdInsertRow,          "Insert row above Selected row?",                 "If last row is used, it will be lost, there is no 'undo'!"},
     {IdDeleteRow,          "Delete Selection?",                              "This will delete all data in selection, there is no 'undo'!"},
     {IdDefaultCol,         "Change Selection to default?",                   "This will overwrite all valid data in selection, there is no 'undo'!"},

@@ -2,6 +2,8 @@
 
 #include <wx/textctrl.h>
 
+#include <algorithm>
+
 wxIMPLEMENT_DYNAMIC_CLASS(ZelkDescriptionValidator, wxValidator)
 
     wxBEGIN_EVENT_TABLE(ZelkDescriptionValidator, wxValidator)
@@ -29,4 +31,17 @@ bool ZelkDescriptionValidator::WritesUpperCase() const {
 ZelkDescriptionEditor::ZelkDescriptionEditor(size_t maxChars, int mode)
     : TextCellEditor(maxChars), m_rules(nullptr, mode) {
     SetValidator(m_rules);
+}
+
+std::optional<wxString> ZelkDescriptionEditor::HoldText(int, int, wxGrid*, const wxString& text) {
+    const bool valid =
+        std::all_of(text.begin(), text.end(), [this](wxUniChar c) { return m_rules.IsValidChar(c); });
+    if (!valid || text.length() > Width())
+        return std::nullopt;
+    m_held = m_rules.WritesUpperCase() ? text.Upper() : text;
+    return m_held;
+}
+
+void ZelkDescriptionEditor::ApplyHeldText(int row, int col, wxGrid* grid) {
+    grid->SetCellValue(row, col, m_held);
 }

@@ -25,7 +25,6 @@ public:
     int32_t GetMode() const { return m_mode; }
     const wxString* GetValuePointer() const { return m_value; }
 
-protected:
     bool WritesUpperCase() const override;
 
 private:
@@ -40,9 +39,13 @@ class ZelkDescriptionEditor : public TextCellEditor {
 public:
     ZelkDescriptionEditor(size_t maxChars, int mode);
 
+    std::optional<wxString> HoldText(int row, int col, wxGrid* grid, const wxString& text) override;
+    void ApplyHeldText(int row, int col, wxGrid* grid) override;
+
 protected:
     bool CanStartWith(wxUniChar character) const override { return m_rules.IsValidChar(character); }
 
 private:
     ZelkDescriptionValidator m_rules;
+    wxString m_held;
 };

@@ -6,6 +6,8 @@
 
 #include <wx/textctrl.h>
 
+#include <algorithm>
+
 wxIMPLEMENT_DYNAMIC_CLASS(DigitalSquelchValidator, wxValidator)
 
     wxBEGIN_EVENT_TABLE(DigitalSquelchValidator, wxValidator)
@@ -53,6 +55,10 @@ DigitalSquelchEditor::DigitalSquelchEditor(size_t maxChars, int min, int max)
 
 std::optional<wxString> DigitalSquelchEditor::Finish(const wxString& typed) const {
     return ("0000" + typed.Upper()).Right(Width());
+}
+
+bool DigitalSquelchEditor::CanHold(const wxString& text) const {
+    return std::all_of(text.begin(), text.end(), [this](wxUniChar c) { return m_rules.IsValidChar(c); });
 }
 
 void DigitalSquelchEditor::ApplyEdit(int row, int col, wxGrid* grid) {

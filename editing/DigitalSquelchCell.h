@@ -51,6 +51,7 @@ public:
 protected:
     bool CanStartWith(wxUniChar character) const override { return m_rules.IsValidChar(character); }
     std::optional<wxString> Finish(const wxString& typed) const override;
+    bool CanHold(const wxString& text) const override;
 
 private:
     DigitalSquelchValidator m_rules;

@@ -21,6 +21,17 @@ wxEND_EVENT_TABLE()
 
 namespace {
 
+/// Returns the text with a decimal point, and without the zeros at its end that exceed the width.
+wxString FrequencyWithin(const wxString& text, size_t width) {
+    wxString frequency = text;
+    frequency.Replace(",", ".");
+    if (frequency.find('.') == wxString::npos)
+        return frequency;
+    while (frequency.length() > width && frequency.EndsWith("0"))
+        frequency.RemoveLast();
+    return frequency;
+}
+
 /// Writes a cell and removes the paint of a repair.
 void WriteClean(wxGrid* grid, int row, int col, const wxString& text) {
     grid->SetCellValue(row, col, text);
@@ -115,6 +126,14 @@ std::optional<wxString> FrequencyEditor::Finish(const wxString& typed) const {
     if (!FormatFreq(text, m_rules.GetBand(), m_rules.GetStep(), m_width))
         return std::nullopt;
     return text;
+}
+
+std::optional<wxString> FrequencyEditor::HoldText(int row, int col, wxGrid* grid, const wxString& text) {
+    if (CurrentParameters().Type == RadioCatalogue::MDLX)
+        TakeBandOfRow(row, grid);
+    if (col == TFRQ && m_rules.GetBand() == RadioCatalogue::Am108To138 && text.CmpNoCase("n/a") == 0)
+        return m_held = "n/a";
+    return FinishedTextEditor::HoldText(row, col, grid, FrequencyWithin(text, m_width));
 }
 
 void FrequencyEditor::ApplyEdit(int row, int col, wxGrid* grid) {

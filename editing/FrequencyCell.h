@@ -36,11 +36,12 @@ public:
     int32_t GetStep() const { return m_step; }
     const wxString* GetValuePointer() const { return m_value; }
 
+    bool CouldBeTyped(const wxString& text) const override;
+
 protected:
     bool IsGoodKey(wxUniChar character) const override;
     bool IsGoodInsertion(const wxString& left, const wxString& inserted,
                          const wxString& right) const override;
-    bool CouldBeTyped(const wxString& text) const override;
 
 private:
     int32_t m_band, m_step;
@@ -64,9 +65,14 @@ public:
 
     virtual void SetEditorFreqParams(int band, int step);
 
+    /// Also accepts a decimal comma, and zeros at the end that the cell has no room for. "n/a" can stand as
+    /// the transmit frequency of a band with receive-only frequencies.
+    std::optional<wxString> HoldText(int row, int col, wxGrid* grid, const wxString& text) override;
+
 protected:
     bool CanStartWith(wxUniChar character) const override;
     std::optional<wxString> Finish(const wxString& typed) const override;
+    bool CanHold(const wxString& text) const override { return m_rules.CouldBeTyped(text); }
 
 private:
     void TakeBandOfRow(int row, const wxGrid* grid);

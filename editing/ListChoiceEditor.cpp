@@ -49,6 +49,15 @@ bool ListChoiceEditor::EndEdit(int, int, const wxGrid*, const wxString&, wxStrin
     return true;
 }
 
+std::optional<wxString> ListChoiceEditor::HoldText(int row, int col, wxGrid* grid, const wxString& text) {
+    const int position = ChoiceMeantBy(m_choices, text);
+    if (position == wxNOT_FOUND)
+        return std::nullopt;
+    m_startText = grid->GetCellValue(row, col);
+    m_value = m_choices[static_cast<size_t>(position)];
+    return m_value;
+}
+
 void ListChoiceEditor::StartingKey(wxKeyEvent& event) {
     if (!TakeKey(event))
         event.Skip();

@@ -4,6 +4,7 @@
 #include "catalogue/RadioCatalogue.h"
 #include "editing/ChoiceList.h"
 #include "editing/TypeAhead.h"
+#include "editing/WholeTextEditor.h"
 
 #include <wx/grid.h>
 
@@ -17,7 +18,7 @@ const wxString* Choices() {
 
 /// The toolkit's choice editor, except that an edit left without a choice changes nothing. A choice is typed
 /// ahead, reached by keys, or taken from the open list; choosing the cell's own text counts as one.
-class ListChoiceEditor : public wxGridCellChoiceEditor, private ChoiceListListener {
+class ListChoiceEditor : public wxGridCellChoiceEditor, public WholeTextEditor, private ChoiceListListener {
 public:
     /// count texts to choose from, which are copied.
     ListChoiceEditor(size_t count, const wxString choices[], bool allowOthers = false)
@@ -34,6 +35,10 @@ public:
 
     /// Returns false and changes nothing if the edit was left without a choice.
     bool EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) override;
+
+    /// Accepts a text that ChoiceMeantBy finds.
+    std::optional<wxString> HoldText(int row, int col, wxGrid* grid, const wxString& text) override;
+    void ApplyHeldText(int row, int col, wxGrid* grid) override { ApplyEdit(row, col, grid); }
 
     wxGridCellEditor* Clone() const override { return new ListChoiceEditor(*this); }
 

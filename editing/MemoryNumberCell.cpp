@@ -10,6 +10,25 @@
 #include <wx/msgdlg.h>
 #include <wx/spinctrl.h>
 
+namespace {
+
+/// Writes a number that no other row has; the shadows of a primary follow.
+void WriteMemoryNumber(wxGrid* grid, int row, int number) {
+    const wxString text = NumberText(number);
+    if (CurrentPageIsP25()) {
+        if (IsPrimary(grid, row))
+            for (int shadow : ShadowRowsOf(grid, row)) {
+                grid->SetCellValue(shadow, PRIM, text);
+                grid->SetCellValue(shadow, SHAD, "S-" + text);
+                LockCell(grid, shadow, SHAD);
+            }
+        grid->SetCellValue(row, PRIM, text);
+    }
+    grid->SetCellValue(row, MNUM, text);
+}
+
+} // namespace
+
 void ZelkMemoryNumberEditor::Create(wxWindow* parent, wxWindowID id, wxEvtHandler* handler) {
     wxGridCellNumberEditor::Create(parent, id, handler);
     // The control clamps a typed number to its range before the edit ends. With a range one digit wider, an
@@ -26,25 +45,27 @@ bool ZelkMemoryNumberEditor::EndEdit(int row, int col, const wxGrid* grid, const
     return false;
 }
 
+std::optional<wxString> ZelkMemoryNumberEditor::HoldText(int row, int, wxGrid*, const wxString& text) {
+    const int rows = CurrentParameters().Rows;
+    const std::optional<int> number = WholeNumber(text, m_min, m_max);
+    if (!number || FindDuplicateMNum(1, row, rows, *number) <= rows)
+        return std::nullopt;
+    m_held = *number;
+    return NumberText(m_held);
+}
+
+void ZelkMemoryNumberEditor::ApplyHeldText(int row, int, wxGrid* grid) {
+    WriteMemoryNumber(grid, row, m_held);
+}
+
 void ZelkMemoryNumberEditor::ApplyEdit(int row, int, wxGrid* grid) {
     const int number = ReadDecimal(GetValue());
     const int rows = CurrentParameters().Rows;
     const int duplicate = FindDuplicateMNum(1, row, rows, number);
-    if (duplicate <= rows) {
+    if (duplicate <= rows)
         DisplayError(ResultNumberUsed, duplicate);
-        return;
-    }
-    const wxString text = NumberText(number);
-    if (CurrentPageIsP25()) {
-        if (IsPrimary(grid, row))
-            for (int shadow : ShadowRowsOf(grid, row)) {
-                grid->SetCellValue(shadow, PRIM, text);
-                grid->SetCellValue(shadow, SHAD, "S-" + text);
-                LockCell(grid, shadow, SHAD);
-            }
-        grid->SetCellValue(row, PRIM, text);
-    }
-    grid->SetCellValue(row, MNUM, text);
+    else
+        WriteMemoryNumber(grid, row, number);
 }
 
 wxString MemoryNumberText(const wxString& text, int row) {

@@ -2,12 +2,13 @@
 #pragma once
 
 #include "editing/CellTextRenderer.h"
+#include "editing/WholeTextEditor.h"
 
 #include <wx/grid.h>
 
 /// Edits MNUM. Refuses with a box a number outside the range, or one that another row of the current page
 /// has. On a P25 page the shadows of a renumbered primary are updated.
-class ZelkMemoryNumberEditor : public wxGridCellNumberEditor {
+class ZelkMemoryNumberEditor : public wxGridCellNumberEditor, public WholeTextEditor {
 public:
     /// min and max are both part of the range.
     ZelkMemoryNumberEditor(int min, int max) : wxGridCellNumberEditor(min, max), m_min(min), m_max(max) {}
@@ -16,6 +17,9 @@ public:
     /// Returns false, changes nothing and shows a box for a number outside the range.
     bool EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) override;
     void ApplyEdit(int row, int col, wxGrid* grid) override;
+    /// Shows no box for a number that is refused.
+    std::optional<wxString> HoldText(int row, int col, wxGrid* grid, const wxString& text) override;
+    void ApplyHeldText(int row, int col, wxGrid* grid) override;
     wxGridCellEditor* Clone() const override { return new ZelkMemoryNumberEditor(*this); }
 
     int GetMin() const { return m_min; }
@@ -23,6 +27,7 @@ public:
 
 private:
     int m_min, m_max;
+    int m_held = 0;
 };
 
 /// Returns the text shown for MNUM; text is the cell's text, row its row. Empty for an empty text; "DEF" for

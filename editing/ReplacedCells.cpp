@@ -18,6 +18,24 @@ wxString ColumnText(int column) {
 
 } // namespace
 
+wxString CellList(const CellSet& cells) {
+    wxString list;
+    int told = 0;
+    int lastRow = -1;
+    for (const auto& [row, column] : cells) {
+        if (row != lastRow) {
+            if (++told > MostRowsTold)
+                return list + "; ...";
+            list += wxString::Format("%srow %d", lastRow < 0 ? "" : "; ", row);
+        } else {
+            list += ",";
+        }
+        list += " " + ColumnText(column);
+        lastRow = row;
+    }
+    return list;
+}
+
 ReplacedCells::ReplacedCells() : m_outer(innermost) {
     innermost = this;
 }
@@ -43,20 +61,7 @@ wxString ReplacedCells::Text() const {
 wxString ReplacedCells::Story() const {
     if (Count() == 0)
         return {};
-    wxString story = Count() == 1 ? wxString("1 cell was replaced:")
-                                  : wxString::Format("%d cells were replaced:", Count());
-    int told = 0;
-    int lastRow = -1;
-    for (const auto& [row, column] : m_cells) {
-        if (row != lastRow) {
-            if (++told > MostRowsTold)
-                return story + "; ...";
-            story += wxString::Format("%s row %d", lastRow < 0 ? "" : ";", row);
-        } else {
-            story += ",";
-        }
-        story += " " + ColumnText(column);
-        lastRow = row;
-    }
-    return story;
+    return (Count() == 1 ? wxString("1 cell was replaced: ")
+                         : wxString::Format("%d cells were replaced: ", Count())) +
+           CellList(m_cells);
 }

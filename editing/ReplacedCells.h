@@ -6,6 +6,13 @@
 #include <set>
 #include <utility>
 
+/// Cells of the current page by row and column.
+using CellSet = std::set<std::pair<int, int>>;
+
+/// Returns rows and columns of cells for a tool tip: "row 5 RxFreq, TxFreq; row 7 Desc". Long lists end in an
+/// ellipsis.
+wxString CellList(const CellSet& cells);
+
 /// Collects the cells of the current page that checks replace during its lifetime. Nested ones all collect.
 class ReplacedCells {
 public:
@@ -34,5 +41,5 @@ public:
 
 private:
     ReplacedCells* const m_outer;
-    std::set<std::pair<int, int>> m_cells; ///< row and column
+    CellSet m_cells;
 };

@@ -49,6 +49,23 @@ void SetScanCell(wxGrid* grid, int row, int col, const wxString& text, bool flag
     grid->SetCellFont(row, col, grid->GetDefaultCellFont());
 }
 
+std::optional<int> ScanMaskOf(const wxString& text) {
+    const auto consistsOf = [&text](const wxString& characters) {
+        return !text.empty() && text.find_first_not_of(characters) == wxString::npos;
+    };
+    if (text.length() <= 2 && consistsOf("0123456789") && ReadDecimal(text) < 1 << ScanBoxCount)
+        return ReadDecimal(text);
+    const wxString boxes =
+        wxString(wxUniChar(RadioCatalogue::EmptyScanBox)) + wxUniChar(RadioCatalogue::CrossedScanBox);
+    if (text.length() != ScanBoxCount || !(consistsOf(boxes) || consistsOf("_12345")))
+        return std::nullopt;
+    int mask = 0;
+    for (size_t box = 0; box < ScanBoxCount; ++box)
+        if (text[box] != '_' && text[box] != wxUniChar(RadioCatalogue::EmptyScanBox))
+            mask |= 1 << box;
+    return mask;
+}
+
 int GetScanMask(const wxGrid* grid, int row, int col) {
     if (grid->GetCellValue(row, MNUM).empty())
         return -1;
@@ -88,6 +105,14 @@ wxGridActivationResult ScanlistEditor::TryActivate(int row, int col, wxGrid* gri
     // Intentional: without a number the mask is -1, and a key flips a bit of that.
     m_value.Printf("%d", mask ^ 1 << box);
     return wxGridActivationResult::DoChange(m_value);
+}
+
+std::optional<wxString> ScanlistEditor::HoldText(int, int, wxGrid*, const wxString& text) {
+    const std::optional<int> mask = ScanMaskOf(text);
+    if (!mask)
+        return std::nullopt;
+    m_value.Printf("%d", *mask);
+    return m_value;
 }
 
 void ScanlistEditor::DoActivate(int row, int col, wxGrid* grid) {

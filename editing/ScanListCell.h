@@ -2,6 +2,7 @@
 #pragma once
 
 #include "editing/CellTextRenderer.h"
+#include "editing/WholeTextEditor.h"
 
 #include <wx/grid.h>
 
@@ -16,8 +17,12 @@ int GetScanMask(const wxGrid* grid, int row, int col);
 /// Returns five boxes, the first for bit 0, crossed where the bit is set. Empty for a negative mask.
 wxString ScanMaskText(int mask);
 
+/// Returns the mask (0 to 31) that a text means: five boxes as ScanMaskText writes them, the mask itself, or
+/// five characters as in "1_3__". Nothing for any other text.
+std::optional<int> ScanMaskOf(const wxString& text);
+
 /// Toggles a box on a click on it or on the keys "1" to "5".
-class ScanlistEditor : public wxGridCellActivatableEditor {
+class ScanlistEditor : public wxGridCellActivatableEditor, public WholeTextEditor {
 public:
     /// Nothing depends on flag.
     explicit ScanlistEditor(bool flag) : m_flag(flag) {}
@@ -25,6 +30,8 @@ public:
     wxGridActivationResult TryActivate(int row, int col, wxGrid* grid,
                                        const wxGridActivationSource& source) override;
     void DoActivate(int row, int col, wxGrid* grid) override;
+    std::optional<wxString> HoldText(int row, int col, wxGrid* grid, const wxString& text) override;
+    void ApplyHeldText(int row, int col, wxGrid* grid) override { DoActivate(row, col, grid); }
     wxGridCellEditor* Clone() const override { return new ScanlistEditor(m_flag); }
 
 private:

@@ -1,6 +1,7 @@
 #include "editing/TextCell.h"
 
-#include <wx/clipbrd.h>
+#include "editing/ClipboardText.h"
+
 #include <wx/msgdlg.h>
 #include <wx/textctrl.h>
 
@@ -14,14 +15,6 @@ int TypedCharacter(const wxKeyEvent& event) {
     if (const int character = static_cast<int>(event.GetUnicodeKey()))
         return character;
     return event.GetKeyCode() < WXK_START ? event.GetKeyCode() : WXK_NONE;
-}
-
-wxString ClipboardText() {
-    wxTextDataObject data;
-    const wxClipboardLocker lock;
-    if (!lock || !wxTheClipboard->GetData(data))
-        return "";
-    return data.GetText();
 }
 
 void Refuse() {
@@ -98,7 +91,7 @@ void TextCellValidator::OnPaste(wxClipboardTextEvent& event) {
     const wxTextCtrl* control = Control();
     const wxString text = control ? control->GetValue() : wxString();
     const size_t caret = control ? static_cast<size_t>(control->GetInsertionPoint()) : 0;
-    const wxString pasted = ClipboardText();
+    const wxString pasted = TextOfClipboard();
     if (!MayInsert(text.Left(caret), pasted, text.Mid(caret)))
         return Refuse();
     m_expected = pasted;
@@ -203,6 +196,9 @@ void TextCellEditor::StartingKey(wxKeyEvent& event) {
         event.Skip(false);
         return;
     }
+    // The edit begins with the whole text selected. The toolkit would remove the first character.
+    if (event.GetKeyCode() == WXK_DELETE)
+        return;
     const OwnChange own(Text());
     wxGridCellTextEditor::StartingKey(event);
 }
@@ -210,6 +206,15 @@ void TextCellEditor::StartingKey(wxKeyEvent& event) {
 void FinishedTextEditor::BeginEdit(int row, int col, wxGrid* grid) {
     m_held = grid->GetTable()->GetValue(row, col);
     TextCellEditor::BeginEdit(row, col, grid);
+}
+
+std::optional<wxString> FinishedTextEditor::HoldText(int, int, wxGrid*, const wxString& text) {
+    if (text.length() > Width() || !CanHold(text))
+        return std::nullopt;
+    const std::optional<wxString> finished = Finish(text);
+    if (finished)
+        m_held = *finished;
+    return finished;
 }
 
 bool FinishedTextEditor::EndEdit(int, int, const wxGrid*, const wxString&, wxString* newval) {

@@ -1,6 +1,8 @@
 // Base of the typed cells: which keys and pastes their text control accepts, and how an edit ends.
 #pragma once
 
+#include "editing/WholeTextEditor.h"
+
 #include <wx/grid.h>
 #include <wx/validate.h>
 
@@ -69,8 +71,8 @@ private:
     bool m_isTooLong = false;
 };
 
-/// Text cell that opens only on keys whose character it can hold.
-class TextCellEditor : public wxGridCellTextEditor {
+/// Text cell that opens only on keys whose character it can hold. Delete opens it with the whole text.
+class TextCellEditor : public wxGridCellTextEditor, public WholeTextEditor {
 public:
     explicit TextCellEditor(size_t width) : wxGridCellTextEditor(width), m_width(width) {}
 
@@ -99,10 +101,15 @@ public:
 
     void BeginEdit(int row, int col, wxGrid* grid) override;
     bool EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) override;
+    std::optional<wxString> HoldText(int row, int col, wxGrid* grid, const wxString& text) override;
+    void ApplyHeldText(int row, int col, wxGrid* grid) override { ApplyEdit(row, col, grid); }
 
 protected:
     /// Returns the completed form of the typed text; nothing if the cell must stay unchanged.
     virtual std::optional<wxString> Finish(const wxString& typed) const = 0;
+
+    /// True if the text, which is not too long, could be typed.
+    virtual bool CanHold(const wxString& text) const = 0;
 
     /// The text kept between the phases of an edit.
     wxString m_held;

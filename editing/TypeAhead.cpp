@@ -1,6 +1,9 @@
 #include "editing/TypeAhead.h"
 
+#include "catalogue/TextNumbers.h"
+
 #include <algorithm>
+#include <optional>
 
 int ChoiceBeginningWith(const wxArrayString& choices, const wxString& text) {
     const auto position = [&choices](auto begins) {
@@ -12,6 +15,18 @@ int ChoiceBeginningWith(const wxArrayString& choices, const wxString& text) {
         return exact;
     const wxString lower = text.Lower();
     return position([&lower](const wxString& choice) { return choice.Lower().StartsWith(lower); });
+}
+
+int ChoiceMeantBy(const wxArrayString& choices, const wxString& text) {
+    if (const int same = choices.Index(text); same != wxNOT_FOUND)
+        return same;
+    if (const int inAnyCase = choices.Index(text, false); inAnyCase != wxNOT_FOUND)
+        return inAnyCase;
+    const std::optional<wxString> number = PlainDecimal(text);
+    for (size_t position = 0; number && position < choices.size(); ++position)
+        if (PlainDecimal(choices[position]) == number)
+            return static_cast<int>(position);
+    return wxNOT_FOUND;
 }
 
 wxString TypeAhead::With(wxUniChar character, const wxArrayString& choices) const {

@@ -8,6 +8,10 @@
 /// one, otherwise in any case. wxNOT_FOUND if there is none.
 int ChoiceBeginningWith(const wxArrayString& choices, const wxString& text);
 
+/// Returns the position (0-based) of the choice that a whole text means: the same text, else the same in any
+/// case, else the same number ("67" for "67.0", "23" for "023"). wxNOT_FOUND if there is none.
+int ChoiceMeantBy(const wxArrayString& choices, const wxString& text);
+
 /// The characters typed in one edit. They accumulate regardless of pauses, so that the choice depends on the
 /// keys alone. If no choice has more than one character, each character starts over.
 class TypeAhead {

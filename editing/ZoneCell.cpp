@@ -25,7 +25,7 @@ bool ReleaseZone(int row, const wxString& name) {
 
 } // namespace
 
-void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
+void P25ZoneEditor::OfferZones(int row, const wxGrid* grid) {
     // The last zone of a first generation radio is reserved for its guard rows.
     const int limit = CurrentParameters().Type == RP25 ? RP25GuardZone - 1 : NP25GuardZone;
     // The row's slot is released during the edit, so that its own zone is offered even if full.
@@ -36,29 +36,37 @@ void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
     // A memory's own zone has room now. The default row's may be full, but is offered anyway.
     const int ownOfDefaultRow = row == 0 ? FindZone(m_startZone) : wxNOT_FOUND;
     const int32_t* slots = ZoneSlotsOf(CurrentPage);
-    wxString names;
+    m_choices.clear();
     for (int zone = 0; zone <= limit; ++zone) {
         const bool full = slots[zone] == ZoneCapacity && zone != ownOfDefaultRow;
-        if (full || (zone == NP25GuardZone && scanned))
-            continue;
-        if (!names.empty())
-            names += ',';
-        names += ZoneNames32[zone];
+        if (!full && !(zone == NP25GuardZone && scanned))
+            m_choices.push_back(ZoneNames32[zone]);
     }
-    SetParameters(names);
-    if (names.empty()) {
-        // SetParameters ignores an empty text and keeps the former list.
-        m_choices.clear();
-        Combo()->Clear();
-    }
+}
+
+void P25ZoneEditor::TakeOwnSlotAgain(int row) {
+    if (m_slotReleased)
+        TakeZone(row, FindZone(m_startZone));
+}
+
+void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
+    OfferZones(row, grid);
+    Combo()->Set(m_choices);
     ListChoiceEditor::BeginEdit(row, col, grid);
+}
+
+std::optional<wxString> P25ZoneEditor::HoldText(int row, int col, wxGrid* grid, const wxString& text) {
+    OfferZones(row, grid);
+    const std::optional<wxString> held = ListChoiceEditor::HoldText(row, col, grid, text);
+    if (!held)
+        TakeOwnSlotAgain(row);
+    return held;
 }
 
 bool P25ZoneEditor::EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) {
     if (ListChoiceEditor::EndEdit(row, col, grid, oldval, newval))
         return true;
-    if (m_slotReleased)
-        TakeZone(row, FindZone(m_startZone));
+    TakeOwnSlotAgain(row);
     return false;
 }
 

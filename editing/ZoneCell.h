@@ -13,9 +13,13 @@ public:
     void BeginEdit(int row, int col, wxGrid* grid) override;
     bool EndEdit(int row, int col, const wxGrid* grid, const wxString& oldval, wxString* newval) override;
     void ApplyEdit(int row, int col, wxGrid* grid) override;
+    std::optional<wxString> HoldText(int row, int col, wxGrid* grid, const wxString& text) override;
     wxGridCellEditor* Clone() const override { return new P25ZoneEditor(*this); }
 
 private:
+    void OfferZones(int row, const wxGrid* grid);
+    void TakeOwnSlotAgain(int row);
+
     wxString m_startZone;
     bool m_slotReleased = false;
 };

@@ -57,6 +57,8 @@ public:
     virtual void OnPageAdd(wxCommandEvent& event) { event.Skip(); }
     virtual void OnPageDelete(wxCommandEvent& event) { event.Skip(); }
     virtual void OnGridCellChanging(wxGridEvent& event) { event.Skip(); }
+    /// Keys of a page that act on its cells, while no cell editor is open.
+    virtual void OnGridKeyDown(wxKeyEvent& event) { event.Skip(); }
     virtual void OnDefaultRow(wxCommandEvent& event) { event.Skip(); }
     virtual void OnCreateShadow(wxCommandEvent& event) { event.Skip(); }
     virtual void OnCopyRow(wxCommandEvent& event) { event.Skip(); }

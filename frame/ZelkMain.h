@@ -42,6 +42,7 @@ public:
 
     // editing/
     void OnGridCellChanging(wxGridEvent& event) override;
+    void OnGridKeyDown(wxKeyEvent& event) override;
     void OnValidatePage(wxCommandEvent& event) override;
     void OnSelectAll(wxCommandEvent& event) override;
     void OnDeSelectAll(wxCommandEvent& event) override;

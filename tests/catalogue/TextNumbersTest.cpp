@@ -79,3 +79,44 @@ TEST(TextNumbers, FlagsAreUpperCaseHexadecimalOfAtLeastTwoDigits) {
     EXPECT_EQ(FlagText(0x3FF), "3FF");
     EXPECT_EQ(FlagText(-1), "FFFFFFFF");
 }
+
+TEST(TextNumbers, PlainDecimalIsOneTextForEachValue) {
+    const struct {
+        const char* text;
+        const char* plain; ///< null: no decimal
+    } lines[] = {
+        {"154.45250", "154.4525"},
+        {"154.4525", "154.4525"},
+        {"154,4525", "154.4525"},
+        {"0154.4525", "154.4525"},
+        {"151", "151"},
+        {"151.", "151"},
+        {"151.000", "151"},
+        {".5", "0.5"},
+        {"023", "23"},
+        {"000", "0"},
+        {"0", "0"},
+        {"0.0", "0"},
+        {"100", "100"},
+        {"", nullptr},
+        {".", nullptr},
+        {"1.2.3", nullptr},
+        {"1,234.5", nullptr},
+        {"-5", nullptr},
+        {"OFF", nullptr},
+        {"12 ", nullptr},
+    };
+    for (const auto& line : lines) {
+        const std::optional<wxString> plain = PlainDecimal(line.text);
+        EXPECT_EQ(plain.has_value(), line.plain != nullptr) << '"' << line.text << '"';
+        EXPECT_EQ(plain.value_or(""), line.plain ? line.plain : "") << '"' << line.text << '"';
+    }
+}
+
+TEST(TextNumbers, WholeNumberIsMadeOfDigitsAndInItsRange) {
+    EXPECT_EQ(WholeNumber("15", 0, 15), 15);
+    EXPECT_EQ(WholeNumber("007", 0, 15), 7);
+    EXPECT_EQ(WholeNumber("0", 0, 15), 0);
+    for (const char* text : {"16", "", "-1", "+5", " 5", "5 ", "5.0", "x", "99999999999999"})
+        EXPECT_EQ(WholeNumber(text, 0, 15), std::nullopt) << '"' << text << '"';
+}

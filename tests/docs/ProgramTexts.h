@@ -23,6 +23,7 @@ inline const std::vector<ProgramText> ProgramTexts = {
     {"Change Selection to defaults?", "This will overwrite all data in selection, there is no 'undo'!"},
     {"Paste copied data into Selection?", "This will overwrite all data in selection, there is no 'undo'!"},
     {"Clear rows in Selection?", "This will clear all data in selection, there is no 'undo'!"},
+    {"Empty cells in Selection?", "This will clear all data in selection, there is no 'undo'!"},
     {"Insert row above Selected row?", "If last row is used, it will be lost, there is no 'undo'!"},
     {"Delete Selection?", "This will delete all data in selection, there is no 'undo'!"},
     {"Change Selection to default?", "This will overwrite all valid data in selection, there is no 'undo'!"},

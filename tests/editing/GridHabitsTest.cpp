@@ -161,20 +161,29 @@ TEST_F(GridCopy, OfABlockHasTabsBetweenColumnsAndALineForEachRow) {
     EXPECT_EQ(Copied(), Lines({"LOW   005\tW\t66.0000", "LOW   006\tN\t66.0000"}));
 }
 
-TEST_F(GridCopy, OfRowsHoldsAllTheirCells) {
+TEST_F(GridCopy, OfRowsHoldsTheirShownCellsAsTheyAreSeen) {
     Fill({5, 6});
-    SetCell(6, RFRQ, "77.5000");
+    SetCells(6, {{RFRQ, "77.5000"}, {MNUM, "6"}, {SCAN, "3"}});
     ClickAt(RowLabelSpot(*Grid(), 5));
-    Texts rows;
-    for (int row : {5, 6}) {
-        std::string line = Text(row, 0);
-        for (int col = 1; col < ColumnTotal; ++col)
-            line += "\t" + Text(row, col);
-        rows.push_back(line);
-    }
-    EXPECT_EQ(Copied(), Lines({rows[0]}));
+    const std::string row5 = "005\t☐☐☐☐☐\tLOW   005\tW\t66.0000\tOFF\tOFF\t88.0000\tOFF\tOFF";
+    const std::string row6 = "006\t☒☒☐☐☐\tLOW   006\tW\t77.5000\tOFF\tOFF\t88.0000\tOFF\tOFF";
+    EXPECT_EQ(Copied(), Lines({row5}));
     PressKey("Shift+Down");
-    EXPECT_EQ(Copied(), Lines({rows[0], rows[1]}));
+    EXPECT_EQ(Copied(), Lines({row5, row6}));
+}
+
+TEST_F(GridCopy, OfABlockLeavesTheHiddenColumnsInItOut) {
+    Retarget(Kdrv716B, 0);
+    Fill({5});
+    Grid()->SelectBlock(5, MNUM, 5, RNSV);
+    EXPECT_EQ(Copied(), Lines({"005\tN\tN\t1\tVHF  005\tn\t136.0000\tx\t10"}));
+}
+
+TEST_F(GridCopy, OfCellsThatAreApartKeepsTheirPlaces) {
+    Fill({5, 6, 7});
+    Grid()->SelectBlock(5, MODE, 5, MODE);
+    Grid()->SelectBlock(7, RFRQ, 7, RFRQ, true);
+    EXPECT_EQ(Copied(), Lines({"W\t", "\t66.0000"}));
 }
 
 TEST_F(GridCopy, WithAnOpenEditorIsItsSelectedText) {
@@ -186,13 +195,13 @@ TEST_F(GridCopy, WithAnOpenEditorIsItsSelectedText) {
     PressKey("Escape");
 }
 
-TEST_F(GridCopy, ChangesNothingOnThePageNorDoesPastingWithoutAnEditor) {
+TEST_F(GridCopy, ChangesNothingOnThePageNorDoOtherKeysOfSpreadsheets) {
     Fill({5, 6});
     const PageState before = StateOfPage();
     for (int col : {MNUM, SCAN, DESC, MODE, RFRQ, RTON}) {
         GoTo(5, col);
         PressKey("Ctrl+C");
-        for (const char* key : {"Ctrl+V", "Ctrl+X", "Ctrl+D", "Ctrl+Z"}) {
+        for (const char* key : {"Ctrl+X", "Ctrl+D", "Ctrl+Z"}) {
             GoTo(6, col);
             PressKey(key);
             EXPECT_FALSE(IsOpen()) << ColumnTag[col] << ", " << key;

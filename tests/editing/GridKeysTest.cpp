@@ -357,7 +357,7 @@ TEST_F(GridKeys, FixedCellsAreHarmedByNoKey) {
 
 TEST_F(GridKeys, DeleteAndBackspaceOpenAnEditorThatLeavesTheCellUsable) {
     Retarget(Kdrv716B, 0);
-    // Return follows at once. Delete removes the first character, Backspace the last one.
+    // Return follows at once. Delete leaves the whole text, Backspace removes the last character.
     struct Line {
         const char* name;
         int col;
@@ -365,9 +365,9 @@ TEST_F(GridKeys, DeleteAndBackspaceOpenAnEditorThatLeavesTheCellUsable) {
     };
     for (const Line& line :
          std::initializer_list<Line>{{"frequency", RFRQ, "136.00000", "136.00000", "136.00000"},
-                                     {"description", DESC, "QUAY", "UAY", "QUA"},
-                                     {"talk group", RTGP, "1234", "0234", "0123"},
-                                     {"NAC", RNAC, "293", "093", "029"},
+                                     {"description", DESC, "QUAY", "QUAY", "QUA"},
+                                     {"talk group", RTGP, "1234", "1234", "0123"},
+                                     {"NAC", RNAC, "293", "293", "029"},
                                      {"mode", MODE, "n", "n", "n"},
                                      {"zone", ZONE, "1", "1", "1"},
                                      {"tone", RTON, "67.0", "67.0", "67.0"},

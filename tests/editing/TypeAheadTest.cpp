@@ -80,3 +80,32 @@ TEST(TypeAhead, KnowsWhetherACharacterFits) {
 TEST(TypeAhead, FindsNothingInAnEmptyList) {
     EXPECT_EQ(After("1", wxArrayString()), wxNOT_FOUND);
 }
+
+TEST(ChoiceMeant, ByAWholeTextIsTheSameTextInAnyCaseOrTheSameNumber) {
+    const wxArrayString codes = List({"023", "025", "231"});
+    const struct {
+        const char* text;
+        const wxArrayString& choices;
+        int position;
+    } cases[] = {
+        {"OFF", Tones, 0},
+        {"off", Tones, 0},
+        {"151.4", Tones, 3},
+        {"67", Tones, 1},
+        {"67,0", Tones, 1},
+        {"100", Tones, 2},
+        {"100.00", Tones, 2},
+        {"d", Modes, 2},
+        {"W", Modes, 0},
+        {"23", codes, 0},
+        {"0231", codes, 2},
+        {"1", Tones, wxNOT_FOUND},
+        {"15", Tones, wxNOT_FOUND},
+        {"2", codes, wxNOT_FOUND},
+        {"", Tones, wxNOT_FOUND},
+        {"67.0 ", Tones, wxNOT_FOUND},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(ChoiceMeantBy(c.choices, c.text), c.position) << '"' << c.text << '"';
+    EXPECT_EQ(ChoiceMeantBy(List({"w", "W"}), "W"), 1) << "the same case comes first";
+}

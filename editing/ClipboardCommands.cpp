@@ -208,6 +208,9 @@ void PasteCells() {
                 SelectPasted(grid, first, texts);
         }
         paste.PaintRefused();
+        // The colour of selected cells would hide the paint.
+        if (!paste.outcome.refused.empty())
+            grid->ClearSelection();
     }
     TellOutcome(paste.outcome.Text(), paste.outcome.Story());
 }

@@ -131,6 +131,7 @@ TEST_F(GridPaste, LeavesCellsAsTheyWereAndPaintsThemWhereTheTextCannotStand) {
     EXPECT_EQ(Verdict(), "5 of 8 cells NOT PASTED from row 5");
     EXPECT_EQ(Story(), "3 cells pasted\nNot pasted, since the text can't stand there: "
                        "row 5 Desc, Mode, RxFreq, RxTn; row 6 RxTn");
+    EXPECT_FALSE(Grid()->IsSelection()) << "a selection would hide the paint";
     PasteAt(5, RFRQ, "66.0000");
     EXPECT_FALSE(IsPainted(5, RFRQ)) << "the value that the cell has is confirmed";
 }

@@ -4,6 +4,7 @@
 #include "commands/StatusOutcome.h"
 #include "files/ZelkPrinting.h"
 #include "frame/CommandTables.h"
+#include "frame/FindLine.h"
 #include "frame/ZelkGUI.h"
 #include "transfer/TransferStatus.h"
 #include "transfer/wxAsyncSerial.h"
@@ -218,6 +219,7 @@ void OrvZELFrame::ConnectEvents(bool connect) {
     for (const ToolEntry& tool : Tools)
         if (tool.label)
             Link(connect, this, wxEVT_TOOL, &OrvZELFrame::OnCommand, this, tool.id);
+    Link(connect, this, wxEVT_CHAR_HOOK, &OrvZELFrame::OnWindowKey, this);
     Link(connect, this, wxEVT_MENU_OPEN, &OrvZELFrame::OnMenuOpen, this);
     Link(connect, this, wxEVT_MENU_CLOSE, &OrvZELFrame::OnMenuClose, this);
 }
@@ -226,6 +228,19 @@ void OrvZELFrame::OnCommand(wxCommandEvent& event) {
     ForgetOutcome();
     if (const CommandHandler handler = HandlerOf(event.GetId()))
         (this->*handler)(event);
+}
+
+void OrvZELFrame::OnWindowKey(wxKeyEvent& event) {
+    const int key = event.GetKeyCode(), modifiers = event.GetModifiers();
+    wxWindow* const page = m_pagePanels[CurrentPage];
+    FindLine* const line = FindLine::Of(page);
+    if (modifiers == wxMOD_CONTROL && key == 'F')
+        (line ? line : FindLine::AddTo(page))->Open();
+    else if (modifiers == wxMOD_NONE && key == WXK_ESCAPE && line && line->IsShown() &&
+             !CurrentGrid()->IsCellEditControlShown())
+        line->Close();
+    else
+        event.Skip();
 }
 
 void OrvZELFrame::OnMenuOpen(wxMenuEvent& event) {

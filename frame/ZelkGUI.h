@@ -110,6 +110,8 @@ private:
     void BuildToolBar();
     void BuildFirstPage();
     void ConnectEvents(bool connect);
+    /// Keys of the window, whatever control has the focus.
+    void OnWindowKey(wxKeyEvent& event);
     void OnMenuOpen(wxMenuEvent& event);
     void OnMenuClose(wxMenuEvent& event);
     void AppendContextItem(int id);

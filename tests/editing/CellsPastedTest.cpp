@@ -328,6 +328,21 @@ TEST_F(GridPaste, TakesWhatASpreadsheetMakesOfNumbers) {
     }
 }
 
+TEST_F(GridPaste, OfTextAsLibreOfficeCalcCopiesItGivesItsChannels) {
+    // Calc showed these cells as numbers, writes no last line end, and has no zeros at the end.
+    PasteAt(8, DESC,
+            "HARBOUR 1\tW\t70.1\t100\tOFF\n"
+            "F\xC3\xA4hre\tW\t70.1375\tOFF\t23\n"
+            "PIER 7\tN\t71.025\t67\tOFF");
+    EXPECT_EQ(TextsOf(8, {DESC, MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}),
+              (Texts{"HARBOUR 1", "W", "70.1000", "100.0", "OFF", "70.1000", "100.0", "OFF"}));
+    EXPECT_EQ(TextsOf(9, {DESC, MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}),
+              (Texts{"LOW   009", "W", "70.1375", "OFF", "023", "70.1375", "OFF", "023"}));
+    EXPECT_EQ(TextsOf(10, {DESC, MODE, RFRQ, RTON, RCOD, TFRQ, TTON, TCOD}),
+              (Texts{"PIER 7", "N", "71.0250", "67.0", "OFF", "71.0250", "67.0", "OFF"}));
+    EXPECT_EQ(PaintedIn(9), Texts{"DESC"}) << "a letter that the radio can't show";
+}
+
 TEST_F(GridPaste, WithAnOpenEditorGoesIntoTheEditor) {
     Fill({5, 6});
     GoTo(5, DESC);

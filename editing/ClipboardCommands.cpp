@@ -5,6 +5,7 @@
 #include "commands/StatusOutcome.h"
 #include "editing/CellText.h"
 #include "editing/ClipboardText.h"
+#include "editing/NumbersTogether.h"
 #include "editing/PasteOutcome.h"
 #include "editing/RowCommands.h"
 #include "editing/Shadows.h"
@@ -16,6 +17,10 @@
 #include <wx/textfile.h>
 
 #include <algorithm>
+#include <map>
+#include <set>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -92,22 +97,36 @@ class Paste {
 public:
     explicit Paste(wxGrid* grid) : m_grid(grid) {}
 
-    /// An empty text leaves its cell as it is: nothing can be typed to empty most cells, and rows with an
-    /// empty cell aren't saved.
+    /// An empty text leaves its cell as it is: most cells can't be emptied by typing, and rows with an empty
+    /// cell aren't saved. Memory numbers wait for EnterNumbers.
     void Enter(const CellPlace& cell, const wxString& text) {
         if (text.empty())
             return;
-        switch (EnterText(m_grid, cell.row, cell.col, text)) {
-        case EnteredText::Taken:
-            ++outcome.taken;
-            break;
-        case EnteredText::Refused:
-            outcome.refused.emplace(cell.row, cell.col);
-            break;
-        case EnteredText::Locked:
-            ++outcome.locked;
-            break;
-        }
+        if (cell.col == MNUM)
+            m_numbers.push_back({cell.row, text});
+        else
+            EnterNow(cell, text);
+    }
+
+    /// Enters the memory numbers together: rows that were sorted in a spreadsheet exchange theirs.
+    void EnterNumbers() {
+        std::vector<std::pair<int, int>> wanted;
+        for (const auto& [row, text] : m_numbers)
+            if (const auto number = WholeNumber(text, 0, CurrentParameters().Rows);
+                number && !m_grid->IsReadOnly(row, MNUM))
+                wanted.emplace_back(row, *number);
+        const std::vector<bool> fits = NumbersThatFit(PresentNumbers(), wanted);
+        std::set<int> fittingRows;
+        for (size_t i = 0; i < wanted.size(); ++i)
+            if (fits[i])
+                fittingRows.insert(wanted[i].first);
+        for (const int row : fittingRows)
+            m_grid->SetCellValue(row, MNUM, "");
+        // Numbers that fit come first, or another row could take one of them.
+        for (const bool fitting : {true, false})
+            for (const auto& [row, text] : m_numbers)
+                if (fittingRows.contains(row) == fitting)
+                    EnterNow({row, MNUM}, text);
     }
 
     /// Enters texts to the right of a cell and below it, into shown columns.
@@ -137,7 +156,30 @@ public:
     PasteOutcome outcome;
 
 private:
+    void EnterNow(const CellPlace& cell, const wxString& text) {
+        switch (EnterText(m_grid, cell.row, cell.col, text)) {
+        case EnteredText::Taken:
+            ++outcome.taken;
+            break;
+        case EnteredText::Refused:
+            outcome.refused.emplace(cell.row, cell.col);
+            break;
+        case EnteredText::Locked:
+            ++outcome.locked;
+            break;
+        }
+    }
+
+    std::map<int, int> PresentNumbers() const {
+        std::map<int, int> numbers;
+        for (int row = 1; row <= CurrentParameters().Rows; ++row)
+            if (const wxString text = m_grid->GetCellValue(row, MNUM); !text.empty())
+                numbers[row] = ReadDecimal(text);
+        return numbers;
+    }
+
     wxGrid* m_grid;
+    std::vector<std::pair<int, wxString>> m_numbers; ///< texts for MNUM by row
 };
 
 /// Returns the selected cells that one pasted value goes into. Of columns that are selected whole these are
@@ -199,11 +241,13 @@ void PasteCells() {
         if (!cells.empty()) {
             for (const CellPlace& cell : cells)
                 paste.Enter(cell, texts[0][0]);
+            paste.EnterNumbers();
             SelectAgain(grid, blocks);
         } else {
             const CellPlace first = oneValue ? CellPlace{grid->GetGridCursorRow(), grid->GetGridCursorCol()}
                                              : FirstCellForBlock(grid);
             paste.EnterFrom(first, texts);
+            paste.EnterNumbers();
             if (!oneValue)
                 SelectPasted(grid, first, texts);
         }

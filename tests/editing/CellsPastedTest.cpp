@@ -276,6 +276,22 @@ TEST_F(GridPaste, OfNumbersInUseOrOutOfRangeIsRefusedWithoutABox) {
     EXPECT_EQ(PaintedIn(5), Texts{});
 }
 
+TEST_F(GridPaste, OfRowsThatWereSortedTakesTheirNumbersAlong) {
+    Retarget(Kdrv716B, 0);
+    Fill({5, 6, 7, 8});
+    PasteAt(5, MNUM, "007\tN\tN\t1\tSEVEN\n005\tN\tN\t1\tFIVE\n6\tN\tN\t1\tSIX\n");
+    EXPECT_EQ(TextsOf(5, {MNUM, PRIM, DESC}), (Texts{"007", "007", "SEVEN"}));
+    EXPECT_EQ(TextsOf(6, {MNUM, PRIM, DESC}), (Texts{"005", "005", "FIVE"}));
+    EXPECT_EQ(TextsOf(7, {MNUM, PRIM, DESC}), (Texts{"006", "006", "SIX"}));
+    for (int row : {5, 6, 7})
+        EXPECT_EQ(PaintedIn(row), Texts{}) << row;
+    PasteAt(5, MNUM, "005\n008\n");
+    EXPECT_EQ(TextsOf(5, {MNUM}), Texts{"007"}) << "005 is kept";
+    EXPECT_EQ(TextsOf(6, {MNUM}), Texts{"005"}) << "008 is in use";
+    EXPECT_EQ(PaintedIn(5), Texts{"MNUM"});
+    EXPECT_EQ(PaintedIn(6), Texts{"MNUM"});
+}
+
 TEST_F(GridPaste, OfZonesMovesSlotsAndLeavesFullZones) {
     Retarget(Kdrv716B, 0);
     Fill({5});

@@ -311,8 +311,9 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
              judge.Happened({FaultKind::Refusal, FaultKind::RefusalAlways, FaultKind::EndRecord}));
         // An answer that is sent twice stands in for that of a later row, which may be lost: no count can
         // tell.
-        const bool replaced = judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) &&
-                              (faulty.spoiltToRadio || judge.Happened({FaultKind::Delayed}));
+        const bool replaced = (judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) &&
+                               (faulty.spoiltToRadio || judge.Happened({FaultKind::Delayed}))) ||
+                              judge.Count({FaultKind::Delayed}) > 1;
         // A line whose wait message is garbled is sent again, and answered twice.
         const bool busyTwice = faulty.spoiltToProgram &&
                                judge.Happened({FaultKind::BusyErasing, FaultKind::BusyFor, FaultKind::Wait});
@@ -390,8 +391,8 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
             // A radio that leaves out a memory, or ends its list early, has told all, for all that anyone can
             // know: the protocol has no count.
             if (status == TransferComplete && clean.status == TransferComplete &&
-                !judge.Happened({FaultKind::EndRecord, FaultKind::LineBefore}) && !endedBySilence &&
-                !LosesLineToNoise(judge) && !garbledTwice)
+                !judge.Happened({FaultKind::EndRecord, FaultKind::LineBefore, FaultKind::Babble}) &&
+                !endedBySilence && !LosesLineToNoise(judge) && !garbledTwice)
                 for (const auto& [row, texts] : all)
                     judge.Expect(rows.contains(row),
                                  "a complete read, but memory " + std::to_string(row) + " hasn't come");

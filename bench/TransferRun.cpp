@@ -27,6 +27,9 @@ public:
     Moment Now() const override { return SystemClock().Now(); }
     wxDateTime Date() const override { return SystemClock().Date(); }
     void HandleEvents() override { SystemClock().HandleEvents(); }
+    void AwaitDrawing(const std::function<bool()>& isDrawn, Moment end) override {
+        SystemClock().AwaitDrawing(isDrawn, end);
+    }
     void WaitForText(Moment /*end*/) override {}
     void SleepUntil(Moment end) override {
         while (Now() < end) {

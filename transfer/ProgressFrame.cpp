@@ -1,12 +1,17 @@
 // Window that shows the progress of a transfer and has its Cancel button.
 #include "transfer/ProgressFrame.h"
 
+#include "transfer/TransferSystem.h"
+
 #include <wx/button.h>
+#include <wx/dialog.h>
 #include <wx/gauge.h>
 #include <wx/persist/toplevel.h>
 #include <wx/sizer.h>
 #include <wx/statline.h>
 #include <wx/stattext.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -14,6 +19,11 @@ constexpr int Border = 5;
 constexpr int GaugeRange = 100;
 constexpr int GaugeStart = 10;
 constexpr const char* WidestStatus = "Sending Shadow Memory Data....";
+
+/// Limits for the drawing of a new window, which the window manager has to place, and of a text. A window
+/// that nobody can see may never be drawn.
+constexpr std::chrono::milliseconds WindowLimit{1000};
+constexpr std::chrono::milliseconds TextLimit{100};
 
 wxGauge* MakeGauge(wxWindow* parent) {
     auto* gauge =
@@ -26,7 +36,8 @@ wxGauge* MakeGauge(wxWindow* parent) {
 
 ProgressFrame::ProgressFrame(wxWindow* parent, wxWindowID id, const wxString& title, const wxPoint& pos,
                              const wxSize& size, long style)
-    : wxFrame(parent, id, title, pos, size, style) {
+    : wxFrame(parent, id, title, pos, size, parent ? style | wxFRAME_FLOAT_ON_PARENT : style) {
+    FollowParent();
     CreateControls();
 
     SetName("ProgressFrame");
@@ -48,18 +59,35 @@ ProgressFrame::ProgressFrame(wxWindow* parent, wxWindowID id, const wxString& ti
         persistence.RegisterAndRestore(this);
 
     m_cancelButton->Bind(wxEVT_BUTTON, &ProgressFrame::OnCancel, this);
+    Bind(wxEVT_CHAR_HOOK, &ProgressFrame::OnKey, this);
+    Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
+        m_isDrawn = true;
+        event.Skip();
+    });
     Bind(wxEVT_CLOSE_WINDOW, &ProgressFrame::OnCloseRequest, this);
     m_disabler = std::make_unique<wxWindowDisabler>(this);
+    m_keyHolder->SetFocus();
 }
 
 ProgressFrame::~ProgressFrame() {
     Hide();
+    if (m_main)
+        m_main->Unbind(wxEVT_ACTIVATE, &ProgressFrame::OnMainActivated, this);
     Unbind(wxEVT_CLOSE_WINDOW, &ProgressFrame::OnCloseRequest, this);
     m_cancelButton->Unbind(wxEVT_BUTTON, &ProgressFrame::OnCancel, this);
     m_disabler.reset();
 }
 
+void ProgressFrame::FollowParent() {
+    m_main = dynamic_cast<wxTopLevelWindow*>(wxGetTopLevelParent(GetParent()));
+    if (!m_main)
+        return;
+    SetIcons(m_main->GetIcons());
+    m_main->Bind(wxEVT_ACTIVATE, &ProgressFrame::OnMainActivated, this);
+}
+
 void ProgressFrame::CreateControls() {
+    m_keyHolder = new wxWindow(this, wxID_ANY, wxPoint(0, 0), wxSize(1, 1));
     auto* column = new wxBoxSizer(wxVERTICAL);
     m_label = new wxStaticText(this, wxID_ANY, wxString());
     m_label->SetMinSize(wxSize(GetTextExtent(WidestStatus).x, wxDefaultCoord));
@@ -78,12 +106,26 @@ void ProgressFrame::CreateControls() {
     SetSizer(column);
 }
 
+void ProgressFrame::AwaitDrawing() {
+    m_isDrawn = false;
+    Refresh();
+    Draw(WindowLimit);
+}
+
+void ProgressFrame::Draw(std::chrono::milliseconds limit) {
+    TransferClock& clock = CurrentTransferSystem().Clock();
+    clock.AwaitDrawing([this] { return m_isDrawn; }, clock.Now() + limit);
+}
+
 void ProgressFrame::SetStatus(const wxString& text) {
     // Drivers set it for every row. Setting a label makes the window lay out and paint itself.
     if (text == m_status)
         return;
     m_status = text;
+    m_isDrawn = false;
     m_label->SetLabelText(m_status);
+    if (IsShown())
+        Draw(TextLimit);
 }
 
 void ProgressFrame::AppendStatus(const wxString& text) {
@@ -110,6 +152,26 @@ void ProgressFrame::Pulse() {
 void ProgressFrame::OnCancel(wxCommandEvent& event) {
     Cancelled = true;
     event.Skip();
+}
+
+void ProgressFrame::OnKey(wxKeyEvent& event) {
+    if (event.GetKeyCode() == WXK_ESCAPE)
+        Cancelled = true;
+    else if (event.GetKeyCode() == WXK_TAB)
+        m_cancelButton->SetFocus();
+    else
+        event.Skip();
+}
+
+void ProgressFrame::OnMainActivated(wxActivateEvent& event) {
+    event.Skip();
+    const auto isOpenBox = [](const wxWindow* child) {
+        const auto* box = dynamic_cast<const wxDialog*>(child);
+        return box && box->IsModal();
+    };
+    // A click on the disabled window takes the keyboard along, and Escape would do nothing.
+    if (event.GetActive() && IsShown() && std::none_of(GetChildren().begin(), GetChildren().end(), isOpenBox))
+        Raise();
 }
 
 void ProgressFrame::OnCloseRequest(wxCloseEvent& event) {

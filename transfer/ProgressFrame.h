@@ -5,7 +5,9 @@
 
 #include <wx/frame.h>
 #include <wx/utils.h>
+#include <wx/weakref.h>
 
+#include <chrono>
 #include <memory>
 
 class wxButton;
@@ -14,10 +16,12 @@ class wxStaticLine;
 class wxStaticText;
 
 /// Shows the progress of a transfer. While it exists, all other windows are disabled, so that a transfer that
-/// pumps events can't be started a second time. Its size and position are kept between runs of the program.
+/// pumps events can't be started a second time. It stays above the window of its parent. Its size and
+/// position are kept between runs of the program.
 ///
 /// The transfer creates it on the heap and destroys it. The user can't destroy it: closing the window counts
-/// as Cancel.
+/// as Cancel, and so does Escape. At first no control has the keyboard, so that a key meant for the window
+/// below cancels nothing.
 class ProgressFrame : public wxFrame, public TransferProgress {
 public:
     /// @param parent window to centre on, or null for the middle of the screen
@@ -26,7 +30,11 @@ public:
                            long style = wxCAPTION | wxRESIZE_BORDER);
     ~ProgressFrame() override;
 
-    /// Shows a text above the gauges.
+    /// Waits until the shown window is drawn, for a second at most.
+    void AwaitDrawing();
+
+    /// Shows a text above the gauges. In a shown window it is drawn when this returns: many texts are
+    /// followed by a pause in which nothing is drawn.
     void SetStatus(const wxString& text) override;
 
     /// Appends to the text shown.
@@ -46,13 +54,22 @@ public:
 
 private:
     void CreateControls();
+    void FollowParent();
+    void Draw(std::chrono::milliseconds limit);
     void OnCancel(wxCommandEvent& event);
+    void OnKey(wxKeyEvent& event);
+    void OnMainActivated(wxActivateEvent& event);
     void OnCloseRequest(wxCloseEvent& event);
 
     wxStaticLine* m_line = nullptr;
     wxStaticText* m_label = nullptr;
     wxString m_status;
     wxButton* m_cancelButton = nullptr;
+    /// Has the keyboard until the user moves it to a control. No one sees it.
+    wxWindow* m_keyHolder = nullptr;
+    bool m_isDrawn = false;
+    /// The window of the parent.
+    wxWeakRef<wxTopLevelWindow> m_main;
     std::unique_ptr<wxWindowDisabler> m_disabler;
     wxGauge* m_pulseGauge = nullptr;
     wxGauge* m_mainGauge = nullptr;

@@ -13,6 +13,9 @@ namespace {
 /// The longest time between two passes over the window's events.
 constexpr std::chrono::milliseconds EventInterval{5};
 
+/// Pause between two looks at whether a window is drawn.
+constexpr std::chrono::milliseconds DrawingInterval{1};
+
 class SteadyClock : public TransferClock {
 public:
     Moment Now() const override { return std::chrono::steady_clock::now(); }
@@ -24,6 +27,15 @@ public:
         if (auto* loop = wxEventLoopBase::GetActive())
             loop->YieldFor(wxEVT_CATEGORY_UI | wxEVT_CATEGORY_USER_INPUT);
         m_nextEvents = Now() + EventInterval;
+    }
+
+    void AwaitDrawing(const std::function<bool()>& isDrawn, Moment end) override {
+        auto* loop = wxEventLoopBase::GetActive();
+        while (loop && !isDrawn() && Now() < end) {
+            loop->YieldFor(wxEVT_CATEGORY_UI);
+            if (!isDrawn())
+                SleepPrecisely(Now() + DrawingInterval);
+        }
     }
 
     void WaitForText(Moment end) override {

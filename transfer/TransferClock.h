@@ -4,6 +4,7 @@
 #include <wx/datetime.h>
 
 #include <chrono>
+#include <functional>
 
 /// Clock and waits of a transfer: the system's, or one that a test turns.
 class TransferClock {
@@ -20,6 +21,9 @@ public:
     /// Handles painting and user input, nothing that could start another transfer. May do nothing between two
     /// waits, if it did so only a moment ago.
     virtual void HandleEvents() = 0;
+
+    /// Draws windows, without handling user input, until `isDrawn` or `end`. Does nothing in virtual time.
+    virtual void AwaitDrawing(const std::function<bool()>& /*isDrawn*/, Moment /*end*/) {}
 
     /// Waits until text has arrived or until `end`. May return early, so that the caller can handle events.
     virtual void WaitForText(Moment end) = 0;

@@ -22,6 +22,7 @@ std::unique_ptr<ProgressFrame> MakeProgressFrame(wxGrid* grid, const wxString& t
     progress->SetRange(grid->GetNumberRows());
     progress->SetValue(0);
     progress->Show();
+    progress->AwaitDrawing();
     return progress;
 }
 

@@ -20,11 +20,15 @@ public:
     ~CancelSpot() override { wxEvtHandler::RemoveFilter(this); }
 
     int FilterEvent(wxEvent& event) override {
-        const auto* button = dynamic_cast<wxButton*>(event.GetEventObject());
-        if (button && dynamic_cast<ProgressFrame*>(button->GetParent()) && button->IsShownOnScreen()) {
-            const std::lock_guard lock(m_mutex);
-            m_spot = testbench::MiddleOf(*button);
-        }
+        auto* window = dynamic_cast<wxWindow*>(event.GetEventObject());
+        const auto* frame = window ? dynamic_cast<ProgressFrame*>(wxGetTopLevelParent(window)) : nullptr;
+        if (!frame || !frame->IsShownOnScreen())
+            return Event_Skip;
+        for (const wxWindow* child : frame->GetChildren())
+            if (const auto* button = dynamic_cast<const wxButton*>(child)) {
+                const std::lock_guard lock(m_mutex);
+                m_spot = testbench::MiddleOf(*button);
+            }
         return Event_Skip;
     }
 

@@ -3,14 +3,17 @@
 
 #include "robot/Pump.h"
 #include "robot/ScreenSpots.h"
+#include "robot/XDesk.h"
 #include "tests/support/Keys.h"
 #include "tests/transfer/WindowEnd.h"
 #include "transfer/ProgressDialog.h"
+#include "transfer/TransferSession.h"
 
 #include <gtest/gtest.h>
 #include <wx/button.h>
 #include <wx/display.h>
 #include <wx/gauge.h>
+#include <wx/grid.h>
 #include <wx/memconf.h>
 #include <wx/sizer.h>
 #include <wx/statline.h>
@@ -219,6 +222,126 @@ TEST_F(ProgressFrameTest, ACloseThatCannotBeRefusedLeavesTheWindowToItsTransfer)
     PumpUntilIdle();
     EXPECT_TRUE(frame.Cancelled);
     EXPECT_FALSE(frame.IsBeingDeleted());
+}
+
+/// What a person sees in a rectangle of the screen.
+std::string Seen(const wxRect& part) {
+    const wxImage picture = XDesk().Picture(part);
+    const auto* bytes = reinterpret_cast<const char*>(picture.GetData());
+    return {bytes, static_cast<size_t>(picture.GetWidth()) * static_cast<size_t>(picture.GetHeight()) * 3};
+}
+
+/// A window with a grid, as that of the program, large enough to be seen beside the progress window.
+class ProgressOverWindow : public ProgressFrameTest {
+protected:
+    ProgressOverWindow() {
+        m_main = new wxFrame(nullptr, wxID_ANY, "Main", wxPoint(40, 40), wxSize(900, 600));
+        m_grid = new wxGrid(m_main, wxID_ANY);
+        m_grid->CreateGrid(30, 8);
+        ShowAndFocus(*m_main);
+    }
+    ~ProgressOverWindow() override {
+        if (m_frame)
+            DestroyFrame();
+        DestroyAndWait(m_main);
+    }
+
+    ProgressFrame& ShowFrame() {
+        MakeFrame(m_grid->GetGridWindow());
+        ShowAndFocus(*m_frame);
+        return *m_frame;
+    }
+
+    wxFrame* m_main;
+    wxGrid* m_grid;
+};
+
+TEST_F(ProgressOverWindow, StaysAboveItWhateverIsClicked) {
+    const ProgressFrame& frame = ShowFrame();
+    for (const wxPoint& spot : {wxPoint(20, 20), wxPoint(60, 400), wxPoint(300, -15)}) {
+        ClickAt(*m_main, spot);
+        PumpFor(150);
+    }
+    ClickAt(MiddleOf(CancelButton()));
+    EXPECT_TRUE(PumpUntil([&] { return frame.Cancelled; }, 1500)) << "the button can't be reached";
+}
+
+TEST_F(ProgressOverWindow, TakesEscapeAlsoAfterAClickOnTheWindowBelow) {
+    const ProgressFrame& frame = ShowFrame();
+    ClickAt(*m_main, {20, 20});
+    PumpFor(150);
+    PressKey("Escape");
+    EXPECT_TRUE(PumpUntil([&] { return frame.Cancelled; }, 1500));
+}
+
+TEST_F(ProgressOverWindow, IsDrawnBeforeAnythingWaits) {
+    const TransferMeans means = MeansFor(m_grid, "/dev/no-such-port", "Send to RP25 Radio Progress");
+    auto* frame = dynamic_cast<ProgressFrame*>(means.progress.get());
+    ASSERT_NE(frame, nullptr);
+    const wxRect area(frame->ClientToScreen(wxPoint(0, 0)), frame->GetClientSize());
+    const std::string first = Seen(area);
+    PumpFor(300);
+    EXPECT_EQ(wxRect(frame->ClientToScreen(wxPoint(0, 0)), frame->GetClientSize()), area);
+    EXPECT_TRUE(first == Seen(area)) << "it was drawn only by later events";
+}
+
+TEST_F(ProgressOverWindow, DrawsEachStatusWhenItIsSet) {
+    ProgressFrame& frame = ShowFrame();
+    PumpFor(300);
+    const wxRect area(frame.ClientToScreen(wxPoint(0, 0)), frame.GetClientSize());
+    std::string before = Seen(area);
+    for (const char* text : {"Initializing....", "Sending Memory Data....", "Transfer Complete."}) {
+        frame.SetStatus(text);
+        const std::string now = Seen(area);
+        EXPECT_TRUE(now != before) << text << ": not drawn";
+        PumpFor(100);
+        EXPECT_TRUE(now == Seen(area)) << text << ": not all of it was drawn";
+        before = now;
+    }
+}
+
+TEST_F(ProgressFrameTest, HasTheIconOfItsParentsWindow) {
+    auto* parent = new wxFrame(nullptr, wxID_ANY, "Parent");
+    wxBitmap picture(48, 48);
+    wxIcon icon;
+    icon.CopyFromBitmap(picture);
+    parent->SetIcon(icon);
+    auto* inner = new wxWindow(parent, wxID_ANY);
+    const ProgressFrame& frame = MakeFrame(inner);
+    ASSERT_EQ(frame.GetIcons().GetIconCount(), 1u);
+    EXPECT_TRUE(frame.GetIcons().GetIcon(wxSize(48, 48)).IsSameAs(icon));
+    DestroyFrame();
+    DestroyAndWait(parent);
+}
+
+TEST_F(ProgressFrameTest, EscapeCountsAsCancel) {
+    const ProgressFrame& frame = MakeFrame();
+    ShowAndFocus(*m_frame);
+    PressKey("Escape");
+    EXPECT_TRUE(PumpUntil([&] { return frame.Cancelled; }, 1500));
+}
+
+TEST_F(ProgressFrameTest, KeysMeantForAnotherWindowCancelNothingUntilCancelHasTheKeyboard) {
+    const ProgressFrame& frame = MakeFrame();
+    ShowAndFocus(*m_frame);
+    for (const char* key : {"Return", "space", "KP_Enter", "Down", "Right", "Home", "x"}) {
+        PressKey(key);
+        PumpFor(50);
+        EXPECT_FALSE(frame.Cancelled) << key;
+        EXPECT_FALSE(CancelButton().HasFocus()) << key;
+    }
+    PressKey("Tab");
+    EXPECT_TRUE(CancelButton().HasFocus());
+    PressKey("Return");
+    EXPECT_TRUE(PumpUntil([&] { return frame.Cancelled; }, 1500));
+}
+
+TEST_F(ProgressFrameTest, SpacePressesCancelThatHasTheKeyboard) {
+    const ProgressFrame& frame = MakeFrame();
+    ShowAndFocus(*m_frame);
+    PressKey("Shift+Tab");
+    PressKey("space");
+    EXPECT_TRUE(PumpUntil([&] { return frame.Cancelled; }, 1500));
 }
 
 TEST(ProgressDialogTest, HoldsOneGaugeOfRange100At0) {

@@ -12,6 +12,7 @@ namespace {
 wxWeakRef<wxStatusBar> outcomeBar;
 /// Whether the first field of outcomeBar holds an outcome.
 bool outcomeIsTold = false;
+wxString outcomeStory;
 
 constexpr int StatusFields = 5;
 
@@ -48,7 +49,8 @@ void TellOutcome(const wxString& verdict, const wxString& story) {
     if (!outcomeBar)
         return;
     outcomeBar->SetStatusText(MakeRoomFor(outcomeBar, verdict), 0);
-    outcomeBar->SetToolTip(story.empty() ? verdict : story);
+    outcomeStory = story.empty() ? verdict : story;
+    outcomeBar->SetToolTip(outcomeStory);
     outcomeIsTold = true;
 }
 
@@ -59,6 +61,10 @@ void ForgetOutcome() {
     outcomeBar->SetStatusText("Select function", 0);
     outcomeBar->UnsetToolTip();
     outcomeIsTold = false;
+}
+
+wxString OutcomeStory() {
+    return OutcomeIsTold() ? outcomeStory : wxString();
 }
 
 bool OutcomeIsTold() {

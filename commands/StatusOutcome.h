@@ -20,5 +20,8 @@ void TellOutcome(const wxString& verdict, const wxString& story = wxString());
 /// Removes the outcome that TellOutcome shows. Call at the beginning of a command and on a page change.
 void ForgetOutcome();
 
+/// The full result of the outcome that is shown; empty if there is none.
+wxString OutcomeStory();
+
 /// Whether the first field of the status bar holds an outcome.
 bool OutcomeIsTold();

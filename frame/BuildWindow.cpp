@@ -5,6 +5,7 @@
 #include "files/ZelkPrinting.h"
 #include "frame/CommandTables.h"
 #include "frame/FindLine.h"
+#include "frame/StatusFields.h"
 #include "frame/ZelkGUI.h"
 #include "transfer/TransferStatus.h"
 #include "transfer/wxAsyncSerial.h"
@@ -193,6 +194,12 @@ void OrvZELFrame::BuildToolBar() {
     m_toolBar->Realize();
 }
 
+wxStatusBar* OrvZELFrame::OnCreateStatusBar(int fields, long style, wxWindowID id, const wxString& name) {
+    auto* statusBar = new StatusFields(this, id, style, name);
+    statusBar->SetFieldsCount(fields);
+    return statusBar;
+}
+
 void OrvZELFrame::BuildFirstPage() {
     PageCount = 0;
     CurrentPage = 0;
@@ -220,6 +227,10 @@ void OrvZELFrame::ConnectEvents(bool connect) {
         if (tool.label)
             Link(connect, this, wxEVT_TOOL, &OrvZELFrame::OnCommand, this, tool.id);
     Link(connect, this, wxEVT_CHAR_HOOK, &OrvZELFrame::OnWindowKey, this);
+    Link(connect, m_notebook, wxEVT_MOTION, &OrvZELFrame::OnMouseOnTabs, this);
+    Link(connect, m_notebook, wxEVT_LEAVE_WINDOW, &OrvZELFrame::OnMouseOnTabs, this);
+    Link(connect, this, wxEVT_CHAR_HOOK, &OrvZELFrame::OnKey, this);
+    Link(connect, this, wxEVT_GRID_TABBING, &OrvZELFrame::OnGridTabbing, this);
     Link(connect, this, wxEVT_MENU_OPEN, &OrvZELFrame::OnMenuOpen, this);
     Link(connect, this, wxEVT_MENU_CLOSE, &OrvZELFrame::OnMenuClose, this);
 }

@@ -30,6 +30,21 @@ int RowAt(wxGrid* grid, int y) {
     return std::min<int>(grid->GetFirstFullyVisibleRow() + offset, CurrentParameters().Rows);
 }
 
+/// What is selected as a whole: the page (Corner) or this column; Cells if neither is.
+ClickPlace SelectedWhole(const wxGrid* grid, int col) {
+    const auto selected = grid->GetSelectedBlocks();
+    ClickPlace whole = ClickPlace::Cells;
+    for (const wxGridBlockCoords& block : selected) {
+        if (block.GetTopRow() > 0 || block.GetBottomRow() < grid->GetNumberRows() - 1)
+            continue;
+        if (block.GetLeftCol() <= 0 && block.GetRightCol() >= grid->GetNumberCols() - 1)
+            return ClickPlace::Corner;
+        if (block.GetLeftCol() <= col && col <= block.GetRightCol())
+            whole = ClickPlace::ColumnLabel;
+    }
+    return whole;
+}
+
 } // namespace
 
 void OrvZELFrame::OnGridContextMenu(wxContextMenuEvent& event) {
@@ -41,23 +56,15 @@ void OrvZELFrame::OnGridContextMenu(wxContextMenuEvent& event) {
             m_contextMenu->Remove(item);
 
     if (event.GetPosition() == wxDefaultPosition) {
-        // Opened with the keyboard: show the menu of the row with the cursor.
-        const int row = grid->GetGridCursorRow();
-        if (row < 0)
-            return;
-        grid->MakeCellVisible(row, grid->GetGridCursorCol());
-        OfferRowCommands(grid, row);
-        const wxRect cell = grid->CellToRect(row, grid->GetGridCursorCol());
-        const wxPoint below = grid->CalcScrolledPosition(cell.GetBottomLeft());
-        ShowContextMenu(grid, grid->GetGridWindow()->ClientToScreen(below));
+        // Opened with the keyboard.
+        ShowMenuOfSelection(grid);
         return;
     }
 
     const wxPoint at = grid->GetGridWindow()->ScreenToClient(event.GetPosition());
     switch (PlaceOf(at.x, at.y)) {
     case ClickPlace::Corner:
-        grid->SelectAll();
-        AppendContextItem(IdDefaultFile);
+        OfferPageCommands(grid);
         break;
     case ClickPlace::RowLabel:
         OfferRowCommands(grid, RowAt(grid, at.y));
@@ -69,6 +76,31 @@ void OrvZELFrame::OnGridContextMenu(wxContextMenuEvent& event) {
         break;
     }
     ShowContextMenu(grid, event.GetPosition());
+}
+
+void OrvZELFrame::ShowMenuOfSelection(wxGrid* grid) {
+    const int row = grid->GetGridCursorRow(), col = grid->GetGridCursorCol();
+    if (row < 0)
+        return;
+    grid->MakeCellVisible(row, col);
+    switch (SelectedWhole(grid, col)) {
+    case ClickPlace::Corner:
+        OfferPageCommands(grid);
+        break;
+    case ClickPlace::ColumnLabel:
+        OfferColumnCommands(grid, col);
+        break;
+    default:
+        OfferRowCommands(grid, row);
+        break;
+    }
+    const wxPoint below = grid->CalcScrolledPosition(grid->CellToRect(row, col).GetBottomLeft());
+    ShowContextMenu(grid, grid->GetGridWindow()->ClientToScreen(below));
+}
+
+void OrvZELFrame::OfferPageCommands(wxGrid* grid) {
+    grid->SelectAll();
+    AppendContextItem(IdDefaultFile);
 }
 
 void OrvZELFrame::ShowContextMenu(wxGrid* grid, const wxPoint& position) {

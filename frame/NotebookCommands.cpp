@@ -77,6 +77,7 @@ void ZelkFrame::OnPageDelete(wxCommandEvent&) {
     }
     ForgetPage(this, page);
     UpdateStatus(this, CurrentPage);
+    ShowFileOfPage();
     // Intentional: lower the count only now, so that the title keeps the former count until its next update.
     --PageCount;
     for (int remaining = 0; remaining < PageCount; ++remaining)
@@ -92,4 +93,5 @@ void ZelkFrame::OnPageChanged(wxBookCtrlEvent&) {
     ForgetOutcome();
     CurrentPage = selection;
     UpdateStatus(this, CurrentPage);
+    ShowFileOfPage();
 }

@@ -38,6 +38,11 @@ SelectionDialog::SelectionDialog(wxWindow* parent, const wxString& title, const 
     Fit();
 
     Bind(wxEVT_UPDATE_UI, &SelectionDialog::OnUpdateOk, this, wxID_OK);
+    if (!choices.empty())
+        m_choice->SetFocus();
+    else
+        // An empty list takes no keyboard, and Escape would be lost. Return must not press Cancel.
+        (new wxWindow(this, wxID_ANY, wxPoint(0, 0), wxSize(1, 1)))->SetFocus();
 }
 
 bool SelectionDialog::TakeChoice() {

@@ -18,7 +18,8 @@ extern wxArrayString PortList;
 /// The choices of BandDialog while it exists.
 extern wxArrayString BandList;
 
-/// A label with a choice, and OK and Cancel under it. OK is enabled only while something is chosen.
+/// A label with a choice, and OK and Cancel under it. OK is enabled only while something is chosen. The
+/// choice has the keyboard at first.
 class SelectionDialog : public wxDialog {
 public:
     /// Chosen text, empty until there is one.

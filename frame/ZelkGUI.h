@@ -84,7 +84,16 @@ public:
     /// Shows no help of tools while an outcome is shown; help of menu entries is shown in any case.
     void DoGiveHelp(const wxString& text, bool show) override;
 
-    /// Builds the context menu for the place of the click and shows it.
+    /// Creates the status bar.
+    wxStatusBar* OnCreateStatusBar(int fields, long style, wxWindowID id, const wxString& name) override;
+
+    /// Shows the name of the page's file in the first field of the status bar; without a file the text that
+    /// it begins with.
+    void ShowFileOfPage();
+
+    /// Builds the context menu for the place of the click and shows it. For the keyboard it is that of what
+    /// is selected as a whole: the page (the corner's menu), or the column of the cursor; else that of the
+    /// cursor's row.
     void OnGridContextMenu(wxContextMenuEvent& event);
 
     wxMenuBar* m_menuBar = nullptr;
@@ -112,10 +121,19 @@ private:
     void ConnectEvents(bool connect);
     /// Keys of the window, whatever control has the focus.
     void OnWindowKey(wxKeyEvent& event);
+    void OnKey(wxKeyEvent& event);
+    /// Goes from the last cell of a row to the first one of the next row, and back.
+    void OnGridTabbing(wxGridEvent& event);
+    void ChangePage(bool forward, bool inGrid);
+    /// Gives the keyboard to the tools if the grid has it, else to the grid.
+    void MoveKeyboard(bool leavesGrid);
+    void OnMouseOnTabs(wxMouseEvent& event);
     void OnMenuOpen(wxMenuEvent& event);
     void OnMenuClose(wxMenuEvent& event);
     void AppendContextItem(int id);
     void ShowContextMenu(wxGrid* grid, const wxPoint& position);
+    void OfferPageCommands(wxGrid* grid);
+    void ShowMenuOfSelection(wxGrid* grid);
     void OfferRowCommands(wxGrid* grid, int row);
     void OfferColumnCommands(wxGrid* grid, int col);
 

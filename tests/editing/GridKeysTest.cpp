@@ -217,25 +217,59 @@ TEST_F(GridKeys, ReturnWithoutAnEditorGoesDown) {
     EXPECT_EQ(ChangesSince(before), "");
 }
 
-TEST_F(GridKeys, TabAtTheEndsOfARowStaysAndKeepsTheEditorOpen) {
+TEST_F(GridKeys, TabAtTheEndsOfARowGoesToTheNextRowAndShiftTabBack) {
+    for (const Page& page : Pages()) {
+        SCOPED_TRACE(page.name);
+        Retarget(page.radio, page.slot);
+        const PageState before = StateOfPage();
+        GoTo(5, page.shown.back());
+        PressKey("Tab");
+        EXPECT_EQ(Cursor(), Place(6, page.shown.front()));
+        PressKey("Shift+Tab");
+        EXPECT_EQ(Cursor(), Place(5, page.shown.back()));
+        EXPECT_EQ(ChangesSince(before), "");
+    }
+}
+
+TEST_F(GridKeys, TabAtTheEndsOfARowTakesTheTextOfAnOpenEditor) {
     Fill({5});
-    for (const auto& [col, key] : {std::pair(MNUM, "Shift+Tab"), std::pair(TCOD, "Tab")}) {
+    GoTo(5, MNUM);
+    PressKey("F2");
+    EXPECT_TRUE(IsOpen());
+    PressKey("Ctrl+A");
+    TypeText("99");
+    PressKey("Shift+Tab");
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Cursor(), Place(4, TCOD));
+    EXPECT_EQ(Text(5, MNUM), "099");
+    OpenChoice(5, TCOD);
+    PressKey("Down");
+    const std::string former = Text(5, TCOD);
+    PressKey("Tab");
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Cursor(), Place(6, MNUM));
+    EXPECT_NE(Text(5, TCOD), former);
+}
+
+TEST_F(GridKeys, TabAtTheEndsOfThePageStaysAndKeepsTheEditorOpen) {
+    const int last = Grid()->GetNumberRows() - 1;
+    Fill({last});
+    for (const auto& [row, col, key] : {std::tuple(0, MNUM, "Shift+Tab"), std::tuple(last, TFRQ, "Tab")}) {
         SCOPED_TRACE(key);
+        for (int other = col + 1; row == last && other < ColumnTotal; ++other)
+            Grid()->HideCol(other);
         PressKey("Escape");
-        GoTo(5, col);
+        GoTo(row, col);
         PressKey(key);
-        EXPECT_EQ(Cursor(), Place(5, col));
+        EXPECT_EQ(Cursor(), Place(row, col));
+        if (IsLocked(row, col))
+            continue;
         PressKey("F2");
         PressKey(key);
-        EXPECT_EQ(Cursor(), Place(5, col));
+        EXPECT_EQ(Cursor(), Place(row, col));
         EXPECT_TRUE(IsOpen());
     }
     PressKey("Escape");
-    GoTo(5, MNUM);
-    TypeText("99");
-    PressKey("Shift+Tab");
-    PressKey("Return");
-    EXPECT_EQ(Text(5, MNUM), "099");
 }
 
 TEST_F(GridKeys, ANumberInUseIsRefusedOnceWhicheverKeyEndsTheEdit) {

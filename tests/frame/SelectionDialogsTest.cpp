@@ -376,6 +376,36 @@ TEST_F(SelectingAPort, WithNonePresentOffersNothing) {
     EXPECT_EQ(StatusField(), "");
 }
 
+TEST_F(SelectingAPort, WithNonePresentIsLeftWithEscape) {
+    DialogScript dialogs;
+    ExpectPort(dialogs).Do([](wxDialog* dialog) {
+        PumpFor(100);
+        CancelWithKey(dialog);
+    });
+    RunCommand(IdSetPort);
+    EXPECT_EQ(PortName, "none");
+}
+
+TEST_F(SelectingAPort, BeginsInItsList) {
+    PseudoTerminal first, second;
+    Offer(first, "radio1");
+    const wxString name = Offer(second, "radio2");
+    DialogScript dialogs;
+    ExpectPort(dialogs).Do([](wxDialog* dialog) {
+        PumpFor(100);
+        EXPECT_TRUE(PortChoice->HasFocus());
+        PressKey("Alt+O");
+        EXPECT_TRUE(dialog->IsModal()) << "nothing is chosen";
+        for (int tries = 0; tries < 3 && PortChoice->GetSelection() != 1; ++tries)
+            PressKey("Down");
+        EXPECT_EQ(PortChoice->GetSelection(), 1);
+        PumpUntil([dialog] { return OkCanBePressed(dialog); });
+        PressKey("Alt+O");
+    });
+    RunCommand(IdSetPort);
+    EXPECT_EQ(PortName, name);
+}
+
 TEST_F(SelectingAPort, StoresItAndShowsItInTheStatusBar) {
     PseudoTerminal first, second;
     const wxString names[] = {Offer(first, "radio1"), Offer(second, "radio2")};

@@ -3,6 +3,7 @@
 #include "catalogue/GridShape.h"
 #include "catalogue/RowFilling.h"
 #include "catalogue/ZoneSlots.h"
+#include "editing/GridSpeech.h"
 #include "editing/ZelkEditors.h"
 #include "frame/ZelkGUI.h"
 
@@ -39,6 +40,7 @@ void CreateNewPage(OrvZELFrame* frame, int page) {
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     auto* grid = new wxGrid(panel, wxID_ANY);
     PageGrid[page] = grid;
+    SpeakGrid(grid);
     SetUpGrid(grid, page);
     // The event carries the id of the grid's clicked inner window, so Bind can't filter by id here.
     grid->Bind(wxEVT_CONTEXT_MENU, &OrvZELFrame::OnGridContextMenu, frame);

@@ -1,5 +1,7 @@
 #include "editing/ShadowDialog.h"
 
+#include "commands/SpokenNames.h"
+
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -14,6 +16,7 @@ ShadowDialog::ShadowDialog(wxWindow* parent, const wxString& title)
     label->SetMinSize(wxSize(std::max(170, label->GetBestSize().x), wxDefaultCoord));
     entry->Add(label, 0, wxALL | wxALIGN_CENTRE_VERTICAL, 5);
     m_textCtrl = new wxTextCtrl(this, wxID_ANY);
+    NameForReader(*m_textCtrl, "Shadow memory number");
     entry->Add(m_textCtrl, 1, wxALL | wxALIGN_CENTRE_VERTICAL, 5);
     box->Add(entry, 1, wxEXPAND | wxALL, 5);
     box->Add(CreateButtonSizer(wxOK | wxCANCEL), 0, wxEXPAND | wxALL, 5);

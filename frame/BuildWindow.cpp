@@ -5,6 +5,7 @@
 #include "files/ZelkPrinting.h"
 #include "frame/CommandTables.h"
 #include "frame/FindLine.h"
+#include "frame/StatusBarSpeech.h"
 #include "frame/StatusFields.h"
 #include "frame/ZelkGUI.h"
 #include "transfer/TransferStatus.h"
@@ -137,6 +138,7 @@ OrvZELFrame::OrvZELFrame(wxWindow* parent)
     SetSizer(sizer);
     Layout();
     m_statusBar = CreateStatusBar(5, wxSTB_SIZEGRIP);
+    SpeakStatusBar(m_statusBar);
     UpdateStatus(this, CurrentPage);
     ConnectEvents(true);
     Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {

@@ -1,6 +1,7 @@
 #include "frame/SelectionDialogs.h"
 
 #include "catalogue/PageModel.h"
+#include "commands/SpokenNames.h"
 #include "frame/SerialPorts.h"
 #include "transfer/ChosenPort.h"
 
@@ -26,6 +27,7 @@ SelectionDialog::SelectionDialog(wxWindow* parent, const wxString& title, const 
     auto* labelText = new wxStaticText(this, wxID_ANY, label);
     labelText->SetMinSize(wxSize(std::max(50, labelText->GetBestSize().x), -1));
     m_choice = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, choices);
+    NameForReader(*m_choice, label);
 
     auto* choiceRow = new wxBoxSizer(wxHORIZONTAL);
     choiceRow->Add(labelText, 0, wxALIGN_CENTRE_VERTICAL);

@@ -1,6 +1,7 @@
 // Window that shows the progress of a transfer and has its Cancel button.
 #include "transfer/ProgressFrame.h"
 
+#include "commands/SpokenNames.h"
 #include "transfer/TransferSystem.h"
 
 #include <wx/button.h>
@@ -25,10 +26,11 @@ constexpr const char* WidestStatus = "Sending Shadow Memory Data....";
 constexpr std::chrono::milliseconds WindowLimit{1000};
 constexpr std::chrono::milliseconds TextLimit{100};
 
-wxGauge* MakeGauge(wxWindow* parent) {
+wxGauge* MakeGauge(wxWindow* parent, const wxString& name) {
     auto* gauge =
         new wxGauge(parent, wxID_ANY, GaugeRange, wxDefaultPosition, wxDefaultSize, wxGA_HORIZONTAL);
     gauge->SetValue(GaugeStart);
+    NameForReader(*gauge, name);
     return gauge;
 }
 
@@ -92,14 +94,14 @@ void ProgressFrame::CreateControls() {
     m_label = new wxStaticText(this, wxID_ANY, wxString());
     m_label->SetMinSize(wxSize(GetTextExtent(WidestStatus).x, wxDefaultCoord));
     column->Add(m_label, 0, wxEXPAND | wxALL, Border);
-    m_mainGauge = MakeGauge(this);
+    m_mainGauge = MakeGauge(this, "Rows done");
     column->Add(m_mainGauge, 0, wxEXPAND | wxALL, Border);
     m_line = new wxStaticLine(this);
     column->Add(m_line, 0, wxEXPAND | wxALL, Border);
 
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     column->Add(row, 1, wxEXPAND | wxALL, Border);
-    m_pulseGauge = MakeGauge(this);
+    m_pulseGauge = MakeGauge(this, "Waiting for the radio");
     row->Add(m_pulseGauge, 1, wxEXPAND | wxALL, Border);
     m_cancelButton = new wxButton(this, wxID_ANY, "Cancel");
     row->Add(m_cancelButton, 0, wxALL, Border);

@@ -100,6 +100,8 @@ void InitPrinting() {
     PrintData = std::make_unique<wxPrintData>();
     PrintData->SetOrientation(wxPORTRAIT);
     PageSetupData = std::make_unique<wxPageSetupDialogData>(*PrintData);
+    // The size that sheets are counted for.
+    PageSetupData->GetPrintData().SetPaperId(wxPAPER_A4);
     PageSetupData->SetMarginTopLeft(wxPoint(15, 15));
     PageSetupData->SetMarginBottomRight(wxPoint(15, 15));
 }

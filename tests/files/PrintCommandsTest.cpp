@@ -550,7 +550,7 @@ TEST_F(PrintCommands, PageSetupTakesOrientationPaperAndMargins) {
         TypeMargin(robot, dialog->m_marginRightText, "22");
         TypeMargin(robot, dialog->m_marginBottomText, "23");
         robot.Click(robot.Ask([=] { return SpotIn(*dialog->m_paperTypeChoice, wxPoint(20, 10)); }));
-        robot.Press("Down");
+        robot.Press("Up", 2);
         EXPECT_TRUE(robot.WaitFor([=] { return dialog->m_paperTypeChoice->GetSelection() == 0; }));
     });
     EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE);
@@ -562,6 +562,14 @@ TEST_F(PrintCommands, PageSetupTakesOrientationPaperAndMargins) {
     ZelkPrintout printout(MainFrame, CurrentGrid(), "");
     printout.CalculateRowsPerPage();
     EXPECT_EQ(printout.RowsPerPage(), 18) << "237 x 165 mm: 431 pixels";
+}
+
+TEST_F(PrintCommands, PageSetupBeginsWithA4Chosen) {
+    SetUpPage(wxID_OK, [](Robot& robot, wxGenericPageSetupDialog* dialog) {
+        EXPECT_EQ(robot.Ask([=] { return dialog->m_paperTypeChoice->GetStringSelection().utf8_string(); }),
+                  "A4 sheet, 210 x 297 mm");
+    });
+    EXPECT_EQ(PageSetupData->GetPaperSize(), wxSize(210, 297));
 }
 
 TEST_F(PrintCommands, PageSetupShowsWhatWasSet) {

@@ -1,6 +1,7 @@
 #include "catalogue/GridShape.h"
 
 #include "catalogue/GridColours.h"
+#include "catalogue/HeadingTips.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
 #include "catalogue/TextNumbers.h"
@@ -23,6 +24,7 @@ void SetUpGrid(wxGrid* grid, int page) {
     grid->EnableDragColSize(true);
     grid->SetColLabelAlignment(wxALIGN_CENTRE, wxALIGN_CENTRE);
     SetGridColumns(grid, PageParameters[page].Type);
+    ExplainHeadings(grid);
 
     grid->SetDefaultRowSize(RowHeightFor(grid), true);
     grid->EnableDragRowSize(false);

@@ -3,6 +3,7 @@
 #include "catalogue/MemoryRow.h"
 #include "catalogue/PageModel.h"
 #include "catalogue/PageTable.h"
+#include "editing/CellText.h"
 #include "editing/ScanListCell.h"
 
 #include <wx/grid.h>
@@ -10,13 +11,11 @@
 namespace {
 
 /// Returns the text that a cell shows, with its scan lists in words.
-wxString ShownText(const wxGrid& grid, int row, int col) {
+wxString SpokenText(const wxGrid& grid, int row, int col) {
     const wxGridCellRendererPtr renderer(grid.GetCellRenderer(row, col));
     if (dynamic_cast<ScanlistRenderer*>(renderer.get()))
         return SpokenScanLists(GetScanMask(&grid, row, col));
-    if (const auto* shown = dynamic_cast<CellTextRenderer*>(renderer.get()))
-        return shown->TextOf(grid, row, col);
-    return grid.GetCellValue(row, col);
+    return ShownText(&grid, row, col);
 }
 
 } // namespace
@@ -60,7 +59,7 @@ SeenCell SeeCell(const wxGrid& grid, int row, int col) {
     const wxColour paint = TableOf(&grid).LookOf(row, col).paint;
     SeenCell cell{.row = row,
                   .heading = grid.GetColLabelValue(col),
-                  .text = ShownText(grid, row, col),
+                  .text = SpokenText(grid, row, col),
                   .isRepaired = paint == FailColour,
                   .isMarked = paint == MarkColour,
                   .isReadOnly = grid.IsReadOnly(row, col),

@@ -217,6 +217,13 @@ TEST_F(ScreenReader, HearsTheNameOfTheShadowsNumber) {
     ExpectNews("focus text: Shadow memory number");
 }
 
+TEST_F(ScreenReader, HearsTheNameOfTheLineThatFinds) {
+    PressKey("Ctrl+F");
+    ExpectNews("focus text: Find");
+    PressKey("Escape");
+    ExpectNews("focus table cell: Default row, Chan, DEF, read only");
+}
+
 TEST_F(ScreenReader, FindsTheNamesOfTheGauges) {
     auto* const window = new ProgressFrame(MainFrame);
     window->Show();

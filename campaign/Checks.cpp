@@ -225,8 +225,9 @@ void CheckCutLines(Judge& judge, const std::map<int, RowTexts>& rows, const std:
     for (const auto& [row, texts] : rows) {
         const auto found = all.find(row);
         for (const Column column : {RFRQ, TFRQ, RTON, RCOD, TTON, TCOD}) {
-            const std::string& text = texts[column];
-            judge.Expect((found != all.end() && text == found->second[column]) || text == all.at(0)[column],
+            const std::string& text = texts[static_cast<size_t>(column)];
+            judge.Expect((found != all.end() && text == found->second[static_cast<size_t>(column)]) ||
+                             text == all.at(0)[static_cast<size_t>(column)],
                          "row " + std::to_string(row) + " has the remains of a field: " + text);
         }
     }

@@ -152,11 +152,13 @@ TEST_F(CampaignChecks, NoticeEachFieldOfAMemoryThatIsWrong) {
 
 TEST_F(CampaignChecks, NoticeACellThatIsNotTheRadiosMemory) {
     for (const Column column : {MNUM, SCAN, ZONE, MODE, RSQL, RNSV, RTON, RTGP, TCOD, TIDC})
-        EXPECT_NE(
-            SentenceWithoutFaults(
-                Read(), [&](Outcome& outcome) { outcome.world.program.rows.rbegin()->second[column] = "?"; })
-                .find(std::string(ColumnTag[column]) + " is \"?\""),
-            std::string::npos)
+        EXPECT_NE(SentenceWithoutFaults(
+                      Read(),
+                      [&](Outcome& outcome) {
+                          outcome.world.program.rows.rbegin()->second[static_cast<size_t>(column)] = "?";
+                      })
+                      .find(std::string(ColumnTag[column]) + " is \"?\""),
+                  std::string::npos)
             << ColumnTag[column];
 }
 

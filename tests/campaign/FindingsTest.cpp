@@ -353,7 +353,8 @@ TEST_F(Finding, AnalogLineThatBreaksOffWithinAFrequencyBringsNone) {
     EXPECT_EQ(faulty.status, TransferComplete);
     const auto& rows = faulty.world.program.rows;
     for (const Column column : {RFRQ, TFRQ, RTON, TTON, RCOD, TCOD})
-        EXPECT_EQ(rows.at(12)[column], rows.at(0)[column]) << ColumnTag[column];
+        EXPECT_EQ(rows.at(12)[static_cast<size_t>(column)], rows.at(0)[static_cast<size_t>(column)])
+            << ColumnTag[column];
 }
 
 TEST_F(Finding, AnalogAcknowledgementThatIsSentTwiceDoesNotCountForTheNextLine) {

@@ -157,6 +157,8 @@ void ProgressFrame::OnCancel(wxCommandEvent& event) {
 }
 
 void ProgressFrame::OnKey(wxKeyEvent& event) {
+    // The main window would take them for its own keys.
+    event.StopPropagation();
     if (event.GetKeyCode() == WXK_ESCAPE)
         Cancelled = true;
     else if (event.GetKeyCode() == WXK_TAB)

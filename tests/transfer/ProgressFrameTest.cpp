@@ -274,6 +274,15 @@ TEST_F(ProgressOverWindow, TakesEscapeAlsoAfterAClickOnTheWindowBelow) {
     EXPECT_TRUE(PumpUntil([&] { return frame.Cancelled; }, 1500));
 }
 
+TEST_F(ProgressOverWindow, KeepsItsKeysFromIt) {
+    int keys = 0;
+    m_main->Bind(wxEVT_CHAR_HOOK, [&](wxKeyEvent&) { ++keys; });
+    ShowFrame();
+    for (const char* key : {"Ctrl+F", "Ctrl+Page_Down", "Ctrl+Tab", "x"})
+        PressKey(key);
+    EXPECT_EQ(keys, 0);
+}
+
 TEST_F(ProgressOverWindow, IsDrawnBeforeAnythingWaits) {
     const TransferMeans means = MeansFor(m_grid, "/dev/no-such-port", "Send to RP25 Radio Progress");
     auto* frame = dynamic_cast<ProgressFrame*>(means.progress.get());

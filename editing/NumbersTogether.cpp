@@ -1,5 +1,6 @@
 #include "editing/NumbersTogether.h"
 
+#include <cstddef>
 #include <set>
 
 namespace {

@@ -319,7 +319,7 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         const bool busyTwice = faulty.spoiltToProgram &&
                                judge.Happened({FaultKind::BusyErasing, FaultKind::BusyFor, FaultKind::Wait});
         const bool silent = judge.Digital() && (judge.Happened({FaultKind::Twice}) || busyTwice) &&
-                            judge.Happened({FaultKind::Silence});
+                            judge.Happened({FaultKind::Silence, FaultKind::Restart});
         if (status == TransferComplete && clean.status == TransferComplete && believable && !lied &&
             !asksMore && !replaced && !silent)
             judge.Expect(radio.HoldsTheSame(clean.world.radio),

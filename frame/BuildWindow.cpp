@@ -197,7 +197,7 @@ void OrvZELFrame::BuildToolBar() {
 }
 
 wxStatusBar* OrvZELFrame::OnCreateStatusBar(int fields, long style, wxWindowID id, const wxString& name) {
-    auto* statusBar = new StatusFields(this, id, style, name);
+    wxStatusBar* const statusBar = MakeStatusFields(this, id, style, name);
     statusBar->SetFieldsCount(fields);
     return statusBar;
 }

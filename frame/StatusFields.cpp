@@ -1,34 +1,31 @@
 #include "frame/StatusFields.h"
 
 #include "commands/StatusOutcome.h"
+#include "frame/StatusBarCut.h"
 
-StatusFields::StatusFields(wxWindow* parent, wxWindowID id, long style, const wxString& name)
-    : wxStatusBar(parent, id, style | wxSTB_ELLIPSIZE_END, name) {
-    Bind(wxEVT_MOTION, [this](wxMouseEvent& event) {
-        event.Skip();
-        ShowTip(event.GetPosition());
-    });
-}
+#include <wx/statusbr.h>
 
-#ifndef __WXMSW__
-void StatusFields::DrawFieldText(wxDC& dc, const wxRect& rect, int field, int textHeight) {
-    // The toolkit knows one style for all fields.
-    const long style = m_windowStyle;
-    if (field == PortField)
-        m_windowStyle = (style & ~wxSTB_ELLIPSIZE_END) | wxSTB_ELLIPSIZE_START;
-    wxStatusBar::DrawFieldText(dc, rect, field, textHeight);
-    m_windowStyle = style;
-}
-#endif
+namespace {
 
-void StatusFields::ShowTip(const wxPoint& at) {
-    const int field = GetFieldFromPoint(at);
-    const bool cut = field != wxNOT_FOUND && GetField(field).IsEllipsized();
-    const wxString tip = cut ? GetStatusText(field) : OutcomeStory();
-    if (tip == GetToolTipText())
+void ShowTip(wxStatusBar* statusBar, const wxPoint& at) {
+    const int field = statusBar->GetFieldFromPoint(at);
+    const bool cut = field != wxNOT_FOUND && statusBar->GetField(field).IsEllipsized();
+    const wxString tip = cut ? statusBar->GetStatusText(field) : OutcomeStory();
+    if (tip == statusBar->GetToolTipText())
         return;
     if (tip.empty())
-        UnsetToolTip();
+        statusBar->UnsetToolTip();
     else
-        SetToolTip(tip);
+        statusBar->SetToolTip(tip);
+}
+
+} // namespace
+
+wxStatusBar* MakeStatusFields(wxWindow* parent, wxWindowID id, long style, const wxString& name) {
+    wxStatusBar* const statusBar = MakeCutStatusBar(parent, id, style, name, PortField);
+    statusBar->Bind(wxEVT_MOTION, [statusBar](wxMouseEvent& event) {
+        event.Skip();
+        ShowTip(statusBar, event.GetPosition());
+    });
+    return statusBar;
 }

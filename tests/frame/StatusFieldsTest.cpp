@@ -14,7 +14,6 @@ using namespace testbench;
 
 namespace {
 
-constexpr int PortField = StatusFields::PortField;
 constexpr const char* LongPort = "/dev/serial/by-id/usb-1a86_USB_Serial_Converter_A5XK3RJT-if00-port0";
 
 class FieldsOfTheStatusBar : public ZelkWindowTest {

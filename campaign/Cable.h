@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -123,7 +124,9 @@ private:
 };
 
 /// Thrown out of a transfer that goes on for ever.
-struct Endless {};
+struct Endless : std::runtime_error {
+    Endless() : std::runtime_error("a transfer that doesn't end") {}
+};
 
 /// The clock of a program at the end of a cable.
 class CableClock : public TransferClock {

@@ -102,8 +102,8 @@ int Replay(uint64_t seed, const std::vector<std::string>& arguments) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::string> arguments(argv + 1, argv + argc);
     try {
+        const std::vector<std::string> arguments(argv + 1, argv + argc);
         if (arguments.size() < 2)
             return Usage();
         if (arguments[0] == "report" && arguments.size() == 2)

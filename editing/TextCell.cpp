@@ -211,7 +211,7 @@ void FinishedTextEditor::BeginEdit(int row, int col, wxGrid* grid) {
 std::optional<wxString> FinishedTextEditor::HoldText(int, int, wxGrid*, const wxString& text) {
     if (text.length() > Width() || !CanHold(text))
         return std::nullopt;
-    const std::optional<wxString> finished = Finish(text);
+    std::optional<wxString> finished = Finish(text);
     if (finished)
         m_held = *finished;
     return finished;

@@ -57,7 +57,7 @@ void P25ZoneEditor::BeginEdit(int row, int col, wxGrid* grid) {
 
 std::optional<wxString> P25ZoneEditor::HoldText(int row, int col, wxGrid* grid, const wxString& text) {
     OfferZones(row, grid);
-    const std::optional<wxString> held = ListChoiceEditor::HoldText(row, col, grid, text);
+    std::optional<wxString> held = ListChoiceEditor::HoldText(row, col, grid, text);
     if (!held)
         TakeOwnSlotAgain(row);
     return held;

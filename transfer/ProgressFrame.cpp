@@ -91,8 +91,9 @@ void ProgressFrame::FollowParent() {
 void ProgressFrame::CreateControls() {
     m_keyHolder = new wxWindow(this, wxID_ANY, wxPoint(0, 0), wxSize(1, 1));
     auto* column = new wxBoxSizer(wxVERTICAL);
-    m_label = new wxStaticText(this, wxID_ANY, wxString());
-    m_label->SetMinSize(wxSize(GetTextExtent(WidestStatus).x, wxDefaultCoord));
+    m_label = new wxStaticText(this, wxID_ANY, WidestStatus);
+    m_label->SetMinSize(wxSize(m_label->GetBestSize().x, wxDefaultCoord));
+    m_label->SetLabel(wxString());
     column->Add(m_label, 0, wxEXPAND | wxALL, Border);
     m_mainGauge = MakeGauge(this, "Rows done");
     column->Add(m_mainGauge, 0, wxEXPAND | wxALL, Border);

@@ -66,9 +66,9 @@ void RefuseLine(TRecordDialogue& dialogue) {
     context.RxLine.clear();
 }
 
-/// True for a record of a kind that exists. The checksum doesn't cover the kind.
+/// True for a record of a kind that a radio sends in a list. The checksum doesn't cover the kind.
 bool IsOfAKind(const wxString& line) {
-    return line.length() > 1 && wxString("0129").Contains(line.Mid(1, 1));
+    return line.StartsWith("T1") || line.StartsWith("T2") || line.StartsWith(EndRecord);
 }
 
 /// Removes the checksum of the received line. Clears a line that is no record or is garbled.

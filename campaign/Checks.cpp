@@ -313,14 +313,15 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
             judge.Happened({FaultKind::LineBefore}) &&
             (faulty.spoiltToRadio ||
              judge.Happened({FaultKind::Refusal, FaultKind::RefusalAlways, FaultKind::EndRecord}));
-        // An answer that is sent twice stands in for that of a later row, which may be lost: no count can
-        // tell.
-        const bool replaced = (judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) &&
-                               (faulty.spoiltToRadio || judge.Happened({FaultKind::Delayed}))) ||
-                              judge.Count({FaultKind::Delayed}) > 1;
         // A line whose wait message is garbled is sent again, and answered twice.
         const bool busyTwice = faulty.spoiltToProgram &&
                                judge.Happened({FaultKind::BusyErasing, FaultKind::BusyFor, FaultKind::Wait});
+        // An answer that is sent twice stands in for that of a later row, which may be lost: no count can
+        // tell.
+        const bool replaced =
+            ((judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) || (judge.Digital() && busyTwice)) &&
+             (faulty.spoiltToRadio || judge.Happened({FaultKind::Delayed}))) ||
+            judge.Count({FaultKind::Delayed}) > 1;
         const bool silent = judge.Digital() && (judge.Happened({FaultKind::Twice}) || busyTwice) &&
                             judge.Happened({FaultKind::Silence, FaultKind::Restart});
         if (status == TransferComplete && clean.status == TransferComplete && believable && !lied &&

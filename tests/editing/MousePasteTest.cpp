@@ -143,7 +143,7 @@ TEST_F(MousePaste, DroppedTextPassesTheSameRules) {
             robot.Settle();
         });
         PumpFor(200);
-        const std::string typed = Typed();
+        std::string typed = Typed();
         PressKey("Escape");
         return typed;
     };

@@ -51,7 +51,7 @@ bool Fails() {
 
 } // namespace
 
-FailingCalls::FailingCalls(std::filesystem::path folder, int which, int error) {
+FailingCalls::FailingCalls(const std::filesystem::path& folder, int which, int error) {
     plan = new Plan{(folder / "").string(), which, error};
 }
 

@@ -13,7 +13,7 @@ class FailingCalls {
 public:
     /// @param which number of the call that fails, counted from 1
     /// @param error errno that it sets
-    FailingCalls(std::filesystem::path folder, int which, int error);
+    FailingCalls(const std::filesystem::path& folder, int which, int error);
     ~FailingCalls();
     FailingCalls(const FailingCalls&) = delete;
     FailingCalls& operator=(const FailingCalls&) = delete;

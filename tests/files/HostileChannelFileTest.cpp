@@ -159,7 +159,7 @@ TEST_F(HostileChannelFile, WithAnEntityBombIsNotLoaded) {
 }
 
 TEST_F(HostileChannelFile, WithHugeAttributesAndTextsIsNotLoaded) {
-    const std::string huge(10'000'000, '1');
+    const std::string huge = Repeat("1", 10'000'000);
     const double start = ProcessorSeconds();
     EXPECT_EQ(Open(FileOf("ANFM", "<MEMORY row=\"" + huge + "\"/>")), NotLoaded);
     EXPECT_EQ(Open(FileOf("ANFM", Memory(1, "<DS>" + huge + "</DS>"))), NotLoaded);

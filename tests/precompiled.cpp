@@ -1,0 +1,1 @@
+// Built only for the headers that CMake precompiles with it.

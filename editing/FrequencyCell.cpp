@@ -108,7 +108,7 @@ void FrequencyEditor::TakeBandOfRow(int row, const wxGrid* grid) {
     SetEditorFreqParams(band, step);
     m_width = FrequencyWidth(band, step);
     if (auto* control = wxDynamicCast(GetWindow(), wxTextCtrl))
-        control->SetMaxLength(m_width);
+        control->SetMaxLength(static_cast<unsigned>(m_width));
 }
 
 void FrequencyEditor::SetEditorFreqParams(int band, int step) {

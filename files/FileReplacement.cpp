@@ -1,5 +1,7 @@
 #include "files/FileReplacement.h"
 
+#include "files/FilePath.h"
+
 #include <wx/file.h>
 #include <wx/filename.h>
 #include <wx/log.h>
@@ -18,11 +20,6 @@ constexpr int MostNames = 100;
 /// Returns the reason for the failure of the last system call.
 std::error_code LastError() {
     return {errno ? errno : EIO, std::generic_category()};
-}
-
-/// Returns a path in the toolkit's form, whatever the locale.
-wxString NameOf(const fs::path& path) {
-    return {path.c_str(), *wxConvFileName};
 }
 
 /// Returns the file that a chain of links names, whether it exists or not.
@@ -165,7 +162,7 @@ FileReplacement::~FileReplacement() {
 std::error_code FileReplacement::Open(const wxString& path) {
     const wxLogNull quiet;
     auto state = std::make_unique<State>();
-    state->target = FollowLinks(fs::path(path.fn_str().data()));
+    state->target = FollowLinks(PathOf(path));
     if (const auto refusal = WhyNotReplaceable(state->target))
         return refusal;
     errno = 0;

@@ -95,18 +95,18 @@ bool LineReader::Next(wxString& line) {
     constexpr size_t limit = (LongestLine + 1) * LongestCharacter;
     std::string bytes;
     bool cut = false;
-    int byte = TakeByte();
-    if (m_afterReturn && byte == '\n')
-        byte = TakeByte();
+    int code = TakeByte();
+    if (m_afterReturn && code == '\n')
+        code = TakeByte();
     m_afterReturn = false;
-    const bool found = byte != EOF;
-    for (; byte != EOF && byte != '\n' && byte != '\r'; byte = TakeByte()) {
+    const bool found = code != EOF;
+    for (; code != EOF && code != '\n' && code != '\r'; code = TakeByte()) {
         if (bytes.size() < limit)
-            bytes += static_cast<char>(byte);
+            bytes += static_cast<char>(code);
         else
             cut = true;
     }
-    m_afterReturn = byte == '\r';
+    m_afterReturn = code == '\r';
     if (cut)
         DropLastCharacter(bytes);
     line = TextFromBytes(bytes);

@@ -27,7 +27,10 @@ constexpr Reason Reasons[] = {
 };
 
 wxString SystemReason(const std::error_code& error) {
-    return wxString::FromUTF8(error.message());
+    const std::string message = error.message();
+    const wxString text = wxString::FromUTF8(message);
+    // Windows has messages in the user's code page.
+    return text.empty() ? wxString(message) : text;
 }
 
 wxString ShortReason(const std::error_code& error) {

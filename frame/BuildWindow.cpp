@@ -1,6 +1,7 @@
 // Builds the window: its controls, its first page and the links from events to commands.
 #include "catalogue/GridColours.h"
 #include "catalogue/PageCreation.h"
+#include "commands/FrameLook.h"
 #include "commands/StatusOutcome.h"
 #include "files/ZelkPrinting.h"
 #include "frame/CommandTables.h"
@@ -123,7 +124,8 @@ CommandHandler HandlerOf(int id) {
 
 OrvZELFrame::OrvZELFrame(wxWindow* parent)
     : wxFrame(parent, wxID_ANY, "Orv Zelk", wxDefaultPosition, wxSize(927, 680),
-              wxDEFAULT_FRAME_STYLE | wxHSCROLL | wxVSCROLL | wxTAB_TRAVERSAL) {
+              wxDEFAULT_FRAME_STYLE | FrameScrollBars | wxTAB_TRAVERSAL) {
+    SetFrameLook(*this);
     wxLog::EnableLogging(false);
     SetIcon(GetZelkIcon());
     BuildMenus();

@@ -7,8 +7,16 @@
 
 namespace {
 
+/// Returns the field under a position in the status bar, wxNOT_FOUND beside the fields.
+int FieldAt(const wxStatusBar& statusBar, const wxPoint& at) {
+    for (int field = 0; field < statusBar.GetFieldsCount(); ++field)
+        if (wxRect area; statusBar.GetFieldRect(field, area) && area.Contains(at))
+            return field;
+    return wxNOT_FOUND;
+}
+
 void ShowTip(wxStatusBar* statusBar, const wxPoint& at) {
-    const int field = statusBar->GetFieldFromPoint(at);
+    const int field = FieldAt(*statusBar, at);
     const bool cut = field != wxNOT_FOUND && statusBar->GetField(field).IsEllipsized();
     const wxString tip = cut ? statusBar->GetStatusText(field) : OutcomeStory();
     if (tip == statusBar->GetToolTipText())

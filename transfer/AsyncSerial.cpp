@@ -1,6 +1,7 @@
 // Full-duplex asynchronous serial port with a background thread, a write queue and a read callback.
 #include "transfer/AsyncSerial.h"
 
+#include "transfer/PortLines.h"
 #include "transfer/PortLock.h"
 #include "transfer/PromptThread.h"
 
@@ -71,18 +72,17 @@ void AsyncSerial::open(const std::string& deviceName, unsigned int baudRate,
     auto& port = m_impl->port;
     port.open(deviceName);
     try {
-#ifndef _WIN32
         if (const int held = LockPort(port.native_handle()); held != 0) {
             // Not doClose, which would clear the mark of the opener that holds the device.
             port.close();
             throw boost::system::system_error(held, boost::system::system_category(), "lock");
         }
-#endif
         port.set_option(boost::asio::serial_port_base::baud_rate(baudRate));
         port.set_option(parity);
         port.set_option(characterSize);
         port.set_option(flowControl);
         port.set_option(stopBits);
+        RaisePortLines(port.native_handle());
 
         boost::asio::post(m_impl->io, [this] { doRead(); });
         // Before the thread runs, so that a device that fails at its first read counts as opened.
@@ -249,10 +249,8 @@ void AsyncSerial::doClose() {
     m_impl->port.cancel(error);
     if (error)
         setErrorStatus(true);
-#ifndef _WIN32
     if (m_impl->port.is_open())
         UnlockPort(m_impl->port.native_handle());
-#endif
     m_impl->port.close(error);
     if (error)
         setErrorStatus(true);

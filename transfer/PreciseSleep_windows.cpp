@@ -8,12 +8,13 @@ namespace {
 /// millisecond at best.
 constexpr std::chrono::microseconds WakeUp{600};
 
+/// CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, which headers for older systems lack.
+constexpr DWORD HighResolution = 2;
+
 /// A timer that ticks as fast as the system allows. Closed at the end of the program.
 class Timer {
 public:
-    Timer()
-        : m_handle(CreateWaitableTimerExW(nullptr, nullptr, CREATE_WAITABLE_TIMER_HIGH_RESOLUTION,
-                                          TIMER_ALL_ACCESS)) {
+    Timer() : m_handle(CreateWaitableTimerExW(nullptr, nullptr, HighResolution, TIMER_ALL_ACCESS)) {
         // Systems before Windows 10 of 2018 don't know the flag.
         if (!m_handle)
             m_handle = CreateWaitableTimerExW(nullptr, nullptr, 0, TIMER_ALL_ACCESS);

@@ -1,6 +1,7 @@
 // Window that shows the progress of a transfer and has its Cancel button.
 #include "transfer/ProgressFrame.h"
 
+#include "commands/FrameLook.h"
 #include "commands/SpokenNames.h"
 #include "transfer/TransferSystem.h"
 
@@ -39,6 +40,7 @@ wxGauge* MakeGauge(wxWindow* parent, const wxString& name) {
 ProgressFrame::ProgressFrame(wxWindow* parent, wxWindowID id, const wxString& title, const wxPoint& pos,
                              const wxSize& size, long style)
     : wxFrame(parent, id, title, pos, size, parent ? style | wxFRAME_FLOAT_ON_PARENT : style) {
+    SetFrameLook(*this);
     FollowParent();
     CreateControls();
 

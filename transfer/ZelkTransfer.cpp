@@ -26,7 +26,7 @@ namespace {
 constexpr int NoRadio = -1;
 
 void Refuse(const wxString& text) {
-    wxMessageBox(text, "Error!", wxOK | wxCENTRE);
+    wxMessageBox(text, "Error!", wxOK | wxCENTRE, MainFrame);
 }
 
 bool PortIsChosen() {
@@ -37,7 +37,7 @@ bool PortIsChosen() {
 }
 
 void ShowResult(TransferStatus status, const wxString& caption) {
-    wxMessageBox(GetStatusText(status), caption, wxOK | wxCENTRE);
+    wxMessageBox(GetStatusText(status), caption, wxOK | wxCENTRE, MainFrame);
 }
 
 bool GuardIsSelected(int row) {
@@ -67,7 +67,7 @@ TransferResult RunDriver(TransferDriver driver, TransferMode mode, const wxStrin
 }
 
 bool UserAgreesToOverwrite() {
-    wxMessageDialog question(nullptr, "This will overwrite any data on this page! Continue?",
+    wxMessageDialog question(MainFrame, "This will overwrite any data on this page! Continue?",
                              "Read Channel Data from Radio?", wxOK | wxCANCEL);
     return question.ShowModal() == wxID_OK;
 }

@@ -178,7 +178,7 @@ TEST_F(FrequencyCell, RefusesStartingKeysByTheSkipFlag) {
         event.m_uniChar = key;
         event.Skip(true);
         editor->StartingKey(event);
-        EXPECT_FALSE(event.GetSkipped()) << key;
+        EXPECT_FALSE(event.GetSkipped()) << static_cast<char>(key);
     }
 }
 

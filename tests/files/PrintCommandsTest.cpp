@@ -151,7 +151,7 @@ protected:
     }
 
     static std::string Shown(int row, int col) {
-        const std::string text = Text(row, col);
+        std::string text = Text(row, col);
         if (row == 0 && col == MNUM)
             return "DEF";
         if (col == MNUM && (row == GD1 || row == GD2))

@@ -528,8 +528,8 @@ TEST_F(Printing, APreviewShowsWhatIsPrinted) {
     printout->SetDC(nullptr);
     const wxImage picture = sheet.Picture();
     const wxRect ink = WhereInk(picture, picture.GetSize());
-    EXPECT_NEAR(150 / 4, ink.GetLeft(), 2);
-    EXPECT_NEAR(1950 / 4, ink.GetRight(), 2);
+    EXPECT_NEAR(150 / 4.0, ink.GetLeft(), 2);
+    EXPECT_NEAR(1950 / 4.0, ink.GetRight(), 2);
     EXPECT_LE(ink.GetBottom(), 2820 / 4);
     EXPECT_GE(ink.GetBottom(), 2600 / 4);
 }

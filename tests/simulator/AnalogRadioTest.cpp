@@ -41,7 +41,7 @@ public:
 /// A radio on a recording link.
 class Bench {
 public:
-    explicit Bench(const char* name, const char* band = "", AnalogHabits habits = {},
+    explicit Bench(const char* name, const char* band = "", const AnalogHabits& habits = {},
                    std::initializer_list<const char*> memories = {})
         : m_radio(Model(name, band), Quiet(habits), List(Model(name, band), memories), m_link) {}
 

@@ -1,6 +1,7 @@
 #include "tests/transfer/Actor.h"
 
 #include <condition_variable>
+#include <exception>
 #include <mutex>
 #include <stdexcept>
 #include <thread>
@@ -41,15 +42,23 @@ Actor::Actor(Campaign::VirtualTime& time, std::function<void()> play)
 }
 
 Actor::~Actor() {
-    Finish();
+    // A thread that waits for ever can't be ended.
+    if (!RunToEnd())
+        std::terminate();
 }
 
 void Actor::Finish() {
+    if (!RunToEnd())
+        throw std::logic_error("an actor waits for something that never comes");
+}
+
+bool Actor::RunToEnd() {
     while (!m_baton->ended)
         if (!m_time.RunNext(Campaign::Moment::max()))
-            throw std::logic_error("an actor waits for something that never comes");
+            return false;
     if (m_baton->thread.joinable())
         m_baton->thread.join();
+    return true;
 }
 
 bool Actor::HasEnded() const {

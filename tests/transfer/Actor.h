@@ -34,6 +34,8 @@ public:
 private:
     struct Baton;
 
+    /// Runs the time until the function has ended. Returns false if it waits for something that never comes.
+    bool RunToEnd();
     void Resume(const std::shared_ptr<Baton>& baton);
 
     Campaign::VirtualTime& m_time;

@@ -1,6 +1,7 @@
 #include "simulator/AnalogLine.h"
 
 #include <algorithm>
+#include <cinttypes>
 #include <cstdio>
 #include <iterator>
 
@@ -34,8 +35,8 @@ bool IsDigit(char c) {
 }
 
 /// The value of a field of decimal digits, or -1 if it holds anything else.
-long Digits(std::string_view field) {
-    long value = 0;
+int64_t Digits(std::string_view field) {
+    int64_t value = 0;
     for (char c : field) {
         if (!IsDigit(c))
             return -1;
@@ -45,14 +46,14 @@ long Digits(std::string_view field) {
 }
 
 /// Reads "ddd.dddd" (MHz) in units of 100 Hz; -1 if malformed.
-long Frequency(std::string_view field) {
-    const long whole = Digits(field.substr(0, 3));
-    const long fraction = Digits(field.substr(4));
+int64_t Frequency(std::string_view field) {
+    const int64_t whole = Digits(field.substr(0, 3));
+    const int64_t fraction = Digits(field.substr(4));
     return whole < 0 || fraction < 0 || field[3] != '.' ? -1 : whole * 10000 + fraction;
 }
 
 /// The range of the model that contains the frequency, or nullptr.
-const FrequencyRange* RangeOf(const AnalogModel& model, long frequency) {
+const FrequencyRange* RangeOf(const AnalogModel& model, int64_t frequency) {
     for (const FrequencyRange& range : model.ranges)
         if (range.high > 0 && frequency >= range.low * 10000L && frequency <= range.high * 10000L)
             return &range;
@@ -60,12 +61,12 @@ const FrequencyRange* RangeOf(const AnalogModel& model, long frequency) {
 }
 
 /// True in the navigation part of the airband, where the radio never transmits.
-bool IsReceiveOnly(const FrequencyRange& range, long frequency) {
+bool IsReceiveOnly(const FrequencyRange& range, int64_t frequency) {
     return range.low == 108 && frequency < 118 * 10000L;
 }
 
 bool IsCode(std::string_view field) {
-    const long value = Digits(field);
+    const int64_t value = Digits(field);
     return field == "000" ||
            (value > 0 && std::find(std::begin(Codes), std::end(Codes), value) != std::end(Codes));
 }
@@ -90,9 +91,9 @@ bool IsScan(std::string_view field) {
     return any; // a channel in no list has "LOCK "
 }
 
-std::string FrequencyField(long frequency) {
+std::string FrequencyField(int64_t frequency) {
     char text[32];
-    std::snprintf(text, sizeof text, "%03ld.%04ld", frequency / 10000, frequency % 10000);
+    std::snprintf(text, sizeof text, "%03" PRId64 ".%04" PRId64, frequency / 10000, frequency % 10000);
     return text;
 }
 

@@ -4,6 +4,7 @@
 #include "simulator/AnalogModels.h"
 #include "simulator/Result.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -13,8 +14,8 @@ namespace Simulator {
 struct AnalogMemory {
     int number = 0;          ///< 1 to the model's rows
     std::string description; ///< 9 characters, blank-padded
-    long rxFrequency = 0;    ///< in units of 100 Hz
-    long txFrequency = 0;    ///< in units of 100 Hz; 0: receives only
+    int64_t rxFrequency = 0; ///< in units of 100 Hz
+    int64_t txFrequency = 0; ///< in units of 100 Hz; 0: receives only
     int rxTone = 64;         ///< 1 to 63: a tone; 64: none
     int txTone = 64;
     std::string rxCode = "000"; ///< three octal digits; "000": none

@@ -50,10 +50,20 @@ void AnalogRadio::Hear(uint8_t byte) {
     const std::string text = std::move(m_text);
     m_text.clear();
     m_link.Note("< " + text);
+    if (m_unseenCloses && BeginsADialogue(text))
+        PortClosed();
     if (m_state == State::Writing)
         TakeLine(text);
     else
         TakeCommand(text);
+}
+
+/// True for commands that no line of a list looks like. After its opening a read or write command goes on
+/// with the dialogue.
+bool AnalogRadio::BeginsADialogue(const std::string& text) const {
+    if (m_model.openingNumber != 0)
+        return text == "rt";
+    return text == "dl" || text == "ul" || text.starts_with("DL") || text.starts_with("UL");
 }
 
 void AnalogRadio::TakeCommand(const std::string& text) {

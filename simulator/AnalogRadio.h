@@ -37,6 +37,7 @@ public:
     /// `model` and `link` must outlive the radio.
     AnalogRadio(const AnalogModel& model, AnalogHabits habits, MemoryList memories, RadioLink& link);
 
+    void ExpectUnseenCloses() override { m_unseenCloses = true; }
     void Hear(uint8_t byte) override;
     bool IsAtRest() const override;
     void PortClosed() override;
@@ -54,6 +55,7 @@ private:
         Deaf           // got an opening for another radio; ignores all input until the port is closed
     };
 
+    bool BeginsADialogue(const std::string& text) const;
     void TakeCommand(const std::string& text);
     bool TakeMemoryCommand(const std::string& text);
     void TakeLine(const std::string& line);
@@ -74,6 +76,7 @@ private:
     int m_reach = 0;        // highest memory of this transfer
     bool m_counted = false; // opened with a count: the list ends with END
     bool m_changed = false; // memories differ from the file
+    bool m_unseenCloses = false;
 };
 
 } // namespace Simulator

@@ -29,7 +29,7 @@ std::vector<std::string> ConfigFields(std::string_view line) {
 /// A sample of the log: time with two state values in the high bits of minute and second, then four
 /// temperatures.
 std::string Sample(int flags, int hour, int minute, int second, std::string_view values) {
-    const auto Byte = [](int value) { return Hex(static_cast<unsigned long>(value), 2); };
+    const auto Byte = [](int value) { return Hex(static_cast<uint64_t>(value), 2); };
     return Byte(flags) + Byte(hour) + Byte(1 << 6 | minute) + Byte(2 << 6 | second) + std::string(values);
 }
 
@@ -74,7 +74,7 @@ Failure CheckConfig(std::string_view line) {
     const std::vector<std::string> fields = ConfigFields(line);
     if (fields.size() < 6)
         return "has fewer than 6 fields";
-    long sum = 1;
+    int64_t sum = 1;
     for (size_t k = 2; k <= 5; ++k) {
         if (fields[k].size() % 2 != 0 || !IsHex(fields[k]))
             return "field " + std::to_string(k) + " is not made of bytes in hexadecimal";

@@ -5,6 +5,7 @@
 #include "simulator/Result.h"
 
 #include <array>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <string_view>
@@ -20,19 +21,19 @@ struct DigitalMemory {
     int zone = 0;            ///< 0 to 31
     std::string description; ///< 8 characters, blank-padded
     char mode = 'n';
-    long rxFrequency = 0; ///< Hz; 0: none
+    int64_t rxFrequency = 0; ///< Hz; 0: none
     char rxSquelch = 'x';
     int rxTone = 0; ///< 1 to 42; 0: none
     int rxCode = 0; ///< numbered like transmit codes: 0 none, 1 the first
     int rxTalkGroup = 0;
     int rxNac = 0; ///< 12 bits
-    long txFrequency = 0;
+    int64_t txFrequency = 0;
     char txSquelch = 'x';
     int txTone = 0;
     int txCode = 0;
     int txTalkGroup = 0;
     int txNac = 0;        ///< keeps 16 bits, only 12 have a meaning
-    long txId = 0;        ///< 0 to 9999999
+    int64_t txId = 0;     ///< 0 to 9999999
     int squelchValue = 0; ///< 0 to 15
 
     bool operator==(const DigitalMemory&) const = default;

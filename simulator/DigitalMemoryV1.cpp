@@ -4,6 +4,7 @@
 #include "simulator/RecordFields.h"
 
 #include <algorithm>
+#include <cinttypes>
 #include <cstdio>
 
 namespace Simulator {
@@ -28,14 +29,15 @@ int OnWire(int number, const DigitalModel& model) {
     return wire >= 0 && named ? wire : -1;
 }
 
-std::string FrequencyText(long hertz) {
+std::string FrequencyText(int64_t hertz) {
     char text[32];
-    std::snprintf(text, sizeof text, "%03ld.%04ld", hertz / 1'000'000 % 1000, hertz % 1'000'000 / 100);
+    std::snprintf(text, sizeof text, "%03" PRId64 ".%04" PRId64, hertz / 1'000'000 % 1000,
+                  hertz % 1'000'000 / 100);
     return text;
 }
 
-unsigned long Byte(int value) {
-    return static_cast<unsigned long>(value);
+uint64_t Byte(int value) {
+    return static_cast<uint64_t>(value);
 }
 
 } // namespace
@@ -48,12 +50,12 @@ Result<DigitalMemory> ParseMemoryV1(std::string_view body, const DigitalModel& m
     fields.Literal(0, "T143", "head");
     const int wire = static_cast<int>(fields.Number(4, 4, 0, HighestV1, "address"));
     memory.address = FromWire(wire, model);
-    const long low = fields.Number(8, 2, 0, 0xFF, "flags");
+    const int64_t low = fields.Number(8, 2, 0, 0xFF, "flags");
     if (((low & GuardMark) != 0) != (wire > LastOrdinaryV1))
         fields.Refuse(8, "the guard mark 80 belongs to memories 231 and 232 only, and they need it");
     memory.primary = FromWire(static_cast<int>(fields.Number(10, 2, 0, HighestV1, "primary")), model);
     memory.number = FromWire(static_cast<int>(fields.Number(12, 2, wire, wire, "number")), model);
-    const long zone = fields.Number(14, 2, 0, 0xFF, "zone");
+    const int64_t zone = fields.Number(14, 2, 0, 0xFF, "zone");
     memory.zone = static_cast<int>(zone >> 4);
     fields.Literal(15, "0", "low digit of the zone");
     memory.description = fields.Text(16, 8, "description");
@@ -104,7 +106,7 @@ std::string FormatMemoryV1(const DigitalMemory& memory, const ShadowSlots& shado
     body += Hex(Byte(memory.rxCode == 0 ? NoRxCode : memory.rxCode - 1), 2) + Hex(Byte(memory.rxNac), 4);
     body += HexOfText(FrequencyText(memory.txFrequency)) + "54" + HexOfText({&memory.txSquelch, 1});
     body += Hex(Byte(memory.txTalkGroup), 4) + Hex(Byte(memory.txTone), 2) + Hex(Byte(memory.txCode), 2);
-    body += Hex(Byte(memory.txNac), 4) + Hex(static_cast<unsigned long>(memory.txId), 8);
+    body += Hex(Byte(memory.txNac), 4) + Hex(static_cast<uint64_t>(memory.txId), 8);
     for (int shadow : shadows)
         body += Hex(Byte(std::max(0, OnWire(shadow, model))), 2);
     return body + Hex(Byte(memory.squelchValue), 2) + "0000" + Hex(Byte(memory.flags >> 8 & 3), 2) + "000000";

@@ -11,8 +11,8 @@ constexpr int LengthV2 = 136;
 constexpr int AllFlags = 0x3FF;
 constexpr int HighestZone = 31;
 
-unsigned long Word(long value) {
-    return static_cast<unsigned long>(value);
+uint64_t Word(int64_t value) {
+    return static_cast<uint64_t>(value);
 }
 
 } // namespace

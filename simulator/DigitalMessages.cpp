@@ -34,7 +34,7 @@ size_t ExtraBytes(int code) {
 }
 
 std::string Name(int code) {
-    return "message " + Hex(static_cast<unsigned long>(code), 2);
+    return "message " + Hex(static_cast<uint64_t>(code), 2);
 }
 
 } // namespace
@@ -126,7 +126,7 @@ void DigitalRadio::TakeQuery(int code) {
     case ReadModes:
         if (m_habits.protocol == 0)
             break;
-        m_replies.Say("T205000033" + Hex(static_cast<unsigned long>(m_habits.modes), 2));
+        m_replies.Say("T205000033" + Hex(static_cast<uint64_t>(m_habits.modes), 2));
         return;
     case SendHardware: {
         if (m_habits.protocol != 2)

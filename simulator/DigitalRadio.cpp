@@ -77,6 +77,8 @@ void DigitalRadio::TakeHello(const HexRecord& hello) {
         Refuse("hello doesn't hold a protocol, 03, 00, 00");
         return;
     }
+    if (m_unseenCloses)
+        PortClosed();
     const bool expected = m_state == State::Idle || m_state == State::Greeted || m_state == State::Over;
     if (!expected || m_lineSpeed != SlowBaud) {
         Refuse("hello in the middle of a dialogue");

@@ -38,6 +38,8 @@ public:
     DigitalRadio(const DigitalModel& model, DigitalHabits habits, DigitalContents contents, RadioLink& link);
 
     void LineSpeed(int baud) override { m_lineSpeed = baud; }
+    int Speed() const override { return m_speed; }
+    void ExpectUnseenCloses() override { m_unseenCloses = true; }
     void Hear(uint8_t byte) override;
     bool IsAtRest() const override;
     bool BeginsAnew(std::string_view bytes) const override;
@@ -90,9 +92,10 @@ private:
     DigitalReplies m_replies;
     const Layout m_layout;
     State m_state = State::Idle;
-    std::string m_text;     // characters since the last carriage return
-    int m_lineSpeed;        // set by the other side
-    int m_speed;            // the radio listens at this speed
+    std::string m_text; // characters since the last carriage return
+    int m_lineSpeed;    // set by the other side
+    int m_speed;        // the radio listens at this speed
+    bool m_unseenCloses = false;
     bool m_garbled = false; // has reported a wrong speed
     List m_list = List::Memories;
     std::vector<std::string> m_bodies; // the list being sent

@@ -16,7 +16,7 @@ unsigned Checksum(std::string_view body) {
 
 } // namespace
 
-std::string Hex(unsigned long value, int digits) {
+std::string Hex(uint64_t value, int digits) {
     std::string text(static_cast<size_t>(digits), '0');
     for (auto place = text.rbegin(); place != text.rend(); ++place, value >>= 4)
         *place = Digits[value & 0xF];
@@ -27,12 +27,12 @@ bool IsHex(std::string_view text) {
     return text.find_first_not_of(Digits) == std::string_view::npos;
 }
 
-long HexValue(std::string_view text) {
+int64_t HexValue(std::string_view text) {
     if (text.empty() || text.size() > 8 || !IsHex(text))
         return -1;
-    long value = 0;
+    int64_t value = 0;
     for (char c : text)
-        value = value * 16 + static_cast<long>(Digits.find(c));
+        value = value * 16 + static_cast<int64_t>(Digits.find(c));
     return value;
 }
 
@@ -71,7 +71,7 @@ Result<HexRecord> ParseRecord(std::string_view line) {
 
 std::string FormatRecord(const HexRecord& record) {
     std::string body = "T" + std::to_string(static_cast<int>(record.type)) + Hex(record.data.size() + 3, 2) +
-                       Hex(static_cast<unsigned long>(record.address), 4);
+                       Hex(static_cast<uint64_t>(record.address), 4);
     for (uint8_t byte : record.data)
         body += Hex(byte, 2);
     return WithChecksum(body);

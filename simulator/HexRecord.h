@@ -33,12 +33,12 @@ std::string FormatRecord(const HexRecord& record);
 std::string WithChecksum(std::string_view body);
 
 /// Returns the last `digits` digits of the value in upper-case hexadecimal.
-std::string Hex(unsigned long value, int digits);
+std::string Hex(uint64_t value, int digits);
 
 /// True if the text contains only upper-case hexadecimal digits or is empty.
 bool IsHex(std::string_view text);
 
 /// Returns the value of one to eight upper-case hexadecimal digits, or -1 for any other text.
-long HexValue(std::string_view text);
+int64_t HexValue(std::string_view text);
 
 } // namespace Simulator

@@ -1,5 +1,7 @@
 #include "simulator/Journal.h"
 
+#include "simulator/SystemFiles.h"
+
 #include <cerrno>
 #include <cstring>
 
@@ -24,7 +26,7 @@ std::string Printable(std::string_view text) {
 } // namespace
 
 Failure Journal::Open(const std::string& path) {
-    m_file.reset(std::fopen(path.c_str(), "w"));
+    m_file.reset(OpenFile(path, "wb"));
     if (!m_file)
         return path + ": " + std::strerror(errno);
     return {};
@@ -33,8 +35,9 @@ Failure Journal::Open(const std::string& path) {
 void Journal::Note(std::string_view text) {
     if (!m_file)
         return;
-    const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_start);
-    std::fprintf(m_file.get(), "%8lld %s\n", static_cast<long long>(passed.count()), Printable(text).c_str());
+    const long long passed =
+        std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - m_start).count();
+    std::fprintf(m_file.get(), "%8lld %s\n", passed, Printable(text).c_str());
     std::fflush(m_file.get());
 }
 

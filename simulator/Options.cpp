@@ -57,6 +57,13 @@ Failure TakeName(Options& options, const std::string& value) {
     return {};
 }
 
+Failure TakePort(Options& options, const std::string& value) {
+    if (value.empty())
+        return "--port needs the name of a serial port";
+    options.port = value;
+    return {};
+}
+
 Failure TakeParity(Options& options, const std::string& value) {
     if (value.empty() || value == "all")
         options.habits.parity = Parity::All;
@@ -114,10 +121,11 @@ const std::vector<Option>& Table() {
         {"list", Value::None, "", "list the radios and their bands, and end", Task(Options::Task::List)},
         {"memories", Value::Needed, "FILE", "load the memories from this file, and keep them in it",
          Text([](Options & o) -> auto& { return o.memoryFile; })},
+        {"port", Value::Needed, "PORT", "play at this serial port, such as COM5 or /dev/ttyUSB0", TakePort},
         {"ports-dir", Value::Needed, "DIR", "put the link there instead of into the program's folder",
          Text([](Options & o) -> auto& { return o.portsFolder; })},
         {"name", Value::Needed, "NAME", "name of the link; the model's name without it", TakeName},
-        {"pace", Value::None, "", "no faster than the speed that is set on the port",
+        {"pace", Value::None, "", "no faster than the speed of the port",
          Switch([](Options & o) -> auto& { return o.pace; })},
         {"banner", Value::Needed, "TEXT", "print this before the first memory (empty: nothing)",
          Text([](Options & o) -> auto& { return o.habits.banner; })},
@@ -205,7 +213,8 @@ Failure ParseOptions(const std::vector<std::string>& arguments, Options& options
 
 std::string HelpText() {
     std::string text = "Usage: zelk-radio --model NAME[:BAND] [option...]\n"
-                       "Plays a radio on a simulated serial port.\n\n";
+                       "Plays a radio on a simulated serial port, or on one that --port names.\n"
+                       "Windows has no simulated ports: there it needs --port.\n\n";
     for (const Option& option : Table()) {
         std::string left = "  --" + std::string(option.name);
         if (option.value == Value::Optional)
@@ -217,7 +226,7 @@ std::string HelpText() {
     }
     return text + "\nFaults: " + FaultNames() +
            ".\n"
-           "Signals: USR1 presses the radio's key; TERM, INT and HUP end it.\n";
+           "Ctrl+C ends it. Signals on Linux: USR1 presses the radio's key; TERM, INT and HUP end it.\n";
 }
 
 std::string ListText() {

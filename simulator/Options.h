@@ -25,8 +25,9 @@ struct Options {
     std::chrono::milliseconds late{5500};
     bool pace = false;
     bool once = false;
-    std::string portsFolder; ///< empty: the default folder
-    std::string name;        ///< of the link; the model's by default
+    std::string port;        ///< empty: a simulated one
+    std::string portsFolder; ///< of a simulated port; empty: the default folder
+    std::string name;        ///< of the link to a simulated port; the model's by default
     std::string logFile;
     std::string replyTimesFile;
 };

@@ -2,16 +2,9 @@
 
 #include "simulator/Promptness.h"
 
-#include <poll.h>
-#include <sys/signalfd.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <chrono>
-#include <csignal>
-#include <ctime>
-#include <iterator>
-#include <optional>
+#include <utility>
 
 namespace Simulator {
 
@@ -19,76 +12,81 @@ namespace {
 
 constexpr size_t ReadSize = 512;
 
+// A port that doesn't see closes counts as closed after so much silence: after a dialogue, and in one. The
+// program may be held up in a dialogue while its user moves the window.
+constexpr std::chrono::seconds QuietAfterDialogue{1};
+constexpr std::chrono::seconds QuietInDialogue{10};
+
 } // namespace
 
-Player::Player(PseudoTerminal& port, Radio& radio, FaultyLink& link, OutputQueue& output, Journal& journal,
+Player::Player(Port& port, Radio& radio, FaultyLink& link, OutputQueue& output, Journal& journal,
                ReplyTimes& replyTimes, bool pace, bool once)
     : m_port(port), m_radio(radio), m_link(link), m_output(output), m_journal(journal),
       m_replyTimes(replyTimes), m_pace(pace), m_once(once) {}
 
-void Player::Run(int signals) {
+void Player::Run(Requests& requests) {
     if (m_pace)
         WakeUpOnTime();
+    if (!m_port.SeesVisits())
+        m_radio.ExpectUnseenCloses();
     while (!m_stop) {
-        Wait(signals);
-        TakeSignals(signals);
+        Wait(requests);
+        TakeRequests(requests);
         // Handle visits first; Leave still reads the last bytes of a user who has gone.
         HandleVisits();
         if (m_stop)
             return;
         TakeInput();
         Deliver();
-    }
-}
-
-void Player::Wait(int signals) {
-    std::optional<TimePoint> due;
-    if (m_port.IsOpen() && m_pending.empty())
-        due = m_output.NextDue();
-    if (!m_heard.empty()) {
-        const TimePoint heard = m_hearing.NextDue(Baud(), m_heard.size());
-        due = due ? std::min(*due, heard) : heard;
-    }
-    // Use nanoseconds: at 115200 baud a millisecond is the time of eleven bytes.
-    std::optional<timespec> timeout;
-    if (due) {
-        using namespace std::chrono;
-        const auto left = std::clamp<nanoseconds>(*due - Clock::now(), 0ns, 1min);
-        const auto whole = duration_cast<seconds>(left);
-        timeout = timespec{.tv_sec = whole.count(), .tv_nsec = (left - whole).count()};
-    }
-    short wanted = 0;
-    if (m_heard.empty())
-        wanted |= POLLIN;
-    if (!m_pending.empty())
-        wanted |= POLLOUT;
-    // While the other side is closed, the port constantly reports a hang-up; only the watch reports an open.
-    pollfd watched[] = {
-        {m_port.IsOpen() ? m_port.Descriptor() : -1, wanted, 0},
-        {m_port.WatchDescriptor(), POLLIN, 0},
-        {signals, POLLIN, 0},
-    };
-    ppoll(watched, std::size(watched), timeout ? &*timeout : nullptr, nullptr);
-}
-
-void Player::TakeSignals(int signals) {
-    signalfd_siginfo info;
-    while (read(signals, &info, sizeof info) == sizeof info) {
-        if (info.ssi_signo == SIGUSR1) {
-            m_journal.Note("- key pressed");
-            m_output.PressKey();
-        } else {
+        Tune();
+        if (m_port.Lost())
             m_stop = true;
-        }
     }
+}
+
+void Player::Wait(const Requests& requests) {
+    std::optional<TimePoint> due;
+    const auto AtLatest = [&due](TimePoint time) { due = due ? std::min(*due, time) : time; };
+    if (const auto next = m_output.NextDue(); next && m_port.IsOpen() && m_pending.empty())
+        AtLatest(*next);
+    if (!m_heard.empty())
+        AtLatest(m_hearing.NextDue(Baud(), m_heard.size()));
+    if (const auto end = QuietEnd())
+        AtLatest(*end);
+    m_port.Wait({.input = m_heard.empty(), .room = !m_pending.empty()}, due, requests);
+}
+
+void Player::TakeRequests(Requests& requests) {
+    const Requests::Asked asked = requests.Take();
+    for (int k = 0; k < asked.keyPresses; ++k) {
+        m_journal.Note("- key pressed");
+        m_output.PressKey();
+    }
+    m_stop = m_stop || asked.stop;
 }
 
 void Player::HandleVisits() {
-    const PseudoTerminal::Visit visit = m_port.TakeVisits();
+    const Port::Visit visit = m_port.TakeVisits();
     if (visit.closed)
         Leave();
     if (visit.opened && m_port.IsOpen())
         m_journal.Note("- port opened");
+    if (const auto end = QuietEnd(); end && Clock::now() >= *end)
+        EndVisit();
+}
+
+/// Returns when silence ends a visit to a port that doesn't see closes; nothing if it doesn't end now.
+std::optional<TimePoint> Player::QuietEnd() const {
+    if (!m_lastByte || !m_heard.empty() || !m_pending.empty() || !m_output.IsEmpty())
+        return {};
+    const bool over = m_radio.IsAtRest() && !m_link.IsDead();
+    return *m_lastByte + (over ? QuietAfterDialogue : QuietInDialogue);
+}
+
+/// Sets this side's speed to the radio's, once the radio has sent what it had to say at the former speed.
+void Player::Tune() {
+    if (m_pending.empty() && m_output.IsEmpty())
+        m_port.SetSpeed(m_radio.Speed());
 }
 
 void Player::Leave() {
@@ -103,6 +101,11 @@ void Player::Leave() {
     } else {
         FeedRadio(m_heard.size(), m_port.Speed());
     }
+    EndVisit();
+}
+
+void Player::EndVisit() {
+    m_lastByte.reset();
     m_hearing.Rest();
     m_output.Clear();
     m_pending.clear();
@@ -110,7 +113,7 @@ void Player::Leave() {
     m_radio.PortClosed();
     m_link.PortClosed();
     m_port.Flush();
-    m_journal.Note("- port closed");
+    m_journal.Note(m_port.SeesVisits() ? "- port closed" : "- line quiet");
     if (m_once && m_output.Completed() > 0)
         m_stop = true;
 }
@@ -119,13 +122,26 @@ void Player::TakeInput() {
     if (m_heard.empty() && m_port.IsOpen()) {
         m_heard = m_port.Read(ReadSize);
         m_hearing.Rest();
-        if (!m_heard.empty())
+        if (!m_heard.empty()) {
             m_replyTimes.Heard(Clock::now());
+            NoteByte();
+        }
     }
     if (m_heard.empty())
         return;
-    m_speed = m_port.Speed();
-    FeedRadio(m_hearing.Take(Clock::now(), Baud(), m_heard.size()), m_speed);
+    for (size_t count = m_hearing.Take(Clock::now(), Baud(), m_heard.size()); count > 0; --count) {
+        m_speed = m_port.Speed();
+        FeedRadio(1, m_speed);
+        Tune();
+    }
+}
+
+void Player::NoteByte() {
+    if (m_port.SeesVisits())
+        return;
+    if (!m_lastByte)
+        m_journal.Note("- line in use");
+    m_lastByte = Clock::now();
 }
 
 void Player::FeedRadio(size_t count, int baud) {
@@ -140,6 +156,7 @@ void Player::Deliver() {
         if (!m_pending.empty()) {
             m_replyTimes.Sent(Clock::now());
             m_pending.erase(0, m_port.Write(m_pending));
+            NoteByte();
             if (!m_pending.empty())
                 return;
         }

@@ -1,4 +1,4 @@
-// Wake-ups on time.
+// Wake-ups on time. One source file for each operating system.
 #pragma once
 
 namespace Simulator {

@@ -1,9 +1,11 @@
 #include "simulator/PseudoTerminal.h"
 
+#include "simulator/Rates_linux.h"
+#include "simulator/WaitForPort_linux.h"
+
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/inotify.h>
-#include <termios.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -15,15 +17,6 @@ namespace Simulator {
 
 namespace {
 
-struct Rate {
-    speed_t code;
-    int baud;
-};
-
-constexpr Rate Rates[] = {
-    {B1200, 1200},   {B2400, 2400},   {B4800, 4800},     {B9600, 9600},     {B19200, 19200},
-    {B38400, 38400}, {B57600, 57600}, {B115200, 115200}, {B230400, 230400},
-};
 constexpr int UsualBaud = 9600;
 
 [[noreturn]] void Fail(const char* what) {
@@ -86,6 +79,11 @@ PseudoTerminal::Visit PseudoTerminal::TakeVisits() {
             }
         }
     }
+}
+
+void PseudoTerminal::Wait(Wanted wanted, std::optional<TimePoint> due, const Requests& requests) {
+    // While the other side is closed, the port constantly reports a hang-up; only the watch reports an open.
+    WaitForPort(IsOpen() ? m_master : -1, wanted, m_watch, due, requests);
 }
 
 std::string PseudoTerminal::Read(size_t limit) {

@@ -63,6 +63,11 @@ public:
 
     /// Sets the speed of the other side, in baud. Call before Hear.
     virtual void LineSpeed(int) {}
+    /// Speed at which the radio listens and sends, in baud.
+    virtual int Speed() const { return 9600; }
+    /// Announces that nobody may tell when the other side closes the port. The command that begins a dialogue
+    /// then ends an unfinished one, at whatever speed it comes.
+    virtual void ExpectUnseenCloses() = 0;
     /// Receives one byte from the wire.
     virtual void Hear(uint8_t byte) = 0;
     /// True between two dialogues, before the first byte of the next one.

@@ -20,8 +20,8 @@ void RecordFields::Zeros(int position, int length, std::string_view name) {
     Literal(position, std::string(static_cast<size_t>(length), '0'), name);
 }
 
-long RecordFields::Number(int position, int digits, long low, long high, std::string_view name) {
-    const long value = HexValue(m_body.substr(static_cast<size_t>(position), static_cast<size_t>(digits)));
+int64_t RecordFields::Number(int position, int digits, int64_t low, int64_t high, std::string_view name) {
+    const int64_t value = HexValue(m_body.substr(static_cast<size_t>(position), static_cast<size_t>(digits)));
     if (value < low || value > high)
         Refuse(position, std::string(name) + " is " + std::to_string(value) + ", not from " +
                              std::to_string(low) + " to " + std::to_string(high));
@@ -38,7 +38,7 @@ char RecordFields::Letter(int position, std::string_view allowed, std::string_vi
 std::string RecordFields::Text(int position, int length, std::string_view name) {
     std::string text;
     for (int k = 0; k < length; ++k) {
-        const long c = HexValue(m_body.substr(static_cast<size_t>(position + 2 * k), 2));
+        const int64_t c = HexValue(m_body.substr(static_cast<size_t>(position + 2 * k), 2));
         if (c < ' ' || c > '~')
             Refuse(position + 2 * k, std::string(name) + " holds a character that can't be shown");
         text += static_cast<char>(c);
@@ -46,9 +46,9 @@ std::string RecordFields::Text(int position, int length, std::string_view name) 
     return text;
 }
 
-long RecordFields::FrequencyText(int position, const DigitalModel& model, std::string_view name) {
+int64_t RecordFields::FrequencyText(int position, const DigitalModel& model, std::string_view name) {
     const std::string text = Text(position, 8, name);
-    long value = 0;
+    int64_t value = 0;
     for (size_t k = 0; k < text.size(); ++k) {
         const bool good = k == 3 ? text[k] == '.' : text[k] >= '0' && text[k] <= '9';
         if (!good) {
@@ -61,11 +61,11 @@ long RecordFields::FrequencyText(int position, const DigitalModel& model, std::s
     return InRange(position, value * 100, model, name);
 }
 
-long RecordFields::FrequencyHertz(int position, const DigitalModel& model, std::string_view name) {
+int64_t RecordFields::FrequencyHertz(int position, const DigitalModel& model, std::string_view name) {
     return InRange(position, HexValue(m_body.substr(static_cast<size_t>(position), 8)), model, name);
 }
 
-long RecordFields::InRange(int position, long hertz, const DigitalModel& model, std::string_view name) {
+int64_t RecordFields::InRange(int position, int64_t hertz, const DigitalModel& model, std::string_view name) {
     const auto Holds = [hertz](const FrequencyRange& range) {
         return hertz >= range.low * 1'000'000L && hertz <= range.high * 1'000'000L;
     };

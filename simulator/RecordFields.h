@@ -4,6 +4,7 @@
 #include "simulator/DigitalModels.h"
 #include "simulator/Result.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -24,21 +25,21 @@ public:
     /// Requires `length` zeros at the position.
     void Zeros(int position, int length, std::string_view name);
     /// Reads a number of `digits` hexadecimal digits, which must be from `low` to `high`.
-    long Number(int position, int digits, long low, long high, std::string_view name);
+    int64_t Number(int position, int digits, int64_t low, int64_t high, std::string_view name);
     /// Reads a character, which must be one of `allowed`.
     char Letter(int position, std::string_view allowed, std::string_view name);
     /// Reads `length` printable ASCII characters.
     std::string Text(int position, int length, std::string_view name);
     /// Reads a frequency from eight characters such as "154.1234". Returns Hz: 0 or in a range of the model.
-    long FrequencyText(int position, const DigitalModel& model, std::string_view name);
+    int64_t FrequencyText(int position, const DigitalModel& model, std::string_view name);
     /// Same as FrequencyText, from eight hexadecimal digits in Hz.
-    long FrequencyHertz(int position, const DigitalModel& model, std::string_view name);
+    int64_t FrequencyHertz(int position, const DigitalModel& model, std::string_view name);
 
     /// Records a failure found by the caller.
     void Refuse(int position, const std::string& reason);
 
 private:
-    long InRange(int position, long hertz, const DigitalModel& model, std::string_view name);
+    int64_t InRange(int position, int64_t hertz, const DigitalModel& model, std::string_view name);
 
     std::string_view m_body;
     Failure m_failure;

@@ -1,12 +1,14 @@
 #include "simulator/ReplyTimes.h"
 
+#include "simulator/SystemFiles.h"
+
 #include <cerrno>
 #include <cstring>
 
 namespace Simulator {
 
 Failure ReplyTimes::Open(const std::string& path) {
-    m_file.reset(std::fopen(path.c_str(), "w"));
+    m_file.reset(OpenFile(path, "wb"));
     if (!m_file)
         return path + ": " + std::strerror(errno);
     return {};

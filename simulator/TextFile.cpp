@@ -1,17 +1,18 @@
 #include "simulator/TextFile.h"
 
-#include <unistd.h>
+#include "simulator/SystemFiles.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 
 namespace Simulator {
 
 Failure ReadLines(const std::string& path, Missing missing,
                   const std::function<Failure(const std::string& line)>& take) {
-    std::ifstream file(path);
+    std::ifstream file(std::filesystem::path(std::u8string(path.begin(), path.end())));
     if (!file) {
         if (errno == ENOENT && missing == Missing::IsEmpty)
             return {};
@@ -35,17 +36,17 @@ Failure WriteTextFile(const std::string& path, const std::string& text) {
     const std::string fresh = path + ".new";
     const auto Fail = [&] {
         std::string reason = path + ": " + std::strerror(errno);
-        std::remove(fresh.c_str());
+        RemoveFile(fresh);
         return reason;
     };
-    std::FILE* file = std::fopen(fresh.c_str(), "w");
+    std::FILE* file = OpenFile(fresh, "wb");
     if (!file)
         return Fail();
     bool good = std::fwrite(text.data(), 1, text.size(), file) == text.size();
     good = std::fflush(file) == 0 && good;
-    good = fsync(fileno(file)) == 0 && good;
+    good = SyncFile(file) && good;
     good = std::fclose(file) == 0 && good;
-    if (!good || std::rename(fresh.c_str(), path.c_str()) != 0)
+    if (!good || !RenameFile(fresh, path))
         return Fail();
     return {};
 }

@@ -1,13 +1,10 @@
-// zelk-radio: plays a radio on a simulated serial port.
+// zelk-radio: plays a radio on a simulated serial port, or on a given one.
+#include "simulator/Console.h"
 #include "simulator/Options.h"
 #include "simulator/Player.h"
-#include "simulator/PortLink.h"
+#include "simulator/PortMaker.h"
 #include "simulator/RadioMaker.h"
 
-#include <sys/signalfd.h>
-#include <unistd.h>
-
-#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <memory>
@@ -23,16 +20,6 @@ constexpr int RulesBroken = 3;
 int Complain(const std::string& text, int code) {
     std::fprintf(stderr, "zelk-radio: %s\n", text.c_str());
     return code;
-}
-
-/// Returns a descriptor on which the loop waits for the signals it handles.
-int WatchSignals() {
-    sigset_t watched;
-    sigemptyset(&watched);
-    for (int number : {SIGTERM, SIGINT, SIGHUP, SIGUSR1})
-        sigaddset(&watched, number);
-    sigprocmask(SIG_BLOCK, &watched, nullptr);
-    return signalfd(-1, &watched, SFD_NONBLOCK | SFD_CLOEXEC);
 }
 
 std::string RadioName(const Options& options) {
@@ -56,22 +43,19 @@ int Play(const Options& options) {
     std::unique_ptr<Radio> radio;
     if (const Failure failure = MakeRadio(options, link, radio))
         return Complain(*failure, ExitFailure);
-    const int signals = WatchSignals();
-    if (signals < 0)
-        return Complain("signals can't be watched", ExitFailure);
-
+    Requests requests;
+    Failure lost;
     {
-        // The link is destroyed before the port, so that no link without a device is ever visible.
-        PseudoTerminal port;
-        PortLink name(options.portsFolder.empty() ? DefaultPortsFolder() : options.portsFolder, options.name,
-                      port.DeviceName());
-        std::printf("zelk-radio: %s is ready at %s\n", RadioName(options).c_str(), name.Path().c_str());
+        const std::unique_ptr<Port> port = OpenPort(options);
+        std::printf("zelk-radio: %s is ready at %s\n", RadioName(options).c_str(), port->Name().c_str());
         std::fflush(stdout);
-        Player(port, *radio, link, output, journal, replyTimes, options.pace, options.once).Run(signals);
+        Player(*port, *radio, link, output, journal, replyTimes, options.pace, options.once).Run(requests);
+        lost = port->Lost();
     }
-    close(signals);
     if (const Failure failure = radio->Store())
         return Complain(*failure, ExitFailure);
+    if (lost)
+        return Complain(*lost, ExitFailure);
     return radio->Violations() > 0 ? RulesBroken : 0;
 }
 
@@ -79,7 +63,7 @@ int Play(const Options& options) {
 
 int main(int argc, char** argv) {
     Options options;
-    if (const Failure failure = ParseOptions({argv + 1, argv + argc}, options))
+    if (const Failure failure = ParseOptions(TakeArguments(argc, argv), options))
         return Complain(*failure, BadUsage);
     switch (options.task) {
     case Options::Task::Help:
@@ -91,6 +75,9 @@ int main(int argc, char** argv) {
     case Options::Task::Play:
         break;
     }
+    if (options.port.empty() && !HasSimulatedPorts())
+        return Complain("this system has no simulated ports: say with --port where to play, such as COM5",
+                        BadUsage);
     try {
         return Play(options);
     } catch (const std::exception& failure) {

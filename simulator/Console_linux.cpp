@@ -1,0 +1,9 @@
+#include "simulator/Console.h"
+
+namespace Simulator {
+
+std::vector<std::string> TakeArguments(int argc, char** argv) {
+    return {argv + 1, argv + argc};
+}
+
+} // namespace Simulator

@@ -18,6 +18,8 @@ TEST(CommandLine, SetsEveryOption) {
                                     "KRV-650:FM 30-50",
                                     "--memories",
                                     "m.txt",
+                                    "--port",
+                                    "COM5",
                                     "--ports-dir=/p",
                                     "--name",
                                     "left",
@@ -45,6 +47,7 @@ TEST(CommandLine, SetsEveryOption) {
     EXPECT_EQ(options.model->name, "KRV-650");
     EXPECT_EQ(options.model->band, "FM 30-50");
     EXPECT_EQ(options.habits.memoryFile, "m.txt");
+    EXPECT_EQ(options.port, "COM5");
     EXPECT_EQ(options.portsFolder, "/p");
     EXPECT_EQ(options.name, "left");
     EXPECT_TRUE(options.pace);
@@ -109,6 +112,7 @@ TEST(CommandLine, ThatCannotBeUnderstoodIsRefused) {
         {"--model", "KRV-214", "--key-delay", "-1"},
         {"--model", "KRV-214", "--late", "1.5"},
         {"--model", "KRV-214", "--parity=even"},
+        {"--model", "KRV-214", "--port", ""},
         {"--model", "KRV-214", "--name", "a/b"},
         {"--model", "KRV-214", "--name", ".hidden"},
         {"--model", "KRV-214", "--name", ""},

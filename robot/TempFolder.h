@@ -20,6 +20,9 @@ public:
     /// Full path of an entry of this folder, which need not exist.
     std::filesystem::path operator/(const std::string& entry) const { return m_path / entry; }
 
+    /// The same as text in UTF-8.
+    std::string File(const std::string& entry) const;
+
     /// Removes the folder now instead of in the destructor.
     void Remove();
 

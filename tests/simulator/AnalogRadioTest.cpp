@@ -1,6 +1,8 @@
 #include "simulator/AnalogRadio.h"
 
-#include "tests/simulator/PortClient.h"
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
+#include "tests/simulator/RadioLines.h"
 
 #include <gtest/gtest.h>
 
@@ -404,7 +406,7 @@ TEST(Radio, IsAtRestOnlyBetweenTwoDialogues) {
 TEST(Radio, SavesItsMemoriesAfterACompletedWrite) {
     const TempFolder folder;
     AnalogHabits habits;
-    habits.memoryFile = folder / "radio.txt";
+    habits.memoryFile = folder.File("radio.txt");
     Bench bench("KRV-610", "FM 138-174", habits);
     bench.Tell("dl\r" + VhfLine("009") + "\r");
     EXPECT_EQ(ReadFileIfAny(habits.memoryFile), "");

@@ -1,10 +1,10 @@
 // Hardware, configuration and debug log: their files and their transfer.
 #include "simulator/DigitalLists.h"
 
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 #include "tests/simulator/DigitalBench.h"
-#include "tests/simulator/PortClient.h"
-
-#include <fstream>
+#include "tests/simulator/RadioLines.h"
 
 namespace {
 
@@ -13,8 +13,8 @@ using namespace digitaltest;
 using namespace testbench;
 
 std::string File(const TempFolder& folder, const std::string& text) {
-    std::ofstream(folder / "list") << text;
-    return folder / "list";
+    WriteFile(folder.File("list"), text);
+    return folder.File("list");
 }
 
 /// Returns what the radio says to acknowledgements until it ends its list.
@@ -166,9 +166,9 @@ TEST(ListFiles, WithBadLinesAreRefusedWithTheirPlace) {
     expectRefusedAtLine2(LoadConfig(File(folder, "a:b:FF:::\na:b:FE:::\n"), lines), "configuration");
     expectRefusedAtLine2(LoadHardware(File(folder, "A\n\x07\n"), lines), "hardware");
     EXPECT_TRUE(LoadHardware(File(folder, std::string(253, 'A')), lines));
-    EXPECT_TRUE(LoadHardware(folder / "none", lines));
-    EXPECT_TRUE(LoadLog(folder / "none", lines));
-    EXPECT_EQ(LoadConfig(folder / "none", lines), std::nullopt) << "made when it is first written";
+    EXPECT_TRUE(LoadHardware(folder.File("none"), lines));
+    EXPECT_TRUE(LoadLog(folder.File("none"), lines));
+    EXPECT_EQ(LoadConfig(folder.File("none"), lines), std::nullopt) << "made when it is first written";
     EXPECT_EQ(lines, std::vector<std::string>{"old"});
 }
 

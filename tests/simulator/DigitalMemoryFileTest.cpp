@@ -1,9 +1,8 @@
 #include "simulator/DigitalMemoryFile.h"
 
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
 #include "tests/simulator/DigitalBench.h"
-#include "tests/simulator/PortClient.h"
-
-#include <fstream>
 
 namespace {
 
@@ -23,46 +22,45 @@ DigitalMemoryList Loaded(const std::string& path, const DigitalModel& model = B(
 
 TEST(DigitalMemoryFile, GivesBackWhatWasSaved) {
     const TempFolder folder;
-    const std::string path = folder / "radio.txt";
+    const std::string path = folder.File("radio.txt");
     const std::string text = "# KDRV-716B FM 136-174\n2 " + Framed(PlainV2(1)) + "\n2 " +
                              Framed(PlainV2(300)) + "\n2 " + Framed(PlainV2(502)) + "\n";
-    std::ofstream(path) << text;
+    WriteFile(path, text);
     const DigitalMemoryList list = Loaded(path);
     EXPECT_EQ(list.size(), 3u);
-    ASSERT_EQ(SaveDigitalMemories(folder / "copy.txt", B(), Layout::V2, list), std::nullopt);
-    EXPECT_EQ(ReadFile(folder / "copy.txt"), text);
+    ASSERT_EQ(SaveDigitalMemories(folder.File("copy.txt"), B(), Layout::V2, list), std::nullopt);
+    EXPECT_EQ(ReadFile(folder.File("copy.txt")), text);
 }
 
 TEST(DigitalMemoryFile, UsesTheFirstLayoutWhereItHoldsTheMemoryWhole) {
     const TempFolder folder;
-    const std::string path = folder / "radio.txt";
+    const std::string path = folder.File("radio.txt");
     const std::string fine = With(PlainV2(7), 44, "081B4A6A"); // 136.00625 MHz: a digit too many for text
     const std::string moved = With(PlainV2(8), 16, "0009");
-    std::ofstream(path) << "1 " << Framed(PlainV1(5)) << "\n2 " << Framed(PlainV2(6)) << "\n2 "
-                        << Framed(fine) << "\n2 " << Framed(moved) << "\n2 " << Framed(PlainV2(300)) << "\n1 "
-                        << Framed(PlainV1(231)) << "\n";
-    ASSERT_EQ(SaveDigitalMemories(folder / "copy.txt", B(), Layout::V1, Loaded(path)), std::nullopt);
-    EXPECT_EQ(ReadFile(folder / "copy.txt"), "# KDRV-716B FM 136-174\n1 " + Framed(PlainV1(5)) + "\n1 " +
-                                                 Framed(PlainV1(6)) + "\n2 " + Framed(fine) + "\n2 " +
-                                                 Framed(moved) + "\n2 " + Framed(PlainV2(300)) + "\n1 " +
-                                                 Framed(PlainV1(231)) + "\n");
-    EXPECT_EQ(Loaded(folder / "copy.txt"), Loaded(path));
+    WriteFile(path, "1 " + Framed(PlainV1(5)) + "\n2 " + Framed(PlainV2(6)) + "\n2 " + Framed(fine) + "\n2 " +
+                        Framed(moved) + "\n2 " + Framed(PlainV2(300)) + "\n1 " + Framed(PlainV1(231)) + "\n");
+    ASSERT_EQ(SaveDigitalMemories(folder.File("copy.txt"), B(), Layout::V1, Loaded(path)), std::nullopt);
+    EXPECT_EQ(ReadFile(folder.File("copy.txt")), "# KDRV-716B FM 136-174\n1 " + Framed(PlainV1(5)) + "\n1 " +
+                                                     Framed(PlainV1(6)) + "\n2 " + Framed(fine) + "\n2 " +
+                                                     Framed(moved) + "\n2 " + Framed(PlainV2(300)) + "\n1 " +
+                                                     Framed(PlainV1(231)) + "\n");
+    EXPECT_EQ(Loaded(folder.File("copy.txt")), Loaded(path));
 }
 
 TEST(DigitalMemoryFile, ThatIsMissingIsAnEmptyRadio) {
     const TempFolder folder;
-    EXPECT_TRUE(Loaded(folder / "none").empty());
+    EXPECT_TRUE(Loaded(folder.File("none")).empty());
 }
 
 TEST(DigitalMemoryFile, MayHoldCommentsEmptyLinesAndDosLineEnds) {
     const TempFolder folder;
-    std::ofstream(folder / "radio.txt") << "# mine\r\n\r\n1 " << Framed(PlainV1(3)) << "\r\n#end";
-    EXPECT_EQ(Loaded(folder / "radio.txt").count(3), 1u);
+    WriteFile(folder.File("radio.txt"), "# mine\r\n\r\n1 " + Framed(PlainV1(3)) + "\r\n#end");
+    EXPECT_EQ(Loaded(folder.File("radio.txt")).count(3), 1u);
 }
 
 TEST(DigitalMemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlaceAndLeftAlone) {
     const TempFolder folder;
-    const std::string path = folder / "radio.txt";
+    const std::string path = folder.File("radio.txt");
     const std::string good = "1 " + Framed(PlainV1(3));
     const struct {
         const char* what;
@@ -79,7 +77,7 @@ TEST(DigitalMemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlaceAndL
     };
     for (const auto& bad : cases) {
         const std::string text = good + "\n" + bad.line + "\n";
-        std::ofstream(path) << text;
+        WriteFile(path, text);
         DigitalMemoryList list;
         list[9].number = 9;
         const Failure failure = LoadDigitalMemories(path, B(), list);
@@ -93,14 +91,14 @@ TEST(DigitalMemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlaceAndL
 
 TEST(DigitalMemoryFile, IsWrittenAtTheEndRecordAndNotAfterARead) {
     const TempFolder folder;
-    const std::string path = folder / "radio.txt";
+    const std::string path = folder.File("radio.txt");
     Bench bench({"KDRV-716", "--memories", path});
     bench.OpenWrite();
     bench.Tell(Framed(PlainV1(5)));
     EXPECT_EQ(ReadFileIfAny(path), "");
     bench.Tell(End);
     EXPECT_EQ(ReadFile(path), "# KDRV-716 FM 136-174\n1 " + Framed(PlainV1(5)) + "\n");
-    std::ofstream(path) << "";
+    WriteFile(path, "");
     bench.ReadAll();
     EXPECT_EQ(bench.Radio().Store(), std::nullopt);
     EXPECT_EQ(ReadFileIfAny(path), "") << "nothing has changed since";
@@ -108,8 +106,8 @@ TEST(DigitalMemoryFile, IsWrittenAtTheEndRecordAndNotAfterARead) {
 
 TEST(DigitalMemoryFile, LosesWhatWasErased) {
     const TempFolder folder;
-    const std::string path = folder / "radio.txt";
-    std::ofstream(path) << "1 " << Framed(PlainV1(5)) << "\n1 " << Framed(PlainV1(6)) << "\n";
+    const std::string path = folder.File("radio.txt");
+    WriteFile(path, "1 " + Framed(PlainV1(5)) + "\n1 " + Framed(PlainV1(6)) + "\n");
     Bench bench({"KDRV-716", "--memories", path});
     bench.OpenWrite();
     bench.Tell(Framed("T204000510"));

@@ -1,10 +1,10 @@
 #include "simulator/MemoryList.h"
 
-#include "tests/simulator/PortClient.h"
+#include "robot/Files.h"
+#include "robot/TempFolder.h"
+#include "tests/simulator/RadioLines.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
 
 namespace {
 
@@ -25,35 +25,35 @@ MemoryList Memories(std::initializer_list<int> numbers) {
 TEST(MemoryFile, GivesBackWhatWasSaved) {
     const TempFolder folder;
     const MemoryList saved = Memories({1, 17, 102});
-    ASSERT_EQ(SaveMemories(folder / "radio.txt", Krv214(), saved), std::nullopt);
-    EXPECT_EQ(ReadFile(folder / "radio.txt"), "# KRV-214 FM 138-174\n" + VhfLine("001") + "\n" +
-                                                  VhfLine("017") + "\n" + VhfLine("102") + "\n");
-    EXPECT_EQ(ReadFileIfAny(folder / "radio.txt.new"), "");
+    ASSERT_EQ(SaveMemories(folder.File("radio.txt"), Krv214(), saved), std::nullopt);
+    EXPECT_EQ(ReadFile(folder.File("radio.txt")), "# KRV-214 FM 138-174\n" + VhfLine("001") + "\n" +
+                                                      VhfLine("017") + "\n" + VhfLine("102") + "\n");
+    EXPECT_EQ(ReadFileIfAny(folder.File("radio.txt.new")), "");
     MemoryList loaded;
-    ASSERT_EQ(LoadMemories(folder / "radio.txt", Krv214(), loaded), std::nullopt);
+    ASSERT_EQ(LoadMemories(folder.File("radio.txt"), Krv214(), loaded), std::nullopt);
     EXPECT_EQ(loaded, saved);
 }
 
 TEST(MemoryFile, ThatIsMissingIsAnEmptyRadio) {
     const TempFolder folder;
     MemoryList loaded;
-    EXPECT_EQ(LoadMemories(folder / "none.txt", Krv214(), loaded), std::nullopt);
+    EXPECT_EQ(LoadMemories(folder.File("none.txt"), Krv214(), loaded), std::nullopt);
     EXPECT_TRUE(loaded.empty());
 }
 
 TEST(MemoryFile, MayHoldCommentsEmptyLinesAndDosLineEnds) {
     const TempFolder folder;
-    std::ofstream(folder / "radio.txt") << "# mine\r\n\r\n" << VhfLine("003") << "\r\n\n#end";
+    WriteFile(folder.File("radio.txt"), "# mine\r\n\r\n" + VhfLine("003") + "\r\n\n#end");
     MemoryList loaded;
-    ASSERT_EQ(LoadMemories(folder / "radio.txt", Krv214(), loaded), std::nullopt);
+    ASSERT_EQ(LoadMemories(folder.File("radio.txt"), Krv214(), loaded), std::nullopt);
     EXPECT_EQ(loaded, Memories({3}));
 }
 
 TEST(MemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlace) {
     const TempFolder folder;
-    std::ofstream(folder / "radio.txt") << VhfLine("003") << "\n" << VhfLine("103") << "\n";
+    WriteFile(folder.File("radio.txt"), VhfLine("003") + "\n" + VhfLine("103") + "\n");
     MemoryList loaded = Memories({9});
-    const Failure failure = LoadMemories(folder / "radio.txt", Krv214(), loaded);
+    const Failure failure = LoadMemories(folder.File("radio.txt"), Krv214(), loaded);
     ASSERT_TRUE(failure);
     EXPECT_NE(failure->find("radio.txt:2: position 0"), std::string::npos) << *failure;
     EXPECT_EQ(loaded, Memories({9}));
@@ -61,7 +61,7 @@ TEST(MemoryFile, WithALineThatTheRadioCannotHoldIsRefusedWithItsPlace) {
 
 TEST(MemoryFile, ThatCannotBeWrittenIsReported) {
     const TempFolder folder;
-    const Failure failure = SaveMemories(folder / "no/such/folder.txt", Krv214(), Memories({1}));
+    const Failure failure = SaveMemories(folder.File("no/such/folder.txt"), Krv214(), Memories({1}));
     ASSERT_TRUE(failure);
     EXPECT_FALSE(failure->empty());
 }

@@ -4,6 +4,7 @@
 #include "robot/Files.h"
 #include "robot/RadioProcess.h"
 #include "robot/TempFolder.h"
+#include "tests/simulator/RadioLines.h"
 
 #include <chrono>
 #include <optional>
@@ -46,9 +47,3 @@ private:
 
 /// Waits until the file holds the text.
 bool WaitForFileText(const std::string& path, std::string_view text);
-/// Number of occurrences of `part` in `text`.
-int CountOf(std::string_view text, std::string_view part);
-/// A good memory line of the band FM 138-174, without its end.
-std::string VhfLine(const std::string& number, const std::string& description = "TOWER1   ");
-/// The end line with its carriage return, as a program sends it.
-std::string EndLine(const std::string& word);

@@ -1,4 +1,4 @@
-// The toolkit without a display. One source file for each operating system that needs it.
+// The toolkit without a display. One source file for each operating system.
 #pragma once
 
 namespace Campaign {

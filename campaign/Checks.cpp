@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdint>
 #include <cstdlib>
 #include <initializer_list>
 #include <set>
@@ -110,7 +111,7 @@ bool Sends(const Outcome& outcome, const std::string& start) {
 }
 
 /// How often the last line before the end of the transfer was sent.
-long TimesOfLastLine(const Outcome& outcome) {
+int64_t TimesOfLastLine(const Outcome& outcome) {
     std::vector<std::string> lines = outcome.sent;
     if (!lines.empty() && lines.back().starts_with("T9"))
         lines.pop_back();
@@ -187,7 +188,7 @@ void CheckCancel(Judge& judge, const Outcome& faulty) {
                          " ms after Cancel");
     if (faulty.status != TransferCancelled)
         return;
-    long later = 0;
+    int64_t later = 0;
     for (size_t i = 0; i < faulty.sent.size(); ++i)
         later += faulty.sentAt[i].begin > faulty.cancelled &&
                  (judge.Digital() ? !faulty.sent[i].starts_with("T9") : faulty.sent[i].size() > 70);

@@ -112,7 +112,7 @@ States StatesOf(const Totals& totals, bool digital) {
     return states;
 }
 
-long CountOf(const Totals& totals, bool digital, const std::string& state, FaultKind kind) {
+int64_t CountOf(const Totals& totals, bool digital, const std::string& state, FaultKind kind) {
     const auto found = totals.coverage.find({digital, state, kind});
     return found == totals.coverage.end() ? 0 : found->second;
 }
@@ -159,7 +159,7 @@ std::string TableOf(const Totals& totals, bool digital) {
             continue;
         text += "\n" + Left(NameOf(kind), kindWidth);
         for (const State& state : states) {
-            const long count = CountOf(totals, digital, state.name, kind);
+            const int64_t count = CountOf(totals, digital, state.name, kind);
             text += Right(count == 0 && !CanHappen(digital, state.name, kind) ? "." : std::to_string(count),
                           WidthOf(state));
         }
@@ -199,10 +199,11 @@ std::string CoverageLines(const Totals& totals) {
 }
 
 std::string TotalLine(const Totals& totals, double seconds) {
-    char text[120];
-    std::snprintf(text, sizeof text, "%ld dialogues, %ld seeds broken, %.0f dialogues a second\n",
-                  totals.dialogues, totals.broken, static_cast<double>(totals.dialogues) / seconds);
-    return text;
+    char speed[60];
+    std::snprintf(speed, sizeof speed, "%.0f dialogues a second\n",
+                  static_cast<double>(totals.dialogues) / seconds);
+    return std::to_string(totals.dialogues) + " dialogues, " + std::to_string(totals.broken) +
+           " seeds broken, " + speed;
 }
 
 void AddLine(Totals& totals, const std::string& line) {
@@ -215,7 +216,7 @@ void AddLine(Totals& totals, const std::string& line) {
         std::getline(in, kindAndCount);
         std::istringstream rest(kindAndCount);
         std::string name;
-        long count = 0;
+        int64_t count = 0;
         if (!(rest >> name >> count))
             return;
         if (const std::optional<FaultKind> kind = KindNamed(name))
@@ -223,7 +224,7 @@ void AddLine(Totals& totals, const std::string& line) {
         return;
     }
     std::istringstream in(line);
-    long dialogues = 0, broken = 0;
+    int64_t dialogues = 0, broken = 0;
     std::string word, seeds;
     if (in >> dialogues >> word >> broken >> seeds && word == "dialogues," && seeds == "seeds") {
         totals.dialogues += dialogues;
@@ -237,7 +238,7 @@ std::string CoverageTables(const Totals& totals) {
 
 std::vector<std::string> NeverReached(const Totals& totals) {
     std::vector<std::string> pairs;
-    EachPair(totals, [&](const std::string& pair, long count, bool canHappen) {
+    EachPair(totals, [&](const std::string& pair, int64_t count, bool canHappen) {
         if (canHappen && count == 0)
             pairs.push_back(pair);
     });
@@ -245,13 +246,13 @@ std::vector<std::string> NeverReached(const Totals& totals) {
 }
 
 bool IsLongEnough(const Totals& totals) {
-    constexpr long enough = 250'000;
+    constexpr int64_t enough = 250'000;
     return totals.dialogues >= enough;
 }
 
 std::vector<std::string> ReachedTogether(const Totals& totals) {
     std::vector<std::string> pairs;
-    EachPair(totals, [&](const std::string& pair, long count, bool canHappen) {
+    EachPair(totals, [&](const std::string& pair, int64_t count, bool canHappen) {
         if (!canHappen && count > 0)
             pairs.push_back(pair + ", " + std::to_string(count));
     });

@@ -13,9 +13,9 @@ inline constexpr const char* StartOfTransfer = "start";
 
 /// Counts of one process, or of several.
 struct Totals {
-    long dialogues = 0;
-    long broken = 0;   ///< seeds that broke a condition
-    Coverage coverage; ///< a port that is taken counts at StartOfTransfer
+    int64_t dialogues = 0;
+    int64_t broken = 0; ///< seeds that broke a condition
+    Coverage coverage;  ///< a port that is taken counts at StartOfTransfer
 };
 
 /// Adds what a runner has reached.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <initializer_list>
@@ -30,7 +31,7 @@ struct ColumnText {
     std::string text;
 };
 
-std::string DecimalOf(long value, int width = 1) {
+std::string DecimalOf(int64_t value, int width = 1) {
     char text[32];
     std::snprintf(text, sizeof text, "%0*ld", width, value);
     return text;
@@ -61,7 +62,7 @@ int Hexadecimal(const std::string& text) {
     return static_cast<int>(std::strtol(text.c_str(), nullptr, 16));
 }
 
-long Hertz(const std::string& megahertz) {
+int64_t Hertz(const std::string& megahertz) {
     return std::lround(std::strtod(megahertz.c_str(), nullptr) * 1e6);
 }
 
@@ -130,13 +131,13 @@ int ScanMask(const std::string& field) {
 }
 
 /// Cells have as many digits before the point as they need, but at least two.
-std::string AnalogFrequency(long units) {
+std::string AnalogFrequency(int64_t units) {
     const std::string text = DecimalOf(units / 10'000, 3) + "." + DecimalOf(units % 10'000, 4);
     return text[0] == '0' ? text.substr(1) : text;
 }
 
-std::string DigitalFrequency(const Formats& formats, long hertz) {
-    const long whole = hertz / 1'000'000, rest = hertz % 1'000'000;
+std::string DigitalFrequency(const Formats& formats, int64_t hertz) {
+    const int64_t whole = hertz / 1'000'000, rest = hertz % 1'000'000;
     return formats.IsSecondLayout() ? (DecimalOf(whole) + "." + DecimalOf(rest, 6)).substr(0, 9)
                                     : DecimalOf(whole, 3) + "." + DecimalOf(rest / 100, 4);
 }
@@ -296,7 +297,7 @@ public:
 private:
     static std::string Shown(const std::string& text) { return "\"" + text + "\""; }
     static std::string Shown(char letter) { return std::string(1, letter); }
-    static std::string Shown(long number) { return std::to_string(number); }
+    static std::string Shown(int64_t number) { return std::to_string(number); }
     static std::string Shown(int number) { return std::to_string(number); }
 
     std::string m_text;

@@ -14,7 +14,7 @@
 namespace Campaign {
 
 /// How often a kind of fault has happened in a state of a driver: by driver, state and kind.
-using Coverage = std::map<std::tuple<bool, std::string, FaultKind>, long>;
+using Coverage = std::map<std::tuple<bool, std::string, FaultKind>, int64_t>;
 
 /// Result of one seed.
 struct Verdict {

@@ -30,10 +30,10 @@ int Usage() {
 }
 
 void PrintBroken(Runner& runner, uint64_t seed, const Verdict& verdict) {
-    std::printf("BROKEN seed %llu, transfer %d:\n", static_cast<unsigned long long>(seed), verdict.job + 1);
+    std::printf("BROKEN seed %s, transfer %d:\n", std::to_string(seed).c_str(), verdict.job + 1);
     for (const std::string& sentence : verdict.broken)
         std::printf("  %s\n", sentence.c_str());
-    std::printf("  zelk-campaign replay %llu %s\n", static_cast<unsigned long long>(seed),
+    std::printf("  zelk-campaign replay %s %s\n", std::to_string(seed).c_str(),
                 ArgumentsOf(runner.Shrink(seed)).c_str());
     std::fflush(stdout);
 }
@@ -92,7 +92,8 @@ int Replay(uint64_t seed, const std::vector<std::string>& arguments) {
                 std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned char>(character));
                 shown += escaped;
             }
-        std::printf("%8lld %s\n", static_cast<long long>(milliseconds), shown.c_str());
+        const long long time = milliseconds;
+        std::printf("%8lld %s\n", time, shown.c_str());
     });
     for (const std::string& sentence : verdict.broken)
         std::printf("BROKEN %s\n", sentence.c_str());

@@ -64,8 +64,11 @@ int HexDigits(const Measure& cells, size_t count) {
 }
 
 int ScanBoxes(const Measure& cells) {
-    return std::max(cells.SizeOf(wxString(wxUniChar(EmptyScanBox), ScanBoxCount)).x,
-                    cells.SizeOf(wxString(wxUniChar(CrossedScanBox), ScanBoxCount)).x);
+    const auto widthOf = [&cells](char32_t box) {
+        const wxSize text = cells.SizeOf(wxString(wxUniChar(box), ScanBoxCount));
+        return std::max(text.x, ScanBoxCount * ScanBoxWidth(text));
+    };
+    return std::max(widthOf(EmptyScanBox), widthOf(CrossedScanBox));
 }
 
 /// Returns the width of the widest text that a cell of the column can hold. A description can be anything;

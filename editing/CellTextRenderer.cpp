@@ -6,9 +6,14 @@ void CellTextRenderer::Draw(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const 
                             int col, bool isSelected) {
     wxGridCellRenderer::Draw(grid, attr, dc, rect, row, col, isSelected);
     SetTextColoursAndFont(grid, attr, dc, isSelected);
+    DrawContent(grid, attr, dc, rect, TextOf(grid, row, col));
+}
+
+void CellTextRenderer::DrawContent(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const wxRect& rect,
+                                   const wxString& text) const {
     int horizontal, vertical;
     attr.GetAlignment(&horizontal, &vertical);
-    grid.DrawTextRectangle(dc, TextOf(grid, row, col), rect, attr, horizontal, vertical);
+    grid.DrawTextRectangle(dc, text, rect, attr, horizontal, vertical);
 }
 
 wxSize CellTextRenderer::GetBestSize(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, int row, int col) {

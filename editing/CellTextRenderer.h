@@ -12,4 +12,9 @@ public:
 
     /// Returns the text to show in the cell.
     virtual wxString TextOf(const wxGrid& grid, int row, int col) const = 0;
+
+protected:
+    /// Draws the text on the cell's background. Font and text colour are set.
+    virtual void DrawContent(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const wxRect& rect,
+                             const wxString& text) const;
 };

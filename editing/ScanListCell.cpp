@@ -4,29 +4,38 @@
 #include "catalogue/ScanBoxes.h"
 #include "catalogue/TextNumbers.h"
 
+#include <wx/dcprint.h>
 #include <wx/msgdlg.h>
+
+#include <algorithm>
 
 namespace {
 
 using RadioCatalogue::ScanBoxCount;
 
-/// Returns the box (0 to 4) under a mouse position in the grid's window, -1 if there is none. width is that
-/// of all boxes together.
-int BoxAt(const wxPoint& position, int col, int width, const wxGrid* grid) {
+/// Returns the box (0 to 4) under a mouse position in the grid's window, -1 if there is none.
+int BoxAt(const wxPoint& position, int col, int boxWidth, const wxGrid* grid) {
     int left = 0;
     for (int before = 0; before < col; ++before)
         if (grid->IsColShown(before))
             left += grid->GetColSize(before);
     const int within = grid->CalcUnscrolledPosition(position).x - left;
-    const int boxWidth = width / ScanBoxCount;
     if (within < 0 || boxWidth == 0 || within / boxWidth >= ScanBoxCount)
         return -1;
     return within / boxWidth;
 }
 
-} // namespace
-
-namespace {
+/// Draws a box with its top left corner there.
+void DrawBox(wxDC& dc, const wxPoint& corner, int edge, bool crossed) {
+    dc.DrawRectangle(corner, wxSize(edge, edge));
+    if (!crossed)
+        return;
+    const int first = edge / 4;
+    const int last = edge - 1 - first;
+    // The end of a line isn't drawn everywhere.
+    dc.DrawLine(corner + wxPoint(first, first), corner + wxPoint(last + 1, last + 1));
+    dc.DrawLine(corner + wxPoint(last, first), corner + wxPoint(first - 1, last + 1));
+}
 
 /// True if the cell has the renderer, editor and font of boxes, from its column or of its own.
 bool HasBoxes(const wxGrid* grid, int row, int col) {
@@ -98,7 +107,8 @@ wxGridActivationResult ScanlistEditor::TryActivate(int row, int col, wxGrid* gri
         if (width == 0)
             wxMessageBox("Chan number cannot be empty!", "ERROR", wxOK | wxCENTRE);
         else
-            box = BoxAt(source.GetMouseEvent().GetPosition(), col, width, grid);
+            box = BoxAt(source.GetMouseEvent().GetPosition(), col,
+                        RadioCatalogue::ScanBoxWidth(wxSize(width, height)), grid);
     }
     if (box < 0)
         return wxGridActivationResult::DoNothing();
@@ -121,4 +131,27 @@ void ScanlistEditor::DoActivate(int row, int col, wxGrid* grid) {
 
 wxString ScanlistRenderer::TextOf(const wxGrid& grid, int row, int col) const {
     return ScanMaskText(GetScanMask(&grid, row, col));
+}
+
+wxSize ScanlistRenderer::GetBestSize(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, int row, int col) {
+    const wxSize text = CellTextRenderer::GetBestSize(grid, attr, dc, row, col);
+    return {std::max(text.x, ScanBoxCount * RadioCatalogue::ScanBoxWidth(text)), text.y};
+}
+
+void ScanlistRenderer::DrawContent(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const wxRect& rect,
+                                   const wxString& text) const {
+    if (wxDynamicCast(&dc, wxPrinterDC))
+        return CellTextRenderer::DrawContent(grid, attr, dc, rect, text);
+    const wxSize size = dc.GetTextExtent(text);
+    const int width = RadioCatalogue::ScanBoxWidth(size);
+    // The place and size that the characters have in the usual font.
+    const int edge = width * 5 / 6;
+    wxPoint corner = rect.GetTopLeft() + wxPoint(1 + (width - edge) / 2, 1 + (size.y - edge) / 2);
+    const wxDCClipper clipper(dc, rect);
+    const wxDCPenChanger pen(dc, wxPen(dc.GetTextForeground(), std::max(1, edge / 12)));
+    const wxDCBrushChanger brush(dc, *wxTRANSPARENT_BRUSH);
+    for (const wxUniChar box : text) {
+        DrawBox(dc, corner, edge, box == wxUniChar(RadioCatalogue::CrossedScanBox));
+        corner.x += width;
+    }
 }

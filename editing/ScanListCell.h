@@ -39,9 +39,15 @@ private:
     wxString m_value;
 };
 
-/// Shows the boxes.
+/// Shows the boxes. They are drawn, because fonts may lack them; only on paper are they characters, which a
+/// reader can find and copy in a printed file.
 class ScanlistRenderer : public CellTextRenderer {
 public:
     wxString TextOf(const wxGrid& grid, int row, int col) const override;
+    wxSize GetBestSize(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, int row, int col) override;
     wxGridCellRenderer* Clone() const override { return new ScanlistRenderer; }
+
+protected:
+    void DrawContent(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const wxRect& rect,
+                     const wxString& text) const override;
 };

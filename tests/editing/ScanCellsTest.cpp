@@ -1,8 +1,10 @@
 // The five boxes of a scan cell, worked by mouse and keys.
+#include "catalogue/ScanBoxes.h"
 #include "editing/ScanListCell.h"
 #include "tests/editing/CellTools.h"
 
 #include <wx/dcmemory.h>
+#include <wx/image.h>
 
 using namespace testbench;
 
@@ -102,6 +104,43 @@ TEST_F(ScanCells, AreDrawnByTheirRenderer) {
     }
     SetCell(5, MNUM, "");
     EXPECT_EQ(renderer->TextOf(*Grid(), 5, SCAN), "");
+}
+
+TEST_F(ScanCells, AreDrawnWithLinesWhateverTheFontHas) {
+    auto* renderer = dynamic_cast<ScanlistRenderer*>(RendererAt(5, SCAN));
+    ASSERT_NE(renderer, nullptr);
+    const wxGridCellAttrPtr attr = Grid()->GetOrCreateCellAttrPtr(5, SCAN);
+    SetCell(5, SCAN, "2"); // the second box is crossed
+    const wxRect cell(0, 0, 100, 23);
+    wxBitmap bitmap(cell.GetSize());
+    int width = 0;
+    {
+        wxMemoryDC dc(bitmap);
+        renderer->Draw(*Grid(), *attr, dc, cell, 5, SCAN, false);
+        width = RadioCatalogue::ScanBoxWidth(dc.GetTextExtent(ScanMaskText(2)));
+    }
+    const wxImage image = bitmap.ConvertToImage();
+    const auto isDark = [&image](int x, int y) { return image.GetGreen(x, y) < 128; };
+    // A line through the middle of a box meets its two sides, and between them the cross.
+    for (int box = 0; box < 5; ++box) {
+        const int left = 1 + box * width;
+        int lines = 0;
+        int middle = 0;
+        for (int y = 0; y < cell.height && lines == 0; ++y)
+            for (int x = left; x < left + width; ++x)
+                lines += isDark(x, y);
+        EXPECT_GE(lines, width / 2) << "no upper side of box " << box;
+        for (int x = left + width / 3; x < left + width * 2 / 3; ++x)
+            for (int y = cell.height / 4; y < cell.height / 2; ++y)
+                middle += isDark(x, y);
+        EXPECT_EQ(middle > 0, box == 1) << "box " << box;
+    }
+}
+
+TEST_F(ScanCells, KeepRoomForASquareWhereAFontHasOnlyNarrowSigns) {
+    EXPECT_EQ(RadioCatalogue::ScanBoxWidth(wxSize(60, 17)), 12);
+    EXPECT_EQ(RadioCatalogue::ScanBoxWidth(wxSize(20, 15)), 11);
+    EXPECT_EQ(RadioCatalogue::ScanBoxWidth(wxSize(0, 15)), 0) << "no boxes";
 }
 
 TEST_F(ScanCells, AreSetUpWithTheirText) {

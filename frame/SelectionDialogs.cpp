@@ -11,6 +11,7 @@
 #include <wx/stattext.h>
 
 #include <algorithm>
+#include <utility>
 
 using namespace RadioCatalogue;
 
@@ -41,7 +42,7 @@ SelectionDialog::SelectionDialog(wxWindow* parent, const wxString& title, const 
 
     Bind(wxEVT_UPDATE_UI, &SelectionDialog::OnUpdateOk, this, wxID_OK);
     if (!choices.empty())
-        m_choice->SetFocus();
+        Bind(wxEVT_ACTIVATE, &SelectionDialog::OnActivate, this);
     else
         // An empty list takes no keyboard, and Escape would be lost. Return must not press Cancel.
         (new wxWindow(this, wxID_ANY, wxPoint(0, 0), wxSize(1, 1)))->SetFocus();
@@ -53,6 +54,13 @@ bool SelectionDialog::TakeChoice() {
         return false;
     m_value = m_choice->GetString(static_cast<unsigned>(selection));
     return true;
+}
+
+void SelectionDialog::OnActivate(wxActivateEvent& event) {
+    event.Skip();
+    // Not before: the list of a dialog that isn't on the screen takes no keyboard, and OK would have it.
+    if (event.GetActive() && !std::exchange(m_begun, true))
+        m_choice->SetFocus();
 }
 
 void SelectionDialog::OnUpdateOk(wxUpdateUIEvent& event) {

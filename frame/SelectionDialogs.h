@@ -5,6 +5,7 @@
 #include <wx/choice.h>
 #include <wx/dialog.h>
 
+class wxActivateEvent;
 class wxUpdateUIEvent;
 
 /// Choices of the dialogs. Use them only while the dialog exists: the pointers are not reset when
@@ -35,9 +36,11 @@ protected:
     wxChoice* m_choice = nullptr;
 
 private:
+    void OnActivate(wxActivateEvent& event);
     void OnUpdateOk(wxUpdateUIEvent& event);
 
     wxString m_value;
+    bool m_begun = false;
 };
 
 /// Offers the serial ports that can be opened now. Its constructor fills PortList.

@@ -1,6 +1,7 @@
 // Work in the window without the mouse.
 #include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
+#include "frame/TargetSelection.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
@@ -163,4 +164,22 @@ TEST_F(WindowKeys, ChooseInTheDialogsWithoutTab) {
     RunCommand(IdPageAdd);
     EXPECT_EQ(CurrentParameters().Radio, int(Krv21));
     EXPECT_EQ(PageCount, 2);
+}
+
+TEST_F(WindowKeys, BeginInTheListOfADialogThatHasAChoiceAlready) {
+    GoTo(3, DESC);
+    int chosen = wxNOT_FOUND;
+    RunWithRobot(
+        [&](Robot& robot) {
+            ASSERT_NE(robot.WaitForDialog("<-- Select Target Radio -->"), nullptr);
+            robot.Settle();
+            EXPECT_EQ(robot.Ask([] { return RadioChoice->GetSelection(); }), int(Krv47));
+            robot.Press("Down");
+            robot.Settle();
+            chosen = robot.Ask([] { return RadioChoice->GetSelection(); });
+            robot.Press("Alt+O");
+        },
+        [] { EXPECT_EQ(UserSelectRadioAndBand(MainFrame, CurrentPage), 0); });
+    EXPECT_EQ(chosen, Krv47 + 1);
+    EXPECT_EQ(CurrentParameters().Radio, Krv47 + 1);
 }

@@ -27,6 +27,15 @@ void DrawHighlights(wxDC& dc, wxRect& rect, int left, int top) {
 
 } // namespace
 
+const wxGridRowHeaderRenderer& PaperLabels::GetRowHeaderRenderer(int row) {
+    // The toolkit draws the labels of all rows again for every column. Drawn over each other, the smooth
+    // edges of their texts would become black.
+    if (row <= m_lastRow)
+        return m_nothing;
+    m_lastRow = row;
+    return m_row;
+}
+
 void PaperLabels::Column::DrawBorder(const wxGrid&, wxDC& dc, wxRect& rect) const {
     DrawFarEdges(dc, rect);
     dc.DrawLine(rect.GetLeft(), rect.GetTop(), rect.GetRight(), rect.GetTop());

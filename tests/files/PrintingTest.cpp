@@ -87,13 +87,12 @@ protected:
         return texts;
     }
 
-    /// The row labels of a page. The toolkit draws some of them several times.
+    /// The row labels of a page, as often as they are drawn.
     static std::vector<std::string> RowLabels(int page) {
         std::vector<std::string> labels;
         for (const DrawnText& drawn : Trace(page))
             if (drawn.text.size() == 3 && drawn.place.x < 250 &&
-                drawn.text.find_first_not_of("0123456789") == std::string::npos &&
-                std::find(labels.begin(), labels.end(), drawn.text) == labels.end())
+                drawn.text.find_first_not_of("0123456789") == std::string::npos)
                 labels.push_back(drawn.text);
         return labels;
     }

@@ -34,7 +34,8 @@ void SetPageParameters(OrvZELFrame* frame, int page, int radio, int bandIndex) {
 }
 
 void CreateNewPage(OrvZELFrame* frame, int page) {
-    auto* panel = new wxPanel(frame->m_notebook, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+    // In the toolkit's first size of a page the grid has no room for its scroll bars, and GTK complains.
+    auto* panel = new wxPanel(frame->m_notebook, wxID_ANY, wxDefaultPosition, frame->GetClientSize(),
                               wxTAB_TRAVERSAL | wxBORDER_NONE);
     frame->m_pagePanels[page] = frame->m_lastPanel = panel;
     auto* sizer = new wxBoxSizer(wxVERTICAL);
@@ -46,6 +47,7 @@ void CreateNewPage(OrvZELFrame* frame, int page) {
     grid->Bind(wxEVT_CONTEXT_MENU, &OrvZELFrame::OnGridContextMenu, frame);
     sizer->Add(grid, 1, wxEXPAND | wxALL, 5);
     panel->SetSizer(sizer);
+    panel->Layout();
     // For every page except the first, this raises the page-changed event before it returns, so the
     // new page is the current one from here on.
     frame->m_notebook->AddPage(panel, PageStrings[page].RadioName, true);

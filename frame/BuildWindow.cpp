@@ -6,6 +6,7 @@
 #include "files/ZelkPrinting.h"
 #include "frame/CommandTables.h"
 #include "frame/FindLine.h"
+#include "frame/FirstSize.h"
 #include "frame/StatusBarSpeech.h"
 #include "frame/StatusFields.h"
 #include "frame/ZelkGUI.h"
@@ -156,6 +157,7 @@ OrvZELFrame::OrvZELFrame(wxWindow* parent)
     RadioCatalogue::FillChoiceLists();
     FillStatusList();
     RowCopyBuffer.clear();
+    TakeFirstSize(*this);
 }
 
 OrvZELFrame::~OrvZELFrame() {

@@ -10,6 +10,7 @@
 #include <wx/grid.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
+#include <wx/wupdlock.h>
 
 #include <algorithm>
 
@@ -26,6 +27,9 @@ void ZelkFrame::OnPageAdd(wxCommandEvent&) {
         DisplayError(result, 0);
         return;
     }
+    // The status bar draws its text at once, and GTK would draw the new tab along with it, which has no size
+    // yet.
+    const wxWindowUpdateLocker quiet(this);
     CreateNewPage(this, PageCount);
     UpdateStatus(this, CurrentPage);
 }

@@ -152,7 +152,7 @@ TEST_F(WindowKeys, ChooseATool) {
 TEST_F(WindowKeys, ChooseInTheDialogsWithoutTab) {
     DialogScript dialogs;
     dialogs.Expect(DialogKind::Other, "<-- Select Target Radio -->").Do([](wxDialog* dialog) {
-        EXPECT_TRUE(RadioChoice->HasFocus());
+        EXPECT_TRUE(PumpUntil([] { return RadioChoice->HasFocus(); }));
         PressKey("Down");
         const int chosen = RadioChoice->GetSelection();
         PressKey("Down");

@@ -83,6 +83,26 @@ TEST_F(Pages, AreSixAtMost) {
     EXPECT_EQ(Tabs(), (Texts{"KRV-47", "KRV-21", "ORV-12", "KDRV-716", "KDAR-2000", "KRV-305"}));
 }
 
+TEST_F(Pages, NeedNoWiderWindowWhenTheyAreSix) {
+    const wxSize room(400, 400);
+    ShowAndFocus(*MainFrame);
+    const auto tabs = [] { return MainFrame->m_notebook->GetSize(); };
+    const wxSize usual = MainFrame->GetSize(), usualTabs = tabs();
+    MainFrame->SetSize(room);
+    PumpUntilIdle();
+    const wxSize smallest = MainFrame->GetSize(), smallestTabs = tabs();
+    MainFrame->SetSize(usual);
+    while (PageCount < PageLimit)
+        AddPage(Kdrv716B);
+    PumpUntilIdle();
+    EXPECT_EQ(MainFrame->GetSize(), usual);
+    EXPECT_EQ(tabs(), usualTabs);
+    MainFrame->SetSize(room);
+    PumpUntilIdle();
+    EXPECT_EQ(MainFrame->GetSize(), smallest);
+    EXPECT_EQ(tabs(), smallestTabs);
+}
+
 TEST_F(Pages, AreNotAddedAfterCancel) {
     DialogScript dialogs;
     dialogs.Expect(DialogKind::Other, "<-- Select Target Radio -->").Answer(wxID_CANCEL);

@@ -206,7 +206,7 @@ TEST_F(OpenEditor, IsClosedWhenItsPageIsDeleted) {
         Type(5, edit);
         const PageState first = [] {
             CurrentPage = 0;
-            const PageState state = StateOfPage();
+            PageState state = StateOfPage();
             CurrentPage = 1;
             return state;
         }();

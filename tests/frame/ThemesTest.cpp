@@ -193,6 +193,8 @@ TEST_P(InTheme, PrintedSheetsAreThoseOfTheLightTheme) {
     TearDown();
     DesktopLook light;
     light.SetTheme("Adwaita", false);
+    // The same window without the theme that the test is run for.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     ZelkWindowTest::SetUp();
     const auto [paintedLight, clearedLight] = print();
     EXPECT_TRUE(painted == paintedLight);

@@ -67,7 +67,7 @@ protected:
 std::unique_ptr<TempFolder> Installed::s_root;
 
 /// Building the program needs none of these, testing it does.
-#define NEEDS(program) ASSERT_TRUE(HasProgram(program)) << program << " is missing: tools/packages test"
+#define NEEDS(program) ASSERT_TRUE(HasProgram(program)) << (program) << " is missing: tools/packages test"
 
 } // namespace
 

@@ -18,7 +18,8 @@
 #include <string>
 
 // GTK and fontconfig keep some memory until the program ends; if such leaks were reported, no
-// window test could pass. Only an address sanitizer calls this.
+// window test could pass. Only an address sanitizer calls this, by its own name.
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
 extern "C" const char* __asan_default_options() {
     return "detect_leaks=0";
 }

@@ -38,7 +38,7 @@ protected:
     }
 
     /// A radio that acknowledges a number of lines and handles the next one differently.
-    static std::function<void(RadioPeer&)> Radio(int lines, std::function<void(RadioPeer&)> then) {
+    static std::function<void(RadioPeer&)> Radio(int lines, const std::function<void(RadioPeer&)>& then) {
         return [lines, then](RadioPeer& peer) {
             peer.HearLine();
             for (int line = 0; line < lines; ++line) {

@@ -171,3 +171,8 @@ int ColumnWidthFor(const wxGrid* grid, int type, int col) {
 int RowHeightFor(const wxGrid* grid) {
     return SizesFor(grid).rowHeight;
 }
+
+int FieldHeightFor(const wxWindow* field) {
+    constexpr int edges = 10; // above and below the text together
+    return std::max(field->GetBestSize().y, field->GetTextExtent("0").y + edges);
+}

@@ -1,5 +1,6 @@
 #include "editing/ShadowDialog.h"
 
+#include "catalogue/TextSizes.h"
 #include "commands/SpokenNames.h"
 
 #include <wx/sizer.h>
@@ -16,6 +17,7 @@ ShadowDialog::ShadowDialog(wxWindow* parent, const wxString& title)
     label->SetMinSize(wxSize(std::max(170, label->GetBestSize().x), wxDefaultCoord));
     entry->Add(label, 0, wxALL | wxALIGN_CENTRE_VERTICAL, 5);
     m_textCtrl = new wxTextCtrl(this, wxID_ANY);
+    m_textCtrl->SetMinSize(wxSize(wxDefaultCoord, FieldHeightFor(m_textCtrl)));
     NameForReader(*m_textCtrl, "Shadow memory number");
     entry->Add(m_textCtrl, 1, wxALL | wxALIGN_CENTRE_VERTICAL, 5);
     box->Add(entry, 1, wxEXPAND | wxALL, 5);

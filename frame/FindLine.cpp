@@ -2,6 +2,7 @@
 
 #include "catalogue/PageModel.h"
 #include "catalogue/TextNumbers.h"
+#include "catalogue/TextSizes.h"
 #include "commands/OpenEditor.h"
 #include "commands/SpokenNames.h"
 #include "editing/CellText.h"
@@ -56,7 +57,7 @@ FindLine::FindLine(wxWindow* page) : wxPanel(page) {
     sizer->Add(new wxStaticText(this, wxID_ANY, "Find:"), centred);
     m_text = new wxTextCtrl(this, wxID_ANY);
     NameForReader(*m_text, "Find");
-    m_text->SetMinSize(wxSize(m_text->GetTextExtent(wxString('0', 24)).x, -1));
+    m_text->SetMinSize(wxSize(m_text->GetTextExtent(wxString('0', 24)).x, FieldHeightFor(m_text)));
     m_text->SetToolTip("Text or frequency; Enter finds the next cell, Shift+Enter the previous one");
     sizer->Add(m_text, wxSizerFlags(centred).Border(wxLEFT | wxRIGHT, Gap));
     m_result = new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,

@@ -6,7 +6,9 @@
 void TakeFirstSize(wxTopLevelWindow& window) {
     // Otherwise GTK begins with a window of 2 by 1 pixels, and complains on the terminal about menus and
     // tools that have no room in it.
-    const wxSize size = window.GetSize();
-    GdkRectangle place{0, 0, size.x, size.y};
-    gtk_widget_size_allocate(window.GetHandle(), &place);
+    GtkWidget* const widget = window.GetHandle();
+    GdkRectangle place{};
+    // Not the toolkit's size of the window, which counts its frame.
+    gtk_window_get_size(GTK_WINDOW(widget), &place.width, &place.height);
+    gtk_widget_size_allocate(widget, &place);
 }

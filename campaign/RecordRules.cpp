@@ -4,8 +4,8 @@
 #include "catalogue/RadioTables.h"
 
 #include <algorithm>
+#include <cinttypes>
 #include <cmath>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <initializer_list>
@@ -33,7 +33,7 @@ struct ColumnText {
 
 std::string DecimalOf(int64_t value, int width = 1) {
     char text[32];
-    std::snprintf(text, sizeof text, "%0*ld", width, value);
+    std::snprintf(text, sizeof text, "%0*" PRId64, width, value);
     return text;
 }
 

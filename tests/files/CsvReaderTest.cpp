@@ -2,10 +2,10 @@
 
 #include "catalogue/MemoryRow.h"
 #include "tests/files/HangLimit.h"
+#include "tests/files/ProcessorTime.h"
 
 #include <gtest/gtest.h>
 
-#include <ctime>
 #include <string>
 #include <vector>
 
@@ -64,10 +64,6 @@ std::array<int32_t, 20> Columns(std::initializer_list<std::pair<size_t, int32_t>
     for (const auto& [position, column] : known)
         columns[position] = column;
     return columns;
-}
-
-double ProcessorSeconds() {
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 } // namespace

@@ -43,6 +43,12 @@ TEST_F(ReplacedFile, StandsAsItWasWhileAnotherProgramReadsIt) {
 TEST_F(ReplacedFile, StandsAsItWasIfItMayOnlyBeRead) {
     testbench::WriteFile(m_folder / "a", "old");
     ASSERT_TRUE(SetFileAttributesW((m_folder / "a").c_str(), FILE_ATTRIBUTE_READONLY));
+    const HANDLE opened =
+        CreateFileW((m_folder / "a").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (opened != INVALID_HANDLE_VALUE) {
+        CloseHandle(opened);
+        GTEST_SKIP() << "this system lets this user write it all the same";
+    }
     EXPECT_EQ(Write(m_folder / "a", "new"), "Permission denied");
     EXPECT_EQ(testbench::ReadFile(m_folder / "a"), "old");
     EXPECT_EQ(Entries(), std::vector<std::string>{"a"});

@@ -1,0 +1,7 @@
+#include "tests/files/ProcessorTime.h"
+
+#include <ctime>
+
+double ProcessorSeconds() {
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}

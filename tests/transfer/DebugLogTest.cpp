@@ -5,6 +5,7 @@
 #include "transfer/TransferContext.h"
 
 #include <gtest/gtest.h>
+#include <wx/textbuf.h>
 
 #include <filesystem>
 #include <fstream>
@@ -37,10 +38,12 @@ protected:
         EXPECT_EQ(m_context.Phase, 0u);
     }
 
-    /// Ends the records and returns the file's text.
+    /// Ends the records and returns the file's text, whose lines end as those of the system's texts do.
     std::string Written(const std::string& file = "log") {
         m_context.DebugLogFile.Close();
-        return testbench::ReadFile(file);
+        wxString text = wxString::FromUTF8(testbench::ReadFile(file));
+        text.Replace(wxTextBuffer::GetEOL(), "\n");
+        return text.utf8_string();
     }
 
     TRecordContext m_context;

@@ -104,8 +104,13 @@ public:
         const Process program({"wine", m_options["--zelk"].string()});
         WaitFor(MainTitle, 120);
         Done("start");
-        PlayJob(AnalogJob);
-        PlayJob(DigitalJob);
+        {
+            const RadioProcess analog = Radio(AnalogJob), digital = Radio(DigitalJob);
+            analog.RequireReady();
+            digital.RequireReady();
+            PlayJob(AnalogJob);
+            PlayJob(DigitalJob);
+        }
         PullTheCable();
         m_hands.Press("Alt+F4");
         const auto end = Clock::now() + std::chrono::seconds(30);
@@ -118,6 +123,7 @@ public:
 
 private:
     RadioProcess Radio(const Job& job, std::vector<std::string> more = {}) {
+        fs::remove(Memories(job));
         std::vector<std::string> arguments{"--model",     job.model,
                                            "--name",      job.port,
                                            "--ports-dir", m_options["--ports"].string(),
@@ -130,9 +136,6 @@ private:
 
     void PlayJob(const Job& job) {
         std::printf("%s\n", job.model);
-        fs::remove(Memories(job));
-        const RadioProcess radio = Radio(job);
-        radio.RequireReady();
         const fs::path example = m_options["--examples"] / job.example;
         OpenFile(example);
         PickPort(job);

@@ -15,6 +15,7 @@
 #include <wx/dir.h>
 #include <wx/filename.h>
 #include <wx/grid.h>
+#include <wx/modalhook.h>
 #include <wx/xml/xml.h>
 
 #include <algorithm>
@@ -29,6 +30,12 @@ namespace {
 std::string Utf8(const wxString& text) {
     return text.utf8_string();
 }
+
+/// Closes the message boxes of files that hold nothing.
+class NoBoxes : public wxModalDialogHook {
+protected:
+    int Enter(wxDialog*) override { return wxID_OK; }
+};
 
 std::vector<wxString> FilesIn(const wxString& folder) {
     wxArrayString files;
@@ -96,8 +103,13 @@ int Import(const wxString& path, const std::vector<wxString>& examples, const wx
     const wxXmlNode* memories = nullptr;
     const ChannelFile::Target target = TargetOf(*document, memories);
     Campaign::Sheet sheet(target.radio, target.bandIndex);
-    // Scan cells ask for their renderer, which a grid that is never shown doesn't have.
-    sheet.Grid()->SetDefaultRenderer(new wxGridCellStringRenderer);
+    // Cells ask for their renderer and editor, which a grid that is never shown doesn't have.
+    for (int col = 0; col < ColumnTotal; ++col) {
+        auto* const attributes = new wxGridCellAttr;
+        attributes->SetRenderer(new wxGridCellStringRenderer);
+        attributes->SetEditor(new wxGridCellTextEditor);
+        sheet.Grid()->SetColAttr(col, attributes);
+    }
     FileImporter importer;
     const int kind = importer.Identify(path);
     if (kind == MultiZELFile && !importer.OpenLines(path))
@@ -119,6 +131,8 @@ int main(int argc, char** argv) {
         if (argc < 3)
             throw std::runtime_error("usage: same-files OUTPUT EXAMPLES [FOREIGN]");
         Campaign::StartWithoutDisplay();
+        NoBoxes boxes;
+        boxes.Register();
         const wxString output = wxString::FromUTF8(argv[1]);
         std::vector<wxString> examples;
         for (const wxString& file : FilesIn(wxString::FromUTF8(argv[2])))

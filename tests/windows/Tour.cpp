@@ -101,6 +101,7 @@ public:
     }
 
     void Play() {
+        SaveAForeignName();
         const Process program({"wine", m_options["--zelk"].string()});
         WaitFor(MainTitle, 120);
         Done("start");
@@ -112,6 +113,13 @@ public:
             PlayJob(DigitalJob);
         }
         PullTheCable();
+        Close();
+    }
+
+    void Fail() { Picture("failed"); }
+
+private:
+    void Close() {
         m_hands.Press("Alt+F4");
         const auto end = Clock::now() + std::chrono::seconds(30);
         while (!m_hands.FocusedTitle().empty() && Clock::now() < end)
@@ -119,9 +127,26 @@ public:
         Need(m_hands.FocusedTitle().empty(), "the window doesn't close");
     }
 
-    void Fail() { Picture("failed"); }
+    /// Starts the program with a file whose name no code page holds, as a double click does, and saves it.
+    void SaveAForeignName() {
+        const fs::path example = m_options["--examples"] / AnalogJob.example;
+        const fs::path file = m_options["--files"] / u8"f\u00FCnf \u03A9 \u0416 \u4E2D.zelk";
+        fs::copy_file(example, file, fs::copy_options::overwrite_existing);
+        const auto before = fs::last_write_time(file);
+        const Process program({"wine", m_options["--zelk"].string(), WindowsName(file)});
+        WaitFor(MainTitle, 120);
+        Rest(2000);
+        Done("a name in several alphabets");
+        Click(ToolImage::Save);
+        const auto end = Clock::now() + std::chrono::seconds(20);
+        while (fs::last_write_time(file) == before && Clock::now() < end)
+            Rest(100);
+        Need(fs::last_write_time(file) != before, "the file was not saved");
+        Compare(Tour::ChannelsOfFile(example.string()), Tour::ChannelsOfFile(file.string()),
+                "the saved file");
+        Close();
+    }
 
-private:
     RadioProcess Radio(const Job& job, std::vector<std::string> more = {}) {
         fs::remove(Memories(job));
         std::vector<std::string> arguments{"--model",     job.model,

@@ -139,6 +139,7 @@ TEST_F(ScanCells, AreDrawnWithLinesWhateverTheFontHas) {
 
 TEST_F(ScanCells, KeepRoomForASquareWhereAFontHasOnlyNarrowSigns) {
     EXPECT_EQ(RadioCatalogue::ScanBoxWidth(wxSize(60, 17)), 12);
+    EXPECT_EQ(RadioCatalogue::ScanBoxWidth(wxSize(66, 27)), 13) << "a fixed width of 16 points";
     EXPECT_EQ(RadioCatalogue::ScanBoxWidth(wxSize(20, 15)), 11);
     EXPECT_EQ(RadioCatalogue::ScanBoxWidth(wxSize(0, 15)), 0) << "no boxes";
 }

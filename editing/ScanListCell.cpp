@@ -140,7 +140,7 @@ wxSize ScanlistRenderer::GetBestSize(wxGrid& grid, wxGridCellAttr& attr, wxDC& d
 
 void ScanlistRenderer::DrawContent(wxGrid& grid, wxGridCellAttr& attr, wxDC& dc, const wxRect& rect,
                                    const wxString& text) const {
-    if (wxDynamicCast(&dc, wxPrinterDC))
+    if (dynamic_cast<wxPrinterDC*>(&dc))
         return CellTextRenderer::DrawContent(grid, attr, dc, rect, text);
     const wxSize size = dc.GetTextExtent(text);
     const int width = RadioCatalogue::ScanBoxWidth(size);

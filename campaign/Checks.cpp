@@ -322,7 +322,12 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         const bool replaced =
             ((judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) || (judge.Digital() && busyTwice)) &&
              (faulty.spoiltToRadio || judge.Happened({FaultKind::Delayed}))) ||
-            judge.Count({FaultKind::Delayed}) > 1;
+            judge.Count({FaultKind::Delayed}) > 1 ||
+            // The answer that refuses a row is a line late then, and may itself be garbled or come too late.
+            (judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) && judge.Count() > 2 &&
+             judge.Happened({FaultKind::Refusal, FaultKind::RefusalAlways, FaultKind::EndRecord}) &&
+             (faulty.spoiltToProgram ||
+              judge.Happened({FaultKind::BusyFor, FaultKind::Wait, FaultKind::Torn, FaultKind::Silence})));
         const bool silent = judge.Digital() && (judge.Happened({FaultKind::Twice}) || busyTwice) &&
                             judge.Happened({FaultKind::Silence, FaultKind::Restart});
         if (status == TransferComplete && clean.status == TransferComplete && believable && !lied &&

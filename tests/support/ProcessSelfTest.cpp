@@ -8,6 +8,8 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
+#include <string>
 
 using namespace testbench;
 
@@ -15,6 +17,20 @@ namespace {
 
 std::string OwnProgram() {
     return std::filesystem::read_symlink("/proc/self/exe");
+}
+
+/// A command of the shell that prints the process of the display's server, the first that with-display
+/// starts. A test looks for the process, not for the display's socket: a display that is started beside the
+/// test takes the number that has become free.
+const std::string PrintServer = "read server rest </proc/$PPID/task/$PPID/children; echo server $server; ";
+
+/// The process in a line that PrintServer has printed. None: 0, for which ASSERT_GT fails.
+pid_t ServerIn(const std::optional<std::string>& line) {
+    return line ? std::stoi(line->substr(line->find_first_of(' '))) : 0;
+}
+
+bool Runs(pid_t process) {
+    return kill(process, 0) == 0;
 }
 
 } // namespace
@@ -124,25 +140,29 @@ TEST(WindowTests, KeepOutOfTheUsersHome) {
 }
 
 TEST(WithDisplay, RunsACommandUnderAWindowManagerAndCleansUp) {
-    const std::string script = "echo display $DISPLAY; echo folder $TMPDIR; exit 5";
     const TempFolder temporary;
-    Process run({WITH_DISPLAY, "sh", "-c", script}, {.environment = {{"TMPDIR", temporary.Path()}}});
-    const std::string line = run.WaitForLine("^display :[0-9]+", 40000).value_or("");
-    ASSERT_FALSE(line.empty()) << run.Output();
+    Process run({WITH_DISPLAY, "sh", "-c", PrintServer + "echo $TMPDIR; exit 5"},
+                {.environment = {{"TMPDIR", temporary.Path()}}});
+    const pid_t server = ServerIn(run.WaitForLine("^server +[0-9]+", 40000));
+    ASSERT_GT(server, 0) << run.Output();
     EXPECT_EQ(run.WaitForExit().value_or(-1), 5);
-    EXPECT_FALSE(std::filesystem::exists("/tmp/.X11-unix/X" + line.substr(line.find(':') + 1)));
+    EXPECT_FALSE(Runs(server));
     EXPECT_TRUE(std::filesystem::is_empty(temporary.Path()));
 }
 
 TEST(WithDisplay, EndsItsCommandAndServerWhenItIsEnded) {
     const TempFolder temporary;
-    Process run({WITH_DISPLAY, "sh", "-c", "echo $$ $DISPLAY; exec sleep 100"},
+    Process run({WITH_DISPLAY, "sh", "-c", PrintServer + "echo $$; exec sleep 100"},
                 {.environment = {{"TMPDIR", temporary.Path()}}});
-    const std::string line = run.WaitForLine("^[0-9]+ :[0-9]+", 40000).value_or("");
-    ASSERT_FALSE(line.empty()) << run.Output();
+    const pid_t server = ServerIn(run.WaitForLine("^server +[0-9]+", 40000));
+    ASSERT_GT(server, 0) << run.Output();
+    const pid_t command = std::stoi(run.WaitForLine("^[0-9]+").value_or("0"));
+    ASSERT_GT(command, 0) << run.Output();
+    EXPECT_TRUE(Runs(server));
+    EXPECT_TRUE(Runs(command));
     run.Signal(SIGTERM);
     EXPECT_EQ(run.WaitForExit().value_or(-1), 143);
-    EXPECT_NE(kill(std::stoi(line), 0), 0) << "the command still runs";
-    EXPECT_FALSE(std::filesystem::exists("/tmp/.X11-unix/X" + line.substr(line.find(':') + 1)));
+    EXPECT_FALSE(Runs(command));
+    EXPECT_FALSE(Runs(server));
     EXPECT_TRUE(std::filesystem::is_empty(temporary.Path()));
 }

@@ -51,7 +51,6 @@ struct TransferResult {
 };
 
 TransferResult RunDriver(TransferDriver driver, TransferMode mode, const wxString& title) {
-    const FocusKeeper focus;
     TransferContext analog;
     TRecordContext digital;
     switch (driver) {
@@ -86,6 +85,8 @@ bool MainAndGuardsAreSelected() {
 
 void ZelkFrame::OnDownload(wxCommandEvent&) {
     CommitOpenEditor();
+    // Before the question: while it closes, no window has the keyboard.
+    const FocusKeeper focus;
     const PageParameterRecord& page = CurrentParameters();
     if (!UserAgreesToOverwrite())
         return;
@@ -109,6 +110,7 @@ void ZelkFrame::OnDownload(wxCommandEvent&) {
 
 void ZelkFrame::OnUpload(wxCommandEvent&) {
     CommitOpenEditor();
+    const FocusKeeper focus;
     const PageParameterRecord& page = CurrentParameters();
     if (!PortIsChosen())
         return;

@@ -83,6 +83,38 @@ TEST_F(WindowKeys, ChangeThePageFromTheGridAndKeepTheKeyboardInIt) {
     }
 }
 
+TEST_F(WindowKeys, WorkInThePageThatIsShownWhenOneIsAddedOrDeleted) {
+    GoTo(3, MNUM);
+    const auto down = [](Robot& robot) {
+        EXPECT_TRUE(robot.WaitForNoDialog());
+        EXPECT_TRUE(robot.WaitFor([] { return CurrentGrid()->HasFocus() && MainFrame->IsActive(); }));
+        const Place before = robot.Ask(Cursor);
+        robot.Press("Down");
+        EXPECT_TRUE(robot.WaitFor([&] { return Cursor() == Place(before.first + 1, before.second); }, 1000))
+            << "page " << CurrentPage << " has no keyboard";
+    };
+    RunWithRobot([&](Robot& robot) {
+        for (const char* key : {"F10", "Right", "Down", "a"}) {
+            robot.Press(key);
+            robot.Settle();
+        }
+        ASSERT_NE(robot.WaitForDialog("<-- Select Target Radio -->"), nullptr);
+        robot.Ask([] { RadioChoice->SetSelection(Krv21); });
+        ASSERT_TRUE(robot.WaitFor([] { return RadioChoice->GetParent()->FindWindow(wxID_OK)->IsEnabled(); }));
+        robot.Press("Alt+O");
+        ASSERT_TRUE(robot.WaitFor([] { return PageCount == 2; }));
+        down(robot);
+        for (const char* key : {"F10", "Right", "Down", "d"}) {
+            robot.Press(key);
+            robot.Settle();
+        }
+        ASSERT_NE(robot.WaitForDialog("Delete Page\\?"), nullptr);
+        robot.Press("Return");
+        ASSERT_TRUE(robot.WaitFor([] { return PageCount == 1; }));
+        down(robot);
+    });
+}
+
 TEST_F(WindowKeys, ChangeThePageAfterTheTextThatIsBeingTypedWasTaken) {
     AddPage(Krv21);
     GoTo(4, DESC);

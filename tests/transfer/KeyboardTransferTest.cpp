@@ -73,6 +73,13 @@ public:
         ASSERT_TRUE(closed);
     }
 
+    /// Waits until the last dialog has given the keyboard back to the grid.
+    void AwaitGrid() {
+        ASSERT_TRUE(m_robot.WaitForNoDialog());
+        ASSERT_TRUE(m_robot.WaitFor([] { return CurrentGrid()->HasFocus() && MainFrame->IsActive(); }));
+        m_robot.Settle();
+    }
+
     /// Goes from the first column of a row to this one.
     void GoTo(int col) {
         const auto cursor = [] { return CurrentGrid()->GetGridCursorCol(); };
@@ -159,34 +166,37 @@ TEST_F(KeyboardTransfer, SendsThreeChannelsAndReadsThemBack) {
         typist.Answer("Change Target\\?",
                       "If there is data on this page,\nthis may result in invalid configuration!");
         ChooseTarget(typist);
-        ASSERT_TRUE(robot.WaitForNoDialog());
+        typist.AwaitGrid();
         typist.Choose(Menu::Settings, "p");
         typist.ChooseInList("<-- Select Serial Port -->", PortChoice, port);
-        ASSERT_TRUE(robot.WaitForNoDialog());
+        typist.AwaitGrid();
         TypeChannels(robot, typist);
         typist.Choose(Menu::Data, "v");
         typist.Answer("Validate Page", "Validate row data");
-        ASSERT_TRUE(robot.WaitForNoDialog());
+        typist.AwaitGrid();
 
         typist.Choose(Menu::File, "s");
         typist.NameFile("Save .*", file);
+        typist.AwaitGrid();
         for (const char* key : {"Ctrl+Home", "Down", "Shift+space", "Shift+Down", "Shift+Down"})
             typist.Press(key);
+        ASSERT_TRUE(robot.WaitFor([] { return CurrentGrid()->GetSelectedRows().size() == 3; }));
         typist.Choose(Menu::Data, "s");
         typist.Answer("Write to Radio Status", "Complete");
-        ASSERT_TRUE(robot.WaitForNoDialog());
+        typist.AwaitGrid();
 
         sent = robot.Ask(TypedCells);
         typist.Choose(Menu::Page, "a");
         ChooseTarget(typist);
         ASSERT_TRUE(robot.WaitFor([] { return PageCount == 2; }));
+        typist.AwaitGrid();
         typist.Choose(Menu::Data, "g");
         typist.Answer("Read Channel Data from Radio\\?",
                       "This will overwrite any data on this page! Continue?");
         typist.Answer("Read channel data from radio",
                       "Close this dialog, then press ENTER on radio to start");
         typist.Answer("Read from Radio Status", "Complete");
-        ASSERT_TRUE(robot.WaitForNoDialog());
+        typist.AwaitGrid();
     });
     ExpectOver();
     EXPECT_TRUE(std::filesystem::exists(file));

@@ -72,6 +72,13 @@ protected:
         PumpFor(50);
     }
 
+    /// Clicks beside a list that has popped up.
+    static void ClickBesideTheList() {
+        // The toolkit takes a click in the first half second for the one that opened the list.
+        PumpFor(600);
+        ClickAt(CellSpot(*Grid(), 1, MNUM));
+    }
+
     static int AllSlots() {
         int sum = 0;
         for (int zone = 0; zone < ZonesPerPage; ++zone)
@@ -258,7 +265,7 @@ TEST_F(ListCells, PoppedUpAndLeftLeaveABlankRowBlank) {
             SCOPED_TRACE(key);
             PopUp(9, cell.col);
             if (std::string(key) == "click")
-                ClickAt(CellSpot(*Grid(), 1, MNUM));
+                ClickBesideTheList();
             else
                 PressKey(key);
             EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
@@ -317,7 +324,7 @@ TEST_F(ListCells, PoppedUpTakeKeysBackAndLeaveTheCellWhenNothingFits) {
         PopUp(5, RTON);
         TypeText("203.5");
         if (std::string(key) == "click")
-            ClickAt(CellSpot(*Grid(), 1, MNUM));
+            ClickBesideTheList();
         else
             PressKey(key);
         EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));

@@ -4,9 +4,14 @@
 
 #include <gtest/gtest.h>
 #include <wx/event.h>
-#include <wx/eventfilter.h>
 #include <wx/grid.h>
 #include <wx/toplevel.h>
+
+// Their macros have names of the toolkit.
+#include <X11/XKBlib.h>
+#include <X11/Xutil.h>
+#include <X11/extensions/XInput2.h>
+#include <gdk/gdk.h>
 
 namespace testbench {
 
@@ -17,31 +22,38 @@ Hands& TheHands() {
     return hands;
 }
 
-/// Counts the ends of clicks and key presses as they arrive. A window manager may delay an event
-/// until it has focused the window, so a moment without events doesn't mean that all have arrived.
-class Arrivals : public wxEventFilter {
+/// Counts the ends of clicks and key presses as they arrive. A window manager may delay an event until it has
+/// focused the window, so a moment without events doesn't mean that all have arrived. Looks at the events of
+/// the display: those of menus, tools and dialogs of the desktop never become events of the toolkit.
+class Arrivals {
 public:
-    Arrivals() { wxEvtHandler::AddFilter(this); }
-    ~Arrivals() override { wxEvtHandler::RemoveFilter(this); }
+    Arrivals() { gdk_window_add_filter(nullptr, &Arrivals::Look, this); }
+    ~Arrivals() { gdk_window_remove_filter(nullptr, &Arrivals::Look, this); }
+    Arrivals(const Arrivals&) = delete;
+    Arrivals& operator=(const Arrivals&) = delete;
 
-    int FilterEvent(wxEvent& event) override {
-        const wxEventType type = event.GetEventType();
-        if (type == wxEVT_LEFT_UP || type == wxEVT_MIDDLE_UP || type == wxEVT_RIGHT_UP) {
-            m_count++;
-        } else if (type == wxEVT_KEY_UP) {
-            const int key = static_cast<wxKeyEvent&>(event).GetKeyCode();
-            m_count += key != WXK_SHIFT && key != WXK_RAW_CONTROL && key != WXK_ALT ? 1 : 0;
-        }
-        return Event_Skip;
-    }
-
-    /// Native menus and dialogs don't report their events; the wait then ends by timeout.
     void Await(size_t count) {
         PumpUntil([&] { return m_count >= count; }, 500);
         PumpUntilIdle();
     }
 
 private:
+    static GdkFilterReturn Look(GdkXEvent* what, GdkEvent*, gpointer arrivals) {
+        const auto& event = *static_cast<const XEvent*>(what);
+        if (event.type == GenericEvent && event.xcookie.data != nullptr && IsAnEnd(event.xcookie))
+            static_cast<Arrivals*>(arrivals)->m_count++;
+        return GDK_FILTER_CONTINUE;
+    }
+
+    static bool IsAnEnd(const XGenericEventCookie& event) {
+        if (event.evtype == XI_ButtonRelease)
+            return true;
+        if (event.evtype != XI_KeyRelease)
+            return false;
+        const auto key = static_cast<KeyCode>(static_cast<const XIDeviceEvent*>(event.data)->detail);
+        return !IsModifierKey(XkbKeycodeToKeysym(event.display, key, 0, 0));
+    }
+
     size_t m_count = 0;
 };
 

@@ -1,7 +1,8 @@
-// Printing, preview and page set-up as a user works with them: by menu, mouse and keys, onto real sheets.
+// Printing and preview as a user works with them: by menu, mouse and keys, onto real sheets.
 #include "commands/CommandIds.h"
 #include "robot/XDesk.h"
 #include "tests/files/PdfText.h"
+#include "tests/files/PrintDialogs.h"
 #include "tests/files/PrintTest.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/AssertsOff.h"
@@ -9,25 +10,19 @@
 #include "tests/support/LogKeeper.h"
 #include "tests/support/RunWithRobot.h"
 
-#include <wx/combobox.h>
-#include <wx/generic/prntdlgg.h>
 #include <wx/print.h>
-#include <wx/radiobox.h>
 #include <wx/statusbr.h>
-#include <wx/textctrl.h>
 
 #include <chrono>
 #include <iterator>
 #include <stdexcept>
 #include <thread>
 
+using namespace printtest;
 using namespace testbench;
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Positions of the entries in the File menu, not counting the separator.
-enum FileMenuEntry { PrintEntry = 6, PreviewEntry = 7, PageSetupEntry = 8 };
 
 constexpr const char* PrintTrouble =
     "There was a problem printing. Perhaps your current printer is not set correctly?";
@@ -53,13 +48,6 @@ protected:
             setenv("TMPDIR", m_formerSpool.c_str(), 1);
         fs::current_path(m_former);
         PrintTest::TearDown();
-    }
-
-    static void ChooseFromFileMenu(Robot& robot, FileMenuEntry entry) {
-        robot.Press("F10");
-        robot.Settle();
-        robot.Press("Down", entry);
-        robot.Press("Return");
     }
 
     static const fs::path& Spool() {
@@ -226,37 +214,6 @@ protected:
     static wxImage GridPicture() {
         PumpUntilIdle();
         return XDesk().Picture(CurrentGrid()->GetScreenRect());
-    }
-
-    /// Opens the page set-up, runs work on it and closes it with the button.
-    static void SetUpPage(int button,
-                          const std::function<void(Robot&, wxGenericPageSetupDialog*)>& work = {}) {
-        RunWithRobot([&](Robot& robot) {
-            ChooseFromFileMenu(robot, PageSetupEntry);
-            auto* dialog = static_cast<wxGenericPageSetupDialog*>(robot.WaitForDialog("Page setup"));
-            ASSERT_NE(dialog, nullptr);
-            EXPECT_EQ(robot.Ask([=] { return dialog->GetParent(); }), MainFrame);
-            if (work)
-                work(robot, dialog);
-            robot.Click(robot.Ask([=] { return MiddleOf(*dialog->FindWindow(button)); }));
-            EXPECT_TRUE(robot.WaitForNoDialog());
-        });
-    }
-
-    static void TypeMargin(Robot& robot, wxTextCtrl* field, const std::string& text) {
-        robot.Click(robot.Ask([=] { return MiddleOf(*field); }));
-        robot.Press("Ctrl+A");
-        robot.Type(text);
-        EXPECT_TRUE(robot.WaitFor([=] { return field->GetValue() == text; })) << text;
-    }
-
-    static void ClickLandscape(Robot& robot, wxGenericPageSetupDialog* dialog) {
-        // The right one of the two buttons under the box's title.
-        robot.Click(robot.Ask([=] {
-            const wxSize size = dialog->m_orientationRadioBox->GetSize();
-            return SpotIn(*dialog->m_orientationRadioBox, wxPoint(size.x * 3 / 4, size.y * 3 / 4));
-        }));
-        EXPECT_TRUE(robot.WaitFor([=] { return dialog->m_orientationRadioBox->GetSelection() == 1; }));
     }
 
 private:
@@ -540,64 +497,4 @@ TEST_F(PrintCommands, ThePreviewGoesWithTheMainWindow) {
     TearDown();
     EXPECT_EQ(FindPreview(), nullptr);
     SetUp();
-}
-
-TEST_F(PrintCommands, PageSetupTakesOrientationPaperAndMargins) {
-    SetUpPage(wxID_OK, [](Robot& robot, wxGenericPageSetupDialog* dialog) {
-        ClickLandscape(robot, dialog);
-        TypeMargin(robot, dialog->m_marginLeftText, "20");
-        TypeMargin(robot, dialog->m_marginTopText, "21");
-        TypeMargin(robot, dialog->m_marginRightText, "22");
-        TypeMargin(robot, dialog->m_marginBottomText, "23");
-        robot.Click(robot.Ask([=] { return SpotIn(*dialog->m_paperTypeChoice, wxPoint(20, 10)); }));
-        robot.Press("Up", 2);
-        EXPECT_TRUE(robot.WaitFor([=] { return dialog->m_paperTypeChoice->GetSelection() == 0; }));
-    });
-    EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE);
-    EXPECT_EQ(PrintData->GetPaperId(), wxPAPER_LETTER);
-    EXPECT_EQ(PageSetupData->GetPrintData().GetOrientation(), wxLANDSCAPE);
-    EXPECT_EQ(PageSetupData->GetPaperSize(), wxSize(215, 279));
-    EXPECT_EQ(PageSetupData->GetMarginTopLeft(), wxPoint(20, 21));
-    EXPECT_EQ(PageSetupData->GetMarginBottomRight(), wxPoint(22, 23));
-    ZelkPrintout printout(MainFrame, CurrentGrid(), "");
-    printout.CalculateRowsPerPage();
-    EXPECT_EQ(printout.RowsPerPage(), 18) << "237 x 165 mm: 431 pixels";
-}
-
-TEST_F(PrintCommands, PageSetupBeginsWithA4Chosen) {
-    SetUpPage(wxID_OK, [](Robot& robot, wxGenericPageSetupDialog* dialog) {
-        EXPECT_EQ(robot.Ask([=] { return dialog->m_paperTypeChoice->GetStringSelection().utf8_string(); }),
-                  "A4 sheet, 210 x 297 mm");
-    });
-    EXPECT_EQ(PageSetupData->GetPaperSize(), wxSize(210, 297));
-}
-
-TEST_F(PrintCommands, PageSetupShowsWhatWasSet) {
-    PageSetupData->GetPrintData().SetOrientation(wxLANDSCAPE);
-    PageSetupData->SetMarginTopLeft(wxPoint(1, 2));
-    PageSetupData->SetMarginBottomRight(wxPoint(3, 4));
-    SetUpPage(wxID_CANCEL, [](Robot& robot, wxGenericPageSetupDialog* dialog) {
-        const std::vector<std::string> shown = robot.Ask([=] {
-            std::vector<std::string> texts{std::to_string(dialog->m_orientationRadioBox->GetSelection())};
-            for (wxTextCtrl* field : {dialog->m_marginLeftText, dialog->m_marginTopText,
-                                      dialog->m_marginRightText, dialog->m_marginBottomText})
-                texts.push_back(field->GetValue().utf8_string());
-            return texts;
-        });
-        EXPECT_EQ(shown, (std::vector<std::string>{"1", "1", "2", "3", "4"}));
-    });
-}
-
-TEST_F(PrintCommands, PageSetupIsCopiedIntoThePrintDataAlsoWhenItIsCancelled) {
-    PageSetupData->GetPrintData().SetOrientation(wxLANDSCAPE);
-    ASSERT_EQ(PrintData->GetOrientation(), wxPORTRAIT);
-    SetUpPage(wxID_CANCEL, [](Robot& robot, wxGenericPageSetupDialog* dialog) {
-        TypeMargin(robot, dialog->m_marginLeftText, "40");
-    });
-    EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE);
-    EXPECT_EQ(PageSetupData->GetPrintData().GetOrientation(), wxLANDSCAPE);
-    EXPECT_EQ(PageSetupData->GetMarginTopLeft(), wxPoint(15, 15)) << "what was typed is gone";
-    PrintData->SetOrientation(wxPORTRAIT);
-    SetUpPage(wxID_OK);
-    EXPECT_EQ(PrintData->GetOrientation(), wxLANDSCAPE);
 }

@@ -46,6 +46,19 @@ private:
     std::string m_boxes;
 };
 
+inline constexpr const char* ChecksumText = "Checksum Error on channel #";
+inline constexpr const char* RejectedText = "Radio rejected channel #";
+
+/// A radio that misses the change of speed, and one whose protocol has none.
+inline const FaultEnding DeafToTheNewSpeed[] = {{.name = "deaf",
+                                                 .options = {"--fault", "deaf@#"},
+                                                 .status = "Timeout",
+                                                 .box = TimeoutText,
+                                                 .left = Left::None,
+                                                 .once = true}};
+inline const FaultEnding DeafWithoutANewSpeed[] = {
+    {.name = "deaf", .options = {"--fault", "deaf@#"}, .status = "Complete", .once = true}};
+
 /// Five memories are transferred. A radio that is written to already holds memory 9.
 class FaultMatrix : public TRecordDriverTest {
 protected:

@@ -6,9 +6,6 @@ using namespace transfertest;
 
 namespace {
 
-constexpr const char* ChecksumText = "Checksum Error on channel #";
-constexpr const char* RejectedText = "Radio rejected channel #";
-
 const FaultEnding KindsOfRead[] = {
     {"none", {}, "Complete"},
     // The program asks for the record again.
@@ -37,15 +34,6 @@ const FaultEnding KindsOfRead[] = {
     // An end record ends a read, whatever preceded it.
     {"end", {"--fault", "end@#"}, "Complete", "", Left::BeforeN},
 };
-const FaultEnding DeafToTheNewSpeed[] = {{.name = "deaf",
-                                          .options = {"--fault", "deaf@#"},
-                                          .status = "Timeout",
-                                          .box = TimeoutText,
-                                          .left = Left::None,
-                                          .once = true}};
-const FaultEnding DeafWithoutANewSpeed[] = {
-    {.name = "deaf", .options = {"--fault", "deaf@#"}, .status = "Complete", .once = true}};
-
 class FaultsOfARead : public FaultMatrix {
 protected:
     void Read(int protocol) {

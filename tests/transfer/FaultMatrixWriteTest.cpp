@@ -8,9 +8,6 @@ using namespace transfertest;
 
 namespace {
 
-constexpr const char* ChecksumText = "Checksum Error on channel #";
-constexpr const char* RejectedText = "Radio rejected channel #";
-
 const FaultEnding KindsOfWrite[] = {
     {"none", {}, "Complete"},
     // The program sends the record again, and the radio stores it twice.
@@ -43,15 +40,6 @@ const FaultEnding KindsOfWrite[] = {
      .portRemains = false},
     {"end", {"--fault", "end@#"}, "Communication Error", RejectedText, Left::BeforeN},
 };
-const FaultEnding DeafToTheNewSpeed[] = {{.name = "deaf",
-                                          .options = {"--fault", "deaf@#"},
-                                          .status = "Timeout",
-                                          .box = TimeoutText,
-                                          .left = Left::None,
-                                          .once = true}};
-const FaultEnding DeafWithoutANewSpeed[] = {
-    {.name = "deaf", .options = {"--fault", "deaf@#"}, .status = "Complete", .once = true}};
-
 class FaultsOfAWrite : public FaultMatrix {
 protected:
     void Write(int protocol) {

@@ -2,6 +2,7 @@
 #include "catalogue/MemoryRow.h"
 #include "tests/campaign/CampaignTools.h"
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -67,6 +68,19 @@ TEST_F(CampaignChecks, NoticeAMemoryThatNoOneSentInAnUnfinishedWrite) {
                             {{FaultKind::Silence, Side::ToProgram, 2}})
                   .substr(0, 19),
               "an unfinished write");
+}
+
+TEST_F(CampaignChecks, NoticeAMemoryThatIsNotOnThePageAfterAPurgeThatACleanWriteDoesNotDo) {
+    const std::vector<std::string> sentences =
+        Sentences(WriteToUnknownRadio(2),
+                  [](Outcome& outcome) {
+                      outcome.boxes.insert(outcome.boxes.begin(), "This radio's memories");
+                      outcome.world.radio.digital.memories[77].address = 77;
+                  },
+                  {{FaultKind::Silence, Side::ToProgram, 2}});
+    EXPECT_TRUE(std::any_of(sentences.begin(), sentences.end(), [](const std::string& sentence) {
+        return sentence.starts_with("an unfinished write") && sentence.ends_with(": 77");
+    }));
 }
 
 TEST_F(CampaignChecks, NoticeARowThatAWriteHasChanged) {

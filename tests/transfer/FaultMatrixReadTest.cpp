@@ -34,6 +34,7 @@ const FaultEnding KindsOfRead[] = {
     // An end record ends a read, whatever preceded it.
     {"end", {"--fault", "end@#"}, "Complete", "", Left::BeforeN},
 };
+
 class FaultsOfARead : public FaultMatrix {
 protected:
     void Read(int protocol) {

@@ -40,6 +40,7 @@ const FaultEnding KindsOfWrite[] = {
      .portRemains = false},
     {"end", {"--fault", "end@#"}, "Communication Error", RejectedText, Left::BeforeN},
 };
+
 class FaultsOfAWrite : public FaultMatrix {
 protected:
     void Write(int protocol) {

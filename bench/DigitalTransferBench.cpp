@@ -56,11 +56,13 @@ constexpr int ReadCharacters = Records * (Message + MemoryLine) + Message + EndL
 // Times that the dialogue prescribes, in seconds.
 constexpr double SlowCharacter = 10.0 / 9600, FastCharacter = 10.0 / 115200;
 constexpr double SpeedDelay = 0.050, ClosingDelay = 1.0;
+constexpr double HelloDelay = 0.020;  // behind each of the two hellos that are refused
+constexpr double LateAnswers = 0.060; // a write listens for them
 
 /// Each side waits for the other's line, so the wire carries one character at a time. The end line of a write
 /// is sent within the closing delay.
 constexpr double FloorOf(int memoryCharacters) {
-    return SlowCharacters * SlowCharacter + SpeedDelay +
+    return SlowCharacters * SlowCharacter + 2 * HelloDelay + SpeedDelay +
            (QuestionCharacters + OpeningCharacters + memoryCharacters) * FastCharacter + ClosingDelay;
 }
 
@@ -121,7 +123,7 @@ void Run(benchmark::State& state, Conditions conditions, bool read) {
 } // namespace
 
 void RegisterDigitalTransfer() {
-    RegisterTransfer("digital-write", FloorOf(WriteCharacters),
+    RegisterTransfer("digital-write", FloorOf(WriteCharacters) + LateAnswers,
                      [](benchmark::State& state, Conditions conditions) { Run(state, conditions, false); });
     RegisterTransfer("digital-read", FloorOf(ReadCharacters),
                      [](benchmark::State& state, Conditions conditions) { Run(state, conditions, true); });

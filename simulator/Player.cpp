@@ -12,6 +12,10 @@ namespace {
 
 constexpr size_t ReadSize = 512;
 
+/// At line speed the radio gets up this much early and spends the rest on the clock: waking up takes about
+/// that long, as long as a byte at 115200 baud.
+constexpr std::chrono::microseconds WakeUp{100};
+
 // A port that doesn't see closes counts as closed after so much silence: after a dialogue, and in one. The
 // program may be held up in a dialogue while its user moves the window.
 constexpr std::chrono::seconds QuietAfterDialogue{1};
@@ -53,7 +57,14 @@ void Player::Wait(const Requests& requests) {
         AtLatest(m_hearing.NextDue(Baud(), m_heard.size()));
     if (const auto end = QuietEnd())
         AtLatest(*end);
-    m_port.Wait({.input = m_heard.empty(), .room = !m_pending.empty()}, due, requests);
+    const Port::Wanted wanted{.input = m_heard.empty(), .room = !m_pending.empty()};
+    if (!m_pace || !due)
+        return m_port.Wait(wanted, due, requests);
+    m_port.Wait(wanted, *due - WakeUp, requests);
+    if (Clock::now() < *due - WakeUp)
+        return; // something else ended the wait
+    while (Clock::now() < *due) {
+    }
 }
 
 void Player::TakeRequests(Requests& requests) {

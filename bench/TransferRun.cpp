@@ -2,6 +2,7 @@
 
 #include "bench/PacedRadio.h"
 #include "robot/Process.h"
+#include "robot/Pump.h"
 #include "transfer/TransferClock.h"
 
 #include <sys/prctl.h>
@@ -30,7 +31,7 @@ public:
     void AwaitDrawing(const std::function<bool()>& isDrawn, Moment end) override {
         SystemClock().AwaitDrawing(isDrawn, end);
     }
-    void WaitForText(Moment /*end*/) override {}
+    void WaitForText(Moment /*end*/, wxChar /*lineEnd*/) override {}
     void SleepUntil(Moment end) override {
         while (Now() < end) {
         }
@@ -80,6 +81,8 @@ void ReportReplies(benchmark::State& state, std::vector<double> times, int count
 void MeasureTransfer(benchmark::State& state, const PacedRadio& radio, Conditions conditions, int replies,
                      const std::function<int(TransferClock&)>& transfer) {
     constexpr int complete = 1;
+    // A new page would be drawn within the transfer.
+    testbench::PumpUntilIdle();
     SpinningClock spinning;
     std::list<BusyCores> load;
     if (conditions == Conditions::BusyCores)

@@ -216,7 +216,7 @@ void CableClock::HandleEvents() {
         *std::exchange(m_cancelled, nullptr) = true;
 }
 
-void CableClock::WaitForText(Moment end) {
+void CableClock::WaitForText(Moment end, wxChar /*lineEnd*/) {
     // Each byte that arrives ends a wait: a transfer of all rows takes some ten thousand.
     constexpr int most = 2'000'000;
     if (++m_waits > most)

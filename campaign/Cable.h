@@ -141,7 +141,7 @@ public:
     wxDateTime Date() const override;
     void HandleEvents() override;
     /// Throws Endless if there were more waits than any transfer needs.
-    void WaitForText(Moment end) override;
+    void WaitForText(Moment end, wxChar lineEnd) override;
     void SleepUntil(Moment end) override { m_time.AdvanceTo(end); }
 
 private:

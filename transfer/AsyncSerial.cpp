@@ -4,6 +4,7 @@
 #include "transfer/PortLines.h"
 #include "transfer/PortLock.h"
 #include "transfer/PromptThread.h"
+#include "transfer/PromptWrite.h"
 
 #include <boost/asio/buffer.hpp>
 #include <boost/asio/io_context.hpp>
@@ -152,7 +153,13 @@ void AsyncSerial::write(const char* data, size_t size) {
         return;
     {
         const std::lock_guard lock(m_impl->writeQueueMutex);
-        m_impl->writeQueue.insert(m_impl->writeQueue.end(), data, data + size);
+        // Waking the port's thread would delay the first byte.
+        size_t written = 0;
+        if (m_impl->writeQueue.empty() && !m_impl->writeBuffer)
+            written = writeAtOnce(data, size);
+        if (written == size)
+            return;
+        m_impl->writeQueue.insert(m_impl->writeQueue.end(), data + written, data + size);
     }
     boost::asio::post(m_impl->io, [this] { doWrite(); });
 }
@@ -200,6 +207,11 @@ void AsyncSerial::readEnd(const boost::system::error_code& error, size_t bytesTr
             m_impl->callback(m_impl->readBuffer.data(), bytesTransferred);
     }
     doRead();
+}
+
+size_t AsyncSerial::writeAtOnce(const char* data, size_t size) {
+    const std::lock_guard lock(m_impl->portMutex);
+    return m_impl->port.is_open() ? WritePromptly(m_impl->port.native_handle(), data, size) : 0;
 }
 
 void AsyncSerial::doWrite() {

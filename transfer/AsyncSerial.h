@@ -102,6 +102,7 @@ private:
     // Completion handlers, run on the port's thread.
     void doRead();
     void readEnd(const boost::system::error_code& error, size_t bytesTransferred);
+    size_t writeAtOnce(const char* data, size_t size);
     void doWrite();
     void startWrite();
     void writeEnd(const boost::system::error_code& error);

@@ -20,12 +20,16 @@ namespace {
 constexpr int Border = 5;
 constexpr int GaugeRange = 100;
 constexpr int GaugeStart = 10;
+/// Time between two drawings, that between two pulses. The toolkit moves a pulsing gauge 60 times a
+/// second, which would take as much processor time as the rest of a transfer.
+constexpr std::chrono::milliseconds FrameInterval{50};
+
 constexpr const char* WidestStatus = "Sending Shadow Memory Data....";
 
 /// Limits for the drawing of a new window, which the window manager has to place, and of a text. A window
 /// that nobody can see may never be drawn.
 constexpr std::chrono::milliseconds WindowLimit{1000};
-constexpr std::chrono::milliseconds TextLimit{100};
+constexpr std::chrono::milliseconds StatusLimit{100};
 
 wxGauge* MakeGauge(wxWindow* parent, const wxString& name) {
     auto* gauge =
@@ -62,6 +66,7 @@ ProgressFrame::ProgressFrame(wxWindow* parent, wxWindowID id, const wxString& ti
     else
         persistence.RegisterAndRestore(this);
 
+    m_frameRate = std::make_unique<FrameRate>(*this, FrameInterval);
     m_cancelButton->Bind(wxEVT_BUTTON, &ProgressFrame::OnCancel, this);
     Bind(wxEVT_CHAR_HOOK, &ProgressFrame::OnKey, this);
     Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
@@ -80,6 +85,7 @@ ProgressFrame::~ProgressFrame() {
     Unbind(wxEVT_CLOSE_WINDOW, &ProgressFrame::OnCloseRequest, this);
     m_cancelButton->Unbind(wxEVT_BUTTON, &ProgressFrame::OnCancel, this);
     m_disabler.reset();
+    m_frameRate.reset();
 }
 
 void ProgressFrame::FollowParent() {
@@ -114,12 +120,8 @@ void ProgressFrame::CreateControls() {
 void ProgressFrame::AwaitDrawing() {
     m_isDrawn = false;
     Refresh();
-    Draw(WindowLimit);
-}
-
-void ProgressFrame::Draw(std::chrono::milliseconds limit) {
     TransferClock& clock = CurrentTransferSystem().Clock();
-    clock.AwaitDrawing([this] { return m_isDrawn; }, clock.Now() + limit);
+    clock.AwaitDrawing([this] { return m_isDrawn; }, clock.Now() + WindowLimit);
 }
 
 void ProgressFrame::SetStatus(const wxString& text) {
@@ -128,9 +130,14 @@ void ProgressFrame::SetStatus(const wxString& text) {
         return;
     m_status = text;
     m_isDrawn = false;
+    m_statusLimit = CurrentTransferSystem().Clock().Now() + StatusLimit;
     m_label->SetLabelText(m_status);
-    if (IsShown())
-        Draw(TextLimit);
+}
+
+void ProgressFrame::DrawStatus(TransferClock::Moment end) {
+    if (!m_isDrawn && IsShown())
+        CurrentTransferSystem().Clock().AwaitDrawing([this] { return m_isDrawn; },
+                                                     std::min(end, m_statusLimit));
 }
 
 void ProgressFrame::AppendStatus(const wxString& text) {

@@ -1,13 +1,13 @@
 // Window that shows the progress of a transfer and has its Cancel button.
 #pragma once
 
+#include "transfer/FrameRate.h"
 #include "transfer/TransferProgress.h"
 
 #include <wx/frame.h>
 #include <wx/utils.h>
 #include <wx/weakref.h>
 
-#include <chrono>
 #include <memory>
 
 class wxButton;
@@ -33,8 +33,7 @@ public:
     /// Waits until the shown window is drawn, for a second at most.
     void AwaitDrawing();
 
-    /// Shows a text above the gauges. In a shown window it is drawn when this returns: many texts are
-    /// followed by a pause in which nothing is drawn.
+    /// Shows a text above the gauges. It is drawn with the next events, or by DrawStatus.
     void SetStatus(const wxString& text) override;
 
     /// Appends to the text shown.
@@ -50,12 +49,12 @@ public:
     int Range() const override;
     void SetValue(int rows) override;
     void Pulse() override;
+    void DrawStatus(TransferClock::Moment end) override;
     wxWindow* Window() override { return this; }
 
 private:
     void CreateControls();
     void FollowParent();
-    void Draw(std::chrono::milliseconds limit);
     void OnCancel(wxCommandEvent& event);
     void OnKey(wxKeyEvent& event);
     void OnMainActivated(wxActivateEvent& event);
@@ -68,6 +67,9 @@ private:
     /// Has the keyboard until the user moves it to a control. No one sees it.
     wxWindow* m_keyHolder = nullptr;
     bool m_isDrawn = false;
+    /// When DrawStatus gives up.
+    TransferClock::Moment m_statusLimit{};
+    std::unique_ptr<FrameRate> m_frameRate;
     /// The window of the parent.
     wxWeakRef<wxTopLevelWindow> m_main;
     std::unique_ptr<wxWindowDisabler> m_disabler;

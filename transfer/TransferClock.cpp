@@ -38,8 +38,8 @@ public:
         }
     }
 
-    void WaitForText(Moment end) override {
-        m_textCame = wxAsyncSerial::WaitForData(std::min(end, m_nextEvents));
+    void WaitForText(Moment end, wxChar lineEnd) override {
+        m_textCame = wxAsyncSerial::WaitForData(std::min(end, m_nextEvents), lineEnd);
         if (!m_textCame)
             m_nextEvents = Now() + EventInterval; // the caller handles them next
     }

@@ -25,13 +25,14 @@ public:
     /// Draws windows, without handling user input, until `isDrawn` or `end`. Does nothing in virtual time.
     virtual void AwaitDrawing(const std::function<bool()>& /*isDrawn*/, Moment /*end*/) {}
 
-    /// Waits until text has arrived or until `end`. May return early, so that the caller can handle events.
-    virtual void WaitForText(Moment end) = 0;
+    /// Waits until text with the character `lineEnd` has arrived or until `end`. May return early, so that
+    /// the caller can handle events.
+    virtual void WaitForText(Moment end, wxChar lineEnd) = 0;
 
     /// Waits until `end` without handling events.
     virtual void SleepUntil(Moment end) = 0;
 };
 
 /// The system's clock. Its waits leave the processor to others; WaitForText returns at least every 5 ms, and
-/// at once when the port's thread delivers text.
+/// at once when the port's thread delivers the end of a line.
 TransferClock& SystemClock();

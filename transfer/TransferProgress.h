@@ -1,6 +1,8 @@
 // What a transfer shows while it runs.
 #pragma once
 
+#include "transfer/TransferClock.h"
+
 class wxString;
 class wxWindow;
 
@@ -24,6 +26,9 @@ public:
 
     /// Moves the gauge that shows that the transfer waits.
     virtual void Pulse() = 0;
+
+    /// Draws a new text, until `end` at most. For pauses, in which no events are handled.
+    virtual void DrawStatus(TransferClock::Moment /*end*/) {}
 
     /// Parent of the transfer's message boxes; null for none.
     virtual wxWindow* Window() = 0;

@@ -54,7 +54,8 @@ TransferStatus WaitForLine(TransferContext& context, int timeoutMs, wxChar termi
         if (context.FoundAt != wxNOT_FOUND)
             return TransferOk;
         context.Clock->WaitForText(
-            start + milliseconds(std::min<int64_t>(timeoutMs, context.LastPulse + PulseInterval)));
+            start + milliseconds(std::min<int64_t>(timeoutMs, context.LastPulse + PulseInterval)),
+            terminator);
     }
 }
 
@@ -63,7 +64,9 @@ void Delay(TransferContext& context, int ms, bool cancelTest) {
         return;
     const TransferClock::Moment start = StartTimer(context);
     // No events are handled here, so the user can't cancel during the delay.
-    if (!cancelTest || !context.Progress->Cancelled)
+    if (!cancelTest || !context.Progress->Cancelled) {
+        context.Progress->DrawStatus(start + milliseconds(ms));
         context.Clock->SleepUntil(start + milliseconds(ms));
+    }
     ReadTimer(context, start);
 }

@@ -6,6 +6,7 @@
 #include <boost/system/system_error.hpp>
 #include <wx/strconv.h>
 
+#include <algorithm>
 #include <condition_variable>
 #include <mutex>
 #include <string>
@@ -20,13 +21,20 @@ struct wxAsyncSerialImpl {
 
 namespace {
 
-// Both for WaitForData. The mutex may be held while SerialRxMutex is taken, never the other way round.
+// All for WaitForData. The mutex may be held while SerialRxMutex is taken, never the other way round.
 std::mutex arrivalMutex;
 std::condition_variable arrival;
+wxChar awaited = 0;
 
-bool HasData() {
+bool IsAwaited(unsigned character) {
+    constexpr unsigned withoutParity = 0x7F;
+    return (character & withoutParity) == static_cast<unsigned>(awaited);
+}
+
+bool HasAwaited() {
     const wxMutexLocker lock(SerialRxMutex);
-    return !SerialRxBuffer.empty();
+    return std::any_of(SerialRxBuffer.begin(), SerialRxBuffer.end(),
+                       [](wxUniChar character) { return IsAwaited(character.GetValue()); });
 }
 
 std::string LibcBytes(const wxString& text) {
@@ -104,9 +112,10 @@ wxString wxAsyncSerial::GetData() {
     return data;
 }
 
-bool wxAsyncSerial::WaitForData(std::chrono::steady_clock::time_point end) {
+bool wxAsyncSerial::WaitForData(std::chrono::steady_clock::time_point end, wxChar lineEnd) {
     std::unique_lock lock(arrivalMutex);
-    return arrival.wait_until(lock, end, HasData);
+    awaited = lineEnd;
+    return arrival.wait_until(lock, end, HasAwaited);
 }
 
 void wxAsyncSerial::readCallback(const char* data, size_t length) {
@@ -116,5 +125,7 @@ void wxAsyncSerial::readCallback(const char* data, size_t length) {
     }
     // The lock keeps the notification from falling between a waiting thread's look and its sleep.
     const std::lock_guard lock(arrivalMutex);
-    arrival.notify_all();
+    if (std::any_of(data, data + length,
+                    [](char character) { return IsAwaited(static_cast<unsigned char>(character)); }))
+        arrival.notify_all();
 }

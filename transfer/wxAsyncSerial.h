@@ -69,9 +69,10 @@ public:
     /// Returns the text received since the last call, empty if there is none. Never waits for data.
     static wxString GetData();
 
-    /// Waits until there is text to take, or until `end`. The port's thread ends the wait as soon as it has
-    /// delivered text. Returns true if there is some.
-    static bool WaitForData(std::chrono::steady_clock::time_point end);
+    /// Waits until there is text to take with the character `lineEnd`, or until `end`. A byte is compared
+    /// without its highest bit, which a radio may use for parity. The port's thread ends the wait as soon as
+    /// it has delivered the character, not at each piece of a line. Returns true if it has come.
+    static bool WaitForData(std::chrono::steady_clock::time_point end, wxChar lineEnd);
 
 private:
     void readCallback(const char* data, size_t length);

@@ -177,10 +177,10 @@ TEST_F(CableTest, ClockWaitsForTextUntilItArrivesOrTheTimeIsUp) {
     Plug();
     CableClock clock(m_time, *m_cable);
     m_time.At(Moment{} + milliseconds(30), [this] { m_cable->TakeFromRadio("A"); });
-    clock.WaitForText(Moment{} + milliseconds(100));
+    clock.WaitForText(Moment{} + milliseconds(100), '\r');
     EXPECT_EQ(m_time.Milliseconds(), 30);
     EXPECT_EQ(m_port->takeReceived(), "A");
-    clock.WaitForText(Moment{} + milliseconds(100));
+    clock.WaitForText(Moment{} + milliseconds(100), '\r');
     EXPECT_EQ(m_time.Milliseconds(), 100);
 }
 
@@ -189,7 +189,7 @@ TEST_F(CableTest, ClockEndsAWaitWhenTheUserCancels) {
     CableClock clock(m_time, *m_cable);
     bool cancelled = false;
     m_time.At(Moment{} + milliseconds(30), [&] { clock.PressCancel(cancelled); });
-    clock.WaitForText(Moment{} + milliseconds(100));
+    clock.WaitForText(Moment{} + milliseconds(100), '\r');
     EXPECT_EQ(m_time.Milliseconds(), 30);
     EXPECT_FALSE(cancelled) << "the program handles no events while it waits";
     clock.HandleEvents();

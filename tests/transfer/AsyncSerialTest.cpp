@@ -145,6 +145,24 @@ TEST(AsyncSerialWrite, TwoInQuickSuccessionArriveInOrder) {
     EXPECT_EQ(device.ReadUntil('\r'), "first second\r");
 }
 
+TEST(AsyncSerialWrite, DoesNotWaitForThePortsThread) {
+    PseudoTerminal device;
+    CallbackAsyncSerial port;
+    std::promise<void> reading, end;
+    auto ended = end.get_future();
+    port.setCallback([&](const char*, size_t) {
+        reading.set_value();
+        ended.wait();
+    });
+    port.open(device.SlaveName(), 9600);
+    ASSERT_TRUE(device.Write("A"));
+    reading.get_future().wait();
+    port.writeString("while the thread is busy");
+    EXPECT_EQ(device.Read(24), "while the thread is busy");
+    end.set_value();
+    port.close();
+}
+
 TEST(AsyncSerialWrite, ThatComesWhileOneIsInProgressFollowsIt) {
     PseudoTerminal device;
     CallbackAsyncSerial port;

@@ -19,6 +19,7 @@
 #include <wx/statline.h>
 #include <wx/stattext.h>
 
+#include <chrono>
 #include <memory>
 
 using namespace testbench;
@@ -294,19 +295,41 @@ TEST_F(ProgressOverWindow, IsDrawnBeforeAnythingWaits) {
     EXPECT_TRUE(first == Seen(area)) << "it was drawn only by later events";
 }
 
-TEST_F(ProgressOverWindow, DrawsEachStatusWhenItIsSet) {
+TEST_F(ProgressOverWindow, DrawsEachStatusInThePauseBehindIt) {
     ProgressFrame& frame = ShowFrame();
     PumpFor(300);
     const wxRect area(frame.ClientToScreen(wxPoint(0, 0)), frame.GetClientSize());
     std::string before = Seen(area);
     for (const char* text : {"Initializing....", "Sending Memory Data....", "Transfer Complete."}) {
         frame.SetStatus(text);
+        frame.DrawStatus(SystemClock().Now() + std::chrono::seconds(1));
         const std::string now = Seen(area);
         EXPECT_TRUE(now != before) << text << ": not drawn";
         PumpFor(100);
         EXPECT_TRUE(now == Seen(area)) << text << ": not all of it was drawn";
         before = now;
     }
+}
+
+TEST_F(ProgressFrameTest, IsDrawnOncePerPulseAtMost) {
+    using Clock = std::chrono::steady_clock;
+    ProgressFrame& frame = MakeFrame();
+    ShowAndFocus(frame);
+    int drawings = 0;
+    frame.Bind(wxEVT_PAINT, [&](wxPaintEvent& event) {
+        ++drawings;
+        event.Skip();
+    });
+    const auto begin = Clock::now();
+    for (int row = 0; row < 100; ++row) {
+        frame.SetValue(row);
+        frame.Pulse();
+        PumpFor(10);
+    }
+    EXPECT_GT(drawings, 2);
+    EXPECT_LE(drawings, (Clock::now() - begin) / std::chrono::milliseconds(50) + 2);
+    const int before = drawings;
+    EXPECT_TRUE(PumpUntil([&] { return drawings > before; })) << "what changed last isn't drawn";
 }
 
 TEST_F(ProgressFrameTest, HasTheIconOfItsParentsWindow) {

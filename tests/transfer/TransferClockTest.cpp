@@ -50,7 +50,7 @@ TEST_F(SystemClockWait, ForDataEndsWhenThePortsThreadDeliversSome) {
     });
     // Without the wake-up this takes a minute.
     const auto end = Steady::now() + seconds(60);
-    wxAsyncSerial::WaitForData(end);
+    wxAsyncSerial::WaitForData(end, 'A');
     EXPECT_LT(Steady::now(), end);
     radio.join();
     EXPECT_EQ(wxAsyncSerial::GetData(), "A");
@@ -62,20 +62,43 @@ TEST_F(SystemClockWait, ForDataEndsAtOnceWhenSomeIsThere) {
         SerialRxBuffer += "A";
     }
     const auto end = Steady::now() + seconds(60);
-    wxAsyncSerial::WaitForData(end);
+    wxAsyncSerial::WaitForData(end, 'A');
     EXPECT_LT(Steady::now(), end);
     wxAsyncSerial::GetData();
 }
 
+TEST_F(SystemClockWait, ForDataGoesOnUntilTheEndOfTheLine) {
+    std::thread radio([this] {
+        m_device.Write("T204");
+        std::this_thread::sleep_for(milliseconds(50));
+        m_device.Write("000000D2\r");
+    });
+    EXPECT_TRUE(wxAsyncSerial::WaitForData(Steady::now() + seconds(60), '\r'));
+    EXPECT_EQ(wxAsyncSerial::GetData(), "T204000000D2\r");
+    radio.join();
+}
+
+TEST_F(SystemClockWait, ForDataEndsAtALineEndWithItsHighestBitSet) {
+    ASSERT_TRUE(m_device.Write("\x8D"));
+    EXPECT_TRUE(wxAsyncSerial::WaitForData(Steady::now() + seconds(60), '\r'));
+}
+
+TEST_F(SystemClockWait, ForDataIsNotEndedByOtherText) {
+    ASSERT_TRUE(m_device.Write("T204"));
+    const auto end = Steady::now() + milliseconds(30);
+    EXPECT_FALSE(wxAsyncSerial::WaitForData(end, '\r'));
+    EXPECT_GE(Steady::now(), end);
+}
+
 TEST_F(SystemClockWait, ForDataEndsWhenTheTimeIsUp) {
     const auto end = Steady::now() + milliseconds(30);
-    wxAsyncSerial::WaitForData(end);
+    wxAsyncSerial::WaitForData(end, 'A');
     EXPECT_GE(Steady::now(), end);
 }
 
 TEST_F(SystemClockWait, ForTextEndsEarlyForTheEventsOfTheWindow) {
     const auto end = Steady::now() + seconds(60);
-    SystemClock().WaitForText(end);
+    SystemClock().WaitForText(end, 'A');
     EXPECT_LT(Steady::now(), end);
 }
 
@@ -83,7 +106,7 @@ TEST_F(SystemClockWait, LeavesTheProcessorToOthers) {
     const auto before = ProcessorTime();
     const auto end = Steady::now() + milliseconds(500);
     while (Steady::now() < end)
-        SystemClock().WaitForText(end);
+        SystemClock().WaitForText(end, 'A');
     // Spinning would have taken all of it.
     EXPECT_LT(ProcessorTime() - before, milliseconds(100));
 }
@@ -105,7 +128,7 @@ protected:
             const wxMutexLocker lock(SerialRxMutex);
             SerialRxBuffer += "A";
         }
-        SystemClock().WaitForText(Steady::now() + seconds(60));
+        SystemClock().WaitForText(Steady::now() + seconds(60), 'A');
         SystemClock().HandleEvents();
         wxAsyncSerial::GetData();
     }
@@ -143,7 +166,7 @@ TEST_F(SystemClockEvents, AreHandledWhenAWaitBegins) {
 TEST_F(SystemClockEvents, AreHandledAfterAWaitWithoutText) {
     SystemClock().HandleEvents();
     const int before = m_loop.passes;
-    SystemClock().WaitForText(Steady::now());
+    SystemClock().WaitForText(Steady::now(), 'A');
     SystemClock().HandleEvents();
     EXPECT_EQ(m_loop.passes, before + 1);
 }

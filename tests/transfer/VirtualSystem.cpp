@@ -68,7 +68,7 @@ public:
         return m_start + wxTimeSpan::Milliseconds(m_system.m_time.Milliseconds());
     }
     void HandleEvents() override { ::SystemClock().HandleEvents(); }
-    void WaitForText(Moment end) override {
+    void WaitForText(Moment end, wxChar /*lineEnd*/) override {
         const auto hasText = [&] { return m_system.m_opened && !m_system.m_opened->toProgram.empty(); };
         while (!hasText())
             if (!m_system.m_time.RunNext(end)) {

@@ -65,7 +65,8 @@ void Delay(TransferContext& context, int ms, bool cancelTest) {
     const TransferClock::Moment start = StartTimer(context);
     // No events are handled here, so the user can't cancel during the delay.
     if (!cancelTest || !context.Progress->Cancelled) {
-        context.Progress->DrawStatus(start + milliseconds(ms));
+        if (context.Progress)
+            context.Progress->DrawStatus(start + milliseconds(ms));
         context.Clock->SleepUntil(start + milliseconds(ms));
     }
     ReadTimer(context, start);

@@ -110,6 +110,17 @@ bool Sends(const Outcome& outcome, const std::string& start) {
                        [&](const std::string& line) { return line.starts_with(start); });
 }
 
+/// True if the program sent a record of this memory.
+bool HasSent(const Outcome& outcome, const Simulator::DigitalMemory& memory) {
+    const auto holds = [&](const std::string& line, Simulator::Layout layout) {
+        const auto sent = Simulator::ParseMemory(layout, line, *outcome.world.radio.digitalModel);
+        return sent && *sent == memory;
+    };
+    return std::any_of(outcome.sent.begin(), outcome.sent.end(), [&](const std::string& line) {
+        return holds(line, Simulator::Layout::V1) || holds(line, Simulator::Layout::V2);
+    });
+}
+
 /// How often the last line before the end of the transfer was sent.
 int64_t TimesOfLastLine(const Outcome& outcome) {
     std::vector<std::string> lines = outcome.sent;
@@ -337,7 +348,7 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
             // A purge that the clean transfer doesn't do sends rows that the clean one leaves as the radio
             // has them.
             std::erase_if(strangers, [&](const auto& memory) {
-                return asksMore && before.program.rows.contains(memory.first);
+                return asksMore && HasSent(faulty, radio.digital.memories.at(memory.first));
             });
             judge.Expect(strangers.empty(),
                          "an unfinished write, but these memories of the radio are neither "

@@ -83,6 +83,24 @@ TEST_F(CampaignChecks, NoticeAMemoryThatIsNotOnThePageAfterAPurgeThatACleanWrite
     }));
 }
 
+TEST_F(CampaignChecks, NoticeAMemoryOfThePageThatWasNotSentAfterAPurgeThatACleanWriteDoesNotDo) {
+    int number = 0;
+    const std::vector<std::string> sentences =
+        Sentences(WriteToUnknownRadio(2),
+                  [&](Outcome& outcome) {
+                      outcome.boxes.insert(outcome.boxes.begin(), "This radio's memories");
+                      number = outcome.world.program.rows.rbegin()->first;
+                      auto& memory = outcome.world.radio.digital.memories[number];
+                      memory.address = number;
+                      memory.description = "NOT SENT";
+                  },
+                  {{FaultKind::Silence, Side::ToProgram, 2}});
+    EXPECT_TRUE(std::any_of(sentences.begin(), sentences.end(), [&](const std::string& sentence) {
+        return sentence.starts_with("an unfinished write") &&
+               sentence.ends_with(": " + std::to_string(number));
+    }));
+}
+
 TEST_F(CampaignChecks, NoticeARowThatAWriteHasChanged) {
     EXPECT_EQ(
         FirstSentence(WriteToUnknownRadio(2),

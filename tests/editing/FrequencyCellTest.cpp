@@ -172,7 +172,7 @@ TEST_F(FrequencyCell, IsNotOpenedByAPeriod) {
 TEST_F(FrequencyCell, RefusesStartingKeysByTheSkipFlag) {
     InstallBoth(5, 5, 2500);
     const wxGridCellEditorPtr editor = EditorOf(5, RFRQ);
-    for (const wxChar key : {L'.', L'a', L'-', L' '}) {
+    for (const unsigned char key : {'.', 'a', '-', ' '}) {
         wxKeyEvent event(wxEVT_CHAR);
         event.m_keyCode = key;
         event.m_uniChar = key;

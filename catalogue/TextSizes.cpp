@@ -5,11 +5,13 @@
 #include "catalogue/RadioCatalogue.h"
 #include "catalogue/ScanBoxes.h"
 
+#include <wx/dcclient.h>
 #include <wx/grid.h>
 
 #include <algorithm>
 #include <initializer_list>
 #include <span>
+#include <unordered_map>
 
 using namespace RadioCatalogue;
 
@@ -21,49 +23,60 @@ constexpr int UsualLineHeight = 17;
 /// Pixels beside a text in its cell, at the usual height of a line: sum of both sides.
 constexpr int UsualMargin = 5;
 
-/// Measures texts in one font of a grid.
+/// Measures texts in one font of a grid. Many columns hold the same texts, and a measurement takes some 0.02
+/// ms.
 class Measure {
 public:
-    Measure(const wxGrid* grid, const wxFont& font) : m_grid(grid), m_font(font) {}
-
-    wxSize SizeOf(const wxString& text) const {
-        int width = 0, height = 0;
-        m_grid->GetTextExtent(text, &width, &height, nullptr, nullptr, &m_font);
-        return {width, height};
+    Measure(const wxGrid* grid, const wxFont& font) : m_paper(const_cast<wxGrid*>(grid)) {
+        m_paper.SetFont(font);
     }
 
-    int WidestOf(std::span<const char* const> texts) const {
+    wxSize SizeOf(const wxString& text) {
+        const auto [known, isNew] = m_sizes.try_emplace(text);
+        if (isNew)
+            known->second = m_paper.GetTextExtent(text);
+        return known->second;
+    }
+
+    int WidestOf(std::span<const char* const> texts) {
         int widest = 0;
         for (const char* text : texts)
             widest = std::max(widest, SizeOf(text).x);
         return widest;
     }
-    int WidestOf(std::initializer_list<const char*> texts) const {
+    int WidestOf(std::initializer_list<const char*> texts) {
         return WidestOf(std::span(texts.begin(), texts.size()));
     }
 
     /// Returns the width of a text of count characters, all of them the widest one from first to last.
-    int WidestRun(char first, char last, size_t count) const {
-        int widest = 0;
+    int WidestRun(char first, char last, size_t count) {
+        const auto widthOf = [this](char character, size_t times) {
+            return SizeOf(wxString(wxUniChar(character), times)).x;
+        };
+        int widestOne = 0, widest = 0;
         for (char character = first; character <= last; ++character)
-            widest = std::max(widest, SizeOf(wxString(wxUniChar(character), count)).x);
+            widestOne = std::max(widestOne, widthOf(character, 1));
+        // A width is rounded, so a run of a character that seems narrower by a pixel can be the wider one.
+        for (char character = first; character <= last; ++character)
+            if (widthOf(character, 1) >= widestOne - 1)
+                widest = std::max(widest, widthOf(character, count));
         return widest;
     }
 
 private:
-    const wxGrid* m_grid;
-    const wxFont m_font;
+    wxClientDC m_paper;
+    std::unordered_map<wxString, wxSize> m_sizes;
 };
 
-int Digits(const Measure& cells, size_t count) {
+int Digits(Measure& cells, size_t count) {
     return cells.WidestRun('0', '9', count);
 }
 
-int HexDigits(const Measure& cells, size_t count) {
+int HexDigits(Measure& cells, size_t count) {
     return std::max(Digits(cells, count), cells.WidestRun('A', 'F', count));
 }
 
-int ScanBoxes(const Measure& cells) {
+int ScanBoxes(Measure& cells) {
     const auto widthOf = [&cells](char32_t box) {
         const wxSize text = cells.SizeOf(wxString(wxUniChar(box), ScanBoxCount));
         return std::max(text.x, ScanBoxCount * ScanBoxWidth(text));
@@ -73,7 +86,7 @@ int ScanBoxes(const Measure& cells) {
 
 /// Returns the width of the widest text that a cell of the column can hold. A description can be anything;
 /// that of wide characters is the widest.
-int WidestText(const Measure& cells, int type, int col) {
+int WidestText(Measure& cells, int type, int col) {
     const bool shortTexts = IsP25Type(type) || type == KDAR;
     switch (col) {
     case MNUM:
@@ -129,7 +142,7 @@ struct Sizes {
 };
 
 Sizes MeasureSizes(const wxGrid* grid) {
-    const Measure cells(grid, grid->GetDefaultCellFont()), labels(grid, grid->GetLabelFont());
+    Measure cells(grid, grid->GetDefaultCellFont()), labels(grid, grid->GetLabelFont());
     Sizes sizes{grid->GetDefaultCellFont(), grid->GetLabelFont(), cells.SizeOf("W0")};
     const int line = std::max(sizes.sample.y, labels.SizeOf("W0").y);
     const int margin = std::max(line * UsualMargin / UsualLineHeight, UsualMargin);

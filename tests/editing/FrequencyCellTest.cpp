@@ -172,7 +172,7 @@ TEST_F(FrequencyCell, IsNotOpenedByAPeriod) {
 TEST_F(FrequencyCell, RefusesStartingKeysByTheSkipFlag) {
     InstallBoth(5, 5, 2500);
     const wxGridCellEditorPtr editor = EditorOf(5, RFRQ);
-    for (const unsigned char key : {'.', 'a', '-', ' '}) {
+    for (const int key : {'.', 'a', '-', ' '}) {
         wxKeyEvent event(wxEVT_CHAR);
         event.m_keyCode = key;
         event.m_uniChar = key;

@@ -172,13 +172,13 @@ TEST_F(FrequencyCell, IsNotOpenedByAPeriod) {
 TEST_F(FrequencyCell, RefusesStartingKeysByTheSkipFlag) {
     InstallBoth(5, 5, 2500);
     const wxGridCellEditorPtr editor = EditorOf(5, RFRQ);
-    for (const int key : {'.', 'a', '-', ' '}) {
+    for (const wxUniChar key : wxString(".a- ")) {
         wxKeyEvent event(wxEVT_CHAR);
-        event.m_keyCode = key;
-        event.m_uniChar = key;
+        event.m_uniChar = static_cast<wxChar>(key.GetValue());
+        event.m_keyCode = static_cast<long>(key.GetValue());
         event.Skip(true);
         editor->StartingKey(event);
-        EXPECT_FALSE(event.GetSkipped()) << static_cast<char>(key);
+        EXPECT_FALSE(event.GetSkipped()) << wxString(key);
     }
 }
 

@@ -38,10 +38,20 @@ size_t DescriptionLength(int type) {
     return type == ANFM || type == MDLX ? 9 : wxString::npos;
 }
 
+/// Windows has two halves for a character beyond U+FFFF, and Linux one character. Both are one blank.
+wxString WithoutSecondHalves(const wxString& text) {
+    wxString whole;
+    for (const wxUniChar c : text)
+        if (c.GetValue() < 0xDC00 || c.GetValue() > 0xDFFF)
+            whole += c;
+    return whole;
+}
+
 } // namespace
 
 wxString DescriptionText(const wxString& text, int type) {
-    wxString description = (type == ANFM ? text.Upper() : text).Left(DescriptionLength(type));
+    const wxString whole = WithoutSecondHalves(text);
+    wxString description = (type == ANFM ? whole.Upper() : whole).Left(DescriptionLength(type));
     for (wxUniCharRef c : description)
         if (!IsDescChar(c, type))
             c = ' ';

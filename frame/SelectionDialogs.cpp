@@ -41,9 +41,11 @@ SelectionDialog::SelectionDialog(wxWindow* parent, const wxString& title, const 
     Fit();
 
     Bind(wxEVT_UPDATE_UI, &SelectionDialog::OnUpdateOk, this, wxID_OK);
-    if (!choices.empty())
+    if (!choices.empty()) {
         Bind(wxEVT_ACTIVATE, &SelectionDialog::OnActivate, this);
-    else
+        // The buttons have given OK the keyboard. On Windows that activates the dialog before it is shown.
+        m_choice->SetFocus();
+    } else
         // An empty list takes no keyboard, and Escape would be lost. Return must not press Cancel.
         (new wxWindow(this, wxID_ANY, wxPoint(0, 0), wxSize(1, 1)))->SetFocus();
 }
@@ -58,8 +60,9 @@ bool SelectionDialog::TakeChoice() {
 
 void SelectionDialog::OnActivate(wxActivateEvent& event) {
     event.Skip();
-    // Not before: the list of a dialog that isn't on the screen takes no keyboard, and OK would have it.
-    if (event.GetActive() && !std::exchange(m_begun, true))
+    // On GTK the list of a dialog that isn't on the screen takes no keyboard, and OK would have it. On
+    // Windows the first event comes when the user leaves the dialog.
+    if (!std::exchange(m_begun, true) && event.GetActive())
         m_choice->SetFocus();
 }
 

@@ -1,8 +1,28 @@
 #include "frame/ToolKeys.h"
 
+#include <wx/event.h>
 #include <wx/toolbar.h>
 
-// The system's tool bar knows the keys; Ctrl+Tab of the window leaves it.
-void GiveKeyboardToTools(wxToolBar& tools, const std::function<void()>&) {
-    tools.SetFocus();
+#include <windows.h>
+
+namespace {
+
+std::function<void()> leaveTools;
+
+void OnToolKey(wxKeyEvent& event) {
+    const bool isTab = event.GetKeyCode() == WXK_TAB && (event.GetModifiers() & ~wxMOD_SHIFT) == wxMOD_NONE;
+    if (isTab || event.GetKeyCode() == WXK_ESCAPE)
+        leaveTools();
+    else
+        event.Skip();
+}
+
+} // namespace
+
+// The system's tool bar knows the other keys, but the toolkit gives it no keyboard.
+void GiveKeyboardToTools(wxToolBar& tools, const std::function<void()>& leave) {
+    leaveTools = leave;
+    tools.Unbind(wxEVT_CHAR_HOOK, OnToolKey);
+    tools.Bind(wxEVT_CHAR_HOOK, OnToolKey);
+    ::SetFocus(tools.GetHandle());
 }

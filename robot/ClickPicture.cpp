@@ -11,7 +11,7 @@ namespace testbench {
 bool ClickPicture(Hands& hands, const wxImage& picture, int ms) {
     std::optional<wxPoint> spot;
     const auto isShown = [&] {
-        spot = FindPicture(XDesk().Picture({}), picture);
+        spot = FindPicture(Desk().Picture({}), picture);
         return spot.has_value();
     };
     if (!PumpUntil(isShown, ms))

@@ -84,22 +84,21 @@ void Hands::Wheel(const wxPoint& screen, int steps) {
     }
 }
 
-XDesk::KeySpot Hands::KeyNamed(const std::string& name) const {
+Desk::KeySpot Hands::KeyNamed(const std::string& name) const {
     static const std::map<std::string, std::string> modifiers = {
         {"Ctrl", "Control_L"}, {"Alt", "Alt_L"}, {"Shift", "Shift_L"}, {"Super", "Super_L"}};
     const auto modifier = modifiers.find(name);
-    // The X key symbol of a printable ASCII character equals its code.
-    const XDesk::KeySpot key = name.size() == 1
-                                   ? m_desk.FindKey(static_cast<unsigned char>(name[0]))
-                                   : m_desk.FindKey(modifier == modifiers.end() ? name : modifier->second);
+    const Desk::KeySpot key = name.size() == 1
+                                  ? m_desk.FindKey(name[0])
+                                  : m_desk.FindKey(modifier == modifiers.end() ? name : modifier->second);
     if (key.code == 0) {
         throw std::runtime_error("the keyboard has no key \"" + name + "\"");
     }
     return key;
 }
 
-void Hands::Tap(const XDesk::KeySpot& key) {
-    const XDesk::KeySpot shift = KeyNamed("Shift");
+void Hands::Tap(const Desk::KeySpot& key) {
+    const Desk::KeySpot shift = KeyNamed("Shift");
     if (key.shift) {
         m_desk.Key(shift.code, true);
     }
@@ -112,7 +111,7 @@ void Hands::Tap(const XDesk::KeySpot& key) {
 }
 
 void Hands::Press(const std::string& chord) {
-    std::vector<XDesk::KeySpot> keys;
+    std::vector<Desk::KeySpot> keys;
     for (std::string part : Parts(chord)) {
         if (part.size() == 1 && !keys.empty()) {
             part[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(part[0])));

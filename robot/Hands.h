@@ -1,14 +1,14 @@
 // Keyboard and mouse input as from a person.
 #pragma once
 
-#include "robot/XDesk.h"
+#include "robot/Desk.h"
 
 #include <string>
 
 namespace testbench {
 
-/// Sends real key presses and clicks to the X display named by the environment, to windows of any program.
-/// Use from one thread at a time. Throws std::runtime_error if an action fails.
+/// Sends real key presses and clicks to windows of any program on the display. Use from one thread at a time.
+/// Throws std::runtime_error if an action fails.
 class Hands {
 public:
     /// `paceMs` is the pause after each key press, click and move, in milliseconds.
@@ -39,14 +39,14 @@ public:
     std::string FocusedTitle() const { return m_desk.FocusedTitle(); }
 
 protected:
-    const XDesk& Desk() const { return m_desk; }
+    const Desk& TheDesk() const { return m_desk; }
 
 private:
     void Rest() const;
-    void Tap(const XDesk::KeySpot& key);
-    XDesk::KeySpot KeyNamed(const std::string& name) const;
+    void Tap(const Desk::KeySpot& key);
+    Desk::KeySpot KeyNamed(const std::string& name) const;
 
-    XDesk m_desk;
+    Desk m_desk;
     int m_paceMs;
 };
 

@@ -1,6 +1,6 @@
 #include "robot/Pump.h"
 
-#include <wx/evtloop.h>
+#include "robot/PumpLoop.h"
 
 #include <chrono>
 
@@ -12,14 +12,13 @@ using Milliseconds = std::chrono::milliseconds;
 } // namespace
 
 bool PumpUntil(const std::function<bool()>& condition, int ms) {
-    wxGUIEventLoop loop;
-    wxEventLoopActivator activate(&loop);
+    PumpLoop loop;
     const auto deadline = Clock::now() + Milliseconds(ms);
     while (!condition()) {
         if (Clock::now() >= deadline) {
             return false;
         }
-        loop.DispatchTimeout(10);
+        loop.DispatchOne(10);
     }
     return true;
 }
@@ -30,13 +29,12 @@ void PumpFor(int ms) {
 
 void PumpUntilIdle() {
     // Shorter than an animation's frame time: a theme may show an animation all the time.
-    constexpr int nothingCame = -1, quietRounds = 3, roundMs = 5;
-    wxGUIEventLoop loop;
-    wxEventLoopActivator activate(&loop);
+    constexpr int quietRounds = 3, roundMs = 5;
+    PumpLoop loop;
     const auto deadline = Clock::now() + Milliseconds(500);
     // Count rounds, don't measure time: on a busy machine time passes without any look at the events.
     for (int quiet = 0; quiet < quietRounds && Clock::now() < deadline;) {
-        const bool nothing = loop.DispatchTimeout(roundMs) == nothingCame && !loop.Pending();
+        const bool nothing = !loop.DispatchOne(roundMs) && !loop.IsPending();
         quiet = nothing ? quiet + 1 : 0;
     }
 }

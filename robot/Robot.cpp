@@ -54,8 +54,8 @@ wxDialog* Robot::WaitForDialog(const std::string& caption, int ms) {
                 return false;
             }
             // The toolkit gives some dialogs no title; then accept any dialog.
-            const std::string focused = Desk().FocusedTitle();
-            if (focused == open.back().caption || (focused.empty() && Desk().FocusIsDialog())) {
+            const std::string focused = TheDesk().FocusedTitle();
+            if (focused == open.back().caption || (focused.empty() && TheDesk().FocusIsDialog())) {
                 found = open.back().dialog;
             }
             return found != nullptr;
@@ -71,7 +71,7 @@ bool Robot::WaitForNoDialog(int ms) {
 bool Robot::WaitForWindow(const std::string& title, int ms) {
     return Poll(
         [&] {
-            const std::string focused = Desk().FocusedTitle();
+            const std::string focused = TheDesk().FocusedTitle();
             return !focused.empty() && MatchesWhole(title, focused);
         },
         ms);
@@ -87,7 +87,7 @@ void Robot::Settle(int ms) {
 }
 
 void Robot::Screenshot(const std::filesystem::path& file, const wxRect& part) const {
-    wxImage picture = Desk().Picture(part);
+    wxImage picture = TheDesk().Picture(part);
     wxFFileOutputStream out(wxString::FromUTF8(file.string()));
     wxPNGHandler handler;
     if (!out.IsOk() || !handler.SaveFile(&picture, out, false) || !out.Close()) {

@@ -32,7 +32,7 @@ TempFolder::~TempFolder() {
 }
 
 std::string TempFolder::File(const std::string& entry) const {
-    const std::u8string text = (m_path / entry).u8string();
+    const std::u8string text = (*this / entry).u8string();
     return {text.begin(), text.end()};
 }
 

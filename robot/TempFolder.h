@@ -17,8 +17,10 @@ public:
 
     const std::filesystem::path& Path() const { return m_path; }
 
-    /// Full path of an entry of this folder, which need not exist.
-    std::filesystem::path operator/(const std::string& entry) const { return m_path / entry; }
+    /// Full path of an entry of this folder, which need not exist. `entry` is in UTF-8.
+    std::filesystem::path operator/(const std::string& entry) const {
+        return m_path / std::u8string(entry.begin(), entry.end());
+    }
 
     /// The same as text in UTF-8.
     std::string File(const std::string& entry) const;

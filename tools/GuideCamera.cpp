@@ -38,14 +38,14 @@ void Camera::Window(const std::string& name, int height) {
 void Camera::FocusedWindow(const std::string& name) {
     m_robot.Move(PointerRest);
     m_robot.Settle();
-    const wxRect area = XDesk().FocusedArea();
+    const wxRect area = Desk().FocusedArea();
     if (area.IsEmpty())
         throw std::runtime_error("no dialog for the picture " + name);
     Part(name, area);
 }
 
 void Camera::Part(const std::string& name, const wxRect& part) {
-    const wxImage picture = XDesk().Picture(part);
+    const wxImage picture = Desk().Picture(part);
     wxImage small;
     if (!wxQuantize::Quantize(picture, small, Colours))
         throw std::runtime_error("can't take the colours of " + name);

@@ -52,7 +52,7 @@ void TakeProgress(Tour::TourHand& hand, Camera& camera, const std::string& title
     hand.Need(hand.TheRobot().WaitForWindow(title, 20000), "no window " + title);
     // Long enough for the gauge to move.
     wxMilliSleep(4500);
-    camera.Part(picture, XDesk().FocusedArea());
+    camera.Part(picture, Desk().FocusedArea());
 }
 
 void TypeIntoCell(Robot& robot, int row, int column, const std::string& text, bool end = true) {

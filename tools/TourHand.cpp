@@ -48,7 +48,7 @@ void TourHand::ClickTool(ToolImage tool) {
     std::optional<wxPoint> spot;
     for (int tries = 0; tries < 50 && !spot; ++tries) {
         m_robot.Settle();
-        spot = FindPicture(XDesk().Picture({}), picture);
+        spot = FindPicture(Desk().Picture({}), picture);
     }
     Need(spot.has_value(), "a tool is not to be seen");
     m_robot.Click(*spot);

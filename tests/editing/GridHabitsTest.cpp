@@ -2,7 +2,7 @@
 #include "tests/editing/GridHabits.h"
 
 #include "robot/Hands.h"
-#include "robot/XDesk.h"
+#include "robot/Desk.h"
 #include "tests/support/RunWithRobot.h"
 
 #include <wx/clipbrd.h>
@@ -225,7 +225,7 @@ TEST_F(GridMouse, MenuKeyOpensTheRowMenuBelowTheCursor) {
             wxRect menu;
             ContextRow = 0;
             RunWithRobot([&](Robot& robot) {
-                XDesk desk;
+                Desk desk;
                 const wxImage before = desk.Picture({});
                 robot.Press(key);
                 ASSERT_TRUE(robot.WaitFor(MenuIsOpen)) << "no menu";

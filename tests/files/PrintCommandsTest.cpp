@@ -1,6 +1,6 @@
 // Printing and preview as a user works with them: by menu, mouse and keys, onto real sheets.
 #include "commands/CommandIds.h"
-#include "robot/XDesk.h"
+#include "robot/Desk.h"
 #include "tests/files/PdfText.h"
 #include "tests/files/PrintDialogs.h"
 #include "tests/files/PrintTest.h"
@@ -201,7 +201,7 @@ protected:
                     return child->GetScreenRect();
             return wxRect();
         });
-        return XDesk().Picture(canvas);
+        return Desk().Picture(canvas);
     }
 
     static bool AreSame(const wxImage& one, const wxImage& other) {
@@ -213,7 +213,7 @@ protected:
     /// The window's picture of the grid.
     static wxImage GridPicture() {
         PumpUntilIdle();
-        return XDesk().Picture(CurrentGrid()->GetScreenRect());
+        return Desk().Picture(CurrentGrid()->GetScreenRect());
     }
 
 private:

@@ -10,22 +10,9 @@
 #include <wx/app.h>
 #include <wx/button.h>
 #include <wx/grid.h>
-#include <wx/image.h>
 #include <wx/menu.h>
 
 namespace testbench {
-
-namespace {
-
-/// Registers the image handlers as the application does before it creates its window. Without them the tools
-/// have no images.
-class ImageHandlers : public ::testing::Environment {
-    void SetUp() override { wxInitAllImageHandlers(); }
-};
-
-const auto* const imageHandlers = ::testing::AddGlobalTestEnvironment(new ImageHandlers);
-
-} // namespace
 
 bool IsGone(const wxWindowRef& window) {
     return PumpUntil([&window] {

@@ -2,7 +2,7 @@
 #include "frame/StatusFields.h"
 
 #include "commands/StatusOutcome.h"
-#include "robot/XDesk.h"
+#include "robot/Desk.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
@@ -35,7 +35,7 @@ protected:
     }
 
     static std::string Seen(const wxRect& part) {
-        const wxImage picture = XDesk().Picture(part);
+        const wxImage picture = Desk().Picture(part);
         const auto* bytes = reinterpret_cast<const char*>(picture.GetData());
         return {bytes, static_cast<size_t>(picture.GetWidth() * picture.GetHeight() * 3)};
     }

@@ -3,8 +3,8 @@
 #include "catalogue/PageTable.h"
 #include "commands/CommandIds.h"
 #include "resources/ToolImages.h"
+#include "robot/Desk.h"
 #include "robot/DesktopLook.h"
-#include "robot/XDesk.h"
 #include "tests/files/Paper.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
@@ -91,7 +91,7 @@ protected:
 
     static wxImage Screen() {
         PumpFor(200);
-        return XDesk().Picture({});
+        return Desk().Picture({});
     }
 
     /// Expects that all texts of rows 0 to 6 that are in sight can be read.

@@ -2,9 +2,9 @@
 #include "commands/CommandIds.h"
 #include "frame/SelectionDialogs.h"
 #include "resources/ToolImages.h"
+#include "robot/Desk.h"
 #include "robot/OpenDialogs.h"
 #include "robot/PictureSpot.h"
-#include "robot/XDesk.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
@@ -32,7 +32,7 @@ protected:
     }
 
     static wxPoint SpotOf(ToolImage tool) {
-        const auto spot = FindPicture(XDesk().Picture({}), GetToolImage(tool));
+        const auto spot = FindPicture(Desk().Picture({}), GetToolImage(tool));
         EXPECT_TRUE(spot.has_value()) << static_cast<int>(tool);
         return spot.value_or(wxPoint());
     }
@@ -48,8 +48,8 @@ TEST_F(ToolsInUse, LookAfterTheirDialogAsBefore) {
         const wxPoint elsewhere(place.x + 300, place.y - 40);
         robot.Move(elsewhere);
         robot.Settle();
-        const wxImage before = XDesk().Picture(place);
-        const auto looksAsBefore = [&] { return AreSame(XDesk().Picture(place), before); };
+        const wxImage before = Desk().Picture(place);
+        const auto looksAsBefore = [&] { return AreSame(Desk().Picture(place), before); };
         for (const ToolImage tool : {ToolImage::Open, ToolImage::Upload, ToolImage::Port, ToolImage::Help}) {
             SCOPED_TRACE(static_cast<int>(tool));
             const wxPoint spot = SpotOf(tool);

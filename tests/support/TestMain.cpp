@@ -1,13 +1,13 @@
 // Main program of window tests, which run inside the toolkit's main loop.
-#include "robot/Files.h"
-#include "robot/Process.h"
 #include "robot/TempFolder.h"
 #include "tests/support/AssertsOff.h"
 #include "tests/support/Modals.h"
+#include "tests/support/TestSurroundings.h"
 #include "tests/support/Watchdog.h"
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
+#include <wx/image.h>
 #include <wx/init.h>
 #include <wx/log.h>
 #include <wx/stdpaths.h>
@@ -48,6 +48,8 @@ public:
 
     bool OnInit() override {
         delete wxLog::SetActiveTarget(new ErrorLog);
+        // As the application does before it creates its window. Without them the tools have no images.
+        wxInitAllImageHandlers();
         RecordAssertions();
         GuardDialogs();
         // A test may open and close any number of frames.
@@ -82,47 +84,21 @@ private:
     int m_result = EXIT_FAILURE;
 };
 
-/// Keeps the user's files out of the tests, and makes the tests the same on every machine.
-void SetEnvironment(const std::filesystem::path& home) {
-    const auto set = [](const char* name, const std::string& value) { setenv(name, value.c_str(), 1); };
-    set("HOME", home);
-    set("XDG_CONFIG_HOME", home / "config");
-    set("XDG_DATA_HOME", home / "data");
-    set("XDG_CACHE_HOME", home / "cache");
-    set("GSETTINGS_BACKEND", "memory");
-    set("GDK_BACKEND", "x11");
-    // The toolkit talks to screen readers only in tests that bring one, on a session bus of their own.
-    if (std::getenv("ZELK_TEST_READER") != nullptr) {
-        unsetenv("NO_AT_BRIDGE");
-    } else {
-        set("NO_AT_BRIDGE", "1");
-    }
-    set("LC_ALL", "C.UTF-8");
-    for (const char* folder : {"config/gtk-3.0", "data", "cache"}) {
-        std::filesystem::create_directories(home / folder);
-    }
-    // With any other print backend, a print job without a dialog never ends.
-    WriteFile(home / "config/gtk-3.0/settings.ini", "[Settings]\n"
-                                                    "gtk-print-backends=file\n"
-                                                    "gtk-enable-animations=0\n"
-                                                    "gtk-cursor-blink=0\n");
-}
-
 std::chrono::seconds TimeLimit() {
     const char* const seconds = std::getenv("ZELK_TEST_SECONDS");
     return std::chrono::seconds(seconds != nullptr ? std::atoi(seconds) : 100);
 }
 
 int RunInMainLoop(int argc, char** argv) {
-    if (std::getenv("DISPLAY") == nullptr) {
+    if (!HasDisplay()) {
         std::fputs("Window tests need an X display: run them under tests/support/with-display.\n", stderr);
         return EXIT_FAILURE;
     }
     TempFolder home("zelk-home");
-    SetEnvironment(home.Path());
+    KeepUsersFilesOut(home.Path());
     // The framework owns its listeners.
     testing::UnitTest::GetInstance()->listeners().Append(new Watchdog(TimeLimit(), [&home] {
-        Process::KillAll();
+        EndChildren();
         home.Remove();
     }));
     wxApp::SetInstance(new TestApp);

@@ -43,8 +43,8 @@ void Watchdog::Watch() {
             m_changed.wait_until(lock, m_started + m_limit);
             continue;
         }
-        std::fprintf(stderr, "\n%s takes longer than %lld s\n", m_test.c_str(),
-                     static_cast<long long>(m_limit.count()));
+        std::fprintf(stderr, "\n%s takes longer than %s s\n", m_test.c_str(),
+                     std::to_string(m_limit.count()).c_str());
         for (const DialogFacts& facts : OpenDialogs()) {
             std::fprintf(stderr, "open: %s\n", Describe(facts).c_str());
         }

@@ -1,9 +1,9 @@
 // Tests of the window that shows a transfer.
 #include "transfer/ProgressFrame.h"
 
+#include "robot/Desk.h"
 #include "robot/Pump.h"
 #include "robot/ScreenSpots.h"
-#include "robot/XDesk.h"
 #include "tests/support/Keys.h"
 #include "tests/transfer/WindowEnd.h"
 #include "transfer/ProgressDialog.h"
@@ -227,7 +227,7 @@ TEST_F(ProgressFrameTest, ACloseThatCannotBeRefusedLeavesTheWindowToItsTransfer)
 
 /// What a person sees in a rectangle of the screen.
 std::string Seen(const wxRect& part) {
-    const wxImage picture = XDesk().Picture(part);
+    const wxImage picture = Desk().Picture(part);
     const auto* bytes = reinterpret_cast<const char*>(picture.GetData());
     return {bytes, static_cast<size_t>(picture.GetWidth()) * static_cast<size_t>(picture.GetHeight()) * 3};
 }

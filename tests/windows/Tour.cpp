@@ -296,7 +296,7 @@ private:
         std::optional<wxPoint> spot;
         for (int tries = 0; tries < 50 && !spot; ++tries) {
             Rest(200);
-            spot = FindPicture(XDesk().Picture({}), picture);
+            spot = FindPicture(Desk().Picture({}), picture);
         }
         Need(spot.has_value(), "a tool is not to be seen");
         m_hands.Click(*spot);
@@ -331,7 +331,7 @@ private:
     }
 
     void Picture(const std::string& name) {
-        XDesk().Picture({}).SaveFile((m_options["--pictures"] / (name + ".png")).string(), wxBITMAP_TYPE_PNG);
+        Desk().Picture({}).SaveFile((m_options["--pictures"] / (name + ".png")).string(), wxBITMAP_TYPE_PNG);
     }
 
     static void Need(bool condition, const std::string& what) {

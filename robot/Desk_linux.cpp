@@ -1,4 +1,4 @@
-#include "robot/XDesk.h"
+#include "robot/Desk.h"
 
 #include <algorithm>
 #include <memory>
@@ -56,7 +56,24 @@ int ShiftOf(unsigned long mask) {
 
 } // namespace
 
-XDesk::XDesk() : m_display(nullptr) {
+/// The connection to the X display.
+class Desk::Connection {
+public:
+    Connection();
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    Display* Get() const { return m_display; }
+    KeySpot KeyOf(KeySym symbol) const;
+    Window FocusedTop() const;
+    std::string Property(Window window, const char* name) const;
+
+private:
+    Display* m_display = nullptr;
+};
+
+Desk::Connection::Connection() {
     static std::once_flag once;
     std::call_once(once, [] {
         XInitThreads();
@@ -75,28 +92,13 @@ XDesk::XDesk() : m_display(nullptr) {
     OwnDisplays().insert(m_display);
 }
 
-XDesk::~XDesk() {
+Desk::Connection::~Connection() {
     XCloseDisplay(m_display);
     std::lock_guard lock(ownMutex);
     OwnDisplays().erase(m_display);
 }
 
-void XDesk::Key(unsigned code, bool down) {
-    XTestFakeKeyEvent(m_display, code, down ? True : False, CurrentTime);
-    XSync(m_display, False);
-}
-
-void XDesk::Button(unsigned button, bool down) {
-    XTestFakeButtonEvent(m_display, button, down ? True : False, CurrentTime);
-    XSync(m_display, False);
-}
-
-void XDesk::Pointer(const wxPoint& screen) {
-    XTestFakeMotionEvent(m_display, -1, screen.x, screen.y, CurrentTime);
-    XSync(m_display, False);
-}
-
-XDesk::KeySpot XDesk::FindKey(unsigned long symbol) const {
+Desk::KeySpot Desk::Connection::KeyOf(KeySym symbol) const {
     const KeyCode code = XKeysymToKeycode(m_display, symbol);
     if (code == 0) {
         return {};
@@ -109,12 +111,7 @@ XDesk::KeySpot XDesk::FindKey(unsigned long symbol) const {
     return {};
 }
 
-XDesk::KeySpot XDesk::FindKey(const std::string& name) const {
-    const KeySym symbol = XStringToKeysym(name.c_str());
-    return symbol == NoSymbol ? KeySpot{} : FindKey(symbol);
-}
-
-std::string XDesk::Property(unsigned long window, const char* name) const {
+std::string Desk::Connection::Property(Window window, const char* name) const {
     Atom type = None;
     int format = 0;
     unsigned long count = 0, left = 0;
@@ -130,7 +127,7 @@ std::string XDesk::Property(unsigned long window, const char* name) const {
     return {reinterpret_cast<const char*>(data), count * itemSize};
 }
 
-unsigned long XDesk::FocusedTop() const {
+Window Desk::Connection::FocusedTop() const {
     Window window = None;
     int revert = 0;
     XGetInputFocus(m_display, &window, &revert);
@@ -151,30 +148,59 @@ unsigned long XDesk::FocusedTop() const {
     return None;
 }
 
-std::string XDesk::FocusedTitle() const {
-    const Window top = FocusedTop();
-    return top == None ? std::string() : Property(top, "_NET_WM_NAME");
+Desk::Desk() : m_connection(std::make_unique<Connection>()) {}
+
+Desk::~Desk() = default;
+
+void Desk::Key(unsigned code, bool down) {
+    XTestFakeKeyEvent(m_connection->Get(), code, down ? True : False, CurrentTime);
+    XSync(m_connection->Get(), False);
 }
 
-bool XDesk::FocusIsDialog() const {
-    const Window top = FocusedTop();
+void Desk::Button(unsigned button, bool down) {
+    XTestFakeButtonEvent(m_connection->Get(), button, down ? True : False, CurrentTime);
+    XSync(m_connection->Get(), False);
+}
+
+void Desk::Pointer(const wxPoint& screen) {
+    XTestFakeMotionEvent(m_connection->Get(), -1, screen.x, screen.y, CurrentTime);
+    XSync(m_connection->Get(), False);
+}
+
+Desk::KeySpot Desk::FindKey(char character) const {
+    // The key symbol of a printable ASCII character equals its code.
+    return m_connection->KeyOf(static_cast<unsigned char>(character));
+}
+
+Desk::KeySpot Desk::FindKey(const std::string& name) const {
+    const KeySym symbol = XStringToKeysym(name.c_str());
+    return symbol == NoSymbol ? KeySpot{} : m_connection->KeyOf(symbol);
+}
+
+std::string Desk::FocusedTitle() const {
+    const Window top = m_connection->FocusedTop();
+    return top == None ? std::string() : m_connection->Property(top, "_NET_WM_NAME");
+}
+
+bool Desk::FocusIsDialog() const {
+    const Window top = m_connection->FocusedTop();
     if (top == None) {
         return false;
     }
-    const std::string types = Property(top, "_NET_WM_WINDOW_TYPE");
-    const Atom dialog = XInternAtom(m_display, "_NET_WM_WINDOW_TYPE_DIALOG", False);
+    const std::string types = m_connection->Property(top, "_NET_WM_WINDOW_TYPE");
+    const Atom dialog = XInternAtom(m_connection->Get(), "_NET_WM_WINDOW_TYPE_DIALOG", False);
     const std::string wanted(reinterpret_cast<const char*>(&dialog), sizeof dialog);
     return types.find(wanted) != std::string::npos;
 }
 
-wxRect XDesk::FocusedArea() const {
-    Window window = FocusedTop();
+wxRect Desk::FocusedArea() const {
+    Window window = m_connection->FocusedTop();
     // The window manager puts a frame around the window. Find the outermost window, a child of the root.
     while (window != None) {
         Window root = None, parent = None;
         Window* children = nullptr;
         unsigned count = 0;
-        if (XQueryTree(m_display, window, &root, &parent, &children, &count) == 0) {
+        if (XQueryTree(m_connection->Get(), window, &root, &parent, &children, &count) == 0) {
             return {};
         }
         const XData<Window> owner(children);
@@ -184,7 +210,7 @@ wxRect XDesk::FocusedArea() const {
         }
         int x = 0, y = 0;
         unsigned width = 0, height = 0, border = 0, depth = 0;
-        if (XGetGeometry(m_display, window, &root, &x, &y, &width, &height, &border, &depth) == 0) {
+        if (XGetGeometry(m_connection->Get(), window, &root, &x, &y, &width, &height, &border, &depth) == 0) {
             return {};
         }
         return {x, y, static_cast<int>(width + 2 * border), static_cast<int>(height + 2 * border)};
@@ -192,9 +218,9 @@ wxRect XDesk::FocusedArea() const {
     return {};
 }
 
-wxImage XDesk::Picture(const wxRect& part) const {
-    const int screen = DefaultScreen(m_display);
-    wxRect rect(0, 0, DisplayWidth(m_display, screen), DisplayHeight(m_display, screen));
+wxImage Desk::Picture(const wxRect& part) const {
+    const int screen = DefaultScreen(m_connection->Get());
+    wxRect rect(0, 0, DisplayWidth(m_connection->Get(), screen), DisplayHeight(m_connection->Get(), screen));
     if (!part.IsEmpty()) {
         rect.Intersect(part);
     }
@@ -205,9 +231,9 @@ wxImage XDesk::Picture(const wxRect& part) const {
     };
     const std::unique_ptr<XImage, decltype(free)> image(
         rect.IsEmpty() ? nullptr
-                       : XGetImage(m_display, DefaultRootWindow(m_display), rect.x, rect.y,
-                                   static_cast<unsigned>(rect.width), static_cast<unsigned>(rect.height),
-                                   AllPlanes, ZPixmap),
+                       : XGetImage(m_connection->Get(), DefaultRootWindow(m_connection->Get()), rect.x,
+                                   rect.y, static_cast<unsigned>(rect.width),
+                                   static_cast<unsigned>(rect.height), AllPlanes, ZPixmap),
         free);
     if (!image) {
         throw std::runtime_error("the screen gave no picture");

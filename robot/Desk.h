@@ -1,28 +1,26 @@
-// Access to the X display without the window toolkit, over a separate connection.
+// Access to the display without the window toolkit.
 #pragma once
 
 #include <wx/gdicmn.h>
 #include <wx/image.h>
 
+#include <memory>
 #include <string>
-
-// The system's own name. NOLINTNEXTLINE(bugprone-reserved-identifier)
-struct _XDisplay;
 
 namespace testbench {
 
-/// A separate connection to the X display, so it works in any thread and whatever the program's windows do.
-/// Use from one thread at a time.
-class XDesk {
+/// The system's keyboard, mouse and screen: on Linux a separate connection to the X display. It works in any
+/// thread and whatever the program's windows do. Use from one thread at a time.
+class Desk {
 public:
-    /// Connects to the display named by the environment. Throws std::runtime_error if there is none or it
-    /// lacks the XTest extension.
-    XDesk();
-    ~XDesk();
-    XDesk(const XDesk&) = delete;
-    XDesk& operator=(const XDesk&) = delete;
+    /// Connects to the display, on Linux the one that the environment names. Throws std::runtime_error if
+    /// there is none or it takes no input from programs.
+    Desk();
+    ~Desk();
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
 
-    /// Presses or releases the key with this X keycode.
+    /// Presses or releases the key with this code of the system.
     void Key(unsigned code, bool down);
     /// Presses or releases a mouse button: 1 left, 2 middle, 3 right, 4 wheel up, 5 wheel down.
     void Button(unsigned button, bool down);
@@ -31,11 +29,12 @@ public:
 
     /// The key that types a symbol on the current keyboard.
     struct KeySpot {
-        unsigned code = 0; ///< X keycode; 0: the keyboard has no such symbol
+        unsigned code = 0; ///< of the system; 0: the keyboard has no such symbol
         bool shift = false;
     };
-    KeySpot FindKey(unsigned long symbol) const;
-    /// Finds the key by the symbol's X name ("Return", "F10", "a"). Code 0 if there is no such name or key.
+    /// Finds the key that types a printable ASCII character.
+    KeySpot FindKey(char character) const;
+    /// Finds the key by its X name ("Return", "F10", "period"). Code 0 if there is no such name or key.
     KeySpot FindKey(const std::string& name) const;
 
     /// Title (UTF-8) of the window that has the keyboard focus; empty if there is none.
@@ -49,10 +48,8 @@ public:
     wxImage Picture(const wxRect& part) const;
 
 private:
-    unsigned long FocusedTop() const;
-    std::string Property(unsigned long window, const char* name) const;
-
-    _XDisplay* m_display;
+    class Connection;
+    std::unique_ptr<Connection> m_connection;
 };
 
 } // namespace testbench

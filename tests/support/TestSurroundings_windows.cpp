@@ -1,0 +1,30 @@
+#include "tests/support/TestSurroundings.h"
+
+#include <windows.h>
+
+#include <stdexcept>
+#include <string>
+
+namespace testbench {
+
+bool HasDisplay() {
+    return GetSystemMetrics(SM_CXSCREEN) > 0;
+}
+
+void KeepUsersFilesOut(const std::filesystem::path& home) {
+    // The program's own folders and settings bear the name of the test program. What the system keeps of a
+    // user it finds by these.
+    const auto set = [](const wchar_t* name, const std::filesystem::path& value) {
+        if (!SetEnvironmentVariableW(name, value.c_str()))
+            throw std::runtime_error("the environment takes no values");
+    };
+    set(L"APPDATA", home / "roaming");
+    set(L"LOCALAPPDATA", home / "local");
+    for (const char* folder : {"roaming", "local"})
+        std::filesystem::create_directories(home / folder);
+}
+
+/// No test starts one there.
+void EndChildren() {}
+
+} // namespace testbench

@@ -16,7 +16,7 @@ protected:
     static bool LetsPass(Validator& validator, int key) {
         wxKeyEvent event(wxEVT_CHAR);
         event.m_keyCode = key;
-        event.m_uniChar = key;
+        event.m_uniChar = static_cast<wxChar>(key);
         validator.ProcessEvent(event);
         return event.GetSkipped();
     }

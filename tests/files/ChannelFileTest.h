@@ -9,6 +9,7 @@
 #include "robot/Files.h"
 #include "robot/Pump.h"
 #include "robot/TempFolder.h"
+#include "tests/files/ProcessorTime.h"
 #include "tests/support/Keys.h"
 #include "tests/support/Modals.h"
 #include "tests/support/ZelkWindowTest.h"
@@ -20,7 +21,6 @@
 #include <wx/xml/xml.h>
 
 #include <algorithm>
-#include <ctime>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -70,11 +70,6 @@ inline std::string FileOf(const std::string& type, const std::string& memories) 
 
 inline std::string Memory(int row, const std::string& children) {
     return "<MEMORY row=\"" + std::to_string(row) + "\">" + children + "</MEMORY>";
-}
-
-/// Processor seconds used by this program.
-inline double ProcessorSeconds() {
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 class ChannelFileTest : public ZelkWindowTest {

@@ -8,6 +8,7 @@
 #include "tests/support/Keys.h"
 
 #include <wx/ffile.h>
+#include <wx/textbuf.h>
 
 class CsvTest : public ChannelFileTest {
 protected:
@@ -26,12 +27,20 @@ protected:
             CurrentGrid()->SelectRow(row, true);
     }
 
-    /// Exports the selection by menu and file dialog. Returns the file's bytes.
+    /// Exports the selection by menu and file dialog. Returns the file's bytes, with a line feed for each
+    /// line end of the system.
     std::string Export(const std::string& name = "list.csv") {
         testbench::DialogScript script;
-        script.ExpectFile("Export CSV file", (m_folder / name).string());
+        script.ExpectFile("Export CSV file", m_folder.File(name));
         Choose(IdExport);
-        return testbench::ReadFile(m_folder / name);
+        return WithLineFeeds(testbench::ReadFile(m_folder / name));
+    }
+
+    static std::string WithLineFeeds(const std::string& bytes) {
+        wxString text = wxString::From8BitData(bytes.data(), bytes.size());
+        text.Replace(wxTextBuffer::GetEOL(), "\n");
+        const wxCharBuffer plain = text.To8BitData();
+        return {plain.data(), plain.length()};
     }
 
     static bool IsPainted(int row, int col) {

@@ -213,7 +213,7 @@ TEST_F(ImportCommand, NamesThePageAfterTheFileSoThatSaveCanWriteIt) {
     WriteToFolder("list.of.716", BinaryFile({BinaryRecord(5)}));
     ImportByMenu("list.of.716", "Imported 1 Lines from 716 Binary file.");
     EXPECT_EQ(PageStrings[0].FileName, "list.of");
-    EXPECT_EQ(PageStrings[0].FileDir, m_folder.Path().string() + "/");
+    EXPECT_EQ(PageStrings[0].FileDir, m_folder.File(""));
     EXPECT_EQ(MainFrame->GetTitle(), title);
     EXPECT_EQ(Status(1), "KRV-47");
 }

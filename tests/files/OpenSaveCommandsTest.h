@@ -16,7 +16,7 @@ protected:
     void OpenByMenu(const std::string& name, const std::string& box = "") {
         testbench::DialogScript script;
         script.ExpectMessage("Open File?", OpenQuestion);
-        script.ExpectFile("Select Zelk file", (m_folder / name).string());
+        script.ExpectFile("Select Zelk file", m_folder.File(name));
         if (!box.empty())
             script.ExpectMessage("Error", box);
         Choose(IdOpen);
@@ -28,7 +28,8 @@ protected:
 
     std::string ReadFromFolder(const std::string& name) const { return testbench::ReadFile(m_folder / name); }
 
-    std::string FolderText() const { return m_folder.Path().string() + "/"; }
+    /// With the system's separator at its end.
+    std::string FolderText() const { return m_folder.File(""); }
 
     /// Saves by menu; file is the file that the question names, and answer the reply to it.
     static void SaveOver(const std::string& file, int answer, int command = IdSave) {
@@ -47,7 +48,7 @@ protected:
     /// Saves under a name by menu and file dialog.
     void SaveAs(const std::string& name) {
         testbench::DialogScript script;
-        script.ExpectFile("Save .zelk file...", (m_folder / name).string());
+        script.ExpectFile("Save .zelk file...", m_folder.File(name));
         Choose(IdSaveAs);
     }
 
@@ -63,10 +64,15 @@ protected:
         UpdateStatus(MainFrame, page);
     }
 
+    static std::string Utf8(const std::filesystem::path& path) {
+        const std::u8string text = path.u8string();
+        return {text.begin(), text.end()};
+    }
+
     std::vector<std::string> Entries() const {
         std::vector<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(m_folder.Path()))
-            names.push_back(entry.path().filename());
+            names.push_back(Utf8(entry.path().filename()));
         std::sort(names.begin(), names.end());
         return names;
     }

@@ -1,5 +1,4 @@
 // Files that a save asks about before it replaces them.
-#include "tests/files/FileSizeLimit.h"
 #include "tests/files/OpenSaveCommandsTest.h"
 
 #include <wx/notebook.h>
@@ -110,15 +109,4 @@ TEST_F(OpenSaveCommands, FilesAreForgottenWithTheTarget) {
     script.ExpectFile("Save .zelk file...", (m_folder / "a.zelk").string());
     ExpectReplaceQuestion(script, "a.zelk", wxID_CANCEL);
     Choose(IdSave);
-}
-
-TEST_F(OpenSaveCommands, AFileThatCouldNotBeSavedIsNotThePagesOwn) {
-    WriteToFolder("a.zelk", "other");
-    NamePage("a");
-    {
-        const FileSizeLimit full(10);
-        SaveOver("a.zelk", wxID_OK);
-    }
-    EXPECT_EQ(ReadFromFolder("a.zelk"), "other");
-    SaveOver("a.zelk", wxID_CANCEL);
 }

@@ -1,5 +1,4 @@
 // The status bar's report of a save, including a failed one.
-#include "tests/files/FileSizeLimit.h"
 #include "tests/files/OpenSaveCommandsTest.h"
 
 #include <wx/notebook.h>
@@ -128,18 +127,4 @@ TEST_F(OpenSaveCommands, SaveThatFailsLeavesTheFormerFileAndThePagesName) {
     EXPECT_EQ(ToolTip(), "NOT SAVED: " + FolderText() + name + ".zelk: File name too long");
     EXPECT_EQ(ReadFromFolder(name + ".zelk"), "former");
     EXPECT_EQ(PageStrings[0].FileName, name);
-}
-
-TEST_F(OpenSaveCommands, SaveOnAFullDiskLeavesTheFormerFile) {
-    NamePage("a");
-    Choose(IdSave);
-    const std::string former = ReadFromFolder("a.zelk");
-    SetCell(0, DESC, "NEW");
-    {
-        const FileSizeLimit full(100);
-        Choose(IdSave);
-    }
-    EXPECT_EQ(Status(0), "NOT SAVED: File too large");
-    EXPECT_EQ(ReadFromFolder("a.zelk"), former);
-    EXPECT_EQ(Entries(), std::vector<std::string>{"a.zelk"});
 }

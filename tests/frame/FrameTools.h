@@ -22,6 +22,10 @@ constexpr long PlainBox = wxOK | wxCENTRE | wxICON_INFORMATION;
 /// Chooses an entry of the main window's menus.
 void RunCommand(int id);
 
+/// The key that presses OK in a dialog whose list has the keyboard: its letter, which Windows has none for,
+/// or Return, which opens the list on GTK.
+extern const char* const KeyOfOk;
+
 /// Chooses the entry at this position and clicks OK once it can be pressed.
 void ChooseAndAccept(wxDialog* dialog, wxChoice* choice, int position);
 

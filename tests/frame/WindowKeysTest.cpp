@@ -101,7 +101,7 @@ TEST_F(WindowKeys, WorkInThePageThatIsShownWhenOneIsAddedOrDeleted) {
         ASSERT_NE(robot.WaitForDialog("<-- Select Target Radio -->"), nullptr);
         robot.Ask([] { RadioChoice->SetSelection(Krv21); });
         ASSERT_TRUE(robot.WaitFor([] { return RadioChoice->GetParent()->FindWindow(wxID_OK)->IsEnabled(); }));
-        robot.Press("Alt+O");
+        robot.Press(KeyOfOk);
         ASSERT_TRUE(robot.WaitFor([] { return PageCount == 2; }));
         down(robot);
         for (const char* key : {"F10", "Right", "Down", "d"}) {
@@ -191,7 +191,7 @@ TEST_F(WindowKeys, ChooseInTheDialogsWithoutTab) {
         EXPECT_EQ(RadioChoice->GetSelection(), chosen + 1);
         RadioChoice->SetSelection(Krv21);
         PumpUntil([dialog] { return dialog->FindWindow(wxID_OK)->IsEnabled(); });
-        PressKey("Alt+O");
+        PressKey(KeyOfOk);
     });
     RunCommand(IdPageAdd);
     EXPECT_EQ(CurrentParameters().Radio, int(Krv21));
@@ -209,7 +209,7 @@ TEST_F(WindowKeys, BeginInTheListOfADialogThatHasAChoiceAlready) {
             robot.Press("Down");
             robot.Settle();
             chosen = robot.Ask([] { return RadioChoice->GetSelection(); });
-            robot.Press("Alt+O");
+            robot.Press(KeyOfOk);
         },
         [] { EXPECT_EQ(UserSelectRadioAndBand(MainFrame, CurrentPage), 0); });
     EXPECT_EQ(chosen, Krv47 + 1);

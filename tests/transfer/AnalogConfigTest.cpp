@@ -1,4 +1,5 @@
 // Information and configuration of an analog radio, which no command of the window starts.
+#include "tests/support/PseudoTerminal.h"
 #include "tests/transfer/AnalogDriverTest.h"
 #include "transfer/RadioIdentity.h"
 

@@ -1,5 +1,6 @@
 // Writing channels to an analog radio, byte by byte.
 #include "robot/Hands.h"
+#include "tests/support/PseudoTerminal.h"
 #include "tests/transfer/AnalogDriverTest.h"
 #include "tests/transfer/CancelSpot.h"
 #include "transfer/AnalogDialogue.h"

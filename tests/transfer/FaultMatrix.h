@@ -72,7 +72,7 @@ protected:
     /// Finds out how a radio of the protocol stores memory 9.
     void MakeBystander(int protocol) {
         RadioUnderTest radio("KDRV-716B", {"--protocol", std::to_string(protocol)});
-        FillMemory(Bystander);
+        MakeMemory(Bystander);
         Select({Bystander});
         WriteTo(radio);
         m_bystander = radio.Records().at(Bystander);
@@ -82,7 +82,7 @@ protected:
     /// Decimals of a row's frequencies.
     static int Decimals(int row) { return 125 * (row % 100); }
 
-    static void FillMemory(int row) {
+    static void MakeMemory(int row) {
         FillP25Row(row, "A1", "00", wxString::Format("%03d", row));
         SetCell(row, DESC, wxString::Format("HILL %d", row));
         SetCell(row, RFRQ, wxString::Format("154.%04d", Decimals(row)));
@@ -92,7 +92,7 @@ protected:
     static void FillMemories() {
         CurrentGrid()->ClearSelection();
         for (const int row : Memories) {
-            FillMemory(row);
+            MakeMemory(row);
             CurrentGrid()->SelectRow(row, true);
         }
         SetCell(502, ZONE, "X");

@@ -1,62 +1,14 @@
-#include "tests/transfer/RadioPeer.h"
-
+#include "tests/transfer/RadioPeerEnd.h"
 #include "transfer/wxAsyncSerial.h"
 
 #include <chrono>
-#include <map>
 #include <memory>
 #include <optional>
-#include <thread>
 #include <utility>
 
 namespace transfertest {
 
 using std::chrono::milliseconds;
-
-/// The radio's end of the port, and the thread of the script.
-class RadioPeer::End {
-public:
-    virtual ~End() = default;
-    virtual void Start(std::function<void()> play) = 0;
-    virtual void Finish() = 0;
-    virtual const std::string& PortName() const = 0;
-    virtual int Speed() const = 0;
-    virtual std::string Read(size_t count, milliseconds limit) = 0;
-    virtual std::string ReadLine(milliseconds limit) = 0;
-    virtual void Write(const std::string& text) = 0;
-    virtual void Pause(milliseconds time) = 0;
-    virtual void Vanish() = 0;
-};
-
-class RadioPeer::RealEnd : public End {
-public:
-    RealEnd() { m_port.HoldSlave(); }
-    ~RealEnd() override { RealEnd::Finish(); }
-
-    void Start(std::function<void()> play) override { m_thread = std::thread(std::move(play)); }
-    void Finish() override {
-        if (m_thread.joinable())
-            m_thread.join();
-    }
-    const std::string& PortName() const override { return m_port.SlaveName(); }
-    int Speed() const override {
-        static const std::map<speed_t, int> speeds = {{B9600, 9600}, {B115200, 115200}};
-        const auto found = speeds.find(m_port.Speed());
-        return found == speeds.end() ? 0 : found->second;
-    }
-    std::string Read(size_t count, milliseconds limit) override { return m_port.Read(count, limit); }
-    std::string ReadLine(milliseconds limit) override { return m_port.ReadUntil('\r', limit); }
-    void Write(const std::string& text) override { m_port.Write(text); }
-    void Pause(milliseconds time) override { std::this_thread::sleep_for(time); }
-    void Vanish() override {
-        m_port.ReleaseSlave();
-        m_port.CloseMaster();
-    }
-
-private:
-    PseudoTerminal m_port;
-    std::thread m_thread;
-};
 
 class RadioPeer::VirtualEnd : public End {
 public:
@@ -110,7 +62,7 @@ RadioPeer::RadioPeer(std::function<void(RadioPeer&)> script) {
     if (VirtualSystem* system = VirtualSystem::Current())
         m_end = std::make_unique<VirtualEnd>(*system);
     else
-        m_end = std::make_unique<RealEnd>();
+        m_end = AtRealPort();
     m_end->Start([this, play = std::move(script)] { play(*this); });
 }
 

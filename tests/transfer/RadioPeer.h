@@ -1,7 +1,6 @@
 // The radio's side of a transfer, played by a script of the test.
 #pragma once
 
-#include "tests/support/PseudoTerminal.h"
 #include "tests/transfer/Actor.h"
 #include "tests/transfer/VirtualSystem.h"
 
@@ -48,6 +47,9 @@ private:
     class End;
     class RealEnd;
     class VirtualEnd;
+
+    /// Only Linux has pseudo-terminals.
+    static std::unique_ptr<End> AtRealPort();
 
     std::string m_heard;
     std::unique_ptr<End> m_end; ///< last: its thread uses the others

@@ -1,86 +1,17 @@
-#include "tests/transfer/RadioUnderTest.h"
-
 #include "robot/Files.h"
-#include "robot/RadioProcess.h"
-#include "robot/TempFolder.h"
 #include "simulator/FaultyLink.h"
 #include "simulator/Journal.h"
 #include "simulator/Options.h"
 #include "simulator/OutputQueue.h"
 #include "simulator/RadioMaker.h"
+#include "tests/transfer/RadioPlayer.h"
 #include "tests/transfer/VirtualSystem.h"
 
-#include <chrono>
 #include <optional>
-#include <sstream>
 #include <stdexcept>
-#include <thread>
 #include <utility>
 
 namespace transfertest {
-
-/// Plays the radio with the files of a folder.
-class RadioUnderTest::Player {
-public:
-    Player(const std::string& model, std::vector<std::string> options, const std::string& memories)
-        : m_arguments(
-              {"--model", model, "--memories", MemoryFile(), "--log", LogFile(), "--key-delay", "0"}) {
-        testbench::WriteFile(MemoryFile(), memories);
-        m_arguments.insert(m_arguments.end(), options.begin(), options.end());
-    }
-    virtual ~Player() = default;
-
-    virtual std::string PortName() const = 0;
-    virtual int SwitchOff() = 0;
-    virtual std::string Complaints() const = 0;
-    virtual void AwaitClosedPort() = 0;
-    virtual void WhenLogged(const std::string& text, std::function<void()> action) = 0;
-
-    std::string MemoryFile() const { return (m_folder / "memories").string(); }
-    std::string LogFile() const { return (m_folder / "log").string(); }
-
-protected:
-    testbench::TempFolder m_folder{"zelk-radio"};
-    std::vector<std::string> m_arguments;
-};
-
-/// In a process of its own, at a pseudo-terminal.
-class RadioUnderTest::ProcessPlayer : public Player {
-public:
-    ProcessPlayer(const std::string& model, const std::vector<std::string>& options,
-                  const std::string& memories)
-        : Player(model, options, memories) {
-        m_arguments.insert(m_arguments.end(), {"--ports-dir", m_folder / "ports", "--name", "radio"});
-        m_process.emplace(ZELK_RADIO, m_arguments);
-        m_process->RequireReady();
-    }
-
-    std::string PortName() const override { return (m_folder / "ports" / "radio").string(); }
-    int SwitchOff() override { return m_process->Terminate(); }
-
-    std::string Complaints() const override {
-        std::string complaints;
-        std::istringstream output(m_process->Output());
-        for (std::string line; std::getline(output, line);)
-            if (line.find("is ready at") == std::string::npos)
-                complaints += line + "\n";
-        return complaints;
-    }
-
-    void AwaitClosedPort() override {
-        for (int tries = 0; tries < 500 && m_process->IsRunning() &&
-                            !testbench::ReadFileIfAny(LogFile()).ends_with("port closed\n");
-             ++tries)
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-
-    void WhenLogged(const std::string&, std::function<void()>) override {
-        throw std::logic_error("only in virtual time");
-    }
-
-private:
-    std::optional<testbench::RadioProcess> m_process;
-};
 
 /// In the test's process, at a virtual port.
 class RadioUnderTest::VirtualPlayer : public Player, private Simulator::Journal {
@@ -200,7 +131,7 @@ RadioUnderTest::RadioUnderTest(const std::string& model, const std::vector<std::
     if (VirtualSystem* system = VirtualSystem::Current())
         m_player = std::make_unique<VirtualPlayer>(*system, model, options, memories);
     else
-        m_player = std::make_unique<ProcessPlayer>(model, options, memories);
+        m_player = AsProcess(model, options, memories);
 }
 
 RadioUnderTest::~RadioUnderTest() = default;

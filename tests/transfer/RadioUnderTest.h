@@ -50,6 +50,10 @@ private:
     class ProcessPlayer;
     class VirtualPlayer;
 
+    /// Only Linux has pseudo-terminals.
+    static std::unique_ptr<Player>
+    AsProcess(const std::string& model, const std::vector<std::string>& options, const std::string& memories);
+
     std::vector<std::string> MemoryLines();
 
     std::unique_ptr<Player> m_player;

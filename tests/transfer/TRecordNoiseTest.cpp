@@ -193,9 +193,9 @@ TEST_F(TRecordDriver, BytesOfAllKindsAreNoise) {
     RadioPeer peer([](RadioPeer& radio) {
         radio.HearLine();
         std::string noise;
-        for (int byte = 0; byte < 256; ++byte)
-            if (byte != '\r')
-                noise += static_cast<char>(byte);
+        for (int code = 0; code < 256; ++code)
+            if (code != '\r')
+                noise += static_cast<char>(code);
         radio.Say(noise + "\r" + noise + "\r\n\n \tT204000000FB\r");
         radio.HearLine();
     });

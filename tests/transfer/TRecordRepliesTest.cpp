@@ -1,4 +1,5 @@
 // Effects of each line from a digital radio.
+#include "tests/support/PseudoTerminal.h"
 #include "tests/transfer/TRecordDriverTest.h"
 #include "transfer/TRecordDialogue.h"
 

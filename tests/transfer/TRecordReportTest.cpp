@@ -1,4 +1,5 @@
 // Reports of how a transfer with a digital radio ended.
+#include "tests/support/PseudoTerminal.h"
 #include "tests/transfer/TRecordDriverTest.h"
 #include "transfer/TRecordDialogue.h"
 

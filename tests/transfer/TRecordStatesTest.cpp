@@ -1,4 +1,5 @@
 // The program's line to a digital radio in each state.
+#include "tests/support/PseudoTerminal.h"
 #include "tests/transfer/TRecordDriverTest.h"
 #include "transfer/TRecordDialogue.h"
 

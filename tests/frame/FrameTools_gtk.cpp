@@ -1,0 +1,7 @@
+#include "tests/frame/FrameTools.h"
+
+namespace testbench {
+
+const char* const KeyOfOk = "Alt+O";
+
+} // namespace testbench

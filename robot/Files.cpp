@@ -1,5 +1,8 @@
 #include "robot/Files.h"
 
+#include <wx/string.h>
+#include <wx/textbuf.h>
+
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -27,6 +30,14 @@ std::string ReadFile(const std::filesystem::path& file) {
         throw std::runtime_error("can't read " + file.string());
     }
     return bytes;
+}
+
+std::string ReadText(const std::filesystem::path& file) {
+    const std::string bytes = ReadFile(file);
+    wxString text = wxString::From8BitData(bytes.data(), bytes.size());
+    text.Replace(wxTextBuffer::GetEOL(), "\n");
+    const wxCharBuffer plain = text.To8BitData();
+    return {plain.data(), plain.length()};
 }
 
 std::string ReadFileIfAny(const std::filesystem::path& file) {

@@ -10,6 +10,9 @@ namespace testbench {
 /// All bytes of the file, unchanged. Throws std::runtime_error naming the file if it can't be read.
 std::string ReadFile(const std::filesystem::path& file);
 
+/// The same as ReadFile, with a line feed for each line end of the system.
+std::string ReadText(const std::filesystem::path& file);
+
 /// Same as ReadFile, but returns an empty string if the file can't be read.
 std::string ReadFileIfAny(const std::filesystem::path& file);
 

@@ -260,7 +260,7 @@ TEST_F(CsvExportFile, IsOpenOnceAndWrittenWhenItIsClosed) {
     EXPECT_TRUE(list.WriteCsvLine(fields, 2));
     EXPECT_EQ(testbench::ReadFile(m_folder / "a.csv"), "former");
     EXPECT_TRUE(list.CloseCsv());
-    EXPECT_EQ(WithLineFeeds(testbench::ReadFile(m_folder / "a.csv")), "MNUM,RFRQ,\n001,121.500,\n");
+    EXPECT_EQ(testbench::ReadText(m_folder / "a.csv"), "MNUM,RFRQ,\n001,121.500,\n");
     EXPECT_FALSE(list.WriteCsvLine(fields, 2));
     EXPECT_TRUE(list.OpenCsvWrite(path, CurrentParameters().Type)) << "it can be used again";
 }

@@ -8,7 +8,6 @@
 #include "tests/support/Keys.h"
 
 #include <wx/ffile.h>
-#include <wx/textbuf.h>
 
 class CsvTest : public ChannelFileTest {
 protected:
@@ -33,14 +32,7 @@ protected:
         testbench::DialogScript script;
         script.ExpectFile("Export CSV file", m_folder.File(name));
         Choose(IdExport);
-        return WithLineFeeds(testbench::ReadFile(m_folder / name));
-    }
-
-    static std::string WithLineFeeds(const std::string& bytes) {
-        wxString text = wxString::From8BitData(bytes.data(), bytes.size());
-        text.Replace(wxTextBuffer::GetEOL(), "\n");
-        const wxCharBuffer plain = text.To8BitData();
-        return {plain.data(), plain.length()};
+        return testbench::ReadText(m_folder / name);
     }
 
     static bool IsPainted(int row, int col) {

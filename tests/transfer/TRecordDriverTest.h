@@ -119,7 +119,7 @@ protected:
         SCOPED_TRACE(name);
         AskForWorkingLog();
         const int status = Transfer(Transcript::FromFile(name), mode);
-        EXPECT_EQ(LogWithoutStamps(testbench::ReadFile("Zelk.log")), Transcript::FromFile(name).Log());
+        EXPECT_EQ(LogWithoutStamps(testbench::ReadText("Zelk.log")), Transcript::FromFile(name).Log());
         return status;
     }
 

@@ -101,7 +101,7 @@ TEST_P(TRecordGeneration, TellsItsHardwareOnlyIfItIsTheLatest) {
     ExpectMatch(Text(m_context.InfoLines[0]), std::string("Date: ") + Date);
     EXPECT_EQ(Text(m_context.InfoLines[1]), "Board 3");
     EXPECT_EQ(Text(m_context.InfoLines[2]), "RF 1.7");
-    ExpectMatch(ReadFile("Logs/K7A42.txt"), std::string("Date: ") + Date + "\nBoard 3\nRF 1\\.7\n");
+    ExpectMatch(ReadText("Logs/K7A42.txt"), std::string("Date: ") + Date + "\nBoard 3\nRF 1\\.7\n");
     EXPECT_FALSE(std::filesystem::exists("KDRV-716_K7A42_Dbg.log"));
 }
 
@@ -112,7 +112,7 @@ TEST_P(TRecordGeneration, GivesItsDebugLog) {
     const std::string heading =
         std::string("SN,") + (IsLatest() ? "K7A42" : "UNKNOWN") + "\nDate," + Date +
         "Timestamp,Flags,Main_RxTx_State,Guard_RxTx_State,MB_Temp,MCU_Temp,MainRF_Temp,GuardRF_Temp\n";
-    ExpectMatch(ReadFile(file), heading + (IsLatest() ? "12:30:15,1,1,2,25,-1,30,-128\n"
+    ExpectMatch(ReadText(file), heading + (IsLatest() ? "12:30:15,1,1,2,25,-1,30,-128\n"
                                                         "12:31:16,8,0,0,258,772\n"
                                                       : "Rx:0200: Hi\nTx:0200:   ok\n"));
 }

@@ -34,7 +34,7 @@ TEST_F(TRecordDriver, HardwareFileOfAnInterruptedReadIsClosedWithWhatCame) {
                                   DataRecord("Board 3") + Sends("T204000000") + "@cancel\n" + End),
                        ReadInformationMode),
               TransferCancelled);
-    EXPECT_NE(ReadFile("Logs/K7A42.txt").find("Board 3\n"), std::string::npos);
+    EXPECT_NE(ReadText("Logs/K7A42.txt").find("Board 3\n"), std::string::npos);
 }
 
 TEST_F(TRecordDriver, SerialNumberLeadsToNoOtherFolder) {
@@ -77,7 +77,7 @@ TEST_F(TRecordDriver, DebugLogThatEndsInsideAMessageKeepsIt) {
                                   Sends("T204000000") + Says("T9030000")),
                        ReadDebugLogMode),
               TransferComplete);
-    const std::string log = ReadFile("KDRV-716_UNKNOWN_Dbg.log");
+    const std::string log = ReadText("KDRV-716_UNKNOWN_Dbg.log");
     EXPECT_TRUE(log.ends_with("Msg: HI\n")) << log;
 }
 

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/grid.h>
+#include <wx/utils.h>
 
 #include <utility>
 #include <vector>
@@ -22,12 +23,15 @@ using RadioCatalogue::ModuleSlot;
 using testbench::FilledRows;
 using testbench::RowTexts;
 
-/// Shows the window with its first page (KRV-47) before each test and destroys it afterwards.
+/// Shows the window with its first page (KRV-47) before each test and destroys it afterwards. The window has
+/// its usual size, or a small one for programs of tests that say so in CMakeLists.txt.
 class ZelkWindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
         ForgetState();
         MainFrame = new ZelkFrame(nullptr);
+        if (wxGetEnv("ZELK_SMALL_WINDOW", nullptr))
+            MainFrame->SetSize(700, 420);
         MainFrame->Show();
         MainFrame->Raise();
         wxYield();

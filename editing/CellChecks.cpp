@@ -38,11 +38,19 @@ size_t DescriptionLength(int type) {
     return type == ANFM || type == MDLX ? 9 : wxString::npos;
 }
 
-/// Windows has two halves for a character beyond U+FFFF, and Linux one character. Both are one blank.
+/// True for the second half of a character beyond U+FFFF. Windows has two for it, and Linux has one
+/// character.
+bool IsSecondHalf(wxUniChar c) {
+    return c.GetValue() >= 0xDC00 && c.GetValue() <= 0xDFFF;
+}
+
+/// Such a character must become one blank on both systems.
 wxString WithoutSecondHalves(const wxString& text) {
+    if (std::none_of(text.begin(), text.end(), IsSecondHalf))
+        return text;
     wxString whole;
     for (const wxUniChar c : text)
-        if (c.GetValue() < 0xDC00 || c.GetValue() > 0xDFFF)
+        if (!IsSecondHalf(c))
             whole += c;
     return whole;
 }

@@ -66,7 +66,8 @@ unsigned KeyOfName(const std::string& name) {
 /// The character of a key with an X name, or 0.
 char CharacterOfName(const std::string& name) {
     static const std::map<std::string, char> characters = {
-        {"braceleft", '{'}, {"comma", ','}, {"minus", '-'}, {"period", '.'}, {"plus", '+'}, {"slash", '/'}};
+        {"asciitilde", '~'}, {"braceleft", '{'}, {"comma", ','}, {"minus", '-'},
+        {"period", '.'},     {"plus", '+'},      {"slash", '/'}};
     const auto found = characters.find(name);
     return found == characters.end() ? '\0' : found->second;
 }

@@ -78,7 +78,7 @@ protected:
         testbench::WriteFile(LogPath(), "former text\n");
     }
 
-    static std::string LogText() { return testbench::ReadFile(LogPath()); }
+    static std::string LogText() { return testbench::ReadText(LogPath()); }
 
     /// Fills a row with a memory as a user does; the frequencies in MHz.
     static void FillRow(int row, const wxString& frequency, const wxString& description = "HILL") {

@@ -1,8 +1,8 @@
 // Copying, the menu key, column widths and rows of a page, with real keys and mouse.
 #include "tests/editing/GridHabits.h"
 
-#include "robot/Hands.h"
 #include "robot/Desk.h"
+#include "robot/Hands.h"
 #include "tests/support/RunWithRobot.h"
 
 #include <wx/clipbrd.h>

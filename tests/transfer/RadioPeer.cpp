@@ -1,3 +1,5 @@
+#include "tests/transfer/RadioPeer.h"
+
 #include "tests/transfer/RadioPeerEnd.h"
 #include "transfer/wxAsyncSerial.h"
 
@@ -10,7 +12,7 @@ namespace transfertest {
 
 using std::chrono::milliseconds;
 
-class RadioPeer::VirtualEnd : public End {
+class RadioPeer::VirtualEnd : public RadioPeerEnd {
 public:
     explicit VirtualEnd(VirtualSystem& system) : m_time(system.Time()), m_name(system.Add(m_port)) {}
     ~VirtualEnd() override {
@@ -62,7 +64,7 @@ RadioPeer::RadioPeer(std::function<void(RadioPeer&)> script) {
     if (VirtualSystem* system = VirtualSystem::Current())
         m_end = std::make_unique<VirtualEnd>(*system);
     else
-        m_end = AtRealPort();
+        m_end = MakeRealEnd();
     m_end->Start([this, play = std::move(script)] { play(*this); });
 }
 

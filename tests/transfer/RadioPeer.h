@@ -10,6 +10,8 @@
 
 namespace transfertest {
 
+class RadioPeerEnd;
+
 /// Runs a script at the other end of a serial port while the test's thread transfers: in virtual time if the
 /// test has a VirtualSystem, otherwise in a thread at a pseudo-terminal.
 class RadioPeer {
@@ -44,15 +46,10 @@ public:
     std::string Rest();
 
 private:
-    class End;
-    class RealEnd;
     class VirtualEnd;
 
-    /// Only Linux has pseudo-terminals.
-    static std::unique_ptr<End> AtRealPort();
-
     std::string m_heard;
-    std::unique_ptr<End> m_end; ///< last: its thread uses the others
+    std::unique_ptr<RadioPeerEnd> m_end; ///< last: its thread uses the others
 };
 
 /// True if the program could open the port now, be it a virtual one or the computer's.

@@ -1,18 +1,17 @@
 // Where a script plays a radio.
 #pragma once
 
-#include "tests/transfer/RadioPeer.h"
-
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace transfertest {
 
 /// The radio's end of the port, and the thread of the script.
-class RadioPeer::End {
+class RadioPeerEnd {
 public:
-    virtual ~End() = default;
+    virtual ~RadioPeerEnd() = default;
     virtual void Start(std::function<void()> play) = 0;
     virtual void Finish() = 0;
     virtual const std::string& PortName() const = 0;
@@ -23,5 +22,8 @@ public:
     virtual void Pause(std::chrono::milliseconds time) = 0;
     virtual void Vanish() = 0;
 };
+
+/// An end of a pseudo-terminal, which only Linux has.
+std::unique_ptr<RadioPeerEnd> MakeRealEnd();
 
 } // namespace transfertest

@@ -3,24 +3,24 @@
 
 #include "robot/Files.h"
 #include "robot/TempFolder.h"
-#include "tests/transfer/RadioUnderTest.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace transfertest {
 
 /// Plays the radio with the files of a folder.
-class RadioUnderTest::Player {
+class RadioPlayer {
 public:
-    Player(const std::string& model, std::vector<std::string> options, const std::string& memories)
+    RadioPlayer(const std::string& model, std::vector<std::string> options, const std::string& memories)
         : m_arguments(
               {"--model", model, "--memories", MemoryFile(), "--log", LogFile(), "--key-delay", "0"}) {
         testbench::WriteFile(MemoryFile(), memories);
         m_arguments.insert(m_arguments.end(), options.begin(), options.end());
     }
-    virtual ~Player() = default;
+    virtual ~RadioPlayer() = default;
 
     virtual std::string PortName() const = 0;
     virtual int SwitchOff() = 0;
@@ -35,5 +35,10 @@ protected:
     testbench::TempFolder m_folder{"zelk-radio"};
     std::vector<std::string> m_arguments;
 };
+
+/// Plays in a process of its own, at a pseudo-terminal, which only Linux has.
+std::unique_ptr<RadioPlayer> MakeRadioProcess(const std::string& model,
+                                              const std::vector<std::string>& options,
+                                              const std::string& memories);
 
 } // namespace transfertest

@@ -1,3 +1,5 @@
+#include "tests/transfer/RadioUnderTest.h"
+
 #include "robot/Files.h"
 #include "simulator/FaultyLink.h"
 #include "simulator/Journal.h"
@@ -14,11 +16,11 @@
 namespace transfertest {
 
 /// In the test's process, at a virtual port.
-class RadioUnderTest::VirtualPlayer : public Player, private Simulator::Journal {
+class RadioUnderTest::VirtualPlayer : public RadioPlayer, private Simulator::Journal {
 public:
     VirtualPlayer(VirtualSystem& system, const std::string& model, const std::vector<std::string>& options,
                   const std::string& memories)
-        : Player(model, options, memories), m_time(system.Time()), m_name(system.Add(m_port)) {
+        : RadioPlayer(model, options, memories), m_time(system.Time()), m_name(system.Add(m_port)) {
         Require(Simulator::ParseOptions(m_arguments, m_options));
         Require(Open(LogFile()));
         m_link.emplace(Simulator::FaultPlan(m_options.faults), m_options.late, m_output,
@@ -131,7 +133,7 @@ RadioUnderTest::RadioUnderTest(const std::string& model, const std::vector<std::
     if (VirtualSystem* system = VirtualSystem::Current())
         m_player = std::make_unique<VirtualPlayer>(*system, model, options, memories);
     else
-        m_player = AsProcess(model, options, memories);
+        m_player = MakeRadioProcess(model, options, memories);
 }
 
 RadioUnderTest::~RadioUnderTest() = default;

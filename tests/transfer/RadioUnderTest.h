@@ -9,6 +9,8 @@
 
 namespace transfertest {
 
+class RadioPlayer;
+
 /// Plays one radio from its start to the end of the object: in the test's process if the test has a
 /// VirtualSystem, otherwise as a program of its own.
 class RadioUnderTest {
@@ -46,17 +48,11 @@ public:
     void AwaitClosedPort();
 
 private:
-    class Player;
-    class ProcessPlayer;
     class VirtualPlayer;
-
-    /// Only Linux has pseudo-terminals.
-    static std::unique_ptr<Player>
-    AsProcess(const std::string& model, const std::vector<std::string>& options, const std::string& memories);
 
     std::vector<std::string> MemoryLines();
 
-    std::unique_ptr<Player> m_player;
+    std::unique_ptr<RadioPlayer> m_player;
 };
 
 } // namespace transfertest

@@ -4,8 +4,8 @@
 
 namespace transfertest {
 
-std::unique_ptr<RadioUnderTest::Player>
-RadioUnderTest::AsProcess(const std::string&, const std::vector<std::string>&, const std::string&) {
+std::unique_ptr<RadioPlayer> MakeRadioProcess(const std::string&, const std::vector<std::string>&,
+                                              const std::string&) {
     throw std::logic_error("a test in real time needs a pseudo-terminal");
 }
 

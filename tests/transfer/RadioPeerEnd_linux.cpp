@@ -10,7 +10,9 @@ namespace transfertest {
 
 using std::chrono::milliseconds;
 
-class RadioPeer::RealEnd : public RadioPeer::End {
+namespace {
+
+class RealEnd : public RadioPeerEnd {
 public:
     RealEnd() { m_port.HoldSlave(); }
     ~RealEnd() override { RealEnd::Finish(); }
@@ -40,7 +42,9 @@ private:
     std::thread m_thread;
 };
 
-std::unique_ptr<RadioPeer::End> RadioPeer::AtRealPort() {
+} // namespace
+
+std::unique_ptr<RadioPeerEnd> MakeRealEnd() {
     return std::make_unique<RealEnd>();
 }
 

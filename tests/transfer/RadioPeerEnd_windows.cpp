@@ -4,7 +4,7 @@
 
 namespace transfertest {
 
-std::unique_ptr<RadioPeer::End> RadioPeer::AtRealPort() {
+std::unique_ptr<RadioPeerEnd> MakeRealEnd() {
     throw std::logic_error("a test in real time needs a pseudo-terminal");
 }
 

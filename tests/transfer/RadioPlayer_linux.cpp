@@ -9,12 +9,14 @@
 
 namespace transfertest {
 
+namespace {
+
 /// In a process of its own, at a pseudo-terminal.
-class RadioUnderTest::ProcessPlayer : public Player {
+class ProcessPlayer : public RadioPlayer {
 public:
     ProcessPlayer(const std::string& model, const std::vector<std::string>& options,
                   const std::string& memories)
-        : Player(model, options, memories) {
+        : RadioPlayer(model, options, memories) {
         m_arguments.insert(m_arguments.end(), {"--ports-dir", m_folder / "ports", "--name", "radio"});
         m_process.emplace(ZELK_RADIO, m_arguments);
         m_process->RequireReady();
@@ -47,9 +49,11 @@ private:
     std::optional<testbench::RadioProcess> m_process;
 };
 
-std::unique_ptr<RadioUnderTest::Player> RadioUnderTest::AsProcess(const std::string& model,
-                                                                  const std::vector<std::string>& options,
-                                                                  const std::string& memories) {
+} // namespace
+
+std::unique_ptr<RadioPlayer> MakeRadioProcess(const std::string& model,
+                                              const std::vector<std::string>& options,
+                                              const std::string& memories) {
     return std::make_unique<ProcessPlayer>(model, options, memories);
 }
 

@@ -56,6 +56,13 @@ void CreateNewPage(OrvZELFrame* frame, int page) {
         SetPageEditors(page);
         SetPageDefaults(frame, page);
     }
+    // On Windows neither a new page nor a click on a label brings the keyboard along.
+    grid->SetFocus();
+    grid->Bind(wxEVT_GRID_LABEL_LEFT_CLICK, [grid](wxGridEvent& event) {
+        event.Skip();
+        if (!grid->IsCellEditControlShown())
+            grid->SetFocus();
+    });
     grid->Bind(wxEVT_KEY_DOWN, &OrvZELFrame::OnGridKeyDown, frame);
     grid->Bind(wxEVT_GRID_CELL_CHANGING, &OrvZELFrame::OnGridCellChanging, frame);
     CurrentPage = page;

@@ -1,6 +1,7 @@
 #include "frame/ToolKeys.h"
 
 #include <wx/event.h>
+#include <wx/frame.h>
 #include <wx/toolbar.h>
 
 #include <windows.h>
@@ -25,4 +26,10 @@ void GiveKeyboardToTools(wxToolBar& tools, const std::function<void()>& leave) {
     tools.Unbind(wxEVT_CHAR_HOOK, OnToolKey);
     tools.Bind(wxEVT_CHAR_HOOK, OnToolKey);
     ::SetFocus(tools.GetHandle());
+}
+
+// The toolkit's grid keeps the release of F10 to itself, for which the system waits.
+bool OpenMenuBar(wxFrame& window) {
+    PostMessageW(window.GetHandle(), WM_SYSCOMMAND, SC_KEYMENU, 0);
+    return true;
 }

@@ -36,7 +36,7 @@ void OrvZELFrame::OnKey(wxKeyEvent& event) {
         ChangePage(key == WXK_PAGEDOWN, IsWithin(source, CurrentGrid()));
     else if ((event.GetModifiers() & ~wxMOD_SHIFT) == wxMOD_CONTROL && key == WXK_TAB)
         MoveKeyboard(IsWithin(source, CurrentGrid()));
-    else
+    else if (event.GetModifiers() != wxMOD_NONE || key != WXK_F10 || !OpenMenuBar(*this))
         event.Skip();
 }
 

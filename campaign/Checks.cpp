@@ -332,7 +332,8 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
         // tell then whether another fault kept the last rows from the radio: the protocol has no count.
         const bool replaced =
             (judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) && judge.Count() > 1) ||
-            (judge.Digital() && busyTwice && judge.Count() > 2) || judge.Count({FaultKind::Delayed}) > 1;
+            (judge.Digital() && busyTwice && judge.Count() > 2) ||
+            judge.Count({FaultKind::Delayed, FaultKind::LateAck}) > 1;
         if (status == TransferComplete && clean.status == TransferComplete && believable && !lied &&
             !asksMore && !replaced)
             judge.Expect(radio.HoldsTheSame(clean.world.radio),

@@ -23,8 +23,7 @@ constexpr int UsualLineHeight = 17;
 /// Pixels beside a text in its cell, at the usual height of a line: sum of both sides.
 constexpr int UsualMargin = 5;
 
-/// Measures texts in one font of a grid. Many columns hold the same texts, and a measurement takes some 0.02
-/// ms.
+/// Measures texts in one font of a grid. Many columns hold the same texts, and measuring one takes 20 µs.
 class Measure {
 public:
     Measure(const wxGrid* grid, const wxFont& font) : m_paper(const_cast<wxGrid*>(grid)) {

@@ -38,8 +38,7 @@ size_t DescriptionLength(int type) {
     return type == ANFM || type == MDLX ? 9 : wxString::npos;
 }
 
-/// True for the second half of a character beyond U+FFFF. Windows has two for it, and Linux has one
-/// character.
+/// True for the second half of a character beyond U+FFFF, which is in two halves on Windows only.
 bool IsSecondHalf(wxUniChar c) {
     return c.GetValue() >= 0xDC00 && c.GetValue() <= 0xDFFF;
 }

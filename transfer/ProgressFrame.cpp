@@ -20,8 +20,8 @@ namespace {
 constexpr int Border = 5;
 constexpr int GaugeRange = 100;
 constexpr int GaugeStart = 10;
-/// Time between two drawings, that between two pulses. The toolkit moves a pulsing gauge 60 times a
-/// second, which would take as much processor time as the rest of a transfer.
+/// Time between two drawings, as between two pulses. Left alone, the toolkit would move the pulsing gauge
+/// 60 times a second, which takes as much processor time as the rest of a transfer.
 constexpr std::chrono::milliseconds FrameInterval{50};
 
 constexpr const char* WidestStatus = "Sending Shadow Memory Data....";

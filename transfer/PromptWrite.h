@@ -7,7 +7,6 @@
 
 /// Hands the device what it takes without waiting. One source file for each operating system.
 ///
-/// @return number of bytes taken, from the first one on; 0 also if the device has failed, or if the system
-/// has
-///         no such writes
+/// @return number of bytes taken, from the first one on; 0 also if the device has failed, or if
+///         the system has no such writes
 [[nodiscard]] size_t WritePromptly(PortHandle handle, const char* data, size_t size);

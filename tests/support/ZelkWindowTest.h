@@ -24,14 +24,15 @@ using testbench::FilledRows;
 using testbench::RowTexts;
 
 /// Shows the window with its first page (KRV-47) before each test and destroys it afterwards. The window has
-/// its usual size, or a small one for programs of tests that say so in CMakeLists.txt.
+/// its usual size, or is less high for programs of tests that say so in CMakeLists.txt. Its width, which cuts
+/// the status bar's texts, is always the usual one.
 class ZelkWindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
         ForgetState();
         MainFrame = new ZelkFrame(nullptr);
         if (wxGetEnv("ZELK_SMALL_WINDOW", nullptr))
-            MainFrame->SetSize(700, 420);
+            MainFrame->SetSize(MainFrame->GetSize().x, 360);
         MainFrame->Show();
         MainFrame->Raise();
         wxYield();

@@ -42,12 +42,20 @@ void Hands::Move(const wxPoint& screen) {
     Rest();
 }
 
-void Hands::Click(const wxPoint& screen, int button) {
-    Move(screen);
+void Hands::Push(int button) {
     m_desk.Button(static_cast<unsigned>(button), true);
     Rest();
+}
+
+void Hands::LetGo(int button) {
     m_desk.Button(static_cast<unsigned>(button), false);
     Rest();
+}
+
+void Hands::Click(const wxPoint& screen, int button) {
+    Move(screen);
+    Push(button);
+    LetGo(button);
 }
 
 void Hands::DoubleClick(const wxPoint& screen, int button) {
@@ -62,7 +70,7 @@ void Hands::DoubleClick(const wxPoint& screen, int button) {
 
 void Hands::Drag(const wxPoint& from, const wxPoint& to, int button) {
     Move(from);
-    m_desk.Button(static_cast<unsigned>(button), true);
+    Push(button);
     // A slow window would see a single jump, which starts no drag. So move slowly, and jiggle at the end.
     constexpr int steps = 8, slowMs = 30;
     Sleep(3 * slowMs);
@@ -74,8 +82,7 @@ void Hands::Drag(const wxPoint& from, const wxPoint& to, int button) {
         Move({to.x + tremble, to.y});
         Sleep(slowMs);
     }
-    m_desk.Button(static_cast<unsigned>(button), false);
-    Rest();
+    LetGo(button);
 }
 
 void Hands::Wheel(const wxPoint& screen, int steps) {

@@ -19,6 +19,8 @@ public:
 
     // Mouse actions take screen coordinates; see ScreenSpots.h. Buttons: 1 left, 2 middle, 3 right.
     void Move(const wxPoint& screen);
+    void Push(int button = 1);
+    void LetGo(int button = 1);
     void Click(const wxPoint& screen, int button = 1);
     void DoubleClick(const wxPoint& screen, int button = 1);
     void Drag(const wxPoint& from, const wxPoint& to, int button = 1);

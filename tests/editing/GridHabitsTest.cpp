@@ -2,7 +2,6 @@
 #include "tests/editing/GridHabits.h"
 
 #include "robot/Desk.h"
-#include "robot/Hands.h"
 #include "tests/support/RunWithRobot.h"
 
 #include <wx/clipbrd.h>
@@ -72,13 +71,6 @@ protected:
         PumpUntilIdle();
     }
 
-    static void Drag(const wxPoint& from, const wxPoint& to) {
-        static Hands hands(1);
-        hands.Drag(from, to);
-        PumpFor(30);
-        PumpUntilIdle();
-    }
-
     /// Drags each border between columns, just before and just after it, where hidden columns are.
     static void DragAllEdges(int radio) {
         Retarget(radio, 0);
@@ -91,8 +83,9 @@ protected:
                 continue;
             ++shown;
             for (int side : {-1, 1}) {
-                const wxPoint edge = EdgeOf(col) + wxPoint(side, 0);
-                Drag(edge, edge + wxPoint(25, 0));
+                // Two presses near each other would be a double click.
+                const wxPoint edge = EdgeOf(col) + wxPoint(side, 4 * side);
+                DragFrom(edge, edge + wxPoint(25, 0));
                 EXPECT_EQ(HiddenOnesOpened(before), "") << "after " << ColumnTag[col] << ", " << side;
                 widened += Grid()->GetColSize(col) > before[static_cast<size_t>(col)];
                 Restore(before);
@@ -100,7 +93,7 @@ protected:
         }
         const wxPoint left = EdgeOf(MNUM) - wxPoint(Grid()->GetColSize(MNUM), 0);
         for (int side : {0, 1}) {
-            Drag(left + wxPoint(side, 0), left + wxPoint(40, 0));
+            DragFrom(left + wxPoint(side, 8 * side), left + wxPoint(40, 0));
             EXPECT_EQ(HiddenOnesOpened(before), "") << "before the first column";
         }
         EXPECT_EQ(widened, 2 * shown - 1) << "each border is dragged from both sides, except the last one";
@@ -291,7 +284,7 @@ TEST_F(GridMouse, ADraggedLabelEdgeWidensItsColumn) {
         for (int col : {MNUM, DESC, RFRQ}) {
             const auto before = Widths();
             const wxPoint edge = EdgeOf(col) - wxPoint(1, 0);
-            Drag(edge, edge + wxPoint(30, 0));
+            DragFrom(edge, edge + wxPoint(30, 0));
             auto expected = before;
             expected[static_cast<size_t>(col)] += 30;
             const auto after = Widths();
@@ -307,7 +300,7 @@ TEST_F(GridMouse, ALabelEdgeDraggedToTheLeftLeavesTheColumnItsWidth) {
     const auto before = Widths();
     for (int col : {MNUM, DESC, TCOD}) {
         const wxPoint edge = EdgeOf(col) - wxPoint(1, 0);
-        Drag(edge, edge - wxPoint(35, 0));
+        DragFrom(edge, edge - wxPoint(35, 0));
         EXPECT_EQ(Widths(), before) << ColumnTag[col];
     }
 }
@@ -348,13 +341,13 @@ TEST_F(GridMouse, RowsAndColumnsCannotBeDraggedAway) {
     const wxPoint row = RowLabelSpot(*Grid(), 3);
     // From the middle of the label, and from its lower edge at both sides.
     for (int dy : {0, 10, 12})
-        Drag(row + wxPoint(0, dy), row + wxPoint(0, 120));
+        DragFrom(row + wxPoint(0, dy), row + wxPoint(0, 120));
     const wxPoint column = ColumnLabelSpot(*Grid(), DESC);
-    Drag(column, column + wxPoint(150, 0));
-    Drag(column + wxPoint(0, 11), column + wxPoint(0, 60));
+    DragFrom(column, column + wxPoint(150, 0));
+    DragFrom(column + wxPoint(0, 11), column + wxPoint(0, 60));
     const wxPoint cell = CellSpot(*Grid(), 3, DESC);
-    Drag(cell, cell + wxPoint(0, 70));
-    Drag(cell + wxPoint(0, 11), cell + wxPoint(0, 70));
+    DragFrom(cell, cell + wxPoint(0, 70));
+    DragFrom(cell + wxPoint(0, 11), cell + wxPoint(0, 70));
     EXPECT_EQ(Heights(), heights);
     EXPECT_EQ(ChangesSince(before), "");
     for (int col = 0; col < ColumnTotal; ++col)

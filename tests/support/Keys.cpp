@@ -66,6 +66,20 @@ void DoubleClickAt(const wxPoint& screen, int button) {
     Await(arrivals, 2);
 }
 
+void DragFrom(const wxPoint& from, const wxPoint& to) {
+    const Arrivals arrivals;
+    TheHands().Move(from);
+    TheHands().Push();
+    PumpUntilIdle();
+    // A single jump starts no drag.
+    for (const wxPoint& spot : {from + (to - from) / 2, to + wxPoint(1, 0), to}) {
+        TheHands().Move(spot);
+        PumpUntilIdle();
+    }
+    TheHands().LetGo();
+    Await(arrivals, 1);
+}
+
 void TypeIntoCell(wxGrid& grid, int row, int column, const std::string& text) {
     grid.GoToCell(row, column);
     grid.SetFocus();

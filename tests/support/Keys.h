@@ -34,6 +34,9 @@ void DoubleClickAt(const wxWindow& window, const wxPoint& client, int button = 1
 void ClickAt(const wxPoint& screen, int button = 1);
 void DoubleClickAt(const wxPoint& screen, int button = 1);
 
+/// Moves the pointer from one point of the screen to another with the left button held down.
+void DragFrom(const wxPoint& from, const wxPoint& to);
+
 /// Puts the grid's cursor on a cell (0-based), types the text and ends with Return, as a user does.
 void TypeIntoCell(wxGrid& grid, int row, int column, const std::string& text);
 

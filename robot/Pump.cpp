@@ -29,7 +29,7 @@ void PumpFor(int ms) {
 
 void PumpUntilIdle() {
     // Shorter than an animation's frame time: a theme may show an animation all the time.
-    constexpr int quietRounds = 3, roundMs = 5;
+    constexpr int quietRounds = 3, roundMs = 3;
     PumpLoop loop;
     const auto deadline = Clock::now() + Milliseconds(500);
     // Count rounds, don't measure time: on a busy machine time passes without any look at the events.

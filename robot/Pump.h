@@ -12,7 +12,7 @@ bool PumpUntil(const std::function<bool()>& condition, int ms = 5000);
 /// Dispatches events for `ms` milliseconds.
 void PumpFor(int ms);
 
-/// Dispatches events until none has arrived for 15 ms, for half a second at most.
+/// Dispatches events until none has arrived for 9 ms, for half a second at most.
 void PumpUntilIdle();
 
 } // namespace testbench

@@ -39,10 +39,11 @@ void ChoosePath(wxDialog* dialog, const std::string& path) {
     }
     const wxString wanted = wxString::FromUTF8(path);
     file->SetPath(wanted);
-    PumpFor(300);
-    EXPECT_TRUE(PumpUntil([&] { return file->GetPath() == wanted; }, 3000))
-        << "the file dialog did not take " << path << " but gives \"" << file->GetPath().utf8_string()
-        << "\"";
+    const auto isTaken = [&] { return file->GetPath() == wanted; };
+    PumpUntil(isTaken, 3000);
+    PumpUntilIdle();
+    EXPECT_TRUE(isTaken()) << "the file dialog did not take " << path << " but gives \""
+                           << file->GetPath().utf8_string() << "\"";
 }
 
 bool IsOpen(const wxDialog* dialog) {

@@ -350,7 +350,7 @@ TEST_F(ListCells, PoppedUpTakeArrowKeysAndClicks) {
     // The list is below its cell; the first entry is near its upper edge.
     PopUp(10, MODE);
     const wxWindow& control = *EditorAt(10, MODE)->GetControl();
-    ClickAt(control.ClientToScreen(wxPoint(20, control.GetClientSize().y + 14)));
+    ClickAt(control.ClientToScreen(wxPoint(20, control.GetClientSize().y + 8)));
     EXPECT_TRUE(PumpUntil([] { return !IsOpen(); }));
     EXPECT_EQ(Text(10, MODE), "W");
 }

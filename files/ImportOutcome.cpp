@@ -5,6 +5,8 @@
 
 #include <wx/grid.h>
 
+#include <algorithm>
+
 namespace {
 
 /// Most recently created instance.
@@ -26,7 +28,7 @@ SkippedLines::~SkippedLines() {
 
 void SkippedLines::Note(int line) {
     if (innermost)
-        innermost->m_lines.insert(line);
+        innermost->m_noted.push_back(line);
 }
 
 void SkippedLines::NoteWithoutMemory() {
@@ -34,15 +36,23 @@ void SkippedLines::NoteWithoutMemory() {
         ++innermost->m_withoutMemory;
 }
 
+std::vector<int> SkippedLines::Lines() const {
+    std::vector<int> lines = m_noted;
+    std::sort(lines.begin(), lines.end());
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
+    return lines;
+}
+
 wxString SkippedLines::Text() const {
-    return Count() == 0 ? wxString() : Counted(Count(), "%d line skipped", "%d lines skipped");
+    const int count = Count();
+    return count == 0 ? wxString() : Counted(count, "%d line skipped", "%d lines skipped");
 }
 
 wxString SkippedLines::Story() const {
     wxString story;
-    if (Count() > 0)
-        story = Counted(Count(), "%d line was skipped: ", "%d lines were skipped: ") +
-                NumberList({m_lines.begin(), m_lines.end()});
+    if (const std::vector<int> lines = Lines(); !lines.empty())
+        story = Counted(static_cast<int>(lines.size()), "%d line was skipped: ", "%d lines were skipped: ") +
+                NumberList(lines);
     if (m_withoutMemory > 0)
         story += (story.empty() ? "" : "\n") +
                  Counted(m_withoutMemory, "%d line holds no memory", "%d lines hold no memory");

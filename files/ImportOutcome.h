@@ -5,7 +5,6 @@
 
 #include <wx/string.h>
 
-#include <set>
 #include <vector>
 
 class wxGrid;
@@ -26,7 +25,7 @@ public:
     /// For readers: a line says that there is no memory. It does not count as skipped, since nothing is lost.
     static void NoteWithoutMemory();
 
-    int Count() const { return static_cast<int>(m_lines.size()); }
+    int Count() const { return static_cast<int>(Lines().size()); }
 
     /// "3 lines skipped", empty if there are none.
     wxString Text() const;
@@ -36,8 +35,13 @@ public:
     wxString Story() const;
 
 private:
+    /// Their numbers in order, each once.
+    std::vector<int> Lines() const;
+
     SkippedLines* const m_outer;
-    std::set<int> m_lines;
+    /// In the order of the calls. One block of memory: a hundred thousand small ones, allocated between those
+    /// of the records that come and go, leave gaps that some heaps search one by one.
+    std::vector<int> m_noted;
     int m_withoutMemory = 0;
 };
 

@@ -147,6 +147,9 @@ void ProgressFrame::AppendStatus(const wxString& text) {
 
 void ProgressFrame::SetRange(int rows) {
     m_mainGauge->SetRange(rows);
+    // Not every edition of the toolkit does so.
+    if (m_mainGauge->GetValue() > rows)
+        m_mainGauge->SetValue(rows);
 }
 
 int ProgressFrame::Range() const {

@@ -156,15 +156,16 @@ TEST_F(TRecordGrid, TransferFlagsAreAddedToThoseOfTheRow) {
 
 TEST_F(TRecordGrid, DebugLogMovesTheMainGauge) {
     ProgressFrame progress(MainFrame);
-    progress.MainGauge()->SetRange(255);
+    progress.SetRange(255);
     m_context.Progress = &progress;
     for (const auto& [address, value] : {std::pair{"0020", 1}, {"1FE0", 255}, {"2000", 0}, {"1000", 128}}) {
         m_context.RxLine = wxString("T1430") + address;
         decodeDebugLog(m_context);
         EXPECT_EQ(progress.MainGauge()->GetValue(), value) << address;
     }
-    progress.MainGauge()->SetRange(100);
+    progress.SetRange(100);
+    EXPECT_EQ(progress.MainGauge()->GetValue(), 100);
     decodeDebugLog(m_context); // 128 is out of range
-    EXPECT_LE(progress.MainGauge()->GetValue(), 100);
+    EXPECT_EQ(progress.MainGauge()->GetValue(), 100);
     m_context.Progress = nullptr;
 }

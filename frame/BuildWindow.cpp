@@ -271,8 +271,13 @@ void OrvZELFrame::OnMenuClose(wxMenuEvent& event) {
 }
 
 void OrvZELFrame::DoGiveHelp(const wxString& text, bool show) {
-    // The pointer is still on the clicked tool, and the help of the tool would cover the outcome.
-    if (show && OutcomeIsTold() && !m_menuIsOpen)
-        return;
+    if (show && OutcomeIsTold()) {
+        // The pointer is still on the clicked tool, and the help of the tool would cover the outcome.
+        if (!m_menuIsOpen)
+            return;
+        // The toolkit brings back the text that the first help covered, and that of a tool may have covered
+        // one from before the outcome.
+        wxFrame::DoGiveHelp(wxString(), false);
+    }
     wxFrame::DoGiveHelp(text, show);
 }

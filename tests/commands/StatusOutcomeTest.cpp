@@ -126,6 +126,23 @@ TEST_F(Outcome, ComesBackWhenTheHelpOfAMenuEntryGoes) {
     });
 }
 
+TEST_F(Outcome, ComesBackWhenTheHelpOfAMenuEntryGoesAlsoWithThePointerOnATool) {
+    ShowAndFocus(*MainFrame);
+    RunWithRobot([](Robot& robot) {
+        const auto shows = [](const char* text) { return [text] { return FirstField() == text; }; };
+        MoveToTool(robot, "Save radio data file");
+        robot.Ask([] {
+            TellOutcome("NOT SAVED: disk full");
+            return 0;
+        });
+        robot.Press("F10");
+        robot.Press("Down");
+        EXPECT_TRUE(robot.WaitFor(shows("Open a memory data file")));
+        robot.Press("Escape", 2);
+        EXPECT_TRUE(robot.WaitFor(shows("NOT SAVED: disk full")));
+    });
+}
+
 TEST_F(Outcome, OfACheckTellsHowManyCellsWereReplacedAndTheFirstRow) {
     for (int row : {7, 9})
         FillRowsFromDefault({row});

@@ -106,8 +106,11 @@ TEST_F(CellPaint, GoesFromEveryAnalogCellThatTheUserEntersAValueIn) {
     EXPECT_EQ(Text(5, SCAN), "4");
     EXPECT_EQ(PlainOf(5), std::set<std::string>{"SCAN"}) << "by key";
     PaintAll(5);
-    ClickAt(CellSpot(*Grid(), 5, SCAN));
-    EXPECT_NE(Text(5, SCAN), "4");
+    // The first box. In a narrow font the middle of the cell is behind the last one.
+    const wxRect cell = Grid()->CellToRect(5, SCAN);
+    ClickAt(*Grid()->GetGridWindow(),
+            Grid()->CalcScrolledPosition(wxPoint(cell.x + 5, cell.y + cell.height / 2)));
+    EXPECT_EQ(Text(5, SCAN), "5");
     EXPECT_EQ(PlainOf(5), std::set<std::string>{"SCAN"}) << "by click";
     PaintAll(5);
     Choose(5, MODE, "N");

@@ -126,12 +126,13 @@ TEST_F(ScanCells, AreDrawnWithLinesWhateverTheFontHas) {
         const int left = 1 + box * width;
         int lines = 0;
         int middle = 0;
-        for (int y = 0; y < cell.height && lines == 0; ++y)
+        int below = 0;
+        for (; below < cell.height && lines == 0; ++below)
             for (int x = left; x < left + width; ++x)
-                lines += isDark(x, y);
+                lines += isDark(x, below);
         EXPECT_GE(lines, width / 2) << "no upper side of box " << box;
         for (int x = left + width / 3; x < left + width * 2 / 3; ++x)
-            for (int y = cell.height / 4; y < cell.height / 2; ++y)
+            for (int y = below + 1; y < below + width / 2; ++y)
                 middle += isDark(x, y);
         EXPECT_EQ(middle > 0, box == 1) << "box " << box;
     }

@@ -26,6 +26,9 @@ void RunCommand(int id);
 /// or Return, which opens the list on GTK.
 extern const char* const KeyOfOk;
 
+/// Whether Return opens a list that has the keyboard; then Escape closes the list and not its dialog.
+extern const bool ReturnOpensLists;
+
 /// Chooses the entry at this position and clicks OK once it can be pressed.
 void ChooseAndAccept(wxDialog* dialog, wxChoice* choice, int position);
 

@@ -3,5 +3,6 @@
 namespace testbench {
 
 const char* const KeyOfOk = "Alt+O";
+const bool ReturnOpensLists = true;
 
 } // namespace testbench

@@ -3,5 +3,6 @@
 namespace testbench {
 
 const char* const KeyOfOk = "Return";
+const bool ReturnOpensLists = false;
 
 } // namespace testbench

@@ -51,9 +51,9 @@ TEST_F(Selecting, WithNothingChosenOkCannotBePressed) {
     DialogScript dialogs;
     dialogs.Expect(DialogKind::Other, RadioTitle).Do([](wxDialog* dialog) {
         ClickButton(dialog, wxID_OK);
-        // The first key opens the list, and the second one closes it.
         PressKey("Return");
-        PressKey("Escape");
+        if (ReturnOpensLists)
+            PressKey("Escape");
         EXPECT_TRUE(dialog->IsModal()) << "the dialog is still open";
         RadioChoice->SetSelection(1);
         EXPECT_TRUE(PumpUntil([dialog] { return OkCanBePressed(dialog); }));

@@ -14,7 +14,7 @@
 namespace {
 
 /// Watches one control. Shared by the control's event handlers, and destroyed with them.
-class ListKeys {
+class ListKeys : public std::enable_shared_from_this<ListKeys> {
 public:
     ListKeys(wxComboBox& control, ChoiceListListener& listener)
         : m_control(control), m_listener(listener), m_handle(control.GetHWND()),
@@ -84,7 +84,7 @@ private:
         m_listener.TakeFromList(m_taken);
     }
 
-    /// Called before the toolkit handles the notification, which may destroy the control.
+    /// Called before the toolkit handles the notification.
     void Note(UINT notification) {
         switch (notification) {
         case CBN_DROPDOWN:
@@ -97,7 +97,8 @@ private:
             m_taken = m_control.GetCurrentSelection();
             break;
         case CBN_SELENDCANCEL:
-            m_isLeft = true;
+            // A control that loses the keyboard sends it also with its list closed.
+            m_isLeft = m_isOpen;
             break;
         case CBN_CLOSEUP:
             m_isOpen = false;
@@ -110,9 +111,15 @@ private:
     static LRESULT CALLBACK Watch(HWND window, UINT message, WPARAM what, LPARAM sender, UINT_PTR,
                                   DWORD_PTR data) {
         auto* keys = reinterpret_cast<ListKeys*>(data);
-        if (message == WM_COMMAND && reinterpret_cast<HWND>(sender) == keys->m_handle)
-            keys->Note(HIWORD(what));
-        return DefSubclassProc(window, message, what, sender);
+        if (message != WM_COMMAND || reinterpret_cast<HWND>(sender) != keys->m_handle)
+            return DefSubclassProc(window, message, what, sender);
+        // The end of an edit may destroy the control.
+        const auto kept = keys->shared_from_this();
+        keys->Note(HIWORD(what));
+        const LRESULT result = DefSubclassProc(window, message, what, sender);
+        if (HIWORD(what) == CBN_CLOSEUP)
+            keys->m_isLeft = false;
+        return result;
     }
 
     /// Tells the watched controls of one parent apart.
@@ -123,7 +130,7 @@ private:
     const HWND m_handle;
     const HWND m_parent;
     bool m_isOpen = false;
-    /// The list was closed without a choice.
+    /// The list is being closed without a choice.
     bool m_isLeft = false;
     /// Position of the entry that was last taken, or shown before the list opened.
     int m_taken = wxNOT_FOUND;

@@ -1,17 +1,14 @@
 // Time from the start of a process to a responsive window.
+#include "bench/BareFrame.h"
 #include "bench/Benches.h"
-#include "bench/ToolkitFloor.h"
 #include "catalogue/PageModel.h"
 #include "frame/ZelkApp.h"
 #include "frame/ZelkMain.h"
 
 #include <benchmark/benchmark.h>
 #include <wx/app.h>
-#include <wx/dcclient.h>
-#include <wx/frame.h>
 #include <wx/grid.h>
 #include <wx/init.h>
-#include <wx/sizer.h>
 
 #include <unistd.h>
 
@@ -48,28 +45,10 @@ public:
     }
 };
 
-/// Frame of the program's size with one grid like that of the program's first page.
 class BareChild : public wxApp {
 public:
     bool OnInit() override {
-        using namespace RadioCatalogue;
-        GridContent content;
-        content.rows = RadioRows[1][0] + 1;
-        wxArrayString blank, defaults;
-        blank.Add("", ColumnTotal);
-        for (const char* text : PageDefault[1])
-            defaults.Add(text);
-        content.texts.assign(static_cast<size_t>(content.rows), blank);
-        content.texts[0] = defaults;
-        auto* frame = new wxFrame(nullptr, wxID_ANY, "Bare", wxDefaultPosition, wxSize(927, 680));
-        auto* sizer = new wxBoxSizer(wxVERTICAL);
-        wxGrid* grid = MakeBareGrid(frame, content);
-        WriteTexts(grid, content);
-        sizer->Add(grid, 1, wxEXPAND);
-        frame->SetSizer(sizer);
-        frame->Layout();
-        frame->Show();
-        EndWhenUsable(grid);
+        EndWhenUsable(ShowBareFrame());
         return true;
     }
 };

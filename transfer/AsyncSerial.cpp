@@ -3,6 +3,7 @@
 
 #include "transfer/PortLines.h"
 #include "transfer/PortLock.h"
+#include "transfer/PromptRead.h"
 #include "transfer/PromptThread.h"
 #include "transfer/PromptWrite.h"
 
@@ -190,8 +191,9 @@ void AsyncSerial::clearReadCallback() {
 }
 
 void AsyncSerial::doRead() {
+    const size_t size = PromptReadSize(m_impl->port.native_handle(), m_impl->readBuffer.size());
     m_impl->port.async_read_some(
-        boost::asio::buffer(m_impl->readBuffer),
+        boost::asio::buffer(m_impl->readBuffer.data(), size),
         [this](const boost::system::error_code& error, size_t count) { readEnd(error, count); });
 }
 

@@ -40,10 +40,18 @@ private:
 } // namespace
 
 void SleepPrecisely(std::chrono::steady_clock::time_point end) {
+    using std::chrono::steady_clock, std::chrono::milliseconds;
     static const Timer timer;
-    const auto left = end - WakeUp - std::chrono::steady_clock::now();
-    if (left.count() > 0)
+    // Some systems round a timer up to whole milliseconds. The longer rest on the clock would be wasted on
+    // others.
+    static bool ticksInMilliseconds = false;
+    steady_clock::duration left = end - WakeUp - steady_clock::now();
+    if (ticksInMilliseconds)
+        left = std::chrono::floor<milliseconds>(left);
+    if (left.count() > 0) {
         timer.Sleep(left);
+        ticksInMilliseconds = ticksInMilliseconds || steady_clock::now() > end;
+    }
     while (std::chrono::steady_clock::now() < end) {
     }
 }

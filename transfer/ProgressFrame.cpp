@@ -3,6 +3,7 @@
 
 #include "commands/FrameLook.h"
 #include "commands/SpokenNames.h"
+#include "transfer/GaugeMove.h"
 #include "transfer/TransferSystem.h"
 
 #include <wx/button.h>
@@ -157,7 +158,7 @@ int ProgressFrame::Range() const {
 }
 
 void ProgressFrame::SetValue(int rows) {
-    m_mainGauge->SetValue(rows);
+    MoveGauge(*m_mainGauge, rows);
 }
 
 void ProgressFrame::Pulse() {

@@ -1,7 +1,9 @@
 // Plays a day's first jobs in the Windows program under Wine, by real keys and clicks: for an analog and for
 // a digital radio it opens a channel file, sends it, reads the radio back into an empty page and saves that
-// page. Then it pulls the cable in the middle of a transfer. The radios play at pseudo-terminals that Wine
-// has for COM1 and COM2.
+// page. Then it pulls the cable of each in the middle of a transfer, plugs it in again and sends once more.
+// With --dark it sends a file alone and looks whether texts can be read. The radios play at pseudo-terminals
+// that Wine has for COM1 and COM2.
+#include "catalogue/Contrast.h"
 #include "catalogue/RadioTables.h"
 #include "resources/ToolImages.h"
 #include "robot/Hands.h"
@@ -15,8 +17,10 @@
 #include <wx/image.h>
 #include <wx/init.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <optional>
@@ -36,11 +40,13 @@ struct Job {
     const char* model;
     const char* label; ///< entry of the dialog of target radios
     const char* port;  ///< what Wine calls the radio's port, and the name of the radio's link
-    int portPlace;     ///< place in the list of ports, from 0
+    int portPlace;     ///< in the list of the ports of both radios, from 0
     const char* example;
     const char* sendTitle;
     const char* readTitle;
-    bool asksForModes; ///< the program asks before it sends, as it doesn't know the radio's modes yet
+    bool asksForModes;       ///< the program asks before it sends, as it doesn't know the radio's modes yet
+    const char* timeoutText; ///< as window-texts prints it
+    int acknowledged;        ///< rows that a radio has acknowledged that disappears at its fifth answer
     Tour::ChannelList (*readBack)(Tour::ChannelList channels);
 };
 
@@ -53,6 +59,8 @@ constexpr Job AnalogJob{
     .sendTitle = "Send to ANFM Radio Progress",
     .readTitle = "Read ANFM Memory Data Progress",
     .asksForModes = false,
+    .timeoutText = "Timeout Error\\nVerify Radio is in PC Download mode\\nand correct COM port is selected",
+    .acknowledged = 4,
     .readBack = [](Tour::ChannelList channels) { return channels; },
 };
 
@@ -66,6 +74,9 @@ constexpr Job DigitalJob{
     .sendTitle = "Send to RP25 Radio Progress",
     .readTitle = "Read NP25 Memory Data Progress",
     .asksForModes = true,
+    .timeoutText =
+        "Timeout Error\\nVerify Radio is in PC Download mode (3-8)\\nand correct COM port is selected",
+    .acknowledged = 3, // the first answer is that to the default row
     .readBack = [](Tour::ChannelList channels) { return AsReadBack(std::move(channels), "023"); },
 };
 
@@ -102,17 +113,55 @@ public:
 
     void Play() {
         SaveAForeignName();
-        const Process program({"wine", m_options["--zelk"].string()});
+        const Process program({"wine", m_options["--zelk"].string(), WindowsName(ExampleOf(AnalogJob))});
         WaitFor(MainTitle, 120);
+        Rest(2000);
         Done("start");
+        m_window = Desk().FocusedArea();
         {
             const RadioProcess analog = Radio(AnalogJob), digital = Radio(DigitalJob);
             analog.RequireReady();
             digital.RequireReady();
             PlayJob(AnalogJob);
+            OpenFile(ExampleOf(DigitalJob));
             PlayJob(DigitalJob);
         }
-        PullTheCable();
+        PullTheCable(AnalogJob);
+        PullTheCable(DigitalJob);
+        Close();
+    }
+
+    /// Opens and sends a file with the dark colours of the system, which must be set.
+    void PlayInTheDark() {
+        m_dark = true;
+        const Process program({"wine", m_options["--zelk"].string(), WindowsName(ExampleOf(AnalogJob))});
+        WaitFor(MainTitle, 120);
+        Rest(2000);
+        m_window = Desk().FocusedArea();
+        const RadioProcess radio = Radio(AnalogJob);
+        radio.RequireReady();
+        PickPort(AnalogJob, 0);
+        Click(ToolImage::SelectAll);
+        Click(ToolImage::Upload);
+        WaitFor(AnalogJob.sendTitle, 30);
+        Rest(1500);
+        Done("progress window in the dark");
+        const wxRect progress = Desk().FocusedArea();
+        NeedReadable(progress, {12, 24, progress.width - 24, 16}, "the progress window");
+        WaitFor("Write to Radio Status", 180);
+        Done("box in the dark");
+        const wxRect box = Desk().FocusedArea();
+        NeedReadable(box, {55, 24, box.width - 70, 25}, "the box");
+        m_hands.Press("Return");
+        WaitFor(MainTitle);
+        Click(ToolImage::ClearAll);
+        Rest(500);
+        Done("page in the dark");
+        const wxRect& window = m_window;
+        NeedReadable(window, {12, 24, 180, 18}, "the menu bar");
+        NeedReadable(window, {100, 76, 500, 18}, "a heading");
+        NeedReadable(window, {100, 122, 500, 16}, "a row");
+        NeedReadable(window, {8, window.height - 22, 700, 14}, "the status bar");
         Close();
     }
 
@@ -159,13 +208,14 @@ private:
         return RadioProcess(m_options["--radio"], arguments);
     }
 
+    fs::path ExampleOf(const Job& job) { return m_options["--examples"] / job.example; }
+
+    /// The page holds the example.
     void PlayJob(const Job& job) {
         std::printf("%s\n", job.model);
-        const fs::path example = m_options["--examples"] / job.example;
-        OpenFile(example);
-        PickPort(job);
-        Send(job);
-        CompareRadio(job, Tour::ChannelsOfFile(example.string()));
+        PickPort(job, job.portPlace);
+        Send(job, job.asksForModes);
+        CompareRadio(job, Tour::ChannelsOfFile(ExampleOf(job).string()));
         AddPage(job);
         Click(ToolImage::Download);
         WaitFor("Read Channel Data from Radio\\?");
@@ -173,8 +223,8 @@ private:
         Transfer("read back", job.readTitle, "Read from Radio Status");
         const fs::path saved = m_options["--files"] / (std::string(job.model) + "-read-back.zelk");
         SaveAs(saved);
-        Compare(job.readBack(Tour::ChannelsOfFile(example.string())), Tour::ChannelsOfFile(saved.string()),
-                "the page read back");
+        Compare(job.readBack(Tour::ChannelsOfFile(ExampleOf(job).string())),
+                Tour::ChannelsOfFile(saved.string()), "the page read back");
     }
 
     void OpenFile(const fs::path& file) {
@@ -208,11 +258,12 @@ private:
         m_hands.Press("Return");
     }
 
-    void PickPort(const Job& job) {
+    /// @param place in the list of ports, from 0
+    void PickPort(const Job& job, int place) {
         Click(ToolImage::Port);
         WaitFor(PortTitle, 60);
         m_hands.Press("Home");
-        m_hands.Press("Down", job.portPlace);
+        m_hands.Press("Down", place);
         Done(std::string("port ") + job.port);
         m_hands.Press("Return");
         WaitFor(MainTitle);
@@ -232,10 +283,10 @@ private:
         Rest(1000);
     }
 
-    void Send(const Job& job) {
+    void Send(const Job& job, bool asksForModes) {
         Click(ToolImage::SelectAll);
         Click(ToolImage::Upload);
-        if (job.asksForModes) {
+        if (asksForModes) {
             WaitFor("Radio Operating Modes", 60);
             Done("operating modes");
             m_hands.Press("Return");
@@ -249,30 +300,43 @@ private:
         Done(step);
         WaitFor(box, 180);
         Done(step + " done");
+        // Wine centres the first box of a program alone.
+        if (std::exchange(m_isFirstBox, false))
+            Need(IsCentred(Desk().FocusedArea(), m_window), "the box is not in the middle of the window");
         m_hands.Press("Return");
         WaitFor(MainTitle);
         Done("page after " + step);
     }
 
-    /// The device disappears in the middle of a transfer. The text is that of every system, and the window
-    /// works on.
-    void PullTheCable() {
-        std::printf("a cable that is pulled\n");
-        const Job& job = AnalogJob;
-        const RadioProcess radio = Radio(job, {"--fault", "unplug@5"});
+    /// The device disappears in the middle of a transfer: texts and rows are those of every system, and the
+    /// window works on.
+    void PullTheCable(const Job& job) {
+        std::printf("a cable that is pulled: %s\n", job.model);
+        const Tour::ChannelList channels = Tour::ChannelsOfFile(ExampleOf(job).string());
+        {
+            const RadioProcess radio = Radio(job, {"--fault", "unplug@5"});
+            radio.RequireReady();
+            OpenFile(ExampleOf(job));
+            PickPort(job, 0); // the other radio's port is not there
+            Click(ToolImage::SelectAll);
+            Click(ToolImage::Upload);
+            WaitFor("Error", 90);
+            Done("time-out box");
+            NeedText(job.timeoutText);
+            m_hands.Press("Return");
+            WaitFor("Write to Radio Status", 60);
+            Done("status after the loss");
+            NeedText("Timeout");
+            m_hands.Press("Return");
+            WaitFor(MainTitle);
+            Done("window after the loss");
+            NeedText(std::to_string(job.acknowledged) + " of " + std::to_string(channels.size()) +
+                     " selected rows sent");
+        }
+        const RadioProcess radio = Radio(job);
         radio.RequireReady();
-        OpenFile(m_options["--examples"] / job.example);
-        PickPort(job);
-        Click(ToolImage::SelectAll);
-        Click(ToolImage::Upload);
-        WaitFor("Error", 60);
-        Done("time-out box");
-        m_hands.Press("Return");
-        WaitFor("Write to Radio Status", 60);
-        Done("status after the loss");
-        m_hands.Press("Return");
-        WaitFor(MainTitle);
-        Done("window after the loss");
+        Send(job, false);
+        CompareRadio(job, channels);
     }
 
     void CompareRadio(const Job& job, const Tour::ChannelList& wanted) {
@@ -291,8 +355,21 @@ private:
         std::printf("    %s holds the %zu channels of the file\n", where.c_str(), found.size());
     }
 
+    /// The window in front must show this text.
+    void NeedText(const std::string& text) {
+        Process texts({"wine", m_options["--texts"].string()});
+        Need(texts.WaitForExit(20000) == 0, "the texts of the window can't be read");
+        std::string found;
+        for (const char c : texts.Output())
+            if (c != '\r')
+                found += c;
+        Need(("\n" + found).find("\n" + text + "\n") != std::string::npos,
+             "the window shows no text \"" + text + "\", but:\n" + found);
+        std::printf("    the window shows \"%s\"\n", text.c_str());
+    }
+
     void Click(ToolImage tool) {
-        const wxImage picture = GetToolImage(tool);
+        const wxImage picture = GetToolImage(tool, m_dark);
         std::optional<wxPoint> spot;
         for (int tries = 0; tries < 50 && !spot; ++tries) {
             Rest(200);
@@ -300,6 +377,36 @@ private:
         }
         Need(spot.has_value(), "a tool is not to be seen");
         m_hands.Click(*spot);
+    }
+
+    /// The part of a window, from its upper left corner, must be dark and have texts that stand out.
+    static void NeedReadable(const wxRect& window, const wxRect& part, const std::string& what) {
+        const wxImage picture =
+            Desk().Picture({window.x + part.x, window.y + part.y, part.width, part.height});
+        std::map<wxUint32, int> counts;
+        std::vector<wxColour> colours;
+        for (int y = 0; y < picture.GetHeight(); ++y)
+            for (int x = 0; x < picture.GetWidth(); ++x) {
+                colours.emplace_back(picture.GetRed(x, y), picture.GetGreen(x, y), picture.GetBlue(x, y));
+                ++counts[colours.back().GetRGB()];
+            }
+        const auto most = std::max_element(counts.begin(), counts.end(),
+                                           [](const auto& a, const auto& b) { return a.second < b.second; });
+        wxColour background;
+        background.SetRGB(most->first);
+        double contrast = 1;
+        for (const wxColour& colour : colours)
+            contrast = std::max(contrast, ContrastOf(background, colour));
+        Need(ContrastOf(background, *wxWHITE) >= ReadableContrast, what + " is not dark");
+        Need(contrast >= ReadableContrast, what + " has texts that can't be read");
+    }
+
+    /// Areas of windows with their frames.
+    static bool IsCentred(const wxRect& box, const wxRect& window) {
+        constexpr int tolerance = 30;
+        const wxPoint apart =
+            (box.GetTopLeft() + box.GetBottomRight() - window.GetTopLeft() - window.GetBottomRight()) / 2;
+        return std::abs(apart.x) <= tolerance && std::abs(apart.y) <= tolerance;
     }
 
     /// Waits until a window with this title has the keyboard.
@@ -351,6 +458,9 @@ private:
     std::map<std::string, fs::path> m_options;
     Hands m_hands;
     int m_step = 0;
+    wxRect m_window; ///< of the program
+    bool m_isFirstBox = true;
+    bool m_dark = false; ///< whether the tools have the outline for dark backgrounds
 };
 
 } // namespace
@@ -359,11 +469,13 @@ int main(int argc, char** argv) {
     std::map<std::string, fs::path> options;
     for (int k = 1; k + 1 < argc; k += 2)
         options[argv[k]] = argv[k + 1];
-    for (const char* name : {"--zelk", "--radio", "--examples", "--pictures", "--ports", "--files"})
+    for (const char* name :
+         {"--zelk", "--texts", "--radio", "--examples", "--pictures", "--ports", "--files"})
         if (!options.count(name)) {
             std::fprintf(stderr,
-                         "usage: %s --zelk PROGRAM --radio PROGRAM --examples FOLDER --pictures FOLDER "
-                         "--ports FOLDER --files FOLDER\n",
+                         "usage: %s --zelk PROGRAM --texts PROGRAM --radio PROGRAM --examples FOLDER "
+                         "--pictures FOLDER "
+                         "--ports FOLDER --files FOLDER [--dark colours]\n",
                          argv[0]);
             return 2;
         }
@@ -372,7 +484,7 @@ int main(int argc, char** argv) {
     wxInitAllImageHandlers();
     WineTour tour(options);
     try {
-        tour.Play();
+        options.contains("--dark") ? tour.PlayInTheDark() : tour.Play();
     } catch (const std::exception& failure) {
         tour.Fail();
         std::printf("FAILED: %s\n", failure.what());

@@ -69,6 +69,13 @@ ProgressFrame::ProgressFrame(wxWindow* parent, wxWindowID id, const wxString& ti
 
     m_frameRate = std::make_unique<FrameRate>(*this, FrameInterval);
     m_cancelButton->Bind(wxEVT_BUTTON, &ProgressFrame::OnCancel, this);
+    // On Windows only a dialog has its button pressed by Return.
+    m_cancelButton->Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
+        if (event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER)
+            Cancelled = true;
+        else
+            event.Skip();
+    });
     Bind(wxEVT_CHAR_HOOK, &ProgressFrame::OnKey, this);
     Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
         m_isDrawn = true;

@@ -153,18 +153,18 @@ TEST_F(ProgressFrameTest, StandsInTheMiddleOfItsParentOrElseOfTheScreen) {
     auto* parent = new wxFrame(nullptr, wxID_ANY, "Parent", wxPoint(100, 80), wxSize(700, 500));
     ShowAndFocus(*parent);
     // Rounding and the window manager's decorations may shift it by some pixels.
-    const auto near = [](const wxRect& inner, const wxRect& outer) {
+    const auto isNear = [](const wxRect& inner, const wxRect& outer) {
         const wxPoint a = inner.GetPosition() + inner.GetSize() / 2;
         const wxPoint b = outer.GetPosition() + outer.GetSize() / 2;
         return std::abs(a.x - b.x) <= 30 && std::abs(a.y - b.y) <= 30;
     };
     const wxRect overParent = MakeFrame(parent).GetRect();
-    EXPECT_TRUE(near(overParent, parent->GetRect())) << overParent.x << "," << overParent.y;
+    EXPECT_TRUE(isNear(overParent, parent->GetRect())) << overParent.x << "," << overParent.y;
     DestroyFrame();
     wxConfigBase::Get()->DeleteAll();
     DestroyAndWait(parent);
     const wxRect alone = MakeFrame().GetRect();
-    EXPECT_TRUE(near(alone, wxDisplay(0u).GetGeometry())) << alone.x << "," << alone.y;
+    EXPECT_TRUE(isNear(alone, wxDisplay(0u).GetGeometry())) << alone.x << "," << alone.y;
 }
 
 TEST_F(ProgressFrameTest, KeepsItsSizeAndPlaceForTheNextOne) {

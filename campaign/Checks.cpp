@@ -334,8 +334,16 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
             (judge.Happened({FaultKind::Twice, FaultKind::LineBefore}) && judge.Count() > 1) ||
             (judge.Digital() && busyTwice && judge.Count() > 2) ||
             judge.Count({FaultKind::Delayed, FaultKind::LateAck}) > 1;
+        // Nobody is asked where the whole page is sent: a radio whose stamp has lost a zero is purged at
+        // once.
+        const bool purgesMore =
+            faulty.spoiltToProgram && Sends(faulty, "T204000011") && !Sends(clean, "T204000011");
+        if (purgesMore && status == TransferComplete)
+            for (const auto& [row, memory] : radio.digital.memories)
+                judge.Expect(HasSent(faulty, memory),
+                             "a purged radio holds memory " + std::to_string(row) + ", which wasn't sent");
         if (status == TransferComplete && clean.status == TransferComplete && believable && !lied &&
-            !asksMore && !replaced)
+            !asksMore && !purgesMore && !replaced)
             judge.Expect(radio.HoldsTheSame(clean.world.radio),
                          "a complete write, but these memories of the radio differ: " +
                              Shown(Differences(radio, clean.world.radio)));

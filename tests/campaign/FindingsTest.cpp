@@ -91,6 +91,51 @@ TEST_F(Finding, RadioThatIsNotTheKnownOneIsPurged) {
     EXPECT_EQ(clean.world.radio.digital.memories.size(), scenario.rows.size());
 }
 
+/// The byte to the program that is the last digit of the stamp which the radio tells.
+int LastByteOfTheStamp(const Scenario& scenario, const World& world, Sheet& sheet) {
+    int bytes = 0, last = -1;
+    RunJob(scenario, scenario.jobs[0], world, sheet, [&](int64_t, const std::string& line) {
+        if (!line.starts_with("> "))
+            return;
+        const int length = static_cast<int>(line.size()) - 2;
+        if (line.starts_with("> T20B000021"))
+            last = bytes + length - 3;
+        bytes += length + 1;
+    });
+    return last;
+}
+
+TEST_F(Finding, RadioWhoseStampLosesAZeroIsPurgedAndHoldsWhatWasSent) {
+    Scenario scenario = WriteToUnknownRadio(2);
+    const std::string stamp = "20260101000000";
+    scenario.radio.digitalHabits.stamp = stamp;
+    Job job = scenario.jobs[0];
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    World world = FirstWorld(scenario, sheet);
+    world.program.stamp = world.program.heldStamp = stamp;
+    Simulator::DigitalMemory other =
+        RunJob(scenario, job, world, sheet).world.radio.digital.memories.begin()->second;
+    other.address = 200;
+    world.radio.digital.memories[200] = other;
+    const Outcome clean = RunJob(scenario, job, world, sheet);
+    EXPECT_TRUE(clean.world.radio.digital.memories.contains(200));
+
+    job.faults = {{FaultKind::Lost, Side::ToProgram, LastByteOfTheStamp(scenario, world, sheet), 1}};
+    Outcome faulty = RunJob(scenario, job, world, sheet);
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_EQ(faulty.world.radio.digital.memories.size(), scenario.rows.size());
+    EXPECT_EQ(BrokenConditions(scenario, job, world, clean, faulty), std::vector<std::string>{});
+
+    auto& memories = faulty.world.radio.digital.memories;
+    const int first = memories.begin()->first;
+    memories.erase(first);
+    memories[200] = other;
+    EXPECT_EQ(BrokenConditions(scenario, job, world, clean, faulty),
+              (std::vector<std::string>{"a purged radio holds memory 200, which wasn't sent",
+                                        "row " + std::to_string(first) +
+                                            " counts as sent, but the radio hasn't got it"}));
+}
+
 TEST_F(Finding, DoubledAnswerAloneStillCompletesTheWrite) {
     for (const int protocol : {0, 2}) {
         const Scenario scenario = WriteToUnknownRadio(protocol);

@@ -426,9 +426,11 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
                                  "a complete read, but memory " + std::to_string(row) + " hasn't come");
         }
     }
+    // Another fault ends what a babbling radio sends. No text tells whether it belongs to the configuration.
+    const bool babbledToTheEnd = judge.Happened({FaultKind::Babble}) && judge.Count() > 1;
     if (job.mode == ReadConfigMode && status == TransferComplete && clean.status == TransferComplete &&
         !faulty.forgedToProgram && !judge.Happened({FaultKind::LineBefore, FaultKind::EndRecord}) &&
-        !garbledTwice)
+        !garbledTwice && !babbledToTheEnd)
         judge.Expect(faulty.configLines == clean.configLines, "a complete read of another configuration");
 
     // Breaches of the protocol, as the radio counts them.

@@ -33,6 +33,7 @@ public:
     virtual void SleepUntil(Moment end) = 0;
 };
 
-/// The system's clock. Its waits leave the processor to others; WaitForText returns at least every 5 ms, and
-/// at once when the port's thread delivers the end of a line.
+/// The system's clock. Its waits leave the processor to others, but for a moment around an expected answer
+/// (AnswerRhythm); WaitForText returns at least every 5 ms, and at once when the port's thread delivers the
+/// end of a line.
 TransferClock& SystemClock();

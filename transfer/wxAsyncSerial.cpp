@@ -7,9 +7,11 @@
 #include <wx/strconv.h>
 
 #include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <string>
+#include <thread>
 
 wxString SerialRxBuffer;
 wxMutex SerialRxMutex;
@@ -25,6 +27,7 @@ namespace {
 std::mutex arrivalMutex;
 std::condition_variable arrival;
 wxChar awaited = 0;
+std::atomic<unsigned> arrivals = 0; // of the awaited character
 
 bool IsAwaited(unsigned character) {
     constexpr unsigned withoutParity = 0x7F;
@@ -118,6 +121,23 @@ bool wxAsyncSerial::WaitForData(std::chrono::steady_clock::time_point end, wxCha
     return arrival.wait_until(lock, end, HasAwaited);
 }
 
+bool wxAsyncSerial::WatchForData(std::chrono::steady_clock::time_point end, wxChar lineEnd) {
+    unsigned before = 0;
+    {
+        const std::lock_guard lock(arrivalMutex);
+        awaited = lineEnd;
+        before = arrivals;
+        if (HasAwaited())
+            return true;
+    }
+    while (arrivals == before) {
+        if (std::chrono::steady_clock::now() >= end)
+            return false;
+        std::this_thread::yield(); // the port's thread may wait for this processor
+    }
+    return true;
+}
+
 void wxAsyncSerial::readCallback(const char* data, size_t length) {
     {
         const wxMutexLocker lock(SerialRxMutex);
@@ -126,6 +146,8 @@ void wxAsyncSerial::readCallback(const char* data, size_t length) {
     // The lock keeps the notification from falling between a waiting thread's look and its sleep.
     const std::lock_guard lock(arrivalMutex);
     if (std::any_of(data, data + length,
-                    [](char character) { return IsAwaited(static_cast<unsigned char>(character)); }))
+                    [](char character) { return IsAwaited(static_cast<unsigned char>(character)); })) {
+        ++arrivals;
         arrival.notify_all();
+    }
 }

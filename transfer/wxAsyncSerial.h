@@ -74,6 +74,10 @@ public:
     /// it has delivered the character, not at each piece of a line. Returns true if it has come.
     static bool WaitForData(std::chrono::steady_clock::time_point end, wxChar lineEnd);
 
+    /// Same as WaitForData, but doesn't sleep, so that it returns sooner after the character has come. Takes
+    /// all of a processor meanwhile.
+    static bool WatchForData(std::chrono::steady_clock::time_point end, wxChar lineEnd);
+
 private:
     void readCallback(const char* data, size_t length);
 

@@ -96,6 +96,30 @@ TEST_F(SystemClockWait, ForDataEndsWhenTheTimeIsUp) {
     EXPECT_GE(Steady::now(), end);
 }
 
+TEST_F(SystemClockWait, WithoutSleepEndsWhenThePortsThreadDeliversTheEndOfALine) {
+    std::thread radio([this] {
+        m_device.Write("T204");
+        std::this_thread::sleep_for(milliseconds(50));
+        m_device.Write("000000D2\r");
+    });
+    EXPECT_TRUE(wxAsyncSerial::WatchForData(Steady::now() + seconds(60), '\r'));
+    EXPECT_EQ(wxAsyncSerial::GetData(), "T204000000D2\r");
+    radio.join();
+}
+
+TEST_F(SystemClockWait, WithoutSleepEndsAtOnceWhenALineIsThere) {
+    ASSERT_TRUE(m_device.Write("\r"));
+    ASSERT_TRUE(wxAsyncSerial::WaitForData(Steady::now() + seconds(60), '\r'));
+    EXPECT_TRUE(wxAsyncSerial::WatchForData(Steady::now(), '\r'));
+}
+
+TEST_F(SystemClockWait, WithoutSleepEndsWhenTheTimeIsUp) {
+    ASSERT_TRUE(m_device.Write("T204"));
+    const auto end = Steady::now() + milliseconds(30);
+    EXPECT_FALSE(wxAsyncSerial::WatchForData(end, '\r'));
+    EXPECT_GE(Steady::now(), end);
+}
+
 TEST_F(SystemClockWait, ForTextEndsEarlyForTheEventsOfTheWindow) {
     const auto end = Steady::now() + seconds(60);
     SystemClock().WaitForText(end, 'A');

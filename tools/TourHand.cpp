@@ -70,18 +70,24 @@ wxDialog* TourHand::Pick(const std::string& caption, wxChoice*& choice, const st
         const int from = choice->GetSelection();
         return choice->FindString(text) - (from == wxNOT_FOUND ? 0 : from);
     });
-    m_robot.Press("Down", std::max(steps, 0));
-    m_robot.Press("Return");
+    // A busy window takes its time. Without a wait another click would follow one that it hasn't seen yet.
+    const auto press = [this](int times) {
+        m_robot.Settle();
+        m_robot.Press("Down", times);
+        m_robot.Press("Return");
+        m_robot.Settle();
+    };
+    press(std::max(steps, 0));
     for (int tries = 0; tries < 40 && !m_robot.WaitFor(chosen, 300); ++tries) {
         m_robot.Click(spot);
-        m_robot.Press("Down");
-        m_robot.Press("Return");
+        press(1);
     }
     Need(m_robot.WaitFor(chosen), "can't choose " + text);
     return dialog;
 }
 
 void TourHand::ClickOk(wxDialog* dialog, const std::string& caption) {
+    Need(m_robot.WaitFor([&] { return dialog->FindWindow(wxID_OK)->IsEnabled(); }), "OK can't be pressed");
     const wxPoint ok = m_robot.Ask([&] { return MiddleOf(*dialog->FindWindow(wxID_OK)); });
     m_robot.Click(ok);
     Need(m_robot.WaitForNoDialog(), caption + " stays open");

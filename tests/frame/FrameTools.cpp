@@ -37,13 +37,28 @@ Hands& Person() {
 
 } // namespace
 
+namespace {
+
+/// A click is lost on a dialog that isn't shown yet, or on a button that isn't ready yet.
+void AwaitDialog(const wxDialog* dialog) {
+    EXPECT_TRUE(PumpUntil([dialog] { return Person().FocusedTitle() == dialog->GetTitle().utf8_string(); }));
+    PumpFor(30);
+}
+
+} // namespace
+
 void ClickButton(wxDialog* dialog, int id) {
     wxWindow* button = dialog->FindWindow(id);
     ASSERT_NE(button, nullptr) << "no button " << id;
-    // A click is lost on a dialog that isn't shown yet, or on a button that isn't ready yet.
-    EXPECT_TRUE(PumpUntil([dialog] { return Person().FocusedTitle() == dialog->GetTitle().utf8_string(); }));
-    PumpFor(30);
+    AwaitDialog(dialog);
     Person().Click(MiddleOf(*button));
+}
+
+void ClickDeadButton(wxDialog* dialog, int id) {
+    wxWindow* button = dialog->FindWindow(id);
+    ASSERT_NE(button, nullptr) << "no button " << id;
+    AwaitDialog(dialog);
+    ClickAt(MiddleOf(*button));
 }
 
 void CancelWithKey(wxDialog* dialog) {

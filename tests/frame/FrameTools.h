@@ -36,6 +36,9 @@ void ChooseAndAccept(wxDialog* dialog, wxChoice* choice, int position);
 /// in its own event loop.
 void ClickButton(wxDialog* dialog, int id);
 
+/// Clicks a button that does nothing, and waits until the dialog has handled that.
+void ClickDeadButton(wxDialog* dialog, int id);
+
 /// Presses Escape in a modal dialog, which handles it like a click.
 void CancelWithKey(wxDialog* dialog);
 

@@ -71,7 +71,7 @@ TEST_F(SelectingAPort, WithNonePresentOffersNothing) {
         EXPECT_TRUE(PortList.empty());
         PumpFor(100);
         EXPECT_FALSE(OkCanBePressed(dialog));
-        ClickButton(dialog, wxID_OK);
+        ClickDeadButton(dialog, wxID_OK);
         PressKey("Return");
         EXPECT_TRUE(dialog->IsModal()) << "the dialog is still open";
         ClickButton(dialog, wxID_CANCEL);

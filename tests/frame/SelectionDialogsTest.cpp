@@ -50,7 +50,7 @@ TEST_F(Selecting, WithNothingChosenOkCannotBePressed) {
     PretendRadio(6);
     DialogScript dialogs;
     dialogs.Expect(DialogKind::Other, RadioTitle).Do([](wxDialog* dialog) {
-        ClickButton(dialog, wxID_OK);
+        ClickDeadButton(dialog, wxID_OK);
         PressKey("Return");
         if (ReturnOpensLists)
             PressKey("Escape");

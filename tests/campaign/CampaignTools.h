@@ -69,4 +69,16 @@ inline std::pair<Outcome, Outcome> CleanAndFaulty(Scenario scenario, std::vector
     return {std::move(clean), RunJob(scenario, job, world, sheet)};
 }
 
+/// A read of channels from a radio that sends hardware information first.
+inline Scenario ReadWithHardware() {
+    Scenario scenario = FirstScenario([](const Scenario& each) {
+        return each.radio.IsDigital() && each.target->protocol == 2 && each.target->firmware[1] == '2' &&
+               each.jobs[0].mode == ReadChannelsMode && each.radio.digital.hardware.size() == 1 &&
+               !each.knowsRadio;
+    });
+    scenario.jobs.resize(1);
+    scenario.jobs[0].faults.clear();
+    return scenario;
+}
+
 } // namespace Campaign

@@ -127,6 +127,23 @@ TEST_F(CampaignChecks, NoticeAMemoryThatHasNotComeInACompleteRead) {
     EXPECT_TRUE(told);
 }
 
+TEST_F(CampaignChecks, NoticeAnotherConfigurationUnlessASecondFaultEndsWhatTheRadioBabbles) {
+    Scenario scenario = ReadWithHardware();
+    scenario.jobs[0].mode = ReadConfigMode;
+    EXPECT_EQ(Sentences(scenario, [](Outcome& outcome) { outcome.configLines.pop_back(); },
+                        {{FaultKind::Twice, Side::ToProgram, 8}}),
+              std::vector<std::string>{"a complete read of another configuration"});
+    // The radio babbles instead of its second and third text. Its end record comes because it is sent twice.
+    const auto lacksTexts = [](Outcome& outcome) {
+        EXPECT_EQ(outcome.happened, (std::vector{true, true}));
+        EXPECT_EQ(outcome.status, TransferComplete);
+        EXPECT_EQ(outcome.configLines.size(), 1U);
+    };
+    EXPECT_EQ(Sentences(scenario, lacksTexts,
+                        {{FaultKind::Babble, Side::ToProgram, 9}, {FaultKind::Twice, Side::ToProgram, 11}}),
+              std::vector<std::string>{});
+}
+
 TEST_F(CampaignChecks, NoticeZoneSlotsThatDoNotAddUp) {
     EXPECT_TRUE(FirstSentence(Read(), [](Outcome& outcome) {
                     ++outcome.world.program.zones[3];

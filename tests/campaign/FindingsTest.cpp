@@ -175,18 +175,6 @@ TEST_F(Finding, CancelAfterADoubledAnswerStillSendsTheEndOfTheTransfer) {
     EXPECT_EQ(faulty.sent.back().substr(0, 8), "T9030000");
 }
 
-/// A read of channels from a radio that sends hardware information first.
-Scenario ReadWithHardware() {
-    Scenario scenario = FirstScenario([](const Scenario& each) {
-        return each.radio.IsDigital() && each.target->protocol == 2 && each.target->firmware[1] == '2' &&
-               each.jobs[0].mode == ReadChannelsMode && each.radio.digital.hardware.size() == 1 &&
-               !each.knowsRadio;
-    });
-    scenario.jobs.resize(1);
-    scenario.jobs[0].faults.clear();
-    return scenario;
-}
-
 TEST_F(Finding, DoubledEndOfTheHardwareInformationDoesNotEndTheRead) {
     // Messages: two refused hellos, hello, speed, modes, serial number, one text, end.
     const auto [clean, faulty] = CleanAndFaulty(ReadWithHardware(), {{FaultKind::Twice, Side::ToProgram, 7}});

@@ -24,6 +24,9 @@ public:
     void Key(unsigned code, bool down);
     /// Presses or releases a mouse button: 1 left, 2 middle, 3 right, 4 wheel up, 5 wheel down.
     void Button(unsigned button, bool down);
+    /// Clicks twice with a mouse button, 1 to 3, without a moment between the clicks: on a busy machine the
+    /// system would take them for two single ones.
+    void DoubleClick(unsigned button);
     /// Moves the pointer, in screen coordinates.
     void Pointer(const wxPoint& screen);
 

@@ -162,6 +162,13 @@ void Desk::Button(unsigned button, bool down) {
     XSync(m_connection->Get(), False);
 }
 
+void Desk::DoubleClick(unsigned button) {
+    for (const Bool down : {True, False, True, False}) {
+        XTestFakeButtonEvent(m_connection->Get(), button, down, CurrentTime);
+    }
+    XSync(m_connection->Get(), False);
+}
+
 void Desk::Pointer(const wxPoint& screen) {
     XTestFakeMotionEvent(m_connection->Get(), -1, screen.x, screen.y, CurrentTime);
     XSync(m_connection->Get(), False);

@@ -159,6 +159,11 @@ void Desk::Button(unsigned button, bool down) {
     Send(input);
 }
 
+void Desk::DoubleClick(unsigned button) {
+    for (const bool down : {true, false, true, false})
+        Button(button, down);
+}
+
 void Desk::Pointer(const wxPoint& screen) {
     INPUT input{};
     input.type = INPUT_MOUSE;

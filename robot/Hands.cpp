@@ -59,12 +59,8 @@ void Hands::Click(const wxPoint& screen, int button) {
 }
 
 void Hands::DoubleClick(const wxPoint& screen, int button) {
-    Click(screen, button);
-    // Ignore the robot's pace: at a slow one the toolkit would see two single clicks.
-    for (const bool down : {true, false}) {
-        m_desk.Button(static_cast<unsigned>(button), down);
-        Sleep(8);
-    }
+    Move(screen);
+    m_desk.DoubleClick(static_cast<unsigned>(button));
     Rest();
 }
 

@@ -17,9 +17,11 @@ Hands& TheHands() {
     return hands;
 }
 
-/// Waits until that many clicks and key presses have ended, and handles what they cause.
+/// Waits until that many clicks and key presses have ended, and handles what they cause. On a busy machine
+/// that takes its time; what the window manager takes doesn't come.
 void Await(const Arrivals& arrivals, size_t count) {
-    PumpUntil([&] { return arrivals.Count() >= count; }, 500);
+    constexpr int patienceMs = 2000;
+    PumpUntil([&] { return arrivals.Count() >= count; }, patienceMs);
     PumpUntilIdle();
 }
 

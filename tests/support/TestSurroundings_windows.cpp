@@ -24,7 +24,7 @@ void KeepUsersFilesOut(const std::filesystem::path& home) {
         std::filesystem::create_directories(home / folder);
 }
 
-/// No test starts one there.
+/// The system ends them with this one: see tests/frame/StartedProgram_windows.cpp.
 void EndChildren() {}
 
 } // namespace testbench

@@ -4,6 +4,7 @@
 #include "commands/CommandIds.h"
 #include "robot/Files.h"
 #include "robot/TempFolder.h"
+#include "tests/frame/DocumentOpener.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/frame/ToolkitLabels.h"
 #include "tests/support/Keys.h"
@@ -11,7 +12,6 @@
 #include "tests/support/ZelkWindowTest.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 
 using namespace testbench;
@@ -26,25 +26,12 @@ protected:
         ZelkWindowTest::SetUp();
         ShowAndFocus(*MainFrame);
         fs::remove(m_guide);
-        m_path = std::getenv("PATH");
     }
 
     void TearDown() override {
-        setenv("PATH", m_path.c_str(), 1);
         fs::remove(m_guide);
         ZelkWindowTest::TearDown();
     }
-
-    /// Replaces the system's command that opens a document by one that records its arguments.
-    void PutOpenerIntoPlace() {
-        const fs::path opener = m_folder / "xdg-open";
-        WriteFile(opener, "#!/bin/sh\nprintf '%s' \"$*\" >'" + OpenedFile().string() + ".part'\nmv '" +
-                              OpenedFile().string() + ".part' '" + OpenedFile().string() + "'\n");
-        fs::permissions(opener, fs::perms::owner_all);
-        setenv("PATH", (m_folder.Path().string() + ":" + m_path).c_str(), 1);
-    }
-
-    fs::path OpenedFile() const { return m_folder / "opened"; }
 
     static void ExpectComplaint(DialogScript& dialogs) {
         dialogs
@@ -53,12 +40,8 @@ protected:
             .Style(PlainBox);
     }
 
-    const fs::path m_program = fs::read_symlink("/proc/self/exe");
-    const fs::path m_guide = m_program.parent_path() / "ZelkUserGuide.pdf";
+    const fs::path m_guide = ThisProgram().parent_path() / "ZelkUserGuide.pdf";
     const TempFolder m_folder;
-
-private:
-    std::string m_path;
 };
 
 } // namespace
@@ -68,25 +51,25 @@ TEST_F(HelpFile, StandsBesideTheExecutable) {
 }
 
 TEST_F(HelpFile, IsOpenedWithTheSystemsApplication) {
-    PutOpenerIntoPlace();
+    const DocumentOpener opener(m_folder.Path(), DocumentOpener::Kind::Recording);
     WriteFile(m_guide, "%PDF-1.4\n");
     const DialogScript noDialog;
     RunCommand(IdHelp);
-    ASSERT_TRUE(PumpUntil([this] { return fs::exists(OpenedFile()); }));
-    EXPECT_EQ(ReadFile(OpenedFile()), m_guide.string());
+    ASSERT_TRUE(PumpUntil([&] { return !opener.Opened().empty(); }));
+    EXPECT_EQ(opener.Opened(), m_guide.string());
 }
 
 TEST_F(HelpFile, ThatIsMissingIsComplainedAbout) {
-    PutOpenerIntoPlace();
+    const DocumentOpener opener(m_folder.Path(), DocumentOpener::Kind::Recording);
     DialogScript dialogs;
     ExpectComplaint(dialogs);
     RunCommand(IdHelp);
-    EXPECT_FALSE(fs::exists(OpenedFile()));
+    EXPECT_EQ(opener.Opened(), "");
 }
 
 TEST_F(HelpFile, ThatNoApplicationOpensIsComplainedAbout) {
+    const DocumentOpener opener(m_folder.Path(), DocumentOpener::Kind::Missing);
     WriteFile(m_guide, "%PDF-1.4\n");
-    setenv("PATH", m_folder.Path().c_str(), 1);
     DialogScript dialogs;
     ExpectComplaint(dialogs);
     RunCommand(IdHelp);
@@ -109,12 +92,13 @@ TEST_F(HelpFile, AboutBoxComesUpAndGoes) {
     RunWithRobot([](Robot& robot) {
         TellGui([] { RunCommand(IdAbout); });
         EXPECT_TRUE(robot.WaitForWindow("About Orv Zelk"));
-        const std::vector<std::string> shown = robot.Ask([] { return ShownLabels("GtkAboutDialog"); });
-        for (const char* text : {"Orv Zelk", "1.0.0",
-                                 "Channel loading software for Orv Radios. \n"
-                                 "10 JUN 2026 \n\n"
-                                 "wxWidgets 3.2.5-Windows-Unicode build",
-                                 "Copyright 2026 the Zelk developers"})
+        const std::vector<std::string> shown = robot.Ask([] { return AboutBoxLabels(); });
+        std::vector<std::string> wanted = NameLabels("Orv Zelk", "1.0.0");
+        wanted.insert(wanted.end(), {"Channel loading software for Orv Radios. \n"
+                                     "10 JUN 2026 \n\n"
+                                     "wxWidgets 3.2.5-Windows-Unicode build",
+                                     "Copyright 2026 the Zelk developers"});
+        for (const std::string& text : wanted)
             EXPECT_EQ(std::count(shown.begin(), shown.end(), text), 1)
                 << text << "\nshown: " << testing::PrintToString(shown);
         robot.Press("Escape");

@@ -46,14 +46,18 @@ void CollectLabels(void* widget, void* texts) {
 
 } // namespace
 
-std::vector<std::string> ShownLabels(const std::string& windowClass) {
+std::vector<std::string> AboutBoxLabels() {
     List* const windows = Find<List*()>("gtk_window_list_toplevels")();
     std::vector<std::string> texts;
     for (const List* window = windows; window; window = window->next)
-        if (IsOf(windowClass.c_str(), window->data))
+        if (IsOf("GtkAboutDialog", window->data))
             CollectLabels(window->data, &texts);
     Find<void(List*)>("g_list_free")(windows);
     return texts;
+}
+
+std::vector<std::string> NameLabels(const std::string& name, const std::string& version) {
+    return {name, version};
 }
 
 } // namespace testbench

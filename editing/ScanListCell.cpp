@@ -55,7 +55,8 @@ void SetScanCell(wxGrid* grid, int row, int col, const wxString& text, bool flag
         return;
     grid->SetCellRenderer(row, col, new ScanlistRenderer);
     grid->SetCellEditor(row, col, new ScanlistEditor(flag));
-    grid->SetCellFont(row, col, grid->GetDefaultCellFont());
+    // No font of its own, so that it follows the grid's, also on paper.
+    grid->SetCellFont(row, col, wxNullFont);
 }
 
 std::optional<int> ScanMaskOf(const wxString& text) {

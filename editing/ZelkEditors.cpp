@@ -102,8 +102,7 @@ void SetScanColumn(wxGrid* grid, int type) {
         return;
     }
     // Clicks are mapped to boxes from the cell's left edge.
-    SetColumn(grid, SCAN, Placed::AtTheTopLeft, new ScanlistEditor(false), new ScanlistRenderer)
-        .SetFont(grid->GetDefaultCellFont());
+    SetColumn(grid, SCAN, Placed::AtTheTopLeft, new ScanlistEditor(false), new ScanlistRenderer);
 }
 
 void SetColumns(wxGrid* grid) {
@@ -128,7 +127,7 @@ void SetColumnsP25(wxGrid* grid) {
     const PageParameterRecord& page = CurrentParameters();
     SetNumberColumn(grid);
     SetColumn(grid, SHAD, Placed::Centred, new wxGridCellTextEditor(4)).SetReadOnly();
-    SetColumn(grid, SCAN, Placed::Centred, NewListEditor<ScanYesNo>()).SetFont(grid->GetDefaultCellFont());
+    SetColumn(grid, SCAN, Placed::Centred, NewListEditor<ScanYesNo>());
     SetColumn(grid, ZONE, Placed::Centred, NewZoneEditor(page.Type));
     SetColumn(grid, DESC, Placed::AsOthers, NewDescriptionEditor(page.Type));
     SetColumn(grid, MODE, Placed::Centred, NewLinkedEditor<P25Modes>());

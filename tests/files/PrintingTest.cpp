@@ -1,4 +1,5 @@
 // Sheets of a page, drawn on a bitmap.
+#include "editing/ScanListCell.h"
 #include "tests/files/Paper.h"
 #include "tests/files/PrintTest.h"
 
@@ -443,6 +444,19 @@ TEST_F(Printing, TextsAndLinesHaveTheColoursOfPaper) {
     // A blank column shows only the lines between rows.
     const wxRect lines = WhereColour(picture, wxRect(1000, 1000, 1, 1000), PaleGrey);
     EXPECT_FALSE(lines.IsEmpty());
+}
+
+TEST_F(Printing, TextsOfEveryColumnHaveTheFontOfPaper) {
+    CurrentGrid()->SetDefaultCellFont(wxFontInfo(14));
+    for (const char* type : {"ANFM", "RP25", "NP25", "KDAR"}) {
+        SCOPED_TRACE(type);
+        RetargetTo(type);
+        FillPage();
+        SetScanCell(CurrentGrid(), 2, SCAN, "2", false);
+        for (const DrawnText& drawn : Trace(1))
+            EXPECT_EQ(drawn.font.GetPointSize(), 10) << drawn.text;
+        EXPECT_EQ(CurrentGrid()->GetCellFont(1, SCAN).GetPointSize(), 14) << "the screen has its own";
+    }
 }
 
 TEST_F(Printing, TheLookOfPaperDoesNotStayOnTheScreen) {

@@ -35,13 +35,25 @@ std::unique_ptr<ZelkPrintout> MakePrintout(ZelkFrame* frame) {
     return std::make_unique<ZelkPrintout>(frame, CurrentGrid(), PageStrings[CurrentPage].RadioName);
 }
 
+/// What the print dialog begins with: not every system's asks the printout for its sheets.
+wxPrintDialogData DialogDataFor(ZelkPrintout& printout) {
+    wxPrintDialogData data(*PrintData);
+    int min, max, from, to;
+    printout.GetPageInfo(&min, &max, &from, &to);
+    data.SetMinPage(min);
+    data.SetMaxPage(max);
+    data.SetFromPage(from);
+    data.SetToPage(to);
+    return data;
+}
+
 } // namespace
 
 void ZelkFrame::OnPrint(wxCommandEvent&) {
     CommitOpenEditor();
-    wxPrintDialogData dialogData(*PrintData);
-    wxPrinter printer(&dialogData);
     const std::unique_ptr<ZelkPrintout> printout = MakePrintout(this);
+    wxPrintDialogData dialogData = DialogDataFor(*printout);
+    wxPrinter printer(&dialogData);
     const CommandsOff quiet;
     wxString outcome;
     if (printer.Print(this, printout.get(), true))
@@ -57,9 +69,9 @@ void ZelkFrame::OnPrint(wxCommandEvent&) {
 // Intentional: nothing checks whether the preview is usable.
 void ZelkFrame::OnPrintPreview(wxCommandEvent&) {
     CommitOpenEditor();
-    wxPrintDialogData dialogData(*PrintData);
-    auto* preview =
-        new SteadyPreview(MakePrintout(this).release(), MakePrintout(this).release(), &dialogData);
+    std::unique_ptr<ZelkPrintout> printout = MakePrintout(this);
+    wxPrintDialogData dialogData = DialogDataFor(*printout);
+    auto* preview = new SteadyPreview(MakePrintout(this).release(), printout.release(), &dialogData);
     auto* frame = new wxPreviewFrame(preview, this, "Print Preview", wxDefaultPosition, wxDefaultSize,
                                      wxDEFAULT_FRAME_STYLE | wxFRAME_FLOAT_ON_PARENT);
     // The preview takes the keyboard focus; return it on close.

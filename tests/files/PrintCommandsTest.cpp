@@ -356,18 +356,6 @@ TEST_F(PrintCommands, WhatWasChosenInThePrintDialogIsKeptForTheNextTime) {
     EXPECT_EQ(PageSetupData->GetPrintData().GetOrientation(), wxPORTRAIT) << "the page set-up has its own";
 }
 
-TEST_F(PrintCommands, OfferAllSheetsInPortrait) {
-    DialogScript script;
-    script.Expect(DialogKind::Print, AnyText()).Answer(wxID_CANCEL).Set([](wxDialog* dialog) {
-        auto* print = dynamic_cast<wxPrintDialogBase*>(dialog);
-        ASSERT_NE(print, nullptr);
-        EXPECT_EQ(print->GetPrintDialogData().GetMinPage(), 1);
-        EXPECT_EQ(print->GetPrintDialogData().GetMaxPage(), 4);
-        EXPECT_EQ(print->GetPrintDialogData().GetPrintData().GetOrientation(), wxPORTRAIT);
-    });
-    RunCommand(IdPrint);
-}
-
 TEST_F(PrintCommands, AFailureIsToldInTheLogAndTheStatusBar) {
     const testbench::LogKeeper log;
     for (const auto& [answer, reported] :

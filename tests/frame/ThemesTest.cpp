@@ -209,6 +209,7 @@ TEST_P(InTheme, PrintedSheetsAreThoseOfTheLightTheme) {
     // The same window without the theme that the test is run for.
     // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     ZelkWindowTest::SetUp();
+    ShowAndFocus(*MainFrame);
     const auto [paintedLight, clearedLight] = print();
     EXPECT_TRUE(painted == paintedLight);
     EXPECT_TRUE(cleared == clearedLight);

@@ -56,7 +56,7 @@ TEST_F(ToolsInUse, LookAfterTheirDialogAsBefore) {
             robot.Move(spot);
             EXPECT_TRUE(robot.WaitFor([&] { return !looksAsBefore(); })) << "a tool under the pointer";
             robot.Click(spot);
-            ASSERT_TRUE(robot.WaitFor([] { return !OpenDialogs().empty(); }));
+            ASSERT_NE(robot.WaitForDialog(".*"), nullptr);
             robot.Settle();
             robot.Move(elsewhere);
             robot.Press("Escape");

@@ -209,7 +209,11 @@ void TakeReply(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     const wxString& line = context.RxLine;
     if (ReplacesStamp(dialogue, line)) {
-        context.Phase = WaitOn;
+        // An earlier answer came twice and this one a line late: the version may be too old for the data.
+        if (line.StartsWith(VersionReply))
+            TakeVersion(dialogue);
+        if (context.Status == TransferOk)
+            context.Phase = WaitOn;
     } else if (line == AckRecord) {
         TakeAck(dialogue);
     } else if (line == NakRecord) {

@@ -252,6 +252,23 @@ TEST_F(Finding, WriteDoesNotGoOnWithoutTheStamp) {
     EXPECT_EQ(faulty.world.radio.digital.memories, scenario.radio.digital.memories);
 }
 
+TEST_F(Finding, VersionThatComesInPlaceOfTheStampMayBeTooOld) {
+    Scenario scenario = WriteToUnknownRadio(0);
+    scenario.rows.begin()->second[SHD0] = "300";
+    Job job = scenario.jobs[0];
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    World world = FirstWorld(scenario, sheet);
+    // No question about modes, during which a second answer would arrive and be dropped.
+    world.program.modes = 0x70;
+    EXPECT_EQ(RunJob(scenario, job, world, sheet).status, TransferInvalidTransmitData);
+    // The agreement to the protocol comes twice, so that each answer comes a line late.
+    job.faults = {{FaultKind::Twice, Side::ToProgram, 0}};
+    const Outcome faulty = RunJob(scenario, job, world, sheet);
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferInvalidTransmitData);
+    EXPECT_EQ(faulty.world.radio.digital.memories, scenario.radio.digital.memories);
+}
+
 TEST_F(Finding, GarbledLineOfAConfigurationIsAskedForAgain) {
     Scenario scenario = ReadWithHardware();
     scenario.jobs[0].mode = ReadConfigMode;

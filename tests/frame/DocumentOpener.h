@@ -6,7 +6,7 @@
 
 namespace testbench {
 
-/// Replaces the system's application for PDF files during its lifetime, for this user at most.
+/// Replaces the system's application for PDF files during its lifetime.
 class DocumentOpener {
 public:
     enum class Kind { Recording, Missing };

@@ -8,7 +8,16 @@
 namespace testbench {
 
 bool HasDisplay() {
-    return GetSystemMetrics(SM_CXSCREEN) > 0;
+    // Wine starts its desktop with the first window, and a busy machine takes longer for that than Wine
+    // waits.
+    for (int tries = 0; tries < 20; ++tries) {
+        const HWND window =
+            CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+        if (window != nullptr)
+            return DestroyWindow(window) != 0;
+        Sleep(500);
+    }
+    return false;
 }
 
 void KeepUsersFilesOut(const std::filesystem::path& home) {

@@ -5,15 +5,11 @@
 #include "commands/CommandIds.h"
 #include "commands/OpenEditor.h"
 #include "editing/ZelkEdit.h"
+#include "tests/editing/CrashReport.h"
 
 #include <wx/notebook.h>
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <csignal>
-#include <cstdio>
-#include <cstring>
 #include <iomanip>
 #include <iostream>
 #include <numeric>
@@ -22,42 +18,11 @@ namespace {
 
 constexpr size_t RecentSteps = 10;
 
-/// Text reported if the program crashes: a signal handler may not build texts.
-char lastWords[8192];
-
-/// Reports the last steps if the program crashes during its lifetime.
-class CrashReport {
-public:
-    CrashReport() {
-        struct sigaction action {};
-        action.sa_handler = [](int signal) {
-            [[maybe_unused]] const auto written = write(STDERR_FILENO, lastWords, strlen(lastWords));
-            sigaction(signal, &Before(signal), nullptr); // the fault occurs again
-            if (signal == SIGABRT)
-                raise(signal);
-        };
-        for (int signal : {SIGSEGV, SIGABRT})
-            sigaction(signal, &action, &Before(signal));
-    }
-    ~CrashReport() {
-        for (int signal : {SIGSEGV, SIGABRT})
-            sigaction(signal, &Before(signal), nullptr);
-    }
-    CrashReport(const CrashReport&) = delete;
-    CrashReport& operator=(const CrashReport&) = delete;
-
-private:
-    static struct sigaction& Before(int signal) {
-        static struct sigaction segv, abrt;
-        return signal == SIGSEGV ? segv : abrt;
-    }
-};
-
 } // namespace
 
 void RandomEdits::Note(const std::string& text) {
     m_recent.back() += " " + text;
-    snprintf(lastWords, sizeof lastWords, "%s\n", Recent().c_str());
+    CrashReport::Note(Recent());
 }
 
 void RandomEdits::SetUp() {

@@ -1,6 +1,8 @@
 // The example files as their tests see them: a list of them, and their contents.
 #pragma once
 
+#include "tests/support/Places.h"
+
 #include <gtest/gtest.h>
 #include <wx/init.h>
 #include <wx/xml/xml.h>
@@ -85,7 +87,7 @@ struct Memory {
 };
 
 inline std::filesystem::path GetPath(const ExampleFile& file) {
-    return std::filesystem::path(ZELK_EXAMPLES_DIR) / (std::string(file.name) + ".zelk");
+    return std::filesystem::path(testbench::ExamplesFolder()) / (std::string(file.name) + ".zelk");
 }
 
 inline bool IsP25(const ExampleFile& file) {

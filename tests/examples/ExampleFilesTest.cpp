@@ -3,6 +3,7 @@
 #include "tests/examples/ExampleFiles.h"
 
 #include "robot/Files.h"
+#include "tests/support/Places.h"
 
 #include <gtest/gtest.h>
 #include <wx/mstream.h>
@@ -84,7 +85,8 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 
 std::vector<Source> ReadSources() {
     std::vector<Source> sources;
-    const std::vector<std::string> lines = ReadLines(fs::path(ZELK_EXAMPLES_DIR) / "public-channels.csv");
+    const std::vector<std::string> lines =
+        ReadLines(fs::path(testbench::ExamplesFolder()) / "public-channels.csv");
     // The first line contains the headings.
     for (size_t k = 1; k < lines.size(); ++k) {
         std::vector<std::string> f = Split(lines[k], ',');
@@ -153,7 +155,7 @@ TEST(ExampleFolder, HoldsTheListedFilesAndNoOthers) {
         expected.insert(GetPath(file).filename().string());
     }
     std::set<std::string> found;
-    for (const auto& entry : fs::directory_iterator(ZELK_EXAMPLES_DIR)) {
+    for (const auto& entry : fs::directory_iterator(testbench::ExamplesFolder())) {
         if (entry.path().extension() == ".zelk") {
             found.insert(entry.path().filename().string());
         }

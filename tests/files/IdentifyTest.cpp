@@ -1,5 +1,6 @@
 // Recognition of a file's kind by its contents alone.
 #include "tests/files/ImportTest.h"
+#include "tests/support/Places.h"
 
 namespace {
 
@@ -163,7 +164,7 @@ TEST_F(Identified, IsNothingWhileAnotherFileIsOpen) {
 
 TEST_F(Identified, AreTheSamplesAfterTheirNames) {
     int samples = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(ZELK_SAMPLES_DIR)) {
+    for (const auto& entry : std::filesystem::directory_iterator(testbench::SamplesFolder())) {
         const std::string name = entry.path().filename().string();
         const std::string extension = entry.path().extension().string();
         if (extension.empty())

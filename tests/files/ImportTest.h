@@ -7,6 +7,7 @@
 #include "files/ZelkFile_ImportExport.h"
 #include "tests/files/ChannelFileTest.h"
 #include "tests/support/Keys.h"
+#include "tests/support/Places.h"
 
 #include <wx/log.h>
 
@@ -122,7 +123,7 @@ inline std::string MultiZELFileOf(const std::vector<std::string>& lines, const s
 constexpr const char* ByteOrderMark = "\xEF\xBB\xBF";
 
 inline std::string SampleFile(const std::string& name) {
-    return testbench::ReadFile(std::filesystem::path(ZELK_SAMPLES_DIR) / name);
+    return testbench::ReadFile(std::filesystem::path(testbench::SamplesFolder()) / name);
 }
 
 class ImportTest : public ChannelFileTest {

@@ -1,5 +1,6 @@
 // A saved page comes back unchanged.
 #include "tests/files/ChannelFileTest.h"
+#include "tests/support/Places.h"
 
 #include <map>
 
@@ -103,7 +104,7 @@ TEST_F(RoundTrip, KeepsPrimariesAndShadows) {
 
 TEST_F(RoundTrip, GivesEveryExampleFileBackByteForByte) {
     int files = 0;
-    for (const auto& entry : fs::directory_iterator(ZELK_EXAMPLES_DIR)) {
+    for (const auto& entry : fs::directory_iterator(testbench::ExamplesFolder())) {
         if (entry.path().extension() != ".zelk")
             continue;
         const std::string bytes = testbench::ReadFile(entry.path());

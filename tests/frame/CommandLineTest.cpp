@@ -6,6 +6,7 @@
 #include "robot/Pump.h"
 #include "robot/TempFolder.h"
 #include "tests/frame/StartedProgram.h"
+#include "tests/support/Places.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +46,7 @@ protected:
 
     /// Copies the example into the test's folder and dates it 1999.
     fs::path CopyExample(const std::string& name) {
-        std::string text = ReadFile(fs::path(ZELK_EXAMPLES_DIR) / name);
+        std::string text = ReadFile(fs::path(ExamplesFolder()) / name);
         const size_t date = text.find("<Date>") + 6;
         text.replace(date, text.find("</Date>") - date, "01-Jan-1999");
         WriteFile(m_folder / name, text);

@@ -9,6 +9,7 @@
 #include "tests/files/Paper.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
+#include "tests/support/Places.h"
 #include "tests/support/ZelkWindowTest.h"
 #include "transfer/ProgressFrame.h"
 
@@ -257,7 +258,7 @@ TEST_P(WithTexts, AChangeOfTargetKeepsAllTextsWhole) {
 
 TEST_P(WithTexts, EveryExampleIsWhole) {
     int files = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(ZELK_EXAMPLES_DIR)) {
+    for (const auto& entry : std::filesystem::directory_iterator(ExamplesFolder())) {
         if (entry.path().extension() != ".zelk")
             continue;
         SCOPED_TRACE(entry.path().filename().string());

@@ -5,6 +5,7 @@
 #include "robot/TempFolder.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
+#include "tests/support/Places.h"
 #include "tests/support/RunWithRobot.h"
 #include "tests/support/ZelkWindowTest.h"
 
@@ -43,7 +44,7 @@ protected:
     }
 
     static void OpenExample(const std::string& name) {
-        ASSERT_TRUE(OpenChannelFile(std::string(ZELK_EXAMPLES_DIR "/") + name + ".zelk"));
+        ASSERT_TRUE(OpenChannelFile(ExamplesFolder() + "/" + name + ".zelk"));
     }
 
     /// Number of memories in the file that File > Save writes, without the default row.

@@ -1,6 +1,7 @@
 // The complete program at a serial port that it was given. The test is the program at the other end.
 #include "tests/simulator/DigitalBench.h"
 #include "tests/simulator/PortClient.h"
+#include "tests/support/Places.h"
 #include "tests/support/PseudoTerminal.h"
 
 #include <chrono>
@@ -21,7 +22,7 @@ class GivenPort : public testing::Test {
 protected:
     RadioProcess Play(std::vector<std::string> arguments) {
         arguments.insert(arguments.end(), {"--port", m_line.SlaveName(), "--log", Log()});
-        return RadioProcess(ZELK_RADIO, arguments);
+        return RadioProcess(testbench::RadioProgram(), arguments);
     }
 
     std::string Log() const { return m_folder / "log"; }
@@ -148,14 +149,14 @@ TEST_F(GivenPort, ThatCannotBePlayedOnIsRefused) {
          std::vector<std::pair<std::string, std::string>>{{m_folder / "none", "No such file"},
                                                           {file, "no serial port"},
                                                           {"/dev/null", "no serial port"}}) {
-        RadioProcess radio(ZELK_RADIO, {"--model", "KRV-214", "--port", name});
+        RadioProcess radio(testbench::RadioProgram(), {"--model", "KRV-214", "--port", name});
         EXPECT_EQ(radio.WaitForExit(), 1) << name;
         EXPECT_NE(radio.Output().find(name + ": "), std::string::npos) << radio.Output();
         EXPECT_NE(radio.Output().find(reason), std::string::npos) << radio.Output();
     }
     RadioProcess first = Play({"--model", "KRV-214"});
     // Administrators may open what another program has for itself, so that only the lock is left.
-    RadioProcess second(ZELK_RADIO, {"--model", "KRV-214", "--port", m_line.SlaveName()});
+    RadioProcess second(testbench::RadioProgram(), {"--model", "KRV-214", "--port", m_line.SlaveName()});
     EXPECT_EQ(second.WaitForExit(), 1);
     EXPECT_EQ(second.Port(), "");
 }

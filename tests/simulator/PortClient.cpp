@@ -1,5 +1,7 @@
 #include "tests/simulator/PortClient.h"
 
+#include "tests/support/Places.h"
+
 #include <fcntl.h>
 #include <poll.h>
 #include <termios.h>
@@ -21,7 +23,7 @@ std::chrono::milliseconds Left(Clock::time_point end) {
 } // namespace
 
 RadioInFolder::RadioInFolder(const testbench::TempFolder& folder, std::vector<std::string> arguments)
-    : RadioProcess(ZELK_RADIO, [&] {
+    : RadioProcess(testbench::RadioProgram(), [&] {
           arguments.insert(arguments.begin(), {"--ports-dir", folder / "ports"});
           return arguments;
       }()) {}

@@ -1,5 +1,6 @@
 // The complete program, tested over its port.
 #include "tests/simulator/PortClient.h"
+#include "tests/support/Places.h"
 
 #include <gtest/gtest.h>
 
@@ -312,7 +313,8 @@ TEST(RadioProgram, RefusesANameThatIsPlayed) {
 
 TEST(RadioProgram, PutsItsLinkIntoTheProgramsFolderByItself) {
     const TempFolder folder;
-    RadioProcess radio(ZELK_RADIO, {"--model", "KRV-305"}, {.environment = {{"HOME", folder.Path()}}});
+    RadioProcess radio(testbench::RadioProgram(), {"--model", "KRV-305"},
+                       {.environment = {{"HOME", folder.Path()}}});
     EXPECT_EQ(radio.Port(), (folder / ".zelk/ports/KRV-305").string()) << radio.Output();
     EXPECT_TRUE(fs::is_symlink(folder / ".zelk/ports/KRV-305"));
 }

@@ -5,6 +5,7 @@
 #include "robot/Files.h"
 #include "robot/Pump.h"
 #include "tests/support/Keys.h"
+#include "tests/support/Places.h"
 #include "tests/transfer/RadioUnderTest.h"
 #include "tests/transfer/TRecordDriverTest.h"
 
@@ -88,7 +89,7 @@ protected:
     static void ExpectLinksSurvive(const std::string& file, const std::string& model,
                                    const std::vector<std::string>& options) {
         SCOPED_TRACE(file + " to " + model + (options.empty() ? "" : " " + options.back()));
-        OpenByMenu(std::string(ZELK_EXAMPLES_DIR) + "/" + file);
+        OpenByMenu(ExamplesFolder() + "/" + file);
         ValidateByMenu();
         const std::map<int, Texts> before = LinksOfPage();
         ASSERT_EQ(CellText(32, SHAD), "S-031") << "the example has lost its shadows";

@@ -1,4 +1,5 @@
 #include "robot/RadioProcess.h"
+#include "tests/support/Places.h"
 #include "tests/transfer/RadioPlayer.h"
 
 #include <chrono>
@@ -18,7 +19,7 @@ public:
                   const std::string& memories)
         : RadioPlayer(model, options, memories) {
         m_arguments.insert(m_arguments.end(), {"--ports-dir", m_folder / "ports", "--name", "radio"});
-        m_process.emplace(ZELK_RADIO, m_arguments);
+        m_process.emplace(testbench::RadioProgram(), m_arguments);
         m_process->RequireReady();
     }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "robot/Files.h"
+#include "tests/support/Places.h"
 #include "tests/transfer/RadioPeer.h"
 
 #include <atomic>
@@ -51,7 +52,7 @@ public:
     }
 
     static Transcript FromFile(const std::string& name) {
-        return Transcript(testbench::ReadFile(std::string(ZELK_TRANSCRIPTS) + "/" + name + ".txt"));
+        return Transcript(testbench::ReadFile(testbench::TranscriptsFolder() + "/" + name + ".txt"));
     }
 
     const std::vector<std::string>& Lines() const { return m_lines; }

@@ -5,18 +5,18 @@
 # it writes goes to standard output, with "/" as its folder and without the tree's own folder. Two clones then get the
 # same bytes, and ccache, which compares them, finds what the other has compiled.
 
-# zelk_precompile_headers(target header...): TARGET's sources begin with these headers of the toolkit or the system.
+# zelk_precompile_headers(target <header>...): TARGET's sources begin with these headers of the toolkit or the
+# system.
 function(zelk_precompile_headers target)
     if(NOT ZELK_PCH)
         return()
     endif()
-    list(TRANSFORM ARGN REPLACE "(.+)" "<\\1>" OUTPUT_VARIABLE headers)
     if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-        target_precompile_headers(${target} PRIVATE ${headers})
+        target_precompile_headers(${target} PRIVATE ${ARGN})
         return()
     endif()
     set(out ${CMAKE_BINARY_DIR}/${target}.precompiled)
-    list(TRANSFORM headers PREPEND "#include " OUTPUT_VARIABLE lines)
+    list(TRANSFORM ARGN PREPEND "#include " OUTPUT_VARIABLE lines)
     list(JOIN lines "\n" lines)
     file(CONFIGURE OUTPUT ${out}.h CONTENT "${lines}\n" @ONLY)
 

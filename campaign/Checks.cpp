@@ -364,6 +364,10 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
                          "as before nor as sent: " +
                              Shown(strangers));
         }
+        if (clean.status == TransferInvalidTransmitData && !faulty.forgedToProgram)
+            judge.Expect(Differences(radio, before.radio).empty(),
+                         "a radio too old for the data was written: " +
+                             Shown(Differences(radio, before.radio)));
         if (judge.Digital() && status != TransferComplete && Sends(faulty, "T204000011"))
             judge.Expect(faulty.world.program.stamp.empty() && faulty.world.program.heldStamp.empty(),
                          "the radio was purged in vain, but the program goes on to know it");

@@ -196,10 +196,14 @@ void TakeLineOfMode(TRecordDialogue& dialogue) {
         TakeData(dialogue);
 }
 
-/// True for an answer to an earlier query in place of the stamp, which a write must not go on without: it
-/// tells whether the radio's memories are known.
-bool ReplacesStamp(const TRecordDialogue& dialogue, const wxString& line) {
-    return dialogue.mode == WriteChannelsMode && dialogue.context.Index == StampState &&
+/// True for the answer to another query where a write waits for the version or the stamp. It must not go on
+/// without them: they tell whether the radio can hold the data, and whether its memories are known.
+bool AnswersAnotherQuery(const TRecordDialogue& dialogue, const wxString& line) {
+    if (dialogue.mode != WriteChannelsMode)
+        return false;
+    if (dialogue.context.Index == VersionState)
+        return line == AckRecord || line.StartsWith(MSG_SID);
+    return dialogue.context.Index == StampState &&
            (line == AckRecord || line.StartsWith(VersionReply) || line.StartsWith(OpModeReply));
 }
 
@@ -208,12 +212,8 @@ bool ReplacesStamp(const TRecordDialogue& dialogue, const wxString& line) {
 void TakeReply(TRecordDialogue& dialogue) {
     TRecordContext& context = dialogue.context;
     const wxString& line = context.RxLine;
-    if (ReplacesStamp(dialogue, line)) {
-        // An earlier answer came twice and this one a line late: the version may be too old for the data.
-        if (line.StartsWith(VersionReply))
-            TakeVersion(dialogue);
-        if (context.Status == TransferOk)
-            context.Phase = WaitOn;
+    if (AnswersAnotherQuery(dialogue, line)) {
+        context.Phase = WaitOn;
     } else if (line == AckRecord) {
         TakeAck(dialogue);
     } else if (line == NakRecord) {

@@ -252,7 +252,22 @@ TEST_F(Finding, WriteDoesNotGoOnWithoutTheStamp) {
     EXPECT_EQ(faulty.world.radio.digital.memories, scenario.radio.digital.memories);
 }
 
-TEST_F(Finding, VersionThatComesInPlaceOfTheStampMayBeTooOld) {
+TEST_F(Finding, WriteDoesNotGoOnWithoutTheVersion) {
+    Scenario scenario = WriteToUnknownRadio(0);
+    scenario.rows.begin()->second[SHD0] = "300"; // too much for this radio
+    Job job = scenario.jobs[0];
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    const World world = FirstWorld(scenario, sheet);
+    EXPECT_EQ(RunJob(scenario, job, world, sheet).status, TransferInvalidTransmitData);
+    // The agreement to the protocol again in place of the version, which never comes.
+    job.faults = {{FaultKind::LineBefore, Side::ToProgram, 1}};
+    const Outcome faulty = RunJob(scenario, job, world, sheet);
+    EXPECT_EQ(faulty.happened, std::vector{true});
+    EXPECT_EQ(faulty.status, TransferTimeout);
+    EXPECT_EQ(faulty.world.radio.digital.memories, scenario.radio.digital.memories);
+}
+
+TEST_F(Finding, DoubledAgreementDoesNotHideThatTheRadioIsTooOld) {
     Scenario scenario = WriteToUnknownRadio(0);
     scenario.rows.begin()->second[SHD0] = "300";
     Job job = scenario.jobs[0];
@@ -261,7 +276,7 @@ TEST_F(Finding, VersionThatComesInPlaceOfTheStampMayBeTooOld) {
     // No question about modes, during which a second answer would arrive and be dropped.
     world.program.modes = 0x70;
     EXPECT_EQ(RunJob(scenario, job, world, sheet).status, TransferInvalidTransmitData);
-    // The agreement to the protocol comes twice, so that each answer comes a line late.
+    // The agreement to the protocol comes twice: the second time in place of the version.
     job.faults = {{FaultKind::Twice, Side::ToProgram, 0}};
     const Outcome faulty = RunJob(scenario, job, world, sheet);
     EXPECT_EQ(faulty.happened, std::vector{true});

@@ -66,6 +66,7 @@ public:
 
     Display* Get() const { return m_display; }
     KeySpot KeyOf(KeySym symbol) const;
+    bool IsActive(Window window) const;
     Window FocusedTop() const;
     std::string Property(Window window, const char* name) const;
 
@@ -127,6 +128,13 @@ std::string Desk::Connection::Property(Window window, const char* name) const {
     return {reinterpret_cast<const char*>(data), count * itemSize};
 }
 
+/// A window manager learns only later which window has the focus. Until then it gives its own keys, as those
+/// that close a window, to the former one.
+bool Desk::Connection::IsActive(Window window) const {
+    const std::string active = Property(DefaultRootWindow(m_display), "_NET_ACTIVE_WINDOW");
+    return active.empty() || active == std::string(reinterpret_cast<const char*>(&window), sizeof window);
+}
+
 Window Desk::Connection::FocusedTop() const {
     Window window = None;
     int revert = 0;
@@ -134,7 +142,7 @@ Window Desk::Connection::FocusedTop() const {
     // A helper window may have the focus. The window that the window manager handles has a WM_STATE.
     while (window != None && window != PointerRoot) {
         if (!Property(window, "WM_STATE").empty()) {
-            return window;
+            return IsActive(window) ? window : None;
         }
         Window root = None, parent = None;
         Window* children = nullptr;

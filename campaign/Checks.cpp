@@ -364,9 +364,10 @@ std::vector<std::string> BrokenConditions(const Scenario& scenario, const Job& j
                          "as before nor as sent: " +
                              Shown(strangers));
         }
-        if (clean.status == TransferInvalidTransmitData && !faulty.forgedToProgram)
+        if (clean.status != TransferComplete && clean.world.radio.HoldsTheSame(before.radio) &&
+            !faulty.forgedToProgram)
             judge.Expect(Differences(radio, before.radio).empty(),
-                         "a radio too old for the data was written: " +
+                         "a radio was written that must not be: " +
                              Shown(Differences(radio, before.radio)));
         if (judge.Digital() && status != TransferComplete && Sends(faulty, "T204000011"))
             judge.Expect(faulty.world.program.stamp.empty() && faulty.world.program.heldStamp.empty(),

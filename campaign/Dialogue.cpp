@@ -17,6 +17,7 @@
 #include <wx/msgdlg.h>
 
 #include <algorithm>
+#include <cctype>
 #include <set>
 #include <utility>
 
@@ -161,6 +162,13 @@ Outcome RunJob(const Scenario& scenario, const Job& job, const World& world, She
     const auto isForged = [&](const std::string& line, const std::set<std::string>& genuine) {
         return !genuine.contains(line) && (!digital || Simulator::ParseRecord(line));
     };
+    // The program takes small letters for digits, too.
+    const auto deceives = [&](std::string line) {
+        const bool asItIs = isForged(line, spoken);
+        std::transform(line.begin(), line.end(), line.begin(),
+                       [](unsigned char letter) { return static_cast<char>(std::toupper(letter)); });
+        return asItIs || (digital && isForged(line, spoken));
+    };
     RadioEnd radio(time, cable, world.radio, [&](std::string_view note) {
         tell(std::string(note));
         if (note.starts_with("< ") && isForged(std::string(note.substr(2)), written))
@@ -199,8 +207,8 @@ Outcome RunJob(const Scenario& scenario, const Job& job, const World& world, She
         .radioSends = [&, spokenLines = Lines([&](const std::string& line) { spoken.insert(line); })](
                           std::string_view bytes) mutable { spokenLines.Add(bytes); },
         .programHears = [&, heardLines = Lines([&](const std::string& line) {
-                                if (isForged(line.starts_with('\n') ? line.substr(1) : line, spoken) &&
-                                    isForged(line, spoken))
+                                if (deceives(line.starts_with('\n') ? line.substr(1) : line) &&
+                                    deceives(line))
                                     outcome.forgedToProgram = true;
                             })](std::string_view bytes) mutable { heardLines.Add(bytes); },
     });

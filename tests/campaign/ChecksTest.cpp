@@ -211,6 +211,43 @@ TEST_F(CampaignChecks, NoticeACellThatIsNotTheRadiosMemory) {
             << ColumnTag[column];
 }
 
+/// Two bytes of the first memory, one of which becomes a small letter, while the checksum still fits.
+std::vector<Fault> SmallLetterThatFits(const Scenario& scenario) {
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    int begin = 0;
+    std::string memory;
+    RunJob(scenario, scenario.jobs[0], FirstWorld(scenario, sheet), sheet,
+           [&](int64_t, const std::string& line) {
+               if (!line.starts_with("> ") || !memory.empty())
+                   return;
+               if (line.starts_with("> T143"))
+                   memory = line.substr(2);
+               else
+                   begin += static_cast<int>(line.size()) - 1; // without "> ", with the carriage return
+           });
+    constexpr size_t name = 14; // the digits from here on
+    for (size_t up = name; up + 2 < memory.size(); ++up)
+        for (size_t down = name; down + 2 < memory.size(); ++down)
+            if (up % 2 == down % 2 && memory[up] == '4' && memory[down] == '9')
+                return {{FaultKind::Changed, Side::ToProgram, begin + static_cast<int>(up), '4' ^ 'c'},
+                        {FaultKind::Changed, Side::ToProgram, begin + static_cast<int>(down), '9' ^ '1'}};
+    return {};
+}
+
+TEST_F(CampaignChecks, KnowThatASmallLetterWhichFitsTheChecksumDeceivesTheProgram) {
+    const Scenario scenario = ReadWithHardware();
+    Job job = scenario.jobs[0];
+    job.faults = SmallLetterThatFits(scenario);
+    ASSERT_EQ(job.faults.size(), 2u);
+    const auto [clean, faulty] = CleanAndFaulty(scenario, job.faults);
+    EXPECT_EQ(faulty.happened, (std::vector{true, true}));
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_TRUE(faulty.forgedToProgram);
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    EXPECT_EQ(BrokenConditions(scenario, job, FirstWorld(scenario, sheet), clean, faulty),
+              std::vector<std::string>{});
+}
+
 TEST_F(CampaignChecks, NoticeWhatAWriteTellsWrongly) {
     const Scenario scenario = WriteToUnknownRadio(2);
     EXPECT_TRUE(SentenceWithoutFaults(scenario, [](Outcome& outcome) {

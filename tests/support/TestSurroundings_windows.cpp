@@ -13,8 +13,12 @@ bool HasDisplay() {
     for (int tries = 0; tries < 20; ++tries) {
         const HWND window =
             CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
-        if (window != nullptr)
+        if (window != nullptr) {
+            // Over a tool it would show the tool's help in the status bar. A window of the program opens a
+            // little further from the corner than the one before.
+            SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 1, 0);
             return DestroyWindow(window) != 0;
+        }
         Sleep(500);
     }
     return false;

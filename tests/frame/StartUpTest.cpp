@@ -160,7 +160,6 @@ protected:
         ZelkWindowTest::TearDown();
     }
 
-private:
     wxWindowRef m_window;
 };
 
@@ -168,7 +167,11 @@ private:
 
 TEST_F(Closing, OfTheWindowWithUnsavedRowsAsksNothing) {
     const DialogScript noDialog;
-    PressKey("Alt+F4");
+    // The window manager of a busy machine passes over the keys now and then. A person presses them again.
+    for (int tries = 0; tries < 3 && m_window; ++tries) {
+        PressKey("Alt+F4");
+        IsGone(m_window);
+    }
     EXPECT_TRUE(noDialog.Shown().empty());
 }
 

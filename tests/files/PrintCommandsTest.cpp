@@ -295,7 +295,7 @@ TEST_F(PrintCommands, PrintingLeavesTheWindowAsItWas) {
     const wxImage before = GridPicture();
     PrintPage();
     EXPECT_TRUE(MainFrame->IsEnabled());
-    EXPECT_TRUE(AreSame(before, GridPicture()));
+    EXPECT_TRUE(PumpUntil([&] { return AreSame(before, GridPicture()); }));
     RunWithRobot(ExpectKeysInTheGrid);
 }
 

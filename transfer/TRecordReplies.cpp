@@ -201,10 +201,11 @@ void TakeLineOfMode(TRecordDialogue& dialogue) {
 bool AnswersAnotherQuery(const TRecordDialogue& dialogue, const wxString& line) {
     if (dialogue.mode != WriteChannelsMode)
         return false;
+    const bool neither = line == AckRecord || line.StartsWith(ConfigReply);
     if (dialogue.context.Index == VersionState)
-        return line == AckRecord || line.StartsWith(MSG_SID);
+        return neither || line.StartsWith(MSG_SID);
     return dialogue.context.Index == StampState &&
-           (line == AckRecord || line.StartsWith(VersionReply) || line.StartsWith(OpModeReply));
+           (neither || line.StartsWith(VersionReply) || line.StartsWith(OpModeReply));
 }
 
 } // namespace

@@ -107,6 +107,25 @@ TEST_F(TRecordReply, DoesWhatItsStateAndModeSay) {
     }
 }
 
+TEST_F(TRecordReply, ToAnotherQueryIsPassedOverWhereAWriteNeedsVersionOrStamp) {
+    constexpr uint32_t waitOn = 3;
+    const std::string ack = "T204000000", version = "T207000023010203", modes = "T20500003370",
+                      count = "T20500003407", stamp = "T20B00002120240131235959";
+    const std::vector<std::pair<int, std::vector<std::string>>> cases = {
+        {-5, {ack, count, stamp}},
+        {-4, {ack, count, version, modes}},
+    };
+    for (const auto& [index, lines] : cases)
+        for (const std::string& line : lines) {
+            SCOPED_TRACE(std::to_string(index) + ": " + line);
+            m_context.Index = index;
+            Take(line, 0);
+            EXPECT_EQ(m_context.Phase, waitOn);
+            EXPECT_EQ(m_context.Status, 0);
+            EXPECT_EQ(m_context.Index, index);
+        }
+}
+
 TEST_F(TRecordReply, ThatRefusesTheHelloOffersTheNextProtocolWithoutLimit) {
     m_context.Index = -10;
     const char* const lines[] = {"T007000021030000", "T007000022030000", "T007000023030000",

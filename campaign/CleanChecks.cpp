@@ -270,13 +270,16 @@ private:
     }
 
     /// A memory whose zone has its rows on the page already gets the next zone with room.
-    bool IsOfAFullZone(const std::string& difference) const {
+    std::string DifferenceFrom(const Simulator::DigitalMemory& memory, RowTexts texts) const {
         constexpr int slots = 16;
-        const auto& rows = m_clean.world.program.rows;
-        return difference.starts_with("ZONE is ") &&
-               slots <= std::ranges::count_if(rows, [&](const auto& row) {
-                   return difference.ends_with("and not \"" + row.second[ZONE] + "\"");
-               });
+        const std::string zone = ZoneCellOf(m_formats, memory);
+        const auto isOfTheZone = [&](const auto& row) { return row.first && row.second[ZONE] == zone; };
+        if (slots <= std::ranges::count_if(m_clean.world.program.rows, isOfTheZone))
+            texts[ZONE] = zone;
+        return Campaign::DifferenceFrom(m_formats, memory, texts);
+    }
+    std::string DifferenceFrom(const Simulator::AnalogMemory& memory, const RowTexts& texts) const {
+        return Campaign::DifferenceFrom(m_formats, memory, texts);
     }
 
     void CheckRead() {
@@ -286,8 +289,8 @@ private:
             expected.insert(number);
             const auto found = rows.find(number);
             const std::string difference =
-                found == rows.end() ? "is blank" : DifferenceFrom(m_formats, memory, found->second);
-            m_judge.Expect(difference.empty() || IsOfAFullZone(difference),
+                found == rows.end() ? "is blank" : DifferenceFrom(memory, found->second);
+            m_judge.Expect(difference.empty(),
                            "row " + std::to_string(number) + " isn't the radio's memory: " + difference);
         };
         if (m_judge.Digital()) {

@@ -87,17 +87,6 @@ int ZoneOf(const Formats& formats, int row, const RowTexts& texts) {
     return formats.IsSecondLayout() ? zone : zone & 0x0F;
 }
 
-/// A shadow shows no zone. Guards are in the last one of the page, whatever the radio says.
-std::string ZoneCellOf(const Formats& formats, const Simulator::DigitalMemory& memory) {
-    if (memory.flags & ShadowPlaces)
-        return {};
-    const bool first = formats.scenario.target->radio == Kdrv716;
-    const int zone = formats.IsSecondLayout() ? memory.zone : memory.zone & 0x0F;
-    if (memory.address > (first ? LastOrdinaryOfFirstLayout : LastOrdinary))
-        return first ? *std::rbegin(ZoneNames16) : *std::rbegin(ZoneNames32);
-    return first ? ZoneNames16[zone] : ZoneNames32[zone];
-}
-
 int PrimaryOf(const RowTexts& texts) {
     if ((Hexadecimal(texts[MFLG]) & ShadowPlaces) && texts[SHAD].starts_with("S-"))
         return Decimal(texts[SHAD].substr(2));
@@ -220,6 +209,16 @@ Simulator::AnalogMemory AnalogMemoryOf(int row, const RowTexts& texts) {
     memory.scan = ScanField(texts[SCAN]);
     memory.mode = texts[MODE] == "w" || texts[MODE] == "W" ? 'W' : 'N';
     return memory;
+}
+
+std::string ZoneCellOf(const Formats& formats, const Simulator::DigitalMemory& memory) {
+    if (memory.flags & ShadowPlaces)
+        return {};
+    const bool first = formats.scenario.target->radio == Kdrv716;
+    const int zone = formats.IsSecondLayout() ? memory.zone : memory.zone & 0x0F;
+    if (memory.address > (first ? LastOrdinaryOfFirstLayout : LastOrdinary))
+        return first ? *std::rbegin(ZoneNames16) : *std::rbegin(ZoneNames32);
+    return first ? ZoneNames16[zone] : ZoneNames32[zone];
 }
 
 std::string DifferenceFrom(const Formats& formats, const Simulator::DigitalMemory& memory,

@@ -27,6 +27,10 @@ Simulator::DigitalMemory DigitalMemoryOf(const Formats& formats, int row, const 
 /// Same for an analog radio.
 Simulator::AnalogMemory AnalogMemoryOf(int row, const RowTexts& texts);
 
+/// The zone that a memory of the radio names on the page. A shadow shows none. Guards are in the last one of
+/// the page, whatever the radio says.
+std::string ZoneCellOf(const Formats& formats, const Simulator::DigitalMemory& memory);
+
 /// The first column in which the row isn't the memory that the radio holds, with both texts; empty if it is.
 /// Columns that the record doesn't determine are left out.
 std::string DifferenceFrom(const Formats& formats, const Simulator::DigitalMemory& memory,

@@ -115,6 +115,46 @@ TEST_F(CampaignChecks, NoticeAMixtureOfTwoMemoriesAfterARead) {
     EXPECT_TRUE(sentence.ends_with("isn't the radio's memory")) << sentence;
 }
 
+/// The first sentence about a transfer without faults whose outcome was falsified.
+std::string SentenceWithoutFaults(const Scenario& scenario, const std::function<void(Outcome&)>& falsify) {
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    const World world = FirstWorld(scenario, sheet);
+    Job job = scenario.jobs.at(0);
+    job.faults.clear();
+    Outcome clean = RunJob(scenario, job, world, sheet);
+    falsify(clean);
+    const std::vector<std::string> sentences = BrokenConditions(scenario, job, world, clean);
+    return sentences.empty() ? "" : sentences.front();
+}
+
+/// The first sentence about a read of memories 1 to this number, all of one zone, whose last row on the page
+/// gets another zone.
+std::string SentenceAboutOneZone(Scenario scenario, int memories, const std::string& zone) {
+    auto& held = scenario.radio.digital.memories;
+    Simulator::DigitalMemory memory = held.begin()->second;
+    memory.flags = 0;
+    memory.zone = 0;
+    held.clear();
+    for (int number = 1; number <= memories; ++number) {
+        memory.address = memory.number = memory.primary = number;
+        held[number] = memory;
+    }
+    return SentenceWithoutFaults(scenario, [&](Outcome& outcome) {
+        if (!zone.empty())
+            outcome.world.program.rows.rbegin()->second[ZONE] = zone;
+    });
+}
+
+TEST_F(CampaignChecks, KnowThatTheSeventeenthMemoryOfAZoneIsMovedToTheNext) {
+    EXPECT_EQ(SentenceAboutOneZone(Read(), 17, ""), "");
+    EXPECT_EQ(SentenceAboutOneZone(Read(), 16, ""), "");
+}
+
+TEST_F(CampaignChecks, NoticeAMemoryThatIsMovedFromAZoneWithRoom) {
+    const std::string sentence = SentenceAboutOneZone(Read(), 16, "9");
+    EXPECT_TRUE(sentence.starts_with("row 16 isn't the radio's memory: ZONE is \"9\"")) << sentence;
+}
+
 TEST_F(CampaignChecks, NoticeAMemoryThatHasNotComeInACompleteRead) {
     const std::vector<std::string> sentences = Sentences(Read(), [](Outcome& outcome) {
         auto& rows = outcome.world.program.rows;
@@ -166,18 +206,6 @@ TEST_F(CampaignChecks, NoticeAWrongBoxAndAWrongStatus) {
                   },
                   silence),
               "nothing that happened gives status 10");
-}
-
-/// The first sentence about a transfer without faults whose outcome was falsified.
-std::string SentenceWithoutFaults(const Scenario& scenario, const std::function<void(Outcome&)>& falsify) {
-    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
-    const World world = FirstWorld(scenario, sheet);
-    Job job = scenario.jobs.at(0);
-    job.faults.clear();
-    Outcome clean = RunJob(scenario, job, world, sheet);
-    falsify(clean);
-    const std::vector<std::string> sentences = BrokenConditions(scenario, job, world, clean);
-    return sentences.empty() ? "" : sentences.front();
 }
 
 TEST_F(CampaignChecks, NoticeEachFieldOfAMemoryThatIsWrong) {

@@ -276,6 +276,41 @@ TEST_F(CampaignChecks, KnowThatASmallLetterWhichFitsTheChecksumDeceivesTheProgra
               std::vector<std::string>{});
 }
 
+/// Doubles the last digit of "C:01:FF" in a line of the configuration: its sum is the same, half a byte
+/// later.
+Fault DoubledDigitThatFits(const Scenario& scenario) {
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    int begin = 0, doubled = 0;
+    RunJob(scenario, scenario.jobs[0], FirstWorld(scenario, sheet), sheet,
+           [&](int64_t, const std::string& line) {
+               if (!line.starts_with("> "))
+                   return;
+               if (line.starts_with("> T11D0000433A30313A4646"))
+                   doubled = begin + 19;
+               begin += static_cast<int>(line.size()) - 1; // without "> ", with the carriage return
+           });
+    return {FaultKind::Doubled, Side::ToProgram, doubled};
+}
+
+TEST_F(CampaignChecks, KnowThatADoubledDigitWhichFitsTheChecksumDeceivesTheProgram) {
+    Scenario scenario = FirstScenario([](const Scenario& each) {
+        return each.radio.IsDigital() && each.target->protocol == 2 && each.target->firmware[1] == '2' &&
+               each.jobs[0].mode == ReadConfigMode;
+    });
+    scenario.jobs.resize(1);
+    Job& job = scenario.jobs[0];
+    job.faults.clear();
+    job.faults = {DoubledDigitThatFits(scenario)};
+    ASSERT_GT(job.faults[0].at, 0);
+    const auto [clean, faulty] = CleanAndFaulty(scenario, job.faults);
+    EXPECT_EQ(faulty.status, TransferComplete);
+    EXPECT_NE(faulty.configLines, clean.configLines);
+    EXPECT_TRUE(faulty.forgedToProgram);
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    EXPECT_EQ(BrokenConditions(scenario, job, FirstWorld(scenario, sheet), clean, faulty),
+              std::vector<std::string>{});
+}
+
 TEST_F(CampaignChecks, NoticeWhatAWriteTellsWrongly) {
     const Scenario scenario = WriteToUnknownRadio(2);
     EXPECT_TRUE(SentenceWithoutFaults(scenario, [](Outcome& outcome) {

@@ -3,7 +3,6 @@
 
 #include "commands/FrameLook.h"
 #include "commands/SpokenNames.h"
-#include "transfer/GaugeMove.h"
 #include "transfer/TransferSystem.h"
 
 #include <wx/button.h>
@@ -143,6 +142,7 @@ void ProgressFrame::SetStatus(const wxString& text) {
 }
 
 void ProgressFrame::DrawStatus(TransferClock::Moment end) {
+    MoveMainGauge();
     if (!m_isDrawn && IsShown())
         CurrentTransferSystem().Clock().AwaitDrawing([this] { return m_isDrawn; },
                                                      std::min(end, m_statusLimit));
@@ -154,6 +154,7 @@ void ProgressFrame::AppendStatus(const wxString& text) {
 }
 
 void ProgressFrame::SetRange(int rows) {
+    MoveMainGauge();
     m_mainGauge->SetRange(rows);
     // Not every edition of the toolkit does so.
     if (m_mainGauge->GetValue() > rows)
@@ -165,11 +166,28 @@ int ProgressFrame::Range() const {
 }
 
 void ProgressFrame::SetValue(int rows) {
-    MoveGauge(*m_mainGauge, rows);
+    // A radio may wait for its next line, and the system's gauge draws itself at each move.
+    m_rows = rows;
+    if (!IsShown())
+        MoveMainGauge();
+}
+
+void ProgressFrame::MoveMainGauge() {
+    if (m_rows)
+        m_mainGauge->SetValue(*m_rows);
+    m_rows.reset();
+    m_nextMove = CurrentTransferSystem().Clock().Now() + FrameInterval;
 }
 
 void ProgressFrame::Pulse() {
+    if (CurrentTransferSystem().Clock().Now() >= m_nextMove)
+        MoveMainGauge();
     m_pulseGauge->Pulse();
+}
+
+wxWindow* ProgressFrame::Window() {
+    MoveMainGauge();
+    return this;
 }
 
 void ProgressFrame::OnCancel(wxCommandEvent& event) {

@@ -9,6 +9,7 @@
 #include <wx/weakref.h>
 
 #include <memory>
+#include <optional>
 
 class wxButton;
 class wxGauge;
@@ -47,16 +48,18 @@ public:
 
     void SetRange(int rows) override;
     int Range() const override;
+    /// The gauge moves with Pulse, before a box, or in a pause.
     void SetValue(int rows) override;
     void Pulse() override;
     void DrawStatus(TransferClock::Moment end) override;
-    wxWindow* Window() override { return this; }
+    wxWindow* Window() override;
 
 private:
     void CreateControls();
     void FollowParent();
     void OnCancel(wxCommandEvent& event);
     void OnKey(wxKeyEvent& event);
+    void MoveMainGauge();
     void OnMainActivated(wxActivateEvent& event);
     void OnCloseRequest(wxCloseEvent& event);
 
@@ -75,4 +78,6 @@ private:
     std::unique_ptr<wxWindowDisabler> m_disabler;
     wxGauge* m_pulseGauge = nullptr;
     wxGauge* m_mainGauge = nullptr;
+    std::optional<int> m_rows; // that the gauge doesn't show yet
+    TransferClock::Moment m_nextMove{};
 };

@@ -21,7 +21,8 @@ public:
     virtual void SetRange(int rows) = 0;
     virtual int Range() const = 0;
 
-    /// Moves the main gauge to this number of rows, which must be in its range.
+    /// Moves the main gauge to this number of rows, which must be in its range. The user sees it when the
+    /// transfer waits or pauses, or when a box opens.
     virtual void SetValue(int rows) = 0;
 
     /// Moves the gauge that shows that the transfer waits.

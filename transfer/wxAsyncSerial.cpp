@@ -1,15 +1,14 @@
 // Serial port for the transfer code: text output, and text input by polling.
 #include "transfer/wxAsyncSerial.h"
 
+#include "transfer/ArrivalCount.h"
 #include "transfer/AsyncSerial.h"
 
 #include <boost/system/system_error.hpp>
 #include <wx/strconv.h>
 
 #include <algorithm>
-#include <atomic>
-#include <condition_variable>
-#include <mutex>
+#include <optional>
 #include <string>
 #include <thread>
 
@@ -23,21 +22,24 @@ struct wxAsyncSerialImpl {
 
 namespace {
 
-// All for WaitForData. The mutex may be held while SerialRxMutex is taken, never the other way round.
-std::mutex arrivalMutex;
-std::condition_variable arrival;
+// For WaitForData. Changed only under SerialRxMutex, so that a look at the buffer and the count belong
+// together.
 wxChar awaited = 0;
-std::atomic<unsigned> arrivals = 0; // of the awaited character
+ArrivalCount arrivals; // of the awaited character
 
 bool IsAwaited(unsigned character) {
     constexpr unsigned withoutParity = 0x7F;
     return (character & withoutParity) == static_cast<unsigned>(awaited);
 }
 
-bool HasAwaited() {
+/// Returns the count of arrivals before the character comes, or nothing if it is there.
+std::optional<unsigned> ArrivalsBefore(wxChar character) {
     const wxMutexLocker lock(SerialRxMutex);
-    return std::any_of(SerialRxBuffer.begin(), SerialRxBuffer.end(),
-                       [](wxUniChar character) { return IsAwaited(character.GetValue()); });
+    awaited = character;
+    if (std::any_of(SerialRxBuffer.begin(), SerialRxBuffer.end(),
+                    [](wxUniChar each) { return IsAwaited(each.GetValue()); }))
+        return {};
+    return arrivals.Value();
 }
 
 std::string LibcBytes(const wxString& text) {
@@ -116,21 +118,13 @@ wxString wxAsyncSerial::GetData() {
 }
 
 bool wxAsyncSerial::WaitForData(std::chrono::steady_clock::time_point end, wxChar lineEnd) {
-    std::unique_lock lock(arrivalMutex);
-    awaited = lineEnd;
-    return arrival.wait_until(lock, end, HasAwaited);
+    const auto before = ArrivalsBefore(lineEnd);
+    return !before || arrivals.AwaitChange(*before, end);
 }
 
 bool wxAsyncSerial::WatchForData(std::chrono::steady_clock::time_point end, wxChar lineEnd) {
-    unsigned before = 0;
-    {
-        const std::lock_guard lock(arrivalMutex);
-        awaited = lineEnd;
-        before = arrivals;
-        if (HasAwaited())
-            return true;
-    }
-    while (arrivals == before) {
+    const auto before = ArrivalsBefore(lineEnd);
+    while (before && arrivals.Value() == *before) {
         if (std::chrono::steady_clock::now() >= end)
             return false;
         std::this_thread::yield(); // the port's thread may wait for this processor
@@ -139,15 +133,16 @@ bool wxAsyncSerial::WatchForData(std::chrono::steady_clock::time_point end, wxCh
 }
 
 void wxAsyncSerial::readCallback(const char* data, size_t length) {
+    bool hasCome = false;
     {
         const wxMutexLocker lock(SerialRxMutex);
         SerialRxBuffer.append(wxString(data, wxConvISO8859_1, length));
+        hasCome = std::any_of(data, data + length, [](char character) {
+            return IsAwaited(static_cast<unsigned char>(character));
+        });
+        if (hasCome)
+            arrivals.Raise();
     }
-    // The lock keeps the notification from falling between a waiting thread's look and its sleep.
-    const std::lock_guard lock(arrivalMutex);
-    if (std::any_of(data, data + length,
-                    [](char character) { return IsAwaited(static_cast<unsigned char>(character)); })) {
-        ++arrivals;
-        arrival.notify_all();
-    }
+    if (hasCome)
+        arrivals.Wake();
 }

@@ -80,10 +80,13 @@ TEST_F(StartUp, ShownColumnsAreThoseOfAnAnalogFmRadio) {
 
 TEST_F(StartUp, WindowIs927By680) {
     EXPECT_EQ(MainFrame->GetSize(), wxSize(927, 680));
-    EXPECT_TRUE(MainFrame->HasFlag(wxHSCROLL));
-    EXPECT_TRUE(MainFrame->HasFlag(wxVSCROLL));
     EXPECT_TRUE(MainFrame->HasFlag(wxTAB_TRAVERSAL));
     EXPECT_EQ(MainFrame->GetWindowStyleFlag() & wxDEFAULT_FRAME_STYLE, wxDEFAULT_FRAME_STYLE);
+}
+
+TEST_F(StartUp, WindowHasTheStyleOfScrollBars) {
+    EXPECT_TRUE(MainFrame->HasFlag(wxHSCROLL));
+    EXPECT_TRUE(MainFrame->HasFlag(wxVSCROLL));
 }
 
 TEST_F(StartUp, ToolBarStandsLeftOfTheNotebook) {

@@ -43,6 +43,7 @@ void SetUpGrid(wxGrid* grid, int page) {
 }
 
 void SetGridColumns(wxGrid* grid, int type) {
+    const wxGridUpdateLocker quiet(grid);
     for (int col = 0; col < ColumnTotal; ++col) {
         // Set the minimum first: a column never becomes narrower than its minimum. A minimum equal
         // to the width keeps users from dragging a hidden column open.

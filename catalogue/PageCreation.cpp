@@ -56,8 +56,10 @@ void CreateNewPage(OrvZELFrame* frame, int page) {
         SetPageEditors(page);
         SetPageDefaults(frame, page);
     }
-    // On Windows neither a new page nor a click on a label brings the keyboard along.
-    grid->SetFocus();
+    // On Windows neither a new page nor a click on a label brings the keyboard along. The first page gets it
+    // when the window is shown.
+    if (frame->IsShown())
+        grid->SetFocus();
     grid->Bind(wxEVT_GRID_LABEL_LEFT_CLICK, [grid](wxGridEvent& event) {
         event.Skip();
         if (!grid->IsCellEditControlShown())

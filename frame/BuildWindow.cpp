@@ -138,11 +138,12 @@ OrvZELFrame::OrvZELFrame(wxWindow* parent)
     m_notebook = new wxNotebook(this, wxID_ANY);
     BuildFirstPage();
     sizer->Add(m_notebook, 1, wxEXPAND | wxALL, 5);
-    SetSizer(sizer);
-    Layout();
     m_statusBar = CreateStatusBar(5, wxSTB_SIZEGRIP);
     SpeakStatusBar(m_statusBar);
     UpdateStatus(this, CurrentPage);
+    // Last: each layout moves all windows of the page, which takes Windows long.
+    SetSizer(sizer);
+    Layout();
     ConnectEvents(true);
     Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
         event.Skip();
@@ -198,6 +199,14 @@ void OrvZELFrame::BuildToolBar() {
             m_toolBar->AddSeparator();
     }
     m_toolBar->Realize();
+}
+
+bool OrvZELFrame::Show(bool show) {
+    const bool changed = wxFrame::Show(show);
+    // Not before: Windows takes longer to give the keyboard to what isn't shown.
+    if (changed && show)
+        CurrentGrid()->SetFocus();
+    return changed;
 }
 
 wxStatusBar* OrvZELFrame::OnCreateStatusBar(int fields, long style, wxWindowID id, const wxString& name) {

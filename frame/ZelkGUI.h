@@ -84,6 +84,9 @@ public:
     /// Shows no help of tools while an outcome is shown; help of menu entries is shown in any case.
     void DoGiveHelp(const wxString& text, bool show) override;
 
+    /// Also gives the keyboard to the current page.
+    bool Show(bool show = true) override;
+
     /// Creates the status bar.
     wxStatusBar* OnCreateStatusBar(int fields, long style, wxWindowID id, const wxString& name) override;
 

@@ -1,4 +1,5 @@
 // The window at start-up.
+#include "robot/Pump.h"
 #include "tests/frame/FrameTools.h"
 #include "tests/support/Keys.h"
 #include "tests/support/RunWithRobot.h"
@@ -82,6 +83,14 @@ TEST_F(StartUp, WindowIs927By680) {
     EXPECT_EQ(MainFrame->GetSize(), wxSize(927, 680));
     EXPECT_TRUE(MainFrame->HasFlag(wxTAB_TRAVERSAL));
     EXPECT_EQ(MainFrame->GetWindowStyleFlag() & wxDEFAULT_FRAME_STYLE, wxDEFAULT_FRAME_STYLE);
+}
+
+TEST_F(StartUp, FirstPageHasTheKeyboard) {
+    const auto isOnThePage = [] {
+        const wxWindow* focus = wxWindow::FindFocus();
+        return focus && (focus == CurrentGrid() || focus->GetParent() == CurrentGrid());
+    };
+    EXPECT_TRUE(testbench::PumpUntil(isOnThePage));
 }
 
 TEST_F(StartUp, WindowHasTheStyleOfScrollBars) {

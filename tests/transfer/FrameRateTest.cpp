@@ -42,6 +42,7 @@ TEST(FrameRate, DrawsAWindowOnceInAnIntervalAtMost) {
         EXPECT_GT(drawings, 2);
         EXPECT_LE(drawings, (Clock::now() - begin) / interval + 2);
         const int before = drawings;
+        moving->SetValue(0);
         EXPECT_TRUE(PumpUntil([&] { return drawings > before; })) << "what changed last isn't drawn";
         frame->Unbind(wxEVT_PAINT, count);
     }

@@ -2,6 +2,7 @@
 #include "tests/editing/GridHabits.h"
 
 #include "robot/Desk.h"
+#include "tests/editing/CopiedText.h"
 #include "tests/support/RunWithRobot.h"
 
 #include <wx/clipbrd.h>
@@ -24,11 +25,7 @@ protected:
     /// The text that Ctrl+C puts on the clipboard.
     static std::string Copied() {
         PressKey("Ctrl+C");
-        wxTextDataObject data;
-        const wxClipboardLocker lock;
-        if (!lock || !wxTheClipboard->GetData(data))
-            return "(nothing)";
-        return data.GetText().utf8_string();
+        return TextOnClipboard();
     }
 
     /// Joins lines with the toolkit's line end for this system, after the last one too.

@@ -86,10 +86,16 @@ protected:
         return links;
     }
 
+    static std::string Path(const std::string& name, const std::string& bytes) {
+        const auto path = std::filesystem::current_path() / name;
+        WriteFile(path, bytes);
+        return path.string();
+    }
+
     static void ExpectLinksSurvive(const std::string& file, const std::string& model,
                                    const std::vector<std::string>& options) {
         SCOPED_TRACE(file + " to " + model + (options.empty() ? "" : " " + options.back()));
-        OpenByMenu(ExamplesFolder() + "/" + file);
+        OpenByMenu(Path(file, ReadFile(ExamplesFolder() + "/" + file)));
         ValidateByMenu();
         const std::map<int, Texts> before = LinksOfPage();
         ASSERT_EQ(CellText(32, SHAD), "S-031") << "the example has lost its shadows";
@@ -114,12 +120,6 @@ protected:
         PressKey(letter == "Y" ? "Up" : "Down");
         PressKey("Return");
         ASSERT_EQ(CellText(row, SCAN), letter) << row;
-    }
-
-    static std::string Path(const std::string& name, const std::string& bytes) {
-        const auto path = std::filesystem::current_path() / name;
-        WriteFile(path, bytes);
-        return path.string();
     }
 
     static Texts ScansOf(std::initializer_list<int> rows) {

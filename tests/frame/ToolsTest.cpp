@@ -50,7 +50,8 @@ TEST_F(ToolsInUse, LookAfterTheirDialogAsBefore) {
         robot.Settle();
         const wxImage before = Desk().Picture(place);
         const auto looksAsBefore = [&] { return AreSame(Desk().Picture(place), before); };
-        for (const ToolImage tool : {ToolImage::Open, ToolImage::Upload, ToolImage::Port, ToolImage::Target}) {
+        for (const ToolImage tool :
+             {ToolImage::Open, ToolImage::Upload, ToolImage::Port, ToolImage::Target}) {
             SCOPED_TRACE(static_cast<int>(tool));
             const wxPoint spot = SpotOf(tool);
             robot.Move(spot);

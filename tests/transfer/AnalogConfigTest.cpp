@@ -1,5 +1,4 @@
 // Information and configuration of an analog radio, which no command of the window starts.
-#include "tests/support/PseudoTerminal.h"
 #include "tests/transfer/AnalogDriverTest.h"
 #include "transfer/RadioIdentity.h"
 
@@ -37,12 +36,11 @@ void AnswerOpening(RadioPeer& radio, const std::string& block = "A1.23:SN42:150:
 
 TEST_F(AnalogConfig, OfARadioWithoutLinesIsNotSupported) {
     Retarget(Krv650, 1);
-    PseudoTerminal device;
-    device.HoldSlave();
+    RadioPeer peer([](RadioPeer&) {});
     DialogScript script;
     ExpectDriverBox(script, "The requested function is not supported\nby the firware in the Radio");
-    EXPECT_EQ(Transfer(ReadConfigMode, device.SlaveName()), TransferUnsupported);
-    EXPECT_EQ(device.Read(1, std::chrono::milliseconds(100)), "");
+    EXPECT_EQ(Transfer(ReadConfigMode, peer), TransferUnsupported);
+    EXPECT_EQ(peer.Rest(), "");
 }
 
 TEST_F(AnalogConfig, IsReadUntilTheRadioEndsIt) {
@@ -127,10 +125,11 @@ TEST_F(AnalogConfig, CancelledInReadingEndsAtOnce) {
 TEST_F(AnalogConfig, WithoutLinesToWriteIsRefused) {
     Retarget(Krv650, 1);
     m_context.ConfigLines.clear();
-    PseudoTerminal device;
+    RadioPeer peer([](RadioPeer&) {});
     DialogScript script;
     ExpectDriverBox(script, "No data selected for transfer to Radio");
-    EXPECT_EQ(Transfer(WriteConfigMode, device.SlaveName()), TransferNoDataSelected);
+    EXPECT_EQ(Transfer(WriteConfigMode, peer), TransferNoDataSelected);
+    EXPECT_EQ(peer.Rest(), "");
 }
 
 TEST_F(AnalogConfig, ForARadioWithoutLinesEndsBehindTheCommand) {
@@ -229,10 +228,9 @@ TEST_F(AnalogConfig, InformationOfARadioThatDoesNotAnswerIsUnknown) {
 
 TEST_F(AnalogConfig, InformationOfARadioThatIsNotAskedIsUnknown) {
     Retarget(Krv47, 0);
-    PseudoTerminal device;
-    device.HoldSlave();
-    EXPECT_EQ(Transfer(ReadInformationMode, device.SlaveName()), TransferComplete);
-    EXPECT_EQ(device.Read(1, std::chrono::milliseconds(100)), "");
+    RadioPeer peer([](RadioPeer&) {});
+    EXPECT_EQ(Transfer(ReadInformationMode, peer), TransferComplete);
+    EXPECT_EQ(peer.Rest(), "");
     EXPECT_EQ(Text(RadioVersion), "UNKNOWN");
     EXPECT_EQ(m_context.RowCapacity, 122u);
 }

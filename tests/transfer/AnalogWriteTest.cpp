@@ -1,6 +1,5 @@
 // Writing channels to an analog radio, byte by byte.
 #include "robot/Hands.h"
-#include "tests/support/PseudoTerminal.h"
 #include "tests/transfer/AnalogDriverTest.h"
 #include "tests/transfer/CancelSpot.h"
 #include "transfer/AnalogDialogue.h"
@@ -243,12 +242,13 @@ TEST_F(AnalogWrite, MovesTheMainGaugeToTheRow) {
 }
 
 TEST_F(AnalogWrite, ToAPortInUseIsAPortError) {
-    PseudoTerminal device;
-    const wxAsyncSerial other(nullptr, device.SlaveName(), 9600);
+    UseRealTime();
+    const RadioPeer peer([](RadioPeer&) {});
+    const wxAsyncSerial other(nullptr, peer.PortName(), 9600);
     ASSERT_TRUE(other.isOpen());
     DialogScript script;
     ExpectDriverBox(script, "Invalid COM Port (or Port in use)");
-    EXPECT_EQ(Transfer(WriteChannelsMode, device.SlaveName()), TransferPortError);
+    EXPECT_EQ(Transfer(WriteChannelsMode, peer.PortName()), TransferPortError);
 }
 
 TEST_F(AnalogOpening, OfMoreThanTwoHundredAndTwoRowsNamesTheCount) {
@@ -287,15 +287,14 @@ namespace {
 
 /// Time that SendPaced takes, in milliseconds, without that of the line.
 int64_t Pace(TransferContext& context, const wxString& text, bool slow) {
-    PseudoTerminal device;
-    wxAsyncSerial port(nullptr, device.SlaveName(), 9600);
-    context.Port = &port;
+    RadioPeer peer([](RadioPeer&) {});
+    const auto port = CurrentTransferSystem().Open(nullptr, peer.PortName(), 9600);
+    context.Port = port.get();
     const TransferClock::Moment start = context.Clock->Now();
     SendPaced(context, text, slow);
     const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(context.Clock->Now() - start);
     const std::string expected = Text(text) + (slow ? "" : "\r");
-    EXPECT_EQ(device.Read(expected.size()), expected);
-    EXPECT_EQ(device.Read(1, std::chrono::milliseconds(50)), "");
+    EXPECT_EQ(peer.Rest(), expected);
     context.Port = nullptr;
     return took.count();
 }
@@ -307,16 +306,16 @@ TEST_F(AnalogWrite, PausesTwoMillisecondsBehindEachCharacterOfALineAndAddsACarri
 }
 
 TEST_F(AnalogWrite, WaitsFiftyMillisecondsBehindTheOpeningCommand) {
-    PseudoTerminal device;
-    wxAsyncSerial port(nullptr, device.SlaveName(), 9600);
+    RadioPeer peer([](RadioPeer&) {});
+    const auto port = CurrentTransferSystem().Open(nullptr, peer.PortName(), 9600);
     ProgressFrame progress(nullptr, wxID_ANY, "Test");
-    m_context.Port = &port;
+    m_context.Port = port.get();
     m_context.Progress = &progress;
     m_context.RowCapacity = 200;
     const TransferClock::Moment start = Now();
     EXPECT_EQ(WriteChannels(m_context, CurrentGrid()), TransferComplete);
     EXPECT_EQ(Now() - start, std::chrono::milliseconds(50 + 78 * 2));
-    EXPECT_EQ(device.Read(78), EndLine("300"));
+    EXPECT_EQ(peer.Rest(), EndLine("300"));
     m_context.Port = nullptr;
     m_context.Progress = nullptr;
 }

@@ -23,7 +23,7 @@ public:
     virtual void Vanish() = 0;
 };
 
-/// An end of a pseudo-terminal, which only Linux has.
+/// An end of a pseudo-terminal, or of a pair of ports. One source file for each operating system.
 std::unique_ptr<RadioPeerEnd> MakeRealEnd();
 
 } // namespace transfertest

@@ -36,7 +36,8 @@ protected:
     std::vector<std::string> m_arguments;
 };
 
-/// Plays in a process of its own, at a pseudo-terminal, which only Linux has.
+/// Plays at a pseudo-terminal, in a process of its own, or at one of a pair of ports. One source file for
+/// each operating system.
 std::unique_ptr<RadioPlayer> MakeRadioProcess(const std::string& model,
                                               const std::vector<std::string>& options,
                                               const std::string& memories);

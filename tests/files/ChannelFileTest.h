@@ -9,9 +9,9 @@
 #include "robot/Files.h"
 #include "robot/Pump.h"
 #include "robot/TempFolder.h"
-#include "tests/files/ProcessorTime.h"
 #include "tests/support/Keys.h"
 #include "tests/support/Modals.h"
+#include "tests/support/ProcessorTime.h"
 #include "tests/support/ZelkWindowTest.h"
 
 #include <wx/menu.h>

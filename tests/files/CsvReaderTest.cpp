@@ -2,7 +2,7 @@
 
 #include "catalogue/MemoryRow.h"
 #include "tests/files/HangLimit.h"
-#include "tests/files/ProcessorTime.h"
+#include "tests/support/ProcessorTime.h"
 
 #include <gtest/gtest.h>
 

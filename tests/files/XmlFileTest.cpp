@@ -3,7 +3,7 @@
 #include "robot/Files.h"
 #include "robot/TempFolder.h"
 #include "tests/files/HangLimit.h"
-#include "tests/files/ProcessorTime.h"
+#include "tests/support/ProcessorTime.h"
 
 #include <gtest/gtest.h>
 #include <wx/string.h>

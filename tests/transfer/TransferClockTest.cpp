@@ -1,21 +1,16 @@
 // The system's clock of a transfer: its waits end on time and leave the processor to others.
 #include "transfer/TransferClock.h"
 
-#include "tests/support/PseudoTerminal.h"
+#include "tests/support/ProcessorTime.h"
+#include "tests/transfer/RadioPeerEnd.h"
 #include "transfer/PreciseSleep.h"
-#include "transfer/PromptThread.h"
 #include "transfer/wxAsyncSerial.h"
 
 #include <gtest/gtest.h>
 #include <wx/evtloop.h>
 
-#include <sys/resource.h>
-#include <sys/syscall.h>
-#include <unistd.h>
-
-#include <array>
 #include <chrono>
-#include <cstring>
+#include <memory>
 #include <thread>
 
 namespace {
@@ -24,29 +19,19 @@ using std::chrono::milliseconds;
 using std::chrono::seconds;
 using Steady = std::chrono::steady_clock;
 
-/// Processor time of this thread so far.
-std::chrono::microseconds ProcessorTime() {
-    rusage usage{};
-    getrusage(RUSAGE_THREAD, &usage);
-    const auto length = [](const timeval& time) {
-        return seconds(time.tv_sec) + std::chrono::microseconds(time.tv_usec);
-    };
-    return length(usage.ru_utime) + length(usage.ru_stime);
-}
-
 class SystemClockWait : public ::testing::Test {
 protected:
     void SetUp() override { wxAsyncSerial::GetData(); }
 
-    PseudoTerminal m_device;
-    wxAsyncSerial m_port{nullptr, m_device.SlaveName(), 9600};
+    std::unique_ptr<transfertest::RadioPeerEnd> m_device = transfertest::MakeRealEnd();
+    wxAsyncSerial m_port{nullptr, m_device->PortName(), 9600};
 };
 
 TEST_F(SystemClockWait, ForDataEndsWhenThePortsThreadDeliversSome) {
     ASSERT_TRUE(m_port.isOpen());
     std::thread radio([this] {
         std::this_thread::sleep_for(milliseconds(50));
-        m_device.Write("A");
+        m_device->Write("A");
     });
     // Without the wake-up this takes a minute.
     const auto end = Steady::now() + seconds(60);
@@ -69,9 +54,9 @@ TEST_F(SystemClockWait, ForDataEndsAtOnceWhenSomeIsThere) {
 
 TEST_F(SystemClockWait, ForDataGoesOnUntilTheEndOfTheLine) {
     std::thread radio([this] {
-        m_device.Write("T204");
+        m_device->Write("T204");
         std::this_thread::sleep_for(milliseconds(50));
-        m_device.Write("000000D2\r");
+        m_device->Write("000000D2\r");
     });
     EXPECT_TRUE(wxAsyncSerial::WaitForData(Steady::now() + seconds(60), '\r'));
     EXPECT_EQ(wxAsyncSerial::GetData(), "T204000000D2\r");
@@ -79,12 +64,12 @@ TEST_F(SystemClockWait, ForDataGoesOnUntilTheEndOfTheLine) {
 }
 
 TEST_F(SystemClockWait, ForDataEndsAtALineEndWithItsHighestBitSet) {
-    ASSERT_TRUE(m_device.Write("\x8D"));
+    m_device->Write("\x8D");
     EXPECT_TRUE(wxAsyncSerial::WaitForData(Steady::now() + seconds(60), '\r'));
 }
 
 TEST_F(SystemClockWait, ForDataIsNotEndedByOtherText) {
-    ASSERT_TRUE(m_device.Write("T204"));
+    m_device->Write("T204");
     const auto end = Steady::now() + milliseconds(30);
     EXPECT_FALSE(wxAsyncSerial::WaitForData(end, '\r'));
     EXPECT_GE(Steady::now(), end);
@@ -98,9 +83,9 @@ TEST_F(SystemClockWait, ForDataEndsWhenTheTimeIsUp) {
 
 TEST_F(SystemClockWait, WithoutSleepEndsWhenThePortsThreadDeliversTheEndOfALine) {
     std::thread radio([this] {
-        m_device.Write("T204");
+        m_device->Write("T204");
         std::this_thread::sleep_for(milliseconds(50));
-        m_device.Write("000000D2\r");
+        m_device->Write("000000D2\r");
     });
     EXPECT_TRUE(wxAsyncSerial::WatchForData(Steady::now() + seconds(60), '\r'));
     EXPECT_EQ(wxAsyncSerial::GetData(), "T204000000D2\r");
@@ -108,13 +93,13 @@ TEST_F(SystemClockWait, WithoutSleepEndsWhenThePortsThreadDeliversTheEndOfALine)
 }
 
 TEST_F(SystemClockWait, WithoutSleepEndsAtOnceWhenALineIsThere) {
-    ASSERT_TRUE(m_device.Write("\r"));
+    m_device->Write("\r");
     ASSERT_TRUE(wxAsyncSerial::WaitForData(Steady::now() + seconds(60), '\r'));
     EXPECT_TRUE(wxAsyncSerial::WatchForData(Steady::now(), '\r'));
 }
 
 TEST_F(SystemClockWait, WithoutSleepEndsWhenTheTimeIsUp) {
-    ASSERT_TRUE(m_device.Write("T204"));
+    m_device->Write("T204");
     const auto end = Steady::now() + milliseconds(30);
     EXPECT_FALSE(wxAsyncSerial::WatchForData(end, '\r'));
     EXPECT_GE(Steady::now(), end);
@@ -127,12 +112,12 @@ TEST_F(SystemClockWait, ForTextEndsEarlyForTheEventsOfTheWindow) {
 }
 
 TEST_F(SystemClockWait, LeavesTheProcessorToOthers) {
-    const auto before = ProcessorTime();
+    const double before = ProcessorSeconds();
     const auto end = Steady::now() + milliseconds(500);
     while (Steady::now() < end)
         SystemClock().WaitForText(end, 'A');
     // Spinning would have taken all of it.
-    EXPECT_LT(ProcessorTime() - before, milliseconds(100));
+    EXPECT_LT(ProcessorSeconds() - before, 0.1);
 }
 
 /// Counts the passes over the window's events.
@@ -195,35 +180,6 @@ TEST_F(SystemClockEvents, AreHandledAfterAWaitWithoutText) {
     EXPECT_EQ(m_loop.passes, before + 1);
 }
 
-/// What the system holds about the scheduling of this thread.
-std::array<unsigned char, 48> Scheduling() {
-    std::array<unsigned char, 48> attributes{};
-    EXPECT_EQ(syscall(SYS_sched_getattr, 0, attributes.data(), attributes.size(), 0), 0);
-    return attributes;
-}
-
-/// The nanoseconds for which an ordinary thread runs before others get their turn, 0 on systems that don't
-/// tell.
-uint64_t Turn() {
-    uint64_t nanoseconds = 0;
-    std::memcpy(&nanoseconds, Scheduling().data() + 24, sizeof nanoseconds);
-    return nanoseconds;
-}
-
-TEST(PromptThread, AsksForShortTurns) {
-    const uint64_t former = Turn();
-    if (former == 0)
-        GTEST_SKIP() << "this system knows no such turns";
-    const PromptThread prompt;
-    EXPECT_LT(Turn(), former);
-}
-
-TEST(PromptThread, IsAsBeforeAtTheEnd) {
-    const auto former = Scheduling();
-    { const PromptThread prompt; }
-    EXPECT_EQ(Scheduling(), former);
-}
-
 TEST(PreciseSleep, DoesNotEndEarly) {
     for (const int ms : {1, 2, 2, 2, 5, 50}) {
         const auto end = Steady::now() + milliseconds(ms);
@@ -239,10 +195,10 @@ TEST(PreciseSleep, OfThePastEndsAtOnce) {
 }
 
 TEST(PreciseSleep, LeavesTheProcessorToOthers) {
-    const auto before = ProcessorTime();
+    const double before = ProcessorSeconds();
     for (int i = 0; i < 100; ++i)
         SleepPrecisely(Steady::now() + milliseconds(2));
-    EXPECT_LT(ProcessorTime() - before, milliseconds(50)) << "of 200 ms";
+    EXPECT_LT(ProcessorSeconds() - before, 0.15) << "of 0.2 s";
 }
 
 } // namespace

@@ -1,7 +1,8 @@
 // State of the port and the other windows after a transfer.
 #include "transfer/TransferSession.h"
 
-#include "tests/support/PseudoTerminal.h"
+#include "robot/TempFolder.h"
+#include "tests/transfer/RadioPeerEnd.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/TRecordDialogue.h"
 #include "transfer/wxAsyncSerial.h"
@@ -10,6 +11,7 @@
 #include <wx/memconf.h>
 
 #include <chrono>
+#include <memory>
 #include <optional>
 #include <stdexcept>
 
@@ -20,7 +22,6 @@ constexpr const char* EndOfTransfer = "T9030000FC\r";
 class TransferEnd : public ::testing::Test {
 protected:
     TransferEnd() : m_formerConfig(wxConfigBase::Set(new wxMemoryConfig)) {
-        m_device.HoldSlave();
         m_session.emplace(m_context, Means());
     }
     ~TransferEnd() override {
@@ -30,10 +31,10 @@ protected:
 
     TransferMeans Means() {
         return {std::make_unique<ProgressFrame>(nullptr, wxID_ANY, "Ending"),
-                std::make_unique<wxAsyncSerial>(nullptr, m_device.SlaveName(), 9600)};
+                std::make_unique<wxAsyncSerial>(nullptr, m_device->PortName(), 9600)};
     }
 
-    PseudoTerminal m_device;
+    std::unique_ptr<transfertest::RadioPeerEnd> m_device = transfertest::MakeRealEnd();
     TRecordContext m_context;
     std::optional<TransferSession> m_session;
     wxConfigBase* m_formerConfig;
@@ -44,31 +45,15 @@ protected:
 TEST_F(TransferEnd, GivesTheEndRecordToTheRadioBeforeThePortIsClosed) {
     SendEndRecord(m_context);
     m_session.reset();
-    EXPECT_EQ(m_device.ReadUntil('\r', std::chrono::milliseconds(100)), EndOfTransfer);
-}
-
-TEST_F(TransferEnd, OverAStuckLineWaitsALittleForTheEndRecordAndThenDropsIt) {
-    m_device.HoldBack(true);
-    SendEndRecord(m_context);
-    const auto start = std::chrono::steady_clock::now();
-    m_session.reset();
-    const auto took = std::chrono::steady_clock::now() - start;
-    EXPECT_GE(took, std::chrono::milliseconds(200));
-    EXPECT_LT(took, std::chrono::seconds(10));
-    EXPECT_EQ(m_context.Port, nullptr);
-    EXPECT_EQ(m_context.Progress, nullptr);
-    m_device.HoldBack(false);
-    wxAsyncSerial next(nullptr, m_device.SlaveName(), 9600);
-    ASSERT_TRUE(next.isOpen());
-    next.write("next\r");
-    EXPECT_EQ(m_device.ReadUntil('\r'), "next\r");
+    EXPECT_EQ(m_device->ReadLine(std::chrono::seconds(10)), EndOfTransfer);
 }
 
 TEST_F(TransferEnd, ByAnExceptionFreesPortAndWindowsAndClosesTheFiles) {
     m_session.reset();
     wxFrame other(nullptr, wxID_ANY, "Other");
     other.Show();
-    m_context.DebugLogFile.Open("/dev/null", "w");
+    const testbench::TempFolder folder;
+    m_context.DebugLogFile.Open((folder / "log").string(), "w");
     const auto fail = [&] {
         TransferSession session(m_context, Means());
         EXPECT_FALSE(other.IsEnabled());
@@ -79,7 +64,7 @@ TEST_F(TransferEnd, ByAnExceptionFreesPortAndWindowsAndClosesTheFiles) {
     EXPECT_EQ(m_context.Port, nullptr);
     EXPECT_EQ(m_context.Progress, nullptr);
     EXPECT_FALSE(m_context.DebugLogFile.IsOpened());
-    EXPECT_TRUE(wxAsyncSerial(nullptr, m_device.SlaveName(), 9600).isOpen());
+    EXPECT_TRUE(wxAsyncSerial(nullptr, m_device->PortName(), 9600).isOpen());
 }
 
 TEST_F(TransferEnd, WithoutAnOpenPortIsAPortErrorAndRunsNothing) {

@@ -3,8 +3,8 @@
 
 #include "robot/Hands.h"
 #include "tests/support/Keys.h"
-#include "tests/support/PseudoTerminal.h"
 #include "tests/support/RunWithRobot.h"
+#include "tests/transfer/RadioPeerEnd.h"
 #include "tests/transfer/WindowEnd.h"
 #include "transfer/ProgressFrame.h"
 #include "transfer/TransferContext.h"
@@ -88,12 +88,12 @@ TEST_F(WaitForLineTest, EndsWith0WhenALineArrives) {
 }
 
 TEST_F(WaitForLineTest, TakesALineThatComesInPiecesOverARealPort) {
-    PseudoTerminal device;
-    wxAsyncSerial port(nullptr, device.SlaveName(), 9600);
+    const auto device = transfertest::MakeRealEnd();
+    wxAsyncSerial port(nullptr, device->PortName(), 9600);
     ASSERT_TRUE(port.isOpen());
     std::thread radio([&] {
         for (const char* piece : {"T2", "0400", "0000", "D2", "\rT9"}) {
-            device.Write(piece);
+            device->Write(piece);
             std::this_thread::sleep_for(std::chrono::milliseconds(20));
         }
     });
@@ -165,8 +165,8 @@ TEST_F(WaitForLineTest, TimeOutWinsOverALineOfTheSamePass) {
 
 TEST_F(WaitForLineTest, AClickOnCancelEndsItWith10) {
     int result = -1;
-    RunWithRobot([&](Robot& robot) { robot.Click(robot.Ask([&] { return MiddleOf(CancelButton()); })); },
-                 [&] { result = WaitForReturn(20000); });
+    const wxPoint cancel = MiddleOf(CancelButton());
+    RunWithRobot([&](Robot& robot) { robot.Click(cancel); }, [&] { result = WaitForReturn(20000); });
     EXPECT_EQ(result, 10);
     EXPECT_LT(m_context.Elapsed, 15000);
 }

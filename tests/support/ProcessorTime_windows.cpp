@@ -1,4 +1,4 @@
-#include "tests/files/ProcessorTime.h"
+#include "tests/support/ProcessorTime.h"
 
 #include <windows.h>
 

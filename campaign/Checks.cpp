@@ -253,7 +253,8 @@ bool LosesLineToNoise(const Judge& judge) {
     return !judge.Digital() && judge.Happened({FaultKind::Noise}) && !(judge.Only() && judge.Only()->at == 1);
 }
 
-/// A radio has sent an answer twice, or an earlier one again, where a write doesn't pass over it.
+/// A radio has sent an answer twice, or an earlier one again, where a write doesn't pass over it. A digital
+/// one also refuses the empty line that a doubled line end makes.
 bool AnswersOnceTooOften(const Scenario& scenario, const Job& job, const Outcome& faulty) {
     const std::set<std::string> beforeTheStamp = {"hello", "speed", "modes", "version"};
     for (size_t i = 0; i < job.faults.size(); ++i) {
@@ -262,7 +263,9 @@ bool AnswersOnceTooOften(const Scenario& scenario, const Job& job, const Outcome
             !(scenario.radio.IsDigital() && beforeTheStamp.contains(faulty.states[i])))
             return true;
     }
-    return false;
+    return scenario.radio.IsDigital() &&
+           std::any_of(faulty.emptyLines.begin(), faulty.emptyLines.end(),
+                       [&](const std::string& state) { return !beforeTheStamp.contains(state); });
 }
 
 } // namespace

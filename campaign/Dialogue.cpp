@@ -179,15 +179,17 @@ Outcome RunJob(const Scenario& scenario, const Job& job, const World& world, She
     const auto deceivesProgram = [&](const std::string& line) {
         return !spoken.contains(line) && (!digital || FitsItsChecksum(line, spoken));
     };
+    TransferContext analog;
+    TRecordContext record;
+    TransferContext& context = digital ? record : analog;
     RadioEnd radio(time, cable, world.radio, [&](std::string_view note) {
         tell(std::string(note));
         if (note.starts_with("< ") && deceivesRadio(std::string(note.substr(2))))
             outcome.forgedToRadio = true;
+        if (note == "< ")
+            outcome.emptyLines.push_back(StateName(context.Index));
     });
 
-    TransferContext analog;
-    TRecordContext record;
-    TransferContext& context = digital ? record : analog;
     CableClock clock(time, cable);
     context.Clock = &clock;
     outcome.states.resize(job.faults.size());

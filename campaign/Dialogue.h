@@ -32,8 +32,9 @@ struct Outcome {
     std::string lastStatus;               ///< the last text of the progress window
     std::vector<bool> happened;           ///< by fault
     bool spoiltToRadio = false, spoiltToProgram = false;
-    bool forgedToRadio = false;   ///< a changed line looked right to the radio
-    bool forgedToProgram = false; ///< a changed line looked right to the program
+    std::vector<std::string> emptyLines; ///< states in which the radio got a line without characters
+    bool forgedToRadio = false;          ///< a changed line looked right to the radio
+    bool forgedToProgram = false;        ///< a changed line looked right to the program
     int violations = 0;
     std::string complaints;
     int64_t milliseconds = 0; ///< virtual, for the whole transfer

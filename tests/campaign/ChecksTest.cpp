@@ -276,6 +276,27 @@ TEST_F(CampaignChecks, KnowThatASmallLetterWhichFitsTheChecksumDeceivesTheProgra
               std::vector<std::string>{});
 }
 
+TEST_F(CampaignChecks, KnowThatADoubledLineEndBringsAnAnswerTooMany) {
+    // The answer to the empty line is taken for that of the next row, and so on to the last one, which the
+    // radio refuses. The program tells of a failure, but can't know which row it was.
+    Scenario scenario = MakeScenario(40621187310404);
+    Reduce(scenario, {.faults = {{0, 1, 4}}, .rows = 2, .jobs = 1});
+    const Job& job = scenario.jobs[0];
+    ASSERT_EQ(job.faults.size(), 3u);
+    ASSERT_EQ(job.faults[0].kind, FaultKind::Doubled);
+    const auto [clean, faulty] = CleanAndFaulty(scenario, job.faults);
+    EXPECT_EQ(faulty.emptyLines, std::vector<std::string>{"data"});
+    EXPECT_EQ(faulty.status, TransferCommunicationError);
+    EXPECT_TRUE(faulty.world.program.stamp.empty()) << "the next write must restore the radio";
+    Sheet sheet(scenario.target->radio, scenario.target->bandIndex);
+    const World world = FirstWorld(scenario, sheet);
+    EXPECT_EQ(BrokenConditions(scenario, job, world, clean, faulty), std::vector<std::string>{});
+    Outcome without = faulty;
+    without.emptyLines.clear();
+    EXPECT_EQ(BrokenConditions(scenario, job, world, clean, without),
+              std::vector<std::string>{"row 215 counts as sent, but the radio hasn't got it"});
+}
+
 /// Doubles the last digit of "C:01:FF" in a line of the configuration: its sum is the same, half a byte
 /// later.
 Fault DoubledDigitThatFits(const Scenario& scenario) {

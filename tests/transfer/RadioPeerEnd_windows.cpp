@@ -46,7 +46,7 @@ private:
     template <class Length, class Ready>
     std::string Take(milliseconds limit, const Length& length, const Ready& ready) {
         const Simulator::TimePoint end = Simulator::Clock::now() + limit;
-        while (!ready() && Simulator::Clock::now() < end) {
+        while (m_port && !ready() && Simulator::Clock::now() < end) {
             m_port->Wait({.input = true, .room = false}, end, m_requests);
             m_heard += m_port->Read(std::numeric_limits<size_t>::max());
         }

@@ -46,7 +46,9 @@ inline void SetUpPage(int button, const std::function<void(Robot&, wxGenericPage
 
 inline void TypeMargin(Robot& robot, wxTextCtrl* field, const std::string& text) {
     robot.Click(robot.Ask([=] { return MiddleOf(*field); }));
+    EXPECT_TRUE(robot.WaitFor([=] { return field->HasFocus(); })) << text;
     robot.Press("Ctrl+A");
+    EXPECT_TRUE(robot.WaitFor([=] { return field->GetStringSelection() == field->GetValue(); })) << text;
     robot.Type(text);
     EXPECT_TRUE(robot.WaitFor([=] { return field->GetValue() == text; })) << text;
 }
